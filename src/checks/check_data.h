@@ -1,0 +1,18 @@
+#pragma once
+
+#include "checks/error_entries.h"
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// Tests the whole record: site, material, operation and time rules in this order. All rules run;
+/// none changes the record.
+Error_List Check_Data(const ProjectRecord& record);
+
+/// The findings of the last Check_Project: what the error list screen shows.
+Error_List& Current_Errors();
+
+/// Check_Data into Current_Errors. Returns ErrorsFound.
+Flag Check_Project(const ProjectRecord& record);
+
+}  // namespace barvon

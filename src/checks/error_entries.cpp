@@ -1,0 +1,1 @@
+#include "checks/error_entries.h"

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "checks/error_entries.h"
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// Runs the time rules in order and adds what they find.
+void Check_Time(const ProjectRecord& record, Error_List& errors);
+
+}  // namespace barvon

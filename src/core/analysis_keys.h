@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// AnalysisType that KEY4 stands for: 1 for 1 and 2, 2 for 3 and 4, 3 for 5 and 6; 0 when KEY4
+/// chooses none.
+std::int16_t Analysis_Type_Of_KEY4(std::int16_t key4);
+
+/// What showing a project does to its record, in the window and in the console program alike:
+/// AnalysisType follows KEY4, KEY1 becomes 1 for hopper and barge, KEY2 1 becomes 2 and a
+/// negative one 0, SiteDensity is held to its limits, and descent and collapse clears the
+/// contaminant.
+void Refresh_Record(ProjectRecord& record);
+
+/// Empties the contaminant's name and concentrations and the ZID's corners.
+void Reset_WQParams(ProjectRecord& record);
+
+}  // namespace barvon

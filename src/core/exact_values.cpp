@@ -1,0 +1,1 @@
+#include "core/exact_values.h"

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/failure.h"
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// Contaminant in the fluid of a load whose contaminant is given in the sediment (KEY3 4 and 7),
+/// mg/l: the sum over solids of SedimentConcentration x SolidSG x SolidVolFraction. Solids that
+/// are next to nothing are passed over. `result` is left alone when KEY3 is another, there are no
+/// solids, or the sediment holds no more than 0.0001 mg/kg. Subscript when NumSolids is beyond
+/// the record's entries.
+Failure Fluid_Concentration_Plain(const ProjectRecord& record, double& result);
+
+/// The same for separated layers: weighted by LayerSolidFraction and LayerVolume over the total
+/// volume of the layers. Division_By_Zero when that total is 0.
+Failure Fluid_Concentration_Layered(const ProjectRecord& record, double& result);
+
+/// The tracer concentration that the solids carry, without guards: what a save and the model
+/// input store for KEY3 4 and 7.
+Failure Sediment_Tracer_Concentration(const ProjectRecord& record, double& result);
+
+}  // namespace barvon

@@ -1,0 +1,7 @@
+#include "core/model_continuous.h"
+
+namespace barvon {
+
+std::string Continuous_Section(ProjectRecord&) { return {}; }
+
+}  // namespace barvon

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "core/failure.h"
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// Derives what the model input needs and writes the section that DisposalMethod chooses into
+/// `text`, as bytes of the file. What it changes in the record stays: tracer and fluid
+/// concentration, DZ0, NROA0 and the density profile, KEY2, VelocityProfileType, SolidTracerFlag,
+/// the grid indices. A failure (a zero spacing, a count beyond an array) leaves `text` empty and
+/// in the record what had been derived before it. A method without a section gives an empty text.
+Failure Write_Model_Input(ProjectRecord& record, std::string& text);
+
+/// The export of the model input: FileTypeTag becomes "DUE", and the model input is written
+/// beside the path under its name with the extension DUE, whole or not at all. On a failure
+/// nothing is left under that name that this project did not write before.
+/// `written` (may be null) takes the path of the export.
+Failure Save_Model_Extract(const std::string& path, ProjectRecord& record,
+                           std::string* written = nullptr);
+
+}  // namespace barvon

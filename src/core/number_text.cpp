@@ -1,0 +1,200 @@
+#include "core/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "core/failure.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kDefaultDigits = 15;
+constexpr int kLeastPlainExponent = -3;  // 0.0001 is 0.1 x 10^-3
+constexpr int kMostPlainExponent = 15;   // 999999999999999 is 0.999... x 10^15
+
+bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+bool Is_Blank(char c) { return c == ' ' || c == '\t'; }
+
+/// The longest start of the text that is a number, in the form that from_chars reads. The text
+/// holds no blanks in front.
+std::string Leading_Number(std::string_view text) {
+  std::string number;
+  std::size_t at = 0;
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) {
+    if (text[at] == '-') number += '-';
+    ++at;
+  }
+  bool any_digit = false;
+  for (; at < text.size() && Is_Digit(text[at]); ++at, any_digit = true) number += text[at];
+  if (at < text.size() && text[at] == '.') {
+    number += '.';
+    for (++at; at < text.size() && Is_Digit(text[at]); ++at, any_digit = true) number += text[at];
+  }
+  if (!any_digit) return {};
+  if (at < text.size() && std::string_view("eEdD").find(text[at]) != std::string_view::npos) {
+    std::string exponent = "e";
+    std::size_t next = at + 1;
+    if (next < text.size() && (text[next] == '-' || text[next] == '+')) exponent += text[next++];
+    const std::size_t first_digit = next;
+    while (next < text.size() && Is_Digit(text[next])) exponent += text[next++];
+    if (next > first_digit) number += exponent;
+  }
+  return number;
+}
+
+/// Whether a number that no double holds is too small rather than too large. The written power of
+/// ten is shifted by the place of the first digit that counts.
+bool Is_Tiny(const std::string& number) {
+  const auto e = number.find('e');
+  const std::string mantissa = number.substr(0, e);
+  const auto first = mantissa.find_first_of("123456789");
+  if (first == std::string::npos) return true;
+  const auto point = std::min(mantissa.find('.'), mantissa.size());
+  const bool negative_power = e != std::string::npos && number[e + 1] == '-';
+  if (e == std::string::npos) return first > point;
+  // Powers with more digits than an int holds are decided by their sign alone.
+  const std::string power_digits = number.substr(number.find_first_of("0123456789", e));
+  int power = 0;
+  const auto [end, error] =
+      std::from_chars(power_digits.data(), power_digits.data() + power_digits.size(), power);
+  if (error != std::errc()) return negative_power;
+  const long long place = static_cast<long long>(point) - static_cast<long long>(first);
+  return place + (negative_power ? -1LL : 1LL) * power < 0;
+}
+
+/// The value of what Leading_Number gave; nothing beyond a double's range. Too small is 0.
+std::optional<double> Value_Of(const std::string& number) {
+  if (number.empty()) return 0.0;
+  double value = 0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (error == std::errc::result_out_of_range) {
+    // from_chars does not tell too large from too small.
+    if (Is_Tiny(number)) return 0.0;
+    return std::nullopt;
+  }
+  return value;
+}
+
+std::int16_t Whole_To_Int16(double whole) {
+  if (!(whole >= std::numeric_limits<std::int16_t>::min() &&
+        whole <= std::numeric_limits<std::int16_t>::max())) {
+    throw Run_Time_Failure{Failure::Overflow};
+  }
+  return static_cast<std::int16_t>(whole);
+}
+
+std::string Name_Of_Non_Number(double value) {
+  if (std::isnan(value)) return "nan";
+  return value < 0 ? "-inf" : "inf";
+}
+
+}  // namespace
+
+Decimal_Digits To_Decimal(double value, int count) {
+  std::array<char, 40> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                    std::chars_format::scientific, count - 1);
+  const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+  const auto e = text.find('e');
+  Decimal_Digits decimal;
+  decimal.negative = value < 0;
+  for (const char c : text.substr(0, e)) {
+    if (c != '.') decimal.digits += c;
+  }
+  const std::string_view exponent = text.substr(e + 1);
+  std::from_chars(exponent.data() + (exponent.front() == '+' ? 1 : 0),
+                  exponent.data() + exponent.size(), decimal.exponent);
+  ++decimal.exponent;
+  const auto last = decimal.digits.find_last_not_of('0');
+  if (last == std::string::npos) return {false, "0", 1};
+  decimal.digits.erase(last + 1);
+  return decimal;
+}
+
+double Lenient_Number(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return 0;
+  return Value_Of(Leading_Number(text.substr(first))).value_or(0.0);
+}
+
+double Column_Number(std::string_view text) {
+  std::string dense;
+  dense.reserve(text.size());
+  for (const char c : text) {
+    if (!Is_Blank(c)) dense += c;
+  }
+  const auto value = Value_Of(Leading_Number(dense));
+  if (!value) throw Run_Time_Failure{Failure::Overflow};
+  return *value;
+}
+
+std::string Plain_Number(double value) {
+  if (!std::isfinite(value)) return Name_Of_Non_Number(value);
+  const Decimal_Digits decimal = To_Decimal(value, kDefaultDigits);
+  const int length = static_cast<int>(decimal.digits.size());
+  std::string text = decimal.negative ? "-" : "";
+  if (decimal.exponent < kLeastPlainExponent || decimal.exponent > kMostPlainExponent) {
+    text += decimal.digits.front();
+    if (length > 1) text.append(".").append(decimal.digits, 1);
+    const int power = decimal.exponent - 1;
+    text += power < 0 ? "E-" : "E+";
+    if (std::abs(power) < 10) text += '0';
+    return text + std::to_string(std::abs(power));
+  }
+  if (decimal.exponent <= 0) {
+    text += "0.";
+    return text.append(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
+  }
+  if (length <= decimal.exponent) {
+    return text + decimal.digits +
+           std::string(static_cast<std::size_t>(decimal.exponent - length), '0');
+  }
+  const auto point = static_cast<std::size_t>(decimal.exponent);
+  return text + decimal.digits.substr(0, point) + "." + decimal.digits.substr(point);
+}
+
+std::string Plain_Number(int value) { return std::to_string(value); }
+
+std::string Exact_Number(double value) {
+  if (!std::isfinite(value)) return Name_Of_Non_Number(value);
+  std::array<char, 40> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return {buffer.data(), result.ptr};
+}
+
+bool Read_Exact_Number(std::string_view text, double& value) {
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end == text.data() + text.size();
+}
+
+double Widen(float value) {
+  if (!std::isfinite(value)) return value;
+  std::array<char, 40> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  double wide = 0;
+  std::from_chars(buffer.data(), result.ptr, wide);
+  return wide;
+}
+
+double Int(double value) { return std::floor(value); }
+
+double Round_Half_Even(double value) {
+  const double below = std::floor(value);
+  const double rest = value - below;
+  if (rest < 0.5) return below;
+  if (rest > 0.5) return below + 1;
+  return std::fmod(below, 2.0) == 0 ? below : below + 1;
+}
+
+std::int16_t To_Int16(double value) { return Whole_To_Int16(Round_Half_Even(value)); }
+
+std::int16_t Cut_To_Int16(double value) { return Whole_To_Int16(std::trunc(value)); }
+
+}  // namespace barvon

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace barvon {
+
+/// Numbers as text, whatever the desktop's locale: the point is always ".".
+
+/// The decimal digits of a finite value, rounded to `count` significant ones (1 to 17).
+struct Decimal_Digits {
+  bool negative = false;
+  std::string digits;  // without trailing zeros; "0" for zero, with exponent 1
+  int exponent = 0;    // value = 0.digits x 10^exponent
+};
+Decimal_Digits To_Decimal(double value, int count = 15);
+
+/// Lenient parse of a text box: the leading number of the text, 0 if there is none. Blanks and
+/// tabs in front of it are skipped; it ends at the first character that can't continue it. An
+/// exponent may be written with E or D. A number beyond the range of a double reads as 0.
+double Lenient_Number(std::string_view text);
+
+/// The decimal conversion of the project file's columns: as Lenient_Number, but blanks and tabs
+/// inside the number are ignored too. Throws Run_Time_Failure (Overflow) beyond a double's range.
+double Column_Number(std::string_view text);
+
+/// The default text form: 15 significant digits at most; plain from 0.0001 up to below 1E+15,
+/// in exponent form outside ("5E-05", "1.5E+15"). Not-a-number is "nan", infinities "inf", "-inf".
+std::string Plain_Number(double value);
+std::string Plain_Number(int value);
+
+/// The shortest text that gives the same bits back when it is read ("-0" for a negative zero).
+std::string Exact_Number(double value);
+/// Reads what Exact_Number wrote, the whole of it. False when the text is anything else.
+bool Read_Exact_Number(std::string_view text, double& value);
+
+/// A 32-bit value as the 64-bit value of its own shortest text: 0.1f gives 0.1.
+double Widen(float value);
+
+/// The whole part below or at the value (Int of -1.5 is -2).
+double Int(double value);
+
+/// Half to even.
+double Round_Half_Even(double value);
+
+/// To a 16-bit integer, half to even. Throws Run_Time_Failure (Overflow) outside 16 bits and for
+/// what is no number.
+std::int16_t To_Int16(double value);
+/// The same, cutting the fraction instead of rounding.
+std::int16_t Cut_To_Int16(double value);
+
+}  // namespace barvon

@@ -1,0 +1,7 @@
+#include "core/open_file.h"
+
+namespace barvon {
+
+bool Open_File(const std::string&, ProjectRecord&) { return false; }
+
+}  // namespace barvon

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace barvon {
+
+/// Names on disk are matched without regard to the case of their letters, since users' files come
+/// from systems that ignore it.
+
+/// The existing path that the given one stands for: itself when it exists, otherwise one whose
+/// file name, and then whose folders, differ only in case. Nothing when there is none.
+std::optional<std::string> Find_Path(const std::string& path);
+
+/// Find_Path for writing: the existing file's path, otherwise the path as given.
+std::string Path_To_Write(const std::string& path);
+
+/// The regular files of the folder whose names match the pattern ("Tmpfile.*"; '*' stands for any
+/// run of characters) without regard to case, links included, folders not. Sorted.
+std::vector<std::string> Matching_Files(const std::string& folder, std::string_view pattern);
+
+/// File_Exist: true when a search for the name in the current directory finds something.
+bool File_Exist(const std::string& name);
+
+}  // namespace barvon

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace barvon {
+
+/// Sections and keys of BARVON.INI.
+inline constexpr char kSettingsFile[] = "BARVON.INI";
+
+inline constexpr char kRecentFilesSection[] = "Recent Files";
+inline constexpr char kRecentFileKey[] = "RecentFile";  // followed by 1 to 4
+inline constexpr char kNotUsed[] = "Not Used";
+
+inline constexpr char kHelpStatusSection[] = "Help Status";
+inline constexpr char kHelpOnKey[] = "HelpOn";
+
+inline constexpr char kGraphFileSection[] = "Graph File";
+inline constexpr char kGraphFileKey[] = "GraphFile";
+
+inline constexpr char kSimulationTypeSection[] = "Simulation Type";
+inline constexpr char kSimTypeKey[] = "SimType";
+
+/// BARVON.INI in the application directory, under whatever case its name has there.
+std::string Settings_Path();
+
+/// Hands the project to the graphics program: GraphFile in the settings. False when it could not
+/// be written.
+bool Write_Graph_File(const std::string& project_path);
+
+}  // namespace barvon

@@ -1,0 +1,11 @@
+#include "core/workspace_port.h"
+
+namespace barvon {
+
+Workspace_Port& Port() {
+  static Workspace_Port port;
+  return port;
+}
+void Reset_Port() {}
+
+}  // namespace barvon

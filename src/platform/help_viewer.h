@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace barvon {
+
+/// The commands of the platform's help viewer, by their numbers.
+enum class Help_Command { Context = 1, Quit = 2, Index = 3, Finder = 11, PartialKey = 261 };
+
+struct Help_Request {
+  Help_Command command = Help_Command::Index;
+  int topic = 0;    // of Context
+  std::string key;  // of PartialKey
+};
+
+void Show_Help(const Help_Request& request);
+
+using Help_Presenter = std::function<void(const Help_Request&)>;
+Help_Presenter Set_Help_Presenter(Help_Presenter presenter);
+
+}  // namespace barvon

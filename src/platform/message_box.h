@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace barvon {
+
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Icon { None, Critical, Question, Warning, Information };
+enum class Answer { Ok, Cancel, Yes, No };
+
+/// The title of every box that is not told another.
+inline constexpr char kMessageTitle[] = "BARVON";
+
+/// One message box. The text is UTF-8 and is shown as plain text.
+struct Message {
+  std::string text;
+  std::string title = kMessageTitle;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+};
+
+/// What shows a message and brings the user's answer. Closing the box without a choice counts as
+/// Cancel where there is a Cancel button, as No where there is only No, as Ok otherwise.
+using Message_Presenter = std::function<Answer(const Message&)>;
+
+/// Shows the message and waits for the answer. Without a presenter nothing is shown and the
+/// answer is the one of a box that is closed without a choice.
+Answer Show_Message(const Message& message);
+
+/// Puts another presenter in place and returns the one that was there.
+Message_Presenter Set_Message_Presenter(Message_Presenter presenter);
+
+/// The answer of a box with these buttons that is closed without a choice.
+Answer Answer_On_Close(Buttons buttons);
+
+}  // namespace barvon

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+namespace barvon {
+
+/// A settings file in profile format: "[Section]" lines, "Key=Value" lines, comments from ";".
+/// Section and key names are matched without regard to case. Texts are UTF-8 in memory.
+
+inline constexpr int kProfileBuffer = 255;
+
+/// The value of a key, cut to 255 bytes; `fallback` when the file, section or key is missing.
+/// Blanks around the value and one pair of quotes around it are dropped.
+std::string Read_Profile_String(const std::string& path, const std::string& section,
+                                const std::string& key, const std::string& fallback);
+
+/// Sets one key. A missing file, section or key is made; every other line keeps its text and its
+/// place. The file is replaced whole or left as it was; false when it could not be written.
+bool Write_Profile_String(const std::string& path, const std::string& section,
+                          const std::string& key, const std::string& value);
+
+}  // namespace barvon

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace barvon {
+
+/// Writes a file so that its name holds the old content or the new, never a part: the bytes go to
+/// a new file of its own name beside the target (beside what a symbolic link leads to), every
+/// write, flush, sync and close is checked, and the new file is renamed over the old.
+///
+/// Errors are errno values; 0 is success. Nothing is shown to the user.
+class Safe_File {
+ public:
+  /// Nothing is opened before Open.
+  Safe_File() = default;
+  /// A file that was not committed is removed; the target stays as it was.
+  ~Safe_File();
+  Safe_File(const Safe_File&) = delete;
+  Safe_File& operator=(const Safe_File&) = delete;
+
+  /// Opens the new file beside `path`. Fails where `path` could not be written in place either.
+  int Open(const std::string& path);
+  /// Adds bytes. The first error is kept and given back by every later call.
+  int Write(std::string_view bytes);
+  /// Puts the new file in the target's place, with the target's permissions.
+  int Commit();
+
+ private:
+  int Fail(int error);
+  void Discard();
+
+  int descriptor_ = -1;
+  int error_ = 0;
+  std::string target_;
+  std::string working_;
+  std::string note_;
+  std::string pending_;
+};
+
+/// Replaces the whole content of a file. 0 or an errno value.
+int Write_Whole_File(const std::string& path, std::string_view bytes);
+
+/// Reads a whole file. 0 or an errno value.
+int Read_Whole_File(const std::string& path, std::string& bytes);
+
+/// Makes a new file that no link can lead elsewhere: what stands under the name is removed first,
+/// and the file is created exclusively. 0 or an errno value; nothing stays after a failure.
+int Write_Exclusive_File(const std::string& path, std::string_view bytes);
+
+/// Where a save notes the name of its working file while it lasts, so that the next start can
+/// remove what a kill left behind. Empty: no notes are taken.
+void Set_Save_Notes_Folder(std::string folder);
+
+/// Removes working files whose writer no longer lives: those noted in the notes folder and those
+/// that stand in the given folders. Returns the removed paths.
+std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& folders);
+
+}  // namespace barvon

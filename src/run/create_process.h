@@ -1,0 +1,35 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "platform/process_control.h"
+
+namespace barvon {
+
+/// What became of one external program.
+struct Process_Outcome {
+  bool started = false;
+  std::string program;  // full path of what was started, or what was looked for
+  std::string problem;  // why it was not started
+  Process_End end;
+  std::chrono::milliseconds duration{0};
+  std::string last_output;  // its last lines
+  std::string output_file;  // where its output is kept; empty when it printed nothing
+};
+
+/// Starts a command line by the rules of Find_Solver_Command, in the application directory, and
+/// waits for its end with the interface alive and the processor next to idle. Only one program
+/// runs at a time; see Run_Is_Under_Way.
+Process_Outcome Create_Process_Code(const std::string& command_line);
+
+/// True from the start of a program until its wait is over.
+bool Run_Is_Under_Way();
+/// Ends the program that runs and everything that it started, first politely, then by force.
+/// Does nothing when none runs.
+void Stop_Run();
+/// The same before the program ends: does not return before they are gone.
+void Stop_Run_And_Wait();
+
+}  // namespace barvon
