@@ -5,12 +5,16 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
+#include <filesystem>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/event_pump.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {
@@ -39,5 +43,69 @@ inline bool Is_Alive(pid_t pid) {
   return name_end != std::string::npos && stat.at(name_end + 2) != 'Z' &&
          stat.at(name_end + 2) != 'X';
 }
+
+/// Another value of an environment variable while it lives.
+class Changed_Variable {
+ public:
+  Changed_Variable(std::string name, const std::string& value) : name_(std::move(name)) {
+    if (const char* former = std::getenv(name_.c_str())) former_ = former;
+    ::setenv(name_.c_str(), value.c_str(), 1);
+  }
+  ~Changed_Variable() { ::setenv(name_.c_str(), former_.c_str(), 1); }
+  Changed_Variable(const Changed_Variable&) = delete;
+  Changed_Variable& operator=(const Changed_Variable&) = delete;
+
+ private:
+  std::string name_, former_;
+};
+
+/// An application directory with a stand-in solver in it, and a workspace that listens.
+class Solver_Bench {
+ public:
+  Solver_Bench() : former_folder_(Application_Folder()) {
+    std::filesystem::create_directory(app());
+    std::filesystem::current_path(app());
+    Set_Application_Folder(app());
+    former_pump_ = Set_Event_Pump(nullptr);
+    Reset_Port();
+    Port().show_note = [this](const Status_Note& note) { notes.push_back(note); };
+    Port().run_state = [this](bool running, const std::string& program) {
+      states.push_back((running ? "on " : "off ") + program);
+    };
+  }
+  ~Solver_Bench() {
+    Reset_Port();
+    Set_Event_Pump(std::move(former_pump_));
+    Set_Application_Folder(former_folder_);
+  }
+  Solver_Bench(const Solver_Bench&) = delete;
+  Solver_Bench& operator=(const Solver_Bench&) = delete;
+
+  std::string app() const { return folder / "app"; }
+  std::string operator/(const std::string& name) const { return app() + "/" + name; }
+
+  /// Puts the stand-in there under a name, with what it is to do.
+  void Install(const std::string& name, const std::string& steps) {
+    std::filesystem::copy_file(BARVON_TEST_CHILD, *this / name);
+    Write_Text(*this / "test_child.steps", steps);
+  }
+  /// Calls back each time the wait for a program lets the interface live.
+  void While_Waiting(std::function<void()> event) {
+    Set_Event_Pump([this, event](std::chrono::milliseconds longest) {
+      ++pumped;
+      event();
+      std::this_thread::sleep_for(longest);
+    });
+  }
+
+  Scratch_Folder folder;
+  std::vector<Status_Note> notes;
+  std::vector<std::string> states;
+  int pumped = 0;
+
+ private:
+  std::string former_folder_;
+  Event_Pump former_pump_;
+};
 
 }  // namespace barvon::testing
