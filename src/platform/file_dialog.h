@@ -17,6 +17,9 @@ struct File_Request {
   std::string title;
   std::vector<File_Filter> filters;
   std::string name;  // offered name or folder, may be empty
+  /// The path that a chosen one stands for, when a rule adds something to it: the save dialog
+  /// asks before that one is replaced. May be empty.
+  std::function<std::string(const std::string&)> complete = {};
 };
 
 /// What shows the dialogs. Each returns the full path that was chosen, nothing on Cancel.
