@@ -11,8 +11,9 @@
 namespace barvon {
 namespace {
 
-constexpr int kGap = 10;     // between groups
-constexpr int kLineGap = 6;  // between the lines of a group
+constexpr int kGap = 12;     // between groups
+constexpr int kLineGap = 8;  // between the lines of a group
+constexpr int kButtonHeight = 30;
 constexpr QSize kPicture{28, 28};
 
 QGroupBox* Frame(QGroupBox* frame, const char* name, const char* caption) {
@@ -155,6 +156,7 @@ void Build_Main_Menu_Board(Main_Controls& controls) {
   board->addLayout(state);
   board->addWidget(Analysis_Types(controls));
   board->addWidget(Disposal_Methods(controls));
+  board->addStretch();
   board->addLayout(Dilution_Line(controls));
   board->addStretch();
 }
@@ -207,16 +209,20 @@ QLayout* Command_Row(Main_Controls& controls) {
       "&Save Data File",      "Data &Wizard"};
   static constexpr int kPlaces[2][5] = {{0, 8, 1, 7, 2}, {4, 9, 3, 6, 5}};
   auto* grid = new QGridLayout;
-  grid->setSpacing(kLineGap);
+  grid->setSpacing(6);
   for (int row = 0; row < 2; ++row) {
     for (int column = 0; column < 5; ++column) {
       const int index = kPlaces[row][column];
       QPushButton* button = controls.SSPanel3(index);
       button->setText(QLatin1String(kCaptions[index]));
       button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+      button->setMinimumHeight(kButtonHeight);
       grid->addWidget(button, row, column);
     }
   }
+  // In proportion to the longer caption of each column.
+  constexpr int kShares[5] = {142, 112, 124, 102, 112};
+  for (int column = 0; column < 5; ++column) grid->setColumnStretch(column, kShares[column]);
   // Help tells the topic of the control that has the focus, so it must not take it.
   controls.SSPanel3(6)->setFocusPolicy(Qt::TabFocus);
   // These letters are the menu bar's.

@@ -28,6 +28,8 @@ void Not_In_This_Version(const char* what) {
   Port().show_note({std::string(what) + " is not part of this version.", ""});
 }
 
+void Graph() { Not_In_This_Version("The graphics command"); }
+
 void View_Graphics() {
   if (!File_Exist(kGraphicsProgram)) {
     Show_Message({"File: KV_graph.exe Not Found.", kMessageTitle, Buttons::Ok, Icon::Critical});
@@ -159,7 +161,7 @@ void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
     case 6:
       return SSPanel3_Click(controls, record, 1);
     case 8:
-      return View_Graphics();
+      return Graph();
     case 9:
       return Edit_Click(controls, record, 8);
     case 11:
@@ -185,7 +187,7 @@ void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
   Connect_Array(c, "mnuRecentFile", [&record](int i) { mnuRecentFile_Click(i, record); });
   Connect_Array(c, "mnuEditItem", [&c, &record](int i) { Edit_Click(c, record, i); });
   Connect_Array(c, "mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); });
-  Connect_Array(c, "mnuGraph", [](int) { View_Graphics(); });
+  Connect_Array(c, "mnuGraph", [](int) { Graph(); });
   Connect_Array(c, "mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); });
   Connect_Array(c, "mnuHelpItem", Help_Click);
   Connect_Array(c, "Toolbar1", [&c, &record](int i) { Toolbar_Click(c, record, i); });

@@ -83,12 +83,10 @@ void Build_Toolbar(Main_Controls& controls) {
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setIconSize(QSize(22, 22));
   for (const Tool& tool : kTools) {
-    QAction* action = bar->addSeparator();
-    if (tool.picture != nullptr) {
-      action->setSeparator(false);
+    const bool separator = tool.picture == nullptr;
+    QAction* action = separator ? bar->addSeparator() : bar->addAction(QLatin1String(tool.tip));
+    if (!separator) {
       action->setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(tool.picture))));
-      action->setText(QLatin1String(tool.tip));
-      action->setToolTip(QLatin1String(tool.tip));
     }
     Named(controls, action, Indexed("Toolbar1", tool.index));
   }
