@@ -1,7 +1,54 @@
 #include "checks/material_rules.h"
 
-namespace barvon {
+#include <algorithm>
+#include <string>
 
-void Check_Material(const ProjectRecord&, Error_List&) {}
+namespace barvon {
+namespace {
+
+constexpr int kHopperTopic = 2490;
+constexpr int kBargeTopic = 2550;
+constexpr char kHopperTable[] = "frmMatHopper!F1Book1";
+constexpr char kBargeTable[] = "frmMatBarge!F1Book1";
+
+std::string Zero_Fraction_Message(const ProjectRecord& record, int solid) {
+  return "Volumetric Fraction for " + record.SolidNames[solid] + " is Zero";
+}
+
+/// A continuous discharge has no material screen to lead to: its finding has no reference.
+void Check_Mixed_Load(const ProjectRecord& record, Error_List& errors) {
+  if (record.SeparationFlag != 0) return;
+  const int solids = std::min<int>(record.NumSolids, kSolidEntries);
+  for (int i = 1; i <= solids; ++i) {
+    if (record.SolidVolFraction[i] != 0) continue;
+    if (record.DisposalMethod == 1) {
+      errors.Add(Zero_Fraction_Message(record, i), kHopperTable, kHopperTopic);
+    } else if (record.DisposalMethod == 3) {
+      errors.Add(Zero_Fraction_Message(record, i), kBargeTable, kBargeTopic);
+    } else {
+      errors.Add(Zero_Fraction_Message(record, i), "");
+    }
+  }
+}
+
+void Check_Separated_Load(const ProjectRecord& record, Error_List& errors) {
+  if (record.LAYERS < 2 || record.SeparationFlag != 1) return;
+  const int solids = std::min<int>(record.NumSolids, kMaxSolids);
+  const int layers = std::min<int>(record.LAYERS, kMaxLayers);
+  for (int i = 1; i <= solids; ++i) {
+    for (int j = 1; j <= layers; ++j) {
+      if (record.LayerSolidFraction[i][j] == 0) {
+        errors.Add(Zero_Fraction_Message(record, i), kBargeTable, kBargeTopic);
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void Check_Material(const ProjectRecord& record, Error_List& errors) {
+  Check_Mixed_Load(record, errors);
+  Check_Separated_Load(record, errors);
+}
 
 }  // namespace barvon

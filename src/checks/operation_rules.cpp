@@ -1,7 +1,51 @@
 #include "checks/operation_rules.h"
 
 namespace barvon {
+namespace {
 
-void Check_Operation(const ProjectRecord&, Error_List&) {}
+constexpr int kOperationTopic = 3000;
+constexpr char kBadBinLength[] = "Inapproprite Length of Vessel Bin";
+constexpr char kBadBinWidth[] = "Inapproprite Width of Vessel Bin";
+
+void Check_Vessel_Location(const ProjectRecord& record, Error_List& errors) {
+  if (record.XBARGE < 0 || record.ZBARGE < 0) {
+    errors.Add("Location of Vessel Outside of Grid", "frmOperation!Text1(0)");
+  }
+}
+
+void Check_Hopper_Bin_Length(const ProjectRecord& record, Error_List& errors) {
+  if (record.DisposalMethod == 1 && record.BINL <= 0) {
+    errors.Add(kBadBinLength, "frmOperation!Text1(2)");
+  }
+}
+
+void Check_Hopper_Bin_Width(const ProjectRecord& record, Error_List& errors) {
+  if (record.DisposalMethod == 1 && record.BINW <= 0) {
+    errors.Add(kBadBinWidth, "frmOperation!Text1(3)");
+  }
+}
+
+void Check_Barge_Length(const ProjectRecord& record, Error_List& errors) {
+  if (record.DisposalMethod == 3 && record.BargeLength <= 0) {
+    errors.Add(kBadBinLength, "frmOperation!Text1(2)");
+  }
+}
+
+/// The only one of these rules with a help topic.
+void Check_Barge_Width(const ProjectRecord& record, Error_List& errors) {
+  if (record.DisposalMethod == 3 && record.BargeWidth <= 0) {
+    errors.Add(kBadBinWidth, "frmOperation!Text1(3)", kOperationTopic);
+  }
+}
+
+}  // namespace
+
+void Check_Operation(const ProjectRecord& record, Error_List& errors) {
+  Check_Vessel_Location(record, errors);
+  Check_Hopper_Bin_Length(record, errors);
+  Check_Hopper_Bin_Width(record, errors);
+  Check_Barge_Length(record, errors);
+  Check_Barge_Width(record, errors);
+}
 
 }  // namespace barvon

@@ -1,7 +1,171 @@
 #include "checks/site_rules.h"
 
-namespace barvon {
+#include <algorithm>
+#include <string>
 
-void Check_Site(const ProjectRecord&, Error_List&) {}
+#include "core/format_pattern.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kLeastGridPoints = 8;
+constexpr double kLeastRoughness = 0.0005;  // ft
+constexpr double kMostRoughness = 0.05;     // ft
+
+constexpr char kSiteOutsideGrid[] = "Location of Disposal Site is Outside of the Site Grid";
+constexpr char kZoneOutsideGrid[] = "Location of the Mixing Zone is Outside of the Site Grid";
+constexpr char kVesselOutsideSite[] = "Dumping Point is Outside of Specified Mixing Zone";
+
+/// The evaluations that speak of a disposal site; the others speak of a mixing zone.
+bool Speaks_Of_Disposal_Site(const ProjectRecord& record) {
+  return record.KEY3 >= 2 && record.KEY3 <= 4;
+}
+
+const char* Site_Message(const ProjectRecord& record) {
+  return Speaks_Of_Disposal_Site(record) ? kSiteOutsideGrid : kZoneOutsideGrid;
+}
+
+// The extents of the grid are points x spacing here, one spacing more than the grid is long.
+double X_Extent(const ProjectRecord& record) { return record.MMAX0 * record.DX0; }
+double Z_Extent(const ProjectRecord& record) { return record.NMAX0 * record.DZ0; }
+
+bool Outside(double corner, double extent) { return corner < 0 || corner > extent; }
+
+bool Grid_Count_Outside_Bounds(int points) {
+  return points < kLeastGridPoints || points > kMaxGridPoints;
+}
+
+std::string Grid_Count_Message(int points) {
+  return "Number of Grid Pts (" + Format_Number(points, "###") + ") Outside Bounds";
+}
+
+void Check_Z_Count(const ProjectRecord& record, Error_List& errors) {
+  if (Grid_Count_Outside_Bounds(record.NMAX0)) {
+    errors.Add(Grid_Count_Message(record.NMAX0), "frmDescription!Text1(0)");
+  }
+}
+
+void Check_X_Count(const ProjectRecord& record, Error_List& errors) {
+  if (Grid_Count_Outside_Bounds(record.MMAX0)) {
+    errors.Add(Grid_Count_Message(record.MMAX0), "frmDescription!Text1(1)");
+  }
+}
+
+void Check_Z_Spacing(const ProjectRecord& record, Error_List& errors) {
+  if (record.DZ0 < 0) errors.Add("Z Grid Spacing Less Than Zero", "frmDescription!Text1(3)");
+}
+
+void Check_X_Spacing(const ProjectRecord& record, Error_List& errors) {
+  if (record.DX0 < 0) errors.Add("X Grid Spacing Less Than Zero", "frmDescription!Text1(4)");
+}
+
+void Check_Roughness(const ProjectRecord& record, Error_List& errors) {
+  if (record.RHDA0 < kLeastRoughness || record.RHDA0 > kMostRoughness) {
+    errors.Add("Roughness Height Outside Bounds", "frmDescription!Text1(5)");
+  }
+}
+
+void Check_Depth(const ProjectRecord& record, Error_List& errors) {
+  if (record.DEPC0 <= 0 && record.ConstantDepthFlag == 1) {
+    errors.Add("Depth of Receiving Water Not Supplied", "frmDescription!F1Book1");
+  }
+}
+
+void Check_Densities(const ProjectRecord& record, Error_List& errors) {
+  const int points = std::min<int>(record.NROA0, kMaxDensityPoints);
+  for (int i = 1; i <= points; ++i) {
+    if (record.Densities[i] == 0) {
+      errors.Add(
+          "Density Value Not Supplied at Depth = " + Format_Number(record.DensityDepths[i], "####"),
+          "frmDescription!F1Book1");
+    }
+  }
+}
+
+// Top and left are each held against the other axis' extent, bottom and right against their own:
+// a top edge is measured along Z. Users' projects rely on it.
+void Check_Site_Top(const ProjectRecord& record, Error_List& errors) {
+  if (Outside(record.SiteTop, Z_Extent(record))) {
+    errors.Add(Site_Message(record), "frmMdlkyn!Text(0)");
+  }
+}
+
+void Check_Site_Left(const ProjectRecord& record, Error_List& errors) {
+  if (Outside(record.SiteLeft, X_Extent(record))) {
+    errors.Add(Site_Message(record), "frmMdlkyn!Text(1)");
+  }
+}
+
+void Check_Site_Bottom(const ProjectRecord& record, Error_List& errors) {
+  if (Outside(record.SiteBottom, X_Extent(record))) {
+    errors.Add(Site_Message(record), "frmMdlkyn!Text(2)");
+  }
+}
+
+void Check_Site_Right(const ProjectRecord& record, Error_List& errors) {
+  if (Outside(record.SiteRight, Z_Extent(record))) {
+    errors.Add(Site_Message(record), "frmMdlkyn!Text(3)");
+  }
+}
+
+void Check_Site_Given(const ProjectRecord& record, Error_List& errors) {
+  if (Speaks_Of_Disposal_Site(record) && record.SiteTop == 0 && record.SiteLeft == 0 &&
+      record.SiteBottom == 0 && record.SiteRight == 0) {
+    errors.Add("Disposal Site Is Not Specified", "frmMdlkyn!Text(0)");
+  }
+}
+
+/// Only a rectangle that is turned round both ways is found.
+void Check_Site_Corners(const ProjectRecord& record, Error_List& errors) {
+  if (record.KEY3 >= 2 && record.SiteTop > record.SiteBottom &&
+      record.SiteLeft > record.SiteRight) {
+    errors.Add(Speaks_Of_Disposal_Site(record) ? "Lower Left Point of Disposal Site is Invalid"
+                                               : "Lower Left Point of Mixing Zone is Invalid",
+               "frmMdlkyn!Text(2)");
+  }
+}
+
+void Check_Vessel_Across_Site(const ProjectRecord& record, Error_List& errors) {
+  if (Speaks_Of_Disposal_Site(record) &&
+      (record.ZBARGE < record.SiteLeft || record.ZBARGE > record.SiteRight)) {
+    errors.Add(kVesselOutsideSite, "frmMdlkyn!Text(0)");
+  }
+}
+
+void Check_Vessel_Along_Site(const ProjectRecord& record, Error_List& errors) {
+  if (Speaks_Of_Disposal_Site(record) &&
+      (record.XBARGE < record.SiteTop || record.XBARGE > record.SiteBottom)) {
+    errors.Add(kVesselOutsideSite, "frmMdlkyn!Text(0)");
+  }
+}
+
+/// The model input would add the missing point all the same.
+void Check_Profile_Reaches_Bottom(const ProjectRecord& record, Error_List& errors) {
+  const int last = std::clamp<int>(record.NROA0, 0, kMaxDensityPoints);
+  if (record.DensityDepths[last] < record.DEPC0) {
+    errors.Add("Receiving Water Densities Unacceptable.", "frmDescription!Text1(4)");
+  }
+}
+
+}  // namespace
+
+void Check_Site(const ProjectRecord& record, Error_List& errors) {
+  Check_Z_Count(record, errors);
+  Check_X_Count(record, errors);
+  Check_Z_Spacing(record, errors);
+  Check_X_Spacing(record, errors);
+  Check_Roughness(record, errors);
+  Check_Depth(record, errors);
+  Check_Densities(record, errors);
+  Check_Site_Top(record, errors);
+  Check_Site_Left(record, errors);
+  Check_Site_Bottom(record, errors);
+  Check_Site_Right(record, errors);
+  Check_Site_Given(record, errors);
+  Check_Site_Corners(record, errors);
+  Check_Vessel_Across_Site(record, errors);
+  Check_Vessel_Along_Site(record, errors);
+  Check_Profile_Reaches_Bottom(record, errors);
+}
 
 }  // namespace barvon

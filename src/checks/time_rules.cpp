@@ -1,7 +1,54 @@
 #include "checks/time_rules.h"
 
 namespace barvon {
+namespace {
 
-void Check_Time(const ProjectRecord&, Error_List&) {}
+constexpr int kTimeTopic = 3000;
+constexpr double kLongestOcean = 144000;  // s, analysis type 2
+constexpr double kLongestInland = 36000;  // s, analysis type 3
+constexpr char kTooLong[] = "Simulation Duration Is Too Large.  Please Reduce.";
+
+void Check_Duration_Given(const ProjectRecord& record, Error_List& errors) {
+  if (record.SimulationDuration <= 0) {
+    errors.Add("Please Specify the Duration of the Simulation.", "frmSimulation!Text1(0)",
+               kTimeTopic);
+  }
+}
+
+void Check_Time_Step_Given(const ProjectRecord& record, Error_List& errors) {
+  if (record.LongTermTimeStep <= 0) {
+    errors.Add("Please Specify Long Term Time Step for Diffusion.", "frmSimulation!Text1(1)",
+               kTimeTopic);
+  }
+}
+
+void Check_Ocean_Duration(const ProjectRecord& record, Error_List& errors) {
+  if (record.SimulationDuration > kLongestOcean && record.AnalysisType == 2) {
+    errors.Add(kTooLong, "frmSimulation!Text1(0)", kTimeTopic);
+  }
+}
+
+void Check_Inland_Duration(const ProjectRecord& record, Error_List& errors) {
+  if (record.SimulationDuration > kLongestInland && record.AnalysisType == 3) {
+    errors.Add(kTooLong, "frmSimulation!Text1(0)", kTimeTopic);
+  }
+}
+
+void Check_Time_Step_Fits(const ProjectRecord& record, Error_List& errors) {
+  if (record.SimulationDuration / 2 <= record.LongTermTimeStep) {
+    errors.Add("Simulation Time Step Is Too Large.  Please Reduce.", "frmSimulation!Text1(1)",
+               kTimeTopic);
+  }
+}
+
+}  // namespace
+
+void Check_Time(const ProjectRecord& record, Error_List& errors) {
+  Check_Duration_Given(record, errors);
+  Check_Time_Step_Given(record, errors);
+  Check_Ocean_Duration(record, errors);
+  Check_Inland_Duration(record, errors);
+  Check_Time_Step_Fits(record, errors);
+}
 
 }  // namespace barvon

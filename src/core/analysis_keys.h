@@ -11,10 +11,13 @@ namespace barvon {
 std::int16_t Analysis_Type_Of_KEY4(std::int16_t key4);
 
 /// What showing a project does to its record, in the window and in the console program alike:
-/// AnalysisType follows KEY4, KEY1 becomes 1 for hopper and barge, KEY2 1 becomes 2 and a
-/// negative one 0, SiteDensity is held to its limits, and descent and collapse clears the
-/// contaminant.
+/// AnalysisType and FileKind follow a KEY4 that chooses a type, KEY1 becomes 1 and
+/// PreviousDisposalMethod the method for hopper and barge, SiteDensity is held to its limits,
+/// KEY2 1 becomes 2 and a negative one 0, and descent and collapse clears the contaminant.
 void Refresh_Record(ProjectRecord& record);
+
+/// Refresh_Record, then the workspace shows the record.
+void Show_Project(ProjectRecord& record);
 
 /// Empties the contaminant's name and concentrations and the ZID's corners.
 void Reset_WQParams(ProjectRecord& record);

@@ -10,18 +10,22 @@ namespace barvon {
 inline constexpr int kDilutionKind = 1;
 inline constexpr int kProjectKind = 2;
 
-/// Shows the open dialog: dilution files for kind 1, projects and outputs otherwise. On a chosen
-/// file sets ProjectFileName, BaseFileName and the caption, opens the file once, and returns
-/// true when it was opened. Cancel leaves everything and returns nothing. A failed open leaves
-/// names and caption as they were, unless the user agreed to start afresh.
-enum class Open_Outcome { Cancelled, Failed, Opened };
-Open_Outcome File_Open_Dialog(double kind, ProjectRecord& record);
+/// Shows the open dialog: dilution files for kind 1, projects and outputs otherwise. Nothing on
+/// Cancel.
+std::optional<std::string> Ask_File_To_Open(double kind);
 
-/// Shows the save dialog with `name` offered. A name whose fourth character from its end is not a
-/// dot gets ".DUD" (kind 1) or ".DUI" added. Nothing on Cancel.
+/// Shows the save dialog with `name` offered; a project is never offered a dilution file's name.
+/// A name whose fourth character from its end is not a dot gets ".DUD" (kind 1) or ".DUI" added.
+/// Nothing on Cancel.
 std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind);
 
-/// The extension rule of the save dialog by itself.
+/// The extension rule of the save dialog by itself. Only the file's own name counts, not the
+/// folder that it is in.
 std::string With_Default_Extension(const std::string& name, int kind);
+
+/// The path that a save of the project goes to: the project's own, or what the user chooses in
+/// the save dialog when it has none or shares the name of a dilution file, which a project must
+/// not replace. Nothing on Cancel.
+std::optional<std::string> Ask_Name_To_Save(const ProjectRecord& record);
 
 }  // namespace barvon

@@ -23,4 +23,11 @@ void Register_File_Kind(const std::string& extension, File_Kind kind);
 /// Null when nobody registered the extension.
 const File_Kind* Find_File_Kind(const std::string& extension);
 
+inline constexpr char kProjectLetters[] = "DUI";
+inline constexpr char kDilutionLetters[] = "DUD";
+
+/// What a file is told by when it is opened: the last three characters of its path in upper case,
+/// whatever stands before them.
+std::string Last_Three_Letters(std::string_view path);
+
 }  // namespace barvon

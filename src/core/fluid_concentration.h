@@ -13,11 +13,13 @@ namespace barvon {
 Failure Fluid_Concentration_Plain(const ProjectRecord& record, double& result);
 
 /// The same for separated layers: weighted by LayerSolidFraction and LayerVolume over the total
-/// volume of the layers. Division_By_Zero when that total is 0.
+/// volume of the layers. Layers that hold no solids at all give 0, whatever their total;
+/// otherwise Division_By_Zero when that total is 0. Subscript when NumSolids or LAYERS is beyond
+/// the record's entries. `result` is left alone on a failure.
 Failure Fluid_Concentration_Layered(const ProjectRecord& record, double& result);
 
 /// The tracer concentration that the solids carry, without guards: what a save and the model
-/// input store for KEY3 4 and 7.
+/// input store for KEY3 4 and 7. Subscript as above.
 Failure Sediment_Tracer_Concentration(const ProjectRecord& record, double& result);
 
 }  // namespace barvon

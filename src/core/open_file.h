@@ -6,10 +6,19 @@
 
 namespace barvon {
 
-/// Opens a file by its extension: a .DUI project, a .DUD dilution file; anything else is opened
-/// and not loaded. After a .DUI the bulk density rule runs. True when it went through.
-/// On a failure the user has been told and asked; the record is as it was before, or reset when
-/// the user agreed to start afresh.
+/// Opens a file by its extension: a .DUI project, a .DUD dilution file; nothing is loaded from
+/// anything else. After a .DUI the bulk density rule runs. True when something was loaded.
+/// Otherwise the user has been told; the record is as it was before, or reset when the user
+/// agreed to start afresh, but for the two grid markers, which are 0.
 bool Open_File(const std::string& path, ProjectRecord& record);
+
+/// Open_File, and on success ProjectFileName, BaseFileName and the caption follow. They stay as
+/// they were when nothing was loaded, so that a later save never takes an output that was picked
+/// in the dialog for the project's file.
+bool Open_Project(const std::string& path, ProjectRecord& record);
+
+/// Shows the open dialog and opens what was chosen, once. False on Cancel, and when nothing was
+/// loaded.
+bool File_Open_Dialog(double kind, ProjectRecord& record);
 
 }  // namespace barvon

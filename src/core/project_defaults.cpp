@@ -11,7 +11,7 @@ namespace {
 constexpr std::int16_t kFreshGridFile = 99;
 
 void Clear_File_Marks(ProjectRecord& record) {
-  record.SectionStatus.fill('-');
+  std::fill(record.SectionStatus.begin() + 1, record.SectionStatus.end(), '-');
   record.SectionFlags.fill(0);
 }
 

@@ -1,7 +1,44 @@
 #include "core/project_writer.h"
 
-namespace barvon {
+#include "core/exact_values.h"
+#include "core/fluid_concentration.h"
+#include "core/project_columns.h"
+#include "core/project_image.h"
+#include "core/value_slots.h"
+#include "platform/progress_display.h"
 
-std::string Save_Project(const std::string&, ProjectRecord&) { return {}; }
+namespace barvon {
+namespace {
+
+constexpr char kProjectTag[] = "   DUMP";
+constexpr int kTracerSlot = 30;
+constexpr std::int16_t kBarge = 3;
+
+/// KEY3 4 and 7 give the contaminant in the sediment; the concentrations that follow from it are
+/// kept as they stand when a count or a volume makes no sense: a save must not fail for them.
+void Recompute_Concentrations(ProjectRecord& record) {
+  if (record.KEY3 != 4 && record.KEY3 != 7) return;
+  Sediment_Tracer_Concentration(record, record.TracerConcentration);
+  record.RealSlots[kTracerSlot] = record.TracerConcentration;
+  const bool separated =
+      record.LAYERS > 1 && record.DisposalMethod == kBarge && record.SeparationFlag == 1;
+  if (separated) {
+    Fluid_Concentration_Layered(record, record.FluidComputedConcentration);
+  } else {
+    Fluid_Concentration_Plain(record, record.FluidComputedConcentration);
+  }
+}
+
+}  // namespace
+
+std::string Save_Project(const std::string& path, ProjectRecord& record) {
+  Progress_Display progress("Saving " + path);
+  Recompute_Concentrations(record);
+  record.FileTypeTag = kProjectTag;
+  const Project_Image image = Image_Of(record);
+  std::string text = Write_Columns(image, progress);
+  const Columns_Read read_back = Read_Columns(text, kMaxGridPoints, progress);
+  return text + Exact_Value_Lines(image, read_back);
+}
 
 }  // namespace barvon

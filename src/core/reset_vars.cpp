@@ -1,7 +1,20 @@
 #include "core/reset_vars.h"
 
+#include "core/project_defaults.h"
+#include "core/text_prompt.h"
+#include "core/workspace_port.h"
+
 namespace barvon {
 
-bool Reset_Vars(ProjectRecord&) { return true; }
+bool Reset_Vars(ProjectRecord& record) {
+  if (Text_Changed_Prompt(record)) return false;
+  Port().clear_text_checks();
+  Port().close_dilution();
+  Port().set_caption(kUntitledCaption);
+  Set_Project_Defaults(record);
+  record.WizardActive = record.WizardAccepted = kFalse;
+  Port().refresh_for_new_project();
+  return true;
+}
 
 }  // namespace barvon

@@ -7,8 +7,12 @@
 namespace barvon {
 
 /// Saves by kind: 1 dilution file, 2 project and its model input export, 3 the export alone,
-/// 4 the text of the active viewer window. True when the file of that kind is on disk; the user
-/// has been told otherwise. The old file is whole after any failure.
+/// 4 the text of the active viewer window. True when the file of that kind is on disk; then
+/// BaseFileName, DataSaved, the caption and the recent files follow. Otherwise the user has been
+/// told, but for an export of sections that are marked as empty, which is passed over in silence.
+/// The old file is whole after any failure, and BaseFileName is as it was.
+///
+/// A project counts as saved when its export could not be written; a note says so.
 bool Save_File(const std::string& path, int kind, ProjectRecord& record);
 
 }  // namespace barvon

@@ -37,6 +37,8 @@ struct Workspace_Port {
   /// The text of the active viewer window, and what its caption becomes after a save.
   std::function<std::string()> active_text;
   std::function<void(const std::string&)> set_text_caption;
+  /// Prints the text of the window in front.
+  std::function<void()> print_active_text;
 };
 
 /// The table, each entry callable even when nobody filled it.

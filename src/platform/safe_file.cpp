@@ -239,7 +239,8 @@ std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& f
       if (Read_Whole_File(note, working) != 0) continue;
       Remove_If_Abandoned(working, removed);
       // A living writer's note stays until its save is over.
-      if (::access(working.c_str(), F_OK) != 0) ::unlink(note.c_str());
+      const bool of_a_save = Is_Marked_Name(Name_Of(working), kWorkingEnding);
+      if (!of_a_save || ::access(working.c_str(), F_OK) != 0) ::unlink(note.c_str());
     }
   }
   for (const std::string& folder : folders) {

@@ -1,8 +1,128 @@
 #include "workspace/file_menu.h"
 
-namespace barvon {
+#include <optional>
+#include <string>
+#include <utility>
 
-void mnuFileItem_Click(int, ProjectRecord&) {}
-void mnuRecentFile_Click(int, ProjectRecord&) {}
+#include "checks/check_data.h"
+#include "core/analysis_keys.h"
+#include "core/file_dialogs.h"
+#include "core/open_file.h"
+#include "core/path_lookup.h"
+#include "core/recent_files.h"
+#include "core/reset_vars.h"
+#include "core/save_file.h"
+#include "core/screen_register.h"
+#include "core/settings_keys.h"
+#include "core/text_prompt.h"
+#include "core/workspace_port.h"
+#include "platform/file_dialog.h"
+#include "platform/message_box.h"
+#include "workspace/quit_rules.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kLastStatusLine = 4;  // that of the coefficients has a wording of its own
+
+void Set_Status_Lines(const char* text, Status_Colour colour) {
+  for (int i = 0; i <= kLastStatusLine; ++i) Port().set_status_line(i, text, colour);
+}
+
+void New_Project(ProjectRecord& record) {
+  if (!Reset_Vars(record)) return;
+  Show_Project(record);
+  Set_Status_Lines(kDataNotEntered, Status_Colour::Black);
+}
+
+void Show_Opened(ProjectRecord& record) {
+  // What comes from a file counts as accepted data.
+  record.WizardAccepted = kTrue;
+  Update_Recent_Files(record.ProjectFileName);
+  Show_Project(record);
+  if (!Write_Graph_File(record.ProjectFileName)) {
+    Port().show_note({std::string(kSettingsFile) +
+                          " could not be written: the graphics program has not been told of " +
+                          record.ProjectFileName + ".",
+                      {}});
+  }
+  Set_Status_Lines(kDataSupplied, Status_Colour::Blue);
+  Port().show_main_board();
+}
+
+/// The error list; where no such screen stands, the findings go to the status area.
+void Show_Findings(const ProjectRecord& record) {
+  if (Open_Screen("frmErrorList", record.ShowMode == 1)) return;
+  const Error_List& errors = Current_Errors();
+  Status_Note note;
+  note.text = "Errors in the data: " + std::to_string(errors.entries.size());
+  for (const Error_Entry& entry : errors.entries) note.details += entry.message + "\n";
+  Port().show_note(note);
+}
+
+bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
+  if (Check_Project(record) == kFalse) return true;
+  const Answer answer =
+      Show_Message({"Errors have been detected in the data.  Do You Wish to Fix The Errors?",
+                    kMessageTitle, Buttons::YesNoCancel, Icon::None});
+  if (answer == Answer::Yes) Show_Findings(record);
+  return answer == Answer::No;
+}
+
+/// The name is the project's from here on; only a save that fails takes it back.
+void Save_Under(const std::string& name, ProjectRecord& record) {
+  const std::string former = std::exchange(record.ProjectFileName, name);
+  if (!Save_In_Spite_Of_Findings(record)) return;
+  if (!Save_File(name, kProjectKind, record)) record.ProjectFileName = former;
+}
+
+void Save(ProjectRecord& record) {
+  if (const std::optional<std::string> name = Ask_Name_To_Save(record)) Save_Under(*name, record);
+}
+
+void Save_As(ProjectRecord& record) {
+  const std::optional<std::string> name = File_SaveAs_Dialog(record.ProjectFileName, kProjectKind);
+  if (name) Save_Under(*name, record);
+}
+
+}  // namespace
+
+void mnuFileItem_Click(int index, ProjectRecord& record) {
+  switch (index) {
+    case kFileNew:
+      return New_Project(record);
+    case kFileOpen:
+      if (File_Open_Dialog(record.FileKind, record)) Show_Opened(record);
+      return;
+    case kFileClose:
+      if (!Text_Changed_Prompt(record)) Reset_Vars(record);
+      return;
+    case kFileSave:
+      return Save(record);
+    case kFileSaveAs:
+      return Save_As(record);
+    case kFilePrint:
+      return Port().print_active_text();
+    case kFilePrintSetup:
+      return Show_Printer_Setup();
+    case kFileExit:
+      if (Ask_On_Exit()) End_Program();
+      return;
+    default:
+      return;
+  }
+}
+
+void mnuRecentFile_Click(int index, ProjectRecord& record) {
+  if (index < 1 || index > kRecentFiles) return;
+  const std::string path = Recent_Menu()[static_cast<std::size_t>(index)];
+  if (path.empty()) return;
+  if (Open_Project(path, record)) {
+    Show_Opened(record);
+  } else if (!Find_Path(path)) {
+    Remove_Recent(path);
+  }
+  GetRecentFiles();
+}
 
 }  // namespace barvon

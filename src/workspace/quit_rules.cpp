@@ -1,11 +1,57 @@
 #include "workspace/quit_rules.h"
 
-namespace barvon {
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
-bool Wish_To_Quit() { return false; }
-Close_Action Ask_On_Close(const std::string&, Flag) { return Close_Action::Stay; }
-bool Ask_On_Exit() { return false; }
-void End_Program() {}
-void Set_Program_End(std::function<void()>) {}
+#include "core/workspace_port.h"
+#include "platform/message_box.h"
+
+namespace barvon {
+namespace {
+
+std::function<void()>& Program_End() {
+  static std::function<void()> end;
+  return end;
+}
+
+std::string Program_Name() {
+  std::error_code error;
+  return std::filesystem::read_symlink("/proc/self/exe", error).filename().string();
+}
+
+}  // namespace
+
+bool Wish_To_Quit() {
+  return Show_Message({"Do You Wish to Quit?", Program_Name(), Buttons::YesNo, Icon::Question}) ==
+         Answer::Yes;
+}
+
+Close_Action Ask_On_Close(const std::string& caption, Flag data_saved) {
+  if (caption == kUntitledCaption || data_saved != kFalse) {
+    return Wish_To_Quit() ? Close_Action::End_At_Once : Close_Action::Stay;
+  }
+  switch (Show_Message({"Do You Wish To Save the Current File Before Quitting?", kMessageTitle,
+                        Buttons::YesNoCancel, Icon::None})) {
+    case Answer::Yes:
+      return Close_Action::Save_And_Close;
+    case Answer::No:
+      // No and Cancel have changed places here: No stays, Cancel ends without saving.
+      return Close_Action::Stay;
+    default:
+      return Close_Action::End_At_Once;
+  }
+}
+
+bool Ask_On_Exit() {
+  return Show_Message({"Are You Sure You Want to Quit?", kMessageTitle, Buttons::YesNo,
+                       Icon::None}) != Answer::No;
+}
+
+void End_Program() {
+  if (Program_End()) Program_End()();
+}
+
+void Set_Program_End(std::function<void()> end) { Program_End() = std::move(end); }
 
 }  // namespace barvon

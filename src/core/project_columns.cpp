@@ -1,0 +1,354 @@
+#include "core/project_columns.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "core/format_pattern.h"
+#include "core/number_text.h"
+#include "core/text_tools.h"
+#include "core/value_slots.h"
+#include "platform/text_encoding.h"
+
+namespace barvon {
+namespace {
+
+using Part = Image_Number::Part;
+
+constexpr std::size_t kIntWidth = 5;
+constexpr std::size_t kRealWriteWidth = 11;
+constexpr std::size_t kRealReadWidth = 12;
+constexpr std::size_t kNameWidth = 8;
+constexpr std::size_t kVelocityWidth = 8;
+constexpr int kRealsPerLine = 6;
+constexpr int kVelocitiesPerLine = 10;
+constexpr std::size_t kStatusLength = 6;
+constexpr std::size_t kFlagCount = 18;
+constexpr double kOtherFlag = 9999;
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kFileTag = "DUMP";
+constexpr std::string_view kFiveBlanks = "     ";
+constexpr std::string_view kKey4Comment = "Used To Determine Type of Simulation";
+
+/// Slots 1 to 16 stand on the third line, 17 to 32 on the fourth, 33 to 41 on the fifth.
+constexpr std::array<std::array<int, 2>, 3> kIntLines = {{{1, 16}, {17, 32}, {33, 41}}};
+
+// ---- Writing
+
+/// One byte a column; what would break the line becomes a blank.
+std::string Line_Bytes(std::string_view text) {
+  std::string bytes = To_File_Bytes(text);
+  for (char& c : bytes) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
+  }
+  return bytes;
+}
+
+std::string Fixed_Bytes(std::string_view text, std::size_t width) {
+  std::string bytes = Line_Bytes(text);
+  bytes.resize(width, ' ');
+  return bytes;
+}
+
+char Flag_Letter(double flag) {
+  if (flag == 0) return 'F';
+  return flag == kTrue ? 'T' : 'G';
+}
+
+std::string Pattern_Of_Narrow(double value, std::string_view pattern) {
+  return Format_Number(Widen(static_cast<float>(value)), pattern);
+}
+
+void Write_Velocity_Field(const Grid& field, std::string& text) {
+  for (int a = 1; a <= kMaxGridPoints; ++a) {
+    for (int b = 1; b <= kMaxGridPoints; ++b) {
+      text += Right_Justified(Plain_Number(field[a][b]), kVelocityWidth);
+      if (b % kVelocitiesPerLine == 0 || b == kMaxGridPoints) text += kLineEnd;
+    }
+  }
+}
+
+void Write_Tail(const Project_Image& image, std::string& text) {
+  for (int i = 1; i <= 4; ++i) {
+    if (i > 1) text += kFiveBlanks;
+    text += Pattern_Of_Narrow(image.TidalHeader[i], "####.00");
+  }
+  text += kLineEnd;
+  for (int i = 1; i <= kTidalRows; ++i) {
+    text += Pattern_Of_Narrow(image.TidalTable[i][1], "###.00");
+    text += kFiveBlanks;
+    text += Pattern_Of_Narrow(image.TidalTable[i][2], "###.00");
+    text += kLineEnd;
+  }
+  text.append(Plain_Number(image.KEY4)).append(" ").append(kKey4Comment).append(kLineEnd);
+}
+
+// ---- Reading
+
+/// Goes through the bytes line by line, then number by number.
+class Text_Source {
+ public:
+  explicit Text_Source(std::string_view bytes) : rest_(bytes) {}
+
+  bool At_End() const { return rest_.find_first_not_of(" \t\r\n\x1A") == std::string_view::npos; }
+
+  /// The next line without its end; nothing at the end of the file.
+  std::optional<std::string_view> Line() {
+    if (rest_.empty()) return std::nullopt;
+    const auto end = rest_.find('\n');
+    std::string_view line = rest_.substr(0, end);
+    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    return line;
+  }
+
+  /// The next text between delimiters; nothing at the end of the file. Line ends count as
+  /// delimiters, and so do commas.
+  std::optional<std::string_view> Token() {
+    const auto first = rest_.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos) return std::nullopt;
+    rest_.remove_prefix(first);
+    const auto end = std::min(rest_.find_first_of(" \t\r\n,"), rest_.size());
+    const std::string_view token = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    if (!rest_.empty() && rest_.front() == ',') rest_.remove_prefix(1);
+    return token;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+std::string_view Columns(std::string_view line, std::size_t first, std::size_t count) {
+  return first < line.size() ? line.substr(first, count) : std::string_view();
+}
+
+std::size_t Width_Of(std::string_view line) {
+  const auto last = line.find_last_not_of(" \t");
+  return last == std::string_view::npos ? 0 : last + 1;
+}
+
+class Column_Reader {
+ public:
+  Column_Reader(std::string_view bytes, int n, Progress_Display& progress)
+      : source_(bytes), n_(n), progress_(progress) {
+    result_.given.resize(Image_Numbers().size());
+  }
+
+  Columns_Read Read() {
+    try {
+      Read_Head();
+      Read_Reals();
+      Read_Text_Lines();
+      Read_Velocity_Field(Part::FieldX);
+      Read_Velocity_Field(Part::FieldZ);
+      if (n_ == kMaxGridPoints) Read_Tail();
+    } catch (const Run_Time_Failure& stopped) {
+      Note(stopped.failure);
+    }
+    result_.at_end = source_.At_End();
+    return std::move(result_);
+  }
+
+ private:
+  void Note(Failure failure) {
+    if (result_.failure == Failure::None) result_.failure = failure;
+  }
+
+  std::string_view Next_Line() {
+    const auto line = source_.Line();
+    if (!line) throw Run_Time_Failure{Failure::Input_Past_End};
+    return *line;
+  }
+
+  void Take_Column(const Image_Number& number, std::string_view columns) {
+    try {
+      Number_In(result_.image, number) = Column_Number(columns);
+      result_.given[Index_Of(number)] = true;
+    } catch (const Run_Time_Failure& stopped) {
+      Note(stopped.failure);
+    }
+  }
+
+  /// Takes the next free-form number. Failure::None when it was given.
+  Failure Take_Token(const Image_Number& number) {
+    const auto token = source_.Token();
+    if (!token) return Failure::Input_Past_End;
+    if (!Is_Number(*token)) return Failure::Type_Mismatch;
+    try {
+      const double value = Column_Number(*token);
+      Number_In(result_.image, number) =
+          Is_Narrow(number) ? static_cast<double>(static_cast<float>(value)) : value;
+    } catch (const Run_Time_Failure& stopped) {
+      return stopped.failure;
+    }
+    result_.given[Index_Of(number)] = true;
+    return Failure::None;
+  }
+
+  void Read_Head() {
+    const std::string_view first = Next_Line();
+    const auto found = first.find(kFileTag);
+    // Without the tag everything counts from the line's start; that alone stops no load.
+    const std::size_t tag = found == std::string_view::npos ? 0 : found;
+    const std::size_t method = found == std::string_view::npos ? kFileTag.size() : found + 5;
+    result_.image.FileTypeTag = From_File_Bytes(Columns(first, tag, kFileTag.size()));
+    try {
+      result_.image.DisposalMethod = Column_Number(Columns(first, method, 20));
+    } catch (const Run_Time_Failure& stopped) {
+      Note(stopped.failure);
+    }
+    result_.image.ProjectTitle =
+        Trimmed_Right(From_File_Bytes(Columns(Next_Line(), 0, kTitleLength)));
+    for (const auto& [first_slot, last_slot] : kIntLines) {
+      const std::string_view line = Next_Line();
+      for (int slot = first_slot; slot <= last_slot; ++slot) {
+        Take_Column(
+            {Part::IntSlots, slot, 0},
+            Columns(line, static_cast<std::size_t>(slot - first_slot) * kIntWidth, kIntWidth));
+      }
+    }
+  }
+
+  void Read_Reals() {
+    const int reals = kFirstDepthSlot - 1 + n_ * n_;
+    const int lines = reals / kRealsPerLine;
+    const double total = 10.0 + lines;
+    int slot = 1;
+    for (int line = 1; line <= lines + 1; ++line) {
+      const std::string_view text = Next_Line();
+      for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot) {
+        Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealReadWidth, kRealReadWidth));
+      }
+      progress_.Move(line / total);
+    }
+  }
+
+  void Read_Text_Lines() {
+    const std::string_view names = Next_Line();
+    for (std::size_t i = 1; i <= kSolidEntries; ++i) {
+      result_.image.SolidNames[i] =
+          Trimmed(From_File_Bytes(Columns(names, (i - 1) * kNameWidth, kNameWidth)));
+    }
+    const std::string_view status = Next_Line();
+    for (std::size_t i = 1; i <= kStatusLength; ++i) {
+      result_.image.SectionStatus[i] = i <= status.size() ? status[i - 1] : ' ';
+    }
+    const std::string_view flags = Next_Line();
+    for (int i = 1; i <= static_cast<int>(kFlagCount); ++i) {
+      const Image_Number number{Part::Flags, i, 0};
+      const std::string_view letter = Columns(flags, static_cast<std::size_t>(i) - 1, 1);
+      // A missing character reads as 0, like every field that a line is too short for.
+      const bool clear = letter.empty() || letter == "F";
+      Number_In(result_.image, number) = clear ? kFalse : letter == "T" ? kTrue : kOtherFlag;
+      result_.given[Index_Of(number)] = true;
+    }
+    result_.text_lines_too_wide = Width_Of(status) > kStatusLength && Width_Of(flags) > kFlagCount;
+  }
+
+  void Read_Velocity_Field(Part field) {
+    for (int a = 1; a <= n_; ++a) {
+      for (int b = 1; b <= n_; ++b) {
+        const Failure failure = Take_Token({field, a, b});
+        if (failure == Failure::Input_Past_End) throw Run_Time_Failure{failure};
+        if (failure != Failure::None) Note(failure);
+      }
+    }
+  }
+
+  /// One statement of the tail. What can't be read leaves its values as not given, and the next
+  /// statement starts on the next line, so that one bad value does not shift all that follow.
+  void Read_Tail_Statement(const std::vector<Image_Number>& numbers) {
+    for (const Image_Number& number : numbers) {
+      if (Take_Token(number) != Failure::None) {
+        source_.Line();
+        return;
+      }
+    }
+  }
+
+  void Read_Tail() {
+    Read_Tail_Statement({{Part::TidalHeader, 1, 0},
+                         {Part::TidalHeader, 2, 0},
+                         {Part::TidalHeader, 3, 0},
+                         {Part::TidalHeader, 4, 0}});
+    for (int i = 1; i <= kTidalRows; ++i) {
+      Read_Tail_Statement({{Part::TidalX, i, 0}, {Part::TidalZ, i, 0}});
+    }
+    Read_Tail_Statement({{Part::Key4, 0, 0}});
+  }
+
+  static bool Is_Number(std::string_view token);
+
+  Text_Source source_;
+  int n_;
+  Progress_Display& progress_;
+  Columns_Read result_;
+};
+
+/// A velocity that runs into its neighbour ("0.123456-0.12345") is no number: taking its start
+/// would shift every value that follows.
+bool Column_Reader::Is_Number(std::string_view token) {
+  if (token.find_first_not_of("0123456789+-.eEdD") != std::string_view::npos) return false;
+  const auto exponent = std::min(token.find_first_of("eEdD"), token.size());
+  const std::string_view mantissa = token.substr(0, exponent);
+  const std::string_view power = exponent < token.size() ? token.substr(exponent + 1) : "0";
+  const auto digits_only = [](std::string_view text) {
+    return text.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  const auto unsigned_part = [](std::string_view text) {
+    return !text.empty() && (text.front() == '+' || text.front() == '-') ? text.substr(1) : text;
+  };
+  const std::string_view value = unsigned_part(mantissa);
+  const auto point = std::min(value.find('.'), value.size());
+  const std::string_view fraction = point < value.size() ? value.substr(point + 1) : "";
+  return point + fraction.size() > 0 && digits_only(value.substr(0, point)) &&
+         digits_only(fraction) && !unsigned_part(power).empty() &&
+         digits_only(unsigned_part(power));
+}
+
+}  // namespace
+
+std::string Write_Columns(const Project_Image& image, Progress_Display& progress) {
+  std::string text;
+  text.append("   ").append(kFileTag);
+  text += Right_Justified(Plain_Number(image.DisposalMethod), kIntWidth);
+  text += kLineEnd;
+  text.append(Fixed_Bytes(image.ProjectTitle, kTitleLength)).append(kLineEnd);
+  for (const auto& [first, last] : kIntLines) {
+    for (int slot = first; slot <= last; ++slot) {
+      text += Right_Justified(Plain_Number(image.IntSlots[slot]), kIntWidth);
+    }
+    text += kLineEnd;
+  }
+  constexpr double kLines = kFullFileRealSlots / kRealsPerLine + 1;
+  for (int slot = 1; slot <= kFullFileRealSlots; ++slot) {
+    text += Right_Justified(Plain_Number(image.RealSlots[slot]), kRealWriteWidth);
+    if (slot % kRealsPerLine == 0 || slot == kFullFileRealSlots) {
+      text += kLineEnd;
+      progress.Move(slot / kRealsPerLine / kLines);
+    }
+  }
+  for (std::size_t i = 1; i <= kSolidEntries; ++i) {
+    text += Fixed_Bytes(image.SolidNames[i], kNameWidth);
+  }
+  text += kLineEnd;
+  for (std::size_t i = 1; i <= kStatusLength; ++i) {
+    const char c = image.SectionStatus[i];
+    text += static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? ' ' : c;
+  }
+  text += kLineEnd;
+  for (std::size_t i = 1; i <= kFlagCount; ++i) text += Flag_Letter(image.SectionFlags[i]);
+  text += kLineEnd;
+  Write_Velocity_Field(image.VelocityFieldX, text);
+  Write_Velocity_Field(image.VelocityFieldZ, text);
+  Write_Tail(image, text);
+  return text;
+}
+
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress) {
+  return Column_Reader(bytes, n, progress).Read();
+}
+
+}  // namespace barvon

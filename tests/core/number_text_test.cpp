@@ -1,0 +1,162 @@
+#include "core/number_text.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <bit>
+#include <clocale>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "core/failure.h"
+
+namespace barvon {
+namespace {
+
+TEST(LenientNumber, Takes_The_Leading_Number) {
+  EXPECT_EQ(Lenient_Number("62.5 ft"), 62.5);
+  EXPECT_EQ(Lenient_Number("  -3"), -3);
+  EXPECT_EQ(Lenient_Number("+4."), 4);
+  EXPECT_EQ(Lenient_Number(".5"), 0.5);
+  EXPECT_EQ(Lenient_Number("1e3"), 1000);
+  EXPECT_EQ(Lenient_Number("1D-2x"), 0.01);
+}
+
+TEST(LenientNumber, Is_Zero_Where_There_Is_None) {
+  for (const char* text : {"", "   ", "abc", ".", "-", "+.", "e5", "-.e3", "\n5"}) {
+    EXPECT_EQ(Lenient_Number(text), 0) << text;
+  }
+}
+
+TEST(LenientNumber, Stops_At_The_First_Character_That_Cannot_Continue) {
+  EXPECT_EQ(Lenient_Number("62,5"), 62);
+  EXPECT_EQ(Lenient_Number("1O0"), 1);
+  EXPECT_EQ(Lenient_Number("1 000"), 1);
+  EXPECT_EQ(Lenient_Number("1.2.3"), 1.2);
+  EXPECT_EQ(Lenient_Number("5e"), 5);
+  EXPECT_EQ(Lenient_Number("5e+"), 5);
+  EXPECT_EQ(Lenient_Number("5-3"), 5);
+}
+
+TEST(LenientNumber, Beyond_A_Doubles_Range_Is_Zero_And_Too_Small_Is_Zero) {
+  EXPECT_EQ(Lenient_Number("1e999"), 0);
+  EXPECT_EQ(Lenient_Number("-1e999"), 0);
+  EXPECT_EQ(Lenient_Number("1e-999"), 0);
+  EXPECT_EQ(Lenient_Number("1e99999999999999999999"), 0);
+  EXPECT_EQ(Lenient_Number("0e999"), 0);
+}
+
+TEST(ColumnNumber, Ignores_Blanks_Inside_The_Number) {
+  EXPECT_EQ(Column_Number("   1 2 "), 12);
+  EXPECT_EQ(Column_Number("- 3 . 5"), -3.5);
+  EXPECT_EQ(Column_Number(" \t1\t2"), 12);
+  EXPECT_EQ(Column_Number("            "), 0);
+  EXPECT_EQ(Column_Number("12 x 4"), 12);
+}
+
+TEST(ColumnNumber, Overflow_Is_A_Failure_And_Underflow_Is_Zero) {
+  EXPECT_THROW(Column_Number("1E400"), Run_Time_Failure);
+  EXPECT_THROW(Column_Number(std::string(400, '9')), Run_Time_Failure);
+  EXPECT_EQ(Column_Number("1E-400"), 0);
+  EXPECT_EQ(Column_Number("0." + std::string(400, '0') + "1"), 0);
+  EXPECT_EQ(Column_Number("0.0001E-400"), 0);
+  EXPECT_EQ(Column_Number("1" + std::string(400, '0') + "E-999999999999999999999"), 0);
+}
+
+TEST(PlainNumber, Has_Fifteen_Significant_Digits_At_Most) {
+  EXPECT_EQ(Plain_Number(1.0 / 3), "0.333333333333333");
+  EXPECT_EQ(Plain_Number(2.0 / 3), "0.666666666666667");
+  EXPECT_EQ(Plain_Number(0.1), "0.1");
+  EXPECT_EQ(Plain_Number(1250.5), "1250.5");
+  EXPECT_EQ(Plain_Number(-0.5), "-0.5");
+  EXPECT_EQ(Plain_Number(100.0), "100");
+  EXPECT_EQ(Plain_Number(0.0), "0");
+  EXPECT_EQ(Plain_Number(-0.0), "0");
+  EXPECT_EQ(Plain_Number(123456789012345.0), "123456789012345");
+}
+
+TEST(PlainNumber, Is_Plain_From_0_0001_To_Below_1E15_And_In_Exponent_Form_Outside) {
+  EXPECT_EQ(Plain_Number(0.0001), "0.0001");
+  EXPECT_EQ(Plain_Number(0.00012345), "0.00012345");
+  EXPECT_EQ(Plain_Number(0.00005), "5E-05");
+  EXPECT_EQ(Plain_Number(0.0000999), "9.99E-05");
+  EXPECT_EQ(Plain_Number(999999999999999.0), "999999999999999");
+  EXPECT_EQ(Plain_Number(1e15), "1E+15");
+  EXPECT_EQ(Plain_Number(1.5e15), "1.5E+15");
+  EXPECT_EQ(Plain_Number(-1.5e-7), "-1.5E-07");
+  EXPECT_EQ(Plain_Number(1e100), "1E+100");
+  // Rounded to 15 digits it is 1E+15, and so it is written.
+  EXPECT_EQ(Plain_Number(999999999999999.9), "1E+15");
+}
+
+TEST(PlainNumber, Does_Not_Follow_The_Locale) {
+  const std::string former = std::setlocale(LC_ALL, nullptr);
+  std::setlocale(LC_ALL, "de_DE.UTF-8");
+  EXPECT_EQ(Plain_Number(0.5), "0.5");
+  EXPECT_EQ(Lenient_Number("0.5"), 0.5);
+  std::setlocale(LC_ALL, former.c_str());
+}
+
+TEST(PlainNumber, A_Float_Goes_Through_Its_Own_Shortest_Text) {
+  EXPECT_EQ(Plain_Number(Widen(0.1F)), "0.1");
+  EXPECT_EQ(Plain_Number(static_cast<double>(0.1F)), "0.100000001490116");
+}
+
+TEST(ToInt16, Rounds_Half_To_Even) {
+  EXPECT_EQ(To_Int16(0.5), 0);
+  EXPECT_EQ(To_Int16(1.5), 2);
+  EXPECT_EQ(To_Int16(2.5), 2);
+  EXPECT_EQ(To_Int16(-0.5), 0);
+  EXPECT_EQ(To_Int16(-1.5), -2);
+  EXPECT_EQ(To_Int16(-2.5), -2);
+  EXPECT_EQ(To_Int16(2.500001), 3);
+}
+
+TEST(ToInt16, Outside_Sixteen_Bits_Is_A_Failure_Never_A_Wrap) {
+  EXPECT_EQ(To_Int16(32767), 32767);
+  EXPECT_EQ(To_Int16(32767.4), 32767);
+  EXPECT_EQ(To_Int16(-32768), -32768);
+  for (const double value :
+       {32767.5, 32768.0, -32769.0, 1e300, -1e300, std::numeric_limits<double>::quiet_NaN(),
+        std::numeric_limits<double>::infinity()}) {
+    EXPECT_THROW(To_Int16(value), Run_Time_Failure) << value;
+    EXPECT_THROW(Cut_To_Int16(value + (value == 32767.5 ? 1 : 0)), Run_Time_Failure) << value;
+  }
+}
+
+TEST(ToInt16, Cutting_Drops_The_Fraction) {
+  EXPECT_EQ(Cut_To_Int16(2.9), 2);
+  EXPECT_EQ(Cut_To_Int16(-2.9), -2);
+  EXPECT_EQ(Cut_To_Int16(32767.9), 32767);
+}
+
+TEST(Int, Is_The_Whole_Part_Below) {
+  EXPECT_EQ(Int(1.9), 1);
+  EXPECT_EQ(Int(-1.5), -2);
+}
+
+RC_GTEST_PROP(ExactNumber, Gives_The_Same_Bits_Back, (std::uint64_t bits)) {
+  const double value = std::bit_cast<double>(bits);
+  double back = 0;
+  RC_ASSERT(Read_Exact_Number(Exact_Number(value), back));
+  if (std::isnan(value)) {
+    RC_ASSERT(std::isnan(back));
+  } else {
+    RC_ASSERT(std::bit_cast<std::uint64_t>(back) == bits);
+  }
+}
+
+RC_GTEST_PROP(PlainNumber, Reads_Back_To_Fifteen_Digits, (double value)) {
+  RC_PRE(std::isfinite(value));
+  const double back = Lenient_Number(Plain_Number(value));
+  RC_ASSERT(std::abs(back - value) <= std::abs(value) * 1e-14);
+}
+
+RC_GTEST_PROP(LenientNumber, Never_Fails_On_Any_Text, (std::string text)) {
+  RC_ASSERT(std::isfinite(Lenient_Number(text)));
+}
+
+}  // namespace
+}  // namespace barvon
