@@ -78,17 +78,16 @@ TEST(SampleFiles, Load_Back_To_The_Record_That_They_Were_Made_From) {
 
 TEST(SampleFiles, Stay_As_They_Are_When_They_Are_Shown) {
   for (const Sample& sample : samples::Samples()) {
-    const auto made = Filled(sample);
+    const auto loaded = Loaded(sample);
     const auto shown = Loaded(sample);
+    shown->AnalysisType = Filled(sample)->AnalysisType;
+    loaded->AnalysisType = shown->AnalysisType;
     Compute_Site_Density_From_Bulk(*shown);
     Refresh_Record(*shown);
-    for (const char* key : {"KEY1", "KEY2", "KEY3", "KEY4", "DisposalMethod", "AnalysisType",
-                            "SiteDensity", "TracerConcentration", "TracerName"}) {
-      std::vector<std::string> others = Differing_Fields(*made, *shown);
-      EXPECT_EQ(std::count(others.begin(), others.end(), std::string(key)),
-                std::string(key) == "TracerConcentration" && made->KEY3 == 7 ? 1 : 0)
-          << sample.file << " " << key;
-    }
+    EXPECT_EQ(Differing_Fields(*loaded, *shown,
+                               {"PreviousDisposalMethod", "SolidsVolumeSum", "SolidsMassSum"}),
+              std::vector<std::string>{})
+        << sample.file;
   }
 }
 
