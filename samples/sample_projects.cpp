@@ -277,7 +277,7 @@ void Section_404_Sediment(ProjectRecord& r) {
   r.LayerSolidFraction[1][2] = 0.04;
   r.LayerSolidFraction[2][2] = 0.1;
   r.TracerName() = "Zinc";
-  r.SedimentConcentration = 31.7;
+  r.SedimentConcentration = 30;
   r.BackgroundConcentration = 0.008;
   r.CriterionConcentration = 0.12;
   r.SiteTop = 400;
