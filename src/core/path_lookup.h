@@ -11,14 +11,15 @@ namespace barvon {
 /// from systems that ignore it.
 
 /// The existing path that the given one stands for: itself when it exists, otherwise one whose
-/// file name, and then whose folders, differ only in case. Nothing when there is none.
+/// file name, and then whose folders, differ only in case; of several the first in byte order. A
+/// folder that exists as given is never left for another one. Nothing when there is none.
 std::optional<std::string> Find_Path(const std::string& path);
 
 /// Find_Path for writing: the existing file's path, otherwise the path as given.
 std::string Path_To_Write(const std::string& path);
 
-/// The regular files of the folder whose names match the pattern ("Tmpfile.*"; '*' stands for any
-/// run of characters) without regard to case, links included, folders not. Sorted.
+/// Paths of the regular files of the folder whose names match the pattern ("Tmpfile.*"; '*' stands
+/// for any run of characters) without regard to case, links included, folders not. Sorted by name.
 std::vector<std::string> Matching_Files(const std::string& folder, std::string_view pattern);
 
 /// File_Exist: true when a search for the name in the current directory finds something.

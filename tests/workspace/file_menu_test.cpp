@@ -42,6 +42,9 @@ void FileMenu::Make_Valid() {
   record_.AvgVelocityDepth = 40;
   record_.AvgVelocityX = record_.AvgVelocityZ = 0.5;
   record_.VelXDepth1 = record_.VelZDepth1 = 40;
+  record_.SolidVolFraction[1] = 0.1;
+  record_.SolidSG[1] = 2.6;
+  record_.BINL = record_.BINW = 20;
   record_.XBARGE = record_.ZBARGE = 1500;
   record_.SimulationDuration = 3600;
   record_.LongTermTimeStep = 300;
@@ -124,7 +127,7 @@ TEST_F(FileMenu, A_Failed_Open_Stops_With_Project_Name_And_Caption_As_Before) {
 }
 
 TEST_F(FileMenu, A_Save_After_Picking_An_Output_Does_Not_Touch_The_Output) {
-  Scripted_Messages messages({Answer::No});
+  Scripted_Messages messages({Answer::No});  // at the findings of the save
   Name_Project(folder_ / "a.DUI");
   Write_Text(folder_ / "b.DUO", "listing");
   chosen_ = folder_ / "b.DUO";
@@ -137,7 +140,6 @@ TEST_F(FileMenu, A_Save_After_Picking_An_Output_Does_Not_Touch_The_Output) {
 
 TEST_F(FileMenu, Settings_That_Can_Not_Be_Written_Are_Told_In_The_Status_Area) {
   Scripted_Messages messages;
-  chosen_ = Make_Project("site.dui");
   // A line break can't stand in the settings, though it can in a file name.
   const std::string path = folder_ / "two\nlines.dui";
   Write_Text(path, Project_Bytes("two lines"));
