@@ -1,1 +1,24 @@
-int main() { return 0; }
+#include <QApplication>
+#include <QIcon>
+#include <clocale>
+
+#include "checks/frm_error_list.h"
+#include "platform/app_folder.h"
+#include "platform/qt/light_palette.h"
+#include "platform/qt/qt_services.h"
+#include "workspace/main_window.h"
+
+int main(int, char** arguments) {
+  // The command line is not read: a project is opened from the File menu.
+  int count = 1;
+  QApplication application(count, arguments);
+  // The toolkit takes the desktop's locale; numbers keep their point.
+  std::setlocale(LC_NUMERIC, "C");
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/barvon.svg")));
+  barvon::Apply_Light_Palette(application);
+  const barvon::Qt_Services services;
+  barvon::Main main(barvon::Program_Folder());
+  barvon::Register_frmErrorList(&main);
+  main.show();
+  return QApplication::exec();
+}

@@ -10,22 +10,27 @@ namespace barvon {
 
 /// How to start one external program. No shell reads any of it.
 struct Process_Start {
-  std::vector<std::string> command;     // full path of the program, then its arguments
-  std::string folder;                   // its current directory
-  std::string output_file;              // takes its standard output and error; empty: thrown away
-  std::size_t output_limit = 1u << 20;  // bytes that output_file may grow to
+  std::vector<std::string> command;      // full path of the program, then its arguments
+  std::vector<std::string> environment;  // "NAME=value" on top of what this program has
+  std::string folder;                    // its current directory; empty: the present one
+  std::string output_file;               // takes its standard output and error; empty: thrown away
+  std::size_t output_limit = 1u << 20;   // bytes that output_file may grow to
 };
 
 /// How a program ended.
 struct Process_End {
-  int exit_code = 0;     // meaningless when signal is not 0
+  int exit_code = 0;     // meaningless when signal is not 0; -1 when the system kept it
   int signal = 0;        // the signal that ended it, 0 when it exited by itself
   bool stopped = false;  // ended because Stop was called
 };
 
-/// One external program in a process group of its own. Its output is taken from a pipe while
-/// Poll is called, and goes to a file that never grows past its limit: when there is more, the
-/// middle is left out and the file says so.
+/// One external program in a process group of its own, with nothing to read on its standard input
+/// and none of this program's open files. Its output is taken from a pipe while Poll is called, and
+/// goes to a file that never grows past its limit: when there is more, the middle is left out and
+/// the file says so. The file is made anew with the first output.
+///
+/// The program has ended when its own process has. What it leaves running is left alone, unless it
+/// was stopped: then the end is the end of everything that it started.
 class External_Process {
  public:
   External_Process();
@@ -46,7 +51,8 @@ class External_Process {
 
   bool Is_Running() const;
   const Process_End& End() const;
-  /// The last lines of the program's output, at most 4 KiB.
+  /// The last lines of the program's output as it wrote them, at most 4 KiB; empty when the output
+  /// is thrown away.
   std::string Last_Output() const;
   /// How long the program ran, or has been running.
   std::chrono::milliseconds Duration() const;

@@ -15,13 +15,15 @@ struct Process_Outcome {
   std::string problem;  // why it was not started
   Process_End end;
   std::chrono::milliseconds duration{0};
-  std::string last_output;  // its last lines
-  std::string output_file;  // where its output is kept; empty when it printed nothing
+  std::string last_output;    // its last lines
+  std::string output_file;    // where its output is kept; empty when it printed nothing
+  bool program_ends = false;  // Stop_Run_And_Wait was called: this program is on its way out
 };
 
 /// Starts a command line by the rules of Find_Solver_Command, in the application directory, and
 /// waits for its end with the interface alive and the processor next to idle. Only one program
-/// runs at a time; see Run_Is_Under_Way.
+/// runs at a time; while one does, another call starts nothing and says so. The workspace hears of
+/// start and end through run_state.
 Process_Outcome Create_Process_Code(const std::string& command_line);
 
 /// True from the start of a program until its wait is over.
@@ -29,7 +31,8 @@ bool Run_Is_Under_Way();
 /// Ends the program that runs and everything that it started, first politely, then by force.
 /// Does nothing when none runs.
 void Stop_Run();
-/// The same before the program ends: does not return before they are gone.
+/// The same before this program ends: does not return before they are gone. Whoever waits for the
+/// run is then expected to return without touching the workspace any more.
 void Stop_Run_And_Wait();
 
 }  // namespace barvon

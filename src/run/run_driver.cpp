@@ -1,9 +1,178 @@
 #include "run/run_driver.h"
 
-namespace barvon {
+#include <unistd.h>
 
-bool Run_Report::Succeeded() const { return false; }
-Run_Report Run_Model(ProjectRecord&) { return {}; }
-void Set_Application_Directory() {}
+#include <optional>
+#include <utility>
+
+#include "checks/check_data.h"
+#include "core/failure.h"
+#include "core/file_dialogs.h"
+#include "core/model_input.h"
+#include "core/path_lookup.h"
+#include "core/save_file.h"
+#include "core/screen_register.h"
+#include "core/settings_keys.h"
+#include "core/text_tools.h"
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/message_box.h"
+#include "platform/safe_file.h"
+#include "run/solver_table.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kModelInputFile[] = "Tmpfile.Due";
+constexpr char kMarkerFile[] = "KOLBREE.TMP";
+constexpr char kScratchFiles[] = "Tmpfile.*";
+constexpr std::size_t kScratchNameWidth = 8;
+
+void Show_Error(const char* text) {
+  Show_Message({text, "BARVON Error", Buttons::Ok, Icon::Critical});
+}
+
+bool Project_Exists(const ProjectRecord& record, const char* extension) {
+  return !record.BaseFileName.empty() && Find_Path(record.BaseFileName + extension).has_value();
+}
+
+/// Save As with the present name offered, then the save. Nothing when the project is on disk;
+/// otherwise it keeps the name it had.
+std::optional<Run_Stage> Save_As(ProjectRecord& record, Run_Stage on_cancel) {
+  const auto name = File_SaveAs_Dialog(record.ProjectFileName, kProjectKind);
+  if (!name) return on_cancel;
+  std::string former = std::exchange(record.ProjectFileName, *name);
+  if (Save_File(*name, kProjectKind, record)) return std::nullopt;
+  record.ProjectFileName = std::move(former);
+  return Run_Stage::Save_Failed;
+}
+
+/// Sees to it that the project has a file. Nothing when the run may go on.
+std::optional<Run_Stage> Check_File(ProjectRecord& record) {
+  constexpr char kNoFile[] = "Please Specify a File Before Running Model";
+  if (record.FileKind == 1) {
+    if (Project_Exists(record, ".DUD")) return std::nullopt;
+    Show_Error(kNoFile);
+    return Run_Stage::No_File;
+  }
+  if (record.FileKind == 2 || record.FileKind == 3) {
+    if (Project_Exists(record, ".DUI")) return std::nullopt;
+    Show_Error(kNoFile);
+    return Save_As(record, Run_Stage::No_File);
+  }
+  Show_Error("Invalid File Type");
+  return Run_Stage::Invalid_Type;
+}
+
+std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
+  if (Check_Project(record) == kFalse) return std::nullopt;
+  switch (Show_Message({kErrorsDetected, kMessageTitle, Buttons::YesNoCancel, Icon::None})) {
+    case Answer::No:
+      return std::nullopt;
+    case Answer::Yes:
+      Open_Screen("frmErrorList", record.ShowMode == 1);
+      return Run_Stage::Errors;
+    default:
+      return Run_Stage::Cancelled;
+  }
+}
+
+/// Everything before the point from which failures no longer stop the flow.
+std::optional<Run_Stage> Prepare(ProjectRecord& record) {
+  if (auto stage = Check_File(record)) return stage;
+  if (auto stage = Offer_Findings(record)) return stage;
+  if (record.DataSaved == kFalse && record.AlwaysSaveBeforeRun != kFalse) {
+    return Save_As(record, Run_Stage::Cancelled);
+  }
+  return std::nullopt;
+}
+
+void Remove_Files(const std::string& folder, const char* pattern) {
+  for (const std::string& path : Matching_Files(folder, pattern)) ::unlink(path.c_str());
+}
+
+/// Makes one file that the solver reads. What bears its name, in any case, goes first: the solver
+/// may ask for it in another one, and a link under it must not lead the bytes elsewhere.
+void Make_File(const std::string& folder, const char* name, std::string_view bytes,
+               std::string& problem) {
+  Remove_Files(folder, name);
+  const int error = Write_Exclusive_File(Join_Path(folder, name), bytes);
+  if (error != 0 && problem.empty()) {
+    problem =
+        std::string(name) + " could not be written (" + Failure_Name(Failure_Of_Errno(error)) + ")";
+  }
+}
+
+std::string Marker_Line() {
+  return "DUE   , ,                            ,"
+         "                                     ," +
+         Left_Justified("TmpFile", kScratchNameWidth) + ",                           ,\r\n";
+}
+
+/// Writes model input and marker. Returns what failed first, as text.
+std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder) {
+  std::string problem;
+  record.FileTypeTag = "DUE";
+  std::string input;
+  if (const Failure failure = Write_Model_Input(record, input); failure != Failure::None) {
+    Remove_Files(folder, kModelInputFile);
+    problem = std::string("the model input could not be written (") + Failure_Name(failure) + ")";
+  } else {
+    Make_File(folder, kModelInputFile, input, problem);
+  }
+  Make_File(folder, kMarkerFile, Marker_Line(), problem);
+  return problem;
+}
+
+void Run_Solver(ProjectRecord& record, Run_Report& report) {
+  const std::string folder = Absolute_Path(Application_Folder());
+  const std::string project = record.ProjectFileName;
+  const std::string base_name = record.BaseFileName;
+  Remove_Files(".", kScratchFiles);
+  report.problem = Write_Solver_Files(record, folder);
+  Set_Application_Directory();
+  const Solver solver = Solver_For(record.DisposalMethod);
+  if (!solver.started) {
+    report.stage = Run_Stage::No_Model;
+    Show_Message({"No Model is currently available for this discharge case."});
+    return;
+  }
+  record.OutputsCopied = kFalse;
+  if (!report.problem.empty()) {
+    report.stage = Run_Stage::Input_Failed;
+    Show_Message({"Could not Excecute Preprocessor!"});
+    return;
+  }
+  const Output_Files outputs(folder);
+  report.outcome = Create_Process_Code(solver.command_line);
+  if (report.outcome.end.stopped || report.outcome.program_ends) {
+    report.stage = Run_Stage::Stopped;
+    return;
+  }
+  report.stage = report.outcome.started ? Run_Stage::Ended : Run_Stage::Not_Started;
+  // Outputs that stand there without a run are another one's, and older ones stay as they are.
+  if (report.outcome.started) report.Add_Outputs(outputs.Keep(base_name));
+  Write_Graph_File(project);
+}
+
+}  // namespace
+
+Run_Report Run_Model(ProjectRecord& record) {
+  Run_Report report;
+  if (Run_Is_Under_Way()) {
+    report.stage = Run_Stage::Refused;
+  } else if (const auto stage = Prepare(record)) {
+    report.stage = *stage;
+  } else {
+    Run_Solver(record, report);
+  }
+  report.text = Status_Text(report);
+  if (report.outcome.program_ends) return report;
+  const bool failed = report.stage == Run_Stage::Ended && !report.Succeeded();
+  Port().show_note({report.text, failed ? report.outcome.last_output : std::string()});
+  return report;
+}
+
+void Set_Application_Directory() { Change_Current_Folder(Application_Folder()); }
 
 }  // namespace barvon

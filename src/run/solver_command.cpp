@@ -1,7 +1,163 @@
 #include "run/solver_command.h"
 
-namespace barvon {
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
-Solver_Command Find_Solver_Command(const std::string&, const std::string&) { return {}; }
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+#include <sstream>
+
+#include "core/path_lookup.h"
+#include "core/text_tools.h"
+#include "platform/app_folder.h"
+
+namespace barvon {
+namespace {
+
+std::vector<std::string> Words(const std::string& text) {
+  std::istringstream stream(text);
+  std::vector<std::string> words;
+  for (std::string word; stream >> word;) words.push_back(word);
+  return words;
+}
+
+/// The folders of the search path. Relative ones are passed over: what they name depends on where
+/// this program happens to stand.
+std::vector<std::string> Search_Path() {
+  std::vector<std::string> folders;
+  const char* path = std::getenv("PATH");
+  std::istringstream stream(path == nullptr ? "" : path);
+  for (std::string folder; std::getline(stream, folder, ':');) {
+    if (!folder.empty() && folder.front() == '/') folders.push_back(folder);
+  }
+  return folders;
+}
+
+enum class File_Format { None, Dos, Native };
+
+/// What a regular file is by its first bytes; trying to run it would be too late.
+File_Format Format_Of(const std::string& path) {
+  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (descriptor < 0) return File_Format::None;
+  struct stat status {};
+  std::string start(4, '\0');
+  const bool readable = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+                        ::read(descriptor, start.data(), start.size()) >= 2;
+  ::close(descriptor);
+  if (!readable) return File_Format::None;
+  if (start ==
+          "\x7F"
+          "ELF" ||
+      start.substr(0, 2) == "#!")
+    return File_Format::Native;
+  return start.substr(0, 2) == "MZ" ? File_Format::Dos : File_Format::None;
+}
+
+bool May_Be_Executed(const std::string& path) { return ::access(path.c_str(), X_OK) == 0; }
+
+/// Files of that name in any case, the name as given first.
+std::vector<std::string> Files_Named(const std::string& folder, const std::string& name) {
+  std::vector<std::string> files = Matching_Files(folder, name);
+  std::stable_partition(files.begin(), files.end(),
+                        [&](const std::string& file) { return Name_Of(file) == name; });
+  return files;
+}
+
+std::optional<std::string> Program_In(const std::string& folder, const std::string& name) {
+  for (const std::string& file : Files_Named(folder, name)) {
+    if (Format_Of(file) == File_Format::Native && May_Be_Executed(file)) return file;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> On_Search_Path(const std::string& name) {
+  for (const std::string& folder : Search_Path()) {
+    if (auto program = Program_In(folder, name)) return program;
+  }
+  return std::nullopt;
+}
+
+bool Has_Dos_Program(const std::string& folder, const std::string& name) {
+  const auto files = Files_Named(folder, name);
+  return std::any_of(files.begin(), files.end(),
+                     [](const std::string& file) { return Format_Of(file) == File_Format::Dos; });
+}
+
+/// The drive is the current directory, which is the application directory, so that no path has to
+/// pass through the emulator's own command line.
+Solver_Command Through_Dosbox(const std::string& dosbox, const std::string& dos_command) {
+  return {{dosbox, "-noautoexec", "-c", "mount c .", "-c", "c:", "-c", dos_command, "-c", "exit"},
+          {"SDL_VIDEODRIVER=dummy", "SDL_AUDIODRIVER=dummy"},
+          {}};
+}
+
+std::string Joined(const std::vector<std::string>& words, std::size_t from) {
+  std::string text;
+  for (std::size_t i = from; i < words.size(); ++i) text += (i == from ? "" : " ") + words[i];
+  return text;
+}
+
+/// What stands in the application directory under one of the names and still can't be run.
+std::string Remark_On(const std::string& folder, const std::vector<std::string>& names) {
+  for (const std::string& name : names) {
+    for (const std::string& file : Files_Named(folder, name)) {
+      if (Format_Of(file) == File_Format::Native) return "; " + file + " is not executable";
+      return "; " + file + " is no program of this system";
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+Solver_Command Find_Solver_Command(const std::string& command_line,
+                                   const std::string& application_folder) {
+  const std::vector<std::string> words = Words(command_line);
+  if (words.empty()) return {{}, {}, "no program is named"};
+  const std::string& launcher = words[0];
+  auto found = Program_In(application_folder, launcher);
+  if (!found) found = On_Search_Path(launcher);
+  std::size_t arguments = 1;
+
+  const std::size_t named = words.size() > 1 ? 1 : 0;
+  std::vector<std::string> names{words[named]};
+  if (Base_Name(words[named]) != words[named]) names.push_back(Base_Name(words[named]));
+  for (std::size_t i = 0; i < names.size() && !found; ++i) {
+    found = Program_In(application_folder, names[i]);
+    arguments = named + 1;
+  }
+  if (found) {
+    Solver_Command result{{*found}, {}, {}};
+    result.command.insert(result.command.end(),
+                          words.begin() + static_cast<std::ptrdiff_t>(arguments), words.end());
+    return result;
+  }
+
+  if (Has_Dos_Program(application_folder, words[named])) {
+    const auto dosbox = On_Search_Path("dosbox");
+    if (!dosbox) {
+      return {{},
+              {},
+              words[named] + " in " + application_folder +
+                  " is a DOS program, and dosbox was not found on the search path"};
+    }
+    // A launcher that stands there too is what the program was meant to be started by.
+    const bool launched = named > 0 && (Has_Dos_Program(application_folder, launcher) ||
+                                        Has_Dos_Program(application_folder, launcher + ".EXE"));
+    return Through_Dosbox(*dosbox, Joined(words, launched ? 0 : named));
+  }
+
+  std::string problem =
+      launcher + " was found neither in " + application_folder + " nor on the search path";
+  std::vector<std::string> wanted = names;
+  if (named > 0) {
+    const std::string either = names.size() > 1 ? " or " + names[1] : std::string();
+    problem += ", and no " + names[0] + either + " in " + application_folder + " can be run here";
+    wanted.insert(wanted.begin(), launcher);
+  }
+  return {{}, {}, problem + Remark_On(application_folder, wanted)};
+}
 
 }  // namespace barvon

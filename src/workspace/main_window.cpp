@@ -1,1 +1,164 @@
-namespace barvon {}
+#include "workspace/main_window.h"
+
+#include <QCloseEvent>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+#include "core/project_record.h"
+#include "core/recent_files.h"
+#include "core/reset_vars.h"
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/help_viewer.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/safe_file.h"
+#include "run/create_process.h"
+#include "workspace/display_data.h"
+#include "workspace/edit_menu.h"
+#include "workspace/file_menu.h"
+#include "workspace/main_boards.h"
+#include "workspace/main_events.h"
+#include "workspace/main_menus.h"
+#include "workspace/quit_rules.h"
+
+namespace barvon {
+namespace {
+
+/// 9405 x 11025 twips at 15 twips a pixel.
+constexpr QSize kMainSize{627, 735};
+constexpr char kHelpFile[] = "BARVON.HLP";
+
+void Remove_Leftovers(const std::string& application_folder) {
+  Set_Save_Notes_Folder(application_folder);
+  std::vector<std::string> folders = {application_folder};
+  for (const std::string& path : Recent_Menu()) {
+    if (!path.empty()) folders.push_back(Folder_Of(path));
+  }
+  Remove_Leftover_Saves(folders);
+}
+
+}  // namespace
+
+Main::Main(const std::string& application_folder, std::function<void()> end_process)
+    : controls_(this), end_process_(std::move(end_process)) {
+  setObjectName(QStringLiteral("Main"));
+  setStatusBar(controls_.status_area);
+  Build_Menus(controls_);
+  Build_Boards(controls_);
+  Connect_Main_Events(controls_, Project());
+  Fill_Port();
+  Set_Program_End([this] {
+    Show_Help({Help_Command::Quit, 0, ""});
+    Stop_Run_And_Wait();
+    end_process_();
+  });
+  Start_Up(application_folder);
+  opening_ = false;
+}
+
+Main::~Main() {
+  Reset_Port();
+  Set_Program_End({});
+}
+
+void Main::Start_Up(const std::string& application_folder) {
+  ProjectRecord& record = Project();
+  // 1
+  Set_Application_Folder(application_folder);
+  Change_Current_Folder(application_folder);
+  // 2
+  record.WizardHelpOn = kTrue;
+  Action_Of(controls_, "mnuOptionItem", 0)->setChecked(true);
+  // 3
+  move(0, 0);
+  Lock_Size();
+  // 4
+  Set_Help_File(Join_Path(application_folder, kHelpFile));
+  // 5
+  record.ScreenDataSupplied.fill(kFalse);
+  record.ShowMode = 1;
+  // 6
+  GetRecentFiles();
+  Remove_Leftovers(application_folder);
+  // 7 is the dilution table's: its headings belong to its screen.
+  // 8
+  Set_Caption(kUntitledCaption);
+  Reset_Vars(record);
+  // 9
+  Display_Data(controls_, record);
+  // 10
+  record.OutputsCopied = kFalse;
+  if (record.WizardAtStart != kFalse) Show_Blocking_Screen("Data_Wiz");
+  // 11
+  record.AlwaysSaveBeforeRun = kTrue;
+  record.WizardActive = kFalse;
+}
+
+void Main::Fill_Port() {
+  Workspace_Port& port = Port();
+  port.set_caption = [this](const std::string& caption) { Set_Caption(caption); };
+  port.caption = [this] { return caption_; };
+  port.display_data = [this] { Display_Data(controls_, Project()); };
+  port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
+    Show_Status_Line(controls_, index, text, colour);
+  };
+  port.refresh_for_new_project = [this] {
+    Show_New_Project(controls_, Project());
+    // At start the menus keep what the menu tree gives them.
+    if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);
+  };
+  port.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
+  port.show_main_board = [this] { Show_Main_Board(controls_); };
+  port.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
+  port.run_state = [this](bool running, const std::string& program) {
+    controls_.status_area->Show_Run(running, program);
+  };
+  // No text viewer stands: there is no text that could have changed, and none to be saved.
+  port.clear_text_checks = [] {};
+  port.close_dilution = [] {};
+  port.text_has_changed = [] { return false; };
+  port.text_caption = [] { return std::string(); };
+  port.active_text = [] { return std::string(); };
+  port.set_text_caption = [](const std::string&) {};
+}
+
+void Main::Set_Caption(const std::string& caption) {
+  caption_ = caption;
+  // In a window title this sequence is a place holder; doubled it is itself.
+  setWindowTitle(
+      QString::fromStdString(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+}
+
+void Main::Lock_Size() { setFixedSize(kMainSize); }
+
+void Main::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  if (!isMinimized() && size() != kMainSize) Lock_Size();
+}
+
+void Main::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (asking_to_close_) return;
+  asking_to_close_ = true;
+  Close_Action action = Ask_On_Close(caption_, Project().DataSaved);
+  if (action == Close_Action::Save_And_Close) {
+    mnuFileItem_Click(kFileSave, Project());
+    // A save that failed or was called off must not take the data with it.
+    if (Project().DataSaved == kFalse) {
+      Port().show_note({"The project was not saved, so the program stays open.", ""});
+      action = Close_Action::Stay;
+    }
+  }
+  asking_to_close_ = false;
+  if (action == Close_Action::Stay) return;
+  event->accept();
+  End_Program();
+}
+
+void Main::End_Process_Now() {
+  std::fflush(nullptr);
+  std::_Exit(EXIT_SUCCESS);
+}
+
+}  // namespace barvon

@@ -32,10 +32,7 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
   port.close_dilution = [this] { log_.push_back("close dilution"); };
   port.show_recent_menu = [this] { log_.push_back("recent menu"); };
   port.show_main_board = [this] { log_.push_back("main board"); };
-  port.show_note = [this](const Status_Note& note) {
-    notes_.push_back(note.text);
-    note_details_ = note.details;
-  };
+  port.show_note = [this](const Status_Note& note) { notes_.push_back(note.text); };
   port.text_has_changed = [this] { return text_has_changed_; };
   port.text_caption = [] { return std::string("Untitled"); };
   port.print_active_text = [this] { log_.push_back("print"); };

@@ -37,7 +37,6 @@ class Recorded_Workspace : public ::testing::Test {
   std::vector<std::string> log_;
   std::string caption_;
   std::vector<std::string> notes_;
-  std::string note_details_;
   bool text_has_changed_ = false;
   std::optional<std::string> chosen_;     // the answer of the next file dialogs
   std::vector<File_Request> open_asked_;  // what the open dialog was shown with

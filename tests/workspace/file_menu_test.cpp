@@ -224,16 +224,6 @@ TEST_F(FileMenu, Yes_At_The_Findings_Opens_The_Error_List_By_ShowMode_And_Saves_
   EXPECT_TRUE(notes_.empty());
 }
 
-TEST_F(FileMenu, Without_An_Error_List_The_Findings_Go_To_The_Status_Area) {
-  Scripted_Messages messages({Answer::Yes});
-  Name_Project(folder_ / "site.DUI");
-  Click(kFileSave);
-  const Error_List& errors = Current_Errors();
-  ASSERT_FALSE(errors.entries.empty());
-  EXPECT_EQ(notes_, Lines{"Errors in the data: " + std::to_string(errors.entries.size())});
-  EXPECT_EQ(note_details_.find(errors.entries[0].message + "\n"), 0u);
-}
-
 TEST_F(FileMenu, Save_Without_A_Name_Asks_For_A_Project_Name_And_Cancel_Stops) {
   Scripted_Messages messages;
   Click(kFileSave);

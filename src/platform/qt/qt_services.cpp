@@ -1,1 +1,65 @@
-namespace barvon {}
+#include "platform/qt/qt_services.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <utility>
+
+#include "platform/qt/qt_file_dialog.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/qt_message_box.h"
+
+namespace barvon {
+namespace {
+
+void Show_Wait_Cursor(bool waiting) {
+  if (waiting) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace
+
+void Pump_Qt_Events(std::chrono::milliseconds longest) {
+  if (longest.count() <= 0) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+    return;
+  }
+  // The timer's event ends the sleep when nothing else does.
+  QTimer wake;
+  wake.setSingleShot(true);
+  wake.start(longest);
+  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+Qt_Services::Qt_Services() {
+  messages_ = Set_Message_Presenter(Show_Qt_Message);
+  file_dialogs_ =
+      Set_File_Dialog_Presenter({Ask_Qt_Open_File, Ask_Qt_Save_File, Show_Qt_Printer_Setup});
+  progress_displays_ = Set_Progress_Presenter({
+      [this](const std::string& caption) {
+        delete progress_;
+        progress_ = new frmProgress_Bar(Window_In_Front());
+        progress_->Open(caption);
+      },
+      [this](double share) {
+        if (progress_) progress_->Move(share);
+      },
+      [this] { delete progress_; },
+  });
+  cursor_ = Set_Cursor_Presenter(Show_Wait_Cursor);
+  pump_ = Set_Event_Pump(Pump_Qt_Events);
+  help_ = Set_Help_Presenter(Show_Qt_Help);
+}
+
+Qt_Services::~Qt_Services() {
+  Set_Message_Presenter(std::move(messages_));
+  Set_File_Dialog_Presenter(std::move(file_dialogs_));
+  Set_Progress_Presenter(std::move(progress_displays_));
+  Set_Cursor_Presenter(std::move(cursor_));
+  Set_Event_Pump(std::move(pump_));
+  Set_Help_Presenter(std::move(help_));
+}
+
+}  // namespace barvon

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace barvon {
+
+/// A program and everything that it started: the processes of its group, those that descend from
+/// it, also in sessions and groups of their own, and those that carry its mark in their
+/// environment, so that one whose parents are gone is still found. A process that was seen once
+/// stays a member for as long as it lives.
+///
+/// The program's own process must not be reaped while the family is in use: until then its number
+/// and its group's can't pass to strangers.
+class Process_Family {
+ public:
+  /// `mark` is an entry of the program's environment, "NAME=value", that no other program has.
+  Process_Family(pid_t program, std::string mark);
+
+  /// Looks for members and sends the signal to each, or only to those not seen before. True when
+  /// any was found alive.
+  bool Signal(int signal, bool only_new = false);
+
+ private:
+  struct Process {
+    pid_t pid = 0, parent = 0, group = 0;
+    char state = '?';
+    unsigned long long start = 0;  // with the number it names one process for good
+  };
+  static bool Read_Process(const std::string& number, Process& process);
+  static std::vector<Process> All_Processes();
+  bool Carries_Mark(pid_t pid) const;
+  std::vector<Process> Members(const std::vector<Process>& all) const;
+
+  pid_t program_;
+  std::string mark_;
+  std::vector<std::pair<pid_t, unsigned long long>> seen_;
+};
+
+}  // namespace barvon

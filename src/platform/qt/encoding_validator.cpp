@@ -1,0 +1,33 @@
+#include "platform/qt/encoding_validator.h"
+
+#include "platform/text_encoding.h"
+
+namespace barvon {
+namespace {
+
+bool Fits(QChar character) {
+  return character.category() != QChar::Other_Control && !character.isSurrogate() &&
+         Fits_File_Encoding(QString(character).toStdString());
+}
+
+/// A letter and its accent as one character, then only what fits.
+QString Fitting(const QString& text) {
+  QString fitting;
+  for (const QChar character : text.normalized(QString::NormalizationForm_C)) {
+    if (Fits(character)) fitting += character;
+  }
+  return fitting;
+}
+
+}  // namespace
+
+QValidator::State Encoding_Validator::validate(QString& text, int& position) const {
+  const QString fitting = Fitting(text);
+  if (fitting != text) {
+    position = static_cast<int>(Fitting(text.left(position)).size());
+    text = fitting;
+  }
+  return Acceptable;
+}
+
+}  // namespace barvon

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPointer>
+
+#include "platform/busy_cursor.h"
+#include "platform/event_pump.h"
+#include "platform/file_dialog.h"
+#include "platform/help_viewer.h"
+#include "platform/message_box.h"
+#include "platform/progress_display.h"
+#include "platform/qt/frm_progress_bar.h"
+
+namespace barvon {
+
+/// Binds every face of the platform to the toolkit for as long as it lives, and puts back what
+/// was bound before.
+class Qt_Services {
+ public:
+  Qt_Services();
+  ~Qt_Services();
+  Qt_Services(const Qt_Services&) = delete;
+  Qt_Services& operator=(const Qt_Services&) = delete;
+
+ private:
+  QPointer<frmProgress_Bar> progress_;  // the window that it stands on may go first
+  Message_Presenter messages_;
+  File_Dialog_Presenter file_dialogs_;
+  Progress_Presenter progress_displays_;
+  Cursor_Presenter cursor_;
+  Event_Pump pump_;
+  Help_Presenter help_;
+};
+
+/// Lets the toolkit process its events, asleep until one comes or the time is up.
+void Pump_Qt_Events(std::chrono::milliseconds longest);
+
+}  // namespace barvon

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolBar>
+
+#include "platform/qt/control_array.h"
+#include "platform/qt/latching_button.h"
+#include "workspace/status_area.h"
+
+namespace barvon {
+
+/// The controls of the main window. Who builds, fills and hears them stands elsewhere.
+struct Main_Controls {
+  explicit Main_Controls(QMainWindow* main)
+      : window(main),
+        Frame3D1(new QGroupBox(main)),
+        Title_Box(new QLineEdit(main)),
+        Label2(main, "Label2", 6),
+        Text2(main, "Text2", 6),
+        MethodFrame(new QGroupBox(main)),
+        SSOption1(main, "SSOption1", 3),
+        SSOption2(main, "SSOption2", 2),
+        SSRibbon2(main, "SSRibbon2", 1, 3),
+        SSCheck1(new QCheckBox(main)),
+        Label3(main, "Label3", 4),
+        SSRibbon1(main, "SSRibbon1", 1, 4),
+        Frame3D2(new QGroupBox(main)),
+        SiteLabel(main, "SiteLabel", 7),
+        Label5(main, "Label5", 2),
+        SSCheck2(main, "SSCheck2", 3),
+        Matlabel(main, "Matlabel", 4, 3),
+        SSCheck3(new QCheckBox(main)),
+        Label6(main, "Label6", 3),
+        SSPanel3(main, "SSPanel3", 10),
+        status_area(new Status_Area(main)),
+        Toolbar1(new QToolBar(main)) {}
+
+  QMainWindow* window;
+
+  // The main menu board.
+  QGroupBox* Frame3D1;
+  QLineEdit* Title_Box;
+  ControlArray<QLabel> Label2, Text2;  // data categories and their states
+  QGroupBox* MethodFrame;
+  ControlArray<QRadioButton> SSOption1, SSOption2;  // type of analysis, method of disposal
+  ControlArray<Latching_Button> SSRibbon2;          // (3): dilution calculator
+  QCheckBox* SSCheck1;
+  ControlArray<QLabel> Label3;
+  ControlArray<Latching_Button> SSRibbon1;  // (4): database
+
+  // The data board.
+  QGroupBox* Frame3D2;
+  ControlArray<QLabel> SiteLabel, Label5;
+  ControlArray<QCheckBox> SSCheck2;
+  ControlArray<QLabel> Matlabel;  // (3) to (6)
+  QCheckBox* SSCheck3;
+  ControlArray<QLabel> Label6;
+
+  // In view under both boards.
+  ControlArray<QPushButton> SSPanel3;
+  Status_Area* status_area;
+  QToolBar* Toolbar1;
+  QHash<QString, QAction*> actions;  // menu items and toolbar buttons by their names
+};
+
+}  // namespace barvon

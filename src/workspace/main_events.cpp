@@ -1,0 +1,229 @@
+#include "workspace/main_events.h"
+
+#include <QEvent>
+#include <functional>
+
+#include "core/path_lookup.h"
+#include "core/settings_keys.h"
+#include "core/workspace_port.h"
+#include "platform/help_viewer.h"
+#include "platform/message_box.h"
+#include "platform/profile_settings.h"
+#include "platform/qt/option_paint.h"
+#include "run/run_driver.h"
+#include "workspace/display_data.h"
+#include "workspace/edit_menu.h"
+#include "workspace/file_menu.h"
+#include "workspace/main_boards.h"
+#include "workspace/main_menus.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kGraphicsProgram[] = "KV_Graph.Exe";
+constexpr double kDilutionFileKind = 1;
+constexpr std::int16_t kDilutionKEY4 = 7;
+
+void Not_In_This_Version(const char* what) {
+  Port().show_note({std::string(what) + " is not part of this version.", ""});
+}
+
+void Graph() { Not_In_This_Version("The graphics command"); }
+
+void View_Graphics() {
+  if (!File_Exist(kGraphicsProgram)) {
+    Show_Message({"File: KV_graph.exe Not Found.", kMessageTitle, Buttons::Ok, Icon::Critical});
+    return;
+  }
+  Not_In_This_Version("The graphics program's hand-over");
+}
+
+void View_Output() { Not_In_This_Version("The output viewer"); }
+
+/// What an event of a control does before the control itself hears of it.
+class Early_Events : public QObject {
+ public:
+  Early_Events(Main_Controls& controls, ProjectRecord& record)
+      : QObject(controls.window), controls_(controls), record_(record) {
+    controls_.Title_Box->installEventFilter(this);
+    controls_.SSPanel3(6)->installEventFilter(this);
+    controls_.SSPanel3(6)->setMouseTracking(true);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == controls_.Title_Box) {
+      if (event->type() == QEvent::FocusIn) Paint_Text(controls_.Title_Box, kBlue);
+      if (event->type() == QEvent::FocusOut) Paint_Text(controls_.Title_Box, kBlack);
+    } else if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+      const QWidget* active = controls_.window->focusWidget();
+      record_.HelpContextToShow = active ? active->property("HelpContextID").toInt() : 0;
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  Main_Controls& controls_;
+  ProjectRecord& record_;
+};
+
+void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  switch (index) {
+    case 0:
+      Show_Data_Board(controls);
+      Set_Data_Items(controls, record);
+      break;
+    case 1:
+      Run_Model(record);
+      break;
+    case 2:
+      View_Graphics();
+      break;
+    case 4:
+      Show_Main_Board(controls);
+      break;
+    case 5:
+      mnuFileItem_Click(kFileExit, record);
+      break;
+    case 6:
+      if (record.HelpContextToShow == 0) {
+        Show_Help({Help_Command::Index, 0, ""});
+      } else {
+        Show_Help({Help_Command::Context, record.HelpContextToShow, ""});
+      }
+      break;
+    case 7:
+      View_Output();
+      break;
+    case 8:
+      mnuFileItem_Click(kFileSave, record);
+      break;
+    case 9:
+      Show_Blocking_Screen("Data_Wiz");
+      Display_Data(controls, record);
+      break;
+    default:  // 3, "Update Database", does nothing.
+      break;
+  }
+}
+
+void Edit_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  if (index == 3) SSPanel3_Click(controls, record, 0);
+  mnuEditItem_Click(index, record);
+}
+
+void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  QAction* item = Action_Of(controls, "mnuViewItem", index);
+  switch (index) {
+    case 1:
+      View_Output();
+      break;
+    case 3:
+      controls.Toolbar1->setVisible(item->isChecked());
+      break;
+    case 4:  // The mark stays: the status bar is always in view.
+      item->setChecked(true);
+      break;
+    case 6:
+      record.ShowMode = item->isChecked() ? 0 : 1;
+      break;
+    default:
+      break;
+  }
+}
+
+void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  const bool marked = Action_Of(controls, "mnuOptionItem", index)->isChecked();
+  if (index == 0) {
+    record.WizardHelpOn = marked ? kTrue : kFalse;
+    Write_Profile_String(Settings_Path(), kHelpStatusSection, kHelpOnKey,
+                         marked ? "On  " : "Off  ");
+  } else {
+    record.AlwaysSaveBeforeRun = marked ? kTrue : kFalse;
+  }
+}
+
+void Help_Click(int index) {
+  if (index == 0) Show_Help({Help_Command::Finder, 0, ""});
+  if (index == 1) Show_Help({Help_Command::PartialKey, 0, ""});
+  if (index == 3) Show_Blocking_Screen("frmAbout");
+}
+
+void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  switch (index) {
+    case 1:
+      return mnuFileItem_Click(kFileNew, record);
+    case 2:
+      return mnuFileItem_Click(kFileOpen, record);
+    case 3:
+      return mnuFileItem_Click(kFileSave, record);
+    case 5:
+      return mnuFileItem_Click(kFilePrint, record);
+    case 6:
+      return SSPanel3_Click(controls, record, 1);
+    case 8:
+      return Graph();
+    case 9:
+      return Edit_Click(controls, record, 8);
+    case 11:
+      return Help_Click(0);
+    default:
+      return;
+  }
+}
+
+/// Binds every action of an array to one operation that takes the index.
+void Connect_Array(Main_Controls& controls, const char* array,
+                   const std::function<void(int)>& operation) {
+  for (int index = 0; index <= 11; ++index) {
+    QAction* action = Action_Of(controls, array, index);
+    if (action == nullptr || action->isSeparator()) continue;
+    QObject::connect(action, &QAction::triggered, controls.window,
+                     [operation, index] { operation(index); });
+  }
+}
+
+void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
+  Connect_Array(c, "mnuFileItem", [&record](int i) { mnuFileItem_Click(i, record); });
+  Connect_Array(c, "mnuRecentFile", [&record](int i) { mnuRecentFile_Click(i, record); });
+  Connect_Array(c, "mnuEditItem", [&c, &record](int i) { Edit_Click(c, record, i); });
+  Connect_Array(c, "mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); });
+  Connect_Array(c, "mnuGraph", [](int) { Graph(); });
+  Connect_Array(c, "mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); });
+  Connect_Array(c, "mnuHelpItem", Help_Click);
+  Connect_Array(c, "Toolbar1", [&c, &record](int i) { Toolbar_Click(c, record, i); });
+  QObject::connect(Action_Of(c, "mnuRun"), &QAction::triggered, c.window,
+                   [&c, &record] { SSPanel3_Click(c, record, 1); });
+}
+
+}  // namespace
+
+void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
+  new Early_Events(c, record);
+  Connect_Menus(c, record);
+  QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window,
+                   [&record](const QString& text) { record.ProjectTitle = text.toStdString(); });
+  for (int i = 0; i < 3; ++i) {
+    QObject::connect(c.SSOption1(i), &QRadioButton::clicked, c.window,
+                     [&c, &record, i] { SSOption1_Click(c, record, i); });
+  }
+  for (int i = 0; i < 2; ++i) {
+    QObject::connect(c.SSOption2(i), &QRadioButton::clicked, c.window,
+                     [&c, &record, i] { SSOption2_Click(c, record, i); });
+  }
+  for (int i = 0; i < 10; ++i) {
+    QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,
+                     [&c, &record, i] { SSPanel3_Click(c, record, i); });
+  }
+  c.SSRibbon1(4)->When_Down([] {
+    Show_Message(
+        {"This Feature is Unavailable at This Time.", kMessageTitle, Buttons::Ok, Icon::Warning});
+  });
+  c.SSRibbon2(3)->When_Down([&c, &record] {
+    record.FileKind = kDilutionFileKind;
+    record.KEY4 = kDilutionKEY4;
+    SetMenuAvailability(c, Menu_Mode::Dilution);
+    Show_Blocking_Screen("frmDilute2");
+  });
+}
+
+}  // namespace barvon

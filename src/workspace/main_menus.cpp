@@ -1,0 +1,136 @@
+#include "workspace/main_menus.h"
+
+#include <QMenuBar>
+
+#include "core/recent_files.h"
+
+namespace barvon {
+namespace {
+
+struct Tool {
+  int index;
+  const char* tip;
+  const char* picture;  // none: a separator
+};
+
+/// Indices count the separators.
+constexpr Tool kTools[] = {
+    {1, "Create New Project", "new"},
+    {2, "Open Existing Project", "open"},
+    {3, "Save Current Project", "save"},
+    {4, "", nullptr},
+    {5, "Print Results", "print"},
+    {6, "Run Simulation", "run"},
+    {7, "", nullptr},
+    {8, "Generate Graphics", "graphics"},
+    {9, "Check for Errors", "check"},
+    {10, "", nullptr},
+    {11, "BARVON Help", "help"},
+};
+
+QString Indexed(const char* array, int index) {
+  return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
+}
+
+QAction* Named(Main_Controls& controls, QAction* action, const QString& name) {
+  action->setObjectName(name);
+  action->setMenuRole(QAction::NoRole);
+  controls.actions.insert(name, action);
+  return action;
+}
+
+void Add_Item(Main_Controls& controls, QMenu* menu, const char* array, const Menu_Item& item) {
+  const bool separator = *item.caption == '\0';
+  QAction* action = separator ? menu->addSeparator() : menu->addAction(QLatin1String(item.caption));
+  Named(controls, action, Indexed(array, item.index));
+  action->setEnabled(item.enabled);
+  action->setVisible(item.visible);
+  action->setCheckable(item.has_mark);
+  action->setChecked(item.marked);
+  action->setStatusTip(QLatin1String(item.hint));
+}
+
+void Add_Recent_Files(Main_Controls& controls, QMenu* menu) {
+  Named(controls, menu->addSeparator(), Indexed("mnuRecentFile", 0))->setVisible(false);
+  for (int i = 1; i <= kRecentFiles; ++i) {
+    QAction* action = menu->addAction(QString::fromStdString(Recent_Caption(i, "")));
+    Named(controls, action, Indexed("mnuRecentFile", i))->setVisible(false);
+  }
+}
+
+void Add_Menu(Main_Controls& controls, const Menu& entry) {
+  QMenuBar* bar = controls.window->menuBar();
+  if (entry.items.empty()) {
+    QAction* command = bar->addAction(QLatin1String(entry.caption));
+    Named(controls, command, QLatin1String(entry.name))->setEnabled(entry.enabled);
+    return;
+  }
+  QMenu* menu = bar->addMenu(QLatin1String(entry.caption));
+  menu->setObjectName(QLatin1String(entry.name));
+  QAction* title = Named(controls, menu->menuAction(), QLatin1String(entry.name));
+  title->setVisible(entry.visible);
+  title->setStatusTip(QLatin1String(entry.hint));
+  for (const Menu_Item& item : entry.items) Add_Item(controls, menu, entry.array, item);
+  if (QLatin1String(entry.name) == QLatin1String("mnuFile")) Add_Recent_Files(controls, menu);
+}
+
+void Build_Toolbar(Main_Controls& controls) {
+  QToolBar* bar = controls.Toolbar1;
+  bar->setObjectName(QStringLiteral("Toolbar1"));
+  bar->setWindowTitle(QStringLiteral("Toolbar"));
+  bar->setAccessibleName(QStringLiteral("Toolbar"));
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  bar->setIconSize(QSize(22, 22));
+  for (const Tool& tool : kTools) {
+    const bool separator = tool.picture == nullptr;
+    QAction* action = separator ? bar->addSeparator() : bar->addAction(QLatin1String(tool.tip));
+    if (!separator) {
+      action->setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(tool.picture))));
+    }
+    Named(controls, action, Indexed("Toolbar1", tool.index));
+  }
+  controls.window->addToolBar(bar);
+  controls.window->setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+}  // namespace
+
+void Build_Menus(Main_Controls& controls) {
+  for (const Menu& entry : Menu_Tree()) Add_Menu(controls, entry);
+  Build_Toolbar(controls);
+}
+
+QAction* Action_Of(const Main_Controls& controls, const char* array, int index) {
+  return controls.actions.value(Indexed(array, index));
+}
+
+QAction* Action_Of(const Main_Controls& controls, const char* name) {
+  return controls.actions.value(QLatin1String(name));
+}
+
+void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
+  for (const Menu& entry : Menu_Tree()) {
+    if (entry.gate != Gate::None) {
+      Action_Of(controls, entry.name)->setEnabled(Is_Available(entry.gate, mode));
+    }
+    for (const Menu_Item& item : entry.items) {
+      if (item.gate == Gate::None) continue;
+      Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
+    }
+  }
+}
+
+void Show_Recent_Menu(Main_Controls& controls) {
+  bool any = false;
+  for (int i = 1; i <= kRecentFiles; ++i) {
+    const std::string& path = Recent_Menu().at(static_cast<std::size_t>(i));
+    QAction* action = Action_Of(controls, "mnuRecentFile", i);
+    action->setText(QString::fromStdString(Recent_Caption(i, path)));
+    action->setVisible(!path.empty());
+    any = any || !path.empty();
+  }
+  Action_Of(controls, "mnuRecentFile", 0)->setVisible(any);
+}
+
+}  // namespace barvon

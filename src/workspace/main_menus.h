@@ -1,0 +1,22 @@
+#pragma once
+
+#include "workspace/main_controls.h"
+#include "workspace/menu_tree.h"
+
+namespace barvon {
+
+/// Builds the menu bar from the menu tree, and the toolbar. Every item is an action of its own
+/// name: "mnuFileItem(4)", "mnuRecentFile(1)", "mnuRun", "Toolbar1(3)".
+void Build_Menus(Main_Controls& controls);
+
+/// The action of that name; it stands as long as the window.
+QAction* Action_Of(const Main_Controls& controls, const char* array, int index);
+QAction* Action_Of(const Main_Controls& controls, const char* name);
+
+/// The gate: which commands can be chosen.
+void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
+
+/// Shows the recent files as the menu holds them.
+void Show_Recent_Menu(Main_Controls& controls);
+
+}  // namespace barvon

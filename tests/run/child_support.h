@@ -1,0 +1,111 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/event_pump.h"
+#include "support/plain_support.h"
+
+namespace barvon::testing {
+
+/// Waits for something that comes by itself, however slow the machine is; gives up after minutes,
+/// so that a fault does not hang the tests.
+inline bool Comes_True(const std::function<bool()>& condition) {
+  for (int tries = 0; tries < 24000; ++tries) {
+    if (condition()) return true;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return false;
+}
+
+/// The number that a child wrote to a file.
+inline pid_t Pid_In(const std::string& path) {
+  return static_cast<pid_t>(std::atol(Read_Text(path).c_str()));
+}
+
+/// True while a process of that number runs. One that has ended and waits for its parent's notice
+/// does not run.
+inline bool Is_Alive(pid_t pid) {
+  if (::kill(pid, 0) != 0) return false;
+  const std::string stat = Read_Text("/proc/" + std::to_string(pid) + "/stat");
+  const auto name_end = stat.rfind(')');
+  return name_end != std::string::npos && stat.at(name_end + 2) != 'Z' &&
+         stat.at(name_end + 2) != 'X';
+}
+
+/// Another value of an environment variable while it lives.
+class Changed_Variable {
+ public:
+  Changed_Variable(std::string name, const std::string& value) : name_(std::move(name)) {
+    if (const char* former = std::getenv(name_.c_str())) former_ = former;
+    ::setenv(name_.c_str(), value.c_str(), 1);
+  }
+  ~Changed_Variable() { ::setenv(name_.c_str(), former_.c_str(), 1); }
+  Changed_Variable(const Changed_Variable&) = delete;
+  Changed_Variable& operator=(const Changed_Variable&) = delete;
+
+ private:
+  std::string name_, former_;
+};
+
+/// An application directory with a stand-in solver in it, and a workspace that listens.
+class Solver_Bench {
+ public:
+  Solver_Bench() : former_folder_(Application_Folder()) {
+    std::filesystem::create_directory(app());
+    std::filesystem::current_path(app());
+    Set_Application_Folder(app());
+    former_pump_ = Set_Event_Pump(nullptr);
+    Reset_Port();
+    Port().show_note = [this](const Status_Note& note) { notes.push_back(note); };
+    Port().run_state = [this](bool running, const std::string& program) {
+      states.push_back((running ? "on " : "off ") + program);
+    };
+  }
+  ~Solver_Bench() {
+    Reset_Port();
+    Set_Event_Pump(std::move(former_pump_));
+    Set_Application_Folder(former_folder_);
+  }
+  Solver_Bench(const Solver_Bench&) = delete;
+  Solver_Bench& operator=(const Solver_Bench&) = delete;
+
+  std::string app() const { return folder / "app"; }
+  std::string operator/(const std::string& name) const { return app() + "/" + name; }
+
+  /// Puts the stand-in there under a name, with what it is to do.
+  void Install(const std::string& name, const std::string& steps) {
+    std::filesystem::copy_file(BARVON_TEST_CHILD, *this / name);
+    Write_Text(*this / "test_child.steps", steps);
+  }
+  /// Calls back each time the wait for a program lets the interface live.
+  void While_Waiting(std::function<void()> event) {
+    Set_Event_Pump([this, event](std::chrono::milliseconds longest) {
+      ++pumped;
+      event();
+      std::this_thread::sleep_for(longest);
+    });
+  }
+
+  Scratch_Folder folder;
+  std::vector<Status_Note> notes;
+  std::vector<std::string> states;
+  int pumped = 0;
+
+ private:
+  std::string former_folder_;
+  Event_Pump former_pump_;
+};
+
+}  // namespace barvon::testing

@@ -1,0 +1,254 @@
+#include "run/run_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "run/run_driver_fixture.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+namespace fs = std::filesystem;
+
+TEST_F(RunDriver, A_Run_Keeps_Its_Outputs_Under_The_Projects_Name) {
+  Install(std::string("print:done\n") + kWritesAll);
+  record.OutputsCopied = kTrue;
+  const Run_Report report = Run();
+  EXPECT_EQ(report.stage, Run_Stage::Ended);
+  EXPECT_TRUE(report.Succeeded());
+  EXPECT_EQ(report.outcome.program, bench / "merak32");
+  EXPECT_EQ(report.kept,
+            (std::vector<std::string>{base + ".duo", base + ".dup", base + ".dut", base + ".duc"}));
+  EXPECT_EQ(Kept(".duo") + Kept(".dup") + Kept(".dut") + Kept(".duc"), "optc");
+  EXPECT_EQ(record.FileTypeTag, "DUE");
+  EXPECT_EQ(record.OutputsCopied, kFalse);
+  EXPECT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(Note(), report.text);
+  EXPECT_EQ(Note().substr(0, Note().find(" after")), (bench / "merak32") + " ended with code 0");
+  EXPECT_EQ(bench.notes.at(0).details, "");
+}
+
+TEST_F(RunDriver, The_Graphics_Program_Is_Told_The_Project) {
+  Install(kWritesAll);
+  Run();
+  EXPECT_EQ(Graph_File(), base + ".DUI");
+}
+
+TEST_F(RunDriver, The_Solver_Finds_Model_Input_And_Marker) {
+  Install("copy:Tmpfile.Due=seen.due\ncopy:KOLBREE.TMP=seen.tmp\n");
+  Run();
+  // 6 + 1 + 1 + 1 + 28 + 1 characters, 37 + 1, the scratch name in 8, and 1 + 27 + 1.
+  const std::string blanks27(27, ' ');
+  const std::string marker = "DUE   , ," + std::string(28, ' ') + "," + std::string(37, ' ') +
+                             ",TmpFile ," + blanks27 + ",\r\n";
+  EXPECT_EQ(marker.size(), 113u + 2u);
+  EXPECT_EQ(Read_Text(bench / "seen.tmp"), marker);
+  EXPECT_TRUE(Exists(bench / "seen.due"));
+}
+
+TEST_F(RunDriver, The_Model_Input_Is_That_Of_The_Record) {
+  Install("copy:Tmpfile.Due=seen.due\n");
+  Run();
+  EXPECT_EQ(Read_Text(bench / "seen.due").substr(0, 17), "    DUE       3\r\n");
+}
+
+TEST_F(RunDriver, A_Solver_That_Names_Its_Outputs_In_Capitals_Is_Understood) {
+  Install("write:TMPFILE.DUO=o\nwrite:TMPFILE.DUP=p\nwrite:TMPFILE.DUT=t\nwrite:TMPFILE.DUC=c\n");
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(Kept(".duo") + Kept(".dup") + Kept(".dut") + Kept(".duc"), "optc");
+}
+
+TEST_F(RunDriver, A_Solver_That_Fails_Is_No_Success_And_Its_Outputs_Are_Kept_All_The_Same) {
+  Install(std::string(kWritesAll) + "print:bad layer\nexit:3\n");
+  const Run_Report report = Run();
+  EXPECT_EQ(report.stage, Run_Stage::Ended);
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_TRUE(shown.empty());
+  EXPECT_EQ(Kept(".duo"), "o");
+  EXPECT_NE(Note().find("ended with code 3 after"), std::string::npos);
+  EXPECT_EQ(bench.notes.at(0).details, "bad layer\n");
+}
+
+TEST_F(RunDriver, A_Solver_That_Dies_By_A_Signal_Is_No_Success) {
+  Install("signal:11\n");
+  EXPECT_FALSE(Run().Succeeded());
+  EXPECT_NE(Note().find("was ended by signal 11 (SEGV) after"), std::string::npos);
+  EXPECT_NE(Note().find("no outputs kept"), std::string::npos);
+}
+
+TEST_F(RunDriver, A_Solver_That_Is_Missing_Shows_No_Box_And_Leaves_Older_Outputs) {
+  Write_Text(base + ".duo", "older");
+  const Run_Report report = Run();
+  EXPECT_EQ(report.stage, Run_Stage::Not_Started);
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_TRUE(shown.empty());
+  EXPECT_TRUE(report.kept.empty());
+  EXPECT_EQ(Kept(".duo"), "older");
+  EXPECT_EQ(Note().substr(0, 33), "Not run: DOS4GW was found neither");
+  EXPECT_TRUE(Exists(bench / "Tmpfile.Due"));
+}
+
+TEST_F(RunDriver, A_Missing_Solver_Does_Not_File_Another_Runs_Outputs_Under_This_Project) {
+  fs::current_path("/");
+  Write_Text(bench / "tmpfile.duo", "another project's");
+  Write_Text(base + ".duo", "older");
+  EXPECT_EQ(Run().stage, Run_Stage::Not_Started);
+  EXPECT_EQ(Kept(".duo"), "older");
+}
+
+TEST_F(RunDriver, Missing_Outputs_Are_Skipped) {
+  Write_Text(base + ".dut", "older");
+  Install("write:tmpfile.duo=o\nwrite:tmpfile.duc=c\n");
+  const Run_Report report = Run();
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_EQ(report.kept, (std::vector<std::string>{base + ".duo", base + ".duc"}));
+  EXPECT_EQ(report.not_written, (std::vector<std::string>{".dup", ".dut"}));
+  EXPECT_EQ(Kept(".duo"), "o");
+  EXPECT_EQ(Kept(".dut"), "older");
+  EXPECT_FALSE(Exists(base + ".dup"));
+  EXPECT_NE(Note().find("not written by this run: .dup, .dut."), std::string::npos);
+}
+
+TEST_F(RunDriver, A_Copy_That_Fails_Is_Passed_Over) {
+  Install(kWritesAll);
+  fs::create_directory(base + ".duo");
+  EXPECT_FALSE(Run().Succeeded());
+  EXPECT_EQ(Kept(".duc"), "c");
+  EXPECT_NE(Note().find("could not be kept: .duo (Is a directory)"), std::string::npos);
+}
+
+TEST_F(RunDriver, Outputs_Go_To_The_Project_That_Was_Run) {
+  Install(std::string("await:go\n") + kWritesAll);
+  bench.While_Waiting([this] {
+    record.BaseFileName = bench.folder / "bay/other";
+    record.ProjectFileName = bench.folder / "bay/other.DUI";
+    Write_Text(bench / "go", "");
+  });
+  Run();
+  EXPECT_EQ(Kept(".duo"), "o");
+  EXPECT_FALSE(Exists(bench.folder / "bay/other.duo"));
+}
+
+// ---- Scratch files
+
+TEST_F(RunDriver, Old_Scratch_Files_Are_Gone_Before_The_Solver_Starts) {
+  for (const char* name : {"Tmpfile.old", "TMPFILE.DUT", "tmpfile.duo"}) {
+    Write_Text(bench / name, "old");
+  }
+  Write_Text(bench / "other.duo", "stays");
+  Install("copy:Tmpfile.old=seen1\ncopy:TMPFILE.DUT=seen2\ncopy:tmpfile.duo=seen3\n");
+  EXPECT_TRUE(Run().kept.empty());
+  for (const char* name : {"seen1", "seen2", "seen3"}) EXPECT_EQ(Read_Text(bench / name), "");
+  EXPECT_FALSE(Exists(bench / "Tmpfile.old"));
+  EXPECT_TRUE(Exists(bench / "other.duo"));
+}
+
+TEST_F(RunDriver, Scratch_Files_Are_Deleted_In_The_Current_Directory_Only) {
+  fs::create_directory(bench.folder / "here");
+  fs::current_path(bench.folder / "here");
+  Write_Text(bench.folder / "here/TMPFILE.DUC", "old");
+  Write_Text(bench / "tmpfile.duo", "of an earlier run");
+  Install("write:tmpfile.dup=p\n");
+  const Run_Report report = Run();
+  EXPECT_FALSE(Exists(bench.folder / "here/TMPFILE.DUC"));
+  EXPECT_EQ(Read_Text(bench / "tmpfile.duo"), "of an earlier run");
+  EXPECT_EQ(report.kept, (std::vector<std::string>{base + ".duo", base + ".dup"}));
+  EXPECT_EQ(report.not_written, (std::vector<std::string>{".duo", ".dut", ".duc"}));
+  EXPECT_EQ(report.earlier, std::vector<std::string>{".duo"});
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_EQ(fs::current_path(), bench.app());
+}
+
+TEST_F(RunDriver, Links_Among_The_Scratch_Files_Are_Removed_And_Folders_Left) {
+  Write_Text(bench / "precious", "kept");
+  fs::create_symlink(bench / "precious", bench / "Tmpfile.lnk");
+  fs::create_directory(bench / "tmpfile.dir");
+  Install("");
+  Run();
+  EXPECT_FALSE(Exists(bench / "Tmpfile.lnk"));
+  EXPECT_EQ(Read_Text(bench / "precious"), "kept");
+  EXPECT_TRUE(Exists(bench / "tmpfile.dir"));
+}
+
+TEST_F(RunDriver, Links_Planted_Under_The_Solvers_Files_Are_Not_Followed) {
+  fs::current_path("/");
+  Write_Text(bench / "precious", "kept");
+  for (const char* name :
+       {"Tmpfile.Due", "KOLBREE.TMP", "kolbree.tmp", "TMPFILE.DUE", "Tmpfile.log"}) {
+    fs::create_symlink(bench / "precious", bench / name);
+  }
+  Install("print:text\ncopy:KOLBREE.TMP=seen\n");
+  EXPECT_EQ(Run().stage, Run_Stage::Ended);
+  EXPECT_EQ(Read_Text(bench / "precious"), "kept");
+  EXPECT_EQ(Read_Text(bench / "seen").substr(0, 6), "DUE   ");
+  EXPECT_FALSE(fs::is_symlink(bench / "Tmpfile.Due"));
+  EXPECT_FALSE(fs::is_symlink(bench / "KOLBREE.TMP"));
+  EXPECT_FALSE(Exists(bench / "kolbree.tmp"));
+  EXPECT_FALSE(Exists(bench / "TMPFILE.DUE"));
+}
+
+TEST_F(RunDriver, A_Model_Input_That_Can_Not_Be_Written_Starts_Nothing) {
+  fs::create_directory(bench / "Tmpfile.Due");
+  Install(kWritesAll);
+  const Run_Report report = Run({Answer::Ok});
+  EXPECT_EQ(report.stage, Run_Stage::Input_Failed);
+  Expect_One_Box("Could not Excecute Preprocessor!", "BARVON", Icon::None);
+  EXPECT_TRUE(bench.states.empty());
+  EXPECT_FALSE(Exists(bench / "tmpfile.duo"));
+  EXPECT_EQ(Note(), "Not run: Tmpfile.Due could not be written (Path not usable).");
+  EXPECT_TRUE(Exists(bench / "KOLBREE.TMP"));
+  EXPECT_FALSE(Exists(bench / "BARVON.INI"));
+}
+
+TEST_F(RunDriver, A_Marker_That_Can_Not_Be_Written_Starts_Nothing) {
+  fs::create_directory(bench / "KOLBREE.TMP");
+  Install(kWritesAll);
+  EXPECT_EQ(Run({Answer::Ok}).stage, Run_Stage::Input_Failed);
+  EXPECT_EQ(Note(), "Not run: KOLBREE.TMP could not be written (Path not usable).");
+  EXPECT_TRUE(bench.states.empty());
+}
+
+TEST_F(RunDriver, A_Zero_Spacing_Starts_Nothing_And_Leaves_No_Half_Of_A_Model_Input) {
+  fs::current_path("/");
+  Write_Text(bench / "TMPFILE.DUE", "of an earlier run");
+  Install(kWritesAll);
+  record.DX0 = record.DZ0 = 0;
+  // The site now lies outside the grid; the user runs it all the same.
+  const Run_Report report = Run({Answer::No, Answer::Ok});
+  EXPECT_EQ(report.stage, Run_Stage::Input_Failed);
+  ASSERT_EQ(shown.size(), 2u);
+  EXPECT_EQ(shown[1].text, "Could not Excecute Preprocessor!");
+  EXPECT_TRUE(bench.states.empty());
+  EXPECT_FALSE(Exists(bench / "Tmpfile.Due"));
+  EXPECT_FALSE(Exists(bench / "TMPFILE.DUE"));
+  EXPECT_EQ(Note(), "Not run: the model input could not be written (Division by zero).");
+}
+
+TEST_F(RunDriver, Continuous_Discharge_Writes_Its_Input_And_Has_No_Model) {
+  Install(kWritesAll);
+  for (const std::int16_t method : {2, 4}) {
+    fs::remove(bench / "KOLBREE.TMP");
+    record.DisposalMethod = method;
+    EXPECT_EQ(Run({Answer::Ok}).stage, Run_Stage::No_Model);
+    Expect_One_Box("No Model is currently available for this discharge case.", "BARVON",
+                   Icon::None);
+    EXPECT_TRUE(Exists(bench / "Tmpfile.Due"));
+    EXPECT_TRUE(Exists(bench / "KOLBREE.TMP"));
+    EXPECT_TRUE(bench.states.empty());
+    EXPECT_FALSE(Exists(bench / "BARVON.INI"));
+    EXPECT_EQ(Note(), "Not run: no model is available for this discharge case.");
+  }
+}
+
+TEST_F(RunDriver, The_Hopper_Is_Run_Too) {
+  record.DisposalMethod = 1;
+  record.BINL = record.BINW = 50;
+  record.NOPENS = record.NBINS = 1;
+  Install(kWritesAll);
+  EXPECT_TRUE(Run().Succeeded());
+}
+
+}  // namespace
+}  // namespace barvon

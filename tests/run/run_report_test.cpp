@@ -1,0 +1,100 @@
+#include "run/run_report.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <cerrno>
+
+namespace barvon {
+namespace {
+
+using std::chrono::milliseconds;
+
+Run_Report Ended_Run() {
+  Run_Report report;
+  report.stage = Run_Stage::Ended;
+  report.outcome.started = true;
+  report.outcome.program = "/app/merak32";
+  report.outcome.duration = milliseconds(2340);
+  return report;
+}
+
+std::vector<Kept_Output> All_Kept() {
+  return {{".duo", true, "/bay/site.duo", 0},
+          {".dup", true, "/bay/site.dup", 0},
+          {".dut", true, "/bay/site.dut", 0},
+          {".duc", true, "/bay/site.duc", 0}};
+}
+
+TEST(RunReport, A_Run_That_Wrote_And_Kept_All_Four_Outputs_Succeeded) {
+  Run_Report report = Ended_Run();
+  report.Add_Outputs(All_Kept());
+  EXPECT_TRUE(report.Succeeded());
+  EXPECT_EQ(Status_Text(report),
+            "/app/merak32 ended with code 0 after 2.3 s; "
+            "kept site.duo, site.dup, site.dut, site.duc in /bay.");
+}
+
+TEST(RunReport, Anything_Less_Is_No_Success) {
+  Run_Report report = Ended_Run();
+  EXPECT_FALSE(report.Succeeded());
+  report.Add_Outputs(All_Kept());
+  for (const auto& spoil :
+       std::vector<void (*)(Run_Report&)>{[](Run_Report& it) { it.outcome.end.exit_code = 1; },
+                                          [](Run_Report& it) { it.outcome.end.signal = SIGSEGV; },
+                                          [](Run_Report& it) { it.outcome.end.stopped = true; },
+                                          [](Run_Report& it) { it.outcome.started = false; },
+                                          [](Run_Report& it) { it.stage = Run_Stage::Not_Started; },
+                                          [](Run_Report& it) { it.not_written.push_back(".duc"); },
+                                          [](Run_Report& it) { it.kept.pop_back(); }}) {
+    Run_Report spoilt = report;
+    spoil(spoilt);
+    EXPECT_FALSE(spoilt.Succeeded());
+  }
+}
+
+TEST(RunReport, The_Text_Tells_What_This_Run_Did_Not_Write) {
+  Run_Report report = Ended_Run();
+  report.outcome.end.exit_code = 3;
+  report.Add_Outputs({{".duo", true, "/bay/site.duo", 0},
+                      {".dup", false, "/bay/site.dup", 0},
+                      {".dut", false, "", 0},
+                      {".duc", true, "", EACCES}});
+  EXPECT_EQ(Status_Text(report),
+            "/app/merak32 ended with code 3 after 2.3 s; kept site.duo, site.dup in /bay; "
+            "not written by this run: .dup, .dut; kept from an earlier run: .dup; "
+            "could not be kept: .duc (Permission denied).");
+}
+
+TEST(RunReport, The_Text_Tells_The_Signal) {
+  Run_Report report = Ended_Run();
+  report.outcome.end.signal = SIGSEGV;
+  report.outcome.duration = milliseconds(49);
+  report.Add_Outputs({{".duo", false, "", 0}});
+  EXPECT_EQ(Status_Text(report),
+            "/app/merak32 was ended by signal 11 (SEGV) after 0.0 s; no outputs kept; "
+            "not written by this run: .duo.");
+}
+
+TEST(RunReport, The_Text_Tells_Why_Nothing_Was_Run) {
+  Run_Report report;
+  report.outcome.problem = "no program is named";
+  report.problem = "Tmpfile.Due could not be written (Disk full)";
+  const auto text = [&](Run_Stage stage) {
+    report.stage = stage;
+    return Status_Text(report);
+  };
+  EXPECT_EQ(text(Run_Stage::Not_Started), "Not run: no program is named.");
+  EXPECT_EQ(text(Run_Stage::Input_Failed),
+            "Not run: Tmpfile.Due could not be written (Disk full).");
+  EXPECT_EQ(text(Run_Stage::No_Model),
+            "Not run: no model is available for this discharge case; "
+            "Tmpfile.Due could not be written (Disk full).");
+  for (const Run_Stage stage : {Run_Stage::Refused, Run_Stage::No_File, Run_Stage::Invalid_Type,
+                                Run_Stage::Errors, Run_Stage::Cancelled, Run_Stage::Save_Failed}) {
+    EXPECT_EQ(text(stage).substr(0, 9), "Not run: ");
+  }
+}
+
+}  // namespace
+}  // namespace barvon

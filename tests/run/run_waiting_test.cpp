@@ -1,0 +1,99 @@
+#include "run/run_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "run/run_driver_fixture.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+namespace fs = std::filesystem;
+
+using RunWaiting = RunDriver;
+
+TEST_F(RunWaiting, The_Interface_Lives_During_A_Run) {
+  Install(std::string("await:go\n") + kWritesAll);
+  bench.While_Waiting([this] {
+    EXPECT_TRUE(Run_Is_Under_Way());
+    if (bench.pumped == 40) Write_Text(bench / "go", "");
+  });
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_GE(bench.pumped, 40);
+  EXPECT_EQ(bench.states,
+            (std::vector<std::string>{"on " + (bench / "merak32"), "off " + (bench / "merak32")}));
+}
+
+TEST_F(RunWaiting, Run_During_A_Run_Starts_Nothing_And_Says_So) {
+  Install(std::string("write:tmpfile.part=p\nawait:go\n") + kWritesAll);
+  Run_Report second;
+  bench.While_Waiting([&] {
+    if (!Exists(bench / "tmpfile.part") || Exists(bench / "go")) return;
+    second = Run_Model(record);
+    EXPECT_TRUE(Exists(bench / "tmpfile.part"));
+    Write_Text(bench / "go", "");
+  });
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(second.stage, Run_Stage::Refused);
+  EXPECT_EQ(bench.states.size(), 2u);
+  ASSERT_EQ(bench.notes.size(), 2u);
+  EXPECT_EQ(bench.notes[0].text, "Not run: another run is under way.");
+}
+
+TEST_F(RunWaiting, A_Stopped_Run_Leaves_Earlier_Outputs_And_Nothing_Running) {
+  Write_Text(base + ".duo", "older");
+  Install(std::string(kWritesAll) + "session:grandchild\nawait:never\n");
+  bench.While_Waiting([this] {
+    if (Exists(bench / "grandchild")) Stop_Run();
+  });
+  const Run_Report report = Run();
+  EXPECT_EQ(report.stage, Run_Stage::Stopped);
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_TRUE(report.kept.empty());
+  EXPECT_EQ(Kept(".duo"), "older");
+  EXPECT_FALSE(Exists(base + ".dup"));
+  EXPECT_FALSE(Is_Alive(Pid_In(bench / "grandchild")));
+  EXPECT_EQ(Note().substr(0, Note().find(" after")), (bench / "merak32") + " was stopped");
+  EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(RunWaiting, The_Programs_End_During_A_Run_Touches_Nothing_More) {
+  Write_Text(base + ".duo", "older");
+  Install(std::string(kWritesAll) + "ignore-term\nchild:grandchild\nawait:never\n");
+  bench.While_Waiting([this] {
+    if (!Exists(bench / "grandchild")) return;
+    Stop_Run_And_Wait();
+    EXPECT_FALSE(Is_Alive(Pid_In(bench / "grandchild")));
+    Port().show_note = [](const Status_Note&) { ADD_FAILURE() << "the window is gone"; };
+    Port().run_state = [](bool, const std::string&) { ADD_FAILURE() << "the window is gone"; };
+  });
+  const Run_Report report = Run();
+  EXPECT_EQ(report.stage, Run_Stage::Stopped);
+  EXPECT_TRUE(shown.empty());
+  EXPECT_EQ(Kept(".duo"), "older");
+  EXPECT_FALSE(Exists(base + ".dup"));
+  EXPECT_FALSE(Exists(bench / "BARVON.INI"));
+}
+
+TEST_F(RunWaiting, A_Run_That_Ends_By_Itself_As_The_Program_Ends_Is_Not_Kept_Either) {
+  Install(std::string("pid:self\nawait:go\n") + kWritesAll);
+  bench.While_Waiting([this] {
+    if (!Exists(bench / "self")) return;
+    Write_Text(bench / "go", "");
+    EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(bench / "self")); }));
+    Stop_Run_And_Wait();
+  });
+  EXPECT_EQ(Run().stage, Run_Stage::Stopped);
+  EXPECT_FALSE(Exists(base + ".duo"));
+}
+
+TEST_F(RunWaiting, Set_Application_Directory_Makes_It_The_Current_One) {
+  fs::current_path("/");
+  Set_Application_Directory();
+  EXPECT_EQ(fs::current_path(), bench.app());
+}
+
+}  // namespace
+}  // namespace barvon

@@ -1,0 +1,155 @@
+#include "run/solver_command.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "run/child_support.h"
+#include "run/solver_table.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+namespace fs = std::filesystem;
+
+using Command = std::vector<std::string>;
+
+constexpr char kSolver[] = "DOS4GW MERAK32.EXE";
+
+struct SolverCommand : ::testing::Test {
+  SolverCommand() : path("PATH", "relative::" + (folder / "one") + ":" + (folder / "two")) {
+    for (const char* name : {"app", "one", "two"}) fs::create_directory(folder / name);
+  }
+  void Script(const std::string& name) {
+    Write_Text(folder / name, "#!/bin/true\n");
+    fs::permissions(folder / name, fs::perms::owner_all);
+  }
+  Solver_Command Find(const std::string& line) { return Find_Solver_Command(line, folder / "app"); }
+  std::string Problem(const std::string& line) {
+    const Solver_Command found = Find(line);
+    EXPECT_TRUE(found.command.empty());
+    return found.problem;
+  }
+
+  Scratch_Folder folder;
+  Changed_Variable path;
+};
+
+TEST_F(SolverCommand, The_Launcher_In_The_Application_Directory_Comes_First) {
+  Script("app/dos4gw");
+  Script("app/MERAK32.EXE");
+  Script("one/DOS4GW");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/dos4gw", "MERAK32.EXE"}));
+}
+
+TEST_F(SolverCommand, The_Launcher_On_The_Search_Path_Comes_Second) {
+  Script("app/MERAK32.EXE");
+  Script("two/Dos4Gw");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "two/Dos4Gw", "MERAK32.EXE"}));
+  Script("one/dos4gw");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "one/dos4gw", "MERAK32.EXE"}));
+  EXPECT_TRUE(Find(kSolver).problem.empty());
+}
+
+TEST_F(SolverCommand, The_Program_That_The_Launcher_Names_Comes_Third) {
+  Script("app/Merak32");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/Merak32"}));
+  Script("app/Merak32.exe");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/Merak32.exe"}));
+  Script("app/MERAK32.EXE");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/MERAK32.EXE"}));
+}
+
+TEST_F(SolverCommand, The_Program_Is_Not_Looked_For_On_The_Search_Path) {
+  Script("one/merak32");
+  EXPECT_EQ(Problem(kSolver), "DOS4GW was found neither in " + (folder / "app") +
+                                  " nor on the search path, and no MERAK32.EXE or MERAK32 in " +
+                                  (folder / "app") + " can be run here");
+}
+
+TEST_F(SolverCommand, Further_Arguments_Go_Along) {
+  Script("app/merak32");
+  EXPECT_EQ(Find("DOS4GW MERAK32.EXE  fast").command, (Command{folder / "app/merak32", "fast"}));
+}
+
+TEST_F(SolverCommand, A_Command_Of_One_Word_Is_Its_Own_Program) {
+  Script("app/tolin");
+  EXPECT_EQ(Find("TOLIN.EXE").command, (Command{folder / "app/tolin"}));
+  Script("one/Tolin.Exe");
+  EXPECT_EQ(Find("TOLIN.EXE").command, (Command{folder / "one/Tolin.Exe"}));
+  EXPECT_EQ(Problem("other.exe"),
+            "other.exe was found neither in " + (folder / "app") + " nor on the search path");
+  EXPECT_EQ(Problem("  "), "no program is named");
+}
+
+TEST_F(SolverCommand, A_Compiled_Program_Is_Executed_Here) {
+  fs::copy_file(BARVON_TEST_CHILD, folder / "app/merak32");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/merak32"}));
+}
+
+TEST_F(SolverCommand, A_Link_To_A_Program_Is_A_Program_And_A_Folder_Is_None) {
+  fs::create_directory(folder / "app/DOS4GW");
+  fs::create_symlink(BARVON_TEST_CHILD, folder / "app/merak32");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/merak32"}));
+}
+
+TEST_F(SolverCommand, What_Can_Not_Be_Executed_Is_Passed_Over_And_Told) {
+  Write_Text(folder / "app/merak32", "#!/bin/true\n");
+  fs::permissions(folder / "app/merak32", fs::perms::owner_read);
+  EXPECT_NE(Problem(kSolver).find("; " + (folder / "app/merak32") + " is not executable"),
+            std::string::npos);
+  Write_Text(folder / "app/MERAK32.EXE", "text");
+  fs::permissions(folder / "app/MERAK32.EXE", fs::perms::owner_all);
+  EXPECT_NE(
+      Problem(kSolver).find("; " + (folder / "app/MERAK32.EXE") + " is no program of this system"),
+      std::string::npos);
+  Script("app/merak32.exe");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/merak32.exe"}));
+}
+
+TEST_F(SolverCommand, A_Native_Program_Is_Preferred_To_A_Dos_Program) {
+  Write_Text(folder / "app/MERAK32.EXE", "MZ\x90");
+  Script("app/merak32");
+  Script("one/dosbox");
+  EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/merak32"}));
+}
+
+TEST_F(SolverCommand, A_Dos_Program_Goes_Through_Dosbox_Without_A_Window) {
+  Write_Text(folder / "app/merak32.exe", "MZ\x90");
+  Script("two/dosbox");
+  const Solver_Command found = Find(kSolver);
+  EXPECT_EQ(found.command, (Command{folder / "two/dosbox", "-noautoexec", "-c", "mount c .", "-c",
+                                    "c:", "-c", "MERAK32.EXE", "-c", "exit"}));
+  EXPECT_EQ(found.environment, (Command{"SDL_VIDEODRIVER=dummy", "SDL_AUDIODRIVER=dummy"}));
+}
+
+TEST_F(SolverCommand, A_Dos_Launcher_Beside_A_Dos_Program_Starts_It_In_Dosbox) {
+  Write_Text(folder / "app/MERAK32.EXE", "MZ\x90");
+  Write_Text(folder / "app/dos4gw.exe", "MZ\x90");
+  Script("two/dosbox");
+  EXPECT_EQ(Find(kSolver).command.at(7), "DOS4GW MERAK32.EXE");
+}
+
+TEST_F(SolverCommand, A_Dos_Program_Without_Dosbox_Can_Not_Be_Run) {
+  Write_Text(folder / "app/MERAK32.EXE", "MZ\x90");
+  EXPECT_EQ(Problem(kSolver), "MERAK32.EXE in " + (folder / "app") +
+                                  " is a DOS program, and dosbox was not found on the search path");
+}
+
+TEST(SolverTable, Hopper_And_Barge_Have_A_Solver_That_Is_Started) {
+  for (const int method : {1, 3}) {
+    EXPECT_EQ(Solver_For(method).command_line, "DOS4GW MERAK32.EXE");
+    EXPECT_TRUE(Solver_For(method).started);
+  }
+}
+
+TEST(SolverTable, Continuous_And_The_Fourth_Method_Are_Chosen_But_Not_Started) {
+  EXPECT_EQ(Solver_For(2).command_line, "TOLIN.EXE");
+  EXPECT_EQ(Solver_For(4).command_line, "MERAK4.EXE");
+  for (const int method : {0, 2, 4, 5, -1}) EXPECT_FALSE(Solver_For(method).started);
+  EXPECT_EQ(Solver_For(0).command_line, "");
+}
+
+}  // namespace
+}  // namespace barvon

@@ -1,0 +1,84 @@
+#include "support/screen_support.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTest>
+
+namespace barvon::testing {
+
+Reply Press(QMessageBox::StandardButton button) {
+  return [button](QWidget* window) {
+    auto* box = qobject_cast<QMessageBox*>(window);
+    ASSERT_NE(box, nullptr);
+    ASSERT_NE(box->button(button), nullptr);
+    box->button(button)->click();
+  };
+}
+
+Reply Press_Escape() {
+  return [](QWidget* window) { QTest::keyClick(window, Qt::Key_Escape); };
+}
+
+Reply Close_Window() {
+  return [](QWidget* window) { window->close(); };
+}
+
+Modal_Replies::Modal_Replies(std::vector<Reply> replies) : replies_(std::move(replies)) {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
+  timer_.start(5);
+}
+
+Modal_Replies::~Modal_Replies() {
+  EXPECT_EQ(static_cast<int>(replies_.size()), windows) << "windows that came up";
+}
+
+void Modal_Replies::Look() {
+  QWidget* window = QApplication::activeModalWidget();
+  if (window == nullptr || window == answered_) {
+    if (window == nullptr) answered_ = nullptr;
+    return;
+  }
+  answered_ = window;
+  // A second box may stand where the first one stood.
+  QObject::connect(window, &QObject::destroyed, &timer_, [this, window] {
+    if (answered_ == window) answered_ = nullptr;
+  });
+  if (auto* box = qobject_cast<QMessageBox*>(window)) {
+    seen.push_back({box->windowTitle(), box->text(), box->icon(), box->textFormat(),
+                    box->standardButtons(), box->standardButton(box->defaultButton())});
+  }
+  const auto turn = static_cast<std::size_t>(windows++);
+  if (turn < replies_.size()) {
+    replies_[turn](window);
+  } else {
+    ADD_FAILURE() << "unexpected window: " << window->windowTitle().toStdString();
+    window->close();
+  }
+}
+
+Main_Bench::Main_Bench() {
+  main_ = std::make_unique<Main>(folder.path(), [this] { ++ended; });
+  main_->show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(main_.get()));
+}
+
+Main_Bench::~Main_Bench() = default;
+
+QAction* Main_Bench::Action(const char* name) { return controls().actions.value(name); }
+
+void Type(QWidget* field, const QString& text) {
+  for (const QChar character : text) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
+    QApplication::sendEvent(field, &key);
+  }
+}
+
+bool Wait_Until(const std::function<bool()>& condition) {
+  return QTest::qWaitFor(condition, 10000);
+}
+
+}  // namespace barvon::testing

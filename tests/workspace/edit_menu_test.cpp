@@ -1,0 +1,94 @@
+#include "workspace/edit_menu.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/screen_register.h"
+#include "core/workspace_port.h"
+#include "support/plain_support.h"
+
+namespace barvon {
+namespace {
+
+class EditMenu : public ::testing::Test {
+ protected:
+  EditMenu() {
+    for (const char* name : {"frmDescription", "frmVelocity", "frmMatHopper", "frmMatBarge",
+                             "frmOperation", "frmCoefficients", "frmDensity"}) {
+      Register_Screen(name, [this, name](bool blocking, const std::string&) {
+        opened.push_back(name);
+        blocked = blocking;
+      });
+    }
+    Port().display_data = [this] { ++refreshed; };
+    Port().show_note = [this](const Status_Note& note) { noted = note.text; };
+    record->ShowMode = 1;
+    record->AnalysisType = 1;
+    record->DisposalMethod = 1;
+  }
+  ~EditMenu() override {
+    for (const std::string& name : opened) Register_Screen(name, {});
+    Reset_Port();
+  }
+
+  std::vector<std::string> Opened_By(int index) {
+    opened.clear();
+    refreshed = 0;
+    mnuEditItem_Click(index, *record);
+    EXPECT_EQ(refreshed, 1) << index;
+    return opened;
+  }
+
+  using Names = std::vector<std::string>;
+  std::unique_ptr<ProjectRecord> record = std::make_unique<ProjectRecord>();
+  Names opened;
+  bool blocked = false;
+  int refreshed = 0;
+  std::string noted;
+};
+
+TEST_F(EditMenu, Opens_The_Screen_Of_Its_Entry_And_Refreshes) {
+  EXPECT_EQ(Opened_By(1), Names{"frmDescription"});
+  EXPECT_EQ(Opened_By(2), Names{"frmVelocity"});
+  EXPECT_EQ(Opened_By(5), Names{"frmOperation"});
+  EXPECT_EQ(Opened_By(6), Names{"frmCoefficients"});
+  EXPECT_EQ(Opened_By(9), Names{"frmDensity"});
+}
+
+TEST_F(EditMenu, Material_Goes_By_The_Method_Of_Disposal) {
+  const Names screens[] = {{}, {"frmMatHopper"}, {"frmMatHopper"}, {"frmMatBarge"}, {}};
+  for (std::int16_t method = 0; method <= 4; ++method) {
+    record->DisposalMethod = method;
+    EXPECT_EQ(Opened_By(4), screens[method]) << method;
+  }
+}
+
+TEST_F(EditMenu, Error_Check_And_Evaluation_Selection_Only_Refresh) {
+  for (const int index : {0, 7, 8, 10, 11, -1, 99}) EXPECT_EQ(Opened_By(index), Names{}) << index;
+}
+
+TEST_F(EditMenu, Screens_Open_As_ShowMode_Says) {
+  Opened_By(1);
+  EXPECT_TRUE(blocked);
+  record->ShowMode = 0;
+  Opened_By(1);
+  EXPECT_FALSE(blocked);
+}
+
+TEST_F(EditMenu, A_Negative_Analysis_Type_Opens_Only_Coefficients_And_Density) {
+  record->AnalysisType = -1;
+  testing::Scripted_Messages messages({Answer::Ok, Answer::Ok, Answer::Ok, Answer::Ok});
+  for (const int index : {1, 2, 4, 5}) EXPECT_EQ(Opened_By(index), Names{}) << index;
+  EXPECT_EQ(messages.shown.size(), 4u);
+  EXPECT_EQ(Opened_By(6), Names{"frmCoefficients"});
+  EXPECT_EQ(Opened_By(9), Names{"frmDensity"});
+}
+
+TEST_F(EditMenu, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
+  Show_Blocking_Screen("frmNobody");
+  EXPECT_EQ(noted, "The screen frmNobody is not part of this version.");
+}
+
+}  // namespace
+}  // namespace barvon

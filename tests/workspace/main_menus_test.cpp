@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include <QMenuBar>
+#include <QTest>
+
+#include "core/project_record.h"
+#include "core/recent_files.h"
+#include "core/screen_register.h"
+#include "core/settings_keys.h"
+#include "platform/help_viewer.h"
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+using testing::Main_Bench;
+using testing::Modal_Replies;
+using testing::Press;
+using testing::Read_Text;
+using testing::Write_Text;
+
+TEST(MainMenus, At_Start_Nothing_Of_The_Edit_Menu_And_No_Run_Is_Available) {
+  Main_Bench bench;
+  for (int i = 0; i <= 8; ++i) {
+    QAction* item = bench.Action(qPrintable(QString("mnuEditItem(%1)").arg(i)));
+    EXPECT_TRUE(item->isSeparator() || !item->isEnabled()) << i;
+  }
+  EXPECT_FALSE(bench.Action("mnuRun")->isEnabled());
+  for (const char* name :
+       {"mnuFileItem(2)", "mnuFileItem(4)", "mnuFileItem(5)", "mnuFileItem(7)"}) {
+    EXPECT_FALSE(bench.Action(name)->isEnabled()) << name;
+  }
+  for (const char* name : {"mnuFileItem(0)", "mnuFileItem(1)", "mnuFileItem(8)", "mnuFileItem(10)",
+                           "mnuViewItem(1)"}) {
+    EXPECT_TRUE(bench.Action(name)->isEnabled()) << name;
+  }
+  EXPECT_FALSE(bench.Action("mnuWindow")->isVisible());
+}
+
+TEST(MainMenus, Captions_Stand_As_They_Are_Told) {
+  Main_Bench bench;
+  EXPECT_EQ(bench.Action("mnuRun")->text(), "Ru&n");
+  EXPECT_EQ(bench.Action("mnuFileItem(8)")->text(), "P&rint Setup");
+  EXPECT_EQ(bench.Action("mnuEditItem(3)")->text(), "&Input, Execution and Output Keys");
+  EXPECT_EQ(bench.Action("mnuViewItem(6)")->text(), "Multiple &Input Windows");
+  EXPECT_EQ(bench.Action("mnuGraph(2)")->text(), "Concentration Contours");
+  EXPECT_EQ(bench.Action("mnuOptionItem(1)")->text(), "Always Save Before Simulation?");
+  EXPECT_EQ(bench.Action("mnuHelpItem(1)")->text(), "&Search For Help On");
+  EXPECT_EQ(bench.Action("mnuFileItem(1)")->statusTip(), "Open Existing File");
+  EXPECT_EQ(bench.controls().SSPanel3(4)->text(), "Return To &Main Menu");
+}
+
+TEST(MainMenus, Without_Recent_Files_Neither_Entries_Nor_Separator_Show) {
+  Main_Bench bench;
+  for (int i = 0; i <= 4; ++i) {
+    EXPECT_FALSE(bench.Action(qPrintable(QString("mnuRecentFile(%1)").arg(i)))->isVisible()) << i;
+  }
+}
+
+TEST(MainMenus, Recent_Files_Show_At_Start_With_Their_Paths_As_They_Are) {
+  testing::Scratch_Folder folder;
+  Write_Text(folder / "BARVON.INI",
+             "[Recent Files]\r\nRecentFile1=/data/R&D/bay.DUI\r\nRecentFile2=Not Used\r\n"
+             "RecentFile3=/data/&sea.DUI\r\n");
+  const Qt_Services services;
+  Main main(folder.path(), [] {});
+  const auto& actions = main.controls().actions;
+  EXPECT_EQ(actions["mnuRecentFile(1)"]->text(), "&1: /data/R&&D/bay.DUI");
+  EXPECT_EQ(actions["mnuRecentFile(3)"]->text(), "&3: /data/&&sea.DUI");
+  EXPECT_TRUE(actions["mnuRecentFile(0)"]->isVisible());
+  EXPECT_TRUE(actions["mnuRecentFile(1)"]->isVisible());
+  EXPECT_FALSE(actions["mnuRecentFile(2)"]->isVisible());
+  EXPECT_TRUE(actions["mnuRecentFile(3)"]->isVisible());
+}
+
+TEST(MainMenus, The_Commands_Switch_The_Boards) {
+  Main_Bench bench;
+  QTest::mouseClick(bench.controls().SSPanel3(0), Qt::LeftButton);
+  EXPECT_FALSE(bench.controls().Frame3D1->isVisible());
+  EXPECT_TRUE(bench.controls().Frame3D2->isVisible());
+  EXPECT_EQ(bench.Child<QLabel>("SiteLabel(0)")->text(), "32 x 32 Grid Size");
+  QTest::mouseClick(bench.controls().SSPanel3(4), Qt::LeftButton);
+  EXPECT_TRUE(bench.controls().Frame3D1->isVisible());
+  EXPECT_FALSE(bench.controls().Frame3D2->isVisible());
+}
+
+TEST(MainMenus, Update_Database_Is_Inert) {
+  Main_Bench bench;
+  Modal_Replies replies({});
+  QTest::mouseClick(bench.controls().SSPanel3(3), Qt::LeftButton);
+  QTest::qWait(30);
+  EXPECT_EQ(bench.Child<QLabel>("StatusNote")->text(), "");
+}
+
+TEST(MainMenus, Graphics_Without_Their_Program_Are_Told_In_A_Critical_Box) {
+  Main_Bench bench;
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  QTest::mouseClick(bench.controls().SSPanel3(2), Qt::LeftButton);
+  EXPECT_EQ(replies.seen.at(0).text, "File: KV_graph.exe Not Found.");
+  EXPECT_EQ(replies.seen.at(0).title, "BARVON");
+  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
+}
+
+TEST(MainMenus, Help_Goes_To_The_Contents_Unless_The_Active_Control_Has_A_Topic) {
+  Main_Bench bench;
+  std::vector<std::pair<Help_Command, int>> asked;
+  const auto former = Set_Help_Presenter(
+      [&](const Help_Request& request) { asked.emplace_back(request.command, request.topic); });
+  bench.controls().Title_Box->setFocus();
+  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
+  bench.controls().Title_Box->setProperty("HelpContextID", 2460);
+  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
+  EXPECT_EQ(Project().HelpContextToShow, 2460);
+  bench.Action("mnuHelpItem(0)")->trigger();
+  bench.Action("mnuHelpItem(1)")->trigger();
+  Set_Help_Presenter(former);
+  EXPECT_EQ(asked, (std::vector<std::pair<Help_Command, int>>{{Help_Command::Index, 0},
+                                                              {Help_Command::Context, 2460},
+                                                              {Help_Command::Finder, 0},
+                                                              {Help_Command::PartialKey, 0}}));
+}
+
+TEST(MainMenus, Options_Toggle_Their_State_And_Help_Is_Kept_In_The_Settings) {
+  Main_Bench bench;
+  bench.Action("mnuOptionItem(0)")->trigger();
+  EXPECT_EQ(Project().WizardHelpOn, kFalse);
+  EXPECT_NE(Read_Text(Settings_Path()).find("HelpOn=Off  "), std::string::npos);
+  bench.Action("mnuOptionItem(0)")->trigger();
+  EXPECT_EQ(Project().WizardHelpOn, kTrue);
+  EXPECT_NE(Read_Text(Settings_Path()).find("HelpOn=On  "), std::string::npos);
+  bench.Action("mnuOptionItem(1)")->trigger();
+  EXPECT_EQ(Project().AlwaysSaveBeforeRun, kFalse);
+  EXPECT_FALSE(bench.Action("mnuOptionItem(1)")->isChecked());
+}
+
+TEST(MainMenus, View_Toggles_Toolbar_And_Show_Mode_But_Never_The_Status_Bar) {
+  Main_Bench bench;
+  bench.Action("mnuViewItem(3)")->trigger();
+  EXPECT_FALSE(bench.controls().Toolbar1->isVisible());
+  bench.Action("mnuViewItem(3)")->trigger();
+  EXPECT_TRUE(bench.controls().Toolbar1->isVisible());
+  bench.Action("mnuViewItem(4)")->trigger();
+  EXPECT_TRUE(bench.Action("mnuViewItem(4)")->isChecked());
+  EXPECT_TRUE(bench.controls().status_area->isVisible());
+  bench.Action("mnuViewItem(6)")->trigger();
+  EXPECT_EQ(Project().ShowMode, 0);
+  bench.Action("mnuViewItem(6)")->trigger();
+  EXPECT_EQ(Project().ShowMode, 1);
+}
+
+TEST(MainMenus, The_Wizard_Opens_Blocking) {
+  Main_Bench bench;
+  int opened = 0;
+  Register_Screen("Data_Wiz", {[&](bool blocking) { opened += blocking ? 1 : 100; }, {}});
+  QTest::mouseClick(bench.controls().SSPanel3(9), Qt::LeftButton);
+  Register_Screen("Data_Wiz", {});
+  EXPECT_EQ(opened, 1);
+}
+
+TEST(MainMenus, Input_Keys_Show_The_Data_Board) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  bench.Action("mnuEditItem(3)")->trigger();
+  EXPECT_TRUE(bench.controls().Frame3D2->isVisible());
+}
+
+TEST(MainMenus, A_Screen_That_Does_Not_Stand_Yet_Is_Told_In_The_Status_Area) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  bench.Action("mnuEditItem(1)")->trigger();
+  EXPECT_EQ(bench.Child<QLabel>("StatusNote")->text(),
+            "The screen frmDescription is not part of this version.");
+}
+
+TEST(MainMenus, Letters_Of_Menus_And_Commands_Do_Not_Clash) {
+  Main_Bench bench;
+  QStringList keys;
+  for (QAction* menu : bench.main().menuBar()->actions()) {
+    if (menu->isVisible()) keys << QKeySequence::mnemonic(menu->text()).toString();
+  }
+  for (QPushButton* button : bench.controls().SSPanel3) keys << button->shortcut().toString();
+  keys.removeAll(QString());
+  EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
+}
+
+}  // namespace
+}  // namespace barvon

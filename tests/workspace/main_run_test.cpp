@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <csignal>
+#include <filesystem>
+
+#include "core/project_record.h"
+#include "core/workspace_port.h"
+#include "run/create_process.h"
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+using testing::Main_Bench;
+using testing::Modal_Replies;
+using testing::Press;
+using testing::Read_Text;
+using testing::Reply;
+using testing::Write_Text;
+
+bool Is_Alive(int process) { return process > 0 && kill(process, 0) == 0; }
+
+/// A saved project and a solver that starts a helper of its own and takes its time.
+class MainRun : public ::testing::Test {
+ protected:
+  MainRun() {
+    const std::string solver = bench.folder / "merak32";
+    Write_Text(solver,
+               "#!/bin/sh\nsleep 600 &\necho $! > helper.pid\necho $$ > solver.pid\n"
+               "echo working\nwhile [ ! -e go ]; do sleep 0.05; done\n"
+               "kill $(cat helper.pid)\necho result > tmpfile.duo\n");
+    std::filesystem::permissions(solver, std::filesystem::perms::owner_all);
+    bench.controls().SSOption1(0)->click();
+    ProjectRecord& record = Project();
+    record.BaseFileName = bench.folder / "bay";
+    record.ProjectFileName = record.BaseFileName + ".DUI";
+    Write_Text(record.ProjectFileName, "x");
+    record.DataSaved = kTrue;
+    record.MMAX0 = record.NMAX0 = 32;
+    record.DX0 = record.DZ0 = 100;
+    record.DEPC0 = 60;
+    record.NBINS = 1;
+    record.BINL = record.BINW = 20;
+    record.DREL1 = 20;
+    record.TDIS = 60;
+  }
+
+  int Process(const char* file) {
+    const std::string path = bench.folder / file;
+    return testing::Exists(path) ? std::atoi(Read_Text(path).c_str()) : 0;
+  }
+
+  /// Presses Run, and once the solver works does what the test is about.
+  void Run_And(const std::function<void()>& meanwhile, std::vector<Reply> more = {}) {
+    QTimer watch;
+    bool done = false;
+    watch.callOnTimeout([&] {
+      if (done || Process("solver.pid") == 0 || !Run_Is_Under_Way()) return;
+      done = true;
+      meanwhile();
+    });
+    watch.start(10);
+    // The record has findings; No runs it all the same.
+    more.insert(more.begin(), Press(QMessageBox::No));
+    Modal_Replies replies(std::move(more));
+    QTest::mouseClick(bench.controls().SSPanel3(1), Qt::LeftButton);
+    EXPECT_TRUE(done);
+  }
+
+  Main_Bench bench;
+};
+
+TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
+  Run_And([this] {
+    auto* stop = bench.Child<QPushButton>("StopRun");
+    EXPECT_TRUE(stop->isVisible());
+    EXPECT_EQ(bench.Child<QLabel>("StatusProgram")->text(), "Running merak32");
+    QTest::keyClicks(bench.controls().Title_Box, "typed meanwhile");
+    EXPECT_EQ(Project().ProjectTitle, "typed meanwhile");
+    QTest::mouseClick(bench.controls().SSPanel3(0), Qt::LeftButton);
+    EXPECT_TRUE(bench.controls().Frame3D2->isVisible());
+    Write_Text(bench.folder / "go", "");
+  });
+  EXPECT_FALSE(bench.Child<QPushButton>("StopRun")->isVisible());
+  EXPECT_FALSE(bench.Child<QLabel>("StatusProgram")->isVisible());
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+}
+
+TEST_F(MainRun, Run_While_A_Run_Is_Under_Way_Starts_Nothing) {
+  Run_And([this] {
+    const int first = Process("solver.pid");
+    QTest::mouseClick(bench.controls().SSPanel3(1), Qt::LeftButton);
+    EXPECT_EQ(Process("solver.pid"), first);
+    EXPECT_NE(bench.Child<QLabel>("StatusNote")->text(), "");
+    Write_Text(bench.folder / "go", "");
+  });
+}
+
+TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {
+  Run_And([this] { QTest::mouseClick(bench.Child<QPushButton>("StopRun"), Qt::LeftButton); });
+  EXPECT_FALSE(Run_Is_Under_Way());
+  EXPECT_TRUE(testing::Wait_Until([this] { return !Is_Alive(Process("helper.pid")); }));
+  EXPECT_FALSE(Is_Alive(Process("solver.pid")));
+  EXPECT_FALSE(testing::Exists(bench.folder / "bay.duo"));
+  EXPECT_NE(bench.Child<QLabel>("StatusNote")->text(), "");
+}
+
+TEST_F(MainRun, Closing_The_Window_Meanwhile_Leaves_No_Process) {
+  int ended_with = -1;
+  Run_And(
+      [&] {
+        bench.main().close();
+        ended_with = bench.ended;
+        EXPECT_FALSE(Is_Alive(Process("solver.pid")));
+        EXPECT_TRUE(testing::Wait_Until([this] { return !Is_Alive(Process("helper.pid")); }));
+      },
+      {Press(QMessageBox::Yes)});
+  EXPECT_EQ(ended_with, 1);
+}
+
+}  // namespace
+}  // namespace barvon

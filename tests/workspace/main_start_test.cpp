@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <filesystem>
+
+#include "core/project_record.h"
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+using testing::Main_Bench;
+
+TEST(MainStart, Shows_The_Main_Menu_Board_Of_A_New_Project) {
+  Main_Bench bench;
+  EXPECT_EQ(bench.main().objectName(), "Main");
+  EXPECT_EQ(bench.main().windowTitle(), "BARVON - UNTITLED.DUI");
+  EXPECT_TRUE(bench.controls().Frame3D1->isVisible());
+  EXPECT_FALSE(bench.controls().Frame3D2->isVisible());
+  EXPECT_EQ(bench.controls().Frame3D1->title(), "BARVON Main Menu");
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(bench.controls().Text2(i)->text(), "Data Not Entered");
+  EXPECT_EQ(bench.controls().Text2(5)->text(), "Default Coefficients Used");
+}
+
+TEST(MainStart, No_Type_Of_Analysis_Is_Taken_And_The_Hopper_Is_The_Method) {
+  Main_Bench bench;
+  for (QRadioButton* option : bench.controls().SSOption1) EXPECT_FALSE(option->isChecked());
+  EXPECT_TRUE(bench.controls().SSOption2(0)->isChecked());
+  EXPECT_FALSE(bench.controls().SSOption2(0)->isEnabled());
+  EXPECT_EQ(Project().AnalysisType, 1);
+  EXPECT_EQ(Project().DisposalMethod, 1);
+  EXPECT_EQ(Project().KEY3, 0);
+  EXPECT_EQ(Project().KEY4, 0);
+}
+
+TEST(MainStart, Sets_The_Program_State) {
+  Project().ScreenDataSupplied.fill(kTrue);
+  Project().OutputsCopied = kTrue;
+  Project().WizardActive = kTrue;
+  Main_Bench bench;
+  EXPECT_EQ(Project().ShowMode, 1);
+  EXPECT_EQ(Project().WizardHelpOn, kTrue);
+  EXPECT_EQ(Project().AlwaysSaveBeforeRun, kTrue);
+  EXPECT_EQ(Project().OutputsCopied, kFalse);
+  EXPECT_EQ(Project().WizardActive, kFalse);
+  for (int i = 1; i <= 10; ++i) EXPECT_EQ(Project().ScreenDataSupplied.at(i), kFalse) << i;
+  EXPECT_TRUE(bench.Action("mnuOptionItem(0)")->isChecked());
+  EXPECT_TRUE(bench.Action("mnuOptionItem(1)")->isChecked());
+}
+
+TEST(MainStart, Makes_Its_Folder_The_Current_One) {
+  Main_Bench bench;
+  EXPECT_EQ(std::filesystem::current_path().string(), bench.folder.path());
+  EXPECT_EQ(Application_Folder(), bench.folder.path());
+}
+
+TEST(MainStart, Stands_At_The_Upper_Left_Corner_In_Its_Size) {
+  Main_Bench bench;
+  EXPECT_EQ(bench.main().pos(), QPoint(0, 0));
+  EXPECT_EQ(bench.main().size(), QSize(627, 735));
+}
+
+TEST(MainStart, Resizing_Has_No_Lasting_Effect) {
+  Main_Bench bench;
+  for (const QSize size : {QSize(900, 900), QSize(100, 100), QSize(627, 400)}) {
+    bench.main().resize(size);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bench.main().size(), QSize(627, 735));
+  }
+  bench.main().setMinimumSize(0, 0);
+  bench.main().setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  bench.main().resize(800, 500);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(bench.main().size(), QSize(627, 735));
+}
+
+TEST(MainStart, Minimising_And_Coming_Back_Keeps_The_Size) {
+  Main_Bench bench;
+  bench.main().showMinimized();
+  QCoreApplication::processEvents();
+  bench.main().showNormal();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(bench.main().size(), QSize(627, 735));
+}
+
+TEST(MainStart, Removes_What_A_Killed_Save_Left_Behind_Without_Touching_Projects) {
+  Main_Bench bench;
+  testing::Write_Text(bench.folder / "site.DUI", "x");
+  const Main again(bench.folder.path(), [] {});
+  EXPECT_TRUE(testing::Exists(bench.folder / "site.DUI"));
+}
+
+TEST(MainStart, The_Port_Is_Silent_Again_When_The_Window_Is_Gone) {
+  { Main_Bench bench; }
+  Port().set_caption("BARVON - /gone.DUI");
+  Port().show_note({"nobody", ""});
+  EXPECT_NE(Port().caption(), "BARVON - /gone.DUI");
+}
+
+TEST(MainStart, A_Caption_Shows_Whatever_Stands_In_A_Path) {
+  Main_Bench bench;
+  Port().set_caption("BARVON - /data/a[*]b&c.DUI");
+  EXPECT_EQ(Port().caption(), "BARVON - /data/a[*]b&c.DUI");
+  EXPECT_EQ(bench.main().windowTitle(), "BARVON - /data/a[*][*]b&c.DUI");
+}
+
+TEST(MainStart, The_Title_Box_Writes_The_Title_And_Is_Blue_While_It_Has_The_Focus) {
+  Main_Bench bench;
+  QLineEdit* box = bench.controls().Title_Box;
+  const auto colour = [box] { return box->palette().color(QPalette::Active, QPalette::Text); };
+  bench.main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
+  bench.controls().SSPanel3(0)->setFocus();
+  EXPECT_EQ(colour(), QColor("#000000"));
+  box->setFocus();
+  EXPECT_EQ(colour(), QColor("#0000ff"));
+  QTest::keyClicks(box, "North Site");
+  EXPECT_EQ(Project().ProjectTitle, "North Site");
+  QTest::keyClick(box, Qt::Key_Backspace);
+  EXPECT_EQ(Project().ProjectTitle, "North Sit");
+  bench.controls().SSPanel3(0)->setFocus();
+  EXPECT_EQ(colour(), QColor("#000000"));
+}
+
+TEST(MainStart, The_Title_Takes_Sixty_Characters_That_Files_Hold) {
+  Main_Bench bench;
+  testing::Type(bench.controls().Title_Box,
+                QString::fromUtf8("→Dépôt ") + QString(70, QLatin1Char('x')));
+  EXPECT_EQ(Project().ProjectTitle, "Dépôt " + std::string(54, 'x'));
+}
+
+TEST(MainStart, A_Refresh_Keeps_A_Title_That_The_Box_Can_Not_Show_Whole) {
+  Main_Bench bench;
+  Project().ProjectTitle = std::string(80, 't');
+  Port().display_data();
+  EXPECT_EQ(Project().ProjectTitle, std::string(80, 't'));
+}
+
+}  // namespace
+}  // namespace barvon
