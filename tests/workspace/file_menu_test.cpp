@@ -210,8 +210,9 @@ TEST_F(FileMenu, Cancel_At_The_Findings_Saves_Nothing) {
 
 TEST_F(FileMenu, Yes_At_The_Findings_Opens_The_Error_List_By_ShowMode_And_Saves_Nothing) {
   Lines opened;
-  Register_Screen("frmErrorList",
-                  {[&](bool blocking) { opened.push_back(blocking ? "blocking" : "free"); }, {}});
+  Register_Screen("frmErrorList", [&](bool blocking, const std::string&) {
+    opened.push_back(blocking ? "blocking" : "free");
+  });
   Scripted_Messages messages({Answer::Yes, Answer::Yes});
   Name_Project(folder_ / "site.DUI");
   record_.ShowMode = 1;
