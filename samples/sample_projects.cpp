@@ -122,7 +122,7 @@ void Hopper_Six_Openings(ProjectRecord& r) {
 /// A barge whose load has settled on the way: coarse below, fines and water above, and released
 /// from the bottom up. A conservative tracer is followed.
 void Barge_Four_Layers(ProjectRecord& r) {
-  r.ProjectTitle = "GANNET BANK - SPLIT-HULL BARGE, LOAD SEPARATED IN FOUR LAYERS";
+  r.ProjectTitle = "GANNET BANK - SPLIT-HULL BARGE, SEPARATED IN FOUR LAYERS";
   Set_Analysis(r, 2, 1);
   Set_Grid(r, 32, 80, 48, 80);
   r.DEPC0 = 85;
@@ -296,7 +296,7 @@ void Section_404_Sediment(ProjectRecord& r) {
 /// The largest grid: a bottom that falls away from the shore, with a mound of earlier loads, and
 /// a current that turns around it.
 void Variable_96_By_96(ProjectRecord& r) {
-  r.ProjectTitle = "SANDPIPER SLOPE - 96 BY 96 POINTS, VARIABLE DEPTH AND VELOCITY";
+  r.ProjectTitle = "SANDPIPER SLOPE - 96 BY 96, VARIABLE DEPTH AND VELOCITY";
   Set_Analysis(r, 2, 0);
   Set_Grid(r, kMaxGridPoints, 50, kMaxGridPoints, 50);
   r.ConstantDepthFlag = 0;

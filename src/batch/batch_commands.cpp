@@ -1,0 +1,83 @@
+#include "batch/batch_commands.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "batch/batch_export.h"
+#include "batch/batch_output.h"
+#include "batch/batch_project.h"
+#include "batch/batch_run.h"
+#include "batch/json_record.h"
+#include "checks/check_data.h"
+#include "core/path_lookup.h"
+#include "core/project_writer.h"
+#include "core/value_slots.h"
+#include "platform/app_folder.h"
+#include "platform/safe_file.h"
+
+namespace barvon {
+namespace {
+
+int Check(const Batch_Options& options) {
+  int worst = kDone;
+  for (const std::string& file : options.files) {
+    const auto record = Open_Project(file);
+    worst = std::max(worst, record ? Say_Findings(file, *record) : kNotDone);
+  }
+  return worst;
+}
+
+int Show(const Batch_Options& options) {
+  const auto record = Open_Project(options.files.front());
+  if (!record) return kNotDone;
+  Say_Text(options.json ? Json_Of(*record) : Listing_Of(*record));
+  return kDone;
+}
+
+int New(const Batch_Options& options) {
+  const std::string& file = options.files.front();
+  if (!Is_Project_Name(file)) {
+    Say_Problem(file, "a project's name ends in .DUI");
+    return kNotDone;
+  }
+  const std::string path = Absolute_Path(file);
+  if (const auto existing = Find_Path(path); existing && !options.force) {
+    Say_Problem(file, "exists already (--force replaces it)");
+    return kNotDone;
+  }
+  const auto record = Fresh_Project();
+  Pack_Slots(*record);
+  const std::string target = Path_To_Write(path);
+  if (const int error = Write_Whole_File(target, Save_Project(target, *record)); error != 0) {
+    Say_Problem(file, std::string("can't be written: ") + std::strerror(error));
+    return kNotDone;
+  }
+  Say({file, "written", target});
+  return kDone;
+}
+
+}  // namespace
+
+int Say_Findings(const std::string& file, const ProjectRecord& record) {
+  const Error_List list = Check_Data(record);
+  for (const Error_Entry& entry : list.entries) Say({file, entry.message, entry.reference});
+  return list.ErrorsFound != kFalse ? kFindings : kDone;
+}
+
+int Do_Batch_Command(const Batch_Options& options) {
+  switch (options.command) {
+    case Batch_Command::Check:
+      return Check(options);
+    case Batch_Command::Export:
+      return Export_Projects(options);
+    case Batch_Command::Run:
+      return Run_Projects(options);
+    case Batch_Command::Show:
+      return Show(options);
+    case Batch_Command::New:
+      break;
+  }
+  return New(options);
+}
+
+}  // namespace barvon

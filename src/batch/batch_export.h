@@ -1,0 +1,12 @@
+#pragma once
+
+#include "batch/batch_options.h"
+
+namespace barvon {
+
+/// Writes the model input of each project: beside it, into a folder, or for a single project under
+/// the name that --output gives. Two projects never write the same file, and none is written over
+/// a project. Returns the worst exit code.
+int Export_Projects(const Batch_Options& options);
+
+}  // namespace barvon

@@ -1,0 +1,74 @@
+#include "batch/batch_options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "batch/batch_output.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kAbout[] =
+    "barvon-run checks, exports and runs BARVON projects (.DUI) without a window.\n"
+    "Exit codes: 0 done, 1 projects have errors, 2 something could not be done.";
+
+constexpr int kMostJobs = 1024;
+
+void Add_Files(CLI::App* command, Batch_Options& options) {
+  command->add_option("FILE", options.files, "project files (.DUI)")->required();
+}
+
+}  // namespace
+
+std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit_code) {
+  Batch_Options options;
+  CLI::App app(kAbout, "barvon-run");
+  app.set_version_flag("--version", std::string("barvon-run ") + BARVON_VERSION);
+  app.require_subcommand(1);
+
+  CLI::App* check = app.add_subcommand(
+      "check", "test projects: a line for each finding, file TAB message TAB reference");
+  Add_Files(check, options);
+
+  CLI::App* model = app.add_subcommand("export", "write the model input (.DUE) of projects");
+  Add_Files(model, options);
+  model->add_option("-o,--output", options.output,
+                    "write to this file, or into this folder; beside the project if not given");
+
+  CLI::App* run = app.add_subcommand("run", "run the solver on projects and keep its outputs");
+  Add_Files(run, options);
+  run->add_option("--solver-dir", options.solver_folder,
+                  "folder that holds the solvers; the program's own if not given");
+  run->add_option("--jobs", options.jobs, "projects that run at the same time")
+      ->check(CLI::Range(1, kMostJobs));
+  run->add_flag("--despite-errors", options.despite_errors, "run projects that have errors too");
+
+  CLI::App* show = app.add_subcommand("show", "show what a project holds");
+  show->add_option("FILE", options.files, "project file (.DUI)")->required()->expected(1);
+  show->add_flag("--json", options.json,
+                 "one object with every field under its name; nan, inf and -inf as texts");
+
+  CLI::App* fresh = app.add_subcommand("new", "write a new project");
+  fresh->add_option("FILE", options.files, "project file (.DUI)")->required()->expected(1);
+  fresh->add_flag("--force", options.force, "replace a file that exists");
+
+  check->callback([&] { options.command = Batch_Command::Check; });
+  model->callback([&] { options.command = Batch_Command::Export; });
+  run->callback([&] { options.command = Batch_Command::Run; });
+  show->callback([&] { options.command = Batch_Command::Show; });
+  fresh->callback([&] { options.command = Batch_Command::New; });
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::Success& wanted) {  // help or version
+    app.exit(wanted);
+    exit_code = kDone;
+    return std::nullopt;
+  } catch (const CLI::ParseError& wrong) {
+    Say_Problem("", std::string(wrong.what()) + " (see barvon-run --help)");
+    exit_code = kNotDone;
+    return std::nullopt;
+  }
+  return options;
+}
+
+}  // namespace barvon

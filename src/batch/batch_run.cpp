@@ -1,0 +1,142 @@
+#include "batch/batch_run.h"
+
+#include <time.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <sstream>
+#include <system_error>
+
+#include "batch/batch_commands.h"
+#include "batch/batch_output.h"
+#include "batch/batch_project.h"
+#include "batch/interrupts.h"
+#include "batch/scratch_application.h"
+#include "batch/side_by_side.h"
+#include "batch/target_key.h"
+#include "core/text_tools.h"
+#include "platform/app_folder.h"
+#include "platform/event_pump.h"
+#include "run/create_process.h"
+#include "run/run_driver.h"
+
+namespace barvon {
+namespace {
+
+constexpr std::size_t kLastLines = 5;
+
+/// Sleeps until the time is up or a signal comes; a signal that asks for the end stops the run.
+void Wait_Or_Stop(std::chrono::milliseconds longest) {
+  static bool stopping = false;
+  if (Interrupt_Seen() != 0 && !stopping) {
+    stopping = true;
+    Stop_Run();
+  }
+  timespec time{};
+  time.tv_sec = static_cast<time_t>(longest.count() / 1000);
+  time.tv_nsec = static_cast<long>(longest.count() % 1000) * 1000000;
+  nanosleep(&time, nullptr);
+}
+
+void Say_Last_Output(const std::string& file, const std::string& output) {
+  std::vector<std::string> lines;
+  std::istringstream stream(output);
+  for (std::string line; std::getline(stream, line);) {
+    if (!Trimmed(line).empty()) lines.push_back(line);
+  }
+  const std::size_t first = lines.size() - std::min(lines.size(), kLastLines);
+  for (std::size_t i = first; i < lines.size(); ++i) {
+    Say_Problem(file, "the solver said: " + lines[i]);
+  }
+}
+
+int Say_Report(const std::string& file, const Run_Report& report, const std::string& box_texts) {
+  for (const std::string& path : report.kept) Say({file, "kept", path});
+  if (report.Succeeded()) return kDone;
+  // The status line tells the whole story; where a flow ends in a box there is none.
+  Say_Problem(file, report.text.empty() ? box_texts : report.text);
+  Say_Last_Output(file, report.outcome.last_output);
+  return kNotDone;
+}
+
+int Run_In(const std::string& application, const std::string& file, ProjectRecord& record) {
+  std::error_code error;
+  const std::string former_current = std::filesystem::current_path(error).string();
+  const std::string former_application = Application_Folder();
+  Set_Application_Folder(application);
+  // The driver clears the current directory of old "Tmpfile.*"; that must not be the caller's.
+  int code = kNotDone;
+  if (Change_Current_Folder(application)) {
+    const Event_Pump former_pump = Set_Event_Pump(Wait_Or_Stop);
+    Box_Collector boxes;
+    boxes.Answer_No();
+    const Run_Report report = Run_Model(record);
+    Set_Event_Pump(former_pump);
+    code = Say_Report(file, report, boxes.Texts());
+  } else {
+    Say_Problem(file, "the scratch folder can't be entered: " + application);
+  }
+  Set_Application_Folder(former_application);
+  if (!former_current.empty()) Change_Current_Folder(former_current);
+  return code;
+}
+
+int Run(const std::string& file, const Batch_Options& options) {
+  const auto record = Open_Project(file);
+  if (!record) return kNotDone;
+  if (Say_Findings(file, *record) != kDone && !options.despite_errors) return kFindings;
+  std::string problem;
+  const auto scratch = Scratch_Application::Make(options.solver_folder, problem);
+  if (!scratch) {
+    Say_Problem(file, problem);
+    return kNotDone;
+  }
+  return Run_In(scratch->Path(), file, *record);
+}
+
+/// The files that can run without writing each other's outputs. The rest is told on standard
+/// error; `worst` becomes kNotDone when one of them is another project.
+std::vector<std::string> Without_Clashes(const std::vector<std::string>& files, int& worst) {
+  std::vector<std::string> kept;
+  std::map<std::string, std::string> by_outputs;
+  for (const std::string& file : files) {
+    const std::string path = Project_Path(file);
+    const auto [other, first] = by_outputs.emplace(Target_Key(Base_Name(path)), file);
+    if (first) {
+      kept.push_back(file);
+    } else if (Target_Key(Project_Path(other->second)) == Target_Key(path) &&
+               Name_Of(Project_Path(other->second)) == Name_Of(path)) {
+      Say_Warning(file, "given more than once; it is run once");
+    } else {
+      Say_Problem(file, "not run: its outputs would overwrite those of " + other->second);
+      worst = kNotDone;
+    }
+  }
+  return kept;
+}
+
+}  // namespace
+
+int Run_Projects(const Batch_Options& given) {
+  Batch_Options options = given;
+  if (options.solver_folder.empty()) options.solver_folder = Program_Folder();
+  std::error_code error;
+  if (!std::filesystem::is_directory(options.solver_folder, error)) {
+    Say_Problem(options.solver_folder, "no such folder for --solver-dir");
+    return kNotDone;
+  }
+  options.solver_folder = Absolute_Path(options.solver_folder);
+  int worst = kDone;
+  options.files = Without_Clashes(options.files, worst);
+  if (options.jobs > 1 && options.files.size() > 1) {
+    return std::max(worst, Run_Side_By_Side(options));
+  }
+  for (const std::string& file : options.files) {
+    if (Interrupt_Seen() != 0) return kNotDone;
+    worst = std::max(worst, Run(file, options));
+  }
+  return worst;
+}
+
+}  // namespace barvon

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace barvon {
+
+/// An application directory for one run, so that runs at the same time don't share their
+/// "Tmpfile.*": a new folder under TMPDIR with links to the files of the solvers' folder, but for
+/// what a run makes itself. It is removed with everything in it when this goes out of scope.
+class Scratch_Application {
+ public:
+  /// Null when it could not be made; `problem` says why.
+  static std::unique_ptr<Scratch_Application> Make(const std::string& solver_folder,
+                                                   std::string& problem);
+  ~Scratch_Application();
+  Scratch_Application(const Scratch_Application&) = delete;
+  Scratch_Application& operator=(const Scratch_Application&) = delete;
+
+  const std::string& Path() const { return path_; }
+
+ private:
+  explicit Scratch_Application(std::string path) : path_(std::move(path)) {}
+
+  std::string path_;
+};
+
+}  // namespace barvon

@@ -1,0 +1,18 @@
+#include "batch/target_key.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "core/text_tools.h"
+#include "platform/app_folder.h"
+
+namespace barvon {
+
+std::string Target_Key(const std::string& path) {
+  std::error_code error;
+  const std::string folder = Folder_Of(Absolute_Path(path));
+  const auto real = std::filesystem::weakly_canonical(folder, error);
+  return Join_Path(error ? folder : real.string(), Upper_Case(Name_Of(path)));
+}
+
+}  // namespace barvon
