@@ -2,6 +2,7 @@
 #include <QIcon>
 #include <clocale>
 
+#include "checks/frm_error_list.h"
 #include "platform/app_folder.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
@@ -17,6 +18,7 @@ int main(int, char** arguments) {
   barvon::Apply_Light_Palette(application);
   const barvon::Qt_Services services;
   barvon::Main main(barvon::Program_Folder());
+  barvon::Register_frmErrorList(&main);
   main.show();
   return QApplication::exec();
 }

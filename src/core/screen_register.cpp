@@ -6,28 +6,26 @@
 namespace barvon {
 namespace {
 
-std::map<std::string, Screen>& Screens() {
-  static std::map<std::string, Screen> screens;
+std::map<std::string, Screen_Opener>& Screens() {
+  static std::map<std::string, Screen_Opener> screens;
   return screens;
 }
 
 }  // namespace
 
-void Register_Screen(const std::string& name, Screen screen) {
-  Screens()[name] = std::move(screen);
+void Register_Screen(const std::string& name, Screen_Opener opener) {
+  if (opener) {
+    Screens()[name] = std::move(opener);
+  } else {
+    Screens().erase(name);
+  }
 }
 
-bool Open_Screen(const std::string& name, bool blocking) {
+bool Open_Screen(const std::string& name, bool blocking, const std::string& control) {
   const auto found = Screens().find(name);
-  if (found == Screens().end() || !found->second.open) return false;
-  found->second.open(blocking);
-  return true;
-}
-
-bool Focus_Screen(const std::string& name, const std::string& control) {
-  const auto found = Screens().find(name);
-  if (found == Screens().end() || !found->second.focus) return false;
-  found->second.focus(control);
+  if (found == Screens().end()) return false;
+  const Screen_Opener opener = found->second;  // it may be taken out while it is open
+  opener(blocking, control);
   return true;
 }
 

@@ -5,17 +5,15 @@
 
 namespace barvon {
 
-/// How one screen is reached by its name.
-struct Screen {
-  std::function<void(bool blocking)> open;
-  std::function<void(const std::string& control)> focus;
-};
+/// How a screen is opened: blocking or not, with the focus on the control of that name when one is
+/// given ("Text1(0)").
+using Screen_Opener = std::function<void(bool blocking, const std::string& control)>;
 
-void Register_Screen(const std::string& name, Screen screen);
+/// Makes a screen known by its name; an opener of the same name is replaced, an empty one takes
+/// the screen out again.
+void Register_Screen(const std::string& name, Screen_Opener opener);
 
 /// Opens the screen. False when no screen of that name stands.
-bool Open_Screen(const std::string& name, bool blocking);
-/// Gives the focus to a control of an open screen, by its name: "Text1(0)".
-bool Focus_Screen(const std::string& name, const std::string& control);
+bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});
 
 }  // namespace barvon

@@ -100,7 +100,7 @@ struct RunOfFaultyData : RunDriver {
   RunOfFaultyData() {
     record.RHDA0 = 0;  // out of bounds
     Register_Screen("frmErrorList",
-                    {[this](bool blocking) { opened.push_back(blocking); }, nullptr});
+                    [this](bool blocking, const std::string&) { opened.push_back(blocking); });
     Install(kWritesAll);
   }
   ~RunOfFaultyData() override { Register_Screen("frmErrorList", {}); }

@@ -16,11 +16,10 @@ class EditMenu : public ::testing::Test {
   EditMenu() {
     for (const char* name : {"frmDescription", "frmVelocity", "frmMatHopper", "frmMatBarge",
                              "frmOperation", "frmCoefficients", "frmDensity"}) {
-      Register_Screen(name, {[this, name](bool blocking) {
-                               opened.push_back(name);
-                               blocked = blocking;
-                             },
-                             {}});
+      Register_Screen(name, [this, name](bool blocking, const std::string&) {
+        opened.push_back(name);
+        blocked = blocking;
+      });
     }
     Port().display_data = [this] { ++refreshed; };
     Port().show_note = [this](const Status_Note& note) { noted = note.text; };

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// The input echo reads the model input by a layout of its own, on purpose without the code that
+/// writes it: two readings of one format find each other's slips.
+namespace echo {
+
+enum class Kind {
+  Integer,
+  Number,      // the default text form: at most 15 significant digits, "5E-05" when small
+  Cut_Number,  // a number whose text may have been cut at the column's end
+  Print_Time,  // a number with ".0" put behind its text
+  Name,        // left-justified, any characters
+};
+
+struct Field {
+  std::string name;
+  std::string unit;  // empty: it counts or chooses something
+  int width = 10;
+  Kind kind = Kind::Number;
+};
+
+/// Why the input is refused, with the line where that showed.
+struct Refusal : std::runtime_error {
+  Refusal(const std::string& file, int line, const std::string& reason);
+};
+
+/// The texts of the line's fields, without the blanks that pad them. A text that is wider than its
+/// column has pushed the rest of the line to the right; such a line is read when there is exactly
+/// one way to divide it. Throws std::string, the reason, when there is none or more than one.
+std::vector<std::string> Split_Line(const std::string& line, const std::vector<Field>& fields);
+
+/// The value of a text that Split_Line gave back for a field of this kind; 0 for a name.
+double Value_Of(const std::string& text, Kind kind);
+
+}  // namespace echo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "due_reader.h"
+
+namespace echo {
+
+/// The contents of the four outputs. Each says in its first line that nothing was simulated.
+std::string Listing(const Model_Input& input);      // tmpfile.duo: every value
+std::string Grid_Lines(const Model_Input& input);   // tmpfile.dup: where the grid points lie
+std::string Time_Lines(const Model_Input& input);   // tmpfile.dut: when results would be printed
+std::string Depth_Lines(const Model_Input& input);  // tmpfile.duc: depths and the water's profile
+
+/// What the program says about itself, in the outputs and on its standard output.
+extern const char kNothingSimulated[];
+
+}  // namespace echo

@@ -1,0 +1,120 @@
+#include "checks/frm_error_list.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "checks/check_data.h"
+#include "checks/error_navigation.h"
+#include "core/project_record.h"
+#include "core/screen_register.h"
+#include "platform/help_viewer.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kDetails = 0;
+constexpr int kClose = 1;
+constexpr QSize kSize(600, 360);
+
+}  // namespace
+
+frmErrorList::frmErrorList(QWidget* workspace)
+    : QDialog(workspace),
+      List1(new QListWidget(this)),
+      List2(new QListWidget(this)),
+      SSCommand1(this, "SSCommand1", 2) {
+  setObjectName("frmErrorList");
+  setWindowTitle("Error List");
+  resize(kSize);
+  List1->setObjectName("List1");
+  List1->setAccessibleName("Notes, warnings and errors");
+  List1->setWordWrap(true);
+  List2->setObjectName("List2");
+  List2->hide();
+
+  auto* label = new QLabel(
+      "List of Notes, Warnings && Errors.  Double Click on Error to Automatically Go To Form Where "
+      "the Problem Can Be Corrected.",
+      this);
+  label->setObjectName("Label1");
+  label->setWordWrap(true);
+  label->setBuddy(List1);
+  SSCommand1(kDetails)->setText("&Detailed Error Description");
+  SSCommand1(kClose)->setText("&Close");
+  for (QPushButton* button : SSCommand1) button->setAutoDefault(false);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(SSCommand1(kDetails));
+  buttons->addWidget(SSCommand1(kClose));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(label);
+  column->addWidget(List1, 1);
+  column->addLayout(buttons);
+
+  // Activated is a double click, and Return for those who use no mouse.
+  connect(List1, &QListWidget::itemActivated, this,
+          [this](QListWidgetItem* item) { List1_DblClick(List1->row(item)); });
+  for (int index = SSCommand1.first(); index <= SSCommand1.last(); ++index) {
+    connect(SSCommand1(index), &QPushButton::clicked, this,
+            [this, index] { SSCommand1_Click(index); });
+  }
+}
+
+void frmErrorList::Fill() {
+  List1->clear();
+  List2->clear();
+  for (const Error_Entry& entry : Current_Errors().entries) {
+    List1->addItem(QString::fromStdString(entry.message));
+    List2->addItem(QString::fromStdString(entry.reference));
+  }
+}
+
+void frmErrorList::Open(bool blocking) {
+  Fill();
+  if (const QWidget* workspace = parentWidget()) {
+    QRect place = geometry();
+    place.moveCenter(workspace->geometry().center());
+    move(place.topLeft());
+  }
+  List1->setFocus();
+  if (blocking) {
+    exec();
+    return;
+  }
+  setModal(false);
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmErrorList::List1_DblClick(int index) {
+  const QListWidgetItem* reference = List2->item(index);
+  if (reference == nullptr) return;
+  const auto target = Error_Target_Of(reference->text().toStdString());
+  if (!target) return;
+  // A screen opened over a blocking list would wait behind it.
+  if (isModal()) close();
+  Open_Screen(target->screen, Project().ShowMode == 1, target->control);
+}
+
+void frmErrorList::SSCommand1_Click(int index) {
+  if (index == kClose) {
+    close();
+    return;
+  }
+  const int entry = List1->currentRow();
+  if (entry < 0) return;
+  const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1] : 0;
+  Show_Help({Help_Command::Context, topic, {}});
+}
+
+void Register_frmErrorList(QWidget* workspace) {
+  auto* screen = new frmErrorList(workspace);
+  Register_Screen("frmErrorList",
+                  [screen](bool blocking, const std::string&) { screen->Open(blocking); });
+  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen("frmErrorList", nullptr); });
+}
+
+}  // namespace barvon
