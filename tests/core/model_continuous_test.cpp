@@ -48,7 +48,7 @@ TEST(ModelContinuous, KEY2_Is_Adjusted_Before_It_Is_Written) {
     record.KEY1 = 7, record.KEY3 = 0;
     record.KEY2 = static_cast<std::int16_t>(row.before);
     record.VesselSpeed = row.speed;
-    const auto lines = Lines_Of(Written(record));
+    const auto lines = Whole_Lines(Written(record));
     EXPECT_EQ(record.KEY2, row.after) << row.before << ' ' << row.speed;
     EXPECT_EQ(lines[3], row.after == 0 ? "7" : "7" + std::to_string(row.after));
   }
@@ -122,7 +122,7 @@ TEST(ModelContinuous, Other_Velocity_Types_Are_The_Type_Alone) {
   for (const int type : {1, 2, 5}) {
     ProjectRecord record = Continuous_Example();
     record.VelocityProfileType = type;
-    const auto lines = Lines_Of(Written(record));
+    const auto lines = Whole_Lines(Written(record));
     EXPECT_EQ(lines[24], std::to_string(type));
     EXPECT_EQ(lines[25], "23600.7200.");
     EXPECT_EQ(record.VelocityProfileType, type);

@@ -157,7 +157,7 @@ std::string Written(ProjectRecord& record) {
   return text;
 }
 
-std::vector<std::string> Lines_Of(const std::string& text) {
+std::vector<std::string> Whole_Lines(const std::string& text) {
   std::vector<std::string> lines;
   std::size_t at = 0;
   for (auto end = text.find("\r\n"); end != std::string::npos; end = text.find("\r\n", at)) {
@@ -168,6 +168,6 @@ std::vector<std::string> Lines_Of(const std::string& text) {
   return lines;
 }
 
-std::vector<std::string> Written_Lines(ProjectRecord record) { return Lines_Of(Written(record)); }
+std::vector<std::string> Written_Lines(ProjectRecord record) { return Whole_Lines(Written(record)); }
 
 }  // namespace barvon::testing

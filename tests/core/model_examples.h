@@ -16,7 +16,7 @@ ProjectRecord Continuous_Example();
 std::string Written(ProjectRecord& record);
 
 /// The lines without their CR LF.
-std::vector<std::string> Lines_Of(const std::string& text);
+std::vector<std::string> Whole_Lines(const std::string& text);
 /// The lines of the record's model input; the record itself stays as it is.
 std::vector<std::string> Written_Lines(ProjectRecord record);
 

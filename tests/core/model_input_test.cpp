@@ -59,7 +59,7 @@ TEST(ModelInput, A_Missing_Z_Spacing_Is_The_X_Spacing_And_Is_Written) {
   ProjectRecord record = Square_Spacing();
   record.DZ0 = 0;
   record.DEPC0 = 0;
-  const auto lines = Lines_Of(Written(record));
+  const auto lines = Whole_Lines(Written(record));
   EXPECT_EQ(record.DZ0, 100);
   EXPECT_EQ(lines[9], "         0       100       100");
 }
@@ -161,7 +161,7 @@ TEST(ModelInput, Deeper_Water_Than_The_Profile_Adds_A_Point) {
   record.DEPC0 = 100;
   record.DensityDepths = {0, 0, 80};
   record.Densities = {0, 1.01, 1.02};
-  const auto lines = Lines_Of(Written(record));
+  const auto lines = Whole_Lines(Written(record));
   EXPECT_EQ(record.NROA0, 3);
   EXPECT_EQ(record.DensityDepths[3], 100);
   EXPECT_EQ(record.Densities[3], 1.02);

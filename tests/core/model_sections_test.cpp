@@ -178,10 +178,10 @@ TEST(ModelSections, A_Tidal_Profile_Becomes_Its_Average_For_Good) {
   EXPECT_EQ(record.AvgVelocityX, 0.1);
   EXPECT_EQ(record.AvgVelocityZ, -0.7);
   EXPECT_EQ(record.AvgVelocityDepth, 38.5);
-  auto lines = Lines_Of(first);
+  auto lines = Whole_Lines(first);
   ASSERT_EQ(lines[32], "    5");
   lines[32] = "    1";
-  EXPECT_EQ(Lines_Of(Written(record)), lines);
+  EXPECT_EQ(Whole_Lines(Written(record)), lines);
 }
 
 /// 8 rows of 23 columns: not square, and more than two lines to a row.
