@@ -15,7 +15,7 @@ std::string Zero_Fraction_Message(const ProjectRecord& record, int solid) {
   return "Volumetric Fraction for " + record.SolidNames[solid] + " is Zero";
 }
 
-/// A continuous discharge has no material screen to lead to: its finding has no reference.
+/// A continuous discharge's finding leads nowhere: no reference and no topic.
 void Check_Mixed_Load(const ProjectRecord& record, Error_List& errors) {
   if (record.SeparationFlag != 0) return;
   const int solids = std::min<int>(record.NumSolids, kSolidEntries);

@@ -15,9 +15,9 @@ namespace barvon {
 Failure Write_Model_Input(ProjectRecord& record, std::string& text);
 
 /// The export of the model input: FileTypeTag becomes "DUE", and the model input is written
-/// beside the path under its name with the extension DUE, whole or not at all. On a failure
-/// nothing is left under that name that this project did not write before.
-/// `written` (may be null) takes the path of the export.
+/// beside the path under its name with the extension DUE, whole or not at all. On a failure an
+/// older export stays as it was, and no new one appears; the caller tells the user.
+/// `written` (may be null) takes the path of the export, also when it could not be written.
 Failure Save_Model_Extract(const std::string& path, ProjectRecord& record,
                            std::string* written = nullptr);
 

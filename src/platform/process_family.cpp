@@ -5,17 +5,18 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <system_error>
+
+#include "platform/safe_file.h"
 
 namespace barvon {
 namespace {
 
-std::string Whole_Text(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+/// A process may go between any two looks at it; then there is nothing to read.
+std::string Text_Of_Process(const std::string& number, const char* file) {
+  std::string text;
+  return Read_Whole_File("/proc/" + number + "/" + file, text) == 0 ? text : std::string();
 }
 
 }  // namespace
@@ -24,7 +25,7 @@ Process_Family::Process_Family(pid_t program, std::string mark)
     : program_(program), mark_(std::move(mark)) {}
 
 bool Process_Family::Read_Process(const std::string& number, Process& process) {
-  const std::string text = Whole_Text("/proc/" + number + "/stat");
+  const std::string text = Text_Of_Process(number, "stat");
   // The second field is the program's name in brackets and may hold anything, brackets too.
   const auto name_end = text.rfind(')');
   if (name_end == std::string::npos) return false;
@@ -50,7 +51,7 @@ std::vector<Process_Family::Process> Process_Family::All_Processes() {
 }
 
 bool Process_Family::Carries_Mark(pid_t pid) const {
-  const std::string environment = Whole_Text("/proc/" + std::to_string(pid) + "/environ");
+  const std::string environment = Text_Of_Process(std::to_string(pid), "environ");
   const auto at = environment.find(mark_);
   return at != std::string::npos && (at == 0 || environment[at - 1] == '\0') &&
          environment.c_str()[at + mark_.size()] == '\0';

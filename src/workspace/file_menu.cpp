@@ -18,6 +18,7 @@
 #include "core/workspace_port.h"
 #include "platform/file_dialog.h"
 #include "platform/message_box.h"
+#include "run/run_driver.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {
@@ -50,22 +51,11 @@ void Show_Opened(ProjectRecord& record) {
   Port().show_main_board();
 }
 
-/// The error list; where no such screen stands, the findings go to the status area.
-void Show_Findings(const ProjectRecord& record) {
-  if (Open_Screen("frmErrorList", record.ShowMode == 1)) return;
-  const Error_List& errors = Current_Errors();
-  Status_Note note;
-  note.text = "Errors in the data: " + std::to_string(errors.entries.size());
-  for (const Error_Entry& entry : errors.entries) note.details += entry.message + "\n";
-  Port().show_note(note);
-}
-
 bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   if (Check_Project(record) == kFalse) return true;
   const Answer answer =
-      Show_Message({"Errors have been detected in the data.  Do You Wish to Fix The Errors?",
-                    kMessageTitle, Buttons::YesNoCancel, Icon::None});
-  if (answer == Answer::Yes) Show_Findings(record);
+      Show_Message({kErrorsDetected, kMessageTitle, Buttons::YesNoCancel, Icon::None});
+  if (answer == Answer::Yes) Open_Screen("frmErrorList", record.ShowMode == 1);
   return answer == Answer::No;
 }
 

@@ -40,8 +40,8 @@ QLabel* Text(QLabel* label, const char* text = "") {
 QCheckBox* Shown_State(QCheckBox* box, const char* name, const char* caption) {
   if (*name != '\0') box->setObjectName(QLatin1String(name));
   box->setText(QLatin1String(caption));
-  box->setAttribute(Qt::WA_TransparentForMouseEvents);
   box->setFocusPolicy(Qt::NoFocus);
+  QObject::connect(box, &QCheckBox::clicked, box, [box](bool now) { box->setChecked(!now); });
   return box;
 }
 
@@ -182,8 +182,8 @@ QGroupBox* Summary(const char* name, const char* caption, const ControlArray<QLa
 
 void Build_Data_Board(Main_Controls& controls) {
   auto* board = new QGridLayout(Frame(controls.Frame3D2, "Frame3D2", ""));
-  board->setContentsMargins(14, 12, 14, 14);
-  board->setSpacing(kGap);
+  board->setContentsMargins(10, 12, 10, 10);
+  board->setSpacing(10);
   auto* options = Frame(new QGroupBox(controls.Frame3D2), "Frame3D7", "Program Options");
   auto* option_lines = Lines(options);
   option_lines->addWidget(Output_Options(controls, options));
@@ -246,7 +246,7 @@ void Build_Boards(Main_Controls& controls) {
   Build_Data_Board(controls);
   auto* centre = new QWidget(controls.window);
   auto* layout = new QVBoxLayout(centre);
-  layout->setContentsMargins(12, 8, 12, 10);
+  layout->setContentsMargins(10, 8, 10, 8);
   layout->setSpacing(kGap);
   layout->addWidget(controls.Frame3D1, 1);
   layout->addWidget(controls.Frame3D2, 1);

@@ -114,13 +114,8 @@ void Main::Fill_Port() {
   port.run_state = [this](bool running, const std::string& program) {
     controls_.status_area->Show_Run(running, program);
   };
-  // No text viewer stands: there is no text that could have changed, and none to be saved.
-  port.clear_text_checks = [] {};
-  port.close_dilution = [] {};
-  port.text_has_changed = [] { return false; };
-  port.text_caption = [] { return std::string(); };
-  port.active_text = [] { return std::string(); };
-  port.set_text_caption = [](const std::string&) {};
+  port.print_active_text = [] { Port().show_note({"There is no text to print.", ""}); };
+  // The text viewer's and the dilution screen's entries are filled by those who own them.
 }
 
 void Main::Set_Caption(const std::string& caption) {
@@ -145,10 +140,7 @@ void Main::closeEvent(QCloseEvent* event) {
   if (action == Close_Action::Save_And_Close) {
     mnuFileItem_Click(kFileSave, Project());
     // A save that failed or was called off must not take the data with it.
-    if (Project().DataSaved == kFalse) {
-      Port().show_note({"The project was not saved, so the program stays open.", ""});
-      action = Close_Action::Stay;
-    }
+    if (Project().DataSaved == kFalse) action = Close_Action::Stay;
   }
   asking_to_close_ = false;
   if (action == Close_Action::Stay) return;

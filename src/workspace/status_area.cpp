@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
+#include <QLayout>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -48,6 +49,9 @@ void Status_Area::Show_Note(const Status_Note& note) {
   Note_->setText(QString::fromStdString(note.text));
   details_ = QString::fromStdString(note.details);
   Details_->setVisible(!details_.isEmpty());
+  // What does not fit is to be had in whole too, without a mouse to hover.
+  layout()->activate();
+  if (Note_->Is_Cut()) Details_->show();
 }
 
 void Status_Area::Show_Run(bool running, const std::string& program) {
@@ -67,18 +71,21 @@ void Status_Area::Show_Details() {
   auto* note = new QLabel(Note_->text(), dialog);
   note->setTextFormat(Qt::PlainText);
   note->setWordWrap(true);
+  note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* lines = new QPlainTextEdit(details_, dialog);
   lines->setObjectName(QStringLiteral("Text1"));
   lines->setAccessibleName(QStringLiteral("Details"));
   lines->setReadOnly(true);
+  lines->setVisible(!details_.isEmpty());
   lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
   connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   auto* layout = new QVBoxLayout(dialog);
   layout->addWidget(note);
   layout->addWidget(lines, 1);
+  if (details_.isEmpty()) layout->addStretch();
   layout->addWidget(buttons);
-  dialog->resize(560, 320);
+  dialog->resize(560, details_.isEmpty() ? 160 : 320);
   dialog->show();
 }
 

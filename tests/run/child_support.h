@@ -15,6 +15,7 @@
 #include "core/workspace_port.h"
 #include "platform/app_folder.h"
 #include "platform/event_pump.h"
+#include "platform/safe_file.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {
@@ -38,7 +39,8 @@ inline pid_t Pid_In(const std::string& path) {
 /// does not run.
 inline bool Is_Alive(pid_t pid) {
   if (::kill(pid, 0) != 0) return false;
-  const std::string stat = Read_Text("/proc/" + std::to_string(pid) + "/stat");
+  std::string stat;
+  if (Read_Whole_File("/proc/" + std::to_string(pid) + "/stat", stat) != 0) return false;
   const auto name_end = stat.rfind(')');
   return name_end != std::string::npos && stat.at(name_end + 2) != 'Z' &&
          stat.at(name_end + 2) != 'X';

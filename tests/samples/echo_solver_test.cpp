@@ -116,7 +116,7 @@ class EchoSolver : public ::testing::Test {
   void Expect_Refusal(const Program_Result& result, const std::string& place,
                       const std::string& reason) {
     EXPECT_EQ(result.code, 1);
-    ASSERT_EQ(Lines_Of(result.err).size(), 1u) << result.err;
+    ASSERT_EQ(Printed_Lines(result.err).size(), 1u) << result.err;
     EXPECT_NE(result.err.find(place + ": "), std::string::npos) << result.err;
     EXPECT_NE(result.err.find(reason), std::string::npos) << result.err;
     for (const char* name : {"tmpfile.duo", "tmpfile.dup", "tmpfile.dut", "tmpfile.duc"}) {
@@ -124,7 +124,7 @@ class EchoSolver : public ::testing::Test {
     }
   }
 
-  Lines Output(const std::string& name) { return Lines_Of(Read_Text(folder_ / name)); }
+  Lines Output(const std::string& name) { return Printed_Lines(Read_Text(folder_ / name)); }
 
   Scratch_Folder folder_;
   std::string marker_ = kMarker;
@@ -137,7 +137,7 @@ bool Holds(const Lines& lines, const std::string& line) {
 TEST_F(EchoSolver, Says_In_The_First_Line_Of_Everything_That_It_Simulates_Nothing) {
   const Program_Result result = Echo(Hopper());
   ASSERT_EQ(result.code, 0) << result.err;
-  EXPECT_NE(Lines_Of(result.out).at(0).find("simulates nothing"), std::string::npos);
+  EXPECT_NE(Printed_Lines(result.out).at(0).find("simulates nothing"), std::string::npos);
   for (const char* name : {"tmpfile.duo", "tmpfile.dup", "tmpfile.dut", "tmpfile.duc"}) {
     EXPECT_NE(Output(name).at(0).find("simulates nothing"), std::string::npos) << name;
   }

@@ -59,7 +59,7 @@ Program_Result Run_Program(const Program_Start& start,
 
 Program_Result Run_Program(const Program_Start& start) { return Run_Program(start, {}); }
 
-std::vector<std::string> Lines_Of(const std::string& text) {
+std::vector<std::string> Printed_Lines(const std::string& text) {
   std::vector<std::string> lines;
   std::istringstream stream(text);
   for (std::string line; std::getline(stream, line);) {

@@ -29,6 +29,6 @@ Program_Result Run_Program(const Program_Start& start,
                            const std::function<void(pid_t)>& while_running);
 
 /// The lines of a text, without their ends.
-std::vector<std::string> Lines_Of(const std::string& text);
+std::vector<std::string> Printed_Lines(const std::string& text);
 
 }  // namespace barvon::testing

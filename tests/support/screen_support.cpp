@@ -38,22 +38,17 @@ Modal_Replies::~Modal_Replies() {
 
 void Modal_Replies::Look() {
   QWidget* window = QApplication::activeModalWidget();
-  if (window == nullptr || window == answered_) {
-    if (window == nullptr) answered_ = nullptr;
-    return;
-  }
-  answered_ = window;
-  // A second box may stand where the first one stood.
-  QObject::connect(window, &QObject::destroyed, &timer_, [this, window] {
-    if (answered_ == window) answered_ = nullptr;
-  });
+  if (window == nullptr || !answered_.insert(window).second) return;
+  QObject::connect(window, &QObject::destroyed, &timer_,
+                   [this, window] { answered_.erase(window); });
   if (auto* box = qobject_cast<QMessageBox*>(window)) {
     seen.push_back({box->windowTitle(), box->text(), box->icon(), box->textFormat(),
                     box->standardButtons(), box->standardButton(box->defaultButton())});
   }
   const auto turn = static_cast<std::size_t>(windows++);
   if (turn < replies_.size()) {
-    replies_[turn](window);
+    // Not from the timer itself: it rests while a reply brings up the next window.
+    QTimer::singleShot(0, window, [this, window, turn] { replies_[turn](window); });
   } else {
     ADD_FAILURE() << "unexpected window: " << window->windowTitle().toStdString();
     window->close();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTimer>
 #include <functional>
+#include <set>
 #include <vector>
 
 #include "platform/qt/qt_services.h"
@@ -40,7 +41,7 @@ class Modal_Replies {
   void Look();
 
   std::vector<Reply> replies_;
-  QWidget* answered_ = nullptr;
+  std::set<QWidget*> answered_;
   QTimer timer_;
 };
 

@@ -95,6 +95,14 @@ TEST(MainLayout, Every_Control_That_Takes_The_Focus_Has_A_Name_To_Be_Read_Out) {
   EXPECT_EQ(label->buddy(), bench.controls().Title_Box);
 }
 
+TEST(MainLayout, A_Remark_That_Is_Cut_Can_Be_Read_In_Whole_Without_A_Mouse) {
+  Main_Bench bench;
+  Port().show_note({std::string(400, 'w'), ""});
+  EXPECT_TRUE(bench.Child<QPushButton>("StatusDetails")->isVisible());
+  Port().show_note({"short", ""});
+  EXPECT_FALSE(bench.Child<QPushButton>("StatusDetails")->isVisible());
+}
+
 TEST(MainLayout, A_Long_Remark_Is_Shortened_And_Its_Details_Are_At_Hand) {
   Main_Bench bench;
   Port().show_note({"short", ""});

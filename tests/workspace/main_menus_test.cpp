@@ -151,7 +151,8 @@ TEST(MainMenus, View_Toggles_Toolbar_And_Show_Mode_But_Never_The_Status_Bar) {
 TEST(MainMenus, The_Wizard_Opens_Blocking) {
   Main_Bench bench;
   int opened = 0;
-  Register_Screen("Data_Wiz", {[&](bool blocking) { opened += blocking ? 1 : 100; }, {}});
+  Register_Screen("Data_Wiz",
+                  [&](bool blocking, const std::string&) { opened += blocking ? 1 : 100; });
   QTest::mouseClick(bench.controls().SSPanel3(9), Qt::LeftButton);
   Register_Screen("Data_Wiz", {});
   EXPECT_EQ(opened, 1);

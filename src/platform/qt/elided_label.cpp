@@ -32,7 +32,7 @@ bool Elided_Label::event(QEvent* event) {
 
 void Elided_Label::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QString line = fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+  const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
   style()->drawItemText(&painter, contentsRect(), Qt::AlignVCenter | Qt::TextSingleLine, palette(),
                         isEnabled(), line, foregroundRole());
 }

@@ -2,10 +2,24 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QToolTip>
 
 namespace barvon {
+namespace {
+
+/// Without the pictures that some desktops put on the buttons of a box.
+class House_Style : public QProxyStyle {
+ public:
+  House_Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
+};
+
+}  // namespace
 
 void Apply_Light_Palette(QApplication& application) {
   const QColor window(240, 241, 243), base(Qt::white), text(Qt::black), button(233, 235, 238);
@@ -28,7 +42,7 @@ void Apply_Light_Palette(QApplication& application) {
     palette.setColor(QPalette::Disabled, role, faint);
   }
   palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(200, 203, 208));
-  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  application.setStyle(new House_Style);
   application.setPalette(palette);
   QToolTip::setPalette(palette);
 }

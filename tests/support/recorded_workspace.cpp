@@ -1,0 +1,92 @@
+#include "support/recorded_workspace.h"
+
+#include "core/file_kinds.h"
+#include "core/project_defaults.h"
+#include "core/project_writer.h"
+#include "core/recent_files.h"
+#include "core/value_slots.h"
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/profile_settings.h"
+
+namespace barvon::testing {
+
+Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) {
+  Set_Application_Folder(folder_.path());
+  Reset_Port();
+  GetRecentFiles();  // no settings file: an empty menu
+  Set_Project_Defaults(record_);
+  Workspace_Port& port = Port();
+  port.set_caption = [this](const std::string& caption) {
+    caption_ = caption;
+    log_.push_back("caption " + caption);
+  };
+  port.caption = [this] { return caption_; };
+  port.display_data = [this] { log_.push_back("display"); };
+  port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
+    log_.push_back("status " + std::to_string(index) + " " + text +
+                   (colour == Status_Colour::Blue ? " blue" : " black"));
+  };
+  port.refresh_for_new_project = [this] { log_.push_back("new project"); };
+  port.clear_text_checks = [this] { log_.push_back("clear text checks"); };
+  port.close_dilution = [this] { log_.push_back("close dilution"); };
+  port.show_recent_menu = [this] { log_.push_back("recent menu"); };
+  port.show_main_board = [this] { log_.push_back("main board"); };
+  port.show_note = [this](const Status_Note& note) { notes_.push_back(note.text); };
+  port.text_has_changed = [this] { return text_has_changed_; };
+  port.text_caption = [] { return std::string("Untitled"); };
+  port.print_active_text = [this] { log_.push_back("print"); };
+  File_Dialog_Presenter dialogs;
+  dialogs.open = [this](const File_Request& request) {
+    open_asked_.push_back(request);
+    return chosen_;
+  };
+  dialogs.save = [this](const File_Request& request) {
+    save_asked_.push_back(request);
+    return chosen_;
+  };
+  dialogs.printer_setup = [this] { ++printer_setups_; };
+  former_dialogs_ = Set_File_Dialog_Presenter(dialogs);
+}
+
+Recorded_Workspace::~Recorded_Workspace() {
+  Reset_Port();
+  Register_File_Kind("DUD", {});
+  Set_File_Dialog_Presenter(former_dialogs_);
+  Set_Application_Folder(former_folder_);
+}
+
+void Recorded_Workspace::Write_Recent(int entry, const std::string& value) {
+  ASSERT_TRUE(Write_Profile_String(folder_ / "BARVON.INI", "Recent Files",
+                                   "RecentFile" + std::to_string(entry), value));
+}
+
+void Recorded_Workspace::Fill_Recent_Menu(const std::vector<std::string>& paths) {
+  int entry = 0;
+  for (const std::string& path : paths) Write_Recent(++entry, path);
+  GetRecentFiles();
+  log_.clear();
+}
+
+std::vector<std::string> Recorded_Workspace::Listed() const {
+  std::vector<std::string> listed;
+  for (int i = 1; i <= 4; ++i) {
+    listed.push_back(Read_Profile_String(folder_ / "BARVON.INI", "Recent Files",
+                                         "RecentFile" + std::to_string(i), ""));
+  }
+  return listed;
+}
+
+std::vector<std::string> Recorded_Workspace::Menu() const {
+  return {Recent_Menu().begin() + 1, Recent_Menu().end()};
+}
+
+std::string Recorded_Workspace::Project_Bytes(const std::string& title) {
+  const auto record = std::make_unique<ProjectRecord>();
+  Set_Project_Defaults(*record);
+  record->ProjectTitle = title;
+  Pack_Slots(*record);
+  return Save_Project(title, *record);
+}
+
+}  // namespace barvon::testing
