@@ -27,7 +27,7 @@ TEST_F(BatchCheck, Each_Finding_Is_A_Line_Of_File_Message_And_Reference) {
   const Program_Result result = Batch({"check", "fresh.DUI"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(
-      Lines_Of(result.out),
+      Printed_Lines(result.out),
       (Lines{"fresh.DUI\tRoughness Height Outside Bounds\tfrmDescription!Text1(5)",
              "fresh.DUI\tDepth of Receiving Water Not Supplied\tfrmDescription!F1Book1",
              "fresh.DUI\tDensity Value Not Supplied at Depth = \tfrmDescription!F1Book1",
@@ -64,7 +64,7 @@ TEST_F(BatchCheck, Files_That_Can_Not_Be_Read_Are_Told_In_One_Line_Each) {
       Batch({"check", "nowhere.DUI", "folder.DUI", "ring.DUI", "pipe.DUI", "text.txt", ""});
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(Lines_Of(result.err),
+  EXPECT_EQ(Printed_Lines(result.err),
             (Lines{"nowhere.DUI: can't be read: No such file or directory",
                    "folder.DUI: can't be read: Is a directory",
                    "ring.DUI: can't be read: Too many levels of symbolic links",
@@ -79,7 +79,7 @@ TEST_F(BatchCheck, A_File_That_Is_Cut_Off_Is_Told) {
   Write_Text(Path("empty.DUI"), "");
   const Program_Result result = Batch({"check", "cut.DUI", "empty.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.err),
+  EXPECT_EQ(Printed_Lines(result.err),
             (Lines{"cut.DUI: the file is cut off, or it is no project file",
                    "empty.DUI: the file is cut off, or it is no project file"}));
 }
@@ -102,8 +102,8 @@ TEST_F(BatchCheck, What_Can_Be_Done_Is_Done_And_The_Code_Is_The_Worst) {
   EXPECT_EQ(Batch({"check", "good.DUI", "faulty.DUI"}).code, 1);
   const Program_Result result = Batch({"check", "missing.DUI", "faulty.DUI", "good.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.out).size(), 1u);
-  EXPECT_EQ(Lines_Of(result.err).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.out).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
 }
 
 TEST_F(BatchShow, Json_Is_One_Object_With_Every_Field_Under_Its_Name) {
@@ -132,7 +132,7 @@ TEST_F(BatchShow, Without_Json_It_Lists_A_Field_To_A_Line) {
   Put_Sample(kHopper, "site.DUI");
   const Program_Result result = Batch({"show", "site.DUI"});
   EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(Lines_Of(result.out).size(), Record_Fields().size());
+  EXPECT_EQ(Printed_Lines(result.out).size(), Record_Fields().size());
   EXPECT_NE(result.out.find("\nDensities                    1.0212 1.022 1.0234 0 0\n"),
             std::string::npos);
   EXPECT_NE(result.out.find("\nDepthGrid                    96 x 96 values, 0 to 0\n"),
@@ -146,7 +146,7 @@ TEST_F(BatchShow, What_Is_Odd_About_A_File_That_Loads_Is_A_Warning) {
   Write_Text(Path("site.DUI"), bytes);
   const Program_Result result = Batch({"show", "--json", "site.DUI"});
   EXPECT_EQ(result.code, 0);
-  ASSERT_EQ(Lines_Of(result.err).size(), 1u);
+  ASSERT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_TRUE(result.err.starts_with("site.DUI: warning: ")) << result.err;
   EXPECT_EQ(nlohmann::json::parse(result.out)["KEY4"], 1);
 }

@@ -44,7 +44,7 @@ TEST_F(CommandLine, What_Makes_No_Sense_Is_Told_In_One_Line_And_Could_Not_Be_Don
     const std::string line = ::testing::PrintToString(arguments);
     EXPECT_EQ(result.code, 2) << line;
     EXPECT_EQ(result.out, "") << line;
-    EXPECT_EQ(Lines_Of(result.err).size(), 1u) << line << result.err;
+    EXPECT_EQ(Printed_Lines(result.err).size(), 1u) << line << result.err;
     EXPECT_TRUE(result.err.starts_with("barvon-run: ")) << line << result.err;
   }
 }

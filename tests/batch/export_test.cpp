@@ -44,7 +44,7 @@ TEST_F(BatchExport, Several_Projects_Do_Not_Go_Into_One_File) {
   Put_Sample(kBarge, "barge.DUI");
   const Program_Result result = Batch({"export", "hopper.DUI", "barge.DUI", "-o", "one.DUE"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.err).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_FALSE(Exists(Path("one.DUE")));
 }
 
@@ -63,7 +63,7 @@ TEST_F(BatchExport, The_Same_Project_Twice_Is_Written_Once) {
   Put_Sample(kHopper, "site.DUI");
   const Program_Result result = Batch({"export", "site.DUI", "./site.DUI"});
   EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(Lines_Of(result.out).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.out).size(), 1u);
 }
 
 TEST_F(BatchExport, Is_Never_Written_Over_A_Project) {
@@ -77,7 +77,7 @@ TEST_F(BatchExport, A_Model_Input_That_Can_Not_Be_Written_Leaves_No_File) {
   ASSERT_EQ(Batch({"new", "fresh.DUI"}).code, 0);  // its spacings are 0
   const Program_Result result = Batch({"export", "fresh.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.err).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_TRUE(result.err.starts_with("fresh.DUI: the model input can't be written: "))
       << result.err;
   EXPECT_FALSE(Exists(Path("fresh.DUE")));

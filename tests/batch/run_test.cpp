@@ -34,7 +34,7 @@ TEST_F(BatchRun, Says_What_Ran_And_What_Was_Kept) {
   const std::string solvers = Put_Solver(kAllOutputsScript);
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 0) << result.err;
-  const Lines lines = Lines_Of(result.out);
+  const Lines lines = Printed_Lines(result.out);
   ASSERT_EQ(lines.size(), 5u) << result.out;
   EXPECT_TRUE(lines[0].starts_with("site.DUI\tran\t" + solvers + "/merak32 ended with code 0"))
       << lines[0];
@@ -59,8 +59,8 @@ TEST_F(BatchRun, Runs_Without_Touching_The_Callers_Or_The_Solvers_Folder) {
   }
   EXPECT_EQ(Names_In(Path("solvers")), before);
   // What the solver saw: its own files, and those of this run only.
-  EXPECT_EQ(Lines_Of(Read_Text(Path("seen"))), (Lines{"KOLBREE.TMP", "Tmpfile.Due", "Tmpfile.log",
-                                                      "listing.txt", "merak32", "table.dat"}));
+  EXPECT_EQ(Printed_Lines(Read_Text(Path("seen"))),
+            (Lines{"KOLBREE.TMP", "Tmpfile.Due", "listing.txt", "merak32", "table.dat"}));
 }
 
 TEST_F(BatchRun, A_Solver_That_Fails_Could_Not_Be_Done_And_Its_Last_Lines_Are_Told) {
@@ -69,7 +69,7 @@ TEST_F(BatchRun, A_Solver_That_Fails_Could_Not_Be_Done_And_Its_Last_Lines_Are_To
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.out, "");
-  const Lines lines = Lines_Of(result.err);
+  const Lines lines = Printed_Lines(result.err);
   ASSERT_EQ(lines.size(), 3u) << result.err;
   EXPECT_NE(lines[0].find("ended with code 3"), std::string::npos) << lines[0];
   EXPECT_EQ(lines[1], "site.DUI: the solver said: reading");
@@ -81,7 +81,7 @@ TEST_F(BatchRun, A_Solver_That_Writes_Some_Outputs_Only_Is_No_Success_And_They_A
   Put_Solver("echo 1 > tmpfile.duo; echo 2 > TMPFILE.DUT\n");
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.out),
+  EXPECT_EQ(Printed_Lines(result.out),
             (Lines{"site.DUI\tkept\t" + Path("site.duo"), "site.DUI\tkept\t" + Path("site.dut")}));
   EXPECT_NE(result.err.find("not written by this run"), std::string::npos) << result.err;
 }
@@ -92,7 +92,7 @@ TEST_F(BatchRun, A_Missing_Solver_Is_Told) {
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 2);
   EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: ")) << result.err;
-  EXPECT_EQ(Lines_Of(result.err).size(), 1u);
+  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_EQ(Left_Behind(), Lines{});
 }
 
@@ -158,7 +158,7 @@ TEST_F(BatchRun, Two_Jobs_Run_At_The_Same_Time_And_Speak_In_The_Order_Of_The_Fil
   const Program_Result result =
       Batch({"run", "--jobs", "2", "--solver-dir", "solvers", "first.DUI", "second.DUI"});
   EXPECT_EQ(result.code, 0) << result.err;
-  const Lines lines = Lines_Of(result.out);
+  const Lines lines = Printed_Lines(result.out);
   ASSERT_EQ(lines.size(), 10u) << result.out;
   EXPECT_TRUE(lines[0].starts_with("first.DUI\tran\t"));
   EXPECT_TRUE(lines[5].starts_with("second.DUI\tran\t"));
@@ -175,8 +175,8 @@ TEST_F(BatchRun, Jobs_Relay_What_Each_Says_And_The_Worst_Code) {
   const Program_Result result =
       Batch({"run", "--jobs", "3", "--solver-dir", "solvers", "a.DUI", "b.DUI", "c.DUI", "d.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Lines_Of(result.out).size(), 6u) << result.out;
-  EXPECT_EQ(Lines_Of(result.err),
+  EXPECT_EQ(Printed_Lines(result.out).size(), 6u) << result.out;
+  EXPECT_EQ(Printed_Lines(result.err),
             (Lines{"c.DUI: can't be read: No such file or directory",
                    "d.DUI: Not run: no model is available for this discharge case."}));
 }
@@ -189,7 +189,7 @@ TEST_F(BatchRun, The_Same_Project_Twice_Is_Run_Once) {
                                        "sub/site.DUI", "link/site.DUI", "./sub/../sub/SITE.dui"});
   EXPECT_EQ(result.code, 0) << result.err;
   EXPECT_EQ(Read_Text(Path("runs")), "run\n");
-  EXPECT_EQ(Lines_Of(result.err),
+  EXPECT_EQ(Printed_Lines(result.err),
             (Lines{"link/site.DUI: warning: given more than once; it is run once",
                    "./sub/../sub/SITE.dui: warning: given more than once; it is run once"}));
 }
