@@ -67,7 +67,7 @@ Load_Result Load_Project(const std::string& path, std::string_view bytes, Projec
     read = Read_Columns(parts.columns, kMaxGridPoints, progress);
     if (!parts.exact.empty()) {
       read.failure = Apply_Exact_Values(parts.exact, read);
-      if (read.failure != Failure::None) return {read.failure, false, {}};
+      if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
       // Behind the columns of such a file stand its exact values, not the end.
       read.at_end = false;
     } else if (read.failure == Failure::Input_Past_End) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/project_defaults.h"
@@ -166,6 +167,29 @@ TEST_F(ExactValues, Damaged_Lines_Fail) {
     auto copy = lines;
     copy[kFullLines + 2] = damaged;
     EXPECT_EQ(Load(copy), Failure::Type_Mismatch) << damaged;
+  }
+}
+
+TEST_F(ExactValues, Faults_Of_A_File_With_Exact_Values_Are_Told_By_Their_Number) {
+  record_.ALPHA3 = 1.0 / 3;
+  const auto lines = Save();
+  auto velocity = lines;
+  velocity[1574].replace(8, 8, "     abc");
+  auto real = lines;
+  real[7] = "      1E999";
+  auto exact = lines;
+  exact[kFullLines + 2] = "no entry at all";
+  const std::vector<std::pair<std::vector<std::string>, std::string>> faults = {
+      {velocity, "Error Reading File:  13"},
+      {real, "Error Reading File:  6"},
+      {exact, "Error Reading File:  13"}};
+  for (const auto& [faulty, text] : faults) {
+    Scripted_Messages messages({Answer::Ok});
+    const Load_Result result = Load_Project("site.dui", Joined(faulty), record_);
+    EXPECT_NE(result.failure, Failure::None) << text;
+    EXPECT_TRUE(result.told) << text;
+    ASSERT_EQ(messages.shown.size(), 1U) << text;
+    EXPECT_EQ(messages.shown[0].text, text);
   }
 }
 
