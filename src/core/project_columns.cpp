@@ -112,7 +112,8 @@ class Text_Source {
     const auto end = std::min(rest_.find_first_of(" \t\r\n,"), rest_.size());
     const std::string_view token = rest_.substr(0, end);
     rest_.remove_prefix(end);
-    if (!rest_.empty() && rest_.front() == ',') rest_.remove_prefix(1);
+    const auto next = rest_.find_first_not_of(" \t");
+    if (next != std::string_view::npos && rest_[next] == ',') rest_.remove_prefix(next + 1);
     return token;
   }
 
