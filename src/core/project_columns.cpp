@@ -1,6 +1,7 @@
 #include "core/project_columns.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -178,9 +179,10 @@ class Column_Reader {
     if (!token) return Failure::Input_Past_End;
     if (!Is_Number(*token)) return Failure::Type_Mismatch;
     try {
-      const double value = Column_Number(*token);
-      Number_In(result_.image, number) =
-          Is_Narrow(number) ? static_cast<double>(static_cast<float>(value)) : value;
+      double value = Column_Number(*token);
+      if (Is_Narrow(number)) value = static_cast<double>(static_cast<float>(value));
+      if (!std::isfinite(value)) return Failure::Overflow;
+      Number_In(result_.image, number) = value;
     } catch (const Run_Time_Failure& stopped) {
       return stopped.failure;
     }
