@@ -133,7 +133,7 @@ std::size_t Width_Of(std::string_view line) {
 
 class Column_Reader {
  public:
-  Column_Reader(std::string_view bytes, int n, Progress_Display& progress)
+  Column_Reader(std::string_view bytes, int n, Progress_Display* progress)
       : source_(bytes), n_(n), progress_(progress) {
     result_.given.resize(Image_Numbers().size());
   }
@@ -224,7 +224,7 @@ class Column_Reader {
       for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot) {
         Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealReadWidth, kRealReadWidth));
       }
-      progress_.Move(line / total);
+      if (progress_ != nullptr) progress_->Move(line / total);
     }
   }
 
@@ -286,7 +286,7 @@ class Column_Reader {
 
   Text_Source source_;
   int n_;
-  Progress_Display& progress_;
+  Progress_Display* progress_;
   Columns_Read result_;
 };
 
@@ -350,7 +350,7 @@ std::string Write_Columns(const Project_Image& image, Progress_Display& progress
   return text;
 }
 
-Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress) {
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress) {
   return Column_Reader(bytes, n, progress).Read();
 }
 
