@@ -146,8 +146,8 @@ TEST_F(ExactValues, Lines_That_Are_Cut_Off_Fail_And_Leave_The_Record) {
   const std::string text = Joined(lines);
   const std::size_t head = text.find("Exact values");
   record_.ProjectTitle = "before";
-  // Cut anywhere between the head and its end line's last character.
-  for (std::size_t size = head + 76; size < text.size() - 2; ++size) {
+  // Cut anywhere between the head's first character and its end line's last.
+  for (std::size_t size = head + 1; size < text.size() - 2; ++size) {
     const Load_Result result = Load_Project("site.dui", text.substr(0, size), record_);
     ASSERT_NE(result.failure, Failure::None) << size - head;
     ASSERT_FALSE(result.told);
