@@ -1,6 +1,7 @@
 #include "core/project_columns.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -112,7 +113,8 @@ class Text_Source {
     const auto end = std::min(rest_.find_first_of(" \t\r\n,"), rest_.size());
     const std::string_view token = rest_.substr(0, end);
     rest_.remove_prefix(end);
-    if (!rest_.empty() && rest_.front() == ',') rest_.remove_prefix(1);
+    const auto next = rest_.find_first_not_of(" \t");
+    if (next != std::string_view::npos && rest_[next] == ',') rest_.remove_prefix(next + 1);
     return token;
   }
 
@@ -131,7 +133,7 @@ std::size_t Width_Of(std::string_view line) {
 
 class Column_Reader {
  public:
-  Column_Reader(std::string_view bytes, int n, Progress_Display& progress)
+  Column_Reader(std::string_view bytes, int n, Progress_Display* progress)
       : source_(bytes), n_(n), progress_(progress) {
     result_.given.resize(Image_Numbers().size());
   }
@@ -177,9 +179,10 @@ class Column_Reader {
     if (!token) return Failure::Input_Past_End;
     if (!Is_Number(*token)) return Failure::Type_Mismatch;
     try {
-      const double value = Column_Number(*token);
-      Number_In(result_.image, number) =
-          Is_Narrow(number) ? static_cast<double>(static_cast<float>(value)) : value;
+      double value = Column_Number(*token);
+      if (Is_Narrow(number)) value = static_cast<double>(static_cast<float>(value));
+      if (!std::isfinite(value)) return Failure::Overflow;
+      Number_In(result_.image, number) = value;
     } catch (const Run_Time_Failure& stopped) {
       return stopped.failure;
     }
@@ -221,7 +224,7 @@ class Column_Reader {
       for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot) {
         Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealReadWidth, kRealReadWidth));
       }
-      progress_.Move(line / total);
+      if (progress_ != nullptr) progress_->Move(line / total);
     }
   }
 
@@ -283,7 +286,7 @@ class Column_Reader {
 
   Text_Source source_;
   int n_;
-  Progress_Display& progress_;
+  Progress_Display* progress_;
   Columns_Read result_;
 };
 
@@ -347,7 +350,7 @@ std::string Write_Columns(const Project_Image& image, Progress_Display& progress
   return text;
 }
 
-Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress) {
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress) {
   return Column_Reader(bytes, n, progress).Read();
 }
 

@@ -28,7 +28,7 @@ struct Columns_Read {
 
 /// Reads the lines of a file of n grid points a side: 96 the full layout, 45 the short one, which
 /// has no tail. Real fields are 12 columns wide, one more than the writer's; blanks inside a field
-/// are ignored. Lines end in CR LF or LF.
-Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress);
+/// are ignored. Lines end in CR LF or LF. Without a progress display nothing is shown.
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress);
 
 }  // namespace barvon

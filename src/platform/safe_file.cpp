@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "platform/app_folder.h"
 
@@ -178,11 +179,15 @@ int Safe_File::Commit() {
   if (descriptor_ < 0) return Fail(EBADF);
   if (const int error = Write_All(descriptor_, pending_); error != 0) return Fail(error);
   if (::fsync(descriptor_) != 0) return Fail(errno);
+  // Closing may fail too, so it comes before the renaming. A second descriptor keeps the lock
+  // until then: without it another start would take the file for abandoned.
+  const int lock = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
+  if (lock < 0) return Fail(errno);
+  if (::close(std::exchange(descriptor_, lock)) != 0) return Fail(errno);
   if (::rename(working_.c_str(), target_.c_str()) != 0) return Fail(errno);
-  const int descriptor = descriptor_;
   descriptor_ = -1;
   Discard();
-  if (::close(descriptor) != 0) return Fail(errno);
+  ::close(lock);
   return Sync_Folder(Folder_Of(target_));
 }
 

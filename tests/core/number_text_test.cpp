@@ -9,6 +9,8 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <locale>
+#include <string>
 
 #include "core/failure.h"
 
@@ -91,12 +93,25 @@ TEST(PlainNumber, Is_Plain_From_0_0001_To_Below_1E15_And_In_Exponent_Form_Outsid
   EXPECT_EQ(Plain_Number(999999999999999.9), "1E+15");
 }
 
+/// A locale with a decimal comma and grouped digits, there on every machine.
+struct Decimal_Comma : std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+
 TEST(PlainNumber, Does_Not_Follow_The_Locale) {
-  const std::string former = std::setlocale(LC_ALL, nullptr);
+  const std::string former_c = std::setlocale(LC_ALL, nullptr);
+  const std::locale former(std::locale::global(std::locale(std::locale(), new Decimal_Comma)));
   std::setlocale(LC_ALL, "de_DE.UTF-8");
-  EXPECT_EQ(Plain_Number(0.5), "0.5");
-  EXPECT_EQ(Lenient_Number("0.5"), 0.5);
-  std::setlocale(LC_ALL, former.c_str());
+  const std::string plain = Plain_Number(12345.5);
+  const std::string exact = Exact_Number(12345.5);
+  const double lenient = Lenient_Number("12345.5");
+  std::locale::global(former);
+  std::setlocale(LC_ALL, former_c.c_str());
+  EXPECT_EQ(plain, "12345.5");
+  EXPECT_EQ(exact, "12345.5");
+  EXPECT_EQ(lenient, 12345.5);
 }
 
 TEST(PlainNumber, A_Float_Goes_Through_Its_Own_Shortest_Text) {
