@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "core/column_reader.h"
 #include "core/exact_values.h"
-#include "core/project_columns.h"
 #include "core/project_image.h"
 #include "core/value_slots.h"
 #include "platform/message_box.h"

@@ -1,8 +1,9 @@
 #include "core/project_writer.h"
 
+#include "core/column_reader.h"
+#include "core/column_writer.h"
 #include "core/exact_values.h"
 #include "core/fluid_concentration.h"
-#include "core/project_columns.h"
 #include "core/project_image.h"
 #include "core/value_slots.h"
 #include "platform/progress_display.h"

@@ -25,6 +25,7 @@ constexpr std::string_view kWorkingEnding = ".barvon-save";
 constexpr std::string_view kNoteEnding = ".barvon-note";
 constexpr std::size_t kMarkLength = 16;
 constexpr std::size_t kWriteBuffer = 1u << 16;
+constexpr off_t kLargestFile = off_t{1} << 28;
 
 std::string& Notes_Folder() {
   static std::string folder;
@@ -205,6 +206,7 @@ int Read_Whole_File(const std::string& path, std::string& bytes) {
   int error = ::fstat(descriptor, &status) == 0 ? 0 : errno;
   if (error == 0 && S_ISDIR(status.st_mode)) error = EISDIR;
   if (error == 0 && !S_ISREG(status.st_mode)) error = ENOTSUP;
+  if (error == 0 && status.st_size > kLargestFile) error = EFBIG;
   bytes.clear();
   std::string part(kWriteBuffer, '\0');
   while (error == 0) {

@@ -93,14 +93,12 @@ TEST(PlainNumber, Is_Plain_From_0_0001_To_Below_1E15_And_In_Exponent_Form_Outsid
   EXPECT_EQ(Plain_Number(999999999999999.9), "1E+15");
 }
 
-<<<<<<< HEAD
 /// A locale with a decimal comma and grouped digits, there on every machine.
 struct Decimal_Comma : std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
   char do_thousands_sep() const override { return '.'; }
   std::string do_grouping() const override { return "\3"; }
 };
-=======
 TEST(NumberToCut, Is_The_Plain_Number_Where_The_Cut_Takes_Decimals_Only) {
   for (const double value : {123.456789012345, 0.000123456789, -0.5, 25.0, 1234567890.0,
                              1234567890.5, 5e-5, 1e100, 0.0}) {
@@ -124,7 +122,6 @@ RC_GTEST_PROP(NumberToCut, Is_Still_That_Number_After_The_Cut, (double value)) {
   const double back = Lenient_Number(Number_To_Cut(value, 10).substr(0, 10));
   RC_ASSERT(std::abs(back - value) <= 0.01 * std::abs(value));
 }
->>>>>>> h/r2
 
 TEST(PlainNumber, Does_Not_Follow_The_Locale) {
   const std::string former_c = std::setlocale(LC_ALL, nullptr);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "core/failure.h"
@@ -8,10 +7,6 @@
 #include "platform/progress_display.h"
 
 namespace barvon {
-
-/// The lines of a full project file for the image, Windows-1252 with CR LF, real fields 11 columns
-/// wide. Values wider than their field are not cut: they shift the rest of their line.
-std::string Write_Columns(const Project_Image& image, Progress_Display& progress);
 
 /// What came of reading a project file's lines.
 struct Columns_Read {
