@@ -6,8 +6,10 @@
 
 #include "core/project_record.h"
 #include "core/workspace_port.h"
+#include "platform/qt/end_signals.h"
 #include "run/create_process.h"
 #include "support/screen_support.h"
+#include "workspace/quit_rules.h"
 
 namespace barvon {
 namespace {
@@ -117,6 +119,14 @@ TEST_F(MainRun, Closing_The_Window_Meanwhile_Leaves_No_Process) {
       },
       {Press(QMessageBox::Yes)});
   EXPECT_EQ(ended_with, 1);
+}
+
+TEST_F(MainRun, A_Signal_To_End_The_Program_Meanwhile_Leaves_No_Process) {
+  const End_Signals end_signals(End_Program);
+  Run_And([] { raise(SIGTERM); });
+  EXPECT_EQ(bench.ended, 1);
+  EXPECT_FALSE(Is_Alive(Process("solver.pid")));
+  EXPECT_TRUE(testing::Wait_Until([this] { return !Is_Alive(Process("helper.pid")); }));
 }
 
 }  // namespace
