@@ -108,6 +108,22 @@ TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {
   EXPECT_NE(bench.Child<QLabel>("StatusNote")->text(), "");
 }
 
+TEST_F(MainRun, A_Key_After_Stop_Does_Not_Replace_The_Title) {
+  QTest::keyClicks(bench.controls().Title_Box, "BAY");
+  Run_And([this] {
+    auto* stop = bench.Child<QPushButton>("StopRun");
+    stop->setFocus();
+    QTest::keyClick(stop, Qt::Key_Space);
+    EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+  });
+  EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+  auto* details = bench.Child<QPushButton>("StatusDetails");
+  Port().show_note({"a remark", "with details"});
+  details->setFocus();
+  Port().show_note({"another", ""});
+  EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+}
+
 TEST_F(MainRun, Closing_The_Window_Meanwhile_Leaves_No_Process) {
   int ended_with = -1;
   Run_And(
