@@ -7,6 +7,10 @@
 
 namespace barvon {
 
+/// What is asked before faulty data is run or saved: Yes, No, Cancel.
+inline constexpr char kErrorsDetected[] =
+    "Errors have been detected in the data.  Do You Wish to Fix The Errors?";
+
 /// Tests the whole record: site, material, operation and time rules in this order. All rules run;
 /// none changes the record.
 Error_List Check_Data(const ProjectRecord& record);
