@@ -18,6 +18,7 @@
 #include "core/text_tools.h"
 #include "core/workspace_port.h"
 #include "platform/app_folder.h"
+#include "platform/folder_lock.h"
 #include "platform/message_box.h"
 #include "platform/safe_file.h"
 #include "run/solver_table.h"
@@ -145,6 +146,12 @@ std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder)
 
 void Run_Solver(ProjectRecord& record, Run_Report& report) {
   const std::string folder = Absolute_Path(Application_Folder());
+  // Solvers meet in this folder under the same names, whichever program started them.
+  const Folder_Lock lock(folder);
+  if (lock.Is_Taken()) {
+    report.stage = Run_Stage::Refused;
+    return;
+  }
   const std::string project = record.ProjectFileName;
   const std::string base_name = record.BaseFileName;
   Remove_Scratch_Files(project);
