@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kHopper = 1;
 constexpr int kBarge = 3;
+constexpr std::size_t kTitleWidth = 60;
 
 Field Int(std::string name) { return {std::move(name), "", 5, Kind::Integer}; }
 Field Num(std::string name, std::string unit = "") {
@@ -135,6 +136,7 @@ class Reader {
       Refuse("DisposalMethod is neither 1 (hopper) nor 3 (barge)");
     }
     model_.title = Take_Line("the title");
+    if (model_.title.size() < kTitleWidth) Refuse("the title has less than 60 columns");
     model_.title.erase(0, model_.title.find_first_not_of(' '));
     model_.title.erase(model_.title.find_last_not_of(' ') + 1);
     model_.entries.push_back({"ProjectTitle", "", model_.title});

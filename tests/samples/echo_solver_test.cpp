@@ -319,6 +319,14 @@ TEST_F(EchoSolver, Refuses_What_Is_No_Number_At_All) {
   Expect_Refusal(Echo(due), "Tmpfile.Due, line 13", "is no number for RHDA0");
 }
 
+TEST_F(EchoSolver, Refuses_A_Title_Without_Its_Padding) {
+  Lines due = Hopper();
+  due[1] = "A LITTLE HOPPER";
+  Expect_Refusal(Echo(due), "Tmpfile.Due, line 2", "less than 60 columns");
+  due[1] = "A hopper whose title is longer than the sixty columns that are kept for it";
+  EXPECT_EQ(Echo(due).code, 0);
+}
+
 TEST_F(EchoSolver, Refuses_A_Line_That_Is_Too_Short) {
   Lines due = Hopper();
   due[15] = "     1.021";
