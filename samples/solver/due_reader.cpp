@@ -296,7 +296,7 @@ class Reader {
 
 std::string Read_Marker(const std::string& file, const std::string& bytes) {
   const std::vector<std::string> lines = Lines_Of(bytes);
-  // Seven parts between commas; the fifth is the scratch name, the last one is empty.
+  // Seven fields between commas; the fifth is the scratch name, the last one is empty.
   static const std::vector<std::size_t> kWidths = {6, 1, 28, 37, 8, 27, 0};
   if (lines.empty()) throw Refusal(file, 1, "the marker line is missing");
   if (lines.size() > 1) throw Refusal(file, 2, "the marker is one line");
@@ -312,7 +312,7 @@ std::string Read_Marker(const std::string& file, const std::string& bytes) {
   for (std::size_t i = 0; i < parts.size(); ++i) {
     if (parts[i].size() != kWidths[i]) {
       throw Refusal(file, 1,
-                    "part " + std::to_string(i + 1) + " of the marker has " +
+                    "field " + std::to_string(i + 1) + " of the marker has " +
                         std::to_string(kWidths[i]) + " columns");
     }
   }

@@ -276,7 +276,7 @@ TEST_F(EchoSolver, Refuses_A_Marker_Of_Another_Kind) {
 
 TEST_F(EchoSolver, Refuses_A_Marker_Whose_Columns_Are_Shifted) {
   marker_.insert(9, " ");
-  Expect_Refusal(Echo(Hopper()), "KOLBREE.TMP, line 1", "part 3 of the marker has 28 columns");
+  Expect_Refusal(Echo(Hopper()), "KOLBREE.TMP, line 1", "field 3 of the marker has 28 columns");
 }
 
 TEST_F(EchoSolver, Refuses_An_Empty_Marker) {
