@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/app_folder.h"
 #include "platform/folder_lock.h"
 #include "run/run_driver_fixture.h"
 
@@ -47,7 +48,7 @@ TEST_F(RunWaiting, A_Run_Of_Another_Program_In_The_Same_Folder_Is_Not_Disturbed)
   Install(kWritesAll);
   Write_Text(bench / "Tmpfile.Due", "of the other program");
   {
-    const Folder_Lock other(bench.folder.path());
+    const Folder_Lock other(Application_Folder());
     EXPECT_EQ(Run().stage, Run_Stage::Refused);
   }
   EXPECT_EQ(Read_Text(bench / "Tmpfile.Due"), "of the other program");
