@@ -70,7 +70,8 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
     if (!result.told) Offer_Fresh_Start(record);
     return false;
   }
-  if (!result.remark.empty()) Port().show_note({result.remark, {}});
+  // What was said of the project before no longer holds.
+  Port().show_note({result.remark, {}});
   return true;
 }
 

@@ -244,6 +244,14 @@ TEST_F(OpenFile, A_Faulty_Dilution_File_Offers_A_Fresh_Start) {
   Expect_Former_Project();
 }
 
+TEST_F(OpenFile, What_Was_Said_Of_The_Project_Before_Is_Taken_Back) {
+  const std::string path = folder_ / "next.dui";
+  Write_Text(path, Project_Bytes("Next"));
+  Port().show_note({"site.duo kept", "details"});
+  ASSERT_TRUE(Open_File(path, record_));
+  EXPECT_EQ(notes_, (Lines{"site.duo kept", ""}));
+}
+
 TEST_F(OpenFile, A_Project_Whose_KEY4_Chooses_Nothing_Has_Its_Menus_And_Its_Kind) {
   const std::string path = folder_ / "unchosen.dui";
   Write_Text(path, Project_Bytes("Unchosen"));
