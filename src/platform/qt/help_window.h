@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+#include <memory>
+
+#include "platform/qt/help_library.h"
+#include "platform/qt/help_navigation.h"
+#include "platform/qt/help_page.h"
+
+namespace barvon {
+
+/// The help window: contents, index and search beside the page. It can be used while an input
+/// screen blocks the rest of the program.
+class Help_Window : public QWidget {
+ public:
+  explicit Help_Window(std::unique_ptr<Help_Library> library);
+  ~Help_Window() override;
+
+  Help_Library& library() { return *library_; }
+  Help_Navigation& navigation() { return *navigation_; }
+  Help_Page& page() { return *page_; }
+
+  void Show_Topic(int topic);
+  void Show_Contents();
+  /// Shows the window in front, with the contents page when it has none yet.
+  void Come_Forward();
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  QAction* Add(const char* name, const QString& text, const QList<QKeySequence>& keys);
+  void Build_Actions();
+  QWidget* Build_Find_Bar();
+  void Place();
+  void Open_Find_Bar();
+  void Find(bool backward);
+  void Print();
+  void Follow_Blocking_Window();
+
+  std::unique_ptr<Help_Library> library_;
+  Help_Navigation* navigation_;
+  Help_Page* page_;
+  QWidget* find_bar_;
+  QLineEdit* find_text_ = nullptr;
+  QLabel* find_outcome_ = nullptr;
+};
+
+}  // namespace barvon
