@@ -38,6 +38,7 @@ Help_Search::Help_Search(QHelpSearchEngine& engine, QWidget* parent)
   results_->setAccessibleName(QStringLiteral("Pages that hold the words"));
   results_->setWordWrap(true);
   results_->setAlternatingRowColors(true);
+  results_->setSpacing(2);
 
   auto* line = new QHBoxLayout;
   line->addWidget(words_, 1);

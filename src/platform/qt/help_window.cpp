@@ -2,14 +2,11 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -19,8 +16,8 @@ namespace {
 /// Where the window opens, as far as the text is readable at that size and the screen holds it.
 constexpr QRect kPlace(256, 256, 512, 512);
 // In characters of the desktop's font.
-constexpr int kNavigationWidth = 30;
-constexpr int kPageWidth = 62;
+constexpr int kNavigationWidth = 38;
+constexpr int kPageWidth = 66;
 constexpr int kLeastWidth = 40;
 constexpr int kLeastLines = 14;
 
@@ -30,7 +27,7 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
     : library_(std::move(library)),
       navigation_(new Help_Navigation(*library_, this)),
       page_(new Help_Page(*library_, this)),
-      find_bar_(Build_Find_Bar()) {
+      find_bar_(new Help_Find_Bar(*page_, this)) {
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("BARVON Help"));
   // The program ends with its main window, whether help stands open or not.
@@ -73,8 +70,9 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
   connect(page_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
     navigation_->Follow(page);
     const QString title = page_->documentTitle();
-    setWindowTitle(title.isEmpty() ? QStringLiteral("BARVON Help")
-                                   : title + QStringLiteral(" - BARVON Help"));
+    setWindowTitle(title.isEmpty() || page == library_->Contents_Page()
+                       ? QStringLiteral("BARVON Help")
+                       : title + QStringLiteral(" - BARVON Help"));
   });
 }
 
@@ -114,8 +112,7 @@ void Help_Window::Build_Actions() {
       Add("HelpNormal", QStringLiteral("Normal"), {QKeySequence(Qt::CTRL | Qt::Key_0)});
   tools->addSeparator();
   QAction* find = Add("HelpFind", QStringLiteral("Find"), {QKeySequence(QKeySequence::Find)});
-  QAction* print =
-      Add("HelpPrint", QStringLiteral("Print..."), {QKeySequence(QKeySequence::Print)});
+  QAction* print = Add("HelpPrint", QStringLiteral("Print"), {QKeySequence(QKeySequence::Print)});
   back->setEnabled(false);
   forward->setEnabled(false);
 
@@ -127,7 +124,7 @@ void Help_Window::Build_Actions() {
   connect(larger, &QAction::triggered, page_, [this] { page_->Zoom(1); });
   connect(smaller, &QAction::triggered, page_, [this] { page_->Zoom(-1); });
   connect(normal, &QAction::triggered, page_, [this] { page_->Zoom_Back(); });
-  connect(find, &QAction::triggered, this, &Help_Window::Open_Find_Bar);
+  connect(find, &QAction::triggered, find_bar_, &Help_Find_Bar::Open);
   connect(print, &QAction::triggered, this, &Help_Window::Print);
 
   auto* next = new QAction(this);
@@ -137,8 +134,8 @@ void Help_Window::Build_Actions() {
   auto* leave = new QAction(this);
   leave->setShortcut(Qt::Key_Escape);
   addActions({next, previous, leave});
-  connect(next, &QAction::triggered, this, [this] { Find(false); });
-  connect(previous, &QAction::triggered, this, [this] { Find(true); });
+  connect(next, &QAction::triggered, find_bar_, [this] { find_bar_->Find(false); });
+  connect(previous, &QAction::triggered, find_bar_, [this] { find_bar_->Find(true); });
   connect(leave, &QAction::triggered, this, [this] {
     if (find_bar_->isVisible()) {
       find_bar_->hide();
@@ -147,35 +144,6 @@ void Help_Window::Build_Actions() {
       close();
     }
   });
-}
-
-QWidget* Help_Window::Build_Find_Bar() {
-  auto* bar = new QWidget(this);
-  bar->setObjectName(QStringLiteral("HelpFindBar"));
-  auto* label = new QLabel(QStringLiteral("Find in &page:"), bar);
-  find_text_ = new QLineEdit(bar);
-  find_text_->setObjectName(QStringLiteral("HelpFindText"));
-  label->setBuddy(find_text_);
-  auto* next = new QPushButton(QStringLiteral("&Next"), bar);
-  auto* previous = new QPushButton(QStringLiteral("Pre&vious"), bar);
-  find_outcome_ = new QLabel(bar);
-  find_outcome_->setObjectName(QStringLiteral("HelpFindOutcome"));
-  auto* line = new QHBoxLayout;
-  line->addWidget(find_text_, 1);
-  line->addWidget(next);
-  line->addWidget(previous);
-  auto* captions = new QHBoxLayout;
-  captions->addWidget(label);
-  captions->addWidget(find_outcome_, 1, Qt::AlignRight);
-  auto* column = new QVBoxLayout(bar);
-  column->setContentsMargins(6, 4, 6, 6);
-  column->addLayout(captions);
-  column->addLayout(line);
-  bar->hide();
-  connect(find_text_, &QLineEdit::returnPressed, this, [this] { Find(false); });
-  connect(next, &QPushButton::clicked, this, [this] { Find(false); });
-  connect(previous, &QPushButton::clicked, this, [this] { Find(true); });
-  return bar;
 }
 
 void Help_Window::Place() {
@@ -205,22 +173,6 @@ void Help_Window::Come_Forward() {
   show();
   raise();
   activateWindow();
-}
-
-void Help_Window::Open_Find_Bar() {
-  find_bar_->show();
-  find_outcome_->clear();
-  find_text_->setFocus();
-  find_text_->selectAll();
-}
-
-void Help_Window::Find(bool backward) {
-  if (find_text_->text().isEmpty()) {
-    Open_Find_Bar();
-    return;
-  }
-  const bool found = page_->Find_Next(find_text_->text(), backward);
-  find_outcome_->setText(found ? QString() : QStringLiteral("Not on this page."));
 }
 
 void Help_Window::Print() {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QAction>
-#include <QLabel>
-#include <QLineEdit>
 #include <QWidget>
 #include <memory>
 
+#include "platform/qt/help_find_bar.h"
 #include "platform/qt/help_library.h"
 #include "platform/qt/help_navigation.h"
 #include "platform/qt/help_page.h"
@@ -34,19 +33,14 @@ class Help_Window : public QWidget {
  private:
   QAction* Add(const char* name, const QString& text, const QList<QKeySequence>& keys);
   void Build_Actions();
-  QWidget* Build_Find_Bar();
   void Place();
-  void Open_Find_Bar();
-  void Find(bool backward);
   void Print();
   void Follow_Blocking_Window();
 
   std::unique_ptr<Help_Library> library_;
   Help_Navigation* navigation_;
   Help_Page* page_;
-  QWidget* find_bar_;
-  QLineEdit* find_text_ = nullptr;
-  QLabel* find_outcome_ = nullptr;
+  Help_Find_Bar* find_bar_;
 };
 
 }  // namespace barvon
