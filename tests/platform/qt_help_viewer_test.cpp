@@ -10,8 +10,10 @@
 #include <QListWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextBlock>
 #include <QToolButton>
 
 #include "platform/qt/help_window.h"
@@ -345,17 +347,40 @@ TEST_F(HelpViewer, Opens_In_Its_Place_And_Is_Large_Enough_To_Read) {
   EXPECT_TRUE(Window()->screen()->geometry().contains(Window()->geometry()));
 }
 
+QList<QUrl> All_Pages() {
+  return Window()->library().engine().files("barvon.help", QString(), "html");
+}
+
 TEST_F(HelpViewer, Every_Page_Can_Be_Read_From_The_File) {
   Ask(Help_Command::Index);
-  auto& library = Window()->library();
-  const auto pages = library.engine().files("barvon.help", QString(), "html");
-  EXPECT_GT(pages.size(), 30);
-  for (const QUrl& page : pages) {
+  EXPECT_GT(All_Pages().size(), 30);
+  for (const QUrl& page : All_Pages()) {
     Window()->page().setSource(page);
     EXPECT_FALSE(Window()->page().documentTitle().isEmpty()) << page.toString().toStdString();
-    // At the smallest window nothing but a table may need to be moved sideways.
     EXPECT_GT(Window()->page().toPlainText().size(), 300) << page.toString().toStdString();
   }
+}
+
+TEST_F(HelpViewer, No_Page_Is_Wider_Than_The_Window_Opens) {
+  Ask(Help_Command::Index);
+  for (const QUrl& page : All_Pages()) {
+    Window()->page().setSource(page);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Window()->page().horizontalScrollBar()->maximum(), 0)
+        << page.toString().toStdString();
+  }
+}
+
+TEST_F(HelpViewer, A_Page_That_Is_Not_There_Is_Told_In_Words) {
+  Ask(Help_Command::Index);
+  Window()->page().setSource(QUrl("qthelp://barvon.help/help/nowhere.html"));
+  EXPECT_TRUE(Window()->page().toPlainText().contains("The help file holds no page nowhere.html."));
+}
+
+TEST_F(HelpViewer, Pages_Use_The_Style_Sheet) {
+  Ask(Help_Command::Context, 2460);
+  const QTextBlock heading = Window()->page().document()->begin();
+  EXPECT_EQ(heading.begin().fragment().charFormat().foreground().color(), QColor("#12395f"));
 }
 
 TEST_F(HelpViewer, Every_Control_Has_A_Name_For_Assistive_Tools) {

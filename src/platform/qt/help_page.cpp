@@ -19,6 +19,8 @@ Help_Page::Help_Page(Help_Library& library, QWidget* parent)
   setOpenExternalLinks(false);
   // Links and text are reached by keys as well.
   setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  // Words stay whole; a page that is still too wide is moved sideways.
+  setWordWrapMode(QTextOption::WordWrap);
   document()->setDocumentMargin(12);
 }
 

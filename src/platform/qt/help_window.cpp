@@ -17,7 +17,7 @@ namespace {
 constexpr QRect kPlace(256, 256, 512, 512);
 // In characters of the desktop's font.
 constexpr int kNavigationWidth = 38;
-constexpr int kPageWidth = 66;
+constexpr int kPageWidth = 68;
 constexpr int kLeastWidth = 40;
 constexpr int kLeastLines = 14;
 
