@@ -22,21 +22,34 @@ inline constexpr int kDilution = 2590;
 inline constexpr int kErrorList = 2650;
 inline constexpr int kSimulation = 3000;
 inline constexpr int kWaterDensity = 3030;
+inline constexpr int kWizardOptions = 2660;
+inline constexpr int kWizardVessel = 800;
+inline constexpr int kWizardTimes = 420;
 
 }  // namespace help_topic
 
-/// What the wizard shows at its steps, the first step's topic first. Behind those of its eight
-/// pages stand three that no page shows.
-inline constexpr std::array<int, 11> kWizardTopics = {2650, 2660, 2470, 2460, 2460, 3000,
-                                                      800,  420,  300,  440,  810};
 inline constexpr int kWizardPages = 8;
 
-/// Every topic that a screen asks for, once.
+/// What the wizard shows at its steps, the first step's topic first. Behind those of its pages
+/// stand three that no page shows.
+inline constexpr std::array<int, 11> kWizardTopics = {help_topic::kErrorList,
+                                                      help_topic::kWizardOptions,
+                                                      help_topic::kVelocity,
+                                                      help_topic::kSite,
+                                                      help_topic::kSite,
+                                                      help_topic::kSimulation,
+                                                      help_topic::kWizardVessel,
+                                                      help_topic::kWizardTimes,
+                                                      300,
+                                                      440,
+                                                      810};
+
+/// Every topic that a screen or a step asks for, once.
 inline constexpr std::array<int, 15> kHelpTopics = {
-    help_topic::kSite,       help_topic::kVelocity,      help_topic::kMaterialHopper,
-    help_topic::kOperation,  help_topic::kCoefficients,  help_topic::kDepthGrid,
-    help_topic::kEvaluation, help_topic::kMaterialBarge, help_topic::kDataBase,
-    help_topic::kErrorList,  help_topic::kSimulation,    help_topic::kWaterDensity,
-    kWizardTopics[1],        kWizardTopics[6],           kWizardTopics[7]};
+    help_topic::kSite,          help_topic::kVelocity,      help_topic::kMaterialHopper,
+    help_topic::kOperation,     help_topic::kCoefficients,  help_topic::kDepthGrid,
+    help_topic::kEvaluation,    help_topic::kMaterialBarge, help_topic::kDataBase,
+    help_topic::kErrorList,     help_topic::kSimulation,    help_topic::kWaterDensity,
+    help_topic::kWizardOptions, help_topic::kWizardVessel,  help_topic::kWizardTimes};
 
 }  // namespace barvon

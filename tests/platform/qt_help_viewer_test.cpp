@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPrinter>
@@ -121,6 +122,24 @@ TEST_F(HelpViewer, Index_Leads_To_The_Field_Of_A_Keyword) {
   QTest::keyClick(key, Qt::Key_Return);
   EXPECT_EQ(Shown(), "operation.html");
   EXPECT_EQ(Window()->page().source().fragment(), "location-of-disposal-point-from-top-of-g");
+}
+
+TEST_F(HelpViewer, A_Keyword_Of_Several_Pages_Asks_Which) {
+  Ask(Help_Command::PartialKey, 0, "Salinity (ppt)");
+  auto* index = Child<QHelpIndexWidget>("HelpIndex");
+  ASSERT_TRUE(Wait_Until([&] {
+    return index->model()->rowCount() > 0 &&
+           index->currentIndex().data().toString() == "Salinity (ppt)";
+  }));
+  Modal_Replies replies({[](QWidget* window) {
+    auto* question = qobject_cast<QInputDialog*>(window);
+    ASSERT_NE(question, nullptr);
+    EXPECT_TRUE(question->comboBoxItems().contains("Dredging Site Water Density (frmDensity)"));
+    question->setTextValue("Dredging Site Water Density (frmDensity)");
+    question->accept();
+  }});
+  QTest::keyClick(Child<QLineEdit>("HelpKey"), Qt::Key_Return);
+  EXPECT_EQ(Shown(), "water-density.html");
 }
 
 TEST_F(HelpViewer, Contents_Lead_To_Their_Pages_And_Follow_Them) {

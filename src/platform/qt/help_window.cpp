@@ -6,6 +6,7 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -154,7 +155,9 @@ void Help_Window::Place() {
   place.setWidth(std::max(place.width(), character * (kNavigationWidth + kPageWidth)));
   const QScreen* screen = QGuiApplication::primaryScreen();
   if (screen != nullptr) {
-    const QRect room = screen->availableGeometry();
+    // The desktop draws the title above the place.
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect room = screen->availableGeometry().adjusted(0, title, 0, 0);
     place.setSize(place.size().boundedTo(room.size()));
     place.moveRight(std::min(place.right(), room.right()));
     place.moveBottom(std::min(place.bottom(), room.bottom()));
