@@ -1,5 +1,6 @@
 #include "batch/batch_export.h"
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <map>

@@ -3,10 +3,13 @@
 #include <time.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <map>
 #include <sstream>
 #include <system_error>
+#include <vector>
 
 #include "batch/batch_commands.h"
 #include "batch/batch_output.h"
@@ -39,6 +42,17 @@ void Wait_Or_Stop(std::chrono::milliseconds longest) {
   nanosleep(&time, nullptr);
 }
 
+/// The text with the solver where it is kept: the scratch folder that it ran in is gone by the
+/// time anybody reads of it.
+std::string With_Lasting_Paths(std::string text, const std::string& scratch,
+                               const std::string& solvers) {
+  for (auto at = text.find(scratch + "/"); at != std::string::npos;
+       at = text.find(scratch + "/", at + solvers.size())) {
+    text.replace(at, scratch.size(), solvers);
+  }
+  return text;
+}
+
 void Say_Last_Output(const std::string& file, const std::string& output) {
   std::vector<std::string> lines;
   std::istringstream stream(output);
@@ -51,35 +65,40 @@ void Say_Last_Output(const std::string& file, const std::string& output) {
   }
 }
 
-int Say_Report(const std::string& file, const Run_Report& report, const std::string& box_texts) {
+int Say_Report(const std::string& file, const Run_Report& report, const std::string& text) {
+  if (report.Succeeded()) {
+    Say({file, "ran", text});
+  } else {
+    Say_Problem(file, text);
+    Say_Last_Output(file, report.outcome.last_output);
+  }
   for (const std::string& path : report.kept) Say({file, "kept", path});
-  if (report.Succeeded()) return kDone;
-  // The status line tells the whole story; where a flow ends in a box there is none.
-  Say_Problem(file, report.text.empty() ? box_texts : report.text);
-  Say_Last_Output(file, report.outcome.last_output);
-  return kNotDone;
+  return report.Succeeded() ? kDone : kNotDone;
 }
 
-int Run_In(const std::string& application, const std::string& file, ProjectRecord& record) {
+/// Runs the project with the scratch folder as application directory and as current one: the
+/// driver clears the current directory of old "Tmpfile.*", and that must not be the caller's.
+int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& record,
+           const Batch_Options& options) {
   std::error_code error;
   const std::string former_current = std::filesystem::current_path(error).string();
+  if (!Change_Current_Folder(scratch)) {
+    Say_Problem(file, "the scratch folder can't be entered: " + scratch);
+    return kNotDone;
+  }
   const std::string former_application = Application_Folder();
-  Set_Application_Folder(application);
-  // The driver clears the current directory of old "Tmpfile.*"; that must not be the caller's.
-  int code = kNotDone;
-  if (Change_Current_Folder(application)) {
-    const Event_Pump former_pump = Set_Event_Pump(Wait_Or_Stop);
+  Set_Application_Folder(scratch);
+  const Event_Pump former_pump = Set_Event_Pump(Wait_Or_Stop);
+  Run_Report report;
+  {
     Box_Collector boxes;
     boxes.Answer_No();
-    const Run_Report report = Run_Model(record);
-    Set_Event_Pump(former_pump);
-    code = Say_Report(file, report, boxes.Texts());
-  } else {
-    Say_Problem(file, "the scratch folder can't be entered: " + application);
+    report = Run_Model(record);
   }
+  Set_Event_Pump(former_pump);
   Set_Application_Folder(former_application);
   if (!former_current.empty()) Change_Current_Folder(former_current);
-  return code;
+  return Say_Report(file, report, With_Lasting_Paths(report.text, scratch, options.solver_folder));
 }
 
 int Run(const std::string& file, const Batch_Options& options) {
@@ -92,7 +111,7 @@ int Run(const std::string& file, const Batch_Options& options) {
     Say_Problem(file, problem);
     return kNotDone;
   }
-  return Run_In(scratch->Path(), file, *record);
+  return Run_In(scratch->Path(), file, *record, options);
 }
 
 /// The files that can run without writing each other's outputs. The rest is told on standard

@@ -79,6 +79,11 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
   record.ProjectFileName = path;
   record.BaseFileName = Base_Name(path);
   Port().set_caption("BARVON - " + path);
+  if (Last_Three_Letters(path) == kProjectLetters) {
+    // A project whose KEY4 chooses nothing yet can be edited, saved and run like any other.
+    record.FileKind = kProjectKind;
+    Port().open_menus();
+  }
   return true;
 }
 

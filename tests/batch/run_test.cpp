@@ -1,0 +1,267 @@
+#include <signal.h>
+
+#include <filesystem>
+
+#include "batch/batch_fixture.h"
+
+namespace barvon::testing {
+namespace {
+
+using BatchRun = BatchProgram;
+using Lines = std::vector<std::string>;
+
+// Gone, or only waiting for whoever inherited it to notice.
+bool Is_Gone(pid_t process) {
+  const std::string stat = Read_Text("/proc/" + std::to_string(process) + "/stat");
+  const auto name_end = stat.rfind(')');
+  return name_end == std::string::npos || stat[name_end + 2] == 'Z';
+}
+
+pid_t Number_In(const std::string& path) { return std::stoi(Read_Text(path)); }
+
+TEST_F(BatchRun, The_Input_Echo_Beside_The_Program_Is_The_Solver_By_Default) {
+  Put_Sample(kHopper, "sub/site.DUI");
+  const Program_Result result = Batch({"run", "sub/site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Names_In(Path("sub")),
+            (Lines{"site.DUI", "site.duc", "site.duo", "site.dup", "site.dut"}));
+  EXPECT_NE(Read_Text(Path("sub/site.duo")).find("simulates nothing"), std::string::npos);
+  EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, Says_What_Ran_And_What_Was_Kept) {
+  Put_Sample(kHopper, "site.DUI");
+  const std::string solvers = Put_Solver(kAllOutputsScript);
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  const Lines lines = Printed_Lines(result.out);
+  ASSERT_EQ(lines.size(), 5u) << result.out;
+  EXPECT_TRUE(lines[0].starts_with("site.DUI\tran\t" + solvers + "/merak32 ended with code 0"))
+      << lines[0];
+  EXPECT_EQ(lines[1], "site.DUI\tkept\t" + Path("site.duo"));
+  EXPECT_EQ(lines[4], "site.DUI\tkept\t" + Path("site.duc"));
+}
+
+TEST_F(BatchRun, Runs_Without_Touching_The_Callers_Or_The_Solvers_Folder) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(std::string("LC_ALL=C ls > listing.txt; cp listing.txt ") + Path("seen") + "\n" +
+             kAllOutputsScript);
+  for (const char* name : {"Tmpfile.Due", "tmpfile.duo", "KOLBREE.TMP", "BARVON.INI"}) {
+    Write_Text(Path(name), "the caller's");
+    Write_Text(Path(std::string("solvers/") + name), "the solvers'");
+  }
+  Write_Text(Path("solvers/table.dat"), "read by the solver");
+  const Lines before = Names_In(Path("solvers"));
+  ASSERT_EQ(Batch({"run", "--solver-dir", "solvers", "site.DUI"}).code, 0);
+  for (const char* name : {"Tmpfile.Due", "tmpfile.duo", "KOLBREE.TMP", "BARVON.INI"}) {
+    EXPECT_EQ(Read_Text(Path(name)), "the caller's") << name;
+    EXPECT_EQ(Read_Text(Path(std::string("solvers/") + name)), "the solvers'") << name;
+  }
+  EXPECT_EQ(Names_In(Path("solvers")), before);
+  // What the solver saw: its own files, and those of this run only.
+  EXPECT_EQ(Printed_Lines(Read_Text(Path("seen"))),
+            (Lines{"KOLBREE.TMP", "Tmpfile.Due", "listing.txt", "merak32", "table.dat"}));
+}
+
+TEST_F(BatchRun, A_Solver_That_Fails_Could_Not_Be_Done_And_Its_Last_Lines_Are_Told) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver("echo reading; echo 'grid too coarse' >&2; exit 3\n");
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.out, "");
+  const Lines lines = Printed_Lines(result.err);
+  ASSERT_EQ(lines.size(), 3u) << result.err;
+  EXPECT_NE(lines[0].find("ended with code 3"), std::string::npos) << lines[0];
+  EXPECT_EQ(lines[1], "site.DUI: the solver said: reading");
+  EXPECT_EQ(lines[2], "site.DUI: the solver said: grid too coarse");
+}
+
+TEST_F(BatchRun, A_Solver_That_Writes_Some_Outputs_Only_Is_No_Success_And_They_Are_Kept) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver("echo 1 > tmpfile.duo; echo 2 > TMPFILE.DUT\n");
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(Printed_Lines(result.out),
+            (Lines{"site.DUI\tkept\t" + Path("site.duo"), "site.DUI\tkept\t" + Path("site.dut")}));
+  EXPECT_NE(result.err.find("not written by this run"), std::string::npos) << result.err;
+}
+
+TEST_F(BatchRun, A_Missing_Solver_Is_Told) {
+  Put_Sample(kHopper, "site.DUI");
+  std::filesystem::create_directory(Path("solvers"));
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: ")) << result.err;
+  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
+  EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, A_Missing_Solver_Folder_Is_Told_Once) {
+  Put_Sample(kHopper, "a.DUI");
+  Put_Sample(kHopper, "b.DUI");
+  const Program_Result result = Batch({"run", "--solver-dir", "nowhere", "a.DUI", "b.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "nowhere: no such folder for --solver-dir\n");
+}
+
+TEST_F(BatchRun, A_Project_With_Findings_Is_Not_Run_And_They_Are_Listed) {
+  Put_Faulty("site.DUI");
+  const Program_Result result = Batch({"run", "site.DUI"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.out, "site.DUI\tRoughness Height Outside Bounds\tfrmDescription!Text1(5)\n");
+  EXPECT_FALSE(Exists(Path("site.duo")));
+}
+
+TEST_F(BatchRun, A_Project_With_Findings_Is_Run_On_Request) {
+  Put_Faulty("site.DUI");
+  Put_Solver(kAllOutputsScript);
+  const Program_Result result =
+      Batch({"run", "--despite-errors", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_TRUE(Exists(Path("site.duc")));
+}
+
+TEST_F(BatchRun, A_Continuous_Project_Has_No_Solver) {
+  Put_Sample("Pipeline_Continuous.DUI", "pipe.DUI");
+  const Program_Result result = Batch({"run", "pipe.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "pipe.DUI: Not run: no model is available for this discharge case.\n");
+}
+
+TEST_F(BatchRun, What_Can_Be_Done_Is_Done_And_The_Code_Is_The_Worst) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Faulty("faulty.DUI");
+  Put_Solver(kAllOutputsScript);
+  EXPECT_EQ(Batch({"run", "--solver-dir", "solvers", "faulty.DUI", "site.DUI"}).code, 1);
+  EXPECT_TRUE(Exists(Path("site.duo")));
+  EXPECT_EQ(Batch({"run", "--solver-dir", "solvers", "no.DUI", "faulty.DUI", "site.DUI"}).code, 2);
+}
+
+TEST_F(BatchRun, The_Projects_File_Stays_As_It_Was) {
+  Put_Sample("Tidal_Estuary.DUI", "site.DUI");
+  const std::string before = Read_Text(Path("site.DUI"));
+  ASSERT_EQ(Batch({"run", "site.DUI"}).code, 0);
+  EXPECT_TRUE(Read_Text(Path("site.DUI")) == before);
+}
+
+TEST_F(BatchRun, Two_Jobs_Run_At_The_Same_Time_And_Speak_In_The_Order_Of_The_Files) {
+  Put_Sample(kHopper, "first.DUI");
+  Put_Sample(kBarge, "second.DUI");
+  // Each solver waits until the other has started, the hopper's one longer.
+  // Each solver waits until the other has started, the hopper's one until the other has ended.
+  const std::string wait = "for i in $(seq 1500); do [ ";
+  Put_Solver("touch " + Path("started-") + "$$\n" + wait + "$(ls -d " + Path("started-") +
+             "* | wc -l) -ge 2 ] && break; sleep 0.02; done\n"
+             "case \"$(sed -n 2p Tmpfile.Due)\" in *HOPPER*) " +
+             wait + "-e " + Path("second.duc") + " ] && break; sleep 0.02; done; [ -e " +
+             Path("second.duc") + " ] || exit 1;; esac\n" + kAllOutputsScript);
+  const Program_Result result =
+      Batch({"run", "--jobs", "2", "--solver-dir", "solvers", "first.DUI", "second.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  const Lines lines = Printed_Lines(result.out);
+  ASSERT_EQ(lines.size(), 10u) << result.out;
+  EXPECT_TRUE(lines[0].starts_with("first.DUI\tran\t"));
+  EXPECT_TRUE(lines[5].starts_with("second.DUI\tran\t"));
+  EXPECT_NE(Read_Text(Path("first.duo")).find("HOPPER"), std::string::npos);
+  EXPECT_NE(Read_Text(Path("second.duo")).find("BARGE"), std::string::npos);
+  EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, Jobs_Relay_What_Each_Says_And_The_Worst_Code) {
+  Put_Sample(kHopper, "a.DUI");
+  Put_Faulty("b.DUI");
+  Put_Sample("Pipeline_Continuous.DUI", "d.DUI");
+  Put_Solver(kAllOutputsScript);
+  const Program_Result result =
+      Batch({"run", "--jobs", "3", "--solver-dir", "solvers", "a.DUI", "b.DUI", "c.DUI", "d.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(Printed_Lines(result.out).size(), 6u) << result.out;
+  EXPECT_EQ(Printed_Lines(result.err),
+            (Lines{"c.DUI: can't be read: No such file or directory",
+                   "d.DUI: Not run: no model is available for this discharge case."}));
+}
+
+TEST_F(BatchRun, The_Same_Project_Twice_Is_Run_Once) {
+  Put_Sample(kHopper, "sub/site.DUI");
+  std::filesystem::create_directory_symlink(Path("sub"), Path("link"));
+  Put_Solver(std::string("echo run >> ") + Path("runs") + "\n" + kAllOutputsScript);
+  const Program_Result result = Batch({"run", "--jobs", "2", "--solver-dir", "solvers",
+                                       "sub/site.DUI", "link/site.DUI", "./sub/../sub/SITE.dui"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Read_Text(Path("runs")), "run\n");
+  EXPECT_EQ(Printed_Lines(result.err),
+            (Lines{"link/site.DUI: warning: given more than once; it is run once",
+                   "./sub/../sub/SITE.dui: warning: given more than once; it is run once"}));
+}
+
+TEST_F(BatchRun, Two_Projects_Whose_Outputs_Bear_One_Name_Are_Not_Both_Run) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Sample(kBarge, "SITE.DUI");
+  Put_Solver(kAllOutputsScript);
+  const Program_Result result =
+      Batch({"run", "--jobs", "2", "--solver-dir", "solvers", "site.DUI", "SITE.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "SITE.DUI: not run: its outputs would overwrite those of site.DUI\n");
+  EXPECT_NE(Read_Text(Path("site.duo")).find("HOPPER"), std::string::npos);
+}
+
+// A solver that starts a process of its own and stays, until somebody ends both.
+std::string Stays(const std::string& folder) {
+  return "sleep 600 &\necho $! > " + folder + "/child-$$\nmv " + folder + "/child-$$ " + folder +
+         "/ready-$$\nwait\n";
+}
+
+class BatchInterrupt : public BatchProgram, public ::testing::WithParamInterface<int> {
+ protected:
+  // Sends the signal once as many solvers are at work as told.
+  Program_Result Interrupted(const std::vector<std::string>& arguments, std::size_t solvers) {
+    bool sent = false;
+    return Run_Program(Start_Of(arguments), [&](pid_t process) {
+      if (sent || Ready().size() < solvers) return;
+      sent = true;
+      kill(process, GetParam());
+    });
+  }
+  Lines Ready() const {
+    Lines names;
+    for (const std::string& name : Names_In(folder_.path())) {
+      if (name.starts_with("ready-")) names.push_back(name);
+    }
+    return names;
+  }
+  void Expect_All_Gone() {
+    for (const std::string& name : Ready()) {
+      EXPECT_TRUE(Is_Gone(std::stoi(name.substr(6)))) << name;
+      EXPECT_TRUE(Is_Gone(Number_In(Path(name)))) << name;
+    }
+    EXPECT_EQ(Left_Behind(), Lines{});
+  }
+};
+
+TEST_P(BatchInterrupt, Stops_The_Solver_And_What_It_Started_And_Cleans_Up) {
+  Put_Sample(kHopper, "a.DUI");
+  Put_Sample(kHopper, "b.DUI");
+  Put_Solver(Stays(folder_.path()));
+  const Program_Result result =
+      Interrupted({"run", "--solver-dir", "solvers", "a.DUI", "b.DUI"}, 1);
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_NE(result.err.find("a.DUI: "), std::string::npos);
+  EXPECT_NE(result.err.find("was stopped"), std::string::npos) << result.err;
+  EXPECT_EQ(Ready().size(), 1u);  // the second was never started
+  Expect_All_Gone();
+}
+
+TEST_P(BatchInterrupt, Stops_Every_Job) {
+  for (const char* name : {"a.DUI", "b.DUI", "c.DUI"}) Put_Sample(kHopper, name);
+  Put_Solver(Stays(folder_.path()));
+  const Program_Result result =
+      Interrupted({"run", "--jobs", "2", "--solver-dir", "solvers", "a.DUI", "b.DUI", "c.DUI"}, 2);
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_EQ(Ready().size(), 2u);
+  Expect_All_Gone();
+}
+
+INSTANTIATE_TEST_SUITE_P(BySignal, BatchInterrupt, ::testing::Values(SIGINT, SIGTERM));
+
+}  // namespace
+}  // namespace barvon::testing

@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "layout/include_graph.h"
+#include "support/plain_support.h"
+
+namespace barvon::testing {
+namespace {
+
+const std::string kSource = std::string(BARVON_SOURCE) + "/src";
+
+/// What the files of a room may include beside their own room's. An entry is a room, or one file
+/// without its extension.
+struct Room_Rule {
+  std::set<std::string> plain;   // for every file
+  std::set<std::string> screen;  // for those that need the toolkit, on top
+};
+
+const std::map<std::string, Room_Rule>& Table() {
+  static const std::set<std::string> kScreens = {"platform/qt", "pictures"};
+  static const std::map<std::string, Room_Rule> table = {
+      {"platform", {{}, {}}},
+      {"platform/qt", {{"platform"}, {}}},
+      {"pictures", {{"platform/qt"}, {}}},
+      {"core", {{"platform"}, {}}},
+      {"checks", {{"core", "platform"}, {"platform/qt"}}},
+      {"run", {{"checks", "core", "platform"}, {}}},
+      {"params", {{"core", "platform"}, kScreens}},
+      {"material", {{"core", "platform"}, kScreens}},
+      {"dilution", {{"core", "platform"}, kScreens}},
+      {"database", {{"core", "platform"}, kScreens}},
+      {"wizard", {{"core", "platform"}, kScreens}},
+      {"site", {{"core", "platform", "material/amden"}, kScreens}},
+      {"workspace",
+       {{"core", "platform", "run", "checks/check_data", "checks/error_entries",
+         "params/evaluation_data"},
+        {"platform/qt"}}},
+      {"batch", {{"core", "platform", "checks", "run"}, {}}},
+  };
+  return table;
+}
+
+std::string Without_Extension(const std::string& file) { return file.substr(0, file.rfind('.')); }
+
+bool May_Include(const std::string& file, const std::string& included, bool needs_toolkit) {
+  const std::string room = Room_Of(file);
+  if (room == Room_Of(included)) return true;
+  if (room == "main.cpp") return true;
+  const auto rule = Table().find(room == "batch_main.cpp" ? "batch" : room);
+  if (rule == Table().end()) return false;
+  for (const std::string& entry : {Room_Of(included), Without_Extension(included)}) {
+    if (rule->second.plain.contains(entry)) return true;
+    if (needs_toolkit && rule->second.screen.contains(entry)) return true;
+  }
+  return room == "batch_main.cpp" && Room_Of(included) == "batch";
+}
+
+// The source files that a folder's build file gives to a library.
+std::set<std::string> Sources_Of(const std::string& library) {
+  std::set<std::string> sources;
+  for (const auto& [room, rule] : Table()) {
+    std::string path = room;
+    if (!Exists(kSource + "/" + room + "/CMakeLists.txt")) path = "platform";
+    const std::string text = Read_Text(kSource + "/" + path + "/CMakeLists.txt");
+    const std::regex list(R"((?:target_sources|add_library)\()" + library +
+                          R"( (?:PRIVATE|STATIC)([^)]*)\))");
+    const std::regex name(R"(\S+\.cpp)");
+    for (std::sregex_iterator at(text.begin(), text.end(), list), end; at != end; ++at) {
+      const std::string names = (*at)[1];
+      for (std::sregex_iterator n(names.begin(), names.end(), name); n != end; ++n) {
+        sources.insert(path + "/" + n->str());
+      }
+    }
+  }
+  return sources;
+}
+
+TEST(IncludeDirections, Every_File_Includes_Only_What_Its_Room_May_Know) {
+  const Include_Graph graph = Read_Includes(kSource);
+  const std::set<std::string> toolkit = Toolkit_Files(kSource, graph);
+  ASSERT_GT(graph.size(), 100u);
+  for (const auto& [file, includes] : graph) {
+    for (const std::string& included : includes) {
+      EXPECT_TRUE(May_Include(file, included, toolkit.contains(file)))
+          << file << " includes " << included;
+    }
+  }
+}
+
+TEST(IncludeDirections, Every_Include_From_The_House_Names_A_File_By_Its_Path_In_The_House) {
+  const Include_Graph graph = Read_Includes(kSource);
+  for (const auto& [file, includes] : graph) {
+    for (const std::string& included : includes) {
+      EXPECT_TRUE(graph.contains(included)) << file << " includes " << included;
+    }
+  }
+}
+
+TEST(IncludeDirections, No_Files_Include_Each_Other_Nor_In_A_Longer_Ring) {
+  EXPECT_EQ(Find_Ring(Read_Includes(kSource)), std::vector<std::string>{});
+}
+
+TEST(IncludeDirections, No_Plain_File_Knows_The_Toolkit) {
+  const std::set<std::string> toolkit = Toolkit_Files(kSource, Read_Includes(kSource));
+  EXPECT_TRUE(toolkit.contains("main.cpp"));
+  for (const char* library : {"barvon_plain", "barvon_batch"}) {
+    const std::set<std::string> plain = Sources_Of(library);
+    ASSERT_GT(plain.size(), 5u);
+    for (const std::string& file : plain) EXPECT_FALSE(toolkit.contains(file)) << file;
+  }
+  for (const std::string& file : toolkit) {
+    const std::string room = Room_Of(file);
+    EXPECT_TRUE(room != "platform" && room != "core" && room != "run" && room != "batch") << file;
+  }
+}
+
+TEST(IncludeDirections, Nothing_Includes_The_Programs_Entries) {
+  for (const auto& [file, includes] : Read_Includes(kSource)) {
+    EXPECT_FALSE(includes.contains("main.cpp") || includes.contains("batch_main.cpp")) << file;
+  }
+}
+
+TEST(IncludeDirections, Every_Source_File_Is_Built) {
+  std::set<std::string> built = {"main.cpp", "batch_main.cpp"};
+  for (const char* library : {"barvon_plain", "barvon_screens", "barvon_batch"}) {
+    built.merge(Sources_Of(library));
+  }
+  for (const auto& [file, includes] : Read_Includes(kSource)) {
+    if (!file.ends_with(".cpp")) continue;
+    EXPECT_TRUE(built.contains(file)) << file;
+  }
+}
+
+TEST(IncludeDirections, Only_The_Console_Program_Knows_Its_Libraries) {
+  const std::regex library(R"(#include <(CLI/|nlohmann/))");
+  for (const auto& [file, includes] : Read_Includes(kSource)) {
+    if (Room_Of(file) == "batch") continue;
+    EXPECT_FALSE(std::regex_search(Read_Text(kSource + "/" + file), library)) << file;
+  }
+}
+
+// The rules themselves, on a house made up for the purpose.
+TEST(IncludeDirections, A_Ring_Is_Found_However_Long) {
+  const Include_Graph ring = {{"a.h", {"b.h"}}, {"b.h", {"c.h"}}, {"c.h", {"a.h"}}, {"d.h", {}}};
+  EXPECT_EQ(Find_Ring(ring), (std::vector<std::string>{"a.h", "b.h", "c.h"}));
+  EXPECT_EQ(Find_Ring({{"a.h", {"a.h"}}}), std::vector<std::string>{"a.h"});
+  EXPECT_TRUE(Find_Ring({{"a.h", {"c.h"}}, {"b.h", {"c.h"}}, {"c.h", {}}}).empty());
+}
+
+TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
+  EXPECT_TRUE(May_Include("core/a.cpp", "platform/b.h", false));
+  EXPECT_FALSE(May_Include("platform/b.h", "core/a.h", false));
+  EXPECT_FALSE(May_Include("core/a.cpp", "run/b.h", false));
+  EXPECT_FALSE(May_Include("run/a.cpp", "workspace/b.h", false));
+  EXPECT_FALSE(May_Include("site/a.cpp", "material/barge_data.h", false));
+  EXPECT_TRUE(May_Include("site/a.cpp", "material/amden.h", false));
+  EXPECT_FALSE(May_Include("workspace/a.cpp", "checks/site_rules.h", false));
+  EXPECT_TRUE(May_Include("workspace/a.cpp", "checks/check_data.h", false));
+  EXPECT_FALSE(May_Include("checks/a.cpp", "platform/qt/b.h", false));
+  EXPECT_TRUE(May_Include("checks/frm.cpp", "platform/qt/b.h", true));
+}
+
+}  // namespace
+}  // namespace barvon::testing
