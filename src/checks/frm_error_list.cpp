@@ -7,6 +7,7 @@
 
 #include "checks/check_data.h"
 #include "checks/error_navigation.h"
+#include "core/help_topics.h"
 #include "core/project_record.h"
 #include "core/screen_register.h"
 #include "platform/help_viewer.h"
@@ -120,7 +121,8 @@ void frmErrorList::SSCommand1_Click(int index) {
   }
   const int entry = Selected();
   if (entry < 0) return;
-  const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1] : 0;
+  const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1]
+                                                 : help_topic::kContents;
   Show_Help({Help_Command::Context, topic, {}});
 }
 
