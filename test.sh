@@ -18,6 +18,5 @@ esac
 
 barvon_install_packages packaging/debian-packages.txt
 barvon_build "$preset"
-# The toolkit itself keeps what it once allocated; leaks are looked for in the plain tests.
 export QT_QPA_PLATFORM=offscreen
 ctest --preset "$preset" --parallel "$(nproc)"

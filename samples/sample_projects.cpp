@@ -174,9 +174,9 @@ void Section_103_Water_Quality(ProjectRecord& r) {
   r.VelocityProfileType = 3;
   r.VelXDepth1 = r.VelZDepth1 = 20;
   r.VelXDepth2 = r.VelZDepth2 = 100;
-  r.VelX1 = 0.6;
-  r.VelX2 = 0.25;
-  r.VelZ1 = 0.35;
+  r.VelX1 = 0.35;
+  r.VelX2 = 0.15;
+  r.VelZ1 = 0.25;
   r.VelZ2 = 0.1;
   Set_Time(r, 14400, 900, {3600, 7200, 10800, 14400});
   Set_Output_Depths(r, {10, 60, 115});
@@ -216,7 +216,7 @@ void Section_404_Zid(ProjectRecord& r) {
   r.VelocityProfileType = 2;
   r.AvgVelocityDepth = 35;
   r.AvgVelocityX = 1.2;
-  Set_Time(r, 3600, 300);
+  Set_Time(r, 1800, 150);
   Set_Output_Depths(r, {5, 20, 34});
   Set_Solids(r, {{"Sand", 2.65, 0.15, 0.05, 0.8, 0.02, false, true},
                  {"Silt", 2.65, 0.07, 0.008, 4.5, 0.008, false, true}});
@@ -261,7 +261,7 @@ void Section_404_Sediment(ProjectRecord& r) {
   r.AvgVelocityDepth = 48;
   r.AvgVelocityX = 0.15;
   r.AvgVelocityZ = 0.1;
-  Set_Time(r, 7200, 600);
+  Set_Time(r, 5400, 450);
   Set_Output_Depths(r, {10, 45});
   Set_Solids(r, {{"Sand", 2.65, 0.08, 0.06, 0.8, 0.02, false, true},
                  {"Silt", 2.62, 0.1, 0.006, 4.2, 0.007, false, true}});
@@ -315,7 +315,7 @@ void Variable_96_By_96(ProjectRecord& r) {
   r.SLOPEX0 = 0.34;
   Set_Water(r, {{0, 1.0218}, {35, 1.0229}, {80, 1.0247}});
   r.VelocityProfileType = 4;
-  Set_Time(r, 5400, 300, {1200, 2400, 3600, 5400});
+  Set_Time(r, 3600, 200, {900, 1800, 2700, 3600});
   Set_Output_Depths(r, {10, 30, 55});
   Set_Solids(r, {{"Sand", 2.65, 0.2, 0.07, 0.8, 0.025, false, true},
                  {"Silt", 2.65, 0.06, 0.01, 4.5, 0.009, false, true}});
@@ -343,20 +343,20 @@ void Tidal_Estuary(ProjectRecord& r) {
   Set_Water(r, {{0, 1.008}, {15, 1.0112}, {42, 1.0185}});
   r.VelocityProfileType = 5;
   constexpr std::array<std::array<float, 2>, kTidalRows> kTide = {
-      {{0.00F, -0.13F}, {0.53F, -0.24F}, {1.02F, -0.32F}, {1.44F, -0.39F}, {1.78F, -0.43F},
-       {2.00F, -0.45F}, {2.10F, -0.44F}, {2.06F, -0.39F}, {1.89F, -0.33F}, {1.60F, -0.24F},
-       {1.21F, -0.14F}, {0.74F, -0.03F}, {0.22F, 0.09F},  {-0.31F, 0.19F}, {-0.82F, 0.29F},
-       {-1.28F, 0.37F}, {-1.65F, 0.42F}, {-1.92F, 0.45F}, {-2.07F, 0.45F}, {-2.09F, 0.42F},
-       {-1.98F, 0.36F}, {-1.73F, 0.28F}, {-1.38F, 0.18F}, {-0.94F, 0.07F}, {-0.44F, -0.04F},
-       {0.08F, -0.15F}}};
+      {{0.00F, -0.04F}, {0.16F, -0.07F}, {0.31F, -0.10F}, {0.43F, -0.12F}, {0.53F, -0.13F},
+       {0.60F, -0.14F}, {0.63F, -0.13F}, {0.62F, -0.12F}, {0.57F, -0.10F}, {0.48F, -0.07F},
+       {0.36F, -0.04F}, {0.22F, -0.01F}, {0.07F, 0.03F},  {-0.09F, 0.06F}, {-0.25F, 0.09F},
+       {-0.38F, 0.11F}, {-0.50F, 0.13F}, {-0.58F, 0.14F}, {-0.62F, 0.14F}, {-0.63F, 0.13F},
+       {-0.59F, 0.11F}, {-0.52F, 0.08F}, {-0.41F, 0.05F}, {-0.28F, 0.02F}, {-0.13F, -0.01F},
+       {0.02F, -0.05F}}};
   for (int i = 1; i <= kTidalRows; ++i) {
     r.TidalVelX[i] = kTide[i - 1][0];
     r.TidalVelZ[i] = kTide[i - 1][1];
   }
   r.TidalStartTime = 2.0F;
   r.TidalDepth = 42.0F;
-  r.TidalAvgVelX = 1.86F;
-  r.TidalAvgVelZ = -0.36F;
+  r.TidalAvgVelX = 0.56F;
+  r.TidalAvgVelZ = -0.11F;
   Set_Time(r, 10800, 600);
   Set_Output_Depths(r, {10, 40});
   Set_Solids(r, {{"Silt", 2.65, 0.12, 0.009, 4.5, 0.009, false, true},
@@ -368,8 +368,8 @@ void Tidal_Estuary(ProjectRecord& r) {
   r.TracerName() = "Tracer";
   r.TracerConcentration = 50;
   r.BackgroundConcentration = 0.5;
-  r.XBARGE = 3000;
-  r.ZBARGE = 1700;
+  r.XBARGE = 1500;
+  r.ZBARGE = 1900;
   r.BargeLength = 180;
   r.BargeWidth = 46;
   r.DREL1 = 12;

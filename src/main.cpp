@@ -4,9 +4,12 @@
 
 #include "checks/frm_error_list.h"
 #include "platform/app_folder.h"
+#include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
+#include "run/create_process.h"
 #include "workspace/main_window.h"
+#include "workspace/quit_rules.h"
 
 int main(int, char** arguments) {
   // The command line is not read: a project is opened from the File menu.
@@ -17,6 +20,8 @@ int main(int, char** arguments) {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/barvon.svg")));
   barvon::Apply_Light_Palette(application);
   const barvon::Qt_Services services;
+  barvon::Stop_Run_At_Exit();
+  const barvon::End_Signals end_signals(barvon::End_Program);
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_frmErrorList(&main);
   main.show();

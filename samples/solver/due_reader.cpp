@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kHopper = 1;
 constexpr int kBarge = 3;
+constexpr std::size_t kTitleWidth = 60;
 
 Field Int(std::string name) { return {std::move(name), "", 5, Kind::Integer}; }
 Field Num(std::string name, std::string unit = "") {
@@ -135,6 +136,7 @@ class Reader {
       Refuse("DisposalMethod is neither 1 (hopper) nor 3 (barge)");
     }
     model_.title = Take_Line("the title");
+    if (model_.title.size() < kTitleWidth) Refuse("the title has less than 60 columns");
     model_.title.erase(0, model_.title.find_first_not_of(' '));
     model_.title.erase(model_.title.find_last_not_of(' ') + 1);
     model_.entries.push_back({"ProjectTitle", "", model_.title});
@@ -294,7 +296,7 @@ class Reader {
 
 std::string Read_Marker(const std::string& file, const std::string& bytes) {
   const std::vector<std::string> lines = Lines_Of(bytes);
-  // Seven parts between commas; the fifth is the scratch name, the last one is empty.
+  // Seven fields between commas; the fifth is the scratch name, the last one is empty.
   static const std::vector<std::size_t> kWidths = {6, 1, 28, 37, 8, 27, 0};
   if (lines.empty()) throw Refusal(file, 1, "the marker line is missing");
   if (lines.size() > 1) throw Refusal(file, 2, "the marker is one line");
@@ -310,7 +312,7 @@ std::string Read_Marker(const std::string& file, const std::string& bytes) {
   for (std::size_t i = 0; i < parts.size(); ++i) {
     if (parts[i].size() != kWidths[i]) {
       throw Refusal(file, 1,
-                    "part " + std::to_string(i + 1) + " of the marker has " +
+                    "field " + std::to_string(i + 1) + " of the marker has " +
                         std::to_string(kWidths[i]) + " columns");
     }
   }

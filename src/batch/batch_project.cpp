@@ -36,7 +36,7 @@ Box_Collector::Box_Collector() {
       texts_ += message.text;
       return Answer::Ok;
     }
-    return answer_no_ ? Answer::No : Answer_On_Close(message.buttons);
+    return answer_no_ ? Answer::No : Answer_On_Close(message);
   });
 }
 

@@ -2,10 +2,12 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "checks/check_data.h"
 #include "checks/error_navigation.h"
+#include "core/help_topics.h"
 #include "core/project_record.h"
 #include "core/screen_register.h"
 #include "platform/help_viewer.h"
@@ -53,14 +55,22 @@ frmErrorList::frmErrorList(QWidget* workspace)
   column->addWidget(List1, 1);
   column->addLayout(buttons);
 
-  // Activated is a double click, and Return for those who use no mouse.
-  connect(List1, &QListWidget::itemActivated, this,
+  // Not itemActivated: on some desktops a single click is enough for it.
+  connect(List1, &QListWidget::itemDoubleClicked, this,
           [this](QListWidgetItem* item) { List1_DblClick(List1->row(item)); });
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {  // for those who use no mouse
+    auto* shortcut = new QShortcut(key, List1);
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this] { List1_DblClick(Selected()); });
+  }
   for (int index = SSCommand1.first(); index <= SSCommand1.last(); ++index) {
     connect(SSCommand1(index), &QPushButton::clicked, this,
             [this, index] { SSCommand1_Click(index); });
   }
+  Set_Findings_Listener([this] { Fill(); });
 }
+
+frmErrorList::~frmErrorList() { Set_Findings_Listener({}); }
 
 void frmErrorList::Fill() {
   List1->clear();
@@ -89,14 +99,19 @@ void frmErrorList::Open(bool blocking) {
   activateWindow();
 }
 
+/// The row that shows as selected, -1 for none: the list has a current row before anyone chose one.
+int frmErrorList::Selected() const {
+  const auto selected = List1->selectedItems();
+  return selected.isEmpty() ? -1 : List1->row(selected.first());
+}
+
 void frmErrorList::List1_DblClick(int index) {
   const QListWidgetItem* reference = List2->item(index);
   if (reference == nullptr) return;
   const auto target = Error_Target_Of(reference->text().toStdString());
   if (!target) return;
-  // A screen opened over a blocking list would wait behind it.
-  if (isModal()) close();
-  Open_Screen(target->screen, Project().ShowMode == 1, target->control);
+  // Over a blocking list a screen that does not block would take no input.
+  Open_Screen(target->screen, isModal() || Project().ShowMode == 1, target->control);
 }
 
 void frmErrorList::SSCommand1_Click(int index) {
@@ -104,9 +119,10 @@ void frmErrorList::SSCommand1_Click(int index) {
     close();
     return;
   }
-  const int entry = List1->currentRow();
+  const int entry = Selected();
   if (entry < 0) return;
-  const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1] : 0;
+  const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1]
+                                                 : help_topic::kContents;
   Show_Help({Help_Command::Context, topic, {}});
 }
 

@@ -12,12 +12,15 @@ namespace barvon {
 class frmErrorList : public QDialog {
  public:
   explicit frmErrorList(QWidget* workspace);
+  ~frmErrorList() override;
 
-  /// Shows the findings as they stand, centred on the workspace.
+  /// Shows the findings as they stand, centred on the workspace. A check that runs while it is
+  /// open fills it anew.
   void Open(bool blocking);
 
  private:
   void Fill();
+  int Selected() const;
   void List1_DblClick(int index);
   void SSCommand1_Click(int index);
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string>
 
+#include "core/help_topics.h"
+
 namespace barvon {
 namespace {
 
-constexpr int kHopperTopic = 2490;
-constexpr int kBargeTopic = 2550;
 constexpr char kHopperTable[] = "frmMatHopper!F1Book1";
 constexpr char kBargeTable[] = "frmMatBarge!F1Book1";
 
@@ -22,9 +22,9 @@ void Check_Mixed_Load(const ProjectRecord& record, Error_List& errors) {
   for (int i = 1; i <= solids; ++i) {
     if (record.SolidVolFraction[i] != 0) continue;
     if (record.DisposalMethod == 1) {
-      errors.Add(Zero_Fraction_Message(record, i), kHopperTable, kHopperTopic);
+      errors.Add(Zero_Fraction_Message(record, i), kHopperTable, help_topic::kMaterialHopper);
     } else if (record.DisposalMethod == 3) {
-      errors.Add(Zero_Fraction_Message(record, i), kBargeTable, kBargeTopic);
+      errors.Add(Zero_Fraction_Message(record, i), kBargeTable, help_topic::kMaterialBarge);
     } else {
       errors.Add(Zero_Fraction_Message(record, i), "");
     }
@@ -38,7 +38,7 @@ void Check_Separated_Load(const ProjectRecord& record, Error_List& errors) {
   for (int i = 1; i <= solids; ++i) {
     for (int j = 1; j <= layers; ++j) {
       if (record.LayerSolidFraction[i][j] == 0) {
-        errors.Add(Zero_Fraction_Message(record, i), kBargeTable, kBargeTopic);
+        errors.Add(Zero_Fraction_Message(record, i), kBargeTable, help_topic::kMaterialBarge);
       }
     }
   }

@@ -1,9 +1,10 @@
 #include "checks/operation_rules.h"
 
+#include "core/help_topics.h"
+
 namespace barvon {
 namespace {
 
-constexpr int kOperationTopic = 3000;
 constexpr char kBadBinLength[] = "Inapproprite Length of Vessel Bin";
 constexpr char kBadBinWidth[] = "Inapproprite Width of Vessel Bin";
 
@@ -31,10 +32,10 @@ void Check_Barge_Length(const ProjectRecord& record, Error_List& errors) {
   }
 }
 
-/// The only one of these rules with a help topic.
+/// The only one of these rules with a help topic, and that is the timing screen's.
 void Check_Barge_Width(const ProjectRecord& record, Error_List& errors) {
   if (record.DisposalMethod == 3 && record.BargeWidth <= 0) {
-    errors.Add(kBadBinWidth, "frmOperation!Text1(3)", kOperationTopic);
+    errors.Add(kBadBinWidth, "frmOperation!Text1(3)", help_topic::kSimulation);
   }
 }
 

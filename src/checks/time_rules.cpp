@@ -1,9 +1,10 @@
 #include "checks/time_rules.h"
 
+#include "core/help_topics.h"
+
 namespace barvon {
 namespace {
 
-constexpr int kTimeTopic = 3000;
 constexpr double kLongestOcean = 144000;  // s, analysis type 2
 constexpr double kLongestInland = 36000;  // s, analysis type 3
 constexpr char kTooLong[] = "Simulation Duration Is Too Large.  Please Reduce.";
@@ -11,33 +12,33 @@ constexpr char kTooLong[] = "Simulation Duration Is Too Large.  Please Reduce.";
 void Check_Duration_Given(const ProjectRecord& record, Error_List& errors) {
   if (record.SimulationDuration <= 0) {
     errors.Add("Please Specify the Duration of the Simulation.", "frmSimulation!Text1(0)",
-               kTimeTopic);
+               help_topic::kSimulation);
   }
 }
 
 void Check_Time_Step_Given(const ProjectRecord& record, Error_List& errors) {
   if (record.LongTermTimeStep <= 0) {
     errors.Add("Please Specify Long Term Time Step for Diffusion.", "frmSimulation!Text1(1)",
-               kTimeTopic);
+               help_topic::kSimulation);
   }
 }
 
 void Check_Ocean_Duration(const ProjectRecord& record, Error_List& errors) {
   if (record.SimulationDuration > kLongestOcean && record.AnalysisType == 2) {
-    errors.Add(kTooLong, "frmSimulation!Text1(0)", kTimeTopic);
+    errors.Add(kTooLong, "frmSimulation!Text1(0)", help_topic::kSimulation);
   }
 }
 
 void Check_Inland_Duration(const ProjectRecord& record, Error_List& errors) {
   if (record.SimulationDuration > kLongestInland && record.AnalysisType == 3) {
-    errors.Add(kTooLong, "frmSimulation!Text1(0)", kTimeTopic);
+    errors.Add(kTooLong, "frmSimulation!Text1(0)", help_topic::kSimulation);
   }
 }
 
 void Check_Time_Step_Fits(const ProjectRecord& record, Error_List& errors) {
   if (record.SimulationDuration / 2 <= record.LongTermTimeStep) {
     errors.Add("Simulation Time Step Is Too Large.  Please Reduce.", "frmSimulation!Text1(1)",
-               kTimeTopic);
+               help_topic::kSimulation);
   }
 }
 

@@ -222,8 +222,14 @@ std::string Exact_Value_Lines(const Project_Image& image, const Columns_Read& co
 File_Parts Split_File(std::string_view bytes) {
   // The head is longer than a title or a line of names can be, so none of them passes for it.
   const std::string head = "\n" + std::string(kHead);
-  const auto found = bytes.rfind(head);
-  if (found == std::string_view::npos) return {bytes, {}};
+  auto found = bytes.rfind(head);
+  if (found == std::string_view::npos) {
+    // A file may be cut off inside the head: what is left of it tells that values are missing.
+    found = bytes.rfind('\n');
+    if (found == std::string_view::npos || !head.starts_with(bytes.substr(found))) {
+      return {bytes, {}};
+    }
+  }
   return {bytes.substr(0, found + 1), bytes.substr(found + 1)};
 }
 

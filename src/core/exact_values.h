@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/failure.h"
-#include "core/project_columns.h"
+#include "core/column_reader.h"
 #include "core/project_image.h"
 
 namespace barvon {

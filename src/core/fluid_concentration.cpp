@@ -10,12 +10,16 @@ constexpr double kLeastVolumeFraction = 0.0001;  // of a solid
 constexpr double kLeastSpecificGravity = 0.01;
 
 bool Contaminant_Is_In_The_Sediment(const ProjectRecord& record) {
-  return (record.KEY3 == 4 || record.KEY3 == 7) && record.NumSolids >= 1 &&
-         record.SedimentConcentration > kLeastSediment;
+  return record.KEY3 == 4 || record.KEY3 == 7;
+}
+
+bool Carries_Contaminant(const ProjectRecord& record) {
+  return record.NumSolids >= 1 && record.SedimentConcentration > kLeastSediment;
 }
 
 double Plain_Sum(const ProjectRecord& record) {
   double sum = 0;
+  if (!Carries_Contaminant(record)) return sum;
   for (int i = 1; i <= record.NumSolids; ++i) {
     const double fraction = Entry(record.SolidVolFraction, i);
     const double gravity = Entry(record.SolidSG, i);
@@ -33,6 +37,7 @@ double Layer_Total(const ProjectRecord& record) {
 }
 
 double Layered_Mean(const ProjectRecord& record) {
+  if (!Carries_Contaminant(record)) return 0;
   const double total = Layer_Total(record);
   double sum = 0;
   for (int i = 1; i <= record.NumSolids; ++i) {

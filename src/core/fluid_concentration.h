@@ -7,9 +7,9 @@ namespace barvon {
 
 /// Contaminant in the fluid of a load whose contaminant is given in the sediment (KEY3 4 and 7),
 /// mg/l: the sum over solids of SedimentConcentration x SolidSG x SolidVolFraction. Solids that
-/// are next to nothing are passed over. `result` is left alone when KEY3 is another, there are no
-/// solids, or the sediment holds no more than 0.0001 mg/kg. Subscript when NumSolids is beyond
-/// the record's entries.
+/// are next to nothing are passed over. Without solids, and with no more than 0.0001 mg/kg in the
+/// sediment, it is 0: a concentration of an earlier project must not reach the solver. `result` is
+/// left alone when KEY3 is another. Subscript when NumSolids is beyond the record's entries.
 Failure Fluid_Concentration_Plain(const ProjectRecord& record, double& result);
 
 /// The same for separated layers: weighted by LayerSolidFraction and LayerVolume over the total

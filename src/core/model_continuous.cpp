@@ -7,9 +7,8 @@
 // Reading notes for this section, which no solver of ours has read yet:
 // - Its patterns do not pad, so a 0 in an integer pattern leaves nothing, and the values of a line
 //   run together. Only the order of the fields is promised.
-// - A field group is one line unless its values are told to stand one to a line. The grids are
-//   the exception: run together they could not be taken apart, so depths and velocity fields both
-//   stand one value to a line.
+// - A group of fields is one line; output depths and the density profile stand one value to a
+//   line. So do the grids of depths and velocities: run together they could not be taken apart.
 // - The fluid is followed by an empty line, and what comes after that starts a new one.
 
 namespace barvon {

@@ -114,7 +114,8 @@ void Put_Solids(Model_Text& lines, const ProjectRecord& record, Fraction fractio
 }
 
 void Put_Fluid_Computed(Model_Text& lines, const ProjectRecord& record) {
-  lines.Right(FitField(Plain_Number(record.FluidComputedConcentration), kRealWidth), kRealWidth);
+  const std::string text = Number_To_Cut(record.FluidComputedConcentration, kRealWidth);
+  lines.Right(FitField(text, kRealWidth), kRealWidth);
 }
 
 void Put_Fluid_Head(Model_Text& lines, const ProjectRecord& record) {

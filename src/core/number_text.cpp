@@ -95,6 +95,17 @@ std::string Name_Of_Non_Number(double value) {
   return value < 0 ? "-inf" : "inf";
 }
 
+/// One digit, its decimals if there are any, and a power of ten of two digits or more.
+std::string Exponent_Form(const Decimal_Digits& decimal) {
+  std::string text = decimal.negative ? "-" : "";
+  text += decimal.digits.front();
+  if (decimal.digits.size() > 1) text.append(".").append(decimal.digits, 1);
+  const int power = decimal.exponent - 1;
+  text += power < 0 ? "E-" : "E+";
+  if (std::abs(power) < 10) text += '0';
+  return text + std::to_string(std::abs(power));
+}
+
 }  // namespace
 
 Decimal_Digits To_Decimal(double value, int count) {
@@ -138,16 +149,11 @@ double Column_Number(std::string_view text) {
 std::string Plain_Number(double value) {
   if (!std::isfinite(value)) return Name_Of_Non_Number(value);
   const Decimal_Digits decimal = To_Decimal(value, kDefaultDigits);
+  if (decimal.exponent < kLeastPlainExponent || decimal.exponent > kMostPlainExponent) {
+    return Exponent_Form(decimal);
+  }
   const int length = static_cast<int>(decimal.digits.size());
   std::string text = decimal.negative ? "-" : "";
-  if (decimal.exponent < kLeastPlainExponent || decimal.exponent > kMostPlainExponent) {
-    text += decimal.digits.front();
-    if (length > 1) text.append(".").append(decimal.digits, 1);
-    const int power = decimal.exponent - 1;
-    text += power < 0 ? "E-" : "E+";
-    if (std::abs(power) < 10) text += '0';
-    return text + std::to_string(std::abs(power));
-  }
   if (decimal.exponent <= 0) {
     text += "0.";
     return text.append(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
@@ -158,6 +164,17 @@ std::string Plain_Number(double value) {
   }
   const auto point = static_cast<std::size_t>(decimal.exponent);
   return text + decimal.digits.substr(0, point) + "." + decimal.digits.substr(point);
+}
+
+std::string Number_To_Cut(double value, std::size_t width) {
+  std::string text = Plain_Number(value);
+  if (!std::isfinite(value)) return text;
+  const bool loses_decimals_only = text.find('E') == std::string::npos && text.find('.') <= width;
+  if (loses_decimals_only) return text;
+  for (int count = kDefaultDigits; count > 0 && text.size() > width; --count) {
+    text = Exponent_Form(To_Decimal(value, count));
+  }
+  return text;
 }
 
 std::string Plain_Number(int value) { return std::to_string(value); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -29,6 +30,11 @@ double Column_Number(std::string_view text);
 /// in exponent form outside ("5E-05", "1.5E+15"). Not-a-number is "nan", infinities "inf", "-inf".
 std::string Plain_Number(double value);
 std::string Plain_Number(int value);
+
+/// The default text form for a text that is going to be cut after `width` characters (10 or more):
+/// where the cut would take an exponent or whole digits, and so make another number of it, it is
+/// in exponent form with as many digits as fit ("7.4074E-06").
+std::string Number_To_Cut(double value, std::size_t width);
 
 /// The shortest text that gives the same bits back when it is read ("-0" for a negative zero).
 std::string Exact_Number(double value);

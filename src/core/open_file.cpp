@@ -70,7 +70,8 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
     if (!result.told) Offer_Fresh_Start(record);
     return false;
   }
-  if (!result.remark.empty()) Port().show_note({result.remark, {}});
+  // What was said of the project before no longer holds.
+  Port().show_note({result.remark, {}});
   return true;
 }
 
@@ -79,6 +80,11 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
   record.ProjectFileName = path;
   record.BaseFileName = Base_Name(path);
   Port().set_caption("BARVON - " + path);
+  if (Last_Three_Letters(path) == kProjectLetters) {
+    // A project whose KEY4 chooses nothing yet can be edited, saved and run like any other.
+    record.FileKind = kProjectKind;
+    Port().open_menus();
+  }
   return true;
 }
 

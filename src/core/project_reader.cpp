@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "core/column_reader.h"
 #include "core/exact_values.h"
-#include "core/project_columns.h"
 #include "core/project_image.h"
 #include "core/value_slots.h"
 #include "platform/message_box.h"
@@ -41,7 +41,7 @@ Failure Take_Over(const Columns_Read& read, bool short_layout, ProjectRecord& re
 }
 
 Load_Result Load_Short(std::string_view bytes, Progress_Display& progress, ProjectRecord& record) {
-  const Columns_Read read = Read_Columns(bytes, kShortLayoutPoints, progress);
+  const Columns_Read read = Read_Columns(bytes, kShortLayoutPoints, &progress);
   // A full file that was cut off must not pass for a short one: it goes on behind the short
   // layout, or ends just there with real lines where the text lines of a short file stand.
   if (read.failure != Failure::None) return {read.failure, false, {}};
@@ -64,10 +64,10 @@ Load_Result Load_Project(const std::string& path, std::string_view bytes, Projec
   {
     Progress_Display progress("Loading " + path);
     const File_Parts parts = Split_File(bytes);
-    read = Read_Columns(parts.columns, kMaxGridPoints, progress);
+    read = Read_Columns(parts.columns, kMaxGridPoints, &progress);
     if (!parts.exact.empty()) {
       read.failure = Apply_Exact_Values(parts.exact, read);
-      if (read.failure != Failure::None) return {read.failure, false, {}};
+      if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
       // Behind the columns of such a file stand its exact values, not the end.
       read.at_end = false;
     } else if (read.failure == Failure::Input_Past_End) {

@@ -1,8 +1,9 @@
 #include "core/project_writer.h"
 
+#include "core/column_reader.h"
+#include "core/column_writer.h"
 #include "core/exact_values.h"
 #include "core/fluid_concentration.h"
-#include "core/project_columns.h"
 #include "core/project_image.h"
 #include "core/value_slots.h"
 #include "platform/progress_display.h"
@@ -37,7 +38,7 @@ std::string Save_Project(const std::string& path, ProjectRecord& record) {
   record.FileTypeTag = kProjectTag;
   const Project_Image image = Image_Of(record);
   std::string text = Write_Columns(image, progress);
-  const Columns_Read read_back = Read_Columns(text, kMaxGridPoints, progress);
+  const Columns_Read read_back = Read_Columns(text, kMaxGridPoints, nullptr);
   return text + Exact_Value_Lines(image, read_back);
 }
 

@@ -1,7 +1,9 @@
 #include "core/save_file.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
+#include <system_error>
 
 #include "core/analysis_keys.h"
 #include "core/failure.h"
@@ -61,6 +63,11 @@ bool Write_Dilution(const std::string& path, const ProjectRecord& record) {
   return Write_File(path, kDilutionKind, [&] { return kind->write(record); });
 }
 
+bool Lead_To_One_File(const std::string& path, const std::string& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(Path_To_Write(path), Path_To_Write(other), error);
+}
+
 bool Write_Project(const std::string& path, ProjectRecord& record) {
   const bool written = Write_File(path, kProjectKind, [&] {
     Show_Project(record);
@@ -68,13 +75,18 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
     return Save_Project(path, record);
   });
   if (!written) return false;
+  const std::string name = With_Extension(path, "DUE");
+  const std::string lacking =
+      Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
+  if (Lead_To_One_File(path, name)) {
+    record.FileTypeTag = "DUE";
+    Port().show_note({lacking + "that is where the project stands.", {}});
+    return true;
+  }
   const Busy_Cursor cursor;
   // The project is safe; its model input may still be beyond what can be computed.
   if (const Failure failure = Save_Model_Extract(path, record); failure != Failure::None) {
-    Port().show_note({Name_Of(path) + " is saved. Its model input " +
-                          Name_Of(With_Extension(path, "DUE")) +
-                          " could not be written: " + Failure_Name(failure) + ".",
-                      {}});
+    Port().show_note({lacking + Failure_Name(failure) + ".", {}});
   }
   return true;
 }

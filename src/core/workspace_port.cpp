@@ -10,6 +10,7 @@ Workspace_Port Silent_Port() {
   port.display_data = [] {};
   port.set_status_line = [](int, const std::string&, Status_Colour) {};
   port.refresh_for_new_project = [] {};
+  port.open_menus = [] {};
   port.clear_text_checks = [] {};
   port.close_dilution = [] {};
   port.show_recent_menu = [] {};

@@ -24,6 +24,8 @@ struct Workspace_Port {
   std::function<void(int index, const std::string& text, Status_Colour colour)> set_status_line;
   /// New project: menus, marks and panels as for a fresh record.
   std::function<void()> refresh_for_new_project;
+  /// A project has been opened: its menus become available, whatever its keys say.
+  std::function<void()> open_menus;
   std::function<void()> clear_text_checks;
   std::function<void()> close_dilution;
   std::function<void()> show_recent_menu;

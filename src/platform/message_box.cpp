@@ -12,8 +12,9 @@ Message_Presenter& Presenter() {
 
 }  // namespace
 
-Answer Answer_On_Close(Buttons buttons) {
-  switch (buttons) {
+Answer Answer_On_Close(const Message& message) {
+  if (message.on_close) return *message.on_close;
+  switch (message.buttons) {
     case Buttons::YesNoCancel:
       return Answer::Cancel;
     case Buttons::YesNo:
@@ -25,7 +26,7 @@ Answer Answer_On_Close(Buttons buttons) {
 }
 
 Answer Show_Message(const Message& message) {
-  return Presenter() ? Presenter()(message) : Answer_On_Close(message.buttons);
+  return Presenter() ? Presenter()(message) : Answer_On_Close(message);
 }
 
 Message_Presenter Set_Message_Presenter(Message_Presenter presenter) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace barvon {
@@ -18,10 +19,12 @@ struct Message {
   std::string title = kMessageTitle;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::None;
+  std::optional<Answer> on_close = {};  // what closing the box counts as, where not as below
 };
 
 /// What shows a message and brings the user's answer. Closing the box without a choice counts as
-/// Cancel where there is a Cancel button, as No where there is only No, as Ok otherwise.
+/// Cancel where there is a Cancel button, as No where there is only No, as Ok otherwise, unless the
+/// message says what it counts as.
 using Message_Presenter = std::function<Answer(const Message&)>;
 
 /// Shows the message and waits for the answer. Without a presenter nothing is shown and the
@@ -31,7 +34,7 @@ Answer Show_Message(const Message& message);
 /// Puts another presenter in place and returns the one that was there.
 Message_Presenter Set_Message_Presenter(Message_Presenter presenter);
 
-/// The answer of a box with these buttons that is closed without a choice.
-Answer Answer_On_Close(Buttons buttons);
+/// The answer of this box when it is closed without a choice.
+Answer Answer_On_Close(const Message& message);
 
 }  // namespace barvon

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "platform/app_folder.h"
 
@@ -24,6 +25,7 @@ constexpr std::string_view kWorkingEnding = ".barvon-save";
 constexpr std::string_view kNoteEnding = ".barvon-note";
 constexpr std::size_t kMarkLength = 16;
 constexpr std::size_t kWriteBuffer = 1u << 16;
+constexpr off_t kLargestFile = off_t{1} << 28;
 
 std::string& Notes_Folder() {
   static std::string folder;
@@ -178,11 +180,15 @@ int Safe_File::Commit() {
   if (descriptor_ < 0) return Fail(EBADF);
   if (const int error = Write_All(descriptor_, pending_); error != 0) return Fail(error);
   if (::fsync(descriptor_) != 0) return Fail(errno);
+  // Closing may fail too, so it comes before the renaming. A second descriptor keeps the lock
+  // until then: without it another start would take the file for abandoned.
+  const int lock = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
+  if (lock < 0) return Fail(errno);
+  if (::close(std::exchange(descriptor_, lock)) != 0) return Fail(errno);
   if (::rename(working_.c_str(), target_.c_str()) != 0) return Fail(errno);
-  const int descriptor = descriptor_;
   descriptor_ = -1;
   Discard();
-  if (::close(descriptor) != 0) return Fail(errno);
+  ::close(lock);
   return Sync_Folder(Folder_Of(target_));
 }
 
@@ -200,6 +206,7 @@ int Read_Whole_File(const std::string& path, std::string& bytes) {
   int error = ::fstat(descriptor, &status) == 0 ? 0 : errno;
   if (error == 0 && S_ISDIR(status.st_mode)) error = EISDIR;
   if (error == 0 && !S_ISREG(status.st_mode)) error = ENOTSUP;
+  if (error == 0 && status.st_size > kLargestFile) error = EFBIG;
   bytes.clear();
   std::string part(kWriteBuffer, '\0');
   while (error == 0) {

@@ -42,7 +42,8 @@ class Safe_File {
 /// Replaces the whole content of a file. 0 or an errno value.
 int Write_Whole_File(const std::string& path, std::string_view bytes);
 
-/// Reads a whole file. 0 or an errno value.
+/// Reads a whole file of at most 256 MiB, a thousand times the size of a project. 0 or an errno
+/// value.
 int Read_Whole_File(const std::string& path, std::string& bytes);
 
 /// Makes a new file that no link can lead elsewhere: what stands under the name is removed first,

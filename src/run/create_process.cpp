@@ -1,6 +1,7 @@
 #include "run/create_process.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <system_error>
 
 #include "core/workspace_port.h"
@@ -87,6 +88,14 @@ void Stop_Run_And_Wait() {
   run->process.Stop_And_Wait();
   // Said here, while the caller, who ends this program, is still there to hear it.
   Port().run_state(false, run->program);
+}
+
+void Stop_Run_At_Exit() {
+  Reset_Port();  // made before the handler, so that it is still there when the handler is called
+  std::atexit([] {
+    Reset_Port();
+    Stop_Run_And_Wait();
+  });
 }
 
 }  // namespace barvon

@@ -34,5 +34,8 @@ void Stop_Run();
 /// The same before this program ends: does not return before they are gone. Whoever waits for the
 /// run is then expected to return without touching the workspace any more.
 void Stop_Run_And_Wait();
+/// From here on the run also ends with this program when that leaves by std::exit, as the toolkit
+/// does when the display goes away. The workspace is not touched then.
+void Stop_Run_At_Exit();
 
 }  // namespace barvon

@@ -2,7 +2,9 @@
 
 #include <unistd.h>
 
+#include <filesystem>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "checks/check_data.h"
@@ -16,6 +18,7 @@
 #include "core/text_tools.h"
 #include "core/workspace_port.h"
 #include "platform/app_folder.h"
+#include "platform/folder_lock.h"
 #include "platform/message_box.h"
 #include "platform/safe_file.h"
 #include "run/solver_table.h"
@@ -91,6 +94,23 @@ void Remove_Files(const std::string& folder, const char* pattern) {
   for (const std::string& path : Matching_Files(folder, pattern)) ::unlink(path.c_str());
 }
 
+/// The run's scratch files of the current directory. A project that bears a scratch name is none,
+/// nor is a link that it is opened by.
+void Remove_Scratch_Files(const std::string& project) {
+  namespace fs = std::filesystem;
+  const auto place = [](const std::string& path) {
+    std::error_code error;
+    return fs::canonical(Folder_Of(path), error) / Name_Of(path);
+  };
+  std::error_code error;
+  const std::string named = Path_To_Write(project);
+  const fs::path file = fs::canonical(named, error);
+  for (const std::string& path : Matching_Files(".", kScratchFiles)) {
+    const fs::path scratch = place(path);
+    if (scratch != file && scratch != place(named)) ::unlink(path.c_str());
+  }
+}
+
 /// Makes one file that the solver reads. What bears its name, in any case, goes first: the solver
 /// may ask for it in another one, and a link under it must not lead the bytes elsewhere.
 void Make_File(const std::string& folder, const char* name, std::string_view bytes,
@@ -126,9 +146,15 @@ std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder)
 
 void Run_Solver(ProjectRecord& record, Run_Report& report) {
   const std::string folder = Absolute_Path(Application_Folder());
+  // Solvers meet in this folder under the same names, whichever program started them.
+  const Folder_Lock lock(folder);
+  if (lock.Is_Taken()) {
+    report.stage = Run_Stage::Refused;
+    return;
+  }
   const std::string project = record.ProjectFileName;
   const std::string base_name = record.BaseFileName;
-  Remove_Files(".", kScratchFiles);
+  Remove_Scratch_Files(project);
   report.problem = Write_Solver_Files(record, folder);
   Set_Application_Directory();
   const Solver solver = Solver_For(record.DisposalMethod);

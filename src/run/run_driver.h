@@ -5,10 +5,6 @@
 
 namespace barvon {
 
-/// What is asked before faulty data is run or saved: Yes, No, Cancel.
-inline constexpr char kErrorsDetected[] =
-    "Errors have been detected in the data.  Do You Wish to Fix The Errors?";
-
 /// The Run command: finds the saved project, offers the findings, saves if need be, writes the
 /// model input and the marker, starts the solver, waits, keeps its outputs. Tells the user in
 /// boxes where the flow has one and in the status area how it ended. Every exit is a return to

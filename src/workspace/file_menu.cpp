@@ -18,7 +18,6 @@
 #include "core/workspace_port.h"
 #include "platform/file_dialog.h"
 #include "platform/message_box.h"
-#include "run/run_driver.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {

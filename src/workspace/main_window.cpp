@@ -108,6 +108,7 @@ void Main::Fill_Port() {
     // At start the menus keep what the menu tree gives them.
     if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);
   };
+  port.open_menus = [this] { SetMenuAvailability(controls_, Menu_Mode::Project); };
   port.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   port.show_main_board = [this] { Show_Main_Board(controls_); };
   port.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };

@@ -31,15 +31,16 @@ Close_Action Ask_On_Close(const std::string& caption, Flag data_saved) {
   if (caption == kUntitledCaption || data_saved != kFalse) {
     return Wish_To_Quit() ? Close_Action::End_At_Once : Close_Action::Stay;
   }
+  // No and Cancel have changed places here: No stays, Cancel ends without saving. Nobody who only
+  // gets rid of the box may lose data by that.
   switch (Show_Message({"Do You Wish To Save the Current File Before Quitting?", kMessageTitle,
-                        Buttons::YesNoCancel, Icon::None})) {
+                        Buttons::YesNoCancel, Icon::None, Answer::No})) {
     case Answer::Yes:
       return Close_Action::Save_And_Close;
-    case Answer::No:
-      // No and Cancel have changed places here: No stays, Cancel ends without saving.
-      return Close_Action::Stay;
-    default:
+    case Answer::Cancel:
       return Close_Action::End_At_Once;
+    default:
+      return Close_Action::Stay;
   }
 }
 

@@ -11,6 +11,13 @@
 #include "run/create_process.h"
 
 namespace barvon {
+namespace {
+
+/// A button that goes away must not hand the focus on to the project's title, all of it selected:
+/// the next key would replace it.
+void Give_Up_Focus(QPushButton* button) { button->clearFocus(); }
+
+}  // namespace
 
 Status_Area::Status_Area(QWidget* parent) : QStatusBar(parent) {
   setObjectName(QStringLiteral("StatusArea"));
@@ -40,6 +47,7 @@ Status_Area::Status_Area(QWidget* parent) : QStatusBar(parent) {
 
   connect(Details_, &QPushButton::clicked, this, &Status_Area::Show_Details);
   connect(StopRun_, &QPushButton::clicked, this, [this] {
+    Give_Up_Focus(StopRun_);
     StopRun_->setEnabled(false);
     Stop_Run();
   });
@@ -48,6 +56,7 @@ Status_Area::Status_Area(QWidget* parent) : QStatusBar(parent) {
 void Status_Area::Show_Note(const Status_Note& note) {
   Note_->setText(QString::fromStdString(note.text));
   details_ = QString::fromStdString(note.details);
+  if (details_.isEmpty()) Give_Up_Focus(Details_);
   Details_->setVisible(!details_.isEmpty());
   // What does not fit is to be had in whole too, without a mouse to hover.
   layout()->activate();
@@ -59,6 +68,7 @@ void Status_Area::Show_Run(bool running, const std::string& program) {
   Program_->setText(running ? "Running " + QString::fromStdString(Name_Of(program)) : QString());
   Program_->setToolTip(QString::fromStdString(program).toHtmlEscaped());
   Program_->setVisible(running);
+  if (!running) Give_Up_Focus(StopRun_);
   StopRun_->setEnabled(running);
   StopRun_->setVisible(running);
 }
@@ -87,6 +97,8 @@ void Status_Area::Show_Details() {
   layout->addWidget(buttons);
   dialog->resize(560, details_.isEmpty() ? 160 : 320);
   dialog->show();
+  // What a program said last is what matters.
+  lines->moveCursor(QTextCursor::End);
 }
 
 }  // namespace barvon

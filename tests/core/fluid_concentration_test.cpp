@@ -85,15 +85,15 @@ TEST(FluidConcentration, Other_Evaluations_Leave_The_Result_Alone) {
   EXPECT_EQ(Layered(*record), 16.25);
 }
 
-TEST(FluidConcentration, No_Solids_Or_A_Clean_Sediment_Leave_The_Result_Alone) {
+TEST(FluidConcentration, No_Solids_Or_A_Clean_Sediment_Carry_Nothing) {
   auto record = Layered_Load();
   record->NumSolids = 0;
-  EXPECT_EQ(Plain(*record), kUntouched);
-  EXPECT_EQ(Layered(*record), kUntouched);
+  EXPECT_EQ(Plain(*record), 0);
+  EXPECT_EQ(Layered(*record), 0);
   record = Layered_Load();
   record->SedimentConcentration = 0.0001;
-  EXPECT_EQ(Plain(*record), kUntouched);
-  EXPECT_EQ(Layered(*record), kUntouched);
+  EXPECT_EQ(Plain(*record), 0);
+  EXPECT_EQ(Layered(*record), 0);
 }
 
 TEST(FluidConcentration, Layers_Without_Volume_Carry_Nothing) {

@@ -168,6 +168,8 @@ std::vector<std::string> Whole_Lines(const std::string& text) {
   return lines;
 }
 
-std::vector<std::string> Written_Lines(ProjectRecord record) { return Whole_Lines(Written(record)); }
+std::vector<std::string> Written_Lines(ProjectRecord record) {
+  return Whole_Lines(Written(record));
+}
 
 }  // namespace barvon::testing

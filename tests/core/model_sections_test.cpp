@@ -86,12 +86,40 @@ TEST(ModelSections, An_Evaluation_Beyond_The_Table_Adds_Nothing_To_The_Fluid) {
   EXPECT_EQ(Fluid_Line(3, 8), "Tracer           1.5        11        12");
 }
 
-TEST(ModelSections, A_Small_Fluid_Concentration_Loses_Its_Exponent) {
-  ProjectRecord record = Fluid_Project(1, 4);
-  record.SedimentConcentration = 0.5;
-  record.SolidSG[1] = 0.123456789, record.SolidVolFraction[1] = 0.00012;
-  // 0.5 x 0.123456789 x 0.00012 = 7.40740734E-06, of which ten characters are kept.
-  EXPECT_EQ(Line_Of(Written_Lines(record), "Tracer").substr(20, 10), "7.40740734");
+/// What stands in the column of the computed concentration when the sediment holds this.
+std::string Computed_Column(int method, double sediment) {
+  ProjectRecord record = Fluid_Project(method, 4);
+  record.SedimentConcentration = sediment;
+  const std::string line = Line_Of(Written_Lines(record), "Tracer");
+  EXPECT_EQ(line.substr(30, 10), "        12");
+  return line.substr(20, 10);
+}
+
+TEST(ModelSections, A_Fluid_Concentration_Is_Cut_In_Its_Decimals) {
+  for (const int method : {1, 3}) {
+    EXPECT_EQ(Computed_Column(method, 123.456789012345), "123.456789");
+    EXPECT_EQ(Computed_Column(method, 123456789.55), "123456789.");
+    EXPECT_EQ(Computed_Column(method, 1234567890.5), "1234567890");
+    EXPECT_EQ(Computed_Column(method, 0.00123456789), "0.00123456");
+    EXPECT_EQ(Computed_Column(method, 25), "        25");
+  }
+}
+
+TEST(ModelSections, A_Small_Fluid_Concentration_Keeps_Its_Exponent) {
+  for (const int method : {1, 3}) {
+    ProjectRecord record = Fluid_Project(method, 4);
+    record.SedimentConcentration = 0.5;
+    record.SolidSG[1] = 0.123456789, record.SolidVolFraction[1] = 0.00012;
+    // 0.5 x 0.123456789 x 0.00012 = 7.40740734E-06; its first ten characters are 7.4.
+    EXPECT_EQ(Line_Of(Written_Lines(record), "Tracer").substr(20, 10), "7.4074E-06");
+  }
+}
+
+TEST(ModelSections, A_Fluid_Concentration_Of_More_Than_Ten_Whole_Digits_Keeps_Its_Size) {
+  for (const int method : {1, 3}) {
+    EXPECT_EQ(Computed_Column(method, 12345678901), "1.2346E+10");
+    EXPECT_EQ(Computed_Column(method, 1.23456789e20), "1.2346E+20");
+  }
 }
 
 TEST(ModelSections, An_Empty_Tracer_Name_Is_Ten_Blanks) {

@@ -9,6 +9,8 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <locale>
+#include <string>
 
 #include "core/failure.h"
 
@@ -91,12 +93,48 @@ TEST(PlainNumber, Is_Plain_From_0_0001_To_Below_1E15_And_In_Exponent_Form_Outsid
   EXPECT_EQ(Plain_Number(999999999999999.9), "1E+15");
 }
 
+/// A locale with a decimal comma and grouped digits, there on every machine.
+struct Decimal_Comma : std::numpunct<char> {
+  char do_decimal_point() const override { return ','; }
+  char do_thousands_sep() const override { return '.'; }
+  std::string do_grouping() const override { return "\3"; }
+};
+TEST(NumberToCut, Is_The_Plain_Number_Where_The_Cut_Takes_Decimals_Only) {
+  for (const double value : {123.456789012345, 0.000123456789, -0.5, 25.0, 1234567890.0,
+                             1234567890.5, 5e-5, 1e100, 0.0}) {
+    EXPECT_EQ(Number_To_Cut(value, 10), Plain_Number(value));
+  }
+  EXPECT_EQ(Number_To_Cut(std::numeric_limits<double>::infinity(), 10), "inf");
+}
+
+TEST(NumberToCut, Has_As_Many_Digits_As_Fit_Where_The_Cut_Would_Make_Another_Number_Of_It) {
+  EXPECT_EQ(Number_To_Cut(7.40740734e-6, 10), "7.4074E-06");
+  EXPECT_EQ(Number_To_Cut(-7.40740734e-6, 10), "-7.407E-06");
+  EXPECT_EQ(Number_To_Cut(9.99999999e-6, 10), "1E-05");
+  EXPECT_EQ(Number_To_Cut(1.23456789e-300, 10), "1.235E-300");
+  EXPECT_EQ(Number_To_Cut(-1.23456789e-300, 10), "-1.23E-300");
+  EXPECT_EQ(Number_To_Cut(12345678901.0, 10), "1.2346E+10");
+  EXPECT_EQ(Number_To_Cut(-1234567890.0, 10), "-1.235E+09");
+}
+
+RC_GTEST_PROP(NumberToCut, Is_Still_That_Number_After_The_Cut, (double value)) {
+  RC_PRE(std::isfinite(value));
+  const double back = Lenient_Number(Number_To_Cut(value, 10).substr(0, 10));
+  RC_ASSERT(std::abs(back - value) <= 0.01 * std::abs(value));
+}
+
 TEST(PlainNumber, Does_Not_Follow_The_Locale) {
-  const std::string former = std::setlocale(LC_ALL, nullptr);
+  const std::string former_c = std::setlocale(LC_ALL, nullptr);
+  const std::locale former(std::locale::global(std::locale(std::locale(), new Decimal_Comma)));
   std::setlocale(LC_ALL, "de_DE.UTF-8");
-  EXPECT_EQ(Plain_Number(0.5), "0.5");
-  EXPECT_EQ(Lenient_Number("0.5"), 0.5);
-  std::setlocale(LC_ALL, former.c_str());
+  const std::string plain = Plain_Number(12345.5);
+  const std::string exact = Exact_Number(12345.5);
+  const double lenient = Lenient_Number("12345.5");
+  std::locale::global(former);
+  std::setlocale(LC_ALL, former_c.c_str());
+  EXPECT_EQ(plain, "12345.5");
+  EXPECT_EQ(exact, "12345.5");
+  EXPECT_EQ(lenient, 12345.5);
 }
 
 TEST(PlainNumber, A_Float_Goes_Through_Its_Own_Shortest_Text) {

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "core/file_kinds.h"
+#include "core/workspace_port.h"
 #include "platform/busy_cursor.h"
 #include "support/project_text.h"
 #include "support/recorded_workspace.h"
@@ -241,6 +242,26 @@ TEST_F(OpenFile, A_Faulty_Dilution_File_Offers_A_Fresh_Start) {
   EXPECT_FALSE(Open_Project(folder_ / "a.dud", record_));
   Expect_Offer(messages);
   Expect_Former_Project();
+}
+
+TEST_F(OpenFile, What_Was_Said_Of_The_Project_Before_Is_Taken_Back) {
+  const std::string path = folder_ / "next.dui";
+  Write_Text(path, Project_Bytes("Next"));
+  Port().show_note({"site.duo kept", "details"});
+  ASSERT_TRUE(Open_File(path, record_));
+  EXPECT_EQ(notes_, (Lines{"site.duo kept", ""}));
+}
+
+TEST_F(OpenFile, A_Project_Whose_KEY4_Chooses_Nothing_Has_Its_Menus_And_Its_Kind) {
+  const std::string path = folder_ / "unchosen.dui";
+  Write_Text(path, Project_Bytes("Unchosen"));
+  int opened = 0;
+  Port().open_menus = [&opened] { ++opened; };
+  record_.FileKind = 1;
+  ASSERT_TRUE(Open_Project(path, record_));
+  EXPECT_EQ(record_.KEY4, 0);
+  EXPECT_EQ(record_.FileKind, 2);
+  EXPECT_EQ(opened, 1);
 }
 
 TEST_F(OpenFile, Cancel_In_The_Dialog_Leaves_Everything) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/project_defaults.h"
@@ -145,8 +146,8 @@ TEST_F(ExactValues, Lines_That_Are_Cut_Off_Fail_And_Leave_The_Record) {
   const std::string text = Joined(lines);
   const std::size_t head = text.find("Exact values");
   record_.ProjectTitle = "before";
-  // Cut anywhere between the head and its end line's last character.
-  for (std::size_t size = head + 76; size < text.size() - 2; ++size) {
+  // Cut anywhere between the head's first character and its end line's last.
+  for (std::size_t size = head + 1; size < text.size() - 2; ++size) {
     const Load_Result result = Load_Project("site.dui", text.substr(0, size), record_);
     ASSERT_NE(result.failure, Failure::None) << size - head;
     ASSERT_FALSE(result.told);
@@ -166,6 +167,29 @@ TEST_F(ExactValues, Damaged_Lines_Fail) {
     auto copy = lines;
     copy[kFullLines + 2] = damaged;
     EXPECT_EQ(Load(copy), Failure::Type_Mismatch) << damaged;
+  }
+}
+
+TEST_F(ExactValues, Faults_Of_A_File_With_Exact_Values_Are_Told_By_Their_Number) {
+  record_.ALPHA3 = 1.0 / 3;
+  const auto lines = Save();
+  auto velocity = lines;
+  velocity[1574].replace(8, 8, "     abc");
+  auto real = lines;
+  real[7] = "      1E999";
+  auto exact = lines;
+  exact[kFullLines + 2] = "no entry at all";
+  const std::vector<std::pair<std::vector<std::string>, std::string>> faults = {
+      {velocity, "Error Reading File:  13"},
+      {real, "Error Reading File:  6"},
+      {exact, "Error Reading File:  13"}};
+  for (const auto& [faulty, text] : faults) {
+    Scripted_Messages messages({Answer::Ok});
+    const Load_Result result = Load_Project("site.dui", Joined(faulty), record_);
+    EXPECT_NE(result.failure, Failure::None) << text;
+    EXPECT_TRUE(result.told) << text;
+    ASSERT_EQ(messages.shown.size(), 1U) << text;
+    EXPECT_EQ(messages.shown[0].text, text);
   }
 }
 

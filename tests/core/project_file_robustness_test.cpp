@@ -130,6 +130,31 @@ TEST_F(ProjectFileRobustness,
   EXPECT_FALSE(result.remark.empty());
 }
 
+TEST_F(ProjectFileRobustness, A_Tidal_Value_Beyond_32_Bits_Leaves_Its_Field) {
+  record_.TidalAvgVelZ = 1.5F;
+  record_.TidalVelX[2] = 2;
+  auto lines = Save();
+  lines[3494] = "1.00     2.00     3.00     1E39";
+  lines[3496] = "-4E38     9.00";
+  const Load_Result result = Load(Joined(lines));
+  ASSERT_EQ(result.failure, Failure::None);
+  EXPECT_EQ(record_.TidalAvgVelX, 3);
+  EXPECT_EQ(record_.TidalAvgVelZ, 1.5F);
+  EXPECT_EQ(record_.TidalVelX[2], 2);
+  EXPECT_FALSE(result.remark.empty());
+}
+
+TEST_F(ProjectFileRobustness, Free_Form_Numbers_May_Stand_Between_Commas_And_Blanks) {
+  auto lines = Save();
+  lines[1574] = "1,2 ,3 , 4,  5   6 7 8 9 10";
+  lines[3494] = "1.5 , 2.5, 3.5 ,4.5";
+  const Load_Result result = Load(Joined(lines));
+  ASSERT_EQ(result.failure, Failure::None);
+  for (int b = 1; b <= 10; ++b) EXPECT_EQ(record_.VelocityFieldX[1][b], b);
+  EXPECT_EQ(record_.TidalDepth, 2.5F);
+  EXPECT_EQ(record_.TidalAvgVelZ, 4.5F);
+}
+
 TEST_F(ProjectFileRobustness, A_Cut_Off_Tail_Keeps_What_It_Has_And_Tells) {
   record_.KEY4 = 4;
   record_.DepthGrid[96][1] = 5;

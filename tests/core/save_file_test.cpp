@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <csignal>
+#include <filesystem>
 
 #include "core/file_kinds.h"
 #include "core/open_file.h"
@@ -86,6 +87,22 @@ TEST_F(SaveFile, A_Reset_Project_Counts_As_Saved_Though_Its_Model_Input_Can_Not_
   EXPECT_FALSE(Exists(folder_ / "site.DUE"));
   EXPECT_EQ(notes_, Lines{"site.DUI is saved. Its model input site.DUE could not be written: "
                           "Division by zero."});
+}
+
+TEST_F(SaveFile, A_Model_Input_Never_Takes_The_Place_Of_The_Project_Itself) {
+  Make_Computable();
+  std::filesystem::create_symlink(folder_ / "bay.DUI", folder_ / "bay.DUE");
+  for (const char* name : {"site.DUE", "cove.due", "bay.DUI"}) {
+    Scripted_Messages messages;
+    notes_.clear();
+    EXPECT_TRUE(Save_File(folder_ / name, 2, record_));
+    EXPECT_EQ(Read_Text(folder_ / name).substr(0, 7), "   DUMP") << name;
+    ASSERT_EQ(notes_.size(), 1u);
+    EXPECT_EQ(record_.DataSaved, kTrue);
+  }
+  EXPECT_EQ(notes_[0],
+            "bay.DUI is saved. Its model input bay.DUE could not be written: that is where the "
+            "project stands.");
 }
 
 TEST_F(SaveFile, What_Showing_A_Project_Changes_Is_In_The_File) {

@@ -12,6 +12,7 @@ void Call_Every_Entry() {
   port.display_data();
   port.set_status_line(0, "x", Status_Colour::Blue);
   port.refresh_for_new_project();
+  port.open_menus();
   port.clear_text_checks();
   port.close_dilution();
   port.show_recent_menu();

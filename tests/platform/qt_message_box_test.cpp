@@ -82,6 +82,14 @@ TEST_F(MessageBox, Escape_And_The_Close_Box_Are_Cancel_Or_No_Or_Ok) {
   }
 }
 
+TEST_F(MessageBox, A_Message_May_Say_What_Closing_It_Counts_As) {
+  const Message message{"?", "BARVON", Buttons::YesNoCancel, Icon::None, Answer::No};
+  Modal_Replies replies({Press_Escape(), Close_Window(), Press(QMessageBox::Cancel)});
+  EXPECT_EQ(Show_Message(message), Answer::No);
+  EXPECT_EQ(Show_Message(message), Answer::No);
+  EXPECT_EQ(Show_Message(message), Answer::Cancel);
+}
+
 TEST_F(MessageBox, The_Wait_Cursor_Rests_While_A_Box_Asks) {
   const Busy_Cursor busy;
   ASSERT_NE(QApplication::overrideCursor(), nullptr);

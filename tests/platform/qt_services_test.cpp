@@ -7,14 +7,10 @@
 #include <QProgressBar>
 #include <QTimer>
 
-#include "platform/qt/qt_help_viewer.h"
 #include "support/screen_support.h"
 
 namespace barvon {
 namespace {
-
-using testing::Modal_Replies;
-using testing::Press;
 
 QWidget* Progress_Window() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -115,23 +111,6 @@ TEST(ProgressBar, Survives_The_Window_That_It_Stands_On) {
   window.reset();
   display.Move(0.5);
   EXPECT_EQ(Progress_Window(), nullptr);
-}
-
-TEST(HelpViewer, A_Missing_Help_File_Is_Told_In_Words) {
-  const Qt_Services services;
-  Set_Help_File("/nowhere/BARVON.HLP");
-  Modal_Replies replies({Press(QMessageBox::Ok)});
-  Show_Help({Help_Command::Context, 2460, ""});
-  EXPECT_EQ(replies.seen.at(0).text, "The help file is missing: /nowhere/BARVON.HLP");
-  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Warning);
-}
-
-TEST(HelpViewer, Closing_Help_That_Was_Never_Open_Says_Nothing) {
-  const Qt_Services services;
-  Modal_Replies replies({});
-  Show_Help({Help_Command::Quit, 0, ""});
-  QCoreApplication::processEvents();
-  EXPECT_EQ(replies.windows, 0);
 }
 
 TEST(QtServices, Put_Back_What_Was_Bound_Before) {

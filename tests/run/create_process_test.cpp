@@ -143,6 +143,21 @@ TEST_F(CreateProcess, Stop_And_Wait_Returns_When_All_Are_Gone) {
   EXPECT_EQ(bench.states.size(), 2u);
 }
 
+TEST_F(CreateProcess, A_Run_Does_Not_Outlive_A_Program_That_Leaves_By_Exit) {
+  bench.Install("merak32", "child:grandchild\npid:solver\nawait:never\n");
+  bench.While_Waiting([this] {
+    if (Exists(bench / "solver")) std::exit(7);
+  });
+  EXPECT_EXIT(
+      {
+        Stop_Run_At_Exit();
+        Create_Process_Code("DOS4GW MERAK32.EXE");
+      },
+      ::testing::ExitedWithCode(7), "");
+  EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(bench / "solver")); }));
+  EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(bench / "grandchild")); }));
+}
+
 TEST_F(CreateProcess, Endless_Output_Stays_Bounded) {
   bench.Install("merak32", "flood:0\n");
   bench.While_Waiting([this] {

@@ -145,6 +145,37 @@ TEST_F(RunDriver, Old_Scratch_Files_Are_Gone_Before_The_Solver_Starts) {
   EXPECT_TRUE(Exists(bench / "other.duo"));
 }
 
+TEST_F(RunDriver, A_Project_That_Bears_The_Scratch_Name_Survives_Its_Run) {
+  for (const char* name : {"Tmpfile.DUI", "tmpfile.dui"}) {
+    const std::string project = bench / name;
+    Write_Text(project, "as saved");
+    Write_Text(bench / "Tmpfile.old", "old");
+    record.BaseFileName = bench / "Tmpfile";
+    record.ProjectFileName = bench / "Tmpfile.DUI";
+    EXPECT_EQ(Run().stage, Run_Stage::Not_Started);
+    EXPECT_EQ(Read_Text(project), "as saved");
+    EXPECT_FALSE(Exists(bench / "Tmpfile.old"));
+    fs::remove(project);
+  }
+}
+
+TEST_F(RunDriver, What_A_Project_Is_Opened_By_And_Leads_To_Survives_Its_Run) {
+  Write_Text(bench / "Tmpfile.DUI", "as saved");
+  fs::create_directory_symlink(bench.app(), bench.folder / "other");
+  fs::remove(base + ".DUI");
+  fs::create_symlink(bench.folder / "other/Tmpfile.DUI", base + ".DUI");
+  Run();
+  EXPECT_EQ(Read_Text(base + ".DUI"), "as saved");
+  record.ProjectFileName = bench / "Tmpfile.DUI";
+  record.BaseFileName = bench / "Tmpfile";
+  fs::rename(bench / "Tmpfile.DUI", bench.folder / "bay/real.DUI");
+  fs::create_symlink(bench.folder / "bay/real.DUI", bench / "Tmpfile.DUI");
+  fs::create_symlink(bench.folder / "bay/real.DUI", bench / "tmpfile.duo");
+  Run();
+  EXPECT_EQ(Read_Text(bench / "Tmpfile.DUI"), "as saved");
+  EXPECT_FALSE(fs::is_symlink(bench / "tmpfile.duo"));
+}
+
 TEST_F(RunDriver, Scratch_Files_Are_Deleted_In_The_Current_Directory_Only) {
   fs::create_directory(bench.folder / "here");
   fs::current_path(bench.folder / "here");

@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "platform/app_folder.h"
+#include "platform/folder_lock.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {
@@ -40,6 +42,19 @@ TEST_F(RunWaiting, Run_During_A_Run_Starts_Nothing_And_Says_So) {
   EXPECT_EQ(bench.states.size(), 2u);
   ASSERT_EQ(bench.notes.size(), 2u);
   EXPECT_EQ(bench.notes[0].text, "Not run: another run is under way.");
+}
+
+TEST_F(RunWaiting, A_Run_Of_Another_Program_In_The_Same_Folder_Is_Not_Disturbed) {
+  Install(kWritesAll);
+  Write_Text(bench / "Tmpfile.Due", "of the other program");
+  {
+    const Folder_Lock other(Application_Folder());
+    EXPECT_EQ(Run().stage, Run_Stage::Refused);
+  }
+  EXPECT_EQ(Read_Text(bench / "Tmpfile.Due"), "of the other program");
+  EXPECT_TRUE(bench.states.empty());
+  EXPECT_EQ(Note(), "Not run: another run is under way.");
+  EXPECT_TRUE(Run().Succeeded());
 }
 
 TEST_F(RunWaiting, A_Stopped_Run_Leaves_Earlier_Outputs_And_Nothing_Running) {

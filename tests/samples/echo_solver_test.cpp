@@ -276,7 +276,7 @@ TEST_F(EchoSolver, Refuses_A_Marker_Of_Another_Kind) {
 
 TEST_F(EchoSolver, Refuses_A_Marker_Whose_Columns_Are_Shifted) {
   marker_.insert(9, " ");
-  Expect_Refusal(Echo(Hopper()), "KOLBREE.TMP, line 1", "part 3 of the marker has 28 columns");
+  Expect_Refusal(Echo(Hopper()), "KOLBREE.TMP, line 1", "field 3 of the marker has 28 columns");
 }
 
 TEST_F(EchoSolver, Refuses_An_Empty_Marker) {
@@ -317,6 +317,14 @@ TEST_F(EchoSolver, Refuses_What_Is_No_Number_At_All) {
   Lines due = Hopper();
   due[12] = "       nan";
   Expect_Refusal(Echo(due), "Tmpfile.Due, line 13", "is no number for RHDA0");
+}
+
+TEST_F(EchoSolver, Refuses_A_Title_Without_Its_Padding) {
+  Lines due = Hopper();
+  due[1] = "A LITTLE HOPPER";
+  Expect_Refusal(Echo(due), "Tmpfile.Due, line 2", "less than 60 columns");
+  due[1] = "A hopper whose title is longer than the sixty columns that are kept for it";
+  EXPECT_EQ(Echo(due).code, 0);
 }
 
 TEST_F(EchoSolver, Refuses_A_Line_That_Is_Too_Short) {

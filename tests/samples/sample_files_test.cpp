@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
 #include <memory>
 #include <set>
+#include <utility>
 
 #include "checks/check_data.h"
 #include "core/analysis_keys.h"
@@ -96,6 +98,35 @@ TEST(SampleFiles, Pass_Validation) {
     for (const Error_Entry& entry : Check_Data(*Loaded(sample)).entries) {
       ADD_FAILURE() << sample.file << ": " << entry.message << " " << entry.reference;
     }
+  }
+}
+
+/// The fastest current of the project in X and in Z, ft/s, each with its sign.
+std::pair<double, double> Fastest_Current(const ProjectRecord& record) {
+  double x = record.AvgVelocityX, z = record.AvgVelocityZ;
+  const auto take = [&](double other_x, double other_z) {
+    if (std::abs(other_x) > std::abs(x)) x = other_x;
+    if (std::abs(other_z) > std::abs(z)) z = other_z;
+  };
+  take(record.TidalAvgVelX, record.TidalAvgVelZ);
+  take(record.VelX1, record.VelZ1);
+  for (int a = 1; a <= record.MMAX0; ++a) {
+    for (int b = 1; b <= record.NMAX0; ++b) {
+      take(record.VelocityFieldX[a][b], record.VelocityFieldZ[a][b]);
+    }
+  }
+  return {x, z};
+}
+
+TEST(SampleFiles, Keep_Their_Cloud_On_The_Grid_For_As_Long_As_They_Run) {
+  for (const Sample& sample : samples::Samples()) {
+    const auto record = Filled(sample);
+    if (record->DisposalMethod == 2) continue;  // a plume that goes on may leave at the far edge
+    const auto [x, z] = Fastest_Current(*record);
+    const double end_x = record->XBARGE + x * record->SimulationDuration;
+    const double end_z = record->ZBARGE + z * record->SimulationDuration;
+    EXPECT_TRUE(end_x > 0 && end_x < record->DistX) << sample.file << " X " << end_x;
+    EXPECT_TRUE(end_z > 0 && end_z < record->DistZ) << sample.file << " Z " << end_z;
   }
 }
 

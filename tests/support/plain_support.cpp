@@ -30,7 +30,7 @@ Scripted_Messages::Scripted_Messages(std::vector<Answer> answers) : answers_(std
     shown.push_back(message);
     if (shown.size() > answers_.size()) {
       ADD_FAILURE() << "unexpected box: " << message.text;
-      return Answer_On_Close(message.buttons);
+      return Answer_On_Close(message);
     }
     return answers_[shown.size() - 1];
   });

@@ -146,9 +146,9 @@ TEST_F(FileMenu, Settings_That_Can_Not_Be_Written_Are_Told_In_The_Status_Area) {
   chosen_ = path;
   Click(kFileOpen);
   EXPECT_EQ(record_.ProjectFileName, path);
-  EXPECT_EQ(notes_, Lines{"BARVON.INI could not be written: the graphics program has not been told "
-                          "of " +
-                          path + "."});
+  EXPECT_EQ(
+      notes_.back(),
+      "BARVON.INI could not be written: the graphics program has not been told of " + path + ".");
 }
 
 TEST_F(FileMenu, Close_Resets_And_Does_Not_Show_The_Data) {

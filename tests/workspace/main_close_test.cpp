@@ -12,6 +12,7 @@
 namespace barvon {
 namespace {
 
+using testing::Close_Window;
 using testing::Main_Bench;
 using testing::Modal_Replies;
 using testing::Press;
@@ -75,6 +76,15 @@ TEST_F(MainClose, Cancel_To_Saving_Ends_The_Program_Without_Saving) {
   EXPECT_EQ(bench.ended, 1);
   EXPECT_EQ(help_closed, 1);
   EXPECT_FALSE(testing::Exists(bench.folder / "bay.DUI"));
+}
+
+TEST_F(MainClose, Getting_Rid_Of_The_Save_Prompt_Keeps_The_Program_Open) {
+  Title_The_Project();
+  Modal_Replies replies({Press_Escape(), Close_Window()});
+  EXPECT_FALSE(bench.main().close());
+  EXPECT_FALSE(bench.main().close());
+  EXPECT_EQ(replies.seen.at(1).text, "Do You Wish To Save the Current File Before Quitting?");
+  EXPECT_EQ(bench.ended, 0);
 }
 
 TEST_F(MainClose, Yes_To_Saving_Saves_And_Ends) {

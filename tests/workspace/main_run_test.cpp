@@ -6,8 +6,10 @@
 
 #include "core/project_record.h"
 #include "core/workspace_port.h"
+#include "platform/qt/end_signals.h"
 #include "run/create_process.h"
 #include "support/screen_support.h"
+#include "workspace/quit_rules.h"
 
 namespace barvon {
 namespace {
@@ -106,6 +108,22 @@ TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {
   EXPECT_NE(bench.Child<QLabel>("StatusNote")->text(), "");
 }
 
+TEST_F(MainRun, A_Key_After_Stop_Does_Not_Replace_The_Title) {
+  QTest::keyClicks(bench.controls().Title_Box, "BAY");
+  Run_And([this] {
+    auto* stop = bench.Child<QPushButton>("StopRun");
+    stop->setFocus();
+    QTest::keyClick(stop, Qt::Key_Space);
+    EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+  });
+  EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+  auto* details = bench.Child<QPushButton>("StatusDetails");
+  Port().show_note({"a remark", "with details"});
+  details->setFocus();
+  Port().show_note({"another", ""});
+  EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
+}
+
 TEST_F(MainRun, Closing_The_Window_Meanwhile_Leaves_No_Process) {
   int ended_with = -1;
   Run_And(
@@ -117,6 +135,14 @@ TEST_F(MainRun, Closing_The_Window_Meanwhile_Leaves_No_Process) {
       },
       {Press(QMessageBox::Yes)});
   EXPECT_EQ(ended_with, 1);
+}
+
+TEST_F(MainRun, A_Signal_To_End_The_Program_Meanwhile_Leaves_No_Process) {
+  const End_Signals end_signals(End_Program);
+  Run_And([] { raise(SIGTERM); });
+  EXPECT_EQ(bench.ended, 1);
+  EXPECT_FALSE(Is_Alive(Process("solver.pid")));
+  EXPECT_TRUE(testing::Wait_Until([this] { return !Is_Alive(Process("helper.pid")); }));
 }
 
 }  // namespace

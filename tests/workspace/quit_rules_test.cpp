@@ -79,9 +79,16 @@ TEST(QuitRules, Exit_Asks_Without_An_Icon_And_Any_Answer_But_No_Ends) {
 }
 
 TEST(QuitRules, Closing_The_Exit_Box_Without_A_Choice_Stays) {
-  const Message_Presenter former = Set_Message_Presenter(
-      [](const Message& message) { return Answer_On_Close(message.buttons); });
+  const Message_Presenter former =
+      Set_Message_Presenter([](const Message& message) { return Answer_On_Close(message); });
   EXPECT_FALSE(Ask_On_Exit());
+  Set_Message_Presenter(former);
+}
+
+TEST(QuitRules, Closing_The_Save_Prompt_Without_A_Choice_Stays) {
+  const Message_Presenter former =
+      Set_Message_Presenter([](const Message& message) { return Answer_On_Close(message); });
+  EXPECT_EQ(Ask_On_Close(kTitled, kFalse), Close_Action::Stay);
   Set_Message_Presenter(former);
 }
 

@@ -69,7 +69,7 @@ Answer Show_Qt_Message(const Message& message) {
   const std::vector<Answer> answers = Answers_Of(message.buttons);
   for (const Answer answer : answers) box.addButton(Box_Button(answer));
   box.setDefaultButton(Box_Button(answers.front()));
-  box.setEscapeButton(Box_Button(Answer_On_Close(message.buttons)));
+  box.setEscapeButton(Box_Button(Answer_On_Close(message)));
 
   // A question that comes up in the middle of a long action is not waiting any more.
   const bool waiting = QApplication::overrideCursor() != nullptr;
@@ -80,7 +80,7 @@ Answer Show_Qt_Message(const Message& message) {
   for (const Answer answer : answers) {
     if (pressed == Box_Button(answer)) return answer;
   }
-  return Answer_On_Close(message.buttons);
+  return Answer_On_Close(message);
 }
 
 }  // namespace barvon

@@ -54,6 +54,8 @@ Qt_Services::Qt_Services() {
 }
 
 Qt_Services::~Qt_Services() {
+  // The help window must not outlive the application.
+  Show_Qt_Help({Help_Command::Quit, 0, {}});
   Set_Message_Presenter(std::move(messages_));
   Set_File_Dialog_Presenter(std::move(file_dialogs_));
   Set_Progress_Presenter(std::move(progress_displays_));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "core/failure.h"
@@ -8,10 +7,6 @@
 #include "platform/progress_display.h"
 
 namespace barvon {
-
-/// The lines of a full project file for the image, Windows-1252 with CR LF, real fields 11 columns
-/// wide. Values wider than their field are not cut: they shift the rest of their line.
-std::string Write_Columns(const Project_Image& image, Progress_Display& progress);
 
 /// What came of reading a project file's lines.
 struct Columns_Read {
@@ -28,7 +23,7 @@ struct Columns_Read {
 
 /// Reads the lines of a file of n grid points a side: 96 the full layout, 45 the short one, which
 /// has no tail. Real fields are 12 columns wide, one more than the writer's; blanks inside a field
-/// are ignored. Lines end in CR LF or LF.
-Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress);
+/// are ignored. Lines end in CR LF or LF. Without a progress display nothing is shown.
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress);
 
 }  // namespace barvon

@@ -1,11 +1,13 @@
-#include "core/project_columns.h"
+#include "core/column_reader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <vector>
 
-#include "core/format_pattern.h"
+#include "core/column_layout.h"
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "core/value_slots.h"
@@ -16,75 +18,9 @@ namespace {
 
 using Part = Image_Number::Part;
 
-constexpr std::size_t kIntWidth = 5;
-constexpr std::size_t kRealWriteWidth = 11;
-constexpr std::size_t kRealReadWidth = 12;
-constexpr std::size_t kNameWidth = 8;
-constexpr std::size_t kVelocityWidth = 8;
-constexpr int kRealsPerLine = 6;
-constexpr int kVelocitiesPerLine = 10;
-constexpr std::size_t kStatusLength = 6;
-constexpr std::size_t kFlagCount = 18;
+/// One more than the writer's: the program's files are read like this, and values fit.
+constexpr std::size_t kRealWidth = 12;
 constexpr double kOtherFlag = 9999;
-constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kFileTag = "DUMP";
-constexpr std::string_view kFiveBlanks = "     ";
-constexpr std::string_view kKey4Comment = "Used To Determine Type of Simulation";
-
-/// Slots 1 to 16 stand on the third line, 17 to 32 on the fourth, 33 to 41 on the fifth.
-constexpr std::array<std::array<int, 2>, 3> kIntLines = {{{1, 16}, {17, 32}, {33, 41}}};
-
-// ---- Writing
-
-/// One byte a column; what would break the line becomes a blank.
-std::string Line_Bytes(std::string_view text) {
-  std::string bytes = To_File_Bytes(text);
-  for (char& c : bytes) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = ' ';
-  }
-  return bytes;
-}
-
-std::string Fixed_Bytes(std::string_view text, std::size_t width) {
-  std::string bytes = Line_Bytes(text);
-  bytes.resize(width, ' ');
-  return bytes;
-}
-
-char Flag_Letter(double flag) {
-  if (flag == 0) return 'F';
-  return flag == kTrue ? 'T' : 'G';
-}
-
-std::string Pattern_Of_Narrow(double value, std::string_view pattern) {
-  return Format_Number(Widen(static_cast<float>(value)), pattern);
-}
-
-void Write_Velocity_Field(const Grid& field, std::string& text) {
-  for (int a = 1; a <= kMaxGridPoints; ++a) {
-    for (int b = 1; b <= kMaxGridPoints; ++b) {
-      text += Right_Justified(Plain_Number(field[a][b]), kVelocityWidth);
-      if (b % kVelocitiesPerLine == 0 || b == kMaxGridPoints) text += kLineEnd;
-    }
-  }
-}
-
-void Write_Tail(const Project_Image& image, std::string& text) {
-  for (int i = 1; i <= 4; ++i) {
-    if (i > 1) text += kFiveBlanks;
-    text += Pattern_Of_Narrow(image.TidalHeader[i], "####.00");
-  }
-  text += kLineEnd;
-  for (int i = 1; i <= kTidalRows; ++i) {
-    text += Pattern_Of_Narrow(image.TidalTable[i][1], "###.00");
-    text += kFiveBlanks;
-    text += Pattern_Of_Narrow(image.TidalTable[i][2], "###.00");
-    text += kLineEnd;
-  }
-  text.append(Plain_Number(image.KEY4)).append(" ").append(kKey4Comment).append(kLineEnd);
-}
-
-// ---- Reading
 
 /// Goes through the bytes line by line, then number by number.
 class Text_Source {
@@ -112,7 +48,8 @@ class Text_Source {
     const auto end = std::min(rest_.find_first_of(" \t\r\n,"), rest_.size());
     const std::string_view token = rest_.substr(0, end);
     rest_.remove_prefix(end);
-    if (!rest_.empty() && rest_.front() == ',') rest_.remove_prefix(1);
+    const auto next = rest_.find_first_not_of(" \t");
+    if (next != std::string_view::npos && rest_[next] == ',') rest_.remove_prefix(next + 1);
     return token;
   }
 
@@ -129,9 +66,30 @@ std::size_t Width_Of(std::string_view line) {
   return last == std::string_view::npos ? 0 : last + 1;
 }
 
+/// A velocity that runs into its neighbour ("0.123456-0.12345") is no number: taking its start
+/// would shift every value that follows.
+bool Is_Number(std::string_view token) {
+  if (token.find_first_not_of("0123456789+-.eEdD") != std::string_view::npos) return false;
+  const auto exponent = std::min(token.find_first_of("eEdD"), token.size());
+  const std::string_view mantissa = token.substr(0, exponent);
+  const std::string_view power = exponent < token.size() ? token.substr(exponent + 1) : "0";
+  const auto digits_only = [](std::string_view text) {
+    return text.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  const auto unsigned_part = [](std::string_view text) {
+    return !text.empty() && (text.front() == '+' || text.front() == '-') ? text.substr(1) : text;
+  };
+  const std::string_view value = unsigned_part(mantissa);
+  const auto point = std::min(value.find('.'), value.size());
+  const std::string_view fraction = point < value.size() ? value.substr(point + 1) : "";
+  return point + fraction.size() > 0 && digits_only(value.substr(0, point)) &&
+         digits_only(fraction) && !unsigned_part(power).empty() &&
+         digits_only(unsigned_part(power));
+}
+
 class Column_Reader {
  public:
-  Column_Reader(std::string_view bytes, int n, Progress_Display& progress)
+  Column_Reader(std::string_view bytes, int n, Progress_Display* progress)
       : source_(bytes), n_(n), progress_(progress) {
     result_.given.resize(Image_Numbers().size());
   }
@@ -177,9 +135,10 @@ class Column_Reader {
     if (!token) return Failure::Input_Past_End;
     if (!Is_Number(*token)) return Failure::Type_Mismatch;
     try {
-      const double value = Column_Number(*token);
-      Number_In(result_.image, number) =
-          Is_Narrow(number) ? static_cast<double>(static_cast<float>(value)) : value;
+      double value = Column_Number(*token);
+      if (Is_Narrow(number)) value = static_cast<double>(static_cast<float>(value));
+      if (!std::isfinite(value)) return Failure::Overflow;
+      Number_In(result_.image, number) = value;
     } catch (const Run_Time_Failure& stopped) {
       return stopped.failure;
     }
@@ -219,9 +178,9 @@ class Column_Reader {
     for (int line = 1; line <= lines + 1; ++line) {
       const std::string_view text = Next_Line();
       for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot) {
-        Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealReadWidth, kRealReadWidth));
+        Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealWidth, kRealWidth));
       }
-      progress_.Move(line / total);
+      if (progress_ != nullptr) progress_->Move(line / total);
     }
   }
 
@@ -279,75 +238,15 @@ class Column_Reader {
     Read_Tail_Statement({{Part::Key4, 0, 0}});
   }
 
-  static bool Is_Number(std::string_view token);
-
   Text_Source source_;
   int n_;
-  Progress_Display& progress_;
+  Progress_Display* progress_;
   Columns_Read result_;
 };
 
-/// A velocity that runs into its neighbour ("0.123456-0.12345") is no number: taking its start
-/// would shift every value that follows.
-bool Column_Reader::Is_Number(std::string_view token) {
-  if (token.find_first_not_of("0123456789+-.eEdD") != std::string_view::npos) return false;
-  const auto exponent = std::min(token.find_first_of("eEdD"), token.size());
-  const std::string_view mantissa = token.substr(0, exponent);
-  const std::string_view power = exponent < token.size() ? token.substr(exponent + 1) : "0";
-  const auto digits_only = [](std::string_view text) {
-    return text.find_first_not_of("0123456789") == std::string_view::npos;
-  };
-  const auto unsigned_part = [](std::string_view text) {
-    return !text.empty() && (text.front() == '+' || text.front() == '-') ? text.substr(1) : text;
-  };
-  const std::string_view value = unsigned_part(mantissa);
-  const auto point = std::min(value.find('.'), value.size());
-  const std::string_view fraction = point < value.size() ? value.substr(point + 1) : "";
-  return point + fraction.size() > 0 && digits_only(value.substr(0, point)) &&
-         digits_only(fraction) && !unsigned_part(power).empty() &&
-         digits_only(unsigned_part(power));
-}
-
 }  // namespace
 
-std::string Write_Columns(const Project_Image& image, Progress_Display& progress) {
-  std::string text;
-  text.append("   ").append(kFileTag);
-  text += Right_Justified(Plain_Number(image.DisposalMethod), kIntWidth);
-  text += kLineEnd;
-  text.append(Fixed_Bytes(image.ProjectTitle, kTitleLength)).append(kLineEnd);
-  for (const auto& [first, last] : kIntLines) {
-    for (int slot = first; slot <= last; ++slot) {
-      text += Right_Justified(Plain_Number(image.IntSlots[slot]), kIntWidth);
-    }
-    text += kLineEnd;
-  }
-  constexpr double kLines = kFullFileRealSlots / kRealsPerLine + 1;
-  for (int slot = 1; slot <= kFullFileRealSlots; ++slot) {
-    text += Right_Justified(Plain_Number(image.RealSlots[slot]), kRealWriteWidth);
-    if (slot % kRealsPerLine == 0 || slot == kFullFileRealSlots) {
-      text += kLineEnd;
-      progress.Move(slot / kRealsPerLine / kLines);
-    }
-  }
-  for (std::size_t i = 1; i <= kSolidEntries; ++i) {
-    text += Fixed_Bytes(image.SolidNames[i], kNameWidth);
-  }
-  text += kLineEnd;
-  for (std::size_t i = 1; i <= kStatusLength; ++i) {
-    const char c = image.SectionStatus[i];
-    text += static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? ' ' : c;
-  }
-  text += kLineEnd;
-  for (std::size_t i = 1; i <= kFlagCount; ++i) text += Flag_Letter(image.SectionFlags[i]);
-  text += kLineEnd;
-  Write_Velocity_Field(image.VelocityFieldX, text);
-  Write_Velocity_Field(image.VelocityFieldZ, text);
-  Write_Tail(image, text);
-  return text;
-}
-
-Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display& progress) {
+Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress) {
   return Column_Reader(bytes, n, progress).Read();
 }
 

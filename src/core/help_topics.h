@@ -1,0 +1,55 @@
+#pragma once
+
+#include <array>
+
+namespace barvon {
+
+/// Topics of the help file by the screen whose Help button opens them. Some screens share a topic;
+/// its page then leads on to the other's.
+namespace help_topic {
+
+inline constexpr int kContents = 0;  // the contents, with the list of rules
+inline constexpr int kSite = 2460;
+inline constexpr int kVelocity = 2470;
+inline constexpr int kMaterialHopper = 2490;
+inline constexpr int kOperation = 2500;
+inline constexpr int kCoefficients = 2510;
+inline constexpr int kDepthGrid = 2530;
+inline constexpr int kEvaluation = 2540;
+inline constexpr int kMaterialBarge = 2550;
+inline constexpr int kDataBase = 2590;
+inline constexpr int kDilution = 2590;
+inline constexpr int kErrorList = 2650;
+inline constexpr int kSimulation = 3000;
+inline constexpr int kWaterDensity = 3030;
+inline constexpr int kWizardOptions = 2660;
+inline constexpr int kWizardVessel = 800;
+inline constexpr int kWizardTimes = 420;
+
+}  // namespace help_topic
+
+inline constexpr int kWizardPages = 8;
+
+/// What the wizard shows at its steps, the first step's topic first. Behind those of its pages
+/// stand three that no page shows.
+inline constexpr std::array<int, 11> kWizardTopics = {help_topic::kErrorList,
+                                                      help_topic::kWizardOptions,
+                                                      help_topic::kVelocity,
+                                                      help_topic::kSite,
+                                                      help_topic::kSite,
+                                                      help_topic::kSimulation,
+                                                      help_topic::kWizardVessel,
+                                                      help_topic::kWizardTimes,
+                                                      300,
+                                                      440,
+                                                      810};
+
+/// Every topic that a screen or a step asks for, once.
+inline constexpr std::array<int, 15> kHelpTopics = {
+    help_topic::kSite,          help_topic::kVelocity,      help_topic::kMaterialHopper,
+    help_topic::kOperation,     help_topic::kCoefficients,  help_topic::kDepthGrid,
+    help_topic::kEvaluation,    help_topic::kMaterialBarge, help_topic::kDataBase,
+    help_topic::kErrorList,     help_topic::kSimulation,    help_topic::kWaterDensity,
+    help_topic::kWizardOptions, help_topic::kWizardVessel,  help_topic::kWizardTimes};
+
+}  // namespace barvon

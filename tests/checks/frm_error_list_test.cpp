@@ -1,0 +1,301 @@
+#include "checks/frm_error_list.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QProxyStyle>
+#include <QTest>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "checks/check_data.h"
+#include "checks/sound_project.h"
+#include "core/screen_register.h"
+#include "platform/help_viewer.h"
+#include "support/screen_support.h"
+
+namespace barvon::testing {
+namespace {
+
+struct Opened {
+  std::string screen;
+  bool blocking;
+  std::string control;
+  bool operator==(const Opened&) const = default;
+};
+
+void PrintTo(const Opened& opened, std::ostream* out) {
+  *out << opened.screen << '!' << opened.control << (opened.blocking ? ", blocking" : "");
+}
+
+constexpr const char* kScreens[] = {"frmDescription", "frmOperation", "frmSimulation",
+                                    "frmMdlkyn",      "frmMatHopper", "frmMatBarge"};
+
+/// The list over a workspace, with screens that only take note of being opened.
+class ErrorListScreen : public ::testing::Test {
+ protected:
+  ErrorListScreen() {
+    workspace.setGeometry(100, 60, 900, 700);
+    workspace.show();
+    Register_frmErrorList(&workspace);
+    for (const char* screen : kScreens) {
+      Register_Screen(screen, [this, screen](bool blocking, const std::string& control) {
+        opened.push_back({screen, blocking, control});
+        if (while_open) while_open();
+      });
+    }
+    help = Set_Help_Presenter([this](const Help_Request& request) { asked.push_back(request); });
+    Project().ShowMode = 0;
+    Current_Errors() = {};
+  }
+
+  ~ErrorListScreen() override {
+    Set_Help_Presenter(help);
+    for (const char* screen : kScreens) Register_Screen(screen, {});
+    Project().ShowMode = 0;
+    Current_Errors() = {};
+  }
+
+  frmErrorList& List() { return *workspace.findChild<frmErrorList*>("frmErrorList"); }
+  QListWidget& List1() { return *List().findChild<QListWidget*>("List1"); }
+  QListWidget& List2() { return *List().findChild<QListWidget*>("List2"); }
+
+  void Open() {
+    ASSERT_TRUE(Open_Screen("frmErrorList", false));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&List()));
+  }
+
+  QPoint Place_Of(int row) { return List1().visualItemRect(List1().item(row)).center(); }
+  void Double_Click(QPoint place) {
+    // A click goes before it, as it does under a user's hand.
+    QTest::mouseClick(List1().viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(List1().viewport(), Qt::LeftButton, {}, place);
+  }
+  void Press_Button(const char* name) {
+    QTest::mouseClick(List().findChild<QPushButton*>(name), Qt::LeftButton);
+  }
+
+  QWidget workspace;
+  std::vector<Opened> opened;
+  std::vector<Help_Request> asked;
+  std::function<void()> while_open;
+
+ private:
+  Help_Presenter help;
+};
+
+TEST_F(ErrorListScreen, Shows_Its_Captions) {
+  EXPECT_EQ(List().windowTitle(), "Error List");
+  EXPECT_EQ(List().findChild<QLabel*>()->text(),
+            "List of Notes, Warnings && Errors.  Double Click on Error to Automatically Go To Form "
+            "Where the Problem Can Be Corrected.");
+  EXPECT_EQ(List().findChild<QPushButton*>("SSCommand1(0)")->text(), "&Detailed Error Description");
+  EXPECT_EQ(List().findChild<QPushButton*>("SSCommand1(1)")->text(), "&Close");
+}
+
+TEST_F(ErrorListScreen, Shows_The_Messages_And_Hides_Their_References) {
+  ProjectRecord record = Sound_Project();
+  record.RHDA0 = 0, record.SolidVolFraction[1] = 0;
+  Check_Project(record);
+  Open();
+  ASSERT_EQ(List1().count(), 2);
+  EXPECT_EQ(List1().item(0)->text(), "Roughness Height Outside Bounds");
+  EXPECT_EQ(List1().item(1)->text(), "Volumetric Fraction for Sand is Zero");
+  ASSERT_EQ(List2().count(), 2);
+  EXPECT_EQ(List2().item(0)->text(), "frmDescription!Text1(5)");
+  EXPECT_EQ(List2().item(1)->text(), "frmMatHopper!F1Book1");
+  EXPECT_TRUE(List1().isVisible());
+  EXPECT_FALSE(List2().isVisible());
+}
+
+// The frame around it is not known before it is shown: a few pixels are left to it.
+TEST_F(ErrorListScreen, Stands_In_The_Middle_Of_The_Workspace_Wherever_That_Is) {
+  for (const QPoint corner : {QPoint(100, 60), QPoint(300, 150)}) {
+    workspace.move(corner);
+    Open();
+    EXPECT_LE((List().geometry().center() - workspace.geometry().center()).manhattanLength(), 8);
+    List().close();
+  }
+}
+
+TEST_F(ErrorListScreen, A_List_Longer_Than_The_Topics_Is_Shown_In_Whole) {
+  for (int i = 0; i < 300; ++i) Current_Errors().Add("entry", "frmOperation!Text1(0)", 3000);
+  Open();
+  EXPECT_EQ(List1().count(), 300);
+  List1().setCurrentRow(19);
+  Press_Button("SSCommand1(0)");
+  List1().setCurrentRow(299);
+  Press_Button("SSCommand1(0)");
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[0].topic, 3000);
+  EXPECT_EQ(asked[1].topic, 0);
+}
+
+TEST_F(ErrorListScreen, A_Double_Click_Opens_The_Screen_Once_With_Its_Control) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Current_Errors().Add("two", "frmDescription!F1Book1");
+  Current_Errors().Add("three", "frmOperation!Text1(3)");
+  Current_Errors().Add("four", "frmSimulation!Text1(1)");
+  Open();
+  for (int row = 0; row < 4; ++row) Double_Click(Place_Of(row));
+  EXPECT_EQ(opened, (std::vector<Opened>{{"frmDescription", false, "Text1(5)"},
+                                         {"frmDescription", false, "F1Book1"},
+                                         {"frmOperation", false, "Text1(3)"},
+                                         {"frmSimulation", false, "Text1(1)"}}));
+  EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, The_Evaluation_Screen_Opens_Without_A_Control) {
+  Current_Errors().Add("one", "frmMdlkyn!Text(3)");
+  Open();
+  Double_Click(Place_Of(0));
+  EXPECT_EQ(opened, (std::vector<Opened>{{"frmMdlkyn", false, ""}}));
+}
+
+TEST_F(ErrorListScreen, Material_Findings_And_References_Without_A_Mark_Do_Nothing) {
+  Current_Errors().Add("one", "frmMatHopper!F1Book1");
+  Current_Errors().Add("two", "frmMatBarge!F1Book1");
+  Current_Errors().Add("three", "frmDescription");
+  Current_Errors().Add("four", "");
+  Open();
+  for (int row = 0; row < 4; ++row) Double_Click(Place_Of(row));
+  EXPECT_TRUE(opened.empty());
+  EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, A_Double_Click_Below_The_Findings_Does_Nothing) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Open();
+  Double_Click(List1().viewport()->rect().bottomLeft() + QPoint(5, -5));
+  EXPECT_TRUE(opened.empty());
+}
+
+/// A desktop on which one click opens what lies in a list.
+struct Single_Click_Style : QProxyStyle {
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    return hint == SH_ItemView_ActivateItemOnSingleClick
+               ? 1
+               : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+TEST_F(ErrorListScreen, One_Click_Only_Selects_Whatever_The_Desktop_Does_Elsewhere) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Single_Click_Style style;
+  List1().setStyle(&style);
+  Open();
+  QTest::mouseClick(List1().viewport(), Qt::LeftButton, {}, Place_Of(0));
+  EXPECT_TRUE(opened.empty());
+  EXPECT_EQ(List1().currentRow(), 0);
+  Double_Click(Place_Of(0));
+  EXPECT_EQ(opened.size(), 1U);
+  List1().setStyle(nullptr);
+}
+
+TEST_F(ErrorListScreen, Return_Opens_The_Selected_Finding_Without_A_Mouse) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Current_Errors().Add("two", "frmOperation!Text1(2)");
+  Open();
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  EXPECT_TRUE(opened.empty()) << "nothing is selected yet";
+  List1().setCurrentRow(1);
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  QTest::keyClick(&List1(), Qt::Key_Enter, Qt::KeypadModifier);
+  const Opened second = {"frmOperation", false, "Text1(2)"};
+  EXPECT_EQ(opened, (std::vector<Opened>{second, second}));
+}
+
+TEST_F(ErrorListScreen, The_Description_Opens_The_Topic_Of_The_Selected_Finding) {
+  ProjectRecord record = Sound_Project();
+  record.RHDA0 = 0, record.SolidVolFraction[1] = 0, record.SimulationDuration = 0;
+  Check_Project(record);
+  Open();
+  for (int row = 0; row < 3; ++row) {
+    List1().setCurrentRow(row);
+    Press_Button("SSCommand1(0)");
+  }
+  ASSERT_EQ(asked.size(), 3U);
+  EXPECT_EQ(asked[0].topic, 0) << "site rules have none";
+  EXPECT_EQ(asked[1].topic, 2490);
+  EXPECT_EQ(asked[2].topic, 3000);
+  for (const Help_Request& request : asked) EXPECT_EQ(request.command, Help_Command::Context);
+}
+
+TEST_F(ErrorListScreen, The_Description_Of_Nothing_Selected_Is_Not_Asked_For) {
+  Current_Errors().Add("one", "frmSimulation!Text1(0)", 3000);
+  Open();
+  Press_Button("SSCommand1(0)");
+  EXPECT_TRUE(asked.empty());
+  EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, Close_Closes_And_It_Opens_Again_With_The_Latest_Findings) {
+  Current_Errors().Add("one", "frmSimulation!Text1(0)", 3000);
+  Open();
+  Press_Button("SSCommand1(1)");
+  EXPECT_FALSE(List().isVisible());
+  Current_Errors() = {};
+  Current_Errors().Add("two", "frmOperation!Text1(0)");
+  Current_Errors().Add("three", "frmOperation!Text1(0)");
+  Open();
+  ASSERT_EQ(List1().count(), 2);
+  EXPECT_EQ(List1().item(0)->text(), "two");
+}
+
+TEST_F(ErrorListScreen, A_Check_Fills_The_List_That_Stands_Open_Anew) {
+  ProjectRecord record = Sound_Project();
+  record.RHDA0 = 0, record.SolidVolFraction[1] = 0;
+  Check_Project(record);
+  Open();
+  record.RHDA0 = 0.005;
+  Check_Project(record);
+  ASSERT_EQ(List1().count(), 1);
+  EXPECT_EQ(List1().item(0)->text(), "Volumetric Fraction for Sand is Zero");
+  EXPECT_EQ(List2().item(0)->text(), "frmMatHopper!F1Book1");
+  Check_Project(Sound_Project());
+  EXPECT_EQ(List1().count(), 0);
+  EXPECT_EQ(List2().count(), 0);
+}
+
+TEST_F(ErrorListScreen, Goes_With_Its_Workspace) {
+  auto second = std::make_unique<QWidget>();
+  Register_frmErrorList(second.get());
+  second.reset();
+  EXPECT_FALSE(Open_Screen("frmErrorList", false));
+  Check_Project(Sound_Project());
+}
+
+TEST_F(ErrorListScreen, A_Blocking_List_Stays_While_Its_Findings_Are_Mended_One_By_One) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Current_Errors().Add("two", "frmOperation!Text1(2)");
+  Project().ShowMode = 1;
+  int screens_in_front = 0;
+  while_open = [&] {
+    QDialog screen(&workspace);
+    QTimer::singleShot(0, &screen, [&] {
+      screens_in_front += QApplication::activeModalWidget() == &screen ? 1 : 0;
+      screen.accept();
+    });
+    screen.exec();
+  };
+  bool stood = false;
+  QTimer::singleShot(0, &List(), [&] {
+    Double_Click(Place_Of(0));
+    Double_Click(Place_Of(1));
+    stood = List().isVisible();
+    Press_Button("SSCommand1(1)");
+    List().close();
+  });
+  ASSERT_TRUE(Open_Screen("frmErrorList", true));
+  EXPECT_TRUE(stood);
+  EXPECT_EQ(screens_in_front, 2);
+  EXPECT_FALSE(List().isVisible());
+  EXPECT_EQ(opened, (std::vector<Opened>{{"frmDescription", true, "Text1(5)"},
+                                         {"frmOperation", true, "Text1(2)"}}));
+}
+
+}  // namespace
+}  // namespace barvon::testing

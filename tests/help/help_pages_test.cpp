@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/help_topics.h"
+#include "support/plain_support.h"
+
+namespace barvon {
+namespace {
+
+using testing::Exists;
+using testing::Names_In;
+using testing::Read_Text;
+
+const std::string kHelpFolder = BARVON_SOURCE "/help/";
+
+/// All matches of the pattern's first group.
+std::vector<std::string> All(const std::string& text, const std::string& pattern) {
+  const std::regex wanted(pattern);
+  std::vector<std::string> found;
+  for (std::sregex_iterator at(text.begin(), text.end(), wanted), end; at != end; ++at) {
+    found.push_back((*at)[1]);
+  }
+  return found;
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
+}
+
+/// The page as it is read: without its tags, entities and line breaks.
+std::string Readable(const std::string& page) {
+  std::string text = std::regex_replace(page, std::regex("<[^>]*>"), "");
+  text = Replaced(text, "\n", " ");
+  for (const auto& [entity, sign] : std::map<std::string, std::string>{
+           {"&lt;", "<"}, {"&gt;", ">"}, {"&nbsp;", " "}, {"&quot;", "\""}}) {
+    text = Replaced(text, entity, sign);
+  }
+  return Replaced(text, "&amp;", "&");
+}
+
+std::vector<std::string> Pages() {
+  std::vector<std::string> pages;
+  for (const std::string& name : Names_In(BARVON_SOURCE "/help")) {
+    if (name.ends_with(".html")) pages.push_back(name);
+  }
+  return pages;
+}
+
+std::string Project_File() { return Read_Text(kHelpFolder + "barvon.qhp"); }
+
+/// "page.html#place" leads to a page and, if it names one, a place on it.
+bool Leads_Somewhere(const std::string& target, const std::string& from) {
+  const auto mark = target.find('#');
+  std::string page = target.substr(0, mark);
+  if (page.empty()) page = from;
+  if (!Exists(kHelpFolder + page)) return false;
+  if (mark == std::string::npos) return true;
+  const std::string place = "name=\"" + target.substr(mark + 1) + "\"";
+  return Read_Text(kHelpFolder + page).find(place) != std::string::npos;
+}
+
+TEST(HelpPages, Every_Topic_Has_A_Keyword_And_Its_Page) {
+  const std::string project = Project_File();
+  std::set<int> topics(kHelpTopics.begin(), kHelpTopics.end());
+  EXPECT_EQ(topics.size(), kHelpTopics.size());
+  topics.insert(kWizardTopics.begin(), kWizardTopics.begin() + kWizardPages);
+  EXPECT_EQ(topics.size(), kHelpTopics.size());
+  for (const int topic : topics) {
+    const auto refs = All(project, " id=\"" + std::to_string(topic) + "\"\\s+ref=\"([^\"]*)\"");
+    ASSERT_EQ(refs.size(), 1u) << topic;
+    EXPECT_TRUE(Exists(kHelpFolder + refs[0])) << refs[0];
+  }
+}
+
+TEST(HelpPages, Contents_Have_Their_Keyword) {
+  EXPECT_EQ(All(Project_File(), " id=\"contents\"\\s+ref=\"([^\"]*)\""),
+            std::vector<std::string>{"contents.html"});
+}
+
+TEST(HelpPages, Every_Reference_Of_The_Project_File_Resolves) {
+  const auto refs = All(Project_File(), " ref=\"([^\"]*)\"");
+  EXPECT_GT(refs.size(), 300u);
+  for (const std::string& ref : refs) EXPECT_TRUE(Leads_Somewhere(ref, "")) << ref;
+}
+
+TEST(HelpPages, Every_Page_Is_In_The_File_And_In_The_Contents) {
+  const std::string project = Project_File();
+  for (const std::string& page : Pages()) {
+    EXPECT_NE(project.find("<file>" + page + "</file>"), std::string::npos) << page;
+    EXPECT_EQ(All(project, "<section title=\"[^\"]*\" (ref=\"" + page + "\")").size(), 1u) << page;
+  }
+  for (const std::string& file : All(project, "<file>([^<]*)</file>")) {
+    EXPECT_TRUE(Exists(kHelpFolder + file)) << file;
+  }
+}
+
+TEST(HelpPages, Every_Link_Resolves_And_None_Leaves_The_Help) {
+  for (const std::string& page : Pages()) {
+    for (const std::string& link :
+         All(Read_Text(kHelpFolder + page), "(?:href|src)=\"([^\"]*)\"")) {
+      EXPECT_TRUE(Leads_Somewhere(link, page)) << page << " -> " << link;
+    }
+  }
+}
+
+TEST(HelpPages, Names_Of_Places_Are_Unique_On_A_Page) {
+  for (const std::string& page : Pages()) {
+    const auto names = All(Read_Text(kHelpFolder + page), "<a name=\"([^\"]*)\"");
+    EXPECT_EQ(std::set<std::string>(names.begin(), names.end()).size(), names.size()) << page;
+  }
+}
+
+TEST(HelpPages, Every_Page_Has_A_Title_And_A_Worked_Example_If_It_Is_A_Screens) {
+  const std::string project = Project_File();
+  for (const std::string& page : Pages()) {
+    const std::string text = Read_Text(kHelpFolder + page);
+    EXPECT_EQ(All(text, "<title>([^<]+)</title>").size(), 1u) << page;
+    EXPECT_EQ(All(text, "<h1>([^<]+)</h1>").size(), 1u) << page;
+  }
+  for (const int topic : kHelpTopics) {
+    const auto refs = All(project, " id=\"" + std::to_string(topic) + "\"\\s+ref=\"([^\"]*)\"");
+    for (const std::string& page : refs) {
+      EXPECT_NE(Read_Text(kHelpFolder + page).find("class=\"example\""), std::string::npos) << page;
+    }
+  }
+}
+
+/// Pieces of the messages that the rules put together: the texts in a rule's source that hold a
+/// blank.
+std::vector<std::string> Message_Texts(const std::string& source) {
+  std::vector<std::string> texts;
+  for (const std::string& text : All(source, "\"([^\"\n]*)\"")) {
+    if (text.find(' ') != std::string::npos) texts.push_back(text);
+  }
+  return texts;
+}
+
+TEST(HelpPages, Every_Message_Of_The_Rules_Stands_On_The_Page_Of_Rules) {
+  const std::string page = Readable(Read_Text(kHelpFolder + "rules.html"));
+  int messages = 0;
+  for (const char* rules : {"site", "material", "operation", "time"}) {
+    const std::string source =
+        Read_Text(std::string(BARVON_SOURCE "/src/checks/") + rules + "_rules.cpp");
+    const auto texts = Message_Texts(source);
+    EXPECT_FALSE(texts.empty()) << rules;
+    for (const std::string& text : texts) {
+      EXPECT_NE(page.find(text), std::string::npos) << text;
+      ++messages;
+    }
+  }
+  EXPECT_GE(messages, 20);
+}
+
+TEST(HelpPages, Every_Message_Of_The_Rules_Is_In_The_Index) {
+  const std::string project = Project_File();
+  for (const char* message :
+       {"Roughness Height Outside Bounds", "Disposal Site Is Not Specified",
+        "Location of Vessel Outside of Grid", "Inapproprite Width of Vessel Bin",
+        "Please Specify the Duration of the Simulation.",
+        "Simulation Duration Is Too Large.  Please Reduce."}) {
+    EXPECT_EQ(All(project, std::string("(<keyword name=\"") + message + "\")").size(), 1u)
+        << message;
+  }
+}
+
+// The help speaks of the program, never of how it came about.
+TEST(HelpPages, No_Page_Tells_Where_Things_Were_Laid_Down) {
+  const std::regex telling(
+      "specification|requirement|\\bPart [0-9]|\\bthe issue\\b|\\bissue #|source code|\\btest "
+      "suite|"
+      "implement|/work/|/root/|\\bagent|\\bhelper",
+      std::regex::icase);
+  std::vector<std::string> names = Pages();
+  names.push_back("barvon.qhp");
+  for (const std::string& name : names) {
+    // A message of the program has this word.
+    const std::string text = Replaced(Replaced(Read_Text(kHelpFolder + name), "\n", " "),
+                                      "Disable Variable Depth Specification Now?", "");
+    std::smatch match;
+    EXPECT_FALSE(std::regex_search(text, match, telling)) << name << ": " << match.str();
+  }
+}
+
+}  // namespace
+}  // namespace barvon

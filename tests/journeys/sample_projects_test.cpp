@@ -1,0 +1,66 @@
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <filesystem>
+#include <string>
+
+#include "core/project_record.h"
+#include "platform/file_dialog.h"
+#include "run/create_process.h"
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace barvon::testing;
+
+/// The window with the input echo in its folder and the sample projects in a folder beside.
+class SampleJourney : public ::testing::TestWithParam<const char*> {
+ protected:
+  SampleJourney() {
+    fs::copy_file(BARVON_ECHO_SOLVER, bench.folder / "merak32");
+    fs::create_directory(bench.folder / "projects");
+    fs::copy_file(std::string(BARVON_SAMPLES) + "/" + GetParam() + ".DUI", base + ".DUI");
+    File_Dialog_Presenter dialogs;
+    dialogs.open = [this](const File_Request&) { return base + ".DUI"; };
+    dialogs.save = [this](const File_Request&) { return base + "_copy.DUI"; };
+    former_ = Set_File_Dialog_Presenter(dialogs);
+  }
+  ~SampleJourney() override { Set_File_Dialog_Presenter(former_); }
+
+  Main_Bench bench;
+  const std::string base = bench.folder / ("projects/" + std::string(GetParam()));
+
+ private:
+  File_Dialog_Presenter former_;
+};
+
+TEST_P(SampleJourney, Opens_Runs_Keeps_Its_Outputs_And_Saves_The_Same_Bytes) {
+  bench.Action("mnuFileItem(1)")->trigger();
+  ASSERT_EQ(Project().ProjectFileName, base + ".DUI");
+  EXPECT_EQ(bench.main().windowTitle().toStdString(), "BARVON - " + base + ".DUI");
+  EXPECT_TRUE(bench.Action("mnuRun")->isEnabled());
+
+  const std::string as_opened = Read_Text(base + ".DUI");
+  bench.Action("mnuFileItem(5)")->trigger();
+  ASSERT_EQ(Project().ProjectFileName, base + "_copy.DUI");
+  EXPECT_EQ(Read_Text(base + "_copy.DUI"), as_opened);
+  EXPECT_TRUE(Exists(base + "_copy.DUE"));
+
+  QTest::mouseClick(bench.controls().SSPanel3(1), Qt::LeftButton);
+  ASSERT_FALSE(Run_Is_Under_Way());
+  for (const char* extension : {".duo", ".dup", ".dut", ".duc"}) {
+    const std::string kept = Read_Text(base + "_copy" + extension);
+    EXPECT_NE(kept.find("simulates nothing"), std::string::npos) << extension;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, SampleJourney,
+                         ::testing::Values("Barge_Four_Layers", "Hopper_Six_Openings",
+                                           "Section_103_Water_Quality", "Section_404_Sediment",
+                                           "Section_404_Zid", "Tidal_Estuary",
+                                           "Variable_96_By_96"));
+
+}  // namespace
+}  // namespace barvon
