@@ -38,8 +38,6 @@ struct Workspace_Port {
   std::function<std::string()> text_caption;
   /// The text of the active viewer window, and what its caption becomes after a save.
   std::function<std::string()> active_text;
-  /// Shows a text file in the program's own text viewer.
-  std::function<void(const std::string& path)> view_text;
   std::function<void(const std::string&)> set_text_caption;
   /// Prints the text of the window in front.
   std::function<void()> print_active_text;

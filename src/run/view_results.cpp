@@ -43,13 +43,13 @@ void Tell_How_It_Ended(const Process_Outcome& outcome) {
   if (!outcome.started) {
     Port().show_note({"The graphics program was not started: " + outcome.problem + ".", {}});
   } else if (outcome.end.signal != 0 && !outcome.end.stopped) {
-    Port().show_note({outcome.program + " was ended by signal " +
-                          std::to_string(outcome.end.signal) + ".",
-                      outcome.last_output});
+    Port().show_note(
+        {outcome.program + " was ended by signal " + std::to_string(outcome.end.signal) + ".",
+         outcome.last_output});
   } else if (outcome.end.exit_code != 0 && !outcome.end.stopped) {
-    Port().show_note({outcome.program + " ended with code " +
-                          std::to_string(outcome.end.exit_code) + ".",
-                      outcome.last_output});
+    Port().show_note(
+        {outcome.program + " ended with code " + std::to_string(outcome.end.exit_code) + ".",
+         outcome.last_output});
   }
 }
 
@@ -74,9 +74,10 @@ void Graph_Command(const ProjectRecord& record, int kind) {
     return;
   }
   if (!handed_over) {
-    Port().show_note({"The settings could not be written, so the graphics program would show "
-                      "another project; it was not started.",
-                      {}});
+    Port().show_note(
+        {"The settings could not be written, so the graphics program would show "
+         "another project; it was not started.",
+         {}});
     return;
   }
   Tell_How_It_Ended(Create_Process_Code(kGraphicsProgram));
@@ -93,7 +94,7 @@ void View_Output_Command(const ProjectRecord& record) {
     Tell_Missing("File " + name + " Not Found.");
     return;
   }
-  if (!Open_Document(*found)) Port().view_text(*found);
+  if (!Open_Document(*found)) Port().show_note({name + " could not be shown.", {}});
 }
 
 }  // namespace barvon

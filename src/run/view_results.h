@@ -17,7 +17,7 @@ void Graph_Command(const ProjectRecord& record, int kind);
 bool Graphics_Program_Exists();
 
 /// Opens the project's readable output in the desktop's text editor, or in the program's own text
-/// viewer where the desktop has no editor.
+/// window where the desktop has no editor.
 void View_Output_Command(const ProjectRecord& record);
 
 }  // namespace barvon
