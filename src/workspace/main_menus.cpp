@@ -3,6 +3,7 @@
 #include <QMenuBar>
 
 #include "core/recent_files.h"
+#include "core/screen_register.h"
 
 namespace barvon {
 namespace {
@@ -99,6 +100,7 @@ void Build_Toolbar(Main_Controls& controls) {
 void Build_Menus(Main_Controls& controls) {
   for (const Menu& entry : Menu_Tree()) Add_Menu(controls, entry);
   Build_Toolbar(controls);
+  Show_Tools_Menu(controls);
 }
 
 QAction* Action_Of(const Main_Controls& controls, const char* array, int index) {
@@ -119,6 +121,16 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
       Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
     }
   }
+}
+
+void Show_Tools_Menu(Main_Controls& controls) {
+  bool any = false;
+  for (int i = 0; const char* screen = Tool_Screen(i); ++i) {
+    const bool stands = Screen_Stands(screen);
+    Action_Of(controls, "mnuToolItem", i)->setVisible(stands);
+    any = any || stands;
+  }
+  Action_Of(controls, "mnuTools")->setVisible(any);
 }
 
 void Show_Recent_Menu(Main_Controls& controls) {
