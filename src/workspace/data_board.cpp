@@ -1,5 +1,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <vector>
 
 #include "workspace/board_parts.h"
 #include "workspace/main_controls.h"
@@ -97,22 +98,22 @@ QGroupBox* Program_Options(Main_Controls& controls) {
   return frame;
 }
 
-/// A column of lines with its picture buttons at the right.
-QGroupBox* With_Pictures(QGroupBox* frame, const std::vector<QWidget*>& lines,
+/// A column of lines, the last ones with the picture buttons at their right.
+QGroupBox* With_Pictures(QGroupBox* frame, const std::vector<QWidget*>& lines, int beside,
                          const std::vector<Latching_Button*>& pictures) {
-  auto* across = new QHBoxLayout(frame);
-  across->setContentsMargins(12, kLineGap, 8, kLineGap + 2);
-  across->setSpacing(kGap);
-  auto* left = new QVBoxLayout;
-  left->setSpacing(kLineGap);
-  for (QWidget* line : lines) left->addWidget(line);
-  left->addStretch();
-  auto* right = new QVBoxLayout;
-  right->setSpacing(kLineGap);
-  for (Latching_Button* picture : pictures) right->addWidget(picture);
-  right->addStretch();
-  across->addLayout(left, 1);
-  across->addLayout(right);
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(10, kLineGap, 8, kLineGap + 2);
+  grid->setHorizontalSpacing(kGap);
+  grid->setVerticalSpacing(kLineGap);
+  const int last = static_cast<int>(lines.size());
+  for (int row = 0; row < last; ++row) {
+    grid->addWidget(lines[static_cast<std::size_t>(row)], row, 0, 1, row < last - beside ? 2 : 1);
+  }
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kGap);
+  for (Latching_Button* picture : pictures) buttons->addWidget(picture);
+  grid->addLayout(buttons, last - beside, 1, beside, 1, Qt::AlignRight | Qt::AlignBottom);
+  grid->setColumnStretch(0, 1);
   return frame;
 }
 
@@ -121,12 +122,12 @@ QGroupBox* Material(Main_Controls& controls) {
   controls.SSCheck4->setText(QStringLiteral("Use JBFC Coefficient?"));
   for (QLabel* line : controls.Matlabel) Text(line);
   // The line of the moisture content goes with the JBFC coefficient.
-  return With_Pictures(
-      Frame(new QGroupBox(controls.Frame3D2), "Frame3D11", "Material Description"),
-      {controls.Matlabel(3), controls.Matlabel(4), controls.Matlabel(6), controls.SSCheck4,
-       controls.Matlabel(5)},
-      {Picture_Button(controls.SSRibbon1(2), "material", "Material Description"),
-       Picture_Button(controls.SSRibbon1(5), "density", "Water Density")});
+  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D11", "Material Description"),
+                       {controls.Matlabel(3), controls.Matlabel(4), controls.Matlabel(6),
+                        controls.SSCheck4, controls.Matlabel(5)},
+                       2,
+                       {Picture_Button(controls.SSRibbon1(2), "material", "Material Description"),
+                        Picture_Button(controls.SSRibbon1(5), "density", "Water Density")});
 }
 
 QGroupBox* Velocity(Main_Controls& controls) {
@@ -139,14 +140,14 @@ QGroupBox* Velocity(Main_Controls& controls) {
   return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D14", "Velocity Data"),
                        {controls.Option3D1(0), controls.Check3D1, controls.Option3D1(1),
                         controls.Option3D1(2), controls.Option3D1(3)},
-                       {Picture_Button(controls.SSRibbon1(1), "velocity", "Velocity Data")});
+                       2, {Picture_Button(controls.SSRibbon1(1), "velocity", "Velocity Data")});
 }
 
 QGroupBox* Site(Main_Controls& controls) {
   std::vector<QWidget*> lines;
   for (QLabel* line : controls.SiteLabel) lines.push_back(Text(line));
   return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D10", "Site Description"),
-                       lines,
+                       lines, 2,
                        {Picture_Button(controls.SSRibbon1(0), "site", "Site Description")});
 }
 
@@ -155,7 +156,7 @@ QGroupBox* Operation(Main_Controls& controls) {
   for (QLabel* line : controls.Label6) lines.push_back(Text(line));
   lines.push_back(Shown_State(controls.SSCheck3, "SSCheck3", "Specify Depression Dumping?"));
   return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D12", "Disposal Operation"),
-                       lines,
+                       lines, 2,
                        {Picture_Button(controls.SSRibbon1(3), "operation", "Disposal Operation")});
 }
 
@@ -168,15 +169,15 @@ void Build_Data_Board(Main_Controls& controls) {
   auto* left = new QVBoxLayout;
   auto* right = new QVBoxLayout;
   for (QVBoxLayout* column : {left, right}) column->setSpacing(kGap);
-  left->addWidget(Material(controls));
-  left->addWidget(Velocity(controls));
-  right->addWidget(Site(controls));
-  right->addWidget(Operation(controls));
+  left->addWidget(Material(controls), 1);
+  left->addWidget(Velocity(controls), 1);
+  right->addWidget(Site(controls), 1);
+  right->addWidget(Operation(controls), 1);
   board->addWidget(Program_Options(controls), 0, 0, 1, 2);
   board->addLayout(left, 1, 0);
   board->addLayout(right, 1, 1);
-  board->setColumnStretch(0, 1);
-  board->setColumnStretch(1, 1);
+  board->setColumnStretch(0, 6);
+  board->setColumnStretch(1, 5);
   board->setRowStretch(1, 1);
 }
 

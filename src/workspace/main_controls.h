@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 #include "platform/qt/control_array.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/latching_button.h"
 #include "workspace/status_area.h"
 
@@ -72,11 +73,12 @@ struct Main_Controls {
   ControlArray<QRadioButton> Option3D1;  // velocity
   QCheckBox* Check3D1;                   // its logarithmic profile
   QCheckBox* SSCheck4;                   // JBFC coefficient
-  ControlArray<QLabel> SiteLabel, Label5;
+  // Shortened with dots when a value is too long for its frame.
+  ControlArray<Elided_Label> SiteLabel, Label5;
   ControlArray<QCheckBox> SSCheck2;
-  ControlArray<QLabel> Matlabel;  // (3) to (6)
+  ControlArray<Elided_Label> Matlabel;  // (3) to (6)
   QCheckBox* SSCheck3;
-  ControlArray<QLabel> Label6;
+  ControlArray<Elided_Label> Label6;
 
   // In view under both boards.
   ControlArray<QPushButton> SSPanel3;
@@ -84,7 +86,8 @@ struct Main_Controls {
   QToolBar* Toolbar1;
   QHash<QString, QAction*> actions;  // menu items and toolbar buttons by their names
 
-  /// A type of analysis has been chosen since the evaluation was last shown: KEY3 has yet to follow.
+  /// A type of analysis has been chosen since the evaluation was last shown: KEY3 has yet to
+  /// follow.
   bool type_is_new = false;
 };
 

@@ -70,8 +70,8 @@ void Assign_Labels(Main_Controls& controls, std::int16_t analysis_type) {
 }
 
 void KEY3_Value(const Main_Controls& controls, ProjectRecord& record) {
-  const auto key3 = KEY3_Value(Chosen_Option(controls.SSOption3),
-                               Chosen_Option(controls.SSOption4), record.AnalysisType);
+  const auto key3 = KEY3_Value(Chosen_Option(controls.SSOption3), Chosen_Option(controls.SSOption4),
+                               record.AnalysisType);
   if (key3) record.KEY3 = *key3;
 }
 

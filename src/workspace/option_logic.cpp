@@ -28,9 +28,8 @@ constexpr std::int16_t kKEY3[kTypes][kEvaluations] = {
 };
 constexpr std::int16_t kGeneral = 1;
 
-constexpr Evaluation_Captions kGeneralCaptions = {"No Diffusion of a Conservative Tracer",
-                                                  "Long-Term Diffusion of Conservative Tracer",
-                                                  nullptr};
+constexpr Evaluation_Captions kGeneralCaptions = {
+    "No Diffusion of a Conservative Tracer", "Long-Term Diffusion of Conservative Tracer", nullptr};
 constexpr Evaluation_Captions kTierCaptions = {"Tier II, Determine Need for Further Testing",
                                                "Tier II, Compare Water Quality",
                                                " Tier III, Compare Toxicity Results"};
@@ -53,9 +52,7 @@ constexpr double kLogarithmic = 2;  // the first option with its check box
 
 bool Is_Type(std::int16_t analysis_type) { return analysis_type >= 1 && analysis_type <= kTypes; }
 
-void Stop(const char* text) {
-  Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Critical});
-}
+void Stop(const char* text) { Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Critical}); }
 
 }  // namespace
 
@@ -130,8 +127,7 @@ const char* Evaluation_Hint(int evaluation, std::int16_t analysis_type) {
 }
 
 void Choose_Velocity(int option, bool logarithmic, ProjectRecord& record) {
-  record.VelocityProfileType =
-      option == 0 && logarithmic ? kLogarithmic : kVelocityTypes[option];
+  record.VelocityProfileType = option == 0 && logarithmic ? kLogarithmic : kVelocityTypes[option];
 }
 
 void Choose_Logarithmic(bool logarithmic, ProjectRecord& record) {
