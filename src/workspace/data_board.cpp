@@ -164,7 +164,7 @@ QGroupBox* Operation(Main_Controls& controls) {
 
 void Build_Data_Board(Main_Controls& controls) {
   auto* board = new QGridLayout(Frame(controls.Frame3D2, "Frame3D2", ""));
-  board->setContentsMargins(8, 8, 8, 8);
+  board->setContentsMargins(6, 6, 6, 6);
   board->setSpacing(kGap);
   auto* left = new QVBoxLayout;
   auto* right = new QVBoxLayout;

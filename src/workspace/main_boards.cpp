@@ -8,8 +8,8 @@
 namespace barvon {
 namespace {
 
-constexpr int kGap = 12;  // between the board and the row of commands
-constexpr int kButtonHeight = 30;
+constexpr int kGap = 8;  // between the board and the row of commands
+constexpr int kButtonHeight = 28;
 
 QLayout* Command_Row(Main_Controls& controls) {
   static constexpr const char* kCaptions[] = {
@@ -51,9 +51,10 @@ void Set_Tab_Order(Main_Controls& c) {
   add(c.SSOption3);
   add(c.SSOption4);
   add(c.SSPanel5);
-  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5), c.SSRibbon1(0),
-                             c.Option3D1(0), c.Check3D1, c.Option3D1(1), c.Option3D1(2),
-                             c.Option3D1(3), c.SSRibbon1(1), c.SSRibbon1(3)});
+  // The left column of the data board, then the right one.
+  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5), c.Option3D1(0), c.Check3D1,
+                             c.Option3D1(1), c.Option3D1(2), c.Option3D1(3), c.SSRibbon1(1),
+                             c.SSRibbon1(0), c.SSRibbon1(3)});
   for (const int index : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(c.SSPanel3(index));
   for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
