@@ -27,6 +27,10 @@ void Refresh_Record(ProjectRecord& record) {
     record.PreviousDisposalMethod = record.DisposalMethod;
   }
   record.SiteDensity = Held_Site_Density(record.SiteDensity);
+  Refresh_KEY2(record);
+}
+
+void Refresh_KEY2(ProjectRecord& record) {
   if (record.KEY2 == 1) record.KEY2 = kDescentAndCollapse;
   if (record.KEY2 < 0) record.KEY2 = 0;
   // Showing the choice is making it: a project without diffusion has no contaminant.

@@ -16,6 +16,10 @@ std::int16_t Analysis_Type_Of_KEY4(std::int16_t key4);
 /// KEY2 1 becomes 2 and a negative one 0, and descent and collapse clears the contaminant.
 void Refresh_Record(ProjectRecord& record);
 
+/// The part of it that concerns KEY2: 1 becomes 2, a negative one 0, and descent and collapse
+/// clears the contaminant.
+void Refresh_KEY2(ProjectRecord& record);
+
 /// Refresh_Record, then the workspace shows the record.
 void Show_Project(ProjectRecord& record);
 

@@ -3,6 +3,8 @@
 #include <map>
 #include <utility>
 
+#include "core/workspace_port.h"
+
 namespace barvon {
 namespace {
 
@@ -19,7 +21,10 @@ void Register_Screen(const std::string& name, Screen_Opener opener) {
   } else {
     Screens().erase(name);
   }
+  Port().screens_changed();
 }
+
+bool Screen_Stands(const std::string& name) { return Screens().count(name) != 0; }
 
 bool Open_Screen(const std::string& name, bool blocking, const std::string& control) {
   const auto found = Screens().find(name);

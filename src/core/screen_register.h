@@ -10,8 +10,11 @@ namespace barvon {
 using Screen_Opener = std::function<void(bool blocking, const std::string& control)>;
 
 /// Makes a screen known by its name; an opener of the same name is replaced, an empty one takes
-/// the screen out again.
+/// the screen out again. The workspace hears of it.
 void Register_Screen(const std::string& name, Screen_Opener opener);
+
+/// Whether a screen of that name is registered.
+bool Screen_Stands(const std::string& name);
 
 /// Opens the screen. False when no screen of that name stands.
 bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});

@@ -15,6 +15,8 @@ Workspace_Port Silent_Port() {
   port.close_dilution = [] {};
   port.show_recent_menu = [] {};
   port.show_main_board = [] {};
+  port.screen_is_open = [](const std::string&) { return false; };
+  port.screens_changed = [] {};
   port.show_note = [](const Status_Note&) {};
   port.run_state = [](bool, const std::string&) {};
   port.text_has_changed = [] { return false; };

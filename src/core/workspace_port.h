@@ -30,6 +30,10 @@ struct Workspace_Port {
   std::function<void()> close_dilution;
   std::function<void()> show_recent_menu;
   std::function<void()> show_main_board;
+  /// Whether the screen of that name is in view without blocking.
+  std::function<bool(const std::string& name)> screen_is_open;
+  /// A screen has been registered or taken out.
+  std::function<void()> screens_changed;
   std::function<void(const Status_Note&)> show_note;
   /// The run under way changed: true when a program has been started, false when it has ended.
   std::function<void(bool running, const std::string& program)> run_state;

@@ -1,8 +1,10 @@
 #include "workspace/display_data.h"
 
+#include <utility>
+
 #include "core/analysis_keys.h"
 #include "platform/qt/option_paint.h"
-#include "workspace/main_menus.h"
+#include "workspace/option_events.h"
 #include "workspace/option_logic.h"
 #include "workspace/summary_lines.h"
 
@@ -17,60 +19,70 @@ void Show_Line(QLabel* label, const std::optional<std::string>& text) {
   if (text) Show_Line(label, *text);
 }
 
+void Show_Program_Options(Main_Controls& controls, ProjectRecord& record) {
+  if (const auto hint = Simulation_Hint(record.AnalysisType)) {
+    controls.Label4(0)->setText(QLatin1String(*hint));
+  }
+  controls.Label4(0)->show();
+  Assign_Labels(controls, record.AnalysisType);
+  const int simulation = Simulation_Option(record.KEY2);
+  Show_Simulation(controls, simulation);
+  if (simulation == 1) {
+    Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
+    if (std::exchange(controls.type_is_new, false)) {
+      KEY3_Value(controls, record);
+      Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
+    }
+    return;
+  }
+  // KEY3 0 says nothing of the evaluation while there is no diffusion: the choice then stays for
+  // the day on which diffusion is chosen again.
+  if (record.KEY3 != 0) Show_Option(controls.SSOption4, Evaluation_Option(record.KEY3));
+  controls.Label4(1)->clear();
+}
+
 }  // namespace
-
-void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  Paint_Options(controls.SSOption1);
-  Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
-  controls.MethodFrame->setEnabled(true);
-  for (QRadioButton* option : controls.SSOption2) option->setEnabled(true);
-  controls.Frame3D1->setEnabled(true);
-  SetMenuAvailability(controls, Menu_Mode::Project);
-}
-
-void SSOption2_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  Paint_Options(controls.SSOption2);
-  Choose_Disposal_Method(Chosen_Option(controls.SSOption1), index, record);
-}
 
 void Display_Data(Main_Controls& controls, ProjectRecord& record) {
   Refresh_Record(record);
+  // A title longer than the box stays what it is.
   const std::string title = record.ProjectTitle;
-  const std::int16_t key4 = record.KEY4;
-  const int type = Type_Option(record.KEY4);
-  const int method = Method_Option(record.DisposalMethod);
-
   controls.Title_Box->setText(QString::fromStdString(title));
   controls.Title_Box->setCursorPosition(0);
-  Show_Option(controls.SSOption1, type);
-  Show_Option(controls.SSOption2, method);
-  if (type >= 0) SSOption1_Click(controls, record, type);
-  if (method >= 0) SSOption2_Click(controls, record, method);
-
-  // A title longer than the box, or a KEY4 that does not go with the method, stays what it is.
   record.ProjectTitle = title;
-  record.KEY4 = key4;
+  Show_Type(controls, Type_Option(record.KEY4));
+  Show_Method(controls, Method_Option(record.DisposalMethod));
   Set_Data_Items(controls, record);
 }
 
-void Set_Data_Items(Main_Controls& controls, const ProjectRecord& record) {
+void Set_Data_Items(Main_Controls& controls, ProjectRecord& record) {
+  Refresh_KEY2(record);
   const Summary_Lines lines = Compose_Summary(record);
   for (int i = 0; i < 7; ++i) Show_Line(controls.SiteLabel(i), lines.SiteLabel[i]);
+  const Velocity_Choice velocity = Velocity_Choice_Of(record.VelocityProfileType);
+  Show_Velocity(controls, velocity.option, velocity.logarithmic);
+  Show_Program_Options(controls, record);
   for (int i = 0; i < 2; ++i) Show_Line(controls.Label5(i), lines.Label5[i]);
   for (int i = 0; i < 3; ++i) controls.SSCheck2(i)->setChecked(lines.SSCheck2[i]);
   Show_Line(controls.Matlabel(3), lines.Matlabel3);
   Show_Line(controls.Matlabel(4), lines.Matlabel4);
   Show_Line(controls.Matlabel(5), lines.Matlabel5);
   Show_Line(controls.Matlabel(6), lines.Matlabel6);
-  controls.Matlabel(5)->setVisible(lines.shows_moisture);
+  Show_JBFC(controls, lines.shows_moisture);
   for (int i = 0; i < 3; ++i) Show_Line(controls.Label6(i), lines.Label6[i]);
   controls.SSCheck3->setChecked(lines.SSCheck3);
 }
 
+void Forget_Choices(Main_Controls& controls) {
+  controls.type_is_new = false;
+  Show_Option(controls.SSOption4, -1);
+}
+
 void Show_New_Project(Main_Controls& controls, ProjectRecord& record) {
   controls.Title_Box->setText(QString::fromStdString(record.ProjectTitle));
-  Show_Option(controls.SSOption1, -1);
-  Show_Option(controls.SSOption2, -1);
+  Forget_Choices(controls);
+  Show_Type(controls, -1);
+  Show_Method(controls, -1);
   controls.MethodFrame->setEnabled(false);
   for (int i = 0; i < 5; ++i) Show_Status_Line(controls, i, kDataNotEntered, Status_Colour::Black);
   Show_Status_Line(controls, 5, "Default Coefficients Used", Status_Colour::Black);

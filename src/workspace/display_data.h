@@ -5,19 +5,17 @@
 
 namespace barvon {
 
-/// A click on SSOption1(index) or SSOption2(index), by a person or from code: repaints the group,
-/// writes the record, opens what the choice opens.
-void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index);
-void SSOption2_Click(Main_Controls& controls, ProjectRecord& record, int index);
-
 /// The general refresh: the controls show the project as it stands. What it is to show is read
 /// before a control is touched, so that the state of the controls before it never reaches the
-/// record; in the record it changes what Refresh_Record tells, and what the click actions tell of
-/// FileKind and PreviousDisposalMethod.
+/// record; in the record it changes what Refresh_Record tells, and what Set_Data_Items does.
 void Display_Data(Main_Controls& controls, ProjectRecord& record);
 
-/// Rebuilds the lines of the data board.
-void Set_Data_Items(Main_Controls& controls, const ProjectRecord& record);
+/// Rebuilds the data board from the record. In the record it changes what Refresh_KEY2 tells, and
+/// KEY3 follows a type of analysis that has been chosen since the board was last rebuilt.
+void Set_Data_Items(Main_Controls& controls, ProjectRecord& record);
+
+/// Another project takes the place of the one shown: what was chosen for that one is forgotten.
+void Forget_Choices(Main_Controls& controls);
 
 /// The workspace of a new project: no option chosen, the gate as given, every category without
 /// data.

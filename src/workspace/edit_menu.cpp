@@ -1,7 +1,11 @@
 #include "workspace/edit_menu.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "core/screen_register.h"
 #include "core/workspace_port.h"
+#include "platform/message_box.h"
 #include "workspace/option_logic.h"
 
 namespace barvon {
@@ -32,6 +36,17 @@ std::string Edit_Screen(int index, const ProjectRecord& record) {
   }
 }
 
+/// Screens that work on the project. While one of them stands open without blocking none of them
+/// can come up blocking.
+constexpr const char* kInputScreens[] = {"frmDescription", "frmVelocity",   "frmMatHopper",
+                                         "frmMatBarge",    "frmOperation",  "frmCoefficients",
+                                         "frmDensity",     "frmSimulation", "frmMdlkyn"};
+
+bool Any_Input_Screen_Is_Open() {
+  return std::any_of(std::begin(kInputScreens), std::end(kInputScreens),
+                     [](const char* name) { return Port().screen_is_open(name); });
+}
+
 void Show(const std::string& name, bool blocking) {
   if (Open_Screen(name, blocking)) return;
   Port().show_note({"The screen " + name + " is not part of this version.", ""});
@@ -46,7 +61,13 @@ void mnuEditItem_Click(int index, ProjectRecord& record) {
 }
 
 void Show_Screen(const std::string& name, const ProjectRecord& record) {
-  Show(name, record.ShowMode == 1);
+  const bool blocking = record.ShowMode == 1;
+  if (blocking && Any_Input_Screen_Is_Open()) {
+    Show_Message({"Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu",
+                  kMessageTitle, Buttons::Ok, Icon::Critical});
+    return;
+  }
+  Show(name, blocking);
 }
 
 void Show_Blocking_Screen(const std::string& name) { Show(name, true); }

@@ -11,8 +11,9 @@ namespace barvon {
 /// every other index, which opens nothing. Index 3 is the main window's own.
 void mnuEditItem_Click(int index, ProjectRecord& record);
 
-/// Opens a screen as ShowMode says. A screen that this version does not have is named in the
-/// status area.
+/// Opens an input screen as ShowMode says. It tells the user and opens nothing when it would block
+/// while an input screen stands open without blocking. A screen that this version does not have is
+/// named in the status area.
 void Show_Screen(const std::string& name, const ProjectRecord& record);
 void Show_Blocking_Screen(const std::string& name);
 

@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 #include "platform/qt/control_array.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/latching_button.h"
 #include "workspace/status_area.h"
 
@@ -32,8 +33,15 @@ struct Main_Controls {
         SSRibbon2(main, "SSRibbon2", 1, 3),
         SSCheck1(new QCheckBox(main)),
         Label3(main, "Label3", 4),
-        SSRibbon1(main, "SSRibbon1", 1, 4),
+        SSRibbon1(main, "SSRibbon1", 6),
         Frame3D2(new QGroupBox(main)),
+        SSOption3(main, "SSOption3", 2),
+        SSOption4(main, "SSOption4", 3),
+        Label4(main, "Label4", 2),
+        SSPanel5(main, "SSPanel5", 3),
+        Option3D1(main, "Option3D1", 4),
+        Check3D1(new QCheckBox(main)),
+        SSCheck4(new QCheckBox(main)),
         SiteLabel(main, "SiteLabel", 7),
         Label5(main, "Label5", 2),
         SSCheck2(main, "SSCheck2", 3),
@@ -55,21 +63,32 @@ struct Main_Controls {
   ControlArray<Latching_Button> SSRibbon2;          // (3): dilution calculator
   QCheckBox* SSCheck1;
   ControlArray<QLabel> Label3;
-  ControlArray<Latching_Button> SSRibbon1;  // (4): database
+  ControlArray<Latching_Button> SSRibbon1;  // (4): database; the others stand on the data board
 
   // The data board.
   QGroupBox* Frame3D2;
-  ControlArray<QLabel> SiteLabel, Label5;
+  ControlArray<QRadioButton> SSOption3, SSOption4;  // simulation type, evaluation type
+  ControlArray<QLabel> Label4;                      // the hints of their frames
+  ControlArray<QPushButton> SSPanel5;
+  ControlArray<QRadioButton> Option3D1;  // velocity
+  QCheckBox* Check3D1;                   // its logarithmic profile
+  QCheckBox* SSCheck4;                   // JBFC coefficient
+  // Shortened with dots when a value is too long for its frame.
+  ControlArray<Elided_Label> SiteLabel, Label5;
   ControlArray<QCheckBox> SSCheck2;
-  ControlArray<QLabel> Matlabel;  // (3) to (6)
+  ControlArray<Elided_Label> Matlabel;  // (3) to (6)
   QCheckBox* SSCheck3;
-  ControlArray<QLabel> Label6;
+  ControlArray<Elided_Label> Label6;
 
   // In view under both boards.
   ControlArray<QPushButton> SSPanel3;
   Status_Area* status_area;
   QToolBar* Toolbar1;
   QHash<QString, QAction*> actions;  // menu items and toolbar buttons by their names
+
+  /// A type of analysis has been chosen since the evaluation was last shown: KEY3 has yet to
+  /// follow.
+  bool type_is_new = false;
 };
 
 }  // namespace barvon

@@ -17,12 +17,11 @@
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_menus.h"
+#include "workspace/option_events.h"
+#include "workspace/option_logic.h"
 
 namespace barvon {
 namespace {
-
-constexpr double kDilutionFileKind = 1;
-constexpr std::int16_t kDilutionKEY4 = 7;
 
 void View_Graphics(const ProjectRecord& record) {
   if (!Graphics_Program_Exists()) {
@@ -99,8 +98,15 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 }
 
 void Edit_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  if (index == 3) SSPanel3_Click(controls, record, 0);
+  if (index == 3 && Check_Eval(record)) {
+    SSPanel3_Click(controls, record, 0);
+    SSPanel5_Click(controls, record, 1);
+  }
   mnuEditItem_Click(index, record);
+}
+
+void Mark_Toolbar(Main_Controls& controls) {
+  Action_Of(controls, "mnuViewItem", 3)->setChecked(!controls.Toolbar1->isHidden());
 }
 
 void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
@@ -110,7 +116,8 @@ void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
       View_Output_Command(record);
       break;
     case 3:
-      controls.Toolbar1->setVisible(item->isChecked());
+      controls.Toolbar1->setVisible(controls.Toolbar1->isHidden());
+      Mark_Toolbar(controls);
       break;
     case 4:  // The mark stays: the status bar is always in view.
       item->setChecked(true);
@@ -132,6 +139,10 @@ void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   } else {
     record.AlwaysSaveBeforeRun = marked ? kTrue : kFalse;
   }
+}
+
+void Tool_Click(int index) {
+  if (const char* screen = Tool_Screen(index)) Show_Blocking_Screen(screen);
 }
 
 void Help_Click(int index) {
@@ -181,10 +192,35 @@ void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
   Connect_Array(c, "mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); });
   Connect_Array(c, "mnuGraph", [&record](int index) { Graph_Command(record, index); });
   Connect_Array(c, "mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); });
+  Connect_Array(c, "mnuToolItem", Tool_Click);
   Connect_Array(c, "mnuHelpItem", Help_Click);
+  QObject::connect(Action_Of(c, "mnuView")->menu(), &QMenu::aboutToShow, c.window,
+                   [&c] { Mark_Toolbar(c); });
   Connect_Array(c, "Toolbar1", [&c, &record](int i) { Toolbar_Click(c, record, i); });
   QObject::connect(Action_Of(c, "mnuRun"), &QAction::triggered, c.window,
                    [&c, &record] { SSPanel3_Click(c, record, 1); });
+}
+
+using Option_Click_Action = void (*)(Main_Controls&, ProjectRecord&, int);
+
+void Connect_Group(Main_Controls& c, ProjectRecord& record,
+                   const ControlArray<QRadioButton>& options, Option_Click_Action click) {
+  for (int i = options.first(); i <= options.last(); ++i) {
+    QObject::connect(options(i), &QRadioButton::clicked, c.window,
+                     [&c, &record, click, i] { click(c, record, i); });
+  }
+}
+
+void Connect_Options(Main_Controls& c, ProjectRecord& record) {
+  Connect_Group(c, record, c.SSOption1, SSOption1_Click);
+  Connect_Group(c, record, c.SSOption2, SSOption2_Click);
+  Connect_Group(c, record, c.SSOption3, SSOption3_Click);
+  Connect_Group(c, record, c.SSOption4, SSOption4_Click);
+  Connect_Group(c, record, c.Option3D1, Option3D1_Click);
+  QObject::connect(c.Check3D1, &QCheckBox::clicked, c.window,
+                   [&c, &record](bool set) { Check3D1_Click(c, record, set); });
+  QObject::connect(c.SSCheck4, &QCheckBox::clicked, c.window,
+                   [&c, &record](bool set) { SSCheck4_Click(c, record, set); });
 }
 
 }  // namespace
@@ -194,28 +230,19 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
   Connect_Menus(c, record);
   QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window,
                    [&record](const QString& text) { record.ProjectTitle = text.toStdString(); });
-  for (int i = 0; i < 3; ++i) {
-    QObject::connect(c.SSOption1(i), &QRadioButton::clicked, c.window,
-                     [&c, &record, i] { SSOption1_Click(c, record, i); });
-  }
-  for (int i = 0; i < 2; ++i) {
-    QObject::connect(c.SSOption2(i), &QRadioButton::clicked, c.window,
-                     [&c, &record, i] { SSOption2_Click(c, record, i); });
-  }
+  Connect_Options(c, record);
   for (int i = 0; i < 10; ++i) {
     QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,
                      [&c, &record, i] { SSPanel3_Click(c, record, i); });
   }
-  c.SSRibbon1(4)->When_Down([] {
-    Show_Message(
-        {"This Feature is Unavailable at This Time.", kMessageTitle, Buttons::Ok, Icon::Warning});
-  });
-  c.SSRibbon2(3)->When_Down([&c, &record] {
-    record.FileKind = kDilutionFileKind;
-    record.KEY4 = kDilutionKEY4;
-    SetMenuAvailability(c, Menu_Mode::Dilution);
-    Show_Blocking_Screen("frmDilute2");
-  });
+  for (int i = 0; i < 3; ++i) {
+    QObject::connect(c.SSPanel5(i), &QPushButton::clicked, c.window,
+                     [&c, &record, i] { SSPanel5_Click(c, record, i); });
+  }
+  for (int i = 0; i < 6; ++i) {
+    c.SSRibbon1(i)->When_Down([&record, i] { SSRibbon1_Click(record, i); });
+  }
+  c.SSRibbon2(3)->When_Down([&c, &record] { SSRibbon2_Click(c, record); });
 }
 
 }  // namespace barvon

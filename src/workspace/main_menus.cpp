@@ -1,8 +1,11 @@
 #include "workspace/main_menus.h"
 
 #include <QMenuBar>
+#include <algorithm>
+#include <iterator>
 
 #include "core/recent_files.h"
+#include "core/screen_register.h"
 
 namespace barvon {
 namespace {
@@ -10,23 +13,31 @@ namespace {
 struct Tool {
   int index;
   const char* tip;
-  const char* picture;  // none: a separator
+  const char* picture;  // our own; none: a separator
+  const char* themed;   // the desktop's
 };
 
 /// Indices count the separators.
 constexpr Tool kTools[] = {
-    {1, "Create New Project", "new"},
-    {2, "Open Existing Project", "open"},
-    {3, "Save Current Project", "save"},
-    {4, "", nullptr},
-    {5, "Print Results", "print"},
-    {6, "Run Simulation", "run"},
-    {7, "", nullptr},
-    {8, "Generate Graphics", "graphics"},
-    {9, "Check for Errors", "check"},
-    {10, "", nullptr},
-    {11, "BARVON Help", "help"},
+    {1, "Create New Project", "new", "document-new"},
+    {2, "Open Existing Project", "open", "document-open"},
+    {3, "Save Current Project", "save", "document-save"},
+    {4, "", nullptr, nullptr},
+    {5, "Print Results", "print", "document-print"},
+    {6, "Run Simulation", "run", "media-playback-start"},
+    {7, "", nullptr, nullptr},
+    {8, "Generate Graphics", "graphics", "x-office-drawing"},
+    {9, "Check for Errors", "check", "tools-check-spelling"},
+    {10, "", nullptr, nullptr},
+    {11, "BARVON Help", "help", "help-contents"},
 };
+
+/// The pictures are of one set: the desktop's when it has all of them, otherwise our own.
+bool Theme_Has_All_Pictures() {
+  return std::all_of(std::begin(kTools), std::end(kTools), [](const Tool& tool) {
+    return tool.themed == nullptr || QIcon::hasThemeIcon(QLatin1String(tool.themed));
+  });
+}
 
 QString Indexed(const char* array, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
@@ -82,11 +93,14 @@ void Build_Toolbar(Main_Controls& controls) {
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setIconSize(QSize(22, 22));
+  const bool themed = Theme_Has_All_Pictures();
   for (const Tool& tool : kTools) {
     const bool separator = tool.picture == nullptr;
     QAction* action = separator ? bar->addSeparator() : bar->addAction(QLatin1String(tool.tip));
     if (!separator) {
-      action->setIcon(QIcon(QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(tool.picture))));
+      action->setIcon(
+          themed ? QIcon::fromTheme(QLatin1String(tool.themed))
+                 : QIcon(QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(tool.picture))));
     }
     Named(controls, action, Indexed("Toolbar1", tool.index));
   }
@@ -99,6 +113,7 @@ void Build_Toolbar(Main_Controls& controls) {
 void Build_Menus(Main_Controls& controls) {
   for (const Menu& entry : Menu_Tree()) Add_Menu(controls, entry);
   Build_Toolbar(controls);
+  Show_Tools_Menu(controls);
 }
 
 QAction* Action_Of(const Main_Controls& controls, const char* array, int index) {
@@ -119,6 +134,16 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
       Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
     }
   }
+}
+
+void Show_Tools_Menu(Main_Controls& controls) {
+  bool any = false;
+  for (int i = 0; const char* screen = Tool_Screen(i); ++i) {
+    const bool stands = Screen_Stands(screen);
+    Action_Of(controls, "mnuToolItem", i)->setVisible(stands);
+    any = any || stands;
+  }
+  Action_Of(controls, "mnuTools")->setVisible(any);
 }
 
 void Show_Recent_Menu(Main_Controls& controls) {

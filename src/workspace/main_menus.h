@@ -16,6 +16,9 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
 
+/// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
+void Show_Tools_Menu(Main_Controls& controls);
+
 /// Shows the recent files as the menu holds them.
 void Show_Recent_Menu(Main_Controls& controls);
 

@@ -1,5 +1,6 @@
 #include "workspace/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <cstdio>
 #include <cstdlib>
@@ -36,6 +37,15 @@ void Remove_Leftovers(const std::string& application_folder) {
     if (!path.empty()) folders.push_back(Folder_Of(path));
   }
   Remove_Leftover_Saves(folders);
+}
+
+bool Is_Open_Without_Blocking(const std::string& name) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && !window->isModal() && window->objectName().toStdString() == name) {
+      return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -108,7 +118,12 @@ void Main::Fill_Port() {
     // At start the menus keep what the menu tree gives them.
     if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);
   };
-  port.open_menus = [this] { SetMenuAvailability(controls_, Menu_Mode::Project); };
+  port.open_menus = [this] {
+    SetMenuAvailability(controls_, Menu_Mode::Project);
+    Forget_Choices(controls_);
+  };
+  port.screen_is_open = Is_Open_Without_Blocking;
+  port.screens_changed = [this] { Show_Tools_Menu(controls_); };
   port.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   port.show_main_board = [this] { Show_Main_Board(controls_); };
   port.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };

@@ -13,6 +13,10 @@ Menu_Item Marked(int index, const char* caption, bool marked, const char* hint =
   return {index, caption, true, true, Gate::None, true, marked, hint};
 }
 Menu_Item Hidden(int index, const char* caption) { return {index, caption, false, false}; }
+/// Shows once its screen stands.
+Menu_Item Opens(int index, const char* caption, const char* screen) {
+  return {index, caption, true, false, Gate::None, false, false, "", screen};
+}
 Menu_Item Separator(int index) { return {index}; }
 Menu_Item Hidden_Separator(int index) { return {index, "", true, false}; }
 
@@ -74,6 +78,13 @@ const std::vector<Menu>& Menu_Tree() {
       {"mnuOptions", "Options", "mnuOptionItem", true, true, Gate::None, "",
        {Marked(0, "Data Wizard Help On", true),
         Marked(1, "Always Save Before Simulation?", true)}},
+      {"mnuTools", "&Tools", "mnuToolItem", false, true, Gate::None, "",
+       {Opens(0, "&Start Dialog", "frmOpen"),
+        Opens(1, "&Database", "DataBase"),
+        Opens(2, "Dilution &Report", "Write_Dilute_Report"),
+        Opens(3, "&Graphical Site Grid", "Graphic_Data_Entry"),
+        Opens(4, "Text &Viewer", "frmNotePad"),
+        Opens(5, "&Tip of the Day", "frmTip")}},
       {"mnuWindow", "&Window", "mnuWItem", false, true, Gate::None, "",
        {Item(0, "&Cascade"),
         Item(1, "Tile &Horizontal"),
@@ -87,6 +98,15 @@ const std::vector<Menu>& Menu_Tree() {
   };
   // clang-format on
   return tree;
+}
+
+const char* Tool_Screen(int index) {
+  for (const Menu& menu : Menu_Tree()) {
+    for (const Menu_Item& item : menu.items) {
+      if (*item.screen != '\0' && item.index == index) return item.screen;
+    }
+  }
+  return nullptr;
 }
 
 std::string Recent_Caption(int index, const std::string& path) {

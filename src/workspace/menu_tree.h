@@ -32,6 +32,7 @@ struct Menu_Item {
   bool has_mark = false;
   bool marked = false;  // at start
   const char* hint = "";
+  const char* screen = "";  // what it opens; it shows as long as a screen of that name stands
 };
 
 /// One menu of the menu bar, or, without items, a command that stands in the menu bar itself.
@@ -46,6 +47,9 @@ struct Menu {
   const char* hint = "";
   std::vector<Menu_Item> items;
 };
+
+/// The screen that the entry of the Tools menu opens; none for any other index.
+const char* Tool_Screen(int index);
 
 /// The menu bar from left to right. The recent files stand in the File menu, behind its items.
 const std::vector<Menu>& Menu_Tree();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "core/project_record.h"
@@ -23,6 +24,54 @@ void Choose_Disposal_Method(int type, int method, ProjectRecord& record);
 int Type_Option(std::int16_t key4);
 /// The option that shows DisposalMethod: 0 hopper, 1 barge, -1 for any other.
 int Method_Option(std::int16_t disposal_method);
+
+/// KEY3 for the simulation type, SSOption3(0) or (1), and the evaluation, SSOption4(0) to (2).
+/// Without an evaluation the last one that the type offers counts. Nothing for a type that has no
+/// evaluations: KEY3 then keeps its value.
+std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int16_t analysis_type);
+
+/// A click on a simulation type: KEY2, and without diffusion there is no contaminant.
+void Choose_Simulation_Type(int simulation, ProjectRecord& record);
+
+/// The option that shows KEY2: 0 descent and collapse, 1 diffusion too, -1 for any other value.
+int Simulation_Option(std::int16_t key2);
+/// The option that shows KEY3: 0 to 2, or -1.
+int Evaluation_Option(std::int16_t key3);
+
+/// How the evaluation group reads for a type of analysis. An option without a caption is hidden
+/// and keeps the one that it has.
+using Evaluation_Captions = std::array<const char*, 3>;
+const Evaluation_Captions& Evaluation_Captions_Of(std::int16_t analysis_type);
+
+/// The hint of the simulation frame, Label4(0); nothing for a type without one.
+std::optional<const char*> Simulation_Hint(std::int16_t analysis_type);
+/// The hint that an evaluation puts into Label4(1); empty for one that the type does not offer.
+const char* Evaluation_Hint(int evaluation, std::int16_t analysis_type);
+
+/// A click on a velocity option, Option3D1(0) to (3), while Check3D1 is set or not.
+void Choose_Velocity(int option, bool logarithmic, ProjectRecord& record);
+/// A click on Check3D1.
+void Choose_Logarithmic(bool logarithmic, ProjectRecord& record);
+
+/// How VelocityProfileType shows: option -1 for none.
+struct Velocity_Choice {
+  int option = -1;
+  bool logarithmic = false;
+};
+Velocity_Choice Velocity_Choice_Of(double velocity_profile_type);
+
+/// Asks whether variable depth is to go for the sake of a two-point profile. True for Yes.
+bool Ask_To_Disable_Variable_Depth();
+
+/// What keeps "Enter/Edit Evaluation" from its screen.
+enum class Evaluation_Entry {
+  Open,                // nothing
+  No_Diffusion,        // KEY2 is not 0
+  No_Evaluation,       // none of the options is set
+  No_Tracer_Evaluated  // KEY3 is 0
+};
+/// Tells the user what stands in the way.
+Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record);
 
 /// False, after a warning, while AnalysisType is negative.
 bool Check_Eval(const ProjectRecord& record);

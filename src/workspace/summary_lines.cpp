@@ -44,7 +44,7 @@ void Compose_Material(const ProjectRecord& record, Summary_Lines& lines) {
   lines.Matlabel6 = hopper ? water + Format_Number(record.SiteDensity, "0.0000") + " g/cc"
                            : water + Format_Number(record.SiteDensity, "#.00") + " grams/cc";
   if (hopper || record.LAYERS == 1) {
-    lines.Matlabel5 = "Moisture Content: " + Format_Number(record.MoistureContent, "###.0");
+    lines.Matlabel5 = Moisture_Line(record);
   }
 }
 
@@ -57,6 +57,10 @@ void Compose_Operation(const ProjectRecord& record, Summary_Lines& lines) {
 }
 
 }  // namespace
+
+std::string Moisture_Line(const ProjectRecord& record) {
+  return "Moisture Content: " + Format_Number(record.MoistureContent, "###.0");
+}
 
 Summary_Lines Compose_Summary(const ProjectRecord& record) {
   Summary_Lines lines;

@@ -20,6 +20,9 @@ struct Summary_Lines {
   bool SSCheck3 = false;              // dumping over a depression
 };
 
+/// "Moisture Content: " with its value.
+std::string Moisture_Line(const ProjectRecord& record);
+
 Summary_Lines Compose_Summary(const ProjectRecord& record);
 
 }  // namespace barvon

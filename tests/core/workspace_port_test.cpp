@@ -17,6 +17,8 @@ void Call_Every_Entry() {
   port.close_dilution();
   port.show_recent_menu();
   port.show_main_board();
+  EXPECT_FALSE(port.screen_is_open("x"));
+  port.screens_changed();
   port.show_note({"x", ""});
   port.run_state(true, "x");
   EXPECT_FALSE(port.text_has_changed());

@@ -85,6 +85,23 @@ TEST_F(EditMenu, A_Negative_Analysis_Type_Opens_Only_Coefficients_And_Density) {
   EXPECT_EQ(Opened_By(9), Names{"frmDensity"});
 }
 
+TEST_F(EditMenu, No_Screen_Comes_Up_Blocking_While_One_Stands_Open_Without) {
+  Port().screen_is_open = [](const std::string& name) { return name == "frmVelocity"; };
+  testing::Scripted_Messages messages({Answer::Ok, Answer::Ok});
+  for (const int index : {2, 1}) EXPECT_EQ(Opened_By(index), Names{}) << index;
+  ASSERT_EQ(messages.shown.size(), 2u);
+  for (const Message& message : messages.shown) {
+    EXPECT_EQ(message.text,
+              "Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
+    EXPECT_EQ(message.title, "BARVON");
+    EXPECT_EQ(message.icon, Icon::Critical);
+    EXPECT_EQ(message.buttons, Buttons::Ok);
+  }
+  record->ShowMode = 0;
+  EXPECT_EQ(Opened_By(2), Names{"frmVelocity"});
+  EXPECT_EQ(Opened_By(1), Names{"frmDescription"});
+}
+
 TEST_F(EditMenu, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
   Show_Blocking_Screen("frmNobody");
   EXPECT_EQ(noted, "The screen frmNobody is not part of this version.");

@@ -7,6 +7,7 @@
 #include "core/recent_files.h"
 #include "core/screen_register.h"
 #include "core/settings_keys.h"
+#include "core/workspace_port.h"
 #include "platform/help_viewer.h"
 #include "support/screen_support.h"
 
@@ -158,11 +159,99 @@ TEST(MainMenus, The_Wizard_Opens_Blocking) {
   EXPECT_EQ(opened, 1);
 }
 
-TEST(MainMenus, Input_Keys_Show_The_Data_Board) {
+TEST(MainMenus, Input_Keys_Show_The_Data_Board_And_Enter_The_Evaluation) {
   Main_Bench bench;
   bench.controls().SSOption1(0)->click();
+  Modal_Replies replies({Press(QMessageBox::Ok)});
   bench.Action("mnuEditItem(3)")->trigger();
   EXPECT_TRUE(bench.controls().Frame3D2->isVisible());
+  EXPECT_EQ(replies.seen.at(0).text, "No Long Term Tracer Computations Will Be Carried Out");
+}
+
+TEST(MainMenus, Input_Keys_Of_A_Negative_Analysis_Type_Stay_Where_They_Are) {
+  Main_Bench bench;
+  Project().AnalysisType = -1;
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  bench.Action("mnuEditItem(3)")->setEnabled(true);
+  bench.Action("mnuEditItem(3)")->trigger();
+  EXPECT_EQ(replies.seen.at(0).text, "Evaluation Type Must Be Selected");
+  EXPECT_EQ(replies.seen.at(0).title, "BARVON Warning");
+  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Warning);
+  EXPECT_FALSE(bench.controls().Frame3D2->isVisible());
+}
+
+TEST(MainMenus, Tools_Show_As_Long_As_Their_Screens_Stand) {
+  Main_Bench bench;
+  EXPECT_FALSE(bench.Action("mnuTools")->isVisible());
+  int opened = 0;
+  Register_Screen("frmOpen",
+                  [&](bool blocking, const std::string&) { opened += blocking ? 1 : 9; });
+  EXPECT_TRUE(bench.Action("mnuTools")->isVisible());
+  EXPECT_TRUE(bench.Action("mnuToolItem(0)")->isVisible());
+  for (int i = 1; i <= 5; ++i) {
+    EXPECT_FALSE(bench.Action(qPrintable(QString("mnuToolItem(%1)").arg(i)))->isVisible()) << i;
+  }
+  bench.Action("mnuToolItem(0)")->trigger();
+  EXPECT_EQ(opened, 1);
+  Register_Screen("frmOpen", {});
+  EXPECT_FALSE(bench.Action("mnuTools")->isVisible());
+}
+
+TEST(MainMenus, A_Screen_In_View_Without_Blocking_Keeps_Others_From_Blocking) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  int opened = 0;
+  Register_Screen("frmVelocity", [&](bool, const std::string&) { ++opened; });
+  QWidget screen;
+  screen.setObjectName("frmVelocity");
+  screen.show();
+  {
+    Modal_Replies replies({Press(QMessageBox::Ok)});
+    bench.Action("mnuEditItem(2)")->trigger();
+    EXPECT_EQ(replies.seen.at(0).text,
+              "Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
+    EXPECT_EQ(replies.seen.at(0).title, "BARVON");
+    EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
+  }
+  EXPECT_EQ(opened, 0);
+  bench.Action("mnuViewItem(6)")->trigger();
+  bench.Action("mnuEditItem(2)")->trigger();
+  EXPECT_EQ(opened, 1);
+  bench.Action("mnuViewItem(6)")->trigger();
+  screen.hide();
+  bench.Action("mnuEditItem(2)")->trigger();
+  EXPECT_EQ(opened, 2);
+  Register_Screen("frmVelocity", {});
+}
+
+TEST(MainMenus, The_Toolbars_Mark_Is_Set_From_Its_Visibility_Before_The_Menu_Drops) {
+  Main_Bench bench;
+  bench.controls().Toolbar1->hide();
+  QMetaObject::invokeMethod(bench.Action("mnuView")->menu(), "aboutToShow");
+  EXPECT_FALSE(bench.Action("mnuViewItem(3)")->isChecked());
+  bench.Action("mnuViewItem(3)")->trigger();
+  EXPECT_TRUE(bench.controls().Toolbar1->isVisible());
+  EXPECT_TRUE(bench.Action("mnuViewItem(3)")->isChecked());
+}
+
+TEST(MainMenus, A_Highlighted_Item_Is_Described_In_The_Status_Bar) {
+  Main_Bench bench;
+  Port().show_note({"the note", ""});
+  bench.main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
+  const auto message = [&bench] { return bench.controls().status_area->currentMessage(); };
+  bench.main().menuBar()->setActiveAction(bench.Action("mnuFile"));
+  EXPECT_EQ(message(), "File Manipulation Tools");
+  QMenu* menu = bench.Action("mnuFile")->menu();
+  for (const char* text : {"Create New File", "Open Existing File"}) {
+    QTest::keyClick(menu, Qt::Key_Down);
+    EXPECT_EQ(message(), text);
+  }
+  QTest::keyClick(menu, Qt::Key_Escape);
+  QTest::keyClick(bench.main().menuBar(), Qt::Key_Escape);
+  EXPECT_EQ(message(), "");
+  EXPECT_TRUE(bench.Child<QLabel>("StatusNote")->isVisible());
+  EXPECT_EQ(bench.Child<QLabel>("StatusNote")->text(), "the note");
 }
 
 TEST(MainMenus, A_Screen_That_Does_Not_Stand_Yet_Is_Told_In_The_Status_Area) {
@@ -180,6 +269,7 @@ TEST(MainMenus, Letters_Of_Menus_And_Commands_Do_Not_Clash) {
     if (menu->isVisible()) keys << QKeySequence::mnemonic(menu->text()).toString();
   }
   for (QPushButton* button : bench.controls().SSPanel3) keys << button->shortcut().toString();
+  for (QPushButton* button : bench.controls().SSPanel5) keys << button->shortcut().toString();
   keys.removeAll(QString());
   EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
 }

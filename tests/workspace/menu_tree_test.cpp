@@ -25,7 +25,7 @@ TEST(MenuTree, Holds_The_Menus_From_Left_To_Right) {
   std::vector<std::string> captions;
   for (const Menu& menu : Menu_Tree()) captions.push_back(menu.caption);
   EXPECT_EQ(captions, (std::vector<std::string>{"&File", "&Edit", "Ru&n", "&View", "&Graphics",
-                                                "Options", "&Window", "&Help"}));
+                                                "Options", "&Tools", "&Window", "&Help"}));
 }
 
 TEST(MenuTree, Separators_Of_The_File_Menu_Are_3_6_And_9) {
@@ -66,6 +66,19 @@ TEST(MenuTree, What_Stands_Behind_Which_Gate) {
   EXPECT_EQ(Menu_Named("mnuRun").gate, Gate::Project);
   EXPECT_EQ(Item_At("mnuView", 1).gate, Gate::Project);
   EXPECT_EQ(Item_At("mnuView", 3).gate, Gate::None);
+}
+
+TEST(MenuTree, Tools_Are_Hidden_Until_Their_Screens_Stand) {
+  EXPECT_FALSE(Menu_Named("mnuTools").visible);
+  const char* screens[] = {"frmOpen",    "DataBase", "Write_Dilute_Report", "Graphic_Data_Entry",
+                           "frmNotePad", "frmTip"};
+  ASSERT_EQ(Menu_Named("mnuTools").items.size(), 6u);
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_STREQ(Tool_Screen(i), screens[i]);
+    EXPECT_FALSE(Item_At("mnuTools", i).visible) << i;
+  }
+  EXPECT_EQ(Tool_Screen(6), nullptr);
+  EXPECT_EQ(Tool_Screen(-1), nullptr);
 }
 
 TEST(MenuTree, An_Ampersand_In_A_Recent_Path_Shows_As_It_Is) {

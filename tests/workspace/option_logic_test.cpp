@@ -75,5 +75,67 @@ TEST(OptionLogic, A_Negative_Analysis_Type_Must_Be_Selected_First) {
   EXPECT_EQ(messages.shown.at(0).icon, Icon::Warning);
 }
 
+TEST(OptionLogic, KEY3_By_Type_And_Evaluation) {
+  const int key3[3][3] = {{0, 1, 1}, {4, 2, 3}, {7, 5, 6}};
+  for (std::int16_t type = 1; type <= 3; ++type) {
+    for (int option = 0; option < 3; ++option) {
+      EXPECT_EQ(KEY3_Value(1, option, type), key3[type - 1][option]) << type << option;
+      EXPECT_EQ(KEY3_Value(0, option, type), 0);
+    }
+  }
+}
+
+TEST(OptionLogic, Without_An_Evaluation_The_Last_One_Counts) {
+  EXPECT_EQ(KEY3_Value(1, -1, 1), 1);
+  EXPECT_EQ(KEY3_Value(1, -1, 2), 3);
+  EXPECT_EQ(KEY3_Value(-1, -1, 3), 6);
+}
+
+TEST(OptionLogic, A_Type_Without_Evaluations_Leaves_KEY3) {
+  for (const std::int16_t type : {-1, 0, 4}) {
+    EXPECT_FALSE(KEY3_Value(1, 0, type).has_value());
+    EXPECT_EQ(KEY3_Value(0, 0, type), 0);
+  }
+}
+
+TEST(OptionLogic, KEY3_Shows_As_Its_Evaluation) {
+  const int shown[] = {0, 1, 1, 2, 0, 1, 2, 0};
+  for (std::int16_t key3 = 0; key3 <= 7; ++key3) EXPECT_EQ(Evaluation_Option(key3), shown[key3]);
+  EXPECT_EQ(Evaluation_Option(8), -1);
+  EXPECT_EQ(Evaluation_Option(-1), -1);
+}
+
+TEST(OptionLogic, A_Simulation_Without_Diffusion_Has_No_Contaminant) {
+  auto record = std::make_unique<ProjectRecord>();
+  record->TracerConcentration = 5;
+  Choose_Simulation_Type(1, *record);
+  EXPECT_EQ(record->KEY2, 0);
+  EXPECT_EQ(record->TracerConcentration, 5);
+  Choose_Simulation_Type(0, *record);
+  EXPECT_EQ(record->KEY2, 2);
+  EXPECT_EQ(record->TracerConcentration, 0);
+  EXPECT_EQ(Simulation_Option(0), 1);
+  EXPECT_EQ(Simulation_Option(2), 0);
+  EXPECT_EQ(Simulation_Option(5), -1);
+}
+
+TEST(OptionLogic, Velocity_Options_Both_Ways) {
+  auto record = std::make_unique<ProjectRecord>();
+  const double types[] = {1, 3, 4, 5};
+  for (int option = 0; option < 4; ++option) {
+    Choose_Velocity(option, false, *record);
+    EXPECT_EQ(record->VelocityProfileType, types[option]);
+    EXPECT_EQ(Velocity_Choice_Of(types[option]).option, option);
+    EXPECT_FALSE(Velocity_Choice_Of(types[option]).logarithmic);
+    Choose_Velocity(option, true, *record);
+    EXPECT_EQ(record->VelocityProfileType, option == 0 ? 2 : types[option]);
+  }
+  EXPECT_EQ(Velocity_Choice_Of(2).option, 0);
+  EXPECT_TRUE(Velocity_Choice_Of(2).logarithmic);
+  for (const double type : {0.0, 6.0, 1.5, -1.0}) {
+    EXPECT_EQ(Velocity_Choice_Of(type).option, -1) << type;
+  }
+}
+
 }  // namespace
 }  // namespace barvon

@@ -1,0 +1,126 @@
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+#include "core/project_record.h"
+#include "core/workspace_port.h"
+#include "platform/qt/encoding_validator.h"
+#include "workspace/board_parts.h"
+#include "workspace/main_controls.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kGap = 12;     // between groups
+constexpr int kLineGap = 8;  // between the lines of a group
+
+QLayout* Title_Line(Main_Controls& controls) {
+  auto* label = new QLabel(QStringLiteral("Project Title"), controls.Frame3D1);
+  label->setObjectName(QStringLiteral("Label1"));
+  QLineEdit* title = controls.Title_Box;
+  title->setObjectName(QStringLiteral("Title_Box"));
+  title->setAccessibleName(label->text());
+  title->setMaxLength(kTitleLength);
+  title->setValidator(new Encoding_Validator(title));
+  label->setBuddy(title);
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kGap);
+  line->addWidget(label);
+  line->addWidget(title, 1);
+  return line;
+}
+
+QGroupBox* Data_Categories(Main_Controls& controls) {
+  static constexpr const char* kCategories[] = {"Program Options",    "Site Description",
+                                                "Velocity Data",      "Material Description",
+                                                "Disposal Operation", "Coefficients"};
+  auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D3", "Data Categories");
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(12, 8, 12, 10);
+  grid->setHorizontalSpacing(16);
+  grid->setVerticalSpacing(kLineGap);
+  for (int i = 0; i < 6; ++i) {
+    Text(controls.Label2(i), kCategories[i]);
+    Text(controls.Text2(i), i == 5 ? "Default Coefficients Used" : kDataNotEntered);
+    controls.Text2(i)->setAccessibleName(QLatin1String(kCategories[i]));
+    grid->addWidget(controls.Label2(i), i, 0);
+    grid->addWidget(controls.Text2(i), i, 1);
+  }
+  grid->setColumnStretch(1, 1);
+  return frame;
+}
+
+QGroupBox* Database_Information(Main_Controls& controls) {
+  static constexpr const char* kLines[] = {"Site: NONE", "Month: NONE", "Material Location: NONE",
+                                           "Disposal Vessel: NONE"};
+  auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D4", "DataBase Information");
+  auto* lines = Lines(frame, kLineGap);
+  auto* head = new QHBoxLayout;
+  head->addWidget(Shown_State(controls.SSCheck1, "SSCheck1", "DataBase Used"), 1);
+  Picture_Button(controls.SSRibbon1(4), "database", "DataBase");
+  head->addWidget(controls.SSRibbon1(4));
+  lines->addLayout(head);
+  for (int i = 0; i < 4; ++i) lines->addWidget(Text(controls.Label3(i), kLines[i]));
+  lines->addStretch();
+  return frame;
+}
+
+QGroupBox* Analysis_Types(Main_Controls& controls) {
+  static constexpr const char* kTypes[] = {
+      "General Open Water Disposal Analysis", "Section 103 Regulatory Analysis for Ocean Sites",
+      "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"};
+  auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D5", "Type of Analysis");
+  auto* lines = Lines(frame, kLineGap);
+  for (int i = 0; i < 3; ++i) {
+    controls.SSOption1(i)->setText(QLatin1String(kTypes[i]));
+    lines->addWidget(controls.SSOption1(i));
+  }
+  return frame;
+}
+
+QGroupBox* Disposal_Methods(Main_Controls& controls) {
+  static constexpr const char* kMethods[] = {"Disposal from a Multiple Bin Hopper Dredge",
+                                             "Disposal from a Split-Hull Barge or Scow"};
+  auto* frame = Frame(controls.MethodFrame, "Frame3D6", "Method of Disposal");
+  auto* lines = Lines(frame, kLineGap);
+  for (int i = 0; i < 2; ++i) {
+    controls.SSOption2(i)->setText(QLatin1String(kMethods[i]));
+    lines->addWidget(controls.SSOption2(i));
+  }
+  frame->setEnabled(false);
+  return frame;
+}
+
+QLayout* Dilution_Line(Main_Controls& controls) {
+  auto* label = new QLabel(QStringLiteral("Determine Contaminant Based on Dilution Needs"),
+                           controls.Frame3D1);
+  label->setObjectName(QStringLiteral("Label7"));
+  Picture_Button(controls.SSRibbon2(3), "dilution", "Dilution Calculator");
+  label->setBuddy(controls.SSRibbon2(3));
+  auto* line = new QHBoxLayout;
+  line->setContentsMargins(12, 0, 12, 0);
+  line->setSpacing(kGap);
+  line->addWidget(controls.SSRibbon2(3));
+  line->addWidget(label, 1);
+  return line;
+}
+
+}  // namespace
+
+void Build_Main_Menu_Board(Main_Controls& controls) {
+  auto* board = new QVBoxLayout(Frame(controls.Frame3D1, "Frame3D1", "BARVON Main Menu"));
+  board->setContentsMargins(14, 12, 14, 14);
+  board->setSpacing(kGap);
+  board->addLayout(Title_Line(controls));
+  auto* state = new QHBoxLayout;
+  state->setSpacing(kGap);
+  state->addWidget(Data_Categories(controls), 3);
+  state->addWidget(Database_Information(controls), 2);
+  board->addLayout(state);
+  board->addWidget(Analysis_Types(controls));
+  board->addWidget(Disposal_Methods(controls));
+  board->addStretch();
+  board->addLayout(Dilution_Line(controls));
+  board->addStretch();
+}
+
+}  // namespace barvon

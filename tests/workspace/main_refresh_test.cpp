@@ -1,0 +1,141 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+#include "core/open_file.h"
+#include "core/project_defaults.h"
+#include "core/value_slots.h"
+#include "core/workspace_port.h"
+#include "support/record_differences.h"
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+/// What a refresh makes of a record, by the rules.
+void Apply_What_Is_Told(ProjectRecord& r) {
+  if (r.KEY4 >= 1 && r.KEY4 <= 6) {
+    r.AnalysisType = r.KEY4 <= 2 ? 1 : r.KEY4 <= 4 ? 2 : 3;
+    r.FileKind = 2;
+  }
+  if (r.DisposalMethod == 1 || r.DisposalMethod == 3) {
+    r.KEY1 = 1;
+    r.PreviousDisposalMethod = r.DisposalMethod;
+  }
+  if (r.SiteDensity < 0.972) r.SiteDensity = 0.972;
+  if (r.SiteDensity > 1.05) r.SiteDensity = 1.05;
+  if (r.KEY2 < 0) r.KEY2 = 0;
+  if (r.KEY2 == 1 || r.KEY2 == 2) {
+    r.KEY2 = 2;
+    r.SolidNames[5].clear();
+    r.TracerConcentration = r.BackgroundConcentration = r.CriterionConcentration = 0;
+    r.SedimentConcentration = r.ZidTop = r.ZidLeft = r.ZidBottom = r.ZidRight = 0;
+  }
+}
+
+class Random_Records {
+ public:
+  int Number(int from, int to) { return std::uniform_int_distribution(from, to)(engine_); }
+
+  void Fill(ProjectRecord& r) {
+    for (const Slot_Row& row : Real_Slot_Rows()) {
+      for (int i = 1; i <= row.count; ++i) row.set(r, i, Number(-40, 4000) / 16.0);
+    }
+    for (const Slot_Row& row : Int_Slot_Rows()) {
+      for (int i = 1; i <= row.count; ++i) row.set(r, i, Number(-1, 3));
+    }
+    r.KEY2 = static_cast<std::int16_t>(Number(-1, 3));
+    r.KEY3 = static_cast<std::int16_t>(Number(-1, 8));
+    r.KEY4 = static_cast<std::int16_t>(Number(-1, 8));
+    r.DisposalMethod = static_cast<std::int16_t>(Number(0, 4));
+    r.AnalysisType = static_cast<std::int16_t>(Number(-1, 4));
+    r.VelocityProfileType = Number(0, 13) / 2.0;
+    r.SiteDensity = Number(900, 1100) / 1000.0;
+    r.ConstantDepthFlag = static_cast<std::int16_t>(Number(0, 1));
+    r.ProjectTitle = std::string(static_cast<std::size_t>(Number(0, 80)), 't') + "\n";
+    for (std::string& name : r.SolidNames) name = "solid" + std::to_string(Number(0, 99));
+  }
+
+ private:
+  std::mt19937 engine_{20260113};
+};
+
+TEST(MainRefresh, A_Random_Record_Is_The_Same_But_For_What_Is_Told) {
+  Main_Bench bench;
+  Modal_Replies no_question({});
+  Random_Records random;
+  auto expected = std::make_unique<ProjectRecord>();
+  for (int round = 0; round < 300; ++round) {
+    random.Fill(Project());
+    *expected = Project();
+    Apply_What_Is_Told(*expected);
+    Port().display_data();
+    ASSERT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << round;
+    bench.controls().SSPanel3(0)->click();
+    Port().display_data();
+    ASSERT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << round;
+  }
+}
+
+TEST(MainRefresh, Every_Sample_Is_The_Same_But_For_What_Is_Told) {
+  Main_Bench bench;
+  Modal_Replies no_question({});
+  auto expected = std::make_unique<ProjectRecord>();
+  int samples = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(BARVON_SAMPLES)) {
+    if (entry.path().extension() != ".DUI") continue;
+    ++samples;
+    ASSERT_TRUE(Open_Project(entry.path().string(), Project()));
+    *expected = Project();
+    Apply_What_Is_Told(*expected);
+    Port().display_data();
+    bench.controls().SSPanel3(0)->click();
+    Port().display_data();
+    EXPECT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << entry.path();
+  }
+  EXPECT_EQ(samples, 8);
+}
+
+TEST(MainRefresh, A_Barge_Project_Opened_While_The_Hopper_Is_Shown_Stays_Its_Own) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  bench.controls().SSOption2(0)->click();
+  Project().KEY4 = 4;
+  Project().KEY3 = 3;
+  Project().DisposalMethod = 3;
+  Project().VelocityProfileType = 5;
+  Port().display_data();
+  EXPECT_EQ(Project().KEY4, 4);
+  EXPECT_EQ(Project().KEY3, 3);
+  EXPECT_EQ(Project().DisposalMethod, 3);
+  EXPECT_EQ(Project().VelocityProfileType, 5);
+  EXPECT_TRUE(bench.controls().SSOption4(2)->isChecked());
+}
+
+TEST(MainRefresh, KEY2_Of_1_Comes_Up_As_Descent_And_Collapse_Without_A_Contaminant) {
+  Main_Bench bench;
+  Project().KEY2 = 1;
+  Project().TracerConcentration = 7;
+  bench.controls().SSPanel3(0)->click();
+  EXPECT_EQ(Project().KEY2, 2);
+  EXPECT_EQ(Project().TracerConcentration, 0);
+  EXPECT_TRUE(bench.controls().SSOption3(0)->isChecked());
+  Project().KEY2 = -1;
+  bench.controls().SSPanel3(0)->click();
+  EXPECT_EQ(Project().KEY2, 0);
+  EXPECT_TRUE(bench.controls().SSOption3(1)->isChecked());
+}
+
+TEST(MainRefresh, A_KEY2_Without_A_Meaning_Shows_No_Simulation_Type_And_Stays) {
+  Main_Bench bench;
+  Project().KEY2 = 3;
+  Port().display_data();
+  EXPECT_EQ(Project().KEY2, 3);
+  for (QRadioButton* option : bench.controls().SSOption3) EXPECT_FALSE(option->isChecked());
+}
+
+}  // namespace
+}  // namespace barvon
