@@ -11,6 +11,7 @@
 #include "platform/profile_settings.h"
 #include "platform/qt/option_paint.h"
 #include "run/run_driver.h"
+#include "run/view_results.h"
 #include "workspace/display_data.h"
 #include "workspace/edit_menu.h"
 #include "workspace/file_menu.h"
@@ -22,23 +23,13 @@
 namespace barvon {
 namespace {
 
-constexpr char kGraphicsProgram[] = "KV_Graph.Exe";
-
-void Not_In_This_Version(const char* what) {
-  Port().show_note({std::string(what) + " is not part of this version.", ""});
-}
-
-void Graph() { Not_In_This_Version("The graphics command"); }
-
-void View_Graphics() {
-  if (!File_Exist(kGraphicsProgram)) {
+void View_Graphics(const ProjectRecord& record) {
+  if (!Graphics_Program_Exists()) {
     Show_Message({"File: KV_graph.exe Not Found.", kMessageTitle, Buttons::Ok, Icon::Critical});
     return;
   }
-  Not_In_This_Version("The graphics program's hand-over");
+  Graph_Command(record, 0);
 }
-
-void View_Output() { Not_In_This_Version("The output viewer"); }
 
 /// What an event of a control does before the control itself hears of it.
 class Early_Events : public QObject {
@@ -76,7 +67,7 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
       Run_Model(record);
       break;
     case 2:
-      View_Graphics();
+      View_Graphics(record);
       break;
     case 4:
       Show_Main_Board(controls);
@@ -92,7 +83,7 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
       }
       break;
     case 7:
-      View_Output();
+      View_Output_Command(record);
       break;
     case 8:
       mnuFileItem_Click(kFileSave, record);
@@ -122,7 +113,7 @@ void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   QAction* item = Action_Of(controls, "mnuViewItem", index);
   switch (index) {
     case 1:
-      View_Output();
+      View_Output_Command(record);
       break;
     case 3:
       controls.Toolbar1->setVisible(controls.Toolbar1->isHidden());
@@ -173,7 +164,7 @@ void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
     case 6:
       return SSPanel3_Click(controls, record, 1);
     case 8:
-      return Graph();
+      return Graph_Command(record, 0);
     case 9:
       return Edit_Click(controls, record, 8);
     case 11:
@@ -199,7 +190,7 @@ void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
   Connect_Array(c, "mnuRecentFile", [&record](int i) { mnuRecentFile_Click(i, record); });
   Connect_Array(c, "mnuEditItem", [&c, &record](int i) { Edit_Click(c, record, i); });
   Connect_Array(c, "mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); });
-  Connect_Array(c, "mnuGraph", [](int) { Graph(); });
+  Connect_Array(c, "mnuGraph", [&record](int index) { Graph_Command(record, index); });
   Connect_Array(c, "mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); });
   Connect_Array(c, "mnuToolItem", Tool_Click);
   Connect_Array(c, "mnuHelpItem", Help_Click);

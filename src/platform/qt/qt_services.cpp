@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "platform/qt/qt_document_opener.h"
 #include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
@@ -51,6 +52,7 @@ Qt_Services::Qt_Services() {
   cursor_ = Set_Cursor_Presenter(Show_Wait_Cursor);
   pump_ = Set_Event_Pump(Pump_Qt_Events);
   help_ = Set_Help_Presenter(Show_Qt_Help);
+  documents_ = Set_Document_Opener(Open_Qt_Document);
 }
 
 Qt_Services::~Qt_Services() {
@@ -62,6 +64,7 @@ Qt_Services::~Qt_Services() {
   Set_Cursor_Presenter(std::move(cursor_));
   Set_Event_Pump(std::move(pump_));
   Set_Help_Presenter(std::move(help_));
+  Set_Document_Opener(std::move(documents_));
 }
 
 }  // namespace barvon

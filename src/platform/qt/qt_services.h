@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "platform/busy_cursor.h"
+#include "platform/document_opener.h"
 #include "platform/event_pump.h"
 #include "platform/file_dialog.h"
 #include "platform/help_viewer.h"
@@ -29,6 +30,7 @@ class Qt_Services {
   Cursor_Presenter cursor_;
   Event_Pump pump_;
   Help_Presenter help_;
+  Document_Opener documents_;
 };
 
 /// Lets the toolkit process its events, asleep until one comes or the time is up.

@@ -1,0 +1,48 @@
+#include "platform/qt/qt_document_opener.h"
+
+#include <QMimeDatabase>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "platform/qt/qt_message_box.h"
+#include "platform/qt/text_window.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kQueryMilliseconds = 3000;
+
+/// Whether the desktop names a program for the kind of file. A desktop that does not answer in
+/// time has none.
+bool Has_Program_For(const QString& query, const QString& kind) {
+  QProcess process;
+  process.start(query, {"query", "default", kind});
+  return process.waitForFinished(kQueryMilliseconds) && process.exitCode() == 0 &&
+         !process.readAllStandardOutput().trimmed().isEmpty();
+}
+
+/// The desktop starts its own program: it outlives this one and is not waited for.
+bool Open_By_Desktop(const QString& path) {
+  const QString opener = QStandardPaths::findExecutable("xdg-open");
+  const QString query = QStandardPaths::findExecutable("xdg-mime");
+  if (opener.isEmpty() || query.isEmpty()) return false;
+  const QString kind = QMimeDatabase().mimeTypeForFile(path).name();
+  if (!Has_Program_For(query, kind) && !Has_Program_For(query, "text/plain")) return false;
+  return QProcess::startDetached(opener, {path});
+}
+
+}  // namespace
+
+bool Open_Qt_Document(const std::string& path) {
+  const QString name = QString::fromStdString(path);
+  if (Open_By_Desktop(name)) return true;
+  auto* window = new Text_Window(Window_In_Front());
+  if (!window->Load(path)) {
+    delete window;
+    return false;
+  }
+  window->show();
+  return true;
+}
+
+}  // namespace barvon

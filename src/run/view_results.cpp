@@ -1,0 +1,100 @@
+#include "run/view_results.h"
+
+#include <optional>
+#include <string>
+
+#include "core/path_lookup.h"
+#include "core/settings_keys.h"
+#include "core/text_tools.h"
+#include "core/workspace_port.h"
+#include "platform/app_folder.h"
+#include "platform/document_opener.h"
+#include "platform/message_box.h"
+#include "platform/profile_settings.h"
+#include "run/create_process.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kGraphicsProgram[] = "kv_graph.exe";
+constexpr char kNativeGraphicsProgram[] = "kv_graph";
+constexpr char kUntitledName[] = "UNTITLED.DUI";
+
+void Tell_Missing(const std::string& text) {
+  Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Warning});
+}
+
+std::optional<std::string> Find_Graphics_Program(const std::string& folder) {
+  for (const char* name : {kGraphicsProgram, kNativeGraphicsProgram}) {
+    if (auto found = Find_Path(Join_Path(folder, name))) return found;
+  }
+  return std::nullopt;
+}
+
+/// GraphFile and SimType: what the graphics program reads.
+bool Hand_Over(const ProjectRecord& record, int kind) {
+  return Write_Graph_File(record.ProjectFileName) &&
+         Write_Profile_String(Settings_Path(), kSimulationTypeSection, kSimTypeKey,
+                              "Type " + std::to_string(kind));
+}
+
+void Tell_How_It_Ended(const Process_Outcome& outcome) {
+  if (outcome.program_ends) return;
+  if (!outcome.started) {
+    Port().show_note({"The graphics program was not started: " + outcome.problem + ".", {}});
+  } else if (outcome.end.signal != 0 && !outcome.end.stopped) {
+    Port().show_note(
+        {outcome.program + " was ended by signal " + std::to_string(outcome.end.signal) + ".",
+         outcome.last_output});
+  } else if (outcome.end.exit_code != 0 && !outcome.end.stopped) {
+    Port().show_note(
+        {outcome.program + " ended with code " + std::to_string(outcome.end.exit_code) + ".",
+         outcome.last_output});
+  }
+}
+
+}  // namespace
+
+bool Graphics_Program_Exists() { return Find_Graphics_Program(".").has_value(); }
+
+void Graph_Command(const ProjectRecord& record, int kind) {
+  if (!Find_Path(record.BaseFileName + ".DUI")) {
+    Show_Message({"Please Specify a File Before Running Model", "BARVON Error", Buttons::Ok,
+                  Icon::Critical});
+    return;
+  }
+  const bool handed_over = Hand_Over(record, kind);
+  const std::string& folder = Application_Folder();
+  if (!Find_Path(folder)) {
+    Tell_Missing("Path: " + folder + " Not Found");
+    return;
+  }
+  if (!Find_Graphics_Program(folder)) {
+    Tell_Missing("File: " + Join_Path(folder, kGraphicsProgram) + " Not Found");
+    return;
+  }
+  if (!handed_over) {
+    Port().show_note(
+        {"The settings could not be written, so the graphics program would show "
+         "another project; it was not started.",
+         {}});
+    return;
+  }
+  Tell_How_It_Ended(Create_Process_Code(kGraphicsProgram));
+}
+
+void View_Output_Command(const ProjectRecord& record) {
+  if (record.ProjectFileName.empty() || record.ProjectFileName == kUntitledName) {
+    Show_Message({"No File Specified", kMessageTitle, Buttons::Ok, Icon::Critical});
+    return;
+  }
+  const std::string name = Base_Name(record.ProjectFileName) + ".duo";
+  const std::optional<std::string> found = Find_Path(name);
+  if (!found) {
+    Tell_Missing("File " + name + " Not Found.");
+    return;
+  }
+  if (!Open_Document(*found)) Port().show_note({name + " could not be shown.", {}});
+}
+
+}  // namespace barvon

@@ -1,0 +1,96 @@
+#include "platform/qt/qt_document_opener.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <filesystem>
+
+#include "support/screen_support.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+QDialog* Text_Window_In_Front() {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == "Text_Window" && widget->isVisible()) {
+      return qobject_cast<QDialog*>(widget);
+    }
+  }
+  return nullptr;
+}
+
+/// A desktop of a test's own: only what stands in its folder is on the search path.
+class DocumentOpener : public ::testing::Test {
+ protected:
+  DocumentOpener() : former_path_(qgetenv("PATH")) {
+    qputenv("PATH", folder_.path().c_str());
+    Write_Text(output_, "first line\r\ncaf\xE9 line\r\nlast line\r\n");
+  }
+  ~DocumentOpener() override {
+    if (QDialog* window = Text_Window_In_Front()) delete window;
+    qputenv("PATH", former_path_);
+  }
+
+  void Install(const char* name, const std::string& script) {
+    Write_Text(folder_ / name, "#!/bin/sh\n" + script);
+    std::filesystem::permissions(folder_ / name, std::filesystem::perms::owner_all);
+  }
+
+  Scratch_Folder folder_;
+  const std::string output_ = folder_ / "site one.duo";
+
+ private:
+  QByteArray former_path_;
+};
+
+TEST_F(DocumentOpener, Goes_To_The_Desktops_Program_For_Text) {
+  Install("xdg-mime", "echo editor.desktop\n");
+  Install("xdg-open", "echo \"$1\" > '" + (folder_ / "opened") + "'\n");
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  EXPECT_TRUE(Wait_Until([this] { return Read_Text(folder_ / "opened") == output_ + "\n"; }));
+  EXPECT_EQ(Text_Window_In_Front(), nullptr);
+}
+
+TEST_F(DocumentOpener, Without_A_Program_For_Text_The_File_Is_Shown_In_A_Window_Of_Our_Own) {
+  Install("xdg-mime", "exit 0\n");
+  Install("xdg-open", "touch '" + (folder_ / "opened") + "'\n");
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  QDialog* window = Text_Window_In_Front();
+  ASSERT_NE(window, nullptr);
+  auto* text = window->findChild<QPlainTextEdit*>("Text1");
+  EXPECT_EQ(text->toPlainText().toStdString(), "first line\ncaf\xC3\xA9 line\nlast line\n");
+  EXPECT_TRUE(text->isReadOnly());
+  EXPECT_EQ(window->windowTitle().toStdString(), output_);
+  EXPECT_FALSE(Exists(folder_ / "opened"));
+}
+
+TEST_F(DocumentOpener, The_Window_Finds_Text_And_Starts_Again_At_The_Top) {
+  ASSERT_TRUE(Open_Qt_Document(output_));
+  QDialog* window = Text_Window_In_Front();
+  ASSERT_NE(window, nullptr);
+  auto* text = window->findChild<QPlainTextEdit*>("Text1");
+  auto* find = window->findChild<QLineEdit*>("Find");
+  QTest::keyClicks(find, "line");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(text->textCursor().blockNumber(), 0);
+  QTest::keyClick(find, Qt::Key_Return);
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(text->textCursor().blockNumber(), 2);
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(text->textCursor().blockNumber(), 0);
+  EXPECT_EQ(text->textCursor().selectedText(), "line");
+}
+
+TEST_F(DocumentOpener, A_File_That_Can_Not_Be_Read_Is_Not_Shown) {
+  EXPECT_FALSE(Open_Qt_Document(folder_ / "none.duo"));
+  EXPECT_EQ(Text_Window_In_Front(), nullptr);
+}
+
+}  // namespace
+}  // namespace barvon

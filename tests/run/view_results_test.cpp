@@ -1,0 +1,153 @@
+#include "run/view_results.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/document_opener.h"
+#include "platform/profile_settings.h"
+#include "run/child_support.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+class ViewResults : public ::testing::Test {
+ protected:
+  ViewResults() {
+    std::filesystem::create_directory(bench.folder / "bay");
+    record.BaseFileName = bench.folder / "bay/site";
+    record.ProjectFileName = record.BaseFileName + ".DUI";
+    former_ = Set_Document_Opener([this](const std::string& path) {
+      opened.push_back(path);
+      return opens;
+    });
+  }
+  ~ViewResults() override { Set_Document_Opener(former_); }
+
+  void Save_Project() { Write_Text(record.ProjectFileName, "project"); }
+  std::string Setting(const char* section, const char* key) {
+    return Read_Profile_String(bench / "BARVON.INI", section, key, "none");
+  }
+  static void Expect_Box(const Scripted_Messages& messages, const std::string& text,
+                         const char* title, Icon icon) {
+    ASSERT_EQ(messages.shown.size(), 1u);
+    EXPECT_EQ(messages.shown[0].text, text);
+    EXPECT_EQ(messages.shown[0].title, title);
+    EXPECT_EQ(messages.shown[0].icon, icon);
+    EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
+  }
+
+  Solver_Bench bench;
+  const std::unique_ptr<ProjectRecord> owner = std::make_unique<ProjectRecord>();
+  ProjectRecord& record = *owner;
+  std::vector<std::string> opened;
+  bool opens = true;
+
+ private:
+  Document_Opener former_;
+};
+
+TEST_F(ViewResults, Graphics_Of_A_Project_Without_A_File_Are_Refused) {
+  Scripted_Messages messages({Answer::Ok});
+  Graph_Command(record, 0);
+  Expect_Box(messages, "Please Specify a File Before Running Model", "BARVON Error",
+             Icon::Critical);
+  EXPECT_FALSE(Exists(bench / "BARVON.INI"));
+}
+
+TEST_F(ViewResults, Each_Entry_Hands_Over_The_Project_And_Its_Type) {
+  Save_Project();
+  bench.Install("kv_graph.exe", "write:seen.txt=x\n");
+  for (int kind = 0; kind < kGraphKinds; ++kind) {
+    Scripted_Messages messages;
+    Graph_Command(record, kind);
+    EXPECT_EQ(Setting("Graph File", "GraphFile"), record.ProjectFileName);
+    EXPECT_EQ(Setting("Simulation Type", "SimType"), "Type " + std::to_string(kind));
+  }
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+  EXPECT_EQ(bench.states.size(), 8u);
+}
+
+TEST_F(ViewResults, A_Native_Program_Of_The_Name_Without_Extension_Is_Found) {
+  Save_Project();
+  bench.Install("kv_graph", "write:seen.txt=x\n");
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+}
+
+TEST_F(ViewResults, A_Missing_Graphics_Program_Is_Told_With_Its_Path_After_The_Hand_Over) {
+  Save_Project();
+  Scripted_Messages messages({Answer::Ok});
+  Graph_Command(record, 2);
+  Expect_Box(messages, "File: " + (bench / "kv_graph.exe") + " Not Found", "BARVON", Icon::Warning);
+  EXPECT_EQ(Setting("Simulation Type", "SimType"), "Type 2");
+}
+
+TEST_F(ViewResults, A_Missing_Application_Directory_Is_Told_With_Its_Path) {
+  Save_Project();
+  const std::string folder = Application_Folder();
+  Set_Application_Folder(bench.folder / "gone");
+  Scripted_Messages messages({Answer::Ok});
+  Graph_Command(record, 0);
+  Expect_Box(messages, "Path: " + (bench.folder / "gone") + " Not Found", "BARVON", Icon::Warning);
+  Set_Application_Folder(folder);
+}
+
+TEST_F(ViewResults, A_Graphics_Program_That_Fails_Is_Not_Passed_Over_In_Silence) {
+  Save_Project();
+  bench.Install("kv_graph", "exit:3\n");
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  ASSERT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(bench.notes[0].text, (bench / "kv_graph") + " ended with code 3.");
+}
+
+TEST_F(ViewResults, Output_Of_No_Project_Is_Refused) {
+  for (const char* name : {"", "UNTITLED.DUI"}) {
+    record.ProjectFileName = name;
+    Scripted_Messages messages({Answer::Ok});
+    View_Output_Command(record);
+    Expect_Box(messages, "No File Specified", "BARVON", Icon::Critical);
+  }
+  EXPECT_TRUE(opened.empty());
+}
+
+TEST_F(ViewResults, Output_That_Was_Never_Produced_Is_Told_As_Missing) {
+  Scripted_Messages messages({Answer::Ok});
+  View_Output_Command(record);
+  Expect_Box(messages, "File " + record.BaseFileName + ".duo Not Found.", "BARVON", Icon::Warning);
+  EXPECT_TRUE(opened.empty());
+}
+
+TEST_F(ViewResults, Output_Is_Opened_Whatever_The_Case_Of_Its_Name) {
+  Write_Text(bench.folder / "bay/SITE.DUO", "output");
+  Scripted_Messages messages;
+  View_Output_Command(record);
+  EXPECT_EQ(opened, std::vector<std::string>{bench.folder / "bay/SITE.DUO"});
+  EXPECT_TRUE(bench.notes.empty());
+}
+
+TEST_F(ViewResults, Output_That_Nothing_Can_Show_Is_Told) {
+  Write_Text(record.BaseFileName + ".duo", "output");
+  opens = false;
+  Scripted_Messages messages;
+  View_Output_Command(record);
+  ASSERT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(bench.notes[0].text, record.BaseFileName + ".duo could not be shown.");
+}
+
+TEST_F(ViewResults, The_Graphics_Program_Is_Looked_For_In_The_Current_Directory) {
+  std::filesystem::current_path(bench.folder.path());
+  EXPECT_FALSE(Graphics_Program_Exists());
+  Write_Text(bench.folder / "KV_Graph.Exe", "x");
+  EXPECT_TRUE(Graphics_Program_Exists());
+}
+
+}  // namespace
+}  // namespace barvon
