@@ -8,6 +8,7 @@
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
 #include "run/create_process.h"
+#include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
 
@@ -24,6 +25,7 @@ int main(int, char** arguments) {
   const barvon::End_Signals end_signals(barvon::End_Program);
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_frmErrorList(&main);
+  barvon::Register_frmOpen(&main);
   main.show();
   return QApplication::exec();
 }

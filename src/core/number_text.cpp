@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <optional>
 #include <string>
 #include <system_error>
 
@@ -22,10 +21,15 @@ constexpr int kMostPlainExponent = 15;   // 999999999999999 is 0.999... x 10^15
 bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
 bool Is_Blank(char c) { return c == ' ' || c == '\t'; }
 
-/// The longest start of the text that is a number, in the form that from_chars reads. The text
-/// holds no blanks in front.
-std::string Leading_Number(std::string_view text) {
+/// The longest start of the text that is a number, in the form that from_chars reads, and where it
+/// ends. The text holds no blanks in front.
+struct Leading_Number {
+  explicit Leading_Number(std::string_view text);
   std::string number;
+  std::size_t end = 0;
+};
+
+Leading_Number::Leading_Number(std::string_view text) {
   std::size_t at = 0;
   if (at < text.size() && (text[at] == '-' || text[at] == '+')) {
     if (text[at] == '-') number += '-';
@@ -37,16 +41,22 @@ std::string Leading_Number(std::string_view text) {
     number += '.';
     for (++at; at < text.size() && Is_Digit(text[at]); ++at, any_digit = true) number += text[at];
   }
-  if (!any_digit) return {};
+  if (!any_digit) {
+    number.clear();
+    return;
+  }
+  end = at;
   if (at < text.size() && std::string_view("eEdD").find(text[at]) != std::string_view::npos) {
     std::string exponent = "e";
     std::size_t next = at + 1;
     if (next < text.size() && (text[next] == '-' || text[next] == '+')) exponent += text[next++];
     const std::size_t first_digit = next;
     while (next < text.size() && Is_Digit(text[next])) exponent += text[next++];
-    if (next > first_digit) number += exponent;
+    if (next > first_digit) {
+      number += exponent;
+      end = next;
+    }
   }
-  return number;
 }
 
 /// Whether a number that no double holds is too small rather than too large. The written power of
@@ -69,17 +79,22 @@ bool Is_Tiny(const std::string& number) {
   return place + (negative_power ? -1LL : 1LL) * power < 0;
 }
 
-/// The value of what Leading_Number gave; nothing beyond a double's range. Too small is 0.
-std::optional<double> Value_Of(const std::string& number) {
-  if (number.empty()) return 0.0;
+enum class Range { Held, Too_Small, Too_Large };
+
+struct Conversion {
+  double value = 0;  // 0 unless it is held
+  Range range = Range::Held;
+};
+
+Conversion Convert(const std::string& number) {
+  if (number.empty()) return {};
   double value = 0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
   if (error == std::errc::result_out_of_range) {
     // from_chars does not tell too large from too small.
-    if (Is_Tiny(number)) return 0.0;
-    return std::nullopt;
+    return {0, Is_Tiny(number) ? Range::Too_Small : Range::Too_Large};
   }
-  return value;
+  return {value, Range::Held};
 }
 
 std::int16_t Whole_To_Int16(double whole) {
@@ -129,11 +144,16 @@ Decimal_Digits To_Decimal(double value, int count) {
   return decimal;
 }
 
-double Lenient_Number(std::string_view text) {
+Number_Start Read_Number_Start(std::string_view text) {
   const auto first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return 0;
-  return Value_Of(Leading_Number(text.substr(first))).value_or(0.0);
+  if (first == std::string_view::npos) return {};
+  const Leading_Number start(text.substr(first));
+  const Conversion conversion = Convert(start.number);
+  return {conversion.value, start.end == 0 ? 0 : first + start.end,
+          conversion.range == Range::Held};
 }
+
+double Lenient_Number(std::string_view text) { return Read_Number_Start(text).value; }
 
 double Column_Number(std::string_view text) {
   std::string dense;
@@ -141,9 +161,9 @@ double Column_Number(std::string_view text) {
   for (const char c : text) {
     if (!Is_Blank(c)) dense += c;
   }
-  const auto value = Value_Of(Leading_Number(dense));
-  if (!value) throw Run_Time_Failure{Failure::Overflow};
-  return *value;
+  const Conversion conversion = Convert(Leading_Number(dense).number);
+  if (conversion.range == Range::Too_Large) throw Run_Time_Failure{Failure::Overflow};
+  return conversion.value;
 }
 
 std::string Plain_Number(double value) {

@@ -22,6 +22,14 @@ Decimal_Digits To_Decimal(double value, int count = 15);
 /// exponent may be written with E or D. A number beyond the range of a double reads as 0.
 double Lenient_Number(std::string_view text);
 
+/// What the lenient parse makes of a text.
+struct Number_Start {
+  double value = 0;
+  std::size_t end = 0;   // the first character that is no part of the number; 0 without a number
+  bool in_range = true;  // false: what is written is too large or too small, and reads as 0
+};
+Number_Start Read_Number_Start(std::string_view text);
+
 /// The decimal conversion of the project file's columns: as Lenient_Number, but blanks and tabs
 /// inside the number are ignored too. Throws Run_Time_Failure (Overflow) beyond a double's range.
 double Column_Number(std::string_view text);

@@ -1,0 +1,136 @@
+#include "platform/qt/input_screen.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTabWidget>
+#include <QWindow>
+
+namespace barvon {
+namespace {
+
+constexpr double kPlace = 0.03;  // of the display's width and height
+
+/// Whether a window is a screen of the program, known by its name, and no box, dialog or help.
+bool Is_Screen(const QString& name) {
+  return name.startsWith(QLatin1String("frm")) || name == QLatin1String("Main") ||
+         name == QLatin1String("Data_Wiz") || name == QLatin1String("DataBase");
+}
+
+QWidget* Widget_Of(const QWindow* window) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->windowHandle() == window) return widget;
+  }
+  return nullptr;
+}
+
+/// Brings every tab to the front that the control is in.
+void Show_Tabs_Of(QWidget* control) {
+  for (QWidget* inside = control; inside != nullptr; inside = inside->parentWidget()) {
+    for (QWidget* at = inside->parentWidget(); at != nullptr; at = at->parentWidget()) {
+      auto* tabs = qobject_cast<QTabWidget*>(at);
+      if (tabs != nullptr && tabs->indexOf(inside) >= 0) tabs->setCurrentWidget(inside);
+    }
+  }
+}
+
+QWidget* First_Control(QWidget* screen) {
+  for (QWidget* at = screen->nextInFocusChain(); at != screen; at = at->nextInFocusChain()) {
+    const bool takes_tab = (at->focusPolicy() & Qt::TabFocus) != 0;
+    if (takes_tab && screen->isAncestorOf(at) && at->isVisibleTo(screen) && at->isEnabled()) {
+      return at;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Input_Screen::Input_Screen(const char* name, QWidget* workspace) : QDialog(workspace) {
+  setObjectName(QLatin1String(name));
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, &Input_Screen::Window_In_Focus);
+}
+
+QHBoxLayout* Input_Screen::Make_Command1(const std::vector<QString>& captions) {
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  for (const QString& caption : captions) {
+    const int index = static_cast<int>(Command1_.size());
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(QStringLiteral("Command1(%1)").arg(index));
+    connect(button, &QPushButton::clicked, this, [this, index] { Run_Command(index); });
+    row->addWidget(button);
+    Command1_.push_back(button);
+  }
+  Command1_.front()->setDefault(true);
+  return row;
+}
+
+void Input_Screen::Open(bool blocking, const std::string& control) {
+  if (isVisible()) {
+    Focus(control);
+    raise();
+    activateWindow();
+    return;
+  }
+  was_elsewhere_ = false;
+  FillingForm = true;
+  Opening();
+  FillingForm = false;
+  Activated();
+  Place();
+  if (QWidget* first = First_Control(this)) first->setFocus(Qt::OtherFocusReason);
+  Focus(control);
+  if (blocking) {
+    exec();
+    return;
+  }
+  setModal(false);
+  show();
+  raise();
+  activateWindow();
+}
+
+void Input_Screen::Place() {
+  const QRect display = screen()->geometry();
+  move(display.left() + static_cast<int>(display.width() * kPlace),
+       display.top() + static_cast<int>(display.height() * kPlace));
+}
+
+void Input_Screen::Focus(const std::string& name) {
+  if (name.empty()) return;
+  auto* control = findChild<QWidget*>(QString::fromStdString(name));
+  if (control == nullptr) return;
+  Show_Tabs_Of(control);
+  control->setFocus(Qt::OtherFocusReason);
+}
+
+void Input_Screen::Window_In_Focus(QWindow* window) {
+  if (window == nullptr || !isVisible()) return;
+  const QWidget* front = Widget_Of(window);
+  if (front == nullptr) return;
+  if (front == this) {
+    if (was_elsewhere_) Activated();
+    was_elsewhere_ = false;
+  } else if (Is_Screen(front->objectName())) {
+    was_elsewhere_ = true;
+  }
+}
+
+void Input_Screen::reject() {
+  // A button's own action has decided already.
+  if (running_command_) {
+    QDialog::reject();
+  } else {
+    Run_Command(kCancel);
+  }
+}
+
+void Input_Screen::Run_Command(int index) {
+  if (running_command_) return;
+  running_command_ = true;
+  const QPointer<Input_Screen> alive(this);
+  Command1_Click(index);
+  if (alive) running_command_ = false;
+}
+
+}  // namespace barvon

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QPushButton>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace barvon {
+
+/// Base of the input screens. A screen builds its controls in its constructor, fills them in
+/// Opening, copies what Cancel restores in Activated, and answers its buttons in Command1_Click;
+/// there close() or accept() closes it.
+class Input_Screen : public QDialog {
+ public:
+  enum Command { kOk = 0, kCancel = 1, kHelp = 2 };
+
+  /// `name` is the screen's name and reference, "frmOperation"; it opens over `workspace`.
+  Input_Screen(const char* name, QWidget* workspace);
+
+  /// Opens at 3 % of the display's width and height from its left and top and, when blocking,
+  /// comes back when the screen is closed. The focus goes to the control of that name, in
+  /// whichever tab it is, else to the first control. A screen that is open already comes to the
+  /// front as it stands.
+  void Open(bool blocking, const std::string& control = {});
+
+  /// Escape and the close box are Cancel.
+  void reject() override;
+
+ protected:
+  /// Before the screen is shown. FillingForm is set meanwhile.
+  virtual void Opening() {}
+  /// After Opening, and whenever the user comes back to the screen from another of the program's
+  /// screens; not when a message box, a file dialog or the help is closed.
+  virtual void Activated() {}
+  virtual void Command1_Click(int index) = 0;
+
+  /// The button row, Command1(0) and on. The first is what Return presses.
+  QHBoxLayout* Make_Command1(const std::vector<QString>& captions = {QStringLiteral("OK"),
+                                                                     QStringLiteral("C&ancel"),
+                                                                     QStringLiteral("&Help")});
+  QPushButton* Command1(int index) const { return Command1_.at(static_cast<std::size_t>(index)); }
+
+  /// Whether the screen fills itself: handlers that must rest meanwhile ask it.
+  bool FillingForm = false;
+
+ private:
+  void Place();
+  void Focus(const std::string& control);
+  void Window_In_Focus(QWindow* window);
+  void Run_Command(int index);
+
+  std::vector<QPushButton*> Command1_;
+  bool running_command_ = false;
+  bool was_elsewhere_ = false;  // the user is at another screen of the program
+};
+
+/// Opens a screen made anew at each use; one that is open already comes to the front. Fits the
+/// register of screens: `Register_Screen("frmOperation", Fresh_Screens<frmOperation>(&main))`.
+/// `Screen` is constructed from its workspace, which must outlive the opener's last use.
+template <class Screen>
+std::function<void(bool, const std::string&)> Fresh_Screens(QWidget* workspace) {
+  // Shared: whoever calls an opener may call a copy of it.
+  const auto open = std::make_shared<QPointer<Screen>>();
+  return [workspace, open](bool blocking, const std::string& control) {
+    if (open->isNull() || !(*open)->isVisible()) {
+      *open = new Screen(workspace);
+      QObject::connect(open->data(), &QDialog::finished, open->data(), &QObject::deleteLater);
+    }
+    (*open)->Open(blocking, control);
+  };
+}
+
+}  // namespace barvon
