@@ -3,9 +3,7 @@
 #include <QEvent>
 #include <functional>
 
-#include "core/path_lookup.h"
 #include "core/settings_keys.h"
-#include "core/workspace_port.h"
 #include "platform/help_viewer.h"
 #include "platform/message_box.h"
 #include "platform/profile_settings.h"
