@@ -21,6 +21,9 @@ Help_Page::Help_Page(Help_Library& library, QWidget* parent)
   setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
   // Words stay whole; a page that is still too wide is moved sideways.
   setWordWrapMode(QTextOption::WordWrap);
+  // A bar that comes and goes takes its width from a page that is already laid out, which then
+  // stays too wide.
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   document()->setDocumentMargin(12);
 }
 
