@@ -72,6 +72,13 @@ void Type(QWidget* field, const QString& text) {
   }
 }
 
+bool Has_Keyboard(QWidget* window) {
+  return Wait_Until([window] {
+    return QGuiApplication::focusWindow() == window->windowHandle() &&
+           QApplication::activeWindow() == window;
+  });
+}
+
 bool Wait_Until(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition, 10000);
 }

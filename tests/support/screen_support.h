@@ -70,6 +70,10 @@ class Main_Bench {
 /// Types a text of any alphabet.
 void Type(QWidget* field, const QString& text);
 
+/// Waits until the window has the keyboard. That a window is active says less: a dialog's parent is
+/// active with it.
+bool Has_Keyboard(QWidget* window);
+
 /// Lets events pass until the condition holds; false when it still does not after ten seconds.
 bool Wait_Until(const std::function<bool()>& condition);
 

@@ -125,6 +125,8 @@ void Input_Screen::reject() {
   }
 }
 
+void Input_Screen::Unload() { done(Rejected); }
+
 void Input_Screen::Run_Command(int index) {
   if (running_command_) return;
   running_command_ = true;

@@ -13,7 +13,7 @@ namespace barvon {
 
 /// Base of the input screens. A screen builds its controls in its constructor, fills them in
 /// Opening, copies what Cancel restores in Activated, and answers its buttons in Command1_Click;
-/// there close() or accept() closes it.
+/// there Unload closes it.
 class Input_Screen : public QDialog {
  public:
   enum Command { kOk = 0, kCancel = 1, kHelp = 2 };
@@ -29,6 +29,11 @@ class Input_Screen : public QDialog {
 
   /// Escape and the close box are Cancel.
   void reject() override;
+
+  /// Closes the screen without asking anyone.
+  void Unload();
+  /// Called while the close box is at work it would do nothing.
+  bool close() = delete;
 
  protected:
   /// Before the screen is shown. FillingForm is set meanwhile.

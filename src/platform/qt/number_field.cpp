@@ -31,7 +31,6 @@ class Number_Mark : public QAction {
       : QAction(field), field_(field), note_(std::move(note)) {
     setObjectName(QLatin1String(kMark));
     setIcon(QIcon(QStringLiteral(":/pictures/reads-as.svg")));
-    setVisible(false);
     field->addAction(this, QLineEdit::TrailingPosition);
     field->installEventFilter(this);
     connect(field, &QLineEdit::textChanged, this, [this] { Follow(); });
