@@ -11,6 +11,7 @@
 #include "core/project_record.h"
 #include "core/screen_register.h"
 #include "platform/help_viewer.h"
+#include "platform/qt/show_dialog.h"
 
 namespace barvon {
 namespace {
@@ -89,14 +90,7 @@ void frmErrorList::Open(bool blocking) {
     move(place.topLeft());
   }
   List1->setFocus();
-  if (blocking) {
-    exec();
-    return;
-  }
-  setModal(false);
-  show();
-  raise();
-  activateWindow();
+  Show_Dialog(*this, blocking);
 }
 
 /// The row that shows as selected, -1 for none: the list has a current row before anyone chose one.

@@ -55,7 +55,9 @@ void Tell_How_It_Ended(const Process_Outcome& outcome) {
 
 }  // namespace
 
-bool Graphics_Program_Exists() { return Find_Graphics_Program(".").has_value(); }
+bool Graphics_Program_Exists() {
+  return File_Exist(kGraphicsProgram) || File_Exist(kNativeGraphicsProgram);
+}
 
 void Graph_Command(const ProjectRecord& record, int kind) {
   if (!Find_Path(record.BaseFileName + ".DUI")) {

@@ -11,6 +11,7 @@
 #include "core/project_record.h"
 #include "core/screen_register.h"
 #include "platform/qt/option_paint.h"
+#include "platform/qt/show_dialog.h"
 #include "workspace/file_menu.h"
 
 namespace barvon {
@@ -119,14 +120,7 @@ void frmOpen::Open(bool blocking) {
   const QRect display = screen()->geometry();
   move(display.left() + (display.width() - width()) / 2,
        display.top() + (display.height() - height()) / 2);
-  if (blocking) {
-    exec();
-    return;
-  }
-  setModal(false);
-  show();
-  raise();
-  activateWindow();
+  Show_Dialog(*this, blocking);
 }
 
 void frmOpen::Show_Page(int page) { pages_->setCurrentIndex(page); }

@@ -1,4 +1,5 @@
 #include "platform/qt/input_screen.h"
+#include "platform/qt/show_dialog.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -80,14 +81,7 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   Place();
   if (QWidget* first = First_Control(this)) first->setFocus(Qt::OtherFocusReason);
   Focus(control);
-  if (blocking) {
-    exec();
-    return;
-  }
-  setModal(false);
-  show();
-  raise();
-  activateWindow();
+  Show_Dialog(*this, blocking);
 }
 
 void Input_Screen::Place() {
