@@ -110,7 +110,9 @@ QCPLegend* Add_Legend(QCustomPlot& plot) {
   legend->setFillOrder(QCPLegend::foColumnsFirst);
   legend->setBorderPen(Qt::NoPen);
   legend->setTextColor(kInk);
-  legend->setIconSize(22, 10);
+  legend->setIconSize(20, 10);
+  // A saved SVG shows the icons' lines unclipped, a little longer than on the screen.
+  legend->setIconTextPadding(10);
   legend->setMargins(QMargins(8, 3, 8, 0));
   legend->setRowSpacing(0);
   plot.plotLayout()->setRowStretchFactor(0, 0.001);
