@@ -101,7 +101,7 @@ void Velocity_Arrows::Fit_Arrows() {
   const QRect axes = plot()->axisRect()->rect();
   const int row_stride = Arrow_Stride(drawing_.rows, axes.height(), kLeastApart);
   const int column_stride = Arrow_Stride(drawing_.columns, axes.width(), kLeastApart);
-  arrows_->arrows = Arrows_Of(grid_, drawing_, row_stride, column_stride);
+  arrows_->arrows = Arrows_Of(drawing_, row_stride, column_stride);
   const double apart =
       std::min(row_stride * static_cast<double>(axes.height()) / drawing_.rows,
                column_stride * static_cast<double>(axes.width()) / drawing_.columns);

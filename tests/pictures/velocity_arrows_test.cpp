@@ -101,6 +101,21 @@ TEST(VelocityArrows, A_Point_Tells_Its_Numbers) {
   EXPECT_EQ(map.Tip_At({0, 0}), "");
 }
 
+// The plot draws when its size changes, before the new data is brought to it.
+TEST(VelocityArrows, A_Smaller_Grid_And_A_New_Size_At_Once_Are_No_Trouble) {
+  Velocity_Arrows map;
+  map.Show(Even_Grid(96, 96, 1, 1));
+  Seen(map);
+  map.Show(Even_Grid(8, 9, 1, 1));
+  map.resize(300, 200);
+  map.grab();
+  EXPECT_EQ(map.Drawn().columns, 9);
+  for (const Velocity_Arrow& arrow : map.Arrows()) {
+    EXPECT_LE(arrow.row, 8);
+    EXPECT_LE(arrow.column, 9);
+  }
+}
+
 TEST(VelocityArrows, No_Values_Are_Any_Trouble) {
   Velocity_Arrows map;
   map.Show({});

@@ -32,7 +32,7 @@ TEST(VelocityDrawing, Speeds_Are_The_Length_Of_Both_Components) {
 // Parts of the fastest speed, 5: (4, 3) is (0.8, 0.6), 2 up is -0.4 down.
 TEST(VelocityDrawing, An_Arrow_Goes_Right_With_Z_And_Down_With_X) {
   const Velocity_Grid grid = Small_Grid();
-  const auto arrows = Arrows_Of(grid, Draw_Velocities(grid), 1, 1);
+  const auto arrows = Arrows_Of(Draw_Velocities(grid), 1, 1);
   ASSERT_EQ(arrows.size(), 3u);
   EXPECT_DOUBLE_EQ(arrows[0].right, 0.8);
   EXPECT_DOUBLE_EQ(arrows[0].down, 0.6);
@@ -49,7 +49,7 @@ TEST(VelocityDrawing, A_Large_Grid_Has_An_Arrow_Every_Few_Points) {
   EXPECT_EQ(Arrow_Stride(8, 0, 20), 1);
   // In blocks of 5 the middle is the third: 3, 8, ... 93, that is 19 of them.
   const Velocity_Grid grid = Even_Grid(96, 96);
-  const auto arrows = Arrows_Of(grid, Draw_Velocities(grid), 5, 5);
+  const auto arrows = Arrows_Of(Draw_Velocities(grid), 5, 5);
   ASSERT_EQ(arrows.size(), 19u * 19u);
   EXPECT_EQ(arrows.front().row, 3);
   EXPECT_EQ(arrows.front().column, 3);
@@ -64,7 +64,7 @@ TEST(VelocityDrawing, Points_Without_A_Velocity_Have_No_Arrow) {
   EXPECT_EQ(drawing.left_out, 2);
   EXPECT_EQ(drawing.fastest, 2);
   EXPECT_EQ(drawing.note, "2 points without a velocity.");
-  EXPECT_EQ(Arrows_Of(grid, drawing, 1, 1).size(), 1u);
+  EXPECT_EQ(Arrows_Of(drawing, 1, 1).size(), 1u);
   EXPECT_EQ(Velocity_Cell_Text(grid, 1, 1),
             "Row 1, Col 1: no velocity\nX 0 ft from the top, Z 0 ft from the left");
 }
@@ -76,7 +76,7 @@ TEST(VelocityDrawing, Still_Water_Has_A_Scale_And_No_Arrows) {
   EXPECT_EQ(drawing.note, "Still water everywhere.");
   EXPECT_EQ(drawing.reference, 0);
   EXPECT_LT(drawing.scale.low, drawing.scale.high);
-  EXPECT_TRUE(Arrows_Of(grid, drawing, 1, 1).empty());
+  EXPECT_TRUE(Arrows_Of(drawing, 1, 1).empty());
 }
 
 TEST(VelocityDrawing, A_Point_Tells_Velocities_Speed_And_Heading) {
@@ -97,7 +97,7 @@ TEST(VelocityDrawing, A_Grid_Of_The_Wrong_Size_Is_An_Empty_One) {
   EXPECT_EQ(drawing.rows, 0);
   EXPECT_EQ(drawing.description, "No velocity to show.");
   EXPECT_EQ(Velocity_Cell_Text(grid, 1, 1), "");
-  EXPECT_TRUE(Arrows_Of(grid, drawing, 1, 1).empty());
+  EXPECT_TRUE(Arrows_Of(drawing, 1, 1).empty());
 }
 
 }  // namespace
