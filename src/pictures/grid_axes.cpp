@@ -10,11 +10,13 @@
 namespace barvon {
 namespace {
 
+constexpr double kTightest = 0.85;  // part of a label's room that the first two may shrink to
+
 void Put_Headings(QCPAxis& axis, const QString& word, int count, double pixels, double label) {
   const QSharedPointer<QCPAxisTickerText> headings(new QCPAxisTickerText);
   const int stride = Label_Stride(count, pixels, label);
   // 1, 3, 5 and so on, or 1 and the multiples of a larger stride, but none too near to the first.
-  const bool skip = (stride - 1) * pixels < label * count;
+  const bool skip = (stride - 1) * pixels < kTightest * label * count;
   for (int at = 1; at <= count; at += at == 1 && stride > 2 ? stride - 1 : stride) {
     if (at == 1 || at != stride || !skip) headings->addTick(at, word.arg(at));
   }
