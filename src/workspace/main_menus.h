@@ -16,6 +16,13 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
 
+/// Shows or hides a menu of the bar.
+void Show_Menu(Main_Controls& controls, const char* name, bool shown);
+
+/// A letter goes to the menu bar first; a command's button answers to the letter of its caption as
+/// far as no menu in view has it.
+void Share_Letters(Main_Controls& controls);
+
 /// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
 void Show_Tools_Menu(Main_Controls& controls);
 
