@@ -5,6 +5,7 @@
 
 #include "platform/qt/tool_bar_keys.h"
 #include "workspace/board_parts.h"
+#include "workspace/main_help.h"
 
 namespace barvon {
 namespace {
@@ -78,6 +79,7 @@ void Build_Boards(Main_Controls& controls) {
   layout->addLayout(Command_Row(controls));
   controls.window->setCentralWidget(centre);
   Set_Tab_Order(controls);
+  Set_Help_Topics(controls);
   Show_Main_Board(controls);
 }
 

@@ -132,6 +132,14 @@ TEST_F(WindowWalk, A_Letter_That_A_Caption_Shows_But_Gave_Up_Does_Not_Clash) {
   EXPECT_EQ(Listed(Clashing_Keys(window)), "");
 }
 
+TEST_F(WindowWalk, A_Key_Of_Another_Window_Does_Not_Clash) {
+  QWidget dialog(&window, Qt::Dialog);
+  new QShortcut(QKeySequence::HelpContents, &dialog);
+  new QShortcut(QKeySequence::HelpContents, &window);
+  Show();
+  EXPECT_EQ(Listed(Clashing_Keys(window)), "");
+}
+
 TEST_F(WindowWalk, Finds_What_Tab_Does_Not_Reach) {
   Put(new QLineEdit, 10, 40);
   Put(new QPushButton("left out"), 10, 80)->setFocusPolicy(Qt::ClickFocus);

@@ -226,12 +226,18 @@ Complaints Shortened_Texts(const QWidget& window) {
 Complaints Clashing_Keys(const QWidget& window) {
   Claims claims;
   for (const QWidget* control : Controls_In_View(window)) Add_Letters_Of(control, claims);
+  const auto of_window = [&window](const QObject* key) {
+    const auto* owner = qobject_cast<const QWidget*>(key->parent());
+    return owner != nullptr && owner->window() == &window;
+  };
   for (const QAction* action : window.findChildren<QAction*>()) {
+    if (!of_window(action)) continue;
     for (const QKeySequence& key : action->shortcuts()) {
       claims.Add(key, "action " + action->objectName().toStdString());
     }
   }
   for (const auto* shortcut : window.findChildren<QShortcut*>()) {
+    if (!of_window(shortcut)) continue;
     claims.Add(shortcut->key(), "key of " + shortcut->parent()->objectName().toStdString());
   }
   return claims.Clashes();

@@ -9,7 +9,6 @@
 #include "core/screen_register.h"
 #include "core/settings_keys.h"
 #include "core/workspace_port.h"
-#include "platform/help_viewer.h"
 #include "support/screen_support.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_menus.h"
@@ -105,25 +104,6 @@ TEST(MainMenus, Graphics_Without_Their_Program_Are_Told_In_A_Critical_Box) {
   EXPECT_EQ(replies.seen.at(0).text, "File: KV_graph.exe Not Found.");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
-}
-
-TEST(MainMenus, Help_Goes_To_The_Contents_Unless_The_Active_Control_Has_A_Topic) {
-  Main_Bench bench;
-  std::vector<std::pair<Help_Command, int>> asked;
-  const auto former = Set_Help_Presenter(
-      [&](const Help_Request& request) { asked.emplace_back(request.command, request.topic); });
-  bench.controls().Title_Box->setFocus();
-  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
-  bench.controls().Title_Box->setProperty("HelpContextID", 2460);
-  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
-  EXPECT_EQ(Project().HelpContextToShow, 2460);
-  bench.Action("mnuHelpItem(0)")->trigger();
-  bench.Action("mnuHelpItem(1)")->trigger();
-  Set_Help_Presenter(former);
-  EXPECT_EQ(asked, (std::vector<std::pair<Help_Command, int>>{{Help_Command::Index, 0},
-                                                              {Help_Command::Context, 2460},
-                                                              {Help_Command::Finder, 0},
-                                                              {Help_Command::PartialKey, 0}}));
 }
 
 TEST(MainMenus, Options_Toggle_Their_State_And_Help_Is_Kept_In_The_Settings) {
