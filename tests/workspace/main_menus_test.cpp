@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QGroupBox>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -42,17 +43,68 @@ TEST(MainMenus, At_Start_Nothing_Of_The_Edit_Menu_And_No_Run_Is_Available) {
   EXPECT_FALSE(bench.Action("mnuWindow")->isVisible());
 }
 
-TEST(MainMenus, Captions_Stand_As_They_Are_Told) {
+TEST(MainMenus, Every_Item_Stands_In_The_Bar_As_The_Menu_Tree_Has_It) {
   Main_Bench bench;
-  EXPECT_EQ(bench.Action("mnuRun")->text(), "Ru&n");
-  EXPECT_EQ(bench.Action("mnuFileItem(8)")->text(), "P&rint Setup");
-  EXPECT_EQ(bench.Action("mnuEditItem(3)")->text(), "&Input, Execution and Output Keys");
-  EXPECT_EQ(bench.Action("mnuViewItem(6)")->text(), "Multiple &Input Windows");
-  EXPECT_EQ(bench.Action("mnuGraph(2)")->text(), "Concentration Contours");
-  EXPECT_EQ(bench.Action("mnuOptionItem(1)")->text(), "Always Save Before Simulation?");
-  EXPECT_EQ(bench.Action("mnuHelpItem(1)")->text(), "&Search For Help On");
-  EXPECT_EQ(bench.Action("mnuFileItem(1)")->statusTip(), "Open Existing File");
-  EXPECT_EQ(bench.controls().SSPanel3(4)->text(), "Return To &Main Menu");
+  for (const Menu& menu : Menu_Tree()) {
+    EXPECT_EQ(bench.Action(menu.name)->text(), menu.caption);
+    for (const Menu_Item& item : menu.items) {
+      const QString name = QString("%1(%2)").arg(menu.array).arg(item.index);
+      QAction* action = bench.Action(qPrintable(name));
+      ASSERT_NE(action, nullptr) << name.toStdString();
+      EXPECT_EQ(action->objectName(), name);
+      EXPECT_EQ(action->text(), item.caption);
+      EXPECT_EQ(action->isSeparator(), *item.caption == '\0') << name.toStdString();
+      EXPECT_EQ(action->isEnabled(), item.enabled && item.visible) << name.toStdString();
+      EXPECT_EQ(action->isVisible(), item.visible) << name.toStdString();
+      EXPECT_EQ(action->isCheckable(), item.has_mark) << name.toStdString();
+      EXPECT_EQ(action->isChecked(), item.marked) << name.toStdString();
+      EXPECT_EQ(action->statusTip(), item.hint) << name.toStdString();
+      EXPECT_TRUE(bench.Action(menu.name)->menu()->actions().contains(action));
+    }
+  }
+}
+
+TEST(MainMenus, The_Commands_Have_Their_Captions) {
+  Main_Bench bench;
+  const char* captions[] = {
+      "Enter/Edit &Data",     "&Run Simulation", "View &Graphics", "&Update Database",
+      "Return To &Main Menu", "E&xit",           "&Help",          "View &Output",
+      "&Save Data File",      "Data &Wizard"};
+  for (int i = 0; i < 10; ++i) EXPECT_EQ(bench.controls().SSPanel3(i)->text(), captions[i]);
+}
+
+TEST(MainMenus, The_Main_Menu_Board_Has_Its_Captions) {
+  Main_Bench bench;
+  const std::pair<const char*, const char*> frames[] = {{"Frame3D1", "BARVON Main Menu"},
+                                                        {"Frame3D3", "Data Categories"},
+                                                        {"Frame3D4", "DataBase Information"},
+                                                        {"Frame3D5", "Type of Analysis"},
+                                                        {"Frame3D6", "Method of Disposal"}};
+  for (const auto& [name, title] : frames) EXPECT_EQ(bench.Child<QGroupBox>(name)->title(), title);
+  const std::pair<const char*, const char*> labels[] = {
+      {"Label1", "Project Title"},
+      {"Label7", "Determine Contaminant Based on Dilution Needs"},
+      {"Label2(0)", "Program Options"},
+      {"Label2(1)", "Site Description"},
+      {"Label2(2)", "Velocity Data"},
+      {"Label2(3)", "Material Description"},
+      {"Label2(4)", "Disposal Operation"},
+      {"Label2(5)", "Coefficients"},
+      {"Label3(0)", "Site: NONE"},
+      {"Label3(1)", "Month: NONE"},
+      {"Label3(2)", "Material Location: NONE"},
+      {"Label3(3)", "Disposal Vessel: NONE"}};
+  for (const auto& [name, text] : labels) EXPECT_EQ(bench.Child<QLabel>(name)->text(), text);
+  const std::pair<const char*, const char*> options[] = {
+      {"SSOption1(0)", "General Open Water Disposal Analysis"},
+      {"SSOption1(1)", "Section 103 Regulatory Analysis for Ocean Sites"},
+      {"SSOption1(2)", "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"},
+      {"SSOption2(0)", "Disposal from a Multiple Bin Hopper Dredge"},
+      {"SSOption2(1)", "Disposal from a Split-Hull Barge or Scow"},
+      {"SSCheck1", "DataBase Used"}};
+  for (const auto& [name, text] : options) {
+    EXPECT_EQ(bench.Child<QAbstractButton>(name)->text(), text);
+  }
 }
 
 TEST(MainMenus, Without_Recent_Files_Neither_Entries_Nor_Separator_Show) {
