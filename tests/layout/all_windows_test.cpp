@@ -16,6 +16,7 @@
 #include "core/workspace_port.h"
 #include "platform/qt/frm_progress_bar.h"
 #include "platform/qt/help_window.h"
+#include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/text_window.h"
 #include "support/screen_support.h"
@@ -126,6 +127,31 @@ void Look_At_Progress(const Look& look) {
   look(progress, "");
 }
 
+/// Looks at the blocking dialog that `open` brings up, and calls it off.
+void Look_At_Blocking(const std::string& name, const std::function<void()>& open,
+                      const Look& look) {
+  Modal_Replies replies({[&](QWidget* dialog) {
+    if (dialog->objectName().isEmpty()) dialog->setObjectName(QString::fromStdString(name));
+    if (!QTest::qWaitForWindowExposed(dialog)) ADD_FAILURE() << name << " stays hidden";
+    look(*dialog, name);
+    dialog->close();
+  }});
+  open();
+}
+
+void Look_At_File_Dialogs(const Look& look) {
+  Scratch_Folder folder;
+  for (const char* name : {"Barge_Four_Layers.DUI", "Section_103_Water_Quality.DUI"}) {
+    Write_Text(folder / name, std::string(258000, 'x'));
+  }
+  const File_Request request{"", {{"BARVON Data Files", "*.DUI"}}, folder.path(), {}};
+  Look_At_Blocking(
+      "open", [&] { Ask_Qt_Open_File(request); }, look);
+  Look_At_Blocking(
+      "save", [&] { Ask_Qt_Save_File(request); }, look);
+  Look_At_Blocking("printer", Show_Qt_Printer_Setup, look);
+}
+
 void Walk_All_Windows(const Look& look) {
   const Look settled = [&look](QWidget& window, const std::string& state) {
     QCoreApplication::processEvents();
@@ -141,6 +167,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Progress(settled);
+  Look_At_File_Dialogs(settled);
 }
 
 std::string Where(const QWidget& window, const std::string& state) {

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -16,6 +17,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QToolBar>
+#include <QTreeWidget>
 
 #include "platform/qt/elided_label.h"
 
@@ -98,6 +100,19 @@ TEST_F(WindowWalk, Finds_A_Tab_Out_Of_View) {
   for (int i = 0; i < 20; ++i) tabs->addTab(QString("a tab named %1").arg(i));
   tabs->resize(300, tabs->sizeHint().height());
   Show();
+  EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
+}
+
+TEST_F(WindowWalk, Finds_A_Column_Without_Its_Room) {
+  auto* tree = Put(new QTreeWidget, 10, 40);
+  tree->setColumnCount(2);
+  tree->addTopLevelItem(new QTreeWidgetItem({"a", "a text of some length"}));
+  tree->header()->setStretchLastSection(false);
+  tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  Show();
+  EXPECT_EQ(Listed(Cut_Off_Texts(window)), "");
+  tree->header()->setSectionResizeMode(QHeaderView::Fixed);
+  tree->setColumnWidth(1, 60);
   EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
 }
 

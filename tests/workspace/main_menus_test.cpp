@@ -141,6 +141,28 @@ TEST(MainMenus, The_Commands_Switch_The_Boards) {
   EXPECT_FALSE(bench.controls().Frame3D2->isVisible());
 }
 
+TEST(MainMenus, The_Keyboard_Follows_To_The_Board_That_Comes) {
+  Main_Bench bench;
+  auto& c = bench.controls();
+  c.SSOption1(0)->click();
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const auto press = [&](Qt::Key letter, const QWidget* board) {
+    QTest::keyClick(&bench.main(), letter, Qt::AltModifier);
+    EXPECT_TRUE(Wait_Until([&] { return board->isVisible(); }));
+  };
+  c.Title_Box->setFocus();
+  press(Qt::Key_D, c.Frame3D2);
+  EXPECT_EQ(bench.main().focusWidget(), c.SSOption3(1));  // the chosen one
+  press(Qt::Key_M, c.Frame3D1);
+  EXPECT_EQ(bench.main().focusWidget(), c.Title_Box);
+  EXPECT_FALSE(c.Title_Box->hasSelectedText());
+  // A button that was clicked keeps it.
+  c.SSPanel3(0)->setFocus();
+  press(Qt::Key_D, c.Frame3D2);
+  EXPECT_EQ(bench.main().focusWidget(), c.SSPanel3(0));
+}
+
 TEST(MainMenus, Update_Database_Is_Inert) {
   Main_Bench bench;
   Modal_Replies replies({});
