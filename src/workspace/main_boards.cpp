@@ -102,7 +102,10 @@ void Show_Data_Board(Main_Controls& controls) {
   const bool has_focus = Has_Focus(controls, controls.Frame3D1);
   controls.Frame3D1->hide();
   controls.Frame3D2->show();
-  if (has_focus) controls.SSOption3(std::max(0, Chosen_Option(controls.SSOption3)))->setFocus();
+  if (has_focus) {
+    QRadioButton* first = controls.SSOption3(std::max(0, Chosen_Option(controls.SSOption3)));
+    first->setFocus(Qt::ShortcutFocusReason);
+  }
 }
 
 }  // namespace barvon
