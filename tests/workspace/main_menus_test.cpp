@@ -4,12 +4,15 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <functional>
 
 #include "core/project_record.h"
 #include "core/recent_files.h"
 #include "core/screen_register.h"
 #include "core/settings_keys.h"
 #include "core/workspace_port.h"
+#include "platform/file_dialog.h"
+#include "platform/message_box.h"
 #include "support/screen_support.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_menus.h"
@@ -208,14 +211,48 @@ TEST(MainMenus, View_Toggles_Toolbar_And_Show_Mode_But_Never_The_Status_Bar) {
   EXPECT_EQ(Project().ShowMode, 1);
 }
 
-TEST(MainMenus, The_Wizard_Opens_Blocking) {
+TEST(MainMenus, The_Wizard_Opens_Blocking_And_What_It_Did_Is_Shown) {
   Main_Bench bench;
   int opened = 0;
-  Register_Screen("Data_Wiz",
-                  [&](bool blocking, const std::string&) { opened += blocking ? 1 : 100; });
+  Register_Screen("Data_Wiz", [&](bool blocking, const std::string&) {
+    opened += blocking ? 1 : 100;
+    Project().ProjectTitle = "by the wizard";
+  });
   QTest::mouseClick(bench.controls().SSPanel3(9), Qt::LeftButton);
   Register_Screen("Data_Wiz", {});
   EXPECT_EQ(opened, 1);
+  EXPECT_EQ(bench.controls().Title_Box->text(), "by the wizard");
+}
+
+/// What an action asks the user: the boxes' texts and the names that a save dialog is asked for.
+std::vector<std::string> Asked_By(const std::function<void()>& action) {
+  std::vector<std::string> asked;
+  const Message_Presenter boxes = Set_Message_Presenter([&](const Message& message) {
+    asked.push_back(message.text);
+    return Answer_On_Close(message);
+  });
+  const File_Dialog_Presenter files = Set_File_Dialog_Presenter({{},
+                                                                 [&](const File_Request&) {
+                                                                   asked.push_back("a name");
+                                                                   return std::nullopt;
+                                                                 },
+                                                                 {}});
+  action();
+  Set_File_Dialog_Presenter(files);
+  Set_Message_Presenter(boxes);
+  return asked;
+}
+
+TEST(MainMenus, Commands_Do_As_Their_Entries_In_The_Menus) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  const std::pair<int, const char*> commands[] = {
+      {1, "mnuRun"}, {7, "mnuViewItem(1)"}, {8, "mnuFileItem(4)"}, {5, "mnuFileItem(10)"}};
+  for (const auto& [command, entry] : commands) {
+    const auto by_command = Asked_By([&] { bench.controls().SSPanel3(command)->click(); });
+    EXPECT_FALSE(by_command.empty()) << command;
+    EXPECT_EQ(by_command, Asked_By([&] { bench.Action(entry)->trigger(); })) << command;
+  }
 }
 
 TEST(MainMenus, Input_Keys_Show_The_Data_Board_And_Enter_The_Evaluation) {
