@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <QToolButton>
+#include <algorithm>
 #include <filesystem>
 
 #include "core/project_record.h"
@@ -112,19 +113,22 @@ TEST(MainToolbar, Print_Setup_Opens_The_Printer_Dialog) {
   EXPECT_EQ(setups, 1);
 }
 
-/// A desktop whose icon theme has these pictures, all of them plain red.
+/// A desktop whose icon theme has these pictures, plain red but for the pale ones.
 class Desktop_Icons {
  public:
-  explicit Desktop_Icons(const std::vector<std::string>& names) {
+  explicit Desktop_Icons(const std::vector<std::string>& names,
+                         const std::vector<std::string>& pale = {}) {
     const std::string theme = folder_ / "red";
     std::filesystem::create_directories(theme + "/scalable");
     Write_Text(theme + "/index.theme",
                "[Icon Theme]\nName=red\nDirectories=scalable\n\n[scalable]\nSize=48\n"
                "MinSize=8\nMaxSize=512\nType=Scalable\n");
     for (const std::string& name : names) {
+      const bool is_pale = std::find(pale.begin(), pale.end(), name) != pale.end();
       Write_Text(theme + "/scalable/" + name + ".svg",
                  "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"48\" height=\"48\">"
-                 "<rect width=\"48\" height=\"48\" fill=\"#ff0000\"/></svg>");
+                 "<rect width=\"48\" height=\"48\" fill=\"" +
+                     std::string(is_pale ? "#d0d4d0" : "#ff0000") + "\"/></svg>");
     }
     QIcon::setThemeSearchPaths({QString::fromStdString(folder_.path())});
     QIcon::setThemeName("red");
@@ -168,6 +172,14 @@ TEST(MainToolbar, Pictures_Are_Our_Own_As_Soon_As_The_Desktop_Lacks_One) {
       EXPECT_FALSE(Is_Red(Tool(bench, index)->icon())) << index << kThemed[lacking];
       EXPECT_FALSE(Tool(bench, index)->icon().isNull()) << index;
     }
+  }
+}
+
+TEST(MainToolbar, Pictures_Are_Our_Own_When_One_Of_The_Desktops_Can_Hardly_Be_Seen) {
+  for (const std::string& pale : kThemed) {
+    const Desktop_Icons icons(kThemed, {pale});
+    Main_Bench bench;
+    for (const int index : kTools) EXPECT_FALSE(Is_Red(Tool(bench, index)->icon())) << pale;
   }
 }
 
