@@ -187,9 +187,11 @@ void Add_Letters_Of(const QWidget* control, Claims& claims) {
 bool Is_Worked_With(const QWidget* control) {
   if (!control->isEnabled() || control->focusProxy() != nullptr) return false;
   const QWidget* parent = control->parentWidget();
-  // A clear button is in the field's own keys; a bar's and a heading's parts belong to it.
+  // A clear button is in the field's own keys; the parts of a bar, a box and
+  // a table belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
-      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QHeaderView*>(control)) {
+      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent) ||
+      qobject_cast<const QAbstractItemView*>(parent) || qobject_cast<const QHeaderView*>(control)) {
     return false;
   }
   return qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLineEdit*>(control) ||

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <cstring>
+#include <set>
 #include <stdexcept>
 #include <tuple>
 
@@ -133,6 +136,20 @@ TEST(MenuTree, Tools_Are_Hidden_Until_Their_Screens_Stand) {
   }
   EXPECT_EQ(Tool_Screen(6), nullptr);
   EXPECT_EQ(Tool_Screen(-1), nullptr);
+}
+
+TEST(MenuTree, Only_The_Two_Entries_With_E_Of_The_Edit_Menu_Share_A_Letter) {
+  std::vector<std::string> shared;
+  for (const Menu& menu : Menu_Tree()) {
+    std::set<char> taken;
+    for (const Menu_Item& item : menu.items) {
+      const char* mark = std::strchr(item.caption, '&');
+      if (mark == nullptr) continue;
+      const char letter = static_cast<char>(std::toupper(mark[1]));
+      if (!taken.insert(letter).second) shared.push_back(menu.name + std::string(1, letter));
+    }
+  }
+  EXPECT_EQ(shared, std::vector<std::string>{"mnuEditE"});
 }
 
 TEST(MenuTree, An_Ampersand_In_A_Recent_Path_Shows_As_It_Is) {
