@@ -238,7 +238,7 @@ TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
   const std::regex registers("Register_(?:Screen\\(\"|)((?:frm|Data|Graphic)\\w+)");
   int screens = 0;
   for (std::sregex_iterator at(program.begin(), program.end(), registers), end; at != end; ++at) {
-    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1];
+    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1] << " is not in Walk_All_Windows";
     ++screens;
   }
   EXPECT_GE(screens, 3);
