@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 #include "platform/message_box.h"
@@ -57,7 +58,7 @@ F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
                   model_->Cells_Changed(range);
                   Lay_Out_Later();
                 },
-                [this] { model_->Shape_Changed(); },
+                [this] { Follow_Shape(); },
                 [this] {
                   model_->Headings_Changed();
                   Lay_Out_Later();
@@ -75,8 +76,10 @@ F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
     if (!laying_out_) dragged_widths_[col + 1] = width;
   });
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    // Nothing has it: another window does, and gives it back.
-    if (now != nullptr) has_focus_ = now == this || isAncestorOf(now);
+    // Another window that takes it gives it back.
+    if (now != nullptr && now->window() == window()) {
+      has_focus_ = now == this || isAncestorOf(now);
+    }
   });
   Show_Cursor();
   Lay_Out();
@@ -264,8 +267,9 @@ void F1Book::selectionChanged(const QItemSelection& selected, const QItemSelecti
 }
 
 void F1Book::Move(Book_Move move) {
-  int row = table_.Row();
-  int col = table_.Col();
+  const int row = table_.Row();
+  const int col = table_.Col();
+  const bool empty = table_.MaxRow() == 0 || table_.MaxCol() == 0;
   const auto step = [&](int rows, int cols) {
     table_.SetActiveCell(std::clamp(row + rows, 1, std::max(table_.MaxRow(), 1)),
                          std::clamp(col + cols, 1, std::max(table_.MaxCol(), 1)));
@@ -280,8 +284,8 @@ void F1Book::Move(Book_Move move) {
     case Book_Move::Right:
       return step(0, 1);
     case Book_Move::Next:
-      if (col < table_.MaxCol()) return step(0, 1);
-      if (row < table_.MaxRow()) return table_.SetActiveCell(row + 1, 1);
+      if (!empty && col < table_.MaxCol()) return step(0, 1);
+      if (!empty && row < table_.MaxRow()) return table_.SetActiveCell(row + 1, 1);
       QTableView::focusNextPrevChild(true);
       return;
     case Book_Move::Previous:
@@ -371,6 +375,13 @@ void F1Book::Leave_Editor(Book_Move move) {
   Tell_Edit();
 }
 
+void F1Book::Drop_Editor() {
+  // Closed while its cell is still known, or the focus would go to whatever comes next.
+  if (state() == EditingState && delegate_->editor() != nullptr) {
+    closeEditor(delegate_->editor(), QAbstractItemDelegate::RevertModelCache);
+  }
+}
+
 void F1Book::FinishEdit() {
   if (state() == EditingState) Leave_Editor(Book_Move::None);
 }
@@ -384,14 +395,13 @@ bool F1Book::eventFilter(QObject* object, QEvent* event) {
 
 // Layout
 
-void F1Book::reset() {
-  if (model_ == nullptr || delegate_ == nullptr) return QTableView::reset();
-  qApp->removeEventFilter(this);
+void F1Book::Follow_Shape() {
+  Drop_Editor();
   const int x = horizontalScrollBar()->value();
   const int y = verticalScrollBar()->value();
   {
     const QScopedValueRollback following(following_, true);
-    QTableView::reset();
+    model_->Shape_Changed();
   }
   Show_Cursor();
   Lay_Out();
@@ -421,7 +431,7 @@ void F1Book::Lay_Out() {
   const QScopedValueRollback laying_out(laying_out_, true);
   const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
   verticalHeader()->setMinimumWidth(table_.RowHeadingWidth() * digit / 256);
-  verticalHeader()->setDefaultSectionSize(verticalHeader()->minimumSectionSize());
+  verticalHeader()->setDefaultSectionSize(Row_Pixels());
   horizontalHeader()->setMinimumHeight(table_.ColHeadingHeight() * logicalDpiY() / 1440);
   for (int col = 1; col <= table_.MaxCol(); ++col) {
     const auto dragged = dragged_widths_.find(col);
@@ -429,6 +439,13 @@ void F1Book::Lay_Out() {
                    dragged == dragged_widths_.end() ? Column_Pixels(col) : dragged->second);
   }
   updateGeometry();
+}
+
+int F1Book::Row_Pixels() const {
+  QFont font = this->font();
+  if (table_.LargestFont() > font.pointSize()) font.setPointSize(table_.LargestFont());
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameVMargin) + 2);
+  return std::max(verticalHeader()->minimumSectionSize(), QFontMetrics(font).height() + margins);
 }
 
 int F1Book::Column_Pixels(int col) const {

@@ -70,7 +70,6 @@ class F1Book : public QTableView {
 
   /// Room for a small table as a whole; a large one scrolls.
   QSize sizeHint() const override;
-  void reset() override;
   void keyboardSearch(const QString&) override {}
 
  signals:
@@ -103,15 +102,18 @@ class F1Book : public QTableView {
   static const std::vector<Command>& Commands();
   static const Command* Command_Of(const QKeyEvent& key);
 
+  void Follow_Shape();
   void Show_Cursor();
   void Take_Cursor();
   void Tell_Cursor();
   void Move(Book_Move move);
   void Leave_Editor(Book_Move move);
+  void Drop_Editor();
   void Finish(const Edit_Outcome& outcome);
   void Tell_Edit();
   void Lay_Out_Later();
   void Lay_Out();
+  int Row_Pixels() const;
   int Column_Pixels(int col) const;
 
   Spreadsheet_Table table_;
