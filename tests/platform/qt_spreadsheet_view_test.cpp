@@ -352,6 +352,16 @@ TEST_F(SpreadsheetView, Arrows_Move_And_Shift_Selects) {
   EXPECT_EQ(table().Selection(), "A1:C4");
 }
 
+TEST_F(SpreadsheetView, Shift_Selects_From_Where_Typing_Left_The_Cursor) {
+  Click(1, 1);
+  Type_In("4");
+  Key(Qt::Key_Tab);
+  Key(Qt::Key_Return);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(table().Selection(), "B2:C3");
+}
+
 TEST_F(SpreadsheetView, A_Drag_A_Shift_Click_And_A_Heading_Select_A_Range) {
   QTest::mousePress(book->viewport(), Qt::LeftButton, {}, Place(1, 1));
   QTest::mouseMove(book->viewport(), Place(2, 2));

@@ -218,7 +218,8 @@ void F1Book::Show_Cursor() {
   const QModelIndex current = model_->index(table_.Row() - 1, table_.Col() - 1);
   const Cell_Range& range = table_.SelectedRange();
   const auto shown = Shared(range, {1, 1, table_.MaxRow(), table_.MaxCol()});
-  selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+  // The view's own, so that Shift and an arrow select from here.
+  if (current != currentIndex() || range.rows() * range.cols() == 1) setCurrentIndex(current);
   if (shown) {
     selectionModel()->select({model_->index(shown->row1 - 1, shown->col1 - 1),
                               model_->index(shown->row2 - 1, shown->col2 - 1)},
@@ -460,8 +461,12 @@ int F1Book::Column_Pixels(int col) const {
 QSize F1Book::sizeHint() const {
   const int width = verticalHeader()->sizeHint().width() + horizontalHeader()->length();
   const int height = horizontalHeader()->sizeHint().height() + verticalHeader()->length();
+  // A table that scrolls in one direction must not do so in the other for the bar's sake.
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const QSize frame(2 * frameWidth(), 2 * frameWidth());
-  return QSize(std::min(width, kLargestHintWidth), std::min(height, kLargestHintHeight)) + frame;
+  return QSize(std::min(width + (height > kLargestHintHeight ? bar : 0), kLargestHintWidth),
+               std::min(height + (width > kLargestHintWidth ? bar : 0), kLargestHintHeight)) +
+         frame;
 }
 
 }  // namespace barvon
