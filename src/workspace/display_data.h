@@ -11,7 +11,8 @@ namespace barvon {
 void Display_Data(Main_Controls& controls, ProjectRecord& record);
 
 /// Rebuilds the data board from the record. In the record it changes what Refresh_KEY2 tells, and
-/// KEY3 follows a type of analysis that has been chosen since the board was last rebuilt.
+/// KEY3 follows a type of analysis, or diffusion, that has been chosen since the board was last
+/// rebuilt.
 void Set_Data_Items(Main_Controls& controls, ProjectRecord& record);
 
 /// Another project takes the place of the one shown: what was chosen for that one is forgotten.

@@ -186,6 +186,32 @@ TEST_F(DataBoard, Descent_And_Collapse_Closes_The_Evaluation_And_Clears_The_Cont
   Expect_Blue(c.SSOption4, 1);  // the choice is there again
 }
 
+TEST_F(DataBoard, KEY3_Follows_Diffusion_Chosen_Again_At_The_Next_Refresh) {
+  const int first[] = {0, 4, 7};  // KEY3 0 shows as the first evaluation, which has this KEY3
+  for (int type = 1; type <= 3; ++type) {
+    Show_Board_Of(type);
+    c.SSOption4(1)->click();
+    c.SSOption3(0)->click();
+    c.SSPanel5(0)->click();
+    EXPECT_EQ(record.KEY3, 0);
+    c.SSOption3(1)->click();
+    EXPECT_EQ(record.KEY3, 0);
+    Port().display_data();
+    EXPECT_EQ(record.KEY3, first[type - 1]);
+    Expect_Blue(c.SSOption4, 0);
+  }
+}
+
+TEST_F(DataBoard, Diffusion_Chosen_Again_Keeps_A_KEY3_That_Nothing_Has_Cleared) {
+  Show_Board_Of(3);
+  c.SSOption4(1)->click();
+  c.SSOption3(0)->click();
+  c.SSOption3(1)->click();
+  Port().display_data();
+  EXPECT_EQ(record.KEY3, 5);
+  Expect_Blue(c.SSOption4, 1);
+}
+
 TEST_F(DataBoard, Diffusion_Chosen_For_A_Project_Without_Has_No_Evaluation_Yet) {
   Show_Board_Of(2);
   c.SSOption4(1)->click();
