@@ -13,6 +13,7 @@
 #include "checks/check_data.h"
 #include "checks/sound_project.h"
 #include "core/screen_register.h"
+#include "core/workspace_port.h"
 #include "platform/help_viewer.h"
 #include "support/screen_support.h"
 
@@ -152,6 +153,34 @@ TEST_F(ErrorListScreen, The_Evaluation_Screen_Opens_Without_A_Control) {
   Open();
   Double_Click(Place_Of(0));
   EXPECT_EQ(opened, (std::vector<Opened>{{"frmMdlkyn", false, ""}}));
+}
+
+TEST_F(ErrorListScreen, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Register_Screen("frmDescription", {});
+  std::string noted;
+  Port().show_note = [&noted](const Status_Note& note) { noted = note.text; };
+  Open();
+  Double_Click(Place_Of(0));
+  Reset_Port();
+  EXPECT_EQ(noted, "The screen frmDescription is not part of this version.");
+  EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, A_List_In_View_That_Is_Asked_For_Blocking_Blocks) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Open();
+  QWidget* in_front = nullptr;
+  bool visible = false;
+  QTimer::singleShot(50, &List(), [&] {
+    in_front = QApplication::activeModalWidget();
+    visible = List().isVisible();
+    Press_Button("SSCommand1(1)");
+  });
+  ASSERT_TRUE(Open_Screen("frmErrorList", true));
+  EXPECT_EQ(in_front, &List());
+  EXPECT_TRUE(visible);
+  EXPECT_FALSE(List().isVisible());
 }
 
 TEST_F(ErrorListScreen, Material_Findings_And_References_Without_A_Mark_Do_Nothing) {
