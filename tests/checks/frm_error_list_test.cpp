@@ -183,6 +183,51 @@ TEST_F(ErrorListScreen, A_List_In_View_That_Is_Asked_For_Blocking_Blocks) {
   EXPECT_FALSE(List().isVisible());
 }
 
+TEST_F(ErrorListScreen, Every_Finding_Leads_To_The_Screen_And_Control_That_Mend_It) {
+  using Change = void (*)(ProjectRecord&);
+  const std::pair<Change, Opened> findings[] = {
+      {[](ProjectRecord& r) { r.NMAX0 = 97; }, {"frmDescription", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.MMAX0 = 97; }, {"frmDescription", false, "Text1(1)"}},
+      // A negative spacing moves the edges of the grid as well; its own finding is the first.
+      {[](ProjectRecord& r) { r.DZ0 = -20; }, {"frmDescription", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.DX0 = -10; }, {"frmDescription", false, "Text1(4)"}},
+      {[](ProjectRecord& r) { r.RHDA0 = 0.06; }, {"frmDescription", false, "Text1(5)"}},
+      {[](ProjectRecord& r) { r.DEPC0 = 0; }, {"frmDescription", false, "F1Book1"}},
+      {[](ProjectRecord& r) { r.Densities[2] = 0; }, {"frmDescription", false, "F1Book1"}},
+      {[](ProjectRecord& r) { r.SiteTop = 601; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteLeft = 201; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteBottom = 201; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteRight = 601; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.KEY3 = 2; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.KEY3 = 5, r.SiteTop = r.SiteLeft = 10; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.DEPC0 = 61; }, {"frmDescription", false, "Text1(4)"}},
+      {[](ProjectRecord& r) { r.ZBARGE = -1; }, {"frmOperation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.BINL = 0; }, {"frmOperation", false, "Text1(2)"}},
+      {[](ProjectRecord& r) { r.BINW = 0; }, {"frmOperation", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.DisposalMethod = 3, r.BargeLength = 0; },
+       {"frmOperation", false, "Text1(2)"}},
+      {[](ProjectRecord& r) { r.DisposalMethod = 3, r.BargeWidth = 0; },
+       {"frmOperation", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.SimulationDuration = 0; }, {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.LongTermTimeStep = 0; }, {"frmSimulation", false, "Text1(1)"}},
+      {[](ProjectRecord& r) { r.AnalysisType = 2, r.SimulationDuration = 144001; },
+       {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.AnalysisType = 3, r.SimulationDuration = 36001; },
+       {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.LongTermTimeStep = 1800; }, {"frmSimulation", false, "Text1(1)"}},
+  };
+  Open();
+  for (const auto& [change, target] : findings) {
+    ProjectRecord record = Sound_Project();
+    change(record);
+    Check_Project(record);
+    ASSERT_GE(List1().count(), 1);
+    opened.clear();
+    Double_Click(Place_Of(0));
+    EXPECT_EQ(opened, std::vector<Opened>{target}) << List1().item(0)->text().toStdString();
+  }
+}
+
 TEST_F(ErrorListScreen, Material_Findings_And_References_Without_A_Mark_Do_Nothing) {
   Current_Errors().Add("one", "frmMatHopper!F1Book1");
   Current_Errors().Add("two", "frmMatBarge!F1Book1");
