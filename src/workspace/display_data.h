@@ -15,6 +15,10 @@ void Display_Data(Main_Controls& controls, ProjectRecord& record);
 /// rebuilt.
 void Set_Data_Items(Main_Controls& controls, ProjectRecord& record);
 
+/// For callers who want the summary brought up to date: the boards always are, so this does
+/// nothing.
+inline void View_Data_Summary() {}
+
 /// Another project takes the place of the one shown: what was chosen for that one is forgotten.
 void Forget_Choices(Main_Controls& controls);
 
