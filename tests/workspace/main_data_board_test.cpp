@@ -227,6 +227,7 @@ TEST_F(DataBoard, Diffusion_Chosen_For_A_Project_Without_Has_No_Evaluation_Yet) 
   EXPECT_EQ(replies.seen.at(0).text, "Please Specify Evaluation Type");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Ok);
   EXPECT_EQ(replies.seen.at(0).buttons, QMessageBox::Ok);
   EXPECT_EQ(opened, Names{});
   Expect_Blue(c.SSOption4, -1);  // no refresh
@@ -256,6 +257,7 @@ TEST_F(DataBoard, Evaluation_Needs_Diffusion) {
             "Diffusion Option Not Specified.  No Water Quality Calculations Will Be Conducted");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Ok);
   EXPECT_EQ(opened, Names{});
   EXPECT_EQ(c.Title_Box->text(), "refreshed");
 }
@@ -268,6 +270,7 @@ TEST_F(DataBoard, Solids_Alone_Have_No_Evaluation_Screen) {
   EXPECT_EQ(replies.seen.at(0).text, "No Long Term Tracer Computations Will Be Carried Out");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Ok);
   EXPECT_EQ(opened, Names{});
   EXPECT_EQ(c.Title_Box->text(), "refreshed");
 }
@@ -342,7 +345,9 @@ TEST_F(DataBoard, A_Two_Point_Profile_Over_Variable_Depth_Is_Asked_About) {
     c.Option3D1(1)->click();
     EXPECT_EQ(replies.seen.at(0).text, kTwoPointQuestion);
     EXPECT_EQ(replies.seen.at(0).title, "BARVON");
+    EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::NoIcon);
     EXPECT_EQ(replies.seen.at(0).buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Yes);
     EXPECT_EQ(record.VelocityProfileType, 3);
     EXPECT_EQ(record.ConstantDepthFlag, 0);
     EXPECT_FALSE(c.Check3D1->isEnabled());
@@ -416,6 +421,52 @@ TEST_F(DataBoard, Picture_Buttons_Open_Their_Screens_And_Come_Up_Again) {
   record.DisposalMethod = 3;
   c.SSRibbon1(2)->click();
   EXPECT_EQ(opened, Names{"frmMatBarge blocking"});
+}
+
+TEST_F(DataBoard, A_Simulation_Type_Names_The_Evaluations_Of_A_Type_Chosen_Since) {
+  Show_Board_Of(1);
+  SSOption1_Click(c, record, 2);
+  EXPECT_EQ(c.SSOption4(0)->text(), "No Diffusion of a Conservative Tracer");
+  c.SSOption3(1)->click();
+  EXPECT_EQ(c.SSOption4(0)->text(), "Tier II, Determine Need for Further Testing");
+  EXPECT_TRUE(c.SSOption4(2)->isVisible());
+  SSOption1_Click(c, record, 0);
+  c.SSOption3(0)->click();
+  EXPECT_EQ(c.SSOption4(0)->text(), "No Diffusion of a Conservative Tracer");
+  EXPECT_FALSE(c.SSOption4(2)->isVisible());
+}
+
+TEST_F(DataBoard, The_Board_Is_Refreshed_After_The_Evaluation_Screen) {
+  Show_Board_Of(2);
+  on_open = [this] { record.ProjectTitle = "entered"; };
+  c.SSPanel5(1)->click();
+  EXPECT_EQ(c.Title_Box->text(), "entered");
+}
+
+TEST_F(DataBoard, The_Two_Point_Question_Is_The_Chosen_Options_Alone) {
+  Show_Board_Of(1);
+  record.ConstantDepthFlag = 0;
+  Modal_Replies none({});
+  for (const int i : {0, 2, 3}) c.Option3D1(i)->click();
+  record.ConstantDepthFlag = 1;
+  c.Option3D1(1)->click();
+  EXPECT_FALSE(c.Check3D1->isEnabled());
+  EXPECT_EQ(record.VelocityProfileType, 3);
+}
+
+TEST_F(DataBoard, A_Method_From_Code_Acts_Also_When_It_Is_Set_Already) {
+  Show_Board_Of(3);
+  for (const int method : {1, 0}) {
+    for (int again = 0; again < 2; ++again) {
+      record.KEY1 = record.KEY4 = record.PreviousDisposalMethod = record.DisposalMethod = 0;
+      SSOption2_Click(c, record, method);
+      EXPECT_EQ(record.DisposalMethod, method == 0 ? 1 : 3);
+      EXPECT_EQ(record.PreviousDisposalMethod, record.DisposalMethod);
+      EXPECT_EQ(record.KEY4, method == 0 ? 5 : 6);
+      EXPECT_EQ(record.KEY1, 1);
+      Expect_Blue(c.SSOption2, method);
+    }
+  }
 }
 
 TEST_F(DataBoard, Setting_An_Option_From_Code_Acts_Also_When_It_Is_Set_Already) {
