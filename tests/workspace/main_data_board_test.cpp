@@ -89,10 +89,10 @@ TEST_F(DataBoard, VelocityProfileType_Shows_As_Its_Option) {
 
 TEST_F(DataBoard, A_Two_Point_Profile_Over_Variable_Depth_Is_Asked_About) {
   Show_Board_Of(1);
-  for (const auto button : {QMessageBox::No, QMessageBox::Cancel}) {
+  for (const Reply& reply : {Press(QMessageBox::No), Press(QMessageBox::Cancel), Press_Escape()}) {
     c.Option3D1(0)->click();
     record.ConstantDepthFlag = 0;
-    Modal_Replies replies({Press(button)});
+    Modal_Replies replies({reply});
     c.Option3D1(1)->click();
     EXPECT_EQ(replies.seen.at(0).text, kTwoPointQuestion);
     EXPECT_EQ(replies.seen.at(0).title, "BARVON");
@@ -242,6 +242,25 @@ TEST_F(DataBoard, The_Two_Point_Question_Is_The_Chosen_Options_Alone) {
   c.Option3D1(1)->click();
   EXPECT_FALSE(c.Check3D1->isEnabled());
   EXPECT_EQ(record.VelocityProfileType, 3);
+}
+
+TEST_F(DataBoard, Option_Buttons_Do_Not_Block_Over_A_Screen_In_View_And_Refresh_All_The_Same) {
+  Show_Board_Of(2);
+  QWidget screen;
+  screen.setObjectName("frmOperation");
+  screen.show();
+  for (int i = 0; i < 3; ++i) {
+    record.ProjectTitle = "refreshed " + std::to_string(i);
+    Modal_Replies replies({Press(QMessageBox::Ok)});
+    c.SSPanel5(i)->click();
+    EXPECT_EQ(replies.seen.at(0).text,
+              "Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
+    EXPECT_EQ(c.Title_Box->text().toStdString(), record.ProjectTitle);
+  }
+  EXPECT_EQ(opened, Names{});
+  record.ShowMode = 0;
+  for (int i = 0; i < 3; ++i) c.SSPanel5(i)->click();
+  EXPECT_EQ(opened, (Names{"frmCoefficients", "frmMdlkyn", "frmSimulation"}));
 }
 
 TEST_F(DataBoard, A_Method_From_Code_Acts_Also_When_It_Is_Set_Already) {
