@@ -3,6 +3,8 @@
 #include <clocale>
 
 #include "checks/frm_error_list.h"
+#include "core/screen_register.h"
+#include "material/frm_density.h"
 #include "platform/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
@@ -26,6 +28,7 @@ int main(int, char** arguments) {
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_frmErrorList(&main);
   barvon::Register_frmOpen(&main);
+  barvon::Register_Screen("frmDensity", barvon::Fresh_Screens<barvon::frmDensity>(&main));
   main.show();
   return QApplication::exec();
 }
