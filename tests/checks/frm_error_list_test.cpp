@@ -282,6 +282,19 @@ TEST_F(ErrorListScreen, Return_Opens_The_Selected_Finding_Without_A_Mouse) {
   EXPECT_EQ(opened, (std::vector<Opened>{second, second}));
 }
 
+TEST_F(ErrorListScreen, Keys_Alone_Reach_The_First_Finding_And_The_Next) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Current_Errors().Add("two", "frmOperation!Text1(2)");
+  Open();
+  EXPECT_EQ(List().focusWidget(), &List1());
+  QTest::keyClick(&List1(), Qt::Key_Space);
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  QTest::keyClick(&List1(), Qt::Key_Down);
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  EXPECT_EQ(opened, (std::vector<Opened>{{"frmDescription", false, "Text1(5)"},
+                                         {"frmOperation", false, "Text1(2)"}}));
+}
+
 TEST_F(ErrorListScreen, The_Description_Opens_The_Topic_Of_The_Selected_Finding) {
   ProjectRecord record = Sound_Project();
   record.RHDA0 = 0, record.SolidVolFraction[1] = 0, record.SimulationDuration = 0;

@@ -56,6 +56,24 @@ TEST_P(SampleJourney, Opens_Runs_Keeps_Its_Outputs_And_Saves_The_Same_Bytes) {
   }
 }
 
+TEST_P(SampleJourney, Turns_Its_Categories_Blue_And_A_New_Project_Black) {
+  const auto expect = [this](const char* text, const char* colour) {
+    for (int i = 0; i < 5; ++i) {
+      const QLabel* state = bench.controls().Text2(i);
+      EXPECT_EQ(state->text(), text) << i;
+      EXPECT_EQ(state->palette().color(QPalette::Active, QPalette::WindowText), QColor(colour))
+          << i;
+    }
+    EXPECT_EQ(bench.controls().Text2(5)->text(), "Default Coefficients Used");
+  };
+  bench.Action("mnuFileItem(1)")->trigger();
+  expect("Data Supplied", "#0000ff");
+  bench.Action("mnuFileItem(0)")->trigger();
+  expect("Data Not Entered", "#000000");
+  EXPECT_TRUE(bench.controls().SSOption2(0)->isChecked());
+  EXPECT_EQ(Project().ProjectFileName, "");
+}
+
 // No solver takes it, so that it has a road of its own.
 class ContinuousJourney : public SampleJourney {};
 

@@ -1,3 +1,5 @@
+#include "core/open_file.h"
+#include "core/save_file.h"
 #include "workspace/data_board_fixture.h"
 #include "workspace/option_events.h"
 
@@ -77,6 +79,32 @@ TEST_F(EvaluationBoard, KEY3_Follows_A_New_Type_When_The_Board_Is_Shown) {
   Show_Board_Of(1);  // which offers no third
   EXPECT_EQ(record.KEY3, 1);
   Expect_Blue(c.SSOption4, 1);
+}
+
+TEST_F(EvaluationBoard, A_Save_Writes_The_KEY3_Of_A_Type_Chosen_Since) {
+  Show_Board_Of(1);
+  c.SSOption4(1)->click();
+  c.SSPanel3(4)->click();
+  c.SSOption1(2)->click();
+  EXPECT_EQ(record.KEY3, 1);
+  const std::string file = bench.folder / "site.DUI";
+  ASSERT_TRUE(Save_File(file, 2, record));
+  EXPECT_EQ(record.KEY3, 5);
+  record.KEY3 = 0;
+  ASSERT_TRUE(Open_Project(file, record));
+  EXPECT_EQ(record.KEY3, 5);
+}
+
+TEST_F(EvaluationBoard, A_New_Type_Chosen_For_One_Project_Does_Not_Touch_The_Next) {
+  Show_Board_Of(1);
+  c.SSOption4(1)->click();
+  c.SSOption1(2)->click();
+  Port().open_menus();  // another project is opened, whose keys do not agree
+  record.KEY4 = 3;
+  record.KEY3 = 7;
+  Port().display_data();
+  EXPECT_EQ(record.KEY3, 7);
+  Expect_Blue(c.SSOption4, 0);
 }
 
 TEST_F(EvaluationBoard, Descent_And_Collapse_Closes_The_Evaluation_And_Clears_The_Contaminant) {
