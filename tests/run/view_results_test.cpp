@@ -81,6 +81,15 @@ TEST_F(ViewResults, A_Native_Program_Of_The_Name_Without_Extension_Is_Found) {
   EXPECT_TRUE(Exists(bench / "seen.txt"));
 }
 
+TEST_F(ViewResults, The_Application_Directory_Is_Where_It_Starts_From_Wherever_The_User_Stands) {
+  Save_Project();
+  bench.Install("kv_graph.exe", "write:seen.txt=x\n");
+  std::filesystem::current_path(bench.folder / "bay");
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+}
+
 TEST_F(ViewResults, A_Missing_Graphics_Program_Is_Told_With_Its_Path_After_The_Hand_Over) {
   Save_Project();
   Scripted_Messages messages({Answer::Ok});
