@@ -42,8 +42,7 @@ bool Open_By_Desktop(const QString& path) {
   if (opener.isEmpty() || query.isEmpty()) return false;
   const QString kind = QMimeDatabase().mimeTypeForFile(path).name();
   if (!Has_Program_For(query, kind) && !Has_Program_For(query, "text/plain")) return false;
-  // Without a parent: whoever deleted it would end the opener, and on some desktops the editor.
-  auto* process = new QProcess;
+  auto* process = new QProcess(qApp);
   process->setStandardInputFile(QProcess::nullDevice());
   process->setStandardOutputFile(QProcess::nullDevice());
   process->setStandardErrorFile(QProcess::nullDevice());
