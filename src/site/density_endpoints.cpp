@@ -80,13 +80,16 @@ bool AddBottomRow(float bottom, Site_Entry& entry, Spreadsheet_Table& table) {
 
 }  // namespace
 
+double Bottom_Depth(const Site_Entry& entry, const ProjectRecord& record) {
+  if (entry.variable_depth) return MaxGridDepth(record);
+  return Lenient_Number(entry.Text1[kConstantDepth]);
+}
+
 Density_Ends Check_Depths(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,
                           const ProjectRecord& record) {
   const auto first = static_cast<float>(F1Book1.NumberRC(1, 1));
   const auto last = static_cast<float>(F1Book1.NumberRC(F1Book1.MaxRow(), 1));
-  const double bottom =
-      entry.variable_depth ? MaxGridDepth(record) : Lenient_Number(entry.Text1[kConstantDepth]);
-  Density_Ends ends{0, static_cast<float>(bottom)};
+  Density_Ends ends{0, static_cast<float>(Bottom_Depth(entry, record))};
   if (first == 0) ends.result += kSurfaceIsRight;
   if (last >= ends.BottomDepth) ends.result += kBottomIsRight;
   return ends;
