@@ -67,6 +67,7 @@ Text_Block Read_Tab_Text(std::string_view text) {
 }
 
 std::string Write_Tab_Text(const Text_Block& cells) {
+  const bool one_cell = cells.size() == 1 && cells[0].size() == 1;
   std::string text;
   for (const auto& row : cells) {
     for (std::size_t col = 0; col < row.size(); ++col) {
@@ -75,7 +76,7 @@ std::string Write_Tab_Text(const Text_Block& cells) {
       const bool quote = cell.find_first_of(kBetween) != cell.npos || cell.starts_with('"');
       text += quote ? Quoted(cell) : cell;
     }
-    text += '\n';
+    if (!one_cell) text += '\n';
   }
   return text;
 }

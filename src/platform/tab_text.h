@@ -16,8 +16,8 @@ using Text_Block = std::vector<std::vector<std::string>>;
 /// are filled up with empty cells. An empty text is one empty cell.
 Text_Block Read_Tab_Text(std::string_view text);
 
-/// The cells as such a text, rows ended by LF. Cells with a tab or a line break, and those that
-/// start with a quote, are quoted.
+/// The cells as such a text, rows ended by LF; a single cell is its text alone, fit for any field.
+/// Cells with a tab or a line break, and those that start with a quote, are quoted.
 std::string Write_Tab_Text(const Text_Block& cells);
 
 }  // namespace barvon

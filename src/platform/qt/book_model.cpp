@@ -41,11 +41,16 @@ void Book_Model::SetNumberNote(int col, Number_Note note) {
   Cells_Changed({1, col, table_.MaxRow(), col});
 }
 
-QString Book_Model::NumberNoteOf(int row, int col) const {
+const Number_Note& Book_Model::Note_Of(int col) const {
   const auto own = column_notes_.find(col);
-  const Number_Note& note = own == column_notes_.end() ? note_ : own->second;
-  if (!note || table_.IsEmptyRC(row, col) || row <= table_.FixedRows()) return {};
-  return Q(note(table_.EntryRC(row, col)));
+  return own == column_notes_.end() ? note_ : own->second;
+}
+
+QString Book_Model::NumberNoteOf(int row, int col) const {
+  const Number_Note& note = Note_Of(col);
+  if (!note || row <= table_.FixedRows()) return {};
+  const auto* text = std::get_if<std::string>(&table_.ValueRC(row, col));
+  return text == nullptr ? QString() : Q(note(*text));
 }
 
 int Book_Model::rowCount(const QModelIndex& parent) const {

@@ -19,6 +19,7 @@ class Book_Model : public QAbstractTableModel {
   /// The note for all columns, dropping those of single ones; for one column.
   void SetNumberNote(Number_Note note);
   void SetNumberNote(int col, Number_Note note);
+  const Number_Note& Note_Of(int col) const;
   QString NumberNoteOf(int row, int col) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
