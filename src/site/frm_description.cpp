@@ -134,8 +134,9 @@ QWidget* frmDescription::Density_Frame() {
 
 void frmDescription::Set_Tab_Order() {
   std::vector<QWidget*> order;
-  for (int i = kZPoints; i <= kConstantDepth; ++i) order.push_back(Text1(i));
-  order.insert(order.end(), {Check3D1(kVariableDepth), Command2(kVariableDepth)});
+  for (int i = kZPoints; i <= kXSpacing; ++i) order.push_back(Text1(i));
+  order.insert(order.end(), {Text2(0), Text2(1), Text1(kConstantDepth), Check3D1(kVariableDepth),
+                             Command2(kVariableDepth)});
   for (int i = kRoughness; i <= kDensityPoints; ++i) order.push_back(Text1(i));
   order.insert(order.end(), {Check3D1(kComputesDensity), Command2(kComputesDensity), F1Book1,
                              profile_, Command1(kOk), Command1(kCancel), Command1(kHelp)});

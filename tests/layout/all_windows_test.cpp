@@ -18,6 +18,8 @@
 #include "platform/qt/help_window.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/text_window.h"
+#include "site/frm_description.h"
+#include "site/frm_grid_descrip.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 #include "workspace/frm_open.h"
@@ -119,6 +121,28 @@ void Look_At_Text(const Look& look) {
   look(text, "");
 }
 
+void Look_At_Site(Main_Bench& bench, const Look& look) {
+  Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
+  Register_frmGridDescrip(&bench.main());
+  ProjectRecord& record = Project();
+  record.NROA0 = 5;
+  record.DepthGrid[1][1] = 12345.5;
+  auto& site = static_cast<frmDescription&>(Opened("frmDescription"));
+  look(site, "constant depth, typed densities");
+  for (const char* box : {"Check3D1(0)", "Check3D1(1)"}) site.findChild<QCheckBox*>(box)->click();
+  look(site, "variable depth, computed densities");
+  site.findChild<QLineEdit*>("Text1(0)")->setText("40.5");
+  look(site, "a number that is read as another one");
+  auto& grid = static_cast<frmGridDescrip&>(Opened("frmGridDescrip"));
+  look(grid, "not square");
+  grid.findChild<QCheckBox*>("Check3D2")->click();
+  look(grid, "to be initialized");
+  grid.Unload();
+  site.Unload();
+  for (const char* name : {"frmDescription", "frmGridDescrip"}) Register_Screen(name, {});
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void Look_At_Progress(const Look& look) {
   frmProgress_Bar progress(nullptr);
   progress.Open("Reading Velocity Data...");
@@ -140,6 +164,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Error_List(settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
+  Look_At_Site(bench, settled);
   Look_At_Progress(settled);
 }
 

@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 #include <QToolBar>
 #include <map>
@@ -55,6 +56,8 @@ bool Has_Too_Little_Room(const QWidget* control) {
     return label->height() < label->heightForWidth(label->width()) ||
            label->width() < label->minimumSizeHint().width();
   }
+  // A mark inside a field is a picture; what it says is its tool tip.
+  if (button != nullptr && qobject_cast<const QLineEdit*>(button->parentWidget())) return false;
   QSize wanted;
   if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
     wanted = control->sizeHint();
@@ -171,9 +174,11 @@ void Add_Letters_Of(const QWidget* control, Claims& claims) {
 bool Is_Worked_With(const QWidget* control) {
   if (!control->isEnabled() || control->focusProxy() != nullptr) return false;
   const QWidget* parent = control->parentWidget();
-  // A clear button is in the field's own keys; a bar's and a heading's parts belong to it.
+  // A clear button is in the field's own keys, a table's corner too; a bar's and a heading's parts
+  // belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
-      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QHeaderView*>(control)) {
+      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QTableView*>(parent) ||
+      qobject_cast<const QHeaderView*>(control)) {
     return false;
   }
   return qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLineEdit*>(control) ||
@@ -188,6 +193,12 @@ bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>
     if (other->parentWidget() == option->parentWidget() && reached.count(other) != 0) return true;
   }
   return false;
+}
+
+/// Goes on to the next control. In a table of many cells Tab would go through all of them.
+void Go_On(QWidget* from) {
+  const bool table = qobject_cast<const QTableView*>(from) != nullptr;
+  QTest::keyClick(from, Qt::Key_Tab, table ? Qt::ControlModifier : Qt::NoModifier);
 }
 
 }  // namespace
@@ -242,12 +253,12 @@ Complaints Unreached_Controls(QWidget& window) {
   std::set<const QWidget*> reached;
   window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) return {"the window does not become active"};
-  QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Tab);
+  Go_On(window.focusWidget() ? window.focusWidget() : &window);
   const QWidget* first = window.focusWidget();
   bool left_first = false;
   for (int turn = 0; turn < kLongestRound && window.focusWidget() != nullptr; ++turn) {
     reached.insert(window.focusWidget());
-    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    Go_On(window.focusWidget());
     if (window.focusWidget() != first) left_first = true;
     if (window.focusWidget() == first && left_first) break;
   }

@@ -39,7 +39,6 @@ QLabel* Field_Rows::Text(const QString& label, QLineEdit* field, int max_length)
 QLabel* Field_Rows::Shown(const QString& label, QLineEdit* field, const QString& tag) {
   field->setProperty(kTag, tag);
   field->setReadOnly(true);
-  field->setFocusPolicy(Qt::ClickFocus);
   QPalette palette = field->palette();
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   field->setPalette(palette);

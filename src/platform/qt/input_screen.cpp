@@ -79,10 +79,20 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   Opening();
   FillingForm = false;
   Activated();
+  Keep_Room();
   Place();
   if (QWidget* first = First_Control(this)) first->setFocus(Qt::OtherFocusReason);
   Focus(control);
   Show_Dialog(*this, blocking);
+}
+
+void Input_Screen::Keep_Room() {
+  if (layout() == nullptr) return;
+  adjustSize();
+  // A window's own minimum leaves out what labels that wrap need in height.
+  if (layout()->hasHeightForWidth()) {
+    setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+  }
 }
 
 void Input_Screen::Place() {
