@@ -6,7 +6,7 @@
 namespace barvon {
 namespace {
 
-constexpr double kLeastVelocitySpan = 0.1;  // ft/s
+constexpr double kLeastVelocitySpan = 0.2;  // ft/s
 constexpr double kPatternHours = 12.5;      // the time axis is never shorter
 
 std::vector<Tidal_Point> Points_Of(const std::vector<double>& velocities, int& left_out) {
@@ -45,6 +45,9 @@ std::string Curve_Text(const char* name, const std::vector<Tidal_Point>& points)
   const auto [low, high] = std::minmax_element(
       points.begin(), points.end(),
       [](const Tidal_Point& a, const Tidal_Point& b) { return a.velocity < b.velocity; });
+  if (low->velocity == high->velocity) {
+    return std::string(name) + " velocity " + Short_Text(low->velocity) + " ft/s throughout.";
+  }
   return std::string(name) + " velocity from " + Short_Text(low->velocity) + " ft/s at " +
          Short_Text(low->hour) + " h to " + Short_Text(high->velocity) + " ft/s at " +
          Short_Text(high->hour) + " h.";
@@ -87,7 +90,8 @@ Tidal_Drawing Draw_Tide(const Tidal_Pattern& pattern) {
     if (Can_Be_Drawn(pattern.average_z)) drawing.average_z = pattern.average_z;
   }
   const Value_Range hours = Hours_Of(drawing);
-  drawing.time = Scale_Over(hours, 1);
+  // Half the hours make steps half as wide: a tide is read by single hours.
+  drawing.time = Scale_Over({hours.low / 2, hours.high / 2}, 1);
   // A pattern of 26 points ends between two whole hours; the axis ends with it.
   drawing.time.low = hours.low;
   drawing.time.high = hours.high;
