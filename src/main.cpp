@@ -3,11 +3,14 @@
 #include <clocale>
 
 #include "checks/frm_error_list.h"
+#include "core/screen_register.h"
 #include "platform/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
 #include "run/create_process.h"
+#include "site/frm_description.h"
+#include "site/frm_grid_descrip.h"
 #include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
@@ -26,6 +29,8 @@ int main(int, char** arguments) {
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_frmErrorList(&main);
   barvon::Register_frmOpen(&main);
+  barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
+  barvon::Register_frmGridDescrip(&main);
   main.show();
   return QApplication::exec();
 }

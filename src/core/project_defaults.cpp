@@ -22,6 +22,7 @@ void Set_Site_Defaults(ProjectRecord& record) {
   record.DEPC0 = 0;
   record.ConstantDepthFlag = 1;
   record.DepthGrid = {};
+  record.DEPTHI = 0;
   record.RHDA0 = record.SLOPEX0 = record.SLOPEZ0 = 0;
   record.NROA0 = 2;
   record.DensityDepths = {};

@@ -80,7 +80,8 @@ struct ProjectRecord {
   double DistZ = 0;                    // (NMAX0 - 1) x DZ0
   double DEPC0 = 0;                    // constant water depth
   std::int16_t ConstantDepthFlag = 0;  // 1 constant, 0 variable depth grid
-  Grid DepthGrid{};
+  Grid DepthGrid{};        // [column][row] of the depth table: its first subscript counts along Z
+  double DEPTHI = 0;       // one depth for the whole grid; 0 none, or cells were edited
   double RHDA0 = 0;        // roughness height of the bottom
   double SLOPEX0 = 0;      // degrees
   double SLOPEZ0 = 0;      // degrees

@@ -111,6 +111,7 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::DEPC0>("DEPC0"),
     Field_Of<&ProjectRecord::ConstantDepthFlag>("ConstantDepthFlag"),
     Field_Of<&ProjectRecord::DepthGrid>("DepthGrid"),
+    Field_Of<&ProjectRecord::DEPTHI>("DEPTHI"),
     Field_Of<&ProjectRecord::RHDA0>("RHDA0"),
     Field_Of<&ProjectRecord::SLOPEX0>("SLOPEX0"),
     Field_Of<&ProjectRecord::SLOPEZ0>("SLOPEZ0"),

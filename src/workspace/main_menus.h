@@ -16,6 +16,12 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
 
+/// The check mark of an entry of the Edit menu whose data has been supplied. Choosing the entry
+/// leaves its mark alone; a new project clears all of them.
+void Mark_Edit_Item(Main_Controls& controls, int index);
+void Keep_Edit_Mark(Main_Controls& controls, int index);
+void Clear_Edit_Marks(Main_Controls& controls);
+
 /// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
 void Show_Tools_Menu(Main_Controls& controls);
 
