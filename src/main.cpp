@@ -11,6 +11,7 @@
 #include "run/create_process.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
 #include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
@@ -31,6 +32,7 @@ int main(int, char** arguments) {
   barvon::Register_frmOpen(&main);
   barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
   barvon::Register_frmGridDescrip(&main);
+  barvon::Register_Screen("frmVelocity", barvon::Fresh_Screens<barvon::frmVelocity>(&main));
   main.show();
   return QApplication::exec();
 }

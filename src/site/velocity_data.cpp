@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "core/format_pattern.h"
+#include "core/number_reading.h"
 #include "core/number_text.h"
 #include "core/wizard_answers.h"
 
@@ -86,7 +87,7 @@ void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
 void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
   entry.Text3 = {Format_Number(Widen(record.TidalStartTime), "###0.00"),
                  Format_Number(Widen(record.TidalDepth), "###0.00"),
-                 Format_Number(record.SimulationDuration / kSecondsPerHour, "####0.0"),
+                 Format_Number(Hours_Of_Simulation(record), "####0.0"),
                  Format_Number(Widen(record.TidalAvgVelX), "###0.0"),
                  Format_Number(Widen(record.TidalAvgVelZ), "###0.0")};
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
@@ -235,6 +236,17 @@ void Reset_Vars(const Saved_Velocity& saved, ProjectRecord& record) {
 
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction) {
   return record.*kConstants[direction];
+}
+
+double Hours_Of_Simulation(const ProjectRecord& record) {
+  return record.SimulationDuration / kSecondsPerHour;
+}
+
+std::string Filled_Note(const std::string& typed, const std::string& filled, double value) {
+  const std::string note = Real_Note(typed);
+  const double reading = Lenient_Number(typed);
+  if (!note.empty() || typed != filled || reading == value) return note;
+  return "rounded from " + Plain_Number(value) + ": OK stores " + Plain_Number(reading);
 }
 
 double Type_From_Wizard(const ProjectRecord& record) {

@@ -79,6 +79,13 @@ void Reset_Vars(const Saved_Velocity& saved, ProjectRecord& record);
 /// The constant that fills the direction's field, 0 for none.
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction);
 
+/// SimulationDuration in hours.
+double Hours_Of_Simulation(const ProjectRecord& record);
+
+/// What to say about the text of a number field: how it reads, or, while it is what the program
+/// filled in for `value`, what its few decimals leave out.
+std::string Filled_Note(const std::string& typed, const std::string& filled, double value);
+
 /// The type that the open wizard asks for; the record's own while there is none.
 double Type_From_Wizard(const ProjectRecord& record);
 /// Text3(2) from the open wizard: its longest duration in hours.
