@@ -55,16 +55,26 @@ void Density_Profile::Build() {
   plot()->clearPlottables();
   Set_Scale(*plot()->xAxis, drawing_.density);
   Set_Scale(*plot()->yAxis, drawing_.depth);
-  const Axis_Scale& across = drawing_.density;
+  QCPAxis& down = *plot()->yAxis;
   if (drawing_.bottom) {
-    Add_Band(*plot(), {across.low, across.high}, {*drawing_.bottom, drawing_.depth.high},
-             kGroundFill);
-    Add_Level(*plot(), {across.low, across.high}, *drawing_.bottom, QPen(kGround, 2));
+    Add_Band(*plot(), down, {*drawing_.bottom, down.range().upper}, kGroundFill);
+    Add_Mark(*plot(), down, *drawing_.bottom, QPen(kGround, 2));
+    Name_Bottom();
   }
-  Add_Level(*plot(), {across.low, across.high}, 0, QPen(kSurface, 2));
+  Add_Mark(*plot(), down, 0, QPen(kSurface, 2));
   QCPCurve* line = Add_Line(*plot(), QStringLiteral("Density"), kXColour, false);
   for (const Density_Point& point : drawing_.points) line->addData(point.density, point.depth);
   Tell(drawing_.note, drawing_.description);
+}
+
+// At the left, where the water is lightest and the line seldom is so deep.
+void Density_Profile::Name_Bottom() {
+  auto* text = new QCPItemText(plot());
+  text->setText(QString::fromStdString("bottom " + Short_Text(*drawing_.bottom) + " ft"));
+  text->setColor(kGround.darker(120));
+  text->setPadding(QMargins(4, 0, 0, 3));
+  text->setPositionAlignment(Qt::AlignLeft | Qt::AlignBottom);
+  text->position->setCoords(plot()->xAxis->range().lower, *drawing_.bottom);
 }
 
 void Density_Profile::Fit() {

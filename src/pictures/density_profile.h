@@ -27,6 +27,8 @@ class Density_Profile : public Picture {
   void Fit() override;
 
  private:
+  void Name_Bottom();
+
   std::vector<Density_Point> points_;
   double bottom_ = 0;
   Density_Drawing drawing_;

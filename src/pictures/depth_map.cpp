@@ -72,7 +72,7 @@ void Depth_Map::Build() {
   drawing_ = Draw_Depths(grid_);
   Set_Grid_Size(*plot(), drawing_.rows, drawing_.columns);
   Set_Cells(*map_, drawing_.rows, drawing_.columns, drawing_.depths);
-  Set_Scale(*scale_->axis(), drawing_.scale);
+  Set_Scale(*scale_->axis(), drawing_.scale, 0);
   scale_->setDataRange({drawing_.scale.low, drawing_.scale.high});
   Tell(drawing_.note, drawing_.description);
 }

@@ -2,6 +2,7 @@
 
 #include <qcustomplot.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "pictures/plot_parts.h"
@@ -12,10 +13,9 @@ namespace {
 void Put_Headings(QCPAxis& axis, const QString& word, int count, double pixels, double label) {
   const QSharedPointer<QCPAxisTickerText> headings(new QCPAxisTickerText);
   const int stride = Label_Stride(count, pixels, label);
-  // 1 and the multiples of the stride: "Row 1", "Row 5", "Row 10".
-  if (count > 0) headings->addTick(1, word.arg(1));
-  for (int at = stride; at <= count; at += stride) {
-    if (at > 1) headings->addTick(at, word.arg(at));
+  // 1, 3, 5 and so on, or 1 and the multiples of a larger stride: 1, 5, 10.
+  for (int at = 1; at <= count; at += at == 1 && stride > 2 ? stride - 1 : stride) {
+    headings->addTick(at, word.arg(at));
   }
   axis.setTicker(headings);
 }
@@ -49,16 +49,22 @@ void Fit_Grid_Labels(QCustomPlot& plot, int rows, int columns) {
 QCPColorMap* Add_Cells(QCustomPlot& plot) {
   auto* map = new QCPColorMap(plot.xAxis2, plot.yAxis);
   map->setInterpolate(false);
-  map->setTightBoundary(true);
   return map;
 }
 
 void Set_Cells(QCPColorMap& map, int rows, int columns, const std::vector<double>& values) {
+  // The map's range ends in the middle of its outer cells. A single row or column is drawn as two
+  // halves, since one cell alone has no width there.
+  const auto range = [](int count) {
+    return count == 1 ? QCPRange(0.75, 1.25) : QCPRange(1, std::max(count, 2));
+  };
+  const int halves_across = columns == 1 ? 2 : 1, halves_down = rows == 1 ? 2 : 1;
   auto* data =
-      new QCPColorMapData(columns, rows, QCPRange(0.5, columns + 0.5), QCPRange(0.5, rows + 0.5));
-  for (int row = 0; row < rows; ++row) {
-    for (int column = 0; column < columns; ++column) {
-      data->setCell(column, row, values[static_cast<std::size_t>(row) * columns + column]);
+      new QCPColorMapData(columns * halves_across, rows * halves_down, range(columns), range(rows));
+  for (int row = 0; row < data->valueSize(); ++row) {
+    for (int column = 0; column < data->keySize(); ++column) {
+      const std::size_t first = static_cast<std::size_t>(row / halves_down) * columns;
+      data->setCell(column, row, values[first + column / halves_across]);
     }
   }
   map.setData(data);

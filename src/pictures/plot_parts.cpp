@@ -22,14 +22,15 @@ void Dress_Axis(QCPAxis& axis, const QString& label, bool with_grid) {
   axis.setTickLength(0, 4);
   axis.setSubTicks(false);
   axis.setTickLabelPadding(3);
-  axis.setLabelPadding(3);
+  axis.setLabelPadding(6);
   axis.grid()->setVisible(with_grid);
   axis.grid()->setPen(QPen(kGrid));
   axis.grid()->setZeroLinePen(QPen(kZeroLine));
 }
 
-void Set_Scale(QCPAxis& axis, const Axis_Scale& scale) {
-  axis.setRange(scale.low, scale.high);
+void Set_Scale(QCPAxis& axis, const Axis_Scale& scale, double margin) {
+  const double beyond = margin * (scale.high - scale.low);
+  axis.setRange(scale.low - beyond, scale.high + beyond);
   const double largest = std::max(std::abs(scale.low), std::abs(scale.high));
   const bool in_full = largest < kLargestInFull && scale.step > kSmallestInFull;
   axis.setNumberFormat(in_full ? QStringLiteral("f") : QStringLiteral("gb"));
@@ -76,28 +77,24 @@ QCPCurve* Add_Line(QCustomPlot& plot, const QString& name, const QColor& colour,
   return line;
 }
 
-void Add_Band(QCustomPlot& plot, Value_Range across, Value_Range down, const QColor& colour) {
+void Add_Band(QCustomPlot& plot, QCPAxis& axis, Value_Range range, const QColor& colour) {
+  const bool upright = axis.orientation() == Qt::Horizontal;
+  const QCPRange x = plot.xAxis->range(), y = plot.yAxis->range();
   auto* band = new QCPItemRect(&plot);
   band->setLayer(QStringLiteral("background"));
-  band->topLeft->setCoords(across.low, down.low);
-  band->bottomRight->setCoords(across.high, down.high);
+  band->topLeft->setCoords(upright ? range.low : x.lower, upright ? y.lower : range.low);
+  band->bottomRight->setCoords(upright ? range.high : x.upper, upright ? y.upper : range.high);
   band->setPen(Qt::NoPen);
   band->setBrush(colour);
 }
 
-void Add_Level(QCustomPlot& plot, Value_Range across, double value, const QPen& pen) {
+void Add_Mark(QCustomPlot& plot, QCPAxis& axis, double value, const QPen& pen) {
+  const bool upright = axis.orientation() == Qt::Horizontal;
+  const QCPRange x = plot.xAxis->range(), y = plot.yAxis->range();
   auto* line = new QCPItemLine(&plot);
   line->setLayer(QStringLiteral("grid"));
-  line->start->setCoords(across.low, value);
-  line->end->setCoords(across.high, value);
-  line->setPen(pen);
-}
-
-void Add_Upright(QCustomPlot& plot, double value, Value_Range down, const QPen& pen) {
-  auto* line = new QCPItemLine(&plot);
-  line->setLayer(QStringLiteral("grid"));
-  line->start->setCoords(value, down.low);
-  line->end->setCoords(value, down.high);
+  line->start->setCoords(upright ? value : x.lower, upright ? y.lower : value);
+  line->end->setCoords(upright ? value : x.upper, upright ? y.upper : value);
   line->setPen(pen);
 }
 
@@ -113,7 +110,9 @@ QCPLegend* Add_Legend(QCustomPlot& plot) {
   legend->setFillOrder(QCPLegend::foColumnsFirst);
   legend->setBorderPen(Qt::NoPen);
   legend->setTextColor(kInk);
-  legend->setIconSize(22, 10);
+  legend->setIconSize(20, 10);
+  // A saved SVG shows the icons' lines unclipped, a little longer than on the screen.
+  legend->setIconTextPadding(10);
   legend->setMargins(QMargins(8, 3, 8, 0));
   legend->setRowSpacing(0);
   plot.plotLayout()->setRowStretchFactor(0, 0.001);
@@ -123,8 +122,8 @@ QCPLegend* Add_Legend(QCustomPlot& plot) {
 
 void Fit_Legend(QCustomPlot& plot, QCPLegend& legend) {
   double widest = 1;
-  for (int i = 0; i < legend.itemCount(); ++i) {
-    widest = std::max<double>(widest, legend.item(i)->minimumOuterSizeHint().width());
+  for (const QCPAbstractLegendItem* item : plot.findChildren<QCPAbstractLegendItem*>()) {
+    widest = std::max<double>(widest, item->minimumOuterSizeHint().width());
   }
   const int room = plot.viewport().width() - 24;
   const int wrap = std::max(1, static_cast<int>(room / (widest + legend.columnSpacing())));

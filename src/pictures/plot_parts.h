@@ -24,8 +24,11 @@ inline constexpr QColor kZColour(214, 112, 10);
 /// The plain look of an axis: thin lines, and a grid where `with_grid`.
 void Dress_Axis(QCPAxis& axis, const QString& label, bool with_grid);
 
+/// Part of an axis that is left free at both ends, so that markers there are whole.
+inline constexpr double kAxisMargin = 0.03;
+
 /// Puts range and number format of the scale on the axis.
-void Set_Scale(QCPAxis& axis, const Axis_Scale& scale);
+void Set_Scale(QCPAxis& axis, const Axis_Scale& scale, double margin = kAxisMargin);
 
 /// Puts labels where there is room for them on that many pixels.
 void Fit_Labels(QCPAxis& axis, const Axis_Scale& scale, double pixels);
@@ -39,10 +42,10 @@ QSizeF Room_For_Axes(const QCustomPlot& plot);
 /// A line through points in any order, with markers.
 QCPCurve* Add_Line(QCustomPlot& plot, const QString& name, const QColor& colour, bool squares);
 
-/// A filled band below grid and lines, a level line and an upright one between two ends.
-void Add_Band(QCustomPlot& plot, Value_Range across, Value_Range down, const QColor& colour);
-void Add_Level(QCustomPlot& plot, Value_Range across, double value, const QPen& pen);
-void Add_Upright(QCustomPlot& plot, double value, Value_Range down, const QPen& pen);
+/// A filled band below the grid over a range of the axis, and a line at one of its values, both
+/// across the whole picture.
+void Add_Band(QCustomPlot& plot, QCPAxis& axis, Value_Range range, const QColor& colour);
+void Add_Mark(QCustomPlot& plot, QCPAxis& axis, double value, const QPen& pen);
 
 /// Where the values of the bottom and the left axis meet, in the pixels of the plot's parent.
 QPointF Place_In_Plot(const QCustomPlot& plot, double across, double down);

@@ -46,7 +46,9 @@ Profile_Drawing Draw_Profile(const std::array<Profile_Point, 2>& points) {
   }
   drawing.velocity = Scale_With_Zero(velocities, kLeastVelocitySpan);
   drawing.depth = Scale_With_Zero(depths, kLeastDepthSpan);
-  if (drawing.left_out > 0)
+  if (drawing.x.empty() && drawing.z.empty()) {
+    drawing.note = "No point has a depth and a velocity yet.";
+  } else if (drawing.left_out > 0)
     drawing.note = Counted(drawing.left_out, "value pair") + " not complete.";
   drawing.description = Line_Text("X", drawing.x) + " " + Line_Text("Z", drawing.z);
   if (!drawing.note.empty()) drawing.description += " " + drawing.note;

@@ -46,7 +46,7 @@ Tidal_Curve::Tidal_Curve(QWidget* parent)
   interval_ = plot()->addGraph();
   interval_->setPen(Qt::NoPen);
   interval_->setBrush(kShade);
-  interval_->setName(QStringLiteral("Simulated interval"));
+  interval_->setName(QStringLiteral("Simulated"));
   legend_ = Add_Legend(*plot());
   Data_Changed();
 }
@@ -78,15 +78,15 @@ void Tidal_Curve::Build() {
   Set_Scale(*plot()->xAxis, drawing_.time);
   Set_Scale(*plot()->yAxis, drawing_.velocity);
   plot()->clearItems();
-  const Value_Range whole = {drawing_.velocity.low, drawing_.velocity.high};
+  QCPAxis& hours = *plot()->xAxis;
   if (drawing_.shaded) {
-    Add_Band(*plot(), *drawing_.shaded, whole, kShade);
+    Add_Band(*plot(), hours, *drawing_.shaded, kShade);
     for (const double edge : {drawing_.interval->low, drawing_.interval->high}) {
-      Add_Upright(*plot(), edge, whole, QPen(kShadeEdge, 1));
+      Add_Mark(*plot(), hours, edge, QPen(kShadeEdge, 1));
     }
   }
   if (drawing_.time.high > drawing_.pattern_end && drawing_.pattern_end > 0) {
-    Add_Upright(*plot(), drawing_.pattern_end, whole, QPen(kPatternEnd, 1, Qt::DotLine));
+    Add_Mark(*plot(), hours, drawing_.pattern_end, QPen(kPatternEnd, 1, Qt::DotLine));
   }
   Fill(*x_curve_, drawing_.x);
   Fill(*z_curve_, drawing_.z);
@@ -106,13 +106,14 @@ void Tidal_Curve::Build() {
 void Tidal_Curve::Name_Curves() {
   const auto average = [](const char* name, const std::optional<double>& value) {
     return QString::fromStdString(std::string(name) + " average " +
-                                  Fixed_Text(value.value_or(0), 2) + " ft/s");
+                                  Fixed_Text(value.value_or(0), 2));
   };
   x_curve_->setName(QStringLiteral("X velocity"));
   z_curve_->setName(QStringLiteral("Z velocity"));
   x_average_->setName(average("X", drawing_.average_x));
   z_average_->setName(average("Z", drawing_.average_z));
   legend_->clearItems();
+  legend_->simplify();
   x_curve_->addToLegend(legend_);
   z_curve_->addToLegend(legend_);
   if (drawing_.shaded) interval_->addToLegend(legend_);

@@ -6,7 +6,7 @@
 namespace barvon {
 namespace {
 
-constexpr double kLeastVelocitySpan = 0.1;  // ft/s
+constexpr double kLeastVelocitySpan = 0.2;  // ft/s
 constexpr double kPatternHours = 12.5;      // the time axis is never shorter
 
 std::vector<Tidal_Point> Points_Of(const std::vector<double>& velocities, int& left_out) {
@@ -87,7 +87,8 @@ Tidal_Drawing Draw_Tide(const Tidal_Pattern& pattern) {
     if (Can_Be_Drawn(pattern.average_z)) drawing.average_z = pattern.average_z;
   }
   const Value_Range hours = Hours_Of(drawing);
-  drawing.time = Scale_Over(hours, 1);
+  // Half the hours make steps half as wide: a tide is read by single hours.
+  drawing.time = Scale_Over({hours.low / 2, hours.high / 2}, 1);
   // A pattern of 26 points ends between two whole hours; the axis ends with it.
   drawing.time.low = hours.low;
   drawing.time.high = hours.high;

@@ -62,7 +62,7 @@ void Two_Point_Profile::Build() {
   Set_Scale(*plot()->xAxis, drawing_.velocity);
   Set_Scale(*plot()->yAxis, drawing_.depth);
   plot()->clearItems();
-  Add_Level(*plot(), {drawing_.velocity.low, drawing_.velocity.high}, 0, QPen(kSurface, 2));
+  Add_Mark(*plot(), *plot()->yAxis, 0, QPen(kSurface, 2));
   const auto fill = [](QCPCurve& line, const std::vector<Profile_Line_Point>& points) {
     line.data()->clear();
     for (const Profile_Line_Point& point : points) line.addData(point.velocity, point.depth);

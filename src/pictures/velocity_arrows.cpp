@@ -77,7 +77,7 @@ void Velocity_Arrows::Build() {
   drawing_ = Draw_Velocities(grid_);
   Set_Grid_Size(*plot(), drawing_.rows, drawing_.columns);
   Set_Cells(*map_, drawing_.rows, drawing_.columns, drawing_.speeds);
-  Set_Scale(*scale_->axis(), drawing_.scale);
+  Set_Scale(*scale_->axis(), drawing_.scale, 0);
   scale_->setDataRange({drawing_.scale.low, drawing_.scale.high});
   arrows_->reference_length = drawing_.fastest > 0 ? drawing_.reference / drawing_.fastest : 0;
   arrows_->reference_text = QString::fromStdString(Short_Text(drawing_.reference) + " ft/s");
