@@ -4,6 +4,7 @@
 
 #include "checks/frm_error_list.h"
 #include "core/screen_register.h"
+#include "material/frm_density.h"
 #include "platform/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
@@ -33,6 +34,7 @@ int main(int, char** arguments) {
   barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
   barvon::Register_frmGridDescrip(&main);
   barvon::Register_Screen("frmVelocity", barvon::Fresh_Screens<barvon::frmVelocity>(&main));
+  barvon::Register_Screen("frmDensity", barvon::Fresh_Screens<barvon::frmDensity>(&main));
   main.show();
   return QApplication::exec();
 }

@@ -80,17 +80,18 @@ void Take_Wizard_Densities(ProjectRecord& record) {
   record.DensityComputeFlag = kTrue;
   record.DensityDepths[1] = 0;
   record.DensityDepths[2] = record.DEPC0;
-  std::array<std::optional<double>, 3> density;
+  OneBased<std::optional<double>, 2> density;
   for (int i = 1; i <= 2; ++i) {
     record.DensitySalinities[i] = Lenient_Number(wizard.water_salinity);
     // Asked for in Fahrenheit, taken as Celsius: what the user sees in the table is what counts.
     record.DensityTemperatures[i] = Lenient_Number(wizard.water_temperature);
     density[i] =
         AMDEN(record.DensitySalinities[i], record.DensityTemperatures[i], record.DensityDepths[i]);
-    if (!density[i]) {
-      Tell_No_Density(i);
-      return;
-    }
+  }
+  for (int i = 1; i <= 2; ++i) {
+    if (density[i]) continue;
+    Tell_No_Density(i);
+    return;
   }
   for (int i = 1; i <= 2; ++i) record.Densities[i] = *density[i];
 }

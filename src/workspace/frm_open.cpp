@@ -5,7 +5,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "core/project_record.h"
@@ -116,10 +115,7 @@ void frmOpen::Open(bool blocking) {
   Project().WizardAtStart = kFalse;
   Show_Option(Option1, -1);
   Option1(kExistingProject)->setFocus();
-  adjustSize();
-  const QRect display = screen()->geometry();
-  move(display.left() + (display.width() - width()) / 2,
-       display.top() + (display.height() - height()) / 2);
+  Centre_On_Display(*this);
   Show_Dialog(*this, blocking);
 }
 

@@ -71,6 +71,18 @@ void Add_Recent_Files(Main_Controls& controls, QMenu* menu) {
   }
 }
 
+/// The menu before which the one of that name stands; none for the last.
+QAction* Next_In_Bar(const Main_Controls& controls, const QString& name) {
+  const QList<QAction*> bar = controls.window->menuBar()->actions();
+  bool behind = false;
+  for (const Menu& entry : Menu_Tree()) {
+    QAction* menu = Action_Of(controls, entry.name);
+    if (behind && bar.contains(menu)) return menu;
+    if (name == QLatin1String(entry.name)) behind = true;
+  }
+  return nullptr;
+}
+
 void Add_Menu(Main_Controls& controls, const Menu& entry) {
   QMenuBar* bar = controls.window->menuBar();
   if (entry.items.empty()) {
@@ -81,7 +93,7 @@ void Add_Menu(Main_Controls& controls, const Menu& entry) {
   QMenu* menu = bar->addMenu(QLatin1String(entry.caption));
   menu->setObjectName(QLatin1String(entry.name));
   QAction* title = Named(controls, menu->menuAction(), QLatin1String(entry.name));
-  title->setVisible(entry.visible);
+  Show_Menu(controls, entry.name, entry.visible);
   title->setStatusTip(QLatin1String(entry.hint));
   for (const Menu_Item& item : entry.items) Add_Item(controls, menu, entry.array, item);
   if (QLatin1String(entry.name) == QLatin1String("mnuFile")) Add_Recent_Files(controls, menu);
@@ -160,6 +172,34 @@ void Clear_Edit_Marks(Main_Controls& controls) {
   }
 }
 
+void Show_Menu(Main_Controls& controls, const char* name, bool shown) {
+  QMenuBar* bar = controls.window->menuBar();
+  QAction* title = Action_Of(controls, name);
+  title->setVisible(shown);
+  if (shown) {
+    bar->insertAction(Next_In_Bar(controls, name), title);
+  } else {
+    // In the bar it would keep its letter from everyone else.
+    bar->removeAction(title);
+  }
+  Share_Letters(controls);
+}
+
+void Share_Letters(Main_Controls& controls) {
+  QList<QKeySequence> taken;
+  for (const QAction* menu : controls.window->menuBar()->actions()) {
+    taken << QKeySequence::mnemonic(menu->text());
+  }
+  const auto share = [&taken](const ControlArray<QPushButton>& buttons) {
+    for (QPushButton* button : buttons) {
+      const QKeySequence letter = QKeySequence::mnemonic(button->text());
+      button->setShortcut(taken.contains(letter) ? QKeySequence() : letter);
+    }
+  };
+  share(controls.SSPanel3);
+  share(controls.SSPanel5);
+}
+
 void Show_Tools_Menu(Main_Controls& controls) {
   bool any = false;
   for (int i = 0; const char* screen = Tool_Screen(i); ++i) {
@@ -167,7 +207,7 @@ void Show_Tools_Menu(Main_Controls& controls) {
     Action_Of(controls, "mnuToolItem", i)->setVisible(stands);
     any = any || stands;
   }
-  Action_Of(controls, "mnuTools")->setVisible(any);
+  Show_Menu(controls, "mnuTools", any);
 }
 
 void Show_Recent_Menu(Main_Controls& controls) {

@@ -22,6 +22,13 @@ void Mark_Edit_Item(Main_Controls& controls, int index);
 void Keep_Edit_Mark(Main_Controls& controls, int index);
 void Clear_Edit_Marks(Main_Controls& controls);
 
+/// Shows or hides a menu of the bar.
+void Show_Menu(Main_Controls& controls, const char* name, bool shown);
+
+/// A letter goes to the menu bar first; a command's button answers to the letter of its caption as
+/// far as no menu in view has it.
+void Share_Letters(Main_Controls& controls);
+
 /// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
 void Show_Tools_Menu(Main_Controls& controls);
 

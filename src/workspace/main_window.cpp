@@ -56,6 +56,7 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
   setStatusBar(controls_.status_area);
   Build_Menus(controls_);
   Build_Boards(controls_);
+  Share_Letters(controls_);
   Connect_Main_Events(controls_, Project());
   Fill_Port();
   Set_Program_End([this] {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include "core/project_record.h"
@@ -10,14 +11,18 @@
 #include "core/workspace_port.h"
 #include "platform/help_viewer.h"
 #include "support/screen_support.h"
+#include "workspace/main_boards.h"
+#include "workspace/main_menus.h"
 
 namespace barvon {
 namespace {
 
+using testing::Has_Keyboard;
 using testing::Main_Bench;
 using testing::Modal_Replies;
 using testing::Press;
 using testing::Read_Text;
+using testing::Wait_Until;
 using testing::Write_Text;
 
 TEST(MainMenus, At_Start_Nothing_Of_The_Edit_Menu_And_No_Run_Is_Available) {
@@ -284,16 +289,66 @@ TEST(MainMenus, A_Screen_That_Does_Not_Stand_Yet_Is_Told_In_The_Status_Area) {
             "The screen frmDescription is not part of this version.");
 }
 
-TEST(MainMenus, Letters_Of_Menus_And_Commands_Do_Not_Clash) {
+/// How often the letter's key presses the button; what the button does is left out.
+int Presses(Main_Bench& bench, QPushButton* button, Qt::Key letter) {
+  QObject::disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+  QSignalSpy clicks(button, &QPushButton::clicked);
+  QTest::keyClick(&bench.main(), letter, Qt::AltModifier);
+  Wait_Until([&] { return !button->isDown(); });
+  return static_cast<int>(clicks.count());
+}
+
+TEST(MainMenus, Every_Letter_Of_A_Command_Presses_It) {
   Main_Bench bench;
-  QStringList keys;
-  for (QAction* menu : bench.main().menuBar()->actions()) {
-    if (menu->isVisible()) keys << QKeySequence::mnemonic(menu->text()).toString();
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const std::pair<int, Qt::Key> letters[] = {{0, Qt::Key_D}, {1, Qt::Key_R}, {3, Qt::Key_U},
+                                             {4, Qt::Key_M}, {5, Qt::Key_X}, {7, Qt::Key_O},
+                                             {8, Qt::Key_S}, {9, Qt::Key_W}};
+  for (const auto& [index, letter] : letters) {
+    EXPECT_EQ(Presses(bench, bench.controls().SSPanel3(index), letter), 1) << index;
   }
-  for (QPushButton* button : bench.controls().SSPanel3) keys << button->shortcut().toString();
-  for (QPushButton* button : bench.controls().SSPanel5) keys << button->shortcut().toString();
-  keys.removeAll(QString());
-  EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
+  Show_Data_Board(bench.controls());
+  EXPECT_EQ(Presses(bench, bench.controls().SSPanel5(0), Qt::Key_C), 1);
+  EXPECT_EQ(Presses(bench, bench.controls().SSPanel5(2), Qt::Key_P), 1);
+}
+
+TEST(MainMenus, A_Letter_That_A_Menu_Has_Opens_The_Menu) {
+  Main_Bench bench;
+  Show_Data_Board(bench.controls());
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const std::tuple<const char*, Qt::Key, QPushButton*> shared[] = {
+      {"mnuGraphics", Qt::Key_G, bench.controls().SSPanel3(2)},
+      {"mnuHelp", Qt::Key_H, bench.controls().SSPanel3(6)},
+      {"mnuEdit", Qt::Key_E, bench.controls().SSPanel5(1)}};
+  for (const auto& [menu, letter, button] : shared) {
+    EXPECT_EQ(Presses(bench, button, letter), 0) << menu;
+    EXPECT_TRUE(bench.Action(menu)->menu()->isVisible()) << menu;
+    bench.Action(menu)->menu()->close();
+  }
+}
+
+TEST(MainMenus, A_Menu_That_Comes_Into_View_Takes_Its_Letter_And_Gives_It_Back) {
+  Main_Bench bench;
+  const auto captions = [&bench] {
+    QStringList shown;
+    for (const QAction* menu : bench.main().menuBar()->actions()) {
+      if (menu->isVisible()) shown << menu->text();
+    }
+    return shown.join(' ');
+  };
+  const QPushButton* wizard = bench.controls().SSPanel3(9);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Help");
+  Show_Menu(bench.controls(), "mnuWindow", true);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Window &Help");
+  EXPECT_EQ(wizard->shortcut(), QKeySequence());
+  Show_Menu(bench.controls(), "mnuTools", true);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Tools &Window &Help");
+  Show_Menu(bench.controls(), "mnuWindow", false);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Tools &Help");
+  EXPECT_EQ(wizard->shortcut(), QKeySequence("Alt+W"));
+  EXPECT_EQ(wizard->text(), "Data &Wizard");
 }
 
 }  // namespace

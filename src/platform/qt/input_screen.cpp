@@ -59,7 +59,8 @@ QWidget* First_Control(QWidget* screen) {
 
 }  // namespace
 
-Input_Screen::Input_Screen(const char* name, QWidget* workspace) : QDialog(workspace) {
+Input_Screen::Input_Screen(const char* name, QWidget* workspace, Placement placement)
+    : QDialog(workspace), placement_(placement) {
   setObjectName(QLatin1String(name));
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &Input_Screen::Window_In_Focus);
 }
@@ -98,6 +99,10 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
 }
 
 void Input_Screen::Place() {
+  if (placement_ == Placement::Centre) {
+    Centre_On_Display(*this);
+    return;
+  }
   const QRect display = screen()->geometry();
   move(display.left() + static_cast<int>(display.width() * kPlace),
        display.top() + static_cast<int>(display.height() * kPlace));

@@ -17,14 +17,16 @@ namespace barvon {
 class Input_Screen : public QDialog {
  public:
   enum Command { kOk = 0, kCancel = 1, kHelp = 2 };
+  /// Where it opens: at 3 % of the display's width and height from its left and top, or in the
+  /// display's middle.
+  enum class Placement { Corner, Centre };
 
   /// `name` is the screen's name and reference, "frmOperation"; it opens over `workspace`.
-  Input_Screen(const char* name, QWidget* workspace);
+  Input_Screen(const char* name, QWidget* workspace, Placement placement = Placement::Corner);
 
-  /// Opens at 3 % of the display's width and height from its left and top and, when blocking,
-  /// comes back when the screen is closed. The focus goes to the control of that name, in
-  /// whichever tab it is, else to the first control. A screen that is open already comes to the
-  /// front as it stands.
+  /// Opens at its place and, when blocking, comes back when the screen is closed. The focus goes to
+  /// the control of that name, in whichever tab it is, else to the first control. A screen that is
+  /// open already comes to the front as it stands.
   void Open(bool blocking, const std::string& control = {});
 
   /// Escape and the close box are Cancel.
@@ -58,6 +60,7 @@ class Input_Screen : public QDialog {
   void Window_In_Focus(QWindow* window);
   void Run_Command(int index);
 
+  Placement placement_;
   std::vector<QPushButton*> Command1_;
   bool running_command_ = false;
   bool was_elsewhere_ = false;  // the user is at another screen of the program

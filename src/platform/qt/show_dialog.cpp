@@ -1,5 +1,7 @@
 #include "platform/qt/show_dialog.h"
 
+#include <QScreen>
+
 namespace barvon {
 
 void Show_Dialog(QDialog& dialog, bool blocking) {
@@ -11,6 +13,13 @@ void Show_Dialog(QDialog& dialog, bool blocking) {
   dialog.show();
   dialog.raise();
   dialog.activateWindow();
+}
+
+void Centre_On_Display(QWidget& window) {
+  window.adjustSize();
+  const QRect display = window.screen()->geometry();
+  window.move(display.left() + (display.width() - window.width()) / 2,
+              display.top() + (display.height() - window.height()) / 2);
 }
 
 }  // namespace barvon

@@ -1,0 +1,103 @@
+#include "material/density_data.h"
+
+#include "core/density_limits.h"
+#include "core/format_pattern.h"
+#include "core/number_reading.h"
+#include "core/number_text.h"
+#include "core/text_tools.h"
+#include "material/amden.h"
+#include "platform/message_box.h"
+
+namespace barvon {
+namespace {
+
+enum Field { kSalinity = 0, kTemperature, kDensity };
+
+constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted in a message
+
+std::string Density_Text(double density) { return Format_Number(density, "####0.0000"); }
+
+/// The strict conversion: all of the text is one number. It takes what the field has no mark for.
+std::optional<double> Strict_Number(const std::string& text) {
+  const Number_Reading reading = Read_Real(text);
+  return reading.differs ? std::nullopt : reading.value;
+}
+
+std::string Complaint(Field field, const std::string& text) {
+  const std::string name = kDensityFields[field];
+  if (Trimmed(text).empty()) return name + " is empty.\n";
+  std::string shown = First_Characters(text, kShownCharacters);
+  if (shown.size() < text.size()) shown += "...";
+  return name + ": \"" + shown + "\" can't be read as a number.\n";
+}
+
+void Refuse(const std::string& reason) {
+  Show_Message(
+      {reason + "No density has been computed.", kMessageTitle, Buttons::Ok, Icon::Warning});
+}
+
+}  // namespace
+
+Density_Entry Open_Density(ProjectRecord& record) {
+  record.SiteDensity = Held_Site_Density(record.SiteDensity);
+  return {{Format_Number(record.SiteSalinity, "####0.00"),
+           Format_Number(record.SiteTemperature, "####0.00"), Density_Text(record.SiteDensity)},
+          false};
+}
+
+std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& record) {
+  std::array<double, 2> typed{};
+  std::optional<int> wrong;
+  std::string complaints;
+  for (const Field field : {kSalinity, kTemperature}) {
+    if (const auto number = Strict_Number(entry.Text3[field])) {
+      typed[field] = *number;
+    } else {
+      complaints += Complaint(field, entry.Text3[field]);
+      if (!wrong) wrong = field;
+    }
+  }
+  if (wrong) {
+    Refuse(complaints);
+    return wrong;
+  }
+  const auto [salinity, temperature] = typed;
+  double density = record.SiteDensity;
+  if (entry.Check3D3) {
+    const auto computed = AMDEN(salinity, temperature, 0);
+    if (!computed) {
+      Refuse("The formula has no result for a salinity of " + Plain_Number(salinity) +
+             " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n");
+      return kTemperature;
+    }
+    density = *computed;
+  }
+  record.SiteSalinity = salinity;
+  record.SiteTemperature = temperature;
+  record.SiteDensity = Held_Site_Density(density);
+  entry.Text3[kDensity] = Density_Text(record.SiteDensity);
+  return std::nullopt;
+}
+
+void Save_Data(Density_Entry& entry, ProjectRecord& record) {
+  record.DataSaved = kFalse;
+  record.SiteSalinity = Lenient_Number(entry.Text3[kSalinity]);
+  record.SiteTemperature = Lenient_Number(entry.Text3[kTemperature]);
+  record.SiteDensity = Lenient_Number(entry.Text3[kDensity]);
+  // The material screens refuse such a density; here it is told and the screen closes.
+  if (record.SiteDensity < kLeastSiteDensity) {
+    Show_Message({"Minimum Density is 0.972 grams/cc"});
+  } else if (record.SiteDensity > kGreatestSiteDensity) {
+    Show_Message({"Maximum Density is 1.050 grams/cc"});
+  }
+  record.SiteDensity = Held_Site_Density(record.SiteDensity);
+  entry.Text3[kDensity] = Density_Text(record.SiteDensity);
+}
+
+Density_Copy Copy_Vars(const ProjectRecord& record) { return {record.SiteDensity}; }
+
+void Reset_Vars(const Density_Copy& copy, ProjectRecord& record) {
+  record.SiteDensity = copy.SiteDensity;
+}
+
+}  // namespace barvon
