@@ -1,19 +1,19 @@
 #include "site/frm_velocity.h"
 
-#include <QIcon>
-#include <QVBoxLayout>
-#include <cmath>
+#include <QHeaderView>
+#include <QScreen>
+#include <QStyle>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "core/format_pattern.h"
 #include "core/help_topics.h"
-#include "core/number_reading.h"
 #include "core/number_text.h"
 #include "core/screen_register.h"
 #include "core/workspace_port.h"
 #include "platform/help_viewer.h"
-#include "platform/qt/field_rows.h"
+#include "platform/qt/number_field.h"
 #include "platform/qt/option_paint.h"
 #include "site/drawn_cells.h"
 #include "site/grid_csv_file.h"
@@ -26,215 +26,20 @@ namespace {
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
 constexpr int kVelocityLine = 2, kVelocityItem = 2;  // status line, Edit entry
 constexpr int kVelocityScreen = 4;                   // ScreenDataSupplied
-constexpr QSize kIllustration{220, 160};
-constexpr QSize kFieldTable{300, 260};
-constexpr int kNoteLines = 3;
-
-struct Form_Texts {
-  const char* option;
-  const char* frame;
-  const char* illustration;
-};
-constexpr Form_Texts kForms[kVelocityForms] = {
-    {"Single Depth Averaged Velocity", "Average Velocity", "velocity_average"},
-    {"2-Point Velocity Profile For Constant Depth", "2-Point Profile", "velocity_two_point"},
-    {"Variable Velocity Field", "Variable Velocity Field", "velocity_field"},
-    {"Unsteady Velocity Profile", "Unsteady Velocity Profile", "velocity_tidal"},
-};
-constexpr const char* kAxes[kDirections] = {"X", "Z"};
-
-enum Text3_Index { kStart = 0, kDepth, kDuration, kAverageX, kAverageZ };
+constexpr double kPartOfDisplay = 0.93;              // its place and its frame take the rest
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
-/// The frame's left half for entries, its right half for the picture that follows them.
-QWidget* Left_Half(QGroupBox* frame, QWidget* picture) {
-  auto* halves = new QHBoxLayout(frame);
-  auto* left = new QWidget(frame);
-  halves->addWidget(left, 1);
-  halves->addWidget(picture, 1);
-  return left;
+/// As wide as all its columns: none is ever out of sight.
+void Show_All_Columns(F1Book* table) {
+  const QHeaderView& headings = *table->verticalHeader();
+  const int scroll_bar = table->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  table->setMinimumWidth(std::max(headings.sizeHint().width(), headings.minimumWidth()) +
+                         table->horizontalHeader()->length() + scroll_bar +
+                         2 * table->frameWidth());
 }
 
 }  // namespace
-
-frmVelocity::frmVelocity(QWidget* workspace)
-    : Input_Screen("frmVelocity", workspace),
-      record_(Project()),
-      Label5(Named(new QLabel(this), "Label5")),
-      Check3D1(Named(new QCheckBox(this), "Check3D1")),
-      F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
-      profile_(Named(new Two_Point_Profile(this), "TwoPointProfile")),
-      F1Book2(this, "F1Book2", kDirections, 0, kBookNumbers),
-      arrows_(Named(new Velocity_Arrows(this), "VelocityArrows")),
-      F1Book3(Named(new F1Book(kBookNumbers, this), "F1Book3")),
-      tide_(Named(new Tidal_Curve(this), "TidalCurve")) {
-  setWindowTitle(QStringLiteral("Velocity Profile Data"));
-  auto* column = new QVBoxLayout(this);
-  column->addWidget(Choice_Part());
-  QFont bold = Label5->font();
-  bold.setBold(true);
-  Label5->setFont(bold);
-  column->addWidget(Label5);
-  for (int form = 0; form < kVelocityForms; ++form) {
-    Frame3D(form)->setTitle(QLatin1String(kForms[form].frame));
-    Frame3D(form)->hide();
-    column->addWidget(Frame3D(form), 1);
-  }
-  Build_Single_Frame();
-  Build_Two_Point_Frame();
-  Build_Field_Frame();
-  Build_Unsteady_Frame();
-  column->addLayout(Note_Row());
-  column->addLayout(Make_Command1());
-  Set_Tab_Order();
-  Connect();
-}
-
-QWidget* frmVelocity::Choice_Part() {
-  auto* part = new QWidget(this);
-  auto* row = new QHBoxLayout(part);
-  row->setContentsMargins(0, 0, 0, 0);
-  auto* frame = new QGroupBox(QStringLiteral("Type of Velocity"), part);
-  auto* options = new QVBoxLayout(frame);
-  options->addStretch();
-  for (int form = 0; form < kVelocityForms; ++form) {
-    Option3D1(form)->setText(QLatin1String(kForms[form].option));
-    options->addWidget(Option3D1(form));
-  }
-  options->addStretch();
-  row->addWidget(frame, 1);
-  for (int form = 0; form < kVelocityForms; ++form) {
-    const QString file = QStringLiteral(":/pictures/%1.svg").arg(kForms[form].illustration);
-    Picture1(form)->setPixmap(QIcon(file).pixmap(kIllustration));
-    Picture1(form)->setFixedSize(kIllustration);
-    Picture1(form)->setAccessibleName(QLatin1String(Name_Of_Form(Velocity_Form(form))));
-    Picture1(form)->hide();
-    row->addWidget(Picture1(form));
-  }
-  part->setMinimumHeight(kIllustration.height());
-  return part;
-}
-
-void frmVelocity::Build_Single_Frame() {
-  Field_Rows rows(Frame3D(kSingleForm));
-  constexpr const char* kLabels[] = {"Depth at location (ft)", "X-Direction Velocity (fps)",
-                                     "Z-Direction Velocity (fps)"};
-  for (int i = 0; i <= Text1.last(); ++i) rows.Number(kLabels[i], Text1(i), Note(filled1_[At(i)]));
-  Check3D1->setText(QStringLiteral("Do you wish a Logarithmic Profile to be employed?"));
-  rows.Whole_Row(Check3D1);
-  rows.layout()->setRowStretch(rows.layout()->rowCount(), 1);
-}
-
-void frmVelocity::Build_Two_Point_Frame() {
-  auto* column = new QVBoxLayout(Left_Half(Frame3D(kTwoPointForm), profile_));
-  column->setContentsMargins(0, 0, 0, 0);
-  F1Book1->setAccessibleName(QStringLiteral("Two-point velocity profile"));
-  F1Book1->SetFocusCell(1, 1);
-  F1Book1->SetNumberNote(Real_Note);
-  column->addWidget(F1Book1, 1);
-  Label3(0)->setText(QStringLiteral("Constant Water Depth Must Be Specified in Site Data "));
-  Label3(1)->setText(QStringLiteral("X - Direction Velocity (+) is from top to bottom"));
-  Label3(2)->setText(QStringLiteral("Z - Direction Velocity (+) is from left to right"));
-  for (const int i : {1, 2, 0}) column->addWidget(Label3(i));
-}
-
-void frmVelocity::Build_Field_Frame() {
-  auto* row = new QHBoxLayout(Frame3D(kFieldForm));
-  for (int i = 0; i < kDirections; ++i) row->addWidget(Build_Field(i), 1);
-  row->addWidget(arrows_, 1);
-}
-
-QWidget* frmVelocity::Build_Field(int i) {
-  auto* part = new QWidget(this);
-  auto* column = new QVBoxLayout(part);
-  column->setContentsMargins(0, 0, 0, 0);
-  const QString axis = QLatin1String(kAxes[i]);
-  auto* entries = new QWidget(part);
-  Field_Rows rows(entries);
-  rows.layout()->setContentsMargins(0, 0, 0, 0);
-  Check3D2(i)->setText(
-      QStringLiteral("Initialize the %1-Direction Velocity field to a constant?").arg(axis));
-  rows.Whole_Row(Check3D2(i));
-  rows.Number("Constant Velocity to be Used (fps)", Text2(i), Note(filled2_[At(i)]))
-      ->setObjectName(QStringLiteral("Label2"));
-  Text2(i)->setEnabled(false);
-  column->addWidget(entries);
-  F1Book2(i)->setAccessibleName(QStringLiteral("%1-Direction velocity field").arg(axis));
-  F1Book2(i)->setMinimumSize(kFieldTable);
-  F1Book2(i)->SetFocusCell(1, 1);
-  F1Book2(i)->SetNumberNote(Real_Note);
-  column->addWidget(F1Book2(i), 1);
-  auto* buttons = new QHBoxLayout;
-  Import_(i)->setText(i == kAlongX ? QStringLiteral("&Import X...")
-                                   : QStringLiteral("I&mport Z..."));
-  Export_(i)->setText(i == kAlongX ? QStringLiteral("&Export X...")
-                                   : QStringLiteral("E&xport Z..."));
-  Import_(i)->setToolTip(QStringLiteral("Reads the table from comma separated values, row by row"));
-  Export_(i)->setToolTip(QStringLiteral("Writes the table as comma separated values, row by row"));
-  for (QPushButton* button : {Import_(i), Export_(i)}) {
-    button->setAutoDefault(false);
-    buttons->addWidget(button);
-  }
-  buttons->addStretch();
-  column->addLayout(buttons);
-  return part;
-}
-
-void frmVelocity::Build_Unsteady_Frame() {
-  auto* row = new QHBoxLayout(Frame3D(kUnsteadyForm));
-  F1Book3->setAccessibleName(QStringLiteral("Unsteady velocity profile"));
-  F1Book3->SetNumberNote(Real_Note);
-  row->addWidget(F1Book3, 1);
-  auto* right = new QVBoxLayout;
-  auto* entries = new QWidget(Frame3D(kUnsteadyForm));
-  Field_Rows rows(entries);
-  rows.layout()->setContentsMargins(0, 0, 0, 0);
-  rows.Number("Start Time Within Velocity Profile (Hrs)", Text3(kStart), Note(filled3_[kStart]));
-  rows.Number("Depth Where Velocity Profile is Applied (Ft)", Text3(kDepth),
-              Note(filled3_[kDepth]));
-  rows.Number("Simulation Duration (Hrs)", Text3(kDuration), Note(filled3_[kDuration]));
-  rows.Shown("Average X-Velocity (Ft/Sec)", Text3(kAverageX));
-  rows.Shown("Average Z-Velocity (Ft/Sec)", Text3(kAverageZ));
-  for (const int i : {kAverageX, kAverageZ}) Text3(i)->setToolTip(QStringLiteral("OK computes it"));
-  tide_->Set_Caption(QStringLiteral("Averages as OK computes them"));
-  right->addWidget(entries);
-  right->addWidget(tide_, 1);
-  row->addLayout(right, 1);
-}
-
-QLayout* frmVelocity::Note_Row() {
-  auto* row = new QHBoxLayout;
-  for (QPlainTextEdit* note : Text4) {
-    note->setReadOnly(true);
-    note->setTabChangesFocus(true);
-    const double room = 2 * (note->document()->documentMargin() + note->frameWidth());
-    note->setFixedHeight(note->fontMetrics().lineSpacing() * kNoteLines +
-                         static_cast<int>(std::ceil(room)));
-  }
-  Text4(0)->setAccessibleName(QStringLiteral("Note on directions"));
-  Text4(1)->setAccessibleName(QStringLiteral("Simulated interval in hours"));
-  Text4(1)->hide();
-  row->addWidget(Text4(0), 3);
-  row->addWidget(Text4(1), 1);
-  return row;
-}
-
-void frmVelocity::Set_Tab_Order() {
-  std::vector<QWidget*> order(Option3D1.begin(), Option3D1.end());
-  order.insert(order.end(), Text1.begin(), Text1.end());
-  order.insert(order.end(), {Check3D1, F1Book1, profile_});
-  for (int i = 0; i < kDirections; ++i) {
-    order.insert(order.end(), {Check3D2(i), Text2(i), F1Book2(i), Import_(i), Export_(i)});
-  }
-  order.insert(order.end(), {arrows_, F1Book3});
-  order.insert(order.end(), Text3.begin(), Text3.end());
-  order.insert(order.end(),
-               {tide_, Text4(0), Text4(1), Command1(kOk), Command1(kCancel), Command1(kHelp)});
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
-}
 
 void frmVelocity::Connect() {
   for (int form = 0; form < kVelocityForms; ++form) {
@@ -315,7 +120,7 @@ void frmVelocity::Check3D1_Click() {
 
 void frmVelocity::Check3D2_Click(int i) {
   const auto direction = static_cast<Velocity_Direction>(i);
-  Text2(i)->setEnabled(Check3D2(i)->isChecked());
+  Enable_Constant(i, Check3D2(i)->isChecked());
   if (Check3D2(i)->isChecked()) {
     // A missing constant reads as 0 and does not hold the filling up.
     if (Text2(i)->text().isEmpty()) {
@@ -330,6 +135,13 @@ void frmVelocity::Check3D2_Click(int i) {
     Const_Velocity(record_, direction) = 0;
   }
   Draw_Arrows();
+}
+
+void frmVelocity::Enable_Constant(int i, bool enabled) {
+  Text2(i)->setEnabled(enabled);
+  // What is not read has nothing to be marked for.
+  Make_Number_Field(
+      Text2(i), enabled ? Note(filled2_[At(i)]) : [](const std::string&) { return std::string(); });
 }
 
 void frmVelocity::Text2_Change(int i) {
@@ -392,6 +204,7 @@ void frmVelocity::Show_Form() {
     }
     case kTwoPointForm:
       Fill_Point_Table(entry.F1Book1, F1Book1->table());
+      Show_All_Columns(F1Book1);
       Draw_Points();
       break;
     case kFieldForm:
@@ -401,16 +214,19 @@ void frmVelocity::Show_Form() {
       Show_Unsteady(entry);
       break;
   }
-  FillingForm = filled_before;
   // Forms differ much in size; what is hidden takes no room.
-  if (!isMaximized()) resize(sizeHint());
+  if (!isMaximized()) {
+    resize(sizeHint().boundedTo(screen()->availableSize() * kPartOfDisplay));
+  }
+  if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages_Of_Filling();
+  FillingForm = filled_before;
 }
 
 void frmVelocity::Show_Fields(const Velocity_Entry& entry) {
   Tell_Grid_Beyond_Fields(record_);
   for (int i = 0; i < kDirections; ++i) {
     const Velocity_Entry::Field& field = entry.fields[At(i)];
-    Text2(i)->setEnabled(field.Check3D2);
+    Enable_Constant(i, field.Check3D2);
     Check3D2(i)->setChecked(field.Check3D2);
     if (field.Check3D2) {
       Set_Field(Text2(i), filled2_[At(i)], field.Text2,
@@ -429,7 +245,11 @@ void frmVelocity::Show_Unsteady(const Velocity_Entry& entry) {
   }
   for (const int i : {kAverageX, kAverageZ}) Text3(i)->setText(Text(entry.Text3[At(i)]));
   Fill_Tidal_Table(entry.F1Book3, F1Book3->table());
+  Show_All_Columns(F1Book3);
   Text3_Change();
+}
+
+void frmVelocity::Show_Averages_Of_Filling() {
   // Once for the whole filling, when everything stands that the averages are made from. While a
   // person types, the averages shown stay until OK.
   if (Interval_Of(Entry()).duration == 0) {

@@ -54,6 +54,7 @@ class frmVelocity : public Input_Screen {
   void Option3D1_Click(int form);
   void Check3D1_Click();
   void Check3D2_Click(int direction);
+  void Enable_Constant(int direction, bool enabled);
   void Text2_Change(int direction);
   void Text3_Change();
   void Import(int direction);
@@ -63,7 +64,9 @@ class frmVelocity : public Input_Screen {
   void Show_Form();
   void Show_Fields(const Velocity_Entry& entry);
   void Show_Unsteady(const Velocity_Entry& entry);
+  void Show_Averages_Of_Filling();
   void Show_Averages();
+  static std::size_t At(int index) { return static_cast<std::size_t>(index); }
   static Number_Note Note(const Filled_Text& filled);
   void Set_Field(QLineEdit* field, Filled_Text& filled, const std::string& text, double value);
   Velocity_Entry Entry() const;

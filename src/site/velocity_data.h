@@ -29,6 +29,10 @@ const char* Name_Of_Form(Velocity_Form form);
 /// X runs from the top of the grid to its bottom, Z from left to right.
 enum Velocity_Direction { kAlongX = 0, kAlongZ = 1 };
 inline constexpr int kDirections = 2;
+inline constexpr const char* kAxes[kDirections] = {"X", "Z"};
+
+/// The fields Text3 of the unsteady form.
+enum Unsteady_Field { kStart = 0, kDepth, kDuration, kAverageX, kAverageZ };
 
 /// What frmVelocity holds, one member per control; tables by row and column from 1. Velocities in
 /// ft/s, depths in feet, times in hours.

@@ -18,6 +18,7 @@
 #include "platform/qt/help_window.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/text_window.h"
+#include "site/frm_velocity.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 #include "workspace/frm_open.h"
@@ -93,6 +94,21 @@ void Look_At_Error_List(const Look& look) {
   list.close();
 }
 
+void Look_At_Velocity(Main_Bench& bench, const Look& look) {
+  Register_Screen("frmVelocity", Fresh_Screens<frmVelocity>(&bench.main()));
+  Project().SimulationDuration = 5000;
+  Project().AvgVelocityX = 0.25;
+  Project().ConstVelocityX = 1.25;
+  for (const double type : {0, 1, 2, 3, 4, 5}) {
+    Project().VelocityProfileType = type;
+    QWidget& screen = Opened("frmVelocity");
+    look(screen, "type " + std::to_string(static_cast<int>(type)));
+    static_cast<frmVelocity&>(screen).Unload();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  Register_Screen("frmVelocity", {});
+}
+
 void Look_At_Help(const Look& look) {
   Set_Help_File(BARVON_HELP_FILE);
   Show_Help({Help_Command::Index, 0, ""});
@@ -138,6 +154,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Details(bench, settled);
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
+  Look_At_Velocity(bench, settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Progress(settled);

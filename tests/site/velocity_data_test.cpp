@@ -301,6 +301,13 @@ TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
                                 "TidalAvgVelZ", "TidalVelX", "TidalVelZ", "SimulationDuration"}));
 }
 
+TEST_F(VelocityData, A_Filled_Text_Tells_What_Its_Decimals_Leave_Out) {
+  EXPECT_EQ(Filled_Note("0.3", "0.3", 0.25), "rounded from 0.25: OK stores 0.3");
+  EXPECT_EQ(Filled_Note("0.3", "0.3", 0.3), "");
+  EXPECT_EQ(Filled_Note("0.30", "0.3", 0.25), "") << "typed anew";
+  EXPECT_EQ(Filled_Note("0,3", "0.3", 0.25), "reads as 0");
+}
+
 TEST_F(VelocityData, The_Open_Wizard_Names_The_Type) {
   record.VelocityProfileType = 2;
   const double types[] = {1, 3, 4, 5};
