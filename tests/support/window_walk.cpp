@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 #include <QToolBar>
 #include <map>
@@ -48,7 +49,13 @@ std::vector<QWidget*> Controls_In_View(const QWidget& window) {
   return controls;
 }
 
+/// The mark in a field's edge has a text for assistive tools only.
+bool Is_Mark_Of_A_Field(const QWidget* control) {
+  return qobject_cast<const QLineEdit*>(control->parentWidget()) != nullptr;
+}
+
 bool Has_Too_Little_Room(const QWidget* control) {
+  if (Is_Mark_Of_A_Field(control)) return false;
   const auto* label = qobject_cast<const QLabel*>(control);
   const auto* button = qobject_cast<const QAbstractButton*>(control);
   if (label != nullptr && label->wordWrap()) {
@@ -173,9 +180,13 @@ bool Is_Worked_With(const QWidget* control) {
   const QWidget* parent = control->parentWidget();
   // A clear button is in the field's own keys; a bar's and a heading's parts belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
-      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QHeaderView*>(control)) {
+      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QHeaderView*>(control) ||
+      control->inherits("QTableCornerButton")) {
     return false;
   }
+  // A value that is only shown is read out with its label and passed by.
+  const auto* field = qobject_cast<const QLineEdit*>(control);
+  if (field != nullptr && field->isReadOnly()) return false;
   return qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLineEdit*>(control) ||
          qobject_cast<const QComboBox*>(control) ||
          qobject_cast<const QAbstractSpinBox*>(control) || qobject_cast<const QTabBar*>(control) ||
@@ -188,6 +199,12 @@ bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>
     if (other->parentWidget() == option->parentWidget() && reached.count(other) != 0) return true;
   }
   return false;
+}
+
+/// Out of a table, whose cells Tab goes through, leads Tab with Ctrl.
+void Press_Tab(QWidget* control) {
+  const bool in_a_table = qobject_cast<QTableView*>(control) != nullptr;
+  QTest::keyClick(control, Qt::Key_Tab, in_a_table ? Qt::ControlModifier : Qt::NoModifier);
 }
 
 }  // namespace
@@ -242,12 +259,12 @@ Complaints Unreached_Controls(QWidget& window) {
   std::set<const QWidget*> reached;
   window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) return {"the window does not become active"};
-  QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Tab);
+  Press_Tab(window.focusWidget() ? window.focusWidget() : &window);
   const QWidget* first = window.focusWidget();
   bool left_first = false;
   for (int turn = 0; turn < kLongestRound && window.focusWidget() != nullptr; ++turn) {
     reached.insert(window.focusWidget());
-    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    Press_Tab(window.focusWidget());
     if (window.focusWidget() != first) left_first = true;
     if (window.focusWidget() == first && left_first) break;
   }
