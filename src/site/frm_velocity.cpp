@@ -205,6 +205,7 @@ void frmVelocity::Show_Form() {
     case kTwoPointForm:
       Fill_Point_Table(entry.F1Book1, F1Book1->table());
       Show_All_Columns(F1Book1);
+      F1Book1->setFixedHeight(F1Book1->sizeHint().height());
       Draw_Points();
       break;
     case kFieldForm:

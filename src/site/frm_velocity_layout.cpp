@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize kIllustration{220, 160};
 constexpr QSize kFieldTable{300, 260};
-constexpr QSize kSmallestPicture{360, 230};
+constexpr QSize kSmallestPicture{440, 250};
 constexpr int kNoteLines = 4;
 
 struct Form_Texts {
@@ -106,11 +106,12 @@ void frmVelocity::Build_Two_Point_Frame() {
   F1Book1->setAccessibleName(QStringLiteral("Two-point velocity profile"));
   F1Book1->SetFocusCell(1, 1);
   F1Book1->SetNumberNote(Real_Note);
-  column->addWidget(F1Book1, 1);
+  column->addWidget(F1Book1);
   Label3(0)->setText(QStringLiteral("Constant Water Depth Must Be Specified in Site Data "));
   Label3(1)->setText(QStringLiteral("X - Direction Velocity (+) is from top to bottom"));
   Label3(2)->setText(QStringLiteral("Z - Direction Velocity (+) is from left to right"));
   for (const int i : {1, 2, 0}) column->addWidget(Label3(i));
+  column->addStretch();
 }
 
 void frmVelocity::Build_Field_Frame() {
