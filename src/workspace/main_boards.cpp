@@ -2,9 +2,12 @@
 
 #include <QGridLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "platform/qt/option_paint.h"
 #include "platform/qt/tool_bar_keys.h"
 #include "workspace/board_parts.h"
+#include "workspace/main_help.h"
 
 namespace barvon {
 namespace {
@@ -64,6 +67,12 @@ void Set_Tab_Order(Main_Controls& c) {
   c.Title_Box->setFocus();
 }
 
+/// Whoever works by keys goes on in the board that takes this one's place.
+bool Has_Focus(const Main_Controls& controls, const QWidget* board) {
+  const QWidget* active = controls.window->focusWidget();
+  return active != nullptr && board->isAncestorOf(active);
+}
+
 }  // namespace
 
 void Build_Boards(Main_Controls& controls) {
@@ -78,17 +87,25 @@ void Build_Boards(Main_Controls& controls) {
   layout->addLayout(Command_Row(controls));
   controls.window->setCentralWidget(centre);
   Set_Tab_Order(controls);
+  Set_Help_Topics(controls);
   Show_Main_Board(controls);
 }
 
 void Show_Main_Board(Main_Controls& controls) {
+  const bool has_focus = Has_Focus(controls, controls.Frame3D2);
   controls.Frame3D2->hide();
   controls.Frame3D1->show();
+  if (has_focus) controls.Title_Box->setFocus();
 }
 
 void Show_Data_Board(Main_Controls& controls) {
+  const bool has_focus = Has_Focus(controls, controls.Frame3D1);
   controls.Frame3D1->hide();
   controls.Frame3D2->show();
+  if (has_focus) {
+    QRadioButton* first = controls.SSOption3(std::max(0, Chosen_Option(controls.SSOption3)));
+    first->setFocus(Qt::ShortcutFocusReason);
+  }
 }
 
 }  // namespace barvon

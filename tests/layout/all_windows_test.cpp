@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <functional>
 #include <regex>
@@ -14,8 +15,11 @@
 #include "core/project_record.h"
 #include "core/screen_register.h"
 #include "core/workspace_port.h"
+#include "material/frm_density.h"
 #include "platform/qt/frm_progress_bar.h"
 #include "platform/qt/help_window.h"
+#include "platform/qt/input_screen.h"
+#include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/text_window.h"
 #include "site/frm_velocity.h"
@@ -109,6 +113,22 @@ void Look_At_Velocity(Main_Bench& bench, const Look& look) {
   Register_Screen("frmVelocity", {});
 }
 
+/// An input screen with each of its tabs in front.
+template <class Screen>
+void Look_At_Input_Screen(Main_Bench& bench, const char* name, const Look& look) {
+  Register_Screen(name, Fresh_Screens<Screen>(&bench.main()));
+  QWidget& screen = Opened(name);
+  look(screen, "as it opens");
+  for (auto* tabs : screen.findChildren<QTabWidget*>()) {
+    for (int page = 0; page < tabs->count(); ++page) {
+      tabs->setCurrentIndex(page);
+      look(screen, tabs->tabText(page).toStdString());
+    }
+  }
+  static_cast<Input_Screen&>(screen).Unload();
+  Register_Screen(name, {});
+}
+
 void Look_At_Help(const Look& look) {
   Set_Help_File(BARVON_HELP_FILE);
   Show_Help({Help_Command::Index, 0, ""});
@@ -142,6 +162,31 @@ void Look_At_Progress(const Look& look) {
   look(progress, "");
 }
 
+/// Looks at the blocking dialog that `open` brings up, and calls it off.
+void Look_At_Blocking(const std::string& name, const std::function<void()>& open,
+                      const Look& look) {
+  Modal_Replies replies({[&](QWidget* dialog) {
+    if (dialog->objectName().isEmpty()) dialog->setObjectName(QString::fromStdString(name));
+    if (!QTest::qWaitForWindowExposed(dialog)) ADD_FAILURE() << name << " stays hidden";
+    look(*dialog, name);
+    dialog->close();
+  }});
+  open();
+}
+
+void Look_At_File_Dialogs(const Look& look) {
+  Scratch_Folder folder;
+  for (const char* name : {"Barge_Four_Layers.DUI", "Section_103_Water_Quality.DUI"}) {
+    Write_Text(folder / name, std::string(258000, 'x'));
+  }
+  const File_Request request{"", {{"BARVON Data Files", "*.DUI"}}, folder.path(), {}};
+  Look_At_Blocking(
+      "open", [&] { Ask_Qt_Open_File(request); }, look);
+  Look_At_Blocking(
+      "save", [&] { Ask_Qt_Save_File(request); }, look);
+  Look_At_Blocking("printer", Show_Qt_Printer_Setup, look);
+}
+
 void Walk_All_Windows(const Look& look) {
   const Look settled = [&look](QWidget& window, const std::string& state) {
     QCoreApplication::processEvents();
@@ -154,10 +199,12 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Details(bench, settled);
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
+  Look_At_Input_Screen<frmDensity>(bench, "frmDensity", settled);
   Look_At_Velocity(bench, settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Progress(settled);
+  Look_At_File_Dialogs(settled);
 }
 
 std::string Where(const QWidget& window, const std::string& state) {
@@ -205,13 +252,13 @@ TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
     walked.insert(window.objectName().toStdString());
   });
   const std::string program = Read_Text(BARVON_SOURCE "/src/main.cpp");
-  const std::regex registers("Register_(frm\\w+|Data_\\w+|DataBase)\\(");
+  const std::regex registers("Register_(?:Screen\\(\"|)((?:frm|Data|Graphic)\\w+)");
   int screens = 0;
   for (std::sregex_iterator at(program.begin(), program.end(), registers), end; at != end; ++at) {
-    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1];
+    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1] << " is not in Walk_All_Windows";
     ++screens;
   }
-  EXPECT_GE(screens, 2);
+  EXPECT_GE(screens, 3);
   for (const char* window :
        {"Main", "Help", "Text_Window", "StatusDetailsDialog", "frmProgress_Bar"}) {
     EXPECT_EQ(walked.count(window), 1U) << window;

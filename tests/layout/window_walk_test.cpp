@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -16,6 +17,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QToolBar>
+#include <QTreeWidget>
 
 #include "platform/qt/elided_label.h"
 
@@ -101,6 +103,19 @@ TEST_F(WindowWalk, Finds_A_Tab_Out_Of_View) {
   EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
 }
 
+TEST_F(WindowWalk, Finds_A_Column_Without_Its_Room) {
+  auto* tree = Put(new QTreeWidget, 10, 40);
+  tree->setColumnCount(2);
+  tree->addTopLevelItem(new QTreeWidgetItem({"a", "a text of some length"}));
+  tree->header()->setStretchLastSection(false);
+  tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  Show();
+  EXPECT_EQ(Listed(Cut_Off_Texts(window)), "");
+  tree->header()->setSectionResizeMode(QHeaderView::Fixed);
+  tree->setColumnWidth(1, 60);
+  EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
+}
+
 TEST_F(WindowWalk, Finds_A_Shortened_Line) {
   auto* line = Put(new Elided_Label, 10, 40);
   line->setText("a line of some length");
@@ -128,6 +143,14 @@ TEST_F(WindowWalk, Finds_A_Letter_With_Two_Meanings) {
 TEST_F(WindowWalk, A_Letter_That_A_Caption_Shows_But_Gave_Up_Does_Not_Clash) {
   window.menuBar()->addMenu("&Help");
   Put(new QPushButton("&Help"), 10, 40)->setShortcut({});
+  Show();
+  EXPECT_EQ(Listed(Clashing_Keys(window)), "");
+}
+
+TEST_F(WindowWalk, A_Key_Of_Another_Window_Does_Not_Clash) {
+  QWidget dialog(&window, Qt::Dialog);
+  new QShortcut(QKeySequence::HelpContents, &dialog);
+  new QShortcut(QKeySequence::HelpContents, &window);
   Show();
   EXPECT_EQ(Listed(Clashing_Keys(window)), "");
 }

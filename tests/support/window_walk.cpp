@@ -19,6 +19,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QToolBar>
+#include <QTreeView>
 #include <map>
 #include <set>
 
@@ -54,6 +55,12 @@ bool Is_Mark_Of_A_Field(const QWidget* control) {
   return qobject_cast<const QLineEdit*>(control->parentWidget()) != nullptr;
 }
 
+/// The field inside of a spin or combo box, whose frame is the box's.
+bool Is_Part_Of_Another(const QWidget* field) {
+  const QWidget* parent = field->parentWidget();
+  return qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent);
+}
+
 bool Has_Too_Little_Room(const QWidget* control) {
   if (Is_Mark_Of_A_Field(control)) return false;
   const auto* label = qobject_cast<const QLabel*>(control);
@@ -65,8 +72,8 @@ bool Has_Too_Little_Room(const QWidget* control) {
   QSize wanted;
   if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
     wanted = control->sizeHint();
-  } else if (qobject_cast<const QGroupBox*>(control) || qobject_cast<const QLineEdit*>(control) ||
-             qobject_cast<const QComboBox*>(control)) {
+  } else if (qobject_cast<const QGroupBox*>(control) || qobject_cast<const QComboBox*>(control) ||
+             (qobject_cast<const QLineEdit*>(control) && !Is_Part_Of_Another(control))) {
     wanted = control->minimumSizeHint();
   }
   return control->width() < wanted.width() || control->height() < wanted.height();
@@ -110,6 +117,15 @@ bool Cuts_A_Heading(const QHeaderView* header) {
     if (!header->isSectionHidden(i) && header->sectionSize(i) < header->sectionSizeHint(i)) {
       return true;
     }
+  }
+  return false;
+}
+
+bool Cuts_A_Column(const QTreeView* view) {
+  const QAbstractItemView* items = view;
+  const int columns = view->model() == nullptr ? 0 : view->model()->columnCount();
+  for (int i = 0; i < columns; ++i) {
+    if (!view->isColumnHidden(i) && view->columnWidth(i) < items->sizeHintForColumn(i)) return true;
   }
   return false;
 }
@@ -178,10 +194,10 @@ void Add_Letters_Of(const QWidget* control, Claims& claims) {
 bool Is_Worked_With(const QWidget* control) {
   if (!control->isEnabled() || control->focusProxy() != nullptr) return false;
   const QWidget* parent = control->parentWidget();
-  // A clear button is in the field's own keys; a bar's and a heading's parts belong to it.
+  // A clear button is in the field's own keys; the parts of a bar, a box and a table belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
-      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QHeaderView*>(control) ||
-      control->inherits("QTableCornerButton")) {
+      qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent) ||
+      qobject_cast<const QAbstractItemView*>(parent) || qobject_cast<const QHeaderView*>(control)) {
     return false;
   }
   // A value that is only shown is read out with its label and passed by.
@@ -227,6 +243,10 @@ Complaints Cut_Off_Texts(const QWidget& window) {
     if (header != nullptr && Cuts_A_Heading(header)) {
       complaints.push_back(Name_Of(control) + " cuts a heading");
     }
+    const auto* tree = qobject_cast<const QTreeView*>(control);
+    if (tree != nullptr && Cuts_A_Column(tree)) {
+      complaints.push_back(Name_Of(control) + " cuts a column");
+    }
   }
   return complaints;
 }
@@ -243,12 +263,18 @@ Complaints Shortened_Texts(const QWidget& window) {
 Complaints Clashing_Keys(const QWidget& window) {
   Claims claims;
   for (const QWidget* control : Controls_In_View(window)) Add_Letters_Of(control, claims);
+  const auto of_window = [&window](const QObject* key) {
+    const auto* owner = qobject_cast<const QWidget*>(key->parent());
+    return owner != nullptr && owner->window() == &window && owner->isVisible();
+  };
   for (const QAction* action : window.findChildren<QAction*>()) {
+    if (!of_window(action)) continue;
     for (const QKeySequence& key : action->shortcuts()) {
       claims.Add(key, "action " + action->objectName().toStdString());
     }
   }
   for (const auto* shortcut : window.findChildren<QShortcut*>()) {
+    if (!of_window(shortcut) || shortcut->context() != Qt::WindowShortcut) continue;
     claims.Add(shortcut->key(), "key of " + shortcut->parent()->objectName().toStdString());
   }
   return claims.Clashes();

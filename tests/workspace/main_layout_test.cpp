@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
+#include <QAccessible>
 #include <QDialog>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -128,6 +128,26 @@ TEST(MainLayout, The_Title_Has_The_Focus_First_And_A_Click_On_The_Toolbar_Leaves
   QWidget* check = bench.controls().Toolbar1->widgetForAction(bench.Action("Toolbar1(9)"));
   QTest::mouseClick(check, Qt::LeftButton);
   EXPECT_EQ(bench.main().focusWidget(), bench.controls().Title_Box);
+}
+
+QString Read_Out(QWidget* control) {
+  return QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+}
+
+TEST(MainLayout, A_Category_Is_Read_Out_With_Its_State) {
+  Main_Bench bench;
+  auto& c = bench.controls();
+  EXPECT_EQ(Read_Out(c.Text2(0)), "Program Options: Data Not Entered");
+  EXPECT_EQ(Read_Out(c.Text2(5)), "Coefficients: Default Coefficients Used");
+  Port().set_status_line(3, kDataSupplied, Status_Colour::Blue);
+  EXPECT_EQ(Read_Out(c.Text2(3)), "Material Description: Data Supplied");
+}
+
+TEST(MainLayout, A_Remark_Is_Read_Out_Whole) {
+  Main_Bench bench;
+  const std::string remark = "remark " + std::string(400, 'w');
+  Port().show_note({remark, ""});
+  EXPECT_EQ(Read_Out(bench.Child<QLabel>("StatusNote")).toStdString(), remark);
 }
 
 TEST(MainLayout, A_Remark_That_Is_Cut_Can_Be_Read_In_Whole_Without_A_Mouse) {
