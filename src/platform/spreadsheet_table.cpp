@@ -213,6 +213,12 @@ void Spreadsheet_Table::Font(const Cell_Range& range, const std::string& name, i
   });
 }
 
+int Spreadsheet_Table::LargestFont() const {
+  int largest = 0;
+  for (const Cell_Style& style : styles_) largest = std::max(largest, style.font_size);
+  return largest;
+}
+
 // Headings and widths
 
 std::string Spreadsheet_Table::RowText(int row) const {

@@ -95,6 +95,8 @@ class Spreadsheet_Table {
   const Cell_Value& ValueRC(int row, int col) const;
   void ValueRC(int row, int col, Cell_Value value);
   const Cell_Style& StyleRC(int row, int col) const;
+  /// The points of the largest font that any cell was ever given; 0 without one.
+  int LargestFont() const;
 
   // The cursor is the active cell. 1, 1 at first; a number outside the sheet is brought in.
   int Row() const { return row_; }

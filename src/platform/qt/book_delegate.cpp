@@ -69,6 +69,12 @@ QWidget* Book_Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
   return editor;
 }
 
+void Book_Delegate::destroyEditor(QWidget* editor, const QModelIndex& index) const {
+  // It is gone only some events later.
+  if (editor == editor_) editor_ = nullptr;
+  QStyledItemDelegate::destroyEditor(editor, index);
+}
+
 void Book_Delegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
   // A cell that changes under the editor leaves alone what the user is typing.
   auto* line = static_cast<QLineEdit*>(editor);
