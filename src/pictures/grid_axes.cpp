@@ -13,9 +13,10 @@ namespace {
 void Put_Headings(QCPAxis& axis, const QString& word, int count, double pixels, double label) {
   const QSharedPointer<QCPAxisTickerText> headings(new QCPAxisTickerText);
   const int stride = Label_Stride(count, pixels, label);
-  // 1, 3, 5 and so on, or 1 and the multiples of a larger stride: 1, 5, 10.
+  // 1, 3, 5 and so on, or 1 and the multiples of a larger stride, but none too near to the first.
+  const bool skip = (stride - 1) * pixels < label * count;
   for (int at = 1; at <= count; at += at == 1 && stride > 2 ? stride - 1 : stride) {
-    headings->addTick(at, word.arg(at));
+    if (at == 1 || at != stride || !skip) headings->addTick(at, word.arg(at));
   }
   axis.setTicker(headings);
 }

@@ -45,6 +45,9 @@ std::string Curve_Text(const char* name, const std::vector<Tidal_Point>& points)
   const auto [low, high] = std::minmax_element(
       points.begin(), points.end(),
       [](const Tidal_Point& a, const Tidal_Point& b) { return a.velocity < b.velocity; });
+  if (low->velocity == high->velocity) {
+    return std::string(name) + " velocity " + Short_Text(low->velocity) + " ft/s throughout.";
+  }
   return std::string(name) + " velocity from " + Short_Text(low->velocity) + " ft/s at " +
          Short_Text(low->hour) + " h to " + Short_Text(high->velocity) + " ft/s at " +
          Short_Text(high->hour) + " h.";

@@ -38,6 +38,8 @@ Velocity_Arrows::Velocity_Arrows(QWidget* parent)
   scale_->setGradient(Speed_Colours());
   map_->setColorScale(scale_);
   arrows_ = new Arrow_Layer(plot());
+  // The room between two points is known once the labels have taken theirs.
+  connect(plot(), &QCustomPlot::afterLayout, this, [this] { Fit_Arrows(); });
   Data_Changed();
 }
 
@@ -86,20 +88,23 @@ void Velocity_Arrows::Build() {
 
 void Velocity_Arrows::Fit() {
   Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
-  const QSizeF room = Room_For_Axes(*plot());
-  Fit_Labels(*scale_->axis(), drawing_.scale, room.height());
+  Fit_Labels(*scale_->axis(), drawing_.scale, Room_For_Axes(*plot()).height());
   arrows_->font = plot()->yAxis->tickLabelFont();
   // The reference arrow stands below the map.
   const int below = static_cast<int>(QFontMetricsF(arrows_->font).height()) + 10;
   plot()->axisRect()->setMinimumMargins(QMargins(15, 15, 15, below));
+}
+
+void Velocity_Arrows::Fit_Arrows() {
   arrows_->arrows.clear();
   if (drawing_.rows == 0) return;
-  const double width = room.width() - 60;
-  const int row_stride = Arrow_Stride(drawing_.rows, room.height(), kLeastApart);
-  const int column_stride = Arrow_Stride(drawing_.columns, width, kLeastApart);
-  arrows_->arrows = Arrows_Of(grid_, drawing_, row_stride, column_stride);
-  const double apart = std::min(row_stride * room.height() / drawing_.rows,
-                                column_stride * width / drawing_.columns);
+  const QRect axes = plot()->axisRect()->rect();
+  const int row_stride = Arrow_Stride(drawing_.rows, axes.height(), kLeastApart);
+  const int column_stride = Arrow_Stride(drawing_.columns, axes.width(), kLeastApart);
+  arrows_->arrows = Arrows_Of(drawing_, row_stride, column_stride);
+  const double apart =
+      std::min(row_stride * static_cast<double>(axes.height()) / drawing_.rows,
+               column_stride * static_cast<double>(axes.width()) / drawing_.columns);
   arrows_->longest = std::min(kLongestArrow, kPartOfCell * apart);
 }
 

@@ -34,6 +34,8 @@ class Velocity_Arrows : public Picture {
   void Fit() override;
 
  private:
+  void Fit_Arrows();
+
   Velocity_Grid grid_;
   Velocity_Drawing drawing_;
   QCPColorMap* map_;

@@ -25,7 +25,7 @@ std::string Note_Of(const Velocity_Drawing& drawing) {
   return note;
 }
 
-std::string Description_Of(const Velocity_Grid& grid, const Velocity_Drawing& drawing) {
+std::string Description_Of(const Velocity_Drawing& drawing) {
   if (drawing.rows == 0) return drawing.note;
   std::string text = "Currents over a " + Grid_Text(drawing.rows, drawing.columns) + ".";
   if (drawing.fastest > 0) {
@@ -33,7 +33,7 @@ std::string Description_Of(const Velocity_Grid& grid, const Velocity_Drawing& dr
     const int index = static_cast<int>(at - drawing.speeds.begin());
     const std::size_t i = static_cast<std::size_t>(index);
     text += " Fastest " + Short_Text(drawing.fastest) + " ft/s " +
-            Heading_Text(grid.x[i], grid.z[i]) + " at " +
+            Heading_Text(drawing.x[i], drawing.z[i]) + " at " +
             Cell_Text(index / drawing.columns + 1, index % drawing.columns + 1) + ", slowest " +
             Short_Text(Range_Of(drawing.speeds)->low) + " ft/s.";
   }
@@ -48,6 +48,8 @@ Velocity_Drawing Draw_Velocities(const Velocity_Grid& grid) {
   if (Is_Whole(grid)) {
     drawing.rows = grid.rows;
     drawing.columns = grid.columns;
+    drawing.x = grid.x;
+    drawing.z = grid.z;
     for (std::size_t i = 0; i < grid.x.size(); ++i) {
       const double speed = std::hypot(grid.x[i], grid.z[i]);
       const bool drawn = Can_Be_Drawn(grid.x[i]) && Can_Be_Drawn(grid.z[i]) && Can_Be_Drawn(speed);
@@ -59,12 +61,12 @@ Velocity_Drawing Draw_Velocities(const Velocity_Grid& grid) {
   drawing.reference = Round_Value_Below(drawing.fastest);
   drawing.scale = Scale_Over({0, std::max(drawing.fastest, kLeastSpeedSpan)}, kLeastSpeedSpan);
   drawing.note = Note_Of(drawing);
-  drawing.description = Description_Of(grid, drawing);
+  drawing.description = Description_Of(drawing);
   return drawing;
 }
 
-std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Grid& grid, const Velocity_Drawing& drawing,
-                                      int row_stride, int column_stride) {
+std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Drawing& drawing, int row_stride,
+                                      int column_stride) {
   std::vector<Velocity_Arrow> arrows;
   if (!(drawing.fastest > 0)) return arrows;
   for (int row = (row_stride - 1) / 2; row < drawing.rows; row += row_stride) {
@@ -72,7 +74,7 @@ std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Grid& grid, const Velocity_
       const std::size_t i = static_cast<std::size_t>(row) * drawing.columns + column;
       if (!std::isfinite(drawing.speeds[i])) continue;
       arrows.push_back(
-          {row + 1, column + 1, grid.z[i] / drawing.fastest, grid.x[i] / drawing.fastest});
+          {row + 1, column + 1, drawing.z[i] / drawing.fastest, drawing.x[i] / drawing.fastest});
     }
   }
   return arrows;

@@ -21,6 +21,7 @@ struct Velocity_Grid {
 /// What the arrow map draws beside its arrows.
 struct Velocity_Drawing {
   int rows = 0, columns = 0;
+  std::vector<double> x, z;    // as given
   std::vector<double> speeds;  // ft/s, row by row; NaN where nothing is drawn
   int left_out = 0;            // points with an empty cell or a value that cannot be drawn
   double fastest = 0;          // ft/s
@@ -40,10 +41,10 @@ struct Velocity_Arrow {
   double down = 0;          // X velocity / fastest speed
 };
 
-/// An arrow for every `stride` rows and columns, at the point in the middle of each block; points
-/// where nothing is drawn have none. `stride` is at least 1.
-std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Grid& grid, const Velocity_Drawing& drawing,
-                                      int row_stride, int column_stride);
+/// An arrow for every `row_stride` rows and `column_stride` columns (each at least 1), at the point
+/// in the middle of each block; points where nothing is drawn have none.
+std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Drawing& drawing, int row_stride,
+                                      int column_stride);
 
 /// Every how many points an arrow stands, so that arrows keep `least_pixels` between them.
 int Arrow_Stride(int points, double pixels, double least_pixels);

@@ -22,7 +22,7 @@ bool Tell_Failure(const std::string& path, const std::string& reason) {
 bool Save_Picture(const std::string& name, const std::string& kind,
                   const std::function<std::string()>& content) {
   const QString extension = QStringLiteral(".") + QString::fromStdString(kind).toLower();
-  const auto complete = [&extension](const std::string& path) {
+  const auto complete = [extension](const std::string& path) {
     const bool has_it = QString::fromStdString(path).endsWith(extension, Qt::CaseInsensitive);
     return has_it ? path : path + extension.toStdString();
   };
