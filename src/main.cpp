@@ -12,6 +12,7 @@
 #include "run/create_process.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
 #include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
@@ -32,6 +33,7 @@ int main(int, char** arguments) {
   barvon::Register_frmOpen(&main);
   barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
   barvon::Register_frmGridDescrip(&main);
+  barvon::Register_Screen("frmVelocity", barvon::Fresh_Screens<barvon::frmVelocity>(&main));
   barvon::Register_Screen("frmDensity", barvon::Fresh_Screens<barvon::frmDensity>(&main));
   main.show();
   return QApplication::exec();

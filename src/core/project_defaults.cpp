@@ -38,6 +38,7 @@ void Set_Velocity_Defaults(ProjectRecord& record) {
   record.VelZDepth1 = record.VelZDepth2 = record.VelZ1 = record.VelZ2 = 0;
   record.VelocityFieldX = {};
   record.VelocityFieldZ = {};
+  record.ConstVelocityX = record.ConstVelocityZ = 0;
   record.AvgVelocityDepth = record.AvgVelocityX = record.AvgVelocityZ = 0;
   record.TidalDepth = record.TidalAvgVelX = record.TidalAvgVelZ = 0;
 }

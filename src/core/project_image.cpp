@@ -210,6 +210,8 @@ Failure Store_Image(const Project_Image& image, const Given_Marks& given, Projec
     record.DEPTHI = 0;
     record.VelocityFieldX = {};
     record.VelocityFieldZ = {};
+    // A constant of the project before must not stand in for the fields that are read now.
+    record.ConstVelocityX = record.ConstVelocityZ = 0;
     std::copy(image.RealSlots.begin(), image.RealSlots.end(), record.RealSlots.begin());
     if (const Failure failure = Unpack_Slots(record); failure != Failure::None) return failure;
     record.SolidNames = image.SolidNames;

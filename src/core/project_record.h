@@ -98,6 +98,8 @@ struct ProjectRecord {
   double VelZDepth1 = 0, VelZDepth2 = 0, VelZ1 = 0, VelZ2 = 0;
   Grid VelocityFieldX{};
   Grid VelocityFieldZ{};
+  // What the whole field was filled with on its screen, 0 when it was not; not stored in the file.
+  double ConstVelocityX = 0, ConstVelocityZ = 0;
   double AvgVelocityDepth = 0;
   double AvgVelocityX = 0;
   double AvgVelocityZ = 0;

@@ -132,6 +132,8 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::VelZ2>("VelZ2"),
     Field_Of<&ProjectRecord::VelocityFieldX>("VelocityFieldX"),
     Field_Of<&ProjectRecord::VelocityFieldZ>("VelocityFieldZ"),
+    Field_Of<&ProjectRecord::ConstVelocityX>("ConstVelocityX"),
+    Field_Of<&ProjectRecord::ConstVelocityZ>("ConstVelocityZ"),
     Field_Of<&ProjectRecord::AvgVelocityDepth>("AvgVelocityDepth"),
     Field_Of<&ProjectRecord::AvgVelocityX>("AvgVelocityX"),
     Field_Of<&ProjectRecord::AvgVelocityZ>("AvgVelocityZ"),

@@ -7,9 +7,9 @@ namespace {
 
 using Pattern = OneBased<float, kTidalRows>;
 
-constexpr float kPatternEnd = (kTidalRows - 1) * kTidalStep;
+constexpr float kPatternEnd = (kTidalRows - 1) * kPatternStep;
 
-float Time(int point) { return static_cast<float>(point - 1) * kTidalStep; }
+float Time(int point) { return static_cast<float>(point - 1) * kPatternStep; }
 
 /// The velocity at a time within the pattern, 0 outside. The last point belongs to no interval:
 /// at exactly 12.5 hours there is no velocity.

@@ -5,7 +5,7 @@
 namespace barvon {
 
 /// Hours between two points of the tidal pattern; point i stands at (i - 1) of them.
-inline constexpr float kTidalStep = 0.5F;
+inline constexpr float kPatternStep = 0.5F;
 
 /// y at x on the straight line through (x1, y1) and (x2, y2). Every step is rounded to 32 bits.
 float InterpolateLinear(float x1, float y1, float x2, float y2, float x);

@@ -24,6 +24,7 @@
 #include "platform/qt/text_window.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 #include "workspace/frm_open.h"
@@ -97,6 +98,21 @@ void Look_At_Error_List(const Look& look) {
   QWidget& list = Opened("frmErrorList");
   look(list, "with findings");
   list.close();
+}
+
+void Look_At_Velocity(Main_Bench& bench, const Look& look) {
+  Register_Screen("frmVelocity", Fresh_Screens<frmVelocity>(&bench.main()));
+  Project().SimulationDuration = 5000;
+  Project().AvgVelocityX = 0.25;
+  Project().ConstVelocityX = 1.25;
+  for (const double type : {0, 1, 2, 3, 4, 5}) {
+    Project().VelocityProfileType = type;
+    QWidget& screen = Opened("frmVelocity");
+    look(screen, "type " + std::to_string(static_cast<int>(type)));
+    static_cast<frmVelocity&>(screen).Unload();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  Register_Screen("frmVelocity", {});
 }
 
 /// An input screen with each of its tabs in front.
@@ -208,6 +224,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
   Look_At_Input_Screen<frmDensity>(bench, "frmDensity", settled);
+  Look_At_Velocity(bench, settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Site(bench, settled);

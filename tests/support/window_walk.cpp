@@ -50,6 +50,11 @@ std::vector<QWidget*> Controls_In_View(const QWidget& window) {
   return controls;
 }
 
+/// The mark in a field's edge has a text for assistive tools only.
+bool Is_Mark_Of_A_Field(const QWidget* control) {
+  return qobject_cast<const QLineEdit*>(control->parentWidget()) != nullptr;
+}
+
 /// The field inside of a spin or combo box, whose frame is the box's.
 bool Is_Part_Of_Another(const QWidget* field) {
   const QWidget* parent = field->parentWidget();
@@ -57,6 +62,7 @@ bool Is_Part_Of_Another(const QWidget* field) {
 }
 
 bool Has_Too_Little_Room(const QWidget* control) {
+  if (Is_Mark_Of_A_Field(control)) return false;
   const auto* label = qobject_cast<const QLabel*>(control);
   const auto* button = qobject_cast<const QAbstractButton*>(control);
   if (label != nullptr && label->wordWrap()) {
@@ -190,13 +196,15 @@ void Add_Letters_Of(const QWidget* control, Claims& claims) {
 bool Is_Worked_With(const QWidget* control) {
   if (!control->isEnabled() || control->focusProxy() != nullptr) return false;
   const QWidget* parent = control->parentWidget();
-  // A clear button is in the field's own keys; the parts of a bar, a box and
-  // a table belong to it.
+  // A clear button is in the field's own keys; the parts of a bar, a box and a table belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
       qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent) ||
       qobject_cast<const QAbstractItemView*>(parent) || qobject_cast<const QHeaderView*>(control)) {
     return false;
   }
+  // A value that is only shown is read out with its label and passed by.
+  const auto* field = qobject_cast<const QLineEdit*>(control);
+  if (field != nullptr && field->isReadOnly()) return false;
   return qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLineEdit*>(control) ||
          qobject_cast<const QComboBox*>(control) ||
          qobject_cast<const QAbstractSpinBox*>(control) || qobject_cast<const QTabBar*>(control) ||
@@ -211,10 +219,10 @@ bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>
   return false;
 }
 
-/// Goes on to the next control. In a table of many cells Tab would go through all of them.
-void Go_On(QWidget* from) {
-  const bool table = qobject_cast<const QTableView*>(from) != nullptr;
-  QTest::keyClick(from, Qt::Key_Tab, table ? Qt::ControlModifier : Qt::NoModifier);
+/// Out of a table, whose cells Tab goes through, leads Tab with Ctrl.
+void Press_Tab(QWidget* control) {
+  const bool in_a_table = qobject_cast<QTableView*>(control) != nullptr;
+  QTest::keyClick(control, Qt::Key_Tab, in_a_table ? Qt::ControlModifier : Qt::NoModifier);
 }
 
 }  // namespace
@@ -279,12 +287,12 @@ Complaints Unreached_Controls(QWidget& window) {
   std::set<const QWidget*> reached;
   window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) return {"the window does not become active"};
-  Go_On(window.focusWidget() ? window.focusWidget() : &window);
+  Press_Tab(window.focusWidget() ? window.focusWidget() : &window);
   const QWidget* first = window.focusWidget();
   bool left_first = false;
   for (int turn = 0; turn < kLongestRound && window.focusWidget() != nullptr; ++turn) {
     reached.insert(window.focusWidget());
-    Go_On(window.focusWidget());
+    Press_Tab(window.focusWidget());
     if (window.focusWidget() != first) left_first = true;
     if (window.focusWidget() == first && left_first) break;
   }
