@@ -1,7 +1,6 @@
 #include "site/frm_velocity.h"
 
 #include <QHeaderView>
-#include <QScreen>
 #include <QStyle>
 #include <algorithm>
 #include <utility>
@@ -26,7 +25,6 @@ namespace {
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
 constexpr int kVelocityLine = 2, kVelocityItem = 2;  // status line, Edit entry
 constexpr int kVelocityScreen = 4;                   // ScreenDataSupplied
-constexpr double kPartOfDisplay = 0.93;              // its place and its frame take the rest
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -216,9 +214,7 @@ void frmVelocity::Show_Form() {
       break;
   }
   // Forms differ much in size; what is hidden takes no room.
-  if (!isMaximized()) {
-    resize(sizeHint().boundedTo(screen()->availableSize() * kPartOfDisplay));
-  }
+  Fit_To_Contents();
   if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages_Of_Filling();
   FillingForm = filled_before;
 }

@@ -92,6 +92,21 @@ TEST_F(VelocityScreen, Each_Option_Sets_Type_Name_Panel_And_Picture) {
   }
 }
 
+TEST_F(VelocityScreen, Is_As_Wide_By_Its_Option_As_By_Opening) {
+  const double types[] = {1, 3, 4, 5};
+  for (const int former : {0, 3}) {
+    for (int option = 0; option < 4; ++option) {
+      Open(types[option]);
+      const int opened = Screen()->width();
+      Press_Command(1);
+      Open(types[former]);
+      Choose(option);
+      EXPECT_EQ(Screen()->width(), opened) << types[former] << " to " << types[option];
+      Press_Command(1);
+    }
+  }
+}
+
 TEST_F(VelocityScreen, The_Note_Asks_For_A_Speed_At_Two_Points_Alone) {
   Open(1);
   const QString speed =

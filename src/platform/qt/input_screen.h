@@ -51,11 +51,14 @@ class Input_Screen : public QDialog {
                                                                      QStringLiteral("&Help")});
   QPushButton* Command1(int index) const { return Command1_.at(static_cast<std::size_t>(index)); }
 
+  /// Gives the window the size that its contents ask for, as far as the display has room. Runs
+  /// after Opening; a screen whose contents change runs it again.
+  void Fit_To_Contents();
+
   /// Whether the screen fills itself: handlers that must rest meanwhile ask it.
   bool FillingForm = false;
 
  private:
-  void Keep_Room();
   void Place();
   void Focus(const std::string& control);
   void Window_In_Focus(QWindow* window);
