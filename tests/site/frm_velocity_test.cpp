@@ -107,6 +107,17 @@ TEST_F(VelocityScreen, Is_As_Wide_By_Its_Option_As_By_Opening) {
   }
 }
 
+TEST_F(VelocityScreen, On_A_Small_Display_The_Forms_Scroll_And_The_Buttons_Stay_In_Reach) {
+  const QRect display = bench.main().screen()->availableGeometry();
+  for (const double type : {3, 4, 5}) {
+    Open(type);
+    EXPECT_LT(Screen()->height(), display.height()) << type;
+    EXPECT_LT(Screen()->width(), display.width()) << type;
+    EXPECT_TRUE(Screen()->rect().contains(Command1(2)->geometry()));
+    Press_Command(1);
+  }
+}
+
 TEST_F(VelocityScreen, The_Note_Asks_For_A_Speed_At_Two_Points_Alone) {
   Open(1);
   const QString speed =

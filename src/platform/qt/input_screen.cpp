@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QWindow>
 #include <algorithm>
@@ -121,6 +122,15 @@ void Input_Screen::Fit_To_Contents() {
   resize(size.boundedTo(room).expandedTo(layout()->totalMinimumSize()));
   // A window's own minimum leaves out what labels that wrap need in height.
   if (wraps) setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+}
+
+// Only now do the controls have their final fonts and headings.
+void Input_Screen::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (event->spontaneous()) return;
+  Fit_To_Contents();
+  // A window that was resized since would stand higher by the height of its title.
+  Place();
 }
 
 void Input_Screen::Place() {
