@@ -7,13 +7,16 @@
 namespace barvon {
 
 /// Controls that share a name and differ by their index: `ControlArray<QLineEdit> Text1{this,
-/// "Text1", 9}` holds Text1(0) to Text1(8), each found by the objectName "Text1(0)".
+/// "Text1", 9}` holds Text1(0) to Text1(8), each found by the objectName "Text1(0)". What a control
+/// is made from besides its parent follows at the end.
 template <class T>
 class ControlArray {
  public:
-  ControlArray(QWidget* parent, const char* name, int count, int first = 0) : first_(first) {
+  template <class... More>
+  ControlArray(QWidget* parent, const char* name, int count, int first = 0, const More&... more)
+      : first_(first) {
     for (int index = first; index < first + count; ++index) {
-      T* control = new T(parent);
+      T* control = new T(parent, more...);
       control->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index));
       controls_.push_back(control);
     }
