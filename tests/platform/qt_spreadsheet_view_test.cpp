@@ -377,6 +377,15 @@ TEST_F(SpreadsheetView, A_Drag_A_Shift_Click_And_A_Heading_Select_A_Range) {
   EXPECT_EQ(table().Selection(), "B1:B4");
 }
 
+TEST_F(SpreadsheetView, A_Right_Click_Goes_To_Its_Cell_But_Keeps_A_Selection_Around_It) {
+  Click(1, 1);
+  QTest::mouseClick(book->viewport(), Qt::RightButton, {}, Place(3, 2));
+  EXPECT_EQ(table().Selection(), "B3");
+  ASSERT_TRUE(table().Selection("A1:B3"));
+  QTest::mouseClick(book->viewport(), Qt::RightButton, {}, Place(2, 2));
+  EXPECT_EQ(table().Selection(), "A1:B3");
+}
+
 TEST_F(SpreadsheetView, The_Selection_Follows_Code_And_Is_Told) {
   std::vector<std::string> told;
   QObject::connect(book, &F1Book::Cursor_Moved, &screen, [&](int row, int col) {
@@ -782,6 +791,11 @@ TEST_F(SpreadsheetView, A_Large_Table_Is_Filled_With_One_Reset_And_Keeps_Its_Pla
   EXPECT_EQ(cursor(), "AX50");
   EXPECT_EQ(book->currentIndex(), book->model()->index(49, 49));
   EXPECT_EQ(Data(96, 96, Qt::DisplayRole), "9697");
+  {
+    const Table_Fill filling(table());
+    table().SetActiveCell(1, 1);
+  }
+  EXPECT_EQ(book->verticalScrollBar()->value(), 0) << "a cursor that moved is in sight";
 }
 
 TEST_F(SpreadsheetView, A_Table_Without_Cells_Takes_Every_Key) {

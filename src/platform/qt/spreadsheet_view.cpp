@@ -1,67 +1,45 @@
 #include "platform/qt/spreadsheet_view.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QFocusEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QStyle>
 #include <algorithm>
 
 #include "platform/message_box.h"
+#include "platform/qt/book_clipboard.h"
 #include "platform/qt/book_delegate.h"
+#include "platform/qt/book_layout.h"
+#include "platform/qt/book_menu.h"
 #include "platform/qt/book_model.h"
-#include "platform/qt/encoding_validator.h"
+#include "platform/qt/focus_entry.h"
 
 namespace barvon {
-namespace {
-
-constexpr int kLargestHintWidth = 640;
-constexpr int kLargestHintHeight = 360;
-constexpr int kDefaultDigits = 9;
-
-/// The clipboard's cells, without what the files' encoding does not hold.
-Text_Block Clipboard_Cells() {
-  Text_Block cells = Read_Tab_Text(QApplication::clipboard()->text().toStdString());
-  const Encoding_Validator validator;
-  for (auto& row : cells) {
-    for (std::string& cell : row) {
-      QString text = QString::fromStdString(cell);
-      int position = 0;
-      validator.validate(text, position);
-      cell = text.toStdString();
-    }
-  }
-  return cells;
-}
-
-}  // namespace
 
 F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
     : QTableView(parent),
       table_(numbers),
       model_(new Book_Model(table_, this)),
-      delegate_(new Book_Delegate(*model_, this)) {
+      delegate_(new Book_Delegate(*model_, this)),
+      layout_(new Book_Layout(*this, table_)),
+      focus_entry_(new Focus_Entry(this)) {
   setSelectionMode(ContiguousSelection);
   setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
   setTabKeyNavigation(false);
   setHorizontalScrollMode(ScrollPerPixel);
   setWordWrap(false);
   setAccessibleDescription(tr("Ctrl+Tab leaves the table"));
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   setItemDelegate(delegate_);
   setModel(model_);
   table_.Watch({[this](const Cell_Range& range) {
                   model_->Cells_Changed(range);
-                  Lay_Out_Later();
+                  layout_->Lay_Out_Later();
                 },
                 [this] { Follow_Shape(); },
                 [this] {
                   model_->Headings_Changed();
-                  Lay_Out_Later();
+                  layout_->Lay_Out_Later();
                 },
                 [this] {
                   Show_Cursor();
@@ -72,17 +50,8 @@ F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
     if (state() != EditingState) Tell_Edit();
   });
   connect(delegate_, &Book_Delegate::Leave, this, &F1Book::Leave_Editor);
-  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int col, int, int width) {
-    if (!laying_out_) dragged_widths_[col + 1] = width;
-  });
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    // Another window that takes it gives it back.
-    if (now != nullptr && now->window() == window()) {
-      has_focus_ = now == this || isAncestorOf(now);
-    }
-  });
   Show_Cursor();
-  Lay_Out();
+  layout_->Lay_Out();
 }
 
 F1Book::~F1Book() { table_.Watch({}); }
@@ -102,89 +71,48 @@ QString F1Book::NumberNoteOf(int row, int col) const { return model_->NumberNote
 
 // Commands
 
-struct F1Book::Command {
-  const char* name;
-  const char* caption;
-  QList<QKeySequence> keys;
-  void (F1Book::*run)();
-  bool (*possible)(const Spreadsheet_Table&);
-};
-
-const std::vector<F1Book::Command>& F1Book::Commands() {
-  static const auto always = [](const Spreadsheet_Table& table) {
-    return table.MaxRow() > 0 && table.MaxCol() > 0;
-  };
-  static const auto editable = [](const Spreadsheet_Table& table) {
-    return Can_Edit(table, table.SelectedRange().row1, table.SelectedRange().col1);
-  };
-  static const std::vector<Command> commands = {
-      {"Undo",
-       "&Undo",
-       {Qt::CTRL | Qt::Key_Z},
-       &F1Book::Undo,
-       [](const Spreadsheet_Table& table) { return table.CanUndo(); }},
-      {"Redo",
-       "&Redo",
-       {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
-       &F1Book::Redo,
-       [](const Spreadsheet_Table& table) { return table.CanRedo(); }},
-      {"Cut", "Cu&t", QKeySequence::keyBindings(QKeySequence::Cut), &F1Book::Cut, editable},
-      {"Copy", "&Copy", QKeySequence::keyBindings(QKeySequence::Copy), &F1Book::Copy, always},
-      {"Paste", "&Paste", QKeySequence::keyBindings(QKeySequence::Paste), &F1Book::Paste, editable},
-      {"Clear", "C&lear", {Qt::Key_Delete, Qt::Key_Backspace}, &F1Book::Clear, editable},
-      {"Select_All", "Select &All", QKeySequence::keyBindings(QKeySequence::SelectAll),
-       &F1Book::selectAll, always},
-  };
-  return commands;
-}
-
-const F1Book::Command* F1Book::Command_Of(const QKeyEvent& key) {
-  const QKeySequence pressed(key.keyCombination());
-  for (const Command& command : Commands()) {
-    if (command.keys.contains(pressed)) return &command;
+void F1Book::Run(Book_Command command) {
+  switch (command) {
+    case Book_Command::Undo:
+      return Undo();
+    case Book_Command::Redo:
+      return Redo();
+    case Book_Command::Cut:
+      return Cut();
+    case Book_Command::Copy:
+      return Copy();
+    case Book_Command::Paste:
+      return Paste();
+    case Book_Command::Clear:
+      return Clear();
+    case Book_Command::Select_All:
+      return selectAll();
+    case Book_Command::None:
+      return;
   }
-  return nullptr;
 }
 
 void F1Book::Cut() {
   const Text_Block cells = Copied_Cells(table_, table_.SelectedRange());
   const Edit_Outcome outcome = Clear_Cells(table_, table_.SelectedRange());
-  if (outcome.refusal.empty() && !cells.empty()) {
-    QApplication::clipboard()->setText(QString::fromStdString(Write_Tab_Text(cells)));
-  }
+  if (outcome.refusal.empty()) Set_Clipboard_Cells(cells);
   Finish(outcome);
 }
 
-void F1Book::Copy() {
-  const Text_Block cells = Copied_Cells(table_, table_.SelectedRange());
-  if (cells.empty()) return;
-  QApplication::clipboard()->setText(QString::fromStdString(Write_Tab_Text(cells)));
-}
+void F1Book::Copy() { Set_Clipboard_Cells(Copied_Cells(table_, table_.SelectedRange())); }
 
-void F1Book::Paste() {
-  if (QApplication::clipboard()->text().isEmpty()) return;
-  const Edit_Outcome outcome = Paste_Cells(table_, table_.SelectedRange(), Clipboard_Cells());
-  if (outcome.changed) table_.SelectRange(*outcome.changed);
-  Finish(outcome);
-}
+void F1Book::Paste() { Finish(Paste_Cells(table_, table_.SelectedRange(), Clipboard_Cells())); }
 
 void F1Book::Clear() { Finish(Clear_Cells(table_, table_.SelectedRange())); }
 
-void F1Book::Undo() {
-  const std::optional<Cell_Range> changed = table_.Undo();
-  if (changed) table_.SelectRange(*changed);
-  Finish({changed, ""});
-}
+void F1Book::Undo() { Finish({table_.Undo(), ""}); }
 
-void F1Book::Redo() {
-  const std::optional<Cell_Range> changed = table_.Redo();
-  if (changed) table_.SelectRange(*changed);
-  Finish({changed, ""});
-}
+void F1Book::Redo() { Finish({table_.Redo(), ""}); }
 
 void F1Book::Finish(const Edit_Outcome& outcome) {
   if (!outcome.refusal.empty()) Show_Message({outcome.refusal});
   if (!outcome.changed) return;
+  table_.SelectRange(*outcome.changed);
   edit_ = outcome.changed;
   Tell_Edit();
 }
@@ -195,16 +123,7 @@ void F1Book::Tell_Edit() {
 }
 
 void F1Book::contextMenuEvent(QContextMenuEvent* event) {
-  auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  for (const Command& command : Commands()) {
-    QAction* action = menu->addAction(tr(command.caption), this, command.run);
-    action->setObjectName(QLatin1String(command.name));
-    action->setShortcuts(command.keys);
-    action->setShortcutVisibleInContextMenu(true);
-    action->setEnabled(command.possible(table_));
-    if (command.run == &F1Book::Redo || command.run == &F1Book::Clear) menu->addSeparator();
-  }
+  QMenu* menu = Make_Book_Menu(table_, this, [this](Book_Command command) { Run(command); });
   const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
   menu->popup(by_mouse ? event->globalPos()
                        : viewport()->mapToGlobal(visualRect(currentIndex()).center()));
@@ -309,8 +228,8 @@ bool F1Book::focusNextPrevChild(bool next) {
 }
 
 void F1Book::keyPressEvent(QKeyEvent* event) {
-  if (const Command* command = Command_Of(*event)) {
-    (this->*command->run)();
+  if (const Book_Command command = Command_Of(*event); command != Book_Command::None) {
+    Run(command);
     return;
   }
   if (const Book_Move move = Move_Of(*event); move != Book_Move::None) {
@@ -323,7 +242,7 @@ void F1Book::keyPressEvent(QKeyEvent* event) {
 bool F1Book::event(QEvent* event) {
   // The table's own keys come before a shortcut of the window.
   if (event->type() == QEvent::ShortcutOverride &&
-      Command_Of(*static_cast<QKeyEvent*>(event)) != nullptr) {
+      Command_Of(*static_cast<QKeyEvent*>(event)) != Book_Command::None) {
     event->accept();
     return true;
   }
@@ -331,18 +250,13 @@ bool F1Book::event(QEvent* event) {
 }
 
 void F1Book::focusInEvent(QFocusEvent* event) {
-  const bool is_new = !has_focus_;
+  const bool is_new = focus_entry_->Is_New();
   QTableView::focusInEvent(event);
   if (!is_new) return;
   if (focus_row_ > 0 && event->reason() != Qt::MouseFocusReason) {
     table_.SetActiveCell(focus_row_, focus_col_);
   }
   emit Got_Focus();
-}
-
-void F1Book::hideEvent(QHideEvent* event) {
-  has_focus_ = false;
-  QTableView::hideEvent(event);
 }
 
 // Editing
@@ -405,68 +319,22 @@ void F1Book::Follow_Shape() {
     model_->Shape_Changed();
   }
   Show_Cursor();
-  Lay_Out();
-  horizontalScrollBar()->setValue(x);
-  verticalScrollBar()->setValue(y);
+  layout_->Lay_Out();
+  if (told_row_ == table_.Row() && told_col_ == table_.Col()) {
+    // A table that is filled again is still looked at in the same place.
+    horizontalScrollBar()->setValue(x);
+    verticalScrollBar()->setValue(y);
+  }
   Tell_Cursor();
 }
 
 void F1Book::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::EnabledChange && !isEnabled()) has_focus_ = false;
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Lay_Out_Later();
-}
-
-void F1Book::Lay_Out_Later() {
-  if (std::exchange(layout_due_, true)) return;
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        if (layout_due_) Lay_Out();
-      },
-      Qt::QueuedConnection);
-}
-
-void F1Book::Lay_Out() {
-  layout_due_ = false;
-  const QScopedValueRollback laying_out(laying_out_, true);
-  const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-  verticalHeader()->setMinimumWidth(table_.RowHeadingWidth() * digit / 256);
-  verticalHeader()->setDefaultSectionSize(Row_Pixels());
-  horizontalHeader()->setMinimumHeight(table_.ColHeadingHeight() * logicalDpiY() / 1440);
-  for (int col = 1; col <= table_.MaxCol(); ++col) {
-    const auto dragged = dragged_widths_.find(col);
-    setColumnWidth(col - 1,
-                   dragged == dragged_widths_.end() ? Column_Pixels(col) : dragged->second);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    layout_->Lay_Out_Later();
   }
-  updateGeometry();
 }
 
-int F1Book::Row_Pixels() const {
-  QFont font = this->font();
-  if (table_.LargestFont() > font.pointSize()) font.setPointSize(table_.LargestFont());
-  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameVMargin) + 2);
-  return std::max(verticalHeader()->minimumSectionSize(), QFontMetrics(font).height() + margins);
-}
-
-int F1Book::Column_Pixels(int col) const {
-  const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-  const int heading = horizontalHeader()->sectionSizeHint(col - 1);
-  const int width = table_.ColWidth(col);
-  if (width == Spreadsheet_Table::kAutoWidth) return std::max(heading, sizeHintForColumn(col - 1));
-  if (width == 0) return std::max(heading, kDefaultDigits * digit);
-  return std::max(heading, width * digit / 256);
-}
-
-QSize F1Book::sizeHint() const {
-  const int width = verticalHeader()->sizeHint().width() + horizontalHeader()->length();
-  const int height = horizontalHeader()->sizeHint().height() + verticalHeader()->length();
-  // A table that scrolls in one direction must not do so in the other for the bar's sake.
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  const QSize frame(2 * frameWidth(), 2 * frameWidth());
-  return QSize(std::min(width + (height > kLargestHintHeight ? bar : 0), kLargestHintWidth),
-               std::min(height + (width > kLargestHintWidth ? bar : 0), kLargestHintHeight)) +
-         frame;
-}
+QSize F1Book::sizeHint() const { return layout_->Size_Hint(); }
 
 }  // namespace barvon

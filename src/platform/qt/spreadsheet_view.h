@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTableView>
-#include <map>
 #include <optional>
 
 #include "platform/qt/number_field.h"
@@ -11,7 +10,10 @@
 namespace barvon {
 
 class Book_Delegate;
+class Book_Layout;
 class Book_Model;
+class Focus_Entry;
+enum class Book_Command;
 enum class Book_Move;
 
 /// F1Book: a spreadsheet table on a screen. What is read and written is its `table()`; the widget
@@ -75,7 +77,8 @@ class F1Book : public QTableView {
  signals:
   /// The user has changed these cells: by typing, which ends when the cell is left, by a cut, a
   /// paste, a clearing, an undo or a redo. Once for each, when the change is made and the cursor
-  /// stands where it goes. What code writes is no edit.
+  /// stands where it goes. Neither what code writes is an edit, nor what leaves all cells as they
+  /// were.
   void Edited(int row, int col, int last_row, int last_col);
   /// The table got the focus, in the sense of SetFocusCell or by a click, and the active cell is
   /// the focus cell; the cell of a click follows as Cursor_Moved.
@@ -93,14 +96,13 @@ class F1Book : public QTableView {
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
   bool event(QEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  struct Command;
-  static const std::vector<Command>& Commands();
-  static const Command* Command_Of(const QKeyEvent& key);
+  void Run(Book_Command command);
+  void Finish(const Edit_Outcome& outcome);
+  void Tell_Edit();
 
   void Follow_Shape();
   void Show_Cursor();
@@ -109,25 +111,18 @@ class F1Book : public QTableView {
   void Move(Book_Move move);
   void Leave_Editor(Book_Move move);
   void Drop_Editor();
-  void Finish(const Edit_Outcome& outcome);
-  void Tell_Edit();
-  void Lay_Out_Later();
-  void Lay_Out();
-  int Row_Pixels() const;
-  int Column_Pixels(int col) const;
 
   Spreadsheet_Table table_;
   Book_Model* model_;
   Book_Delegate* delegate_;
+  Book_Layout* layout_;
+  Focus_Entry* focus_entry_;
   int focus_row_ = 0, focus_col_ = 1;
-  bool has_focus_ = false;          // it, or the editor of a cell, or had before its window lost it
   bool following_ = false;          // the view follows the table, or the table the view
   bool leaving_editor_ = false;     // the edit is told when the cursor has moved
   std::optional<Cell_Range> edit_;  // made, not yet told
   Cell_Range told_selection_;
   int told_row_ = 1, told_col_ = 1;
-  bool layout_due_ = false, laying_out_ = false;
-  std::map<int, int> dragged_widths_;  // pixels, by column from 1
 };
 
 }  // namespace barvon
