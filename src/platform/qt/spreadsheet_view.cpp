@@ -222,11 +222,6 @@ void F1Book::Move(Book_Move move) {
   }
 }
 
-bool F1Book::focusNextPrevChild(bool next) {
-  Move(next ? Book_Move::Next : Book_Move::Previous);
-  return true;
-}
-
 void F1Book::keyPressEvent(QKeyEvent* event) {
   if (const Book_Command command = Command_Of(*event); command != Book_Command::None) {
     Run(command);
@@ -246,7 +241,28 @@ bool F1Book::event(QEvent* event) {
     event->accept();
     return true;
   }
+  // Tab is taken here and not where the toolkit moves the focus on: a table that is hidden or
+  // disabled must pass the focus on from any cell.
+  if (event->type() == QEvent::KeyPress) {
+    const Book_Move move = Move_Of(*static_cast<QKeyEvent*>(event));
+    if (move == Book_Move::Next || move == Book_Move::Previous) {
+      Move(move);
+      return true;
+    }
+  }
   return QTableView::event(event);
+}
+
+QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& index,
+                                                             const QEvent* event) const {
+  // The toolkit's own gives up selecting when Ctrl is down too, as in Ctrl+Shift+End.
+  if (event != nullptr && event->type() == QEvent::KeyPress) {
+    const auto held = static_cast<const QKeyEvent*>(event)->modifiers();
+    if (held.testFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
 }
 
 void F1Book::focusInEvent(QFocusEvent* event) {
@@ -302,9 +318,13 @@ void F1Book::FinishEdit() {
 }
 
 bool F1Book::eventFilter(QObject* object, QEvent* event) {
-  // A mnemonic of the screen, Alt+O for OK, leaves the focus in the cell: what is typed there must
-  // be in the table before the button acts.
+  // A mnemonic of the screen, Alt+O for OK, leaves the focus in the cell, and so does a click on
+  // a button that takes none: what is typed there must be in the table before the button acts.
   if (event->type() == QEvent::Shortcut) FinishEdit();
+  if (event->type() == QEvent::MouseButtonPress && object->isWidgetType()) {
+    const auto* pressed = static_cast<QWidget*>(object);
+    if (pressed->window() == window() && pressed != this && !isAncestorOf(pressed)) FinishEdit();
+  }
   return QTableView::eventFilter(object, event);
 }
 
