@@ -438,6 +438,13 @@ TEST_F(SpreadsheetView, Control_And_Shift_Select_To_The_Corners) {
   EXPECT_EQ(table().Selection(), "A1:B2");
 }
 
+TEST_F(SpreadsheetView, A_Click_Beside_The_Cells_Leaves_The_Cursor_In_Sight) {
+  Start_At(2, 2);
+  QTest::mouseClick(book->viewport(), Qt::LeftButton, {}, Place(4, 3) + QPoint(0, 60));
+  EXPECT_EQ(cursor(), "B2");
+  EXPECT_TRUE(book->selectionModel()->isSelected(book->currentIndex()));
+}
+
 TEST_F(SpreadsheetView, A_Drag_A_Shift_Click_And_A_Heading_Select_A_Range) {
   QTest::mousePress(book->viewport(), Qt::LeftButton, {}, Place(1, 1));
   QTest::mouseMove(book->viewport(), Place(2, 2));

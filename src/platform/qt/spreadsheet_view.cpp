@@ -262,6 +262,8 @@ QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& 
       return QItemSelectionModel::SelectCurrent;
     }
   }
+  // A click beside the cells leaves the cursor where it is, and so it stays in sight.
+  if (!index.isValid()) return QItemSelectionModel::NoUpdate;
   return QTableView::selectionCommand(index, event);
 }
 
