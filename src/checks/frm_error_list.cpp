@@ -68,6 +68,9 @@ frmErrorList::frmErrorList(QWidget* workspace)
     connect(SSCommand1(index), &QPushButton::clicked, this,
             [this, index] { SSCommand1_Click(index); });
   }
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [] {
+    Show_Help({Help_Command::Context, help_topic::kErrorList, {}});
+  });
   Set_Findings_Listener([this] { Fill(); });
 }
 

@@ -4,11 +4,12 @@
 
 namespace barvon {
 
-/// Topics of the help file by the screen whose Help button opens them. Some screens share a topic;
+/// Topics of the help file by the window whose Help button opens them. Some screens share a topic;
 /// its page then leads on to the other's.
 namespace help_topic {
 
 inline constexpr int kContents = 0;  // the contents, with the list of rules
+inline constexpr int kMainWindow = 2450;
 inline constexpr int kSite = 2460;
 inline constexpr int kVelocity = 2470;
 inline constexpr int kMaterialHopper = 2490;
@@ -45,11 +46,12 @@ inline constexpr std::array<int, 11> kWizardTopics = {help_topic::kErrorList,
                                                       810};
 
 /// Every topic that a screen or a step asks for, once.
-inline constexpr std::array<int, 15> kHelpTopics = {
-    help_topic::kSite,          help_topic::kVelocity,      help_topic::kMaterialHopper,
-    help_topic::kOperation,     help_topic::kCoefficients,  help_topic::kDepthGrid,
-    help_topic::kEvaluation,    help_topic::kMaterialBarge, help_topic::kDataBase,
-    help_topic::kErrorList,     help_topic::kSimulation,    help_topic::kWaterDensity,
-    help_topic::kWizardOptions, help_topic::kWizardVessel,  help_topic::kWizardTimes};
+inline constexpr std::array<int, 16> kHelpTopics = {
+    help_topic::kMainWindow,     help_topic::kSite,          help_topic::kVelocity,
+    help_topic::kMaterialHopper, help_topic::kOperation,     help_topic::kCoefficients,
+    help_topic::kDepthGrid,      help_topic::kEvaluation,    help_topic::kMaterialBarge,
+    help_topic::kDataBase,       help_topic::kErrorList,     help_topic::kSimulation,
+    help_topic::kWaterDensity,   help_topic::kWizardOptions, help_topic::kWizardVessel,
+    help_topic::kWizardTimes};
 
 }  // namespace barvon

@@ -31,7 +31,7 @@ QLabel* Text(QLabel* label, const char* text) {
 QCheckBox* Shown_State(QCheckBox* box, const char* name, const char* caption) {
   if (*name != '\0') box->setObjectName(QLatin1String(name));
   box->setText(QLatin1String(caption));
-  box->setFocusPolicy(Qt::NoFocus);
+  box->setFocusPolicy(Qt::TabFocus);  // to be read out
   QObject::connect(box, &QCheckBox::clicked, box, [box](bool now) { box->setChecked(!now); });
   return box;
 }

@@ -76,8 +76,6 @@ QLayout* Option_Buttons(Main_Controls& controls) {
     controls.SSPanel5(i)->setText(QLatin1String(kCaptions[i]));
     column->addWidget(controls.SSPanel5(i));
   }
-  // This letter is the menu bar's.
-  controls.SSPanel5(1)->setShortcut(QKeySequence());
   return column;
 }
 

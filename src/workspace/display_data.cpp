@@ -92,8 +92,10 @@ void Show_New_Project(Main_Controls& controls, ProjectRecord& record) {
 void Show_Status_Line(Main_Controls& controls, int index, const std::string& text,
                       Status_Colour colour) {
   if (index < controls.Text2.first() || index > controls.Text2.last()) return;
-  Show_Line(controls.Text2(index), text);
-  Paint_Text(controls.Text2(index), colour == Status_Colour::Blue ? kBlue : kBlack);
+  QLabel* state = controls.Text2(index);
+  Show_Line(state, text);
+  state->setAccessibleName(controls.Label2(index)->text() + QStringLiteral(": ") + state->text());
+  Paint_Text(state, colour == Status_Colour::Blue ? kBlue : kBlack);
 }
 
 }  // namespace barvon

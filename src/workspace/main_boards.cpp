@@ -2,8 +2,12 @@
 
 #include <QGridLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "platform/qt/option_paint.h"
+#include "platform/qt/tool_bar_keys.h"
 #include "workspace/board_parts.h"
+#include "workspace/main_help.h"
 
 namespace barvon {
 namespace {
@@ -34,29 +38,39 @@ QLayout* Command_Row(Main_Controls& controls) {
   for (int column = 0; column < 5; ++column) grid->setColumnStretch(column, kShares[column]);
   // Help tells the topic of the control that has the focus, so it must not take it.
   controls.SSPanel3(6)->setFocusPolicy(Qt::TabFocus);
-  // These letters are the menu bar's.
-  for (const int index : {2, 6}) controls.SSPanel3(index)->setShortcut(QKeySequence());
   return grid;
 }
 
-/// Both boards and the row of commands in reading order; what is out of view is passed over.
+/// The toolbar, both boards and the row of commands in reading order; what is out of view is passed
+/// over.
 void Set_Tab_Order(Main_Controls& c) {
-  std::vector<QWidget*> order = {c.Title_Box, c.SSRibbon1(4)};
+  std::vector<QWidget*> order;
   const auto add = [&order](const auto& controls) {
     order.insert(order.end(), controls.begin(), controls.end());
   };
+  add(Let_Tab_Reach(*c.Toolbar1));
+  order.insert(order.end(), {c.Title_Box, c.SSCheck1, c.SSRibbon1(4)});
   add(c.SSOption1);
   add(c.SSOption2);
   order.push_back(c.SSRibbon2(3));
   add(c.SSOption3);
   add(c.SSOption4);
+  add(c.SSCheck2);
   add(c.SSPanel5);
   // The left column of the data board, then the right one.
   order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5), c.Option3D1(0), c.Check3D1,
                              c.Option3D1(1), c.Option3D1(2), c.Option3D1(3), c.SSRibbon1(1),
-                             c.SSRibbon1(0), c.SSRibbon1(3)});
+                             c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
   for (const int index : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(c.SSPanel3(index));
+  add(c.status_area->findChildren<QPushButton*>());
   for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+  c.Title_Box->setFocus();
+}
+
+/// Whoever works by keys goes on in the board that takes this one's place.
+bool Has_Focus(const Main_Controls& controls, const QWidget* board) {
+  const QWidget* active = controls.window->focusWidget();
+  return active != nullptr && board->isAncestorOf(active);
 }
 
 }  // namespace
@@ -73,17 +87,25 @@ void Build_Boards(Main_Controls& controls) {
   layout->addLayout(Command_Row(controls));
   controls.window->setCentralWidget(centre);
   Set_Tab_Order(controls);
+  Set_Help_Topics(controls);
   Show_Main_Board(controls);
 }
 
 void Show_Main_Board(Main_Controls& controls) {
+  const bool has_focus = Has_Focus(controls, controls.Frame3D2);
   controls.Frame3D2->hide();
   controls.Frame3D1->show();
+  if (has_focus) controls.Title_Box->setFocus();
 }
 
 void Show_Data_Board(Main_Controls& controls) {
+  const bool has_focus = Has_Focus(controls, controls.Frame3D1);
   controls.Frame3D1->hide();
   controls.Frame3D2->show();
+  if (has_focus) {
+    QRadioButton* first = controls.SSOption3(std::max(0, Chosen_Option(controls.SSOption3)));
+    first->setFocus(Qt::ShortcutFocusReason);
+  }
 }
 
 }  // namespace barvon

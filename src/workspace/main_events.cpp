@@ -1,6 +1,7 @@
 #include "workspace/main_events.h"
 
 #include <QEvent>
+#include <QShortcut>
 #include <functional>
 
 #include "core/settings_keys.h"
@@ -14,6 +15,7 @@
 #include "workspace/edit_menu.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
+#include "workspace/main_help.h"
 #include "workspace/main_menus.h"
 #include "workspace/option_events.h"
 #include "workspace/option_logic.h"
@@ -44,8 +46,7 @@ class Early_Events : public QObject {
       if (event->type() == QEvent::FocusIn) Paint_Text(controls_.Title_Box, kBlue);
       if (event->type() == QEvent::FocusOut) Paint_Text(controls_.Title_Box, kBlack);
     } else if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
-      const QWidget* active = controls_.window->focusWidget();
-      record_.HelpContextToShow = active ? active->property("HelpContextID").toInt() : 0;
+      record_.HelpContextToShow = Active_Topic(controls_, record_);
     }
     return QObject::eventFilter(watched, event);
   }
@@ -241,6 +242,11 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
     c.SSRibbon1(i)->When_Down([&record, i] { SSRibbon1_Click(record, i); });
   }
   c.SSRibbon2(3)->When_Down([&c, &record] { SSRibbon2_Click(c, record); });
+  auto* help_key = new QShortcut(QKeySequence::HelpContents, c.window);
+  QObject::connect(help_key, &QShortcut::activated, c.window, [&c, &record] {
+    record.HelpContextToShow = Active_Topic(c, record);
+    SSPanel3_Click(c, record, 6);
+  });
 }
 
 }  // namespace barvon

@@ -5,6 +5,7 @@
 #include "core/workspace_port.h"
 #include "platform/qt/encoding_validator.h"
 #include "workspace/board_parts.h"
+#include "workspace/display_data.h"
 #include "workspace/main_controls.h"
 
 namespace barvon {
@@ -40,8 +41,9 @@ QGroupBox* Data_Categories(Main_Controls& controls) {
   grid->setVerticalSpacing(kLineGap);
   for (int i = 0; i < 6; ++i) {
     Text(controls.Label2(i), kCategories[i]);
-    Text(controls.Text2(i), i == 5 ? "Default Coefficients Used" : kDataNotEntered);
-    controls.Text2(i)->setAccessibleName(QLatin1String(kCategories[i]));
+    Text(controls.Text2(i));
+    Show_Status_Line(controls, i, i == 5 ? "Default Coefficients Used" : kDataNotEntered,
+                     Status_Colour::Black);
     grid->addWidget(controls.Label2(i), i, 0);
     grid->addWidget(controls.Text2(i), i, 1);
   }

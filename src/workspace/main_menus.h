@@ -5,9 +5,12 @@
 
 namespace barvon {
 
-/// Builds the menu bar from the menu tree, and the toolbar. Every item is an action of its own
-/// name: "mnuFileItem(4)", "mnuRecentFile(1)", "mnuRun", "Toolbar1(3)".
+/// Builds the menu bar from the menu tree. Every item is an action of its own name:
+/// "mnuFileItem(4)", "mnuRecentFile(1)", "mnuRun".
 void Build_Menus(Main_Controls& controls);
+
+/// Makes the action known as the array's item of that index, "Toolbar1(3)"; returns it.
+QAction* Name_Action(Main_Controls& controls, QAction* action, const char* array, int index);
 
 /// The action of that name; it stands as long as the window.
 QAction* Action_Of(const Main_Controls& controls, const char* array, int index);
@@ -15,6 +18,13 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
+
+/// Shows or hides a menu of the bar.
+void Show_Menu(Main_Controls& controls, const char* name, bool shown);
+
+/// A letter goes to the menu bar first; a command's button answers to the letter of its caption as
+/// far as no menu in view has it.
+void Share_Letters(Main_Controls& controls);
 
 /// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
 void Show_Tools_Menu(Main_Controls& controls);

@@ -21,6 +21,7 @@
 #include "workspace/main_boards.h"
 #include "workspace/main_events.h"
 #include "workspace/main_menus.h"
+#include "workspace/main_toolbar.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {
@@ -55,7 +56,9 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
   setObjectName(QStringLiteral("Main"));
   setStatusBar(controls_.status_area);
   Build_Menus(controls_);
+  Build_Toolbar(controls_);
   Build_Boards(controls_);
+  Share_Letters(controls_);
   Connect_Main_Events(controls_, Project());
   Fill_Port();
   Set_Program_End([this] {

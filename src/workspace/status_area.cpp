@@ -26,7 +26,6 @@ Status_Area::Status_Area(QWidget* parent) : QStatusBar(parent) {
 
   Note_ = new Elided_Label(this);
   Note_->setObjectName(QStringLiteral("StatusNote"));
-  Note_->setAccessibleName(QStringLiteral("Status"));
   Details_ = new QPushButton(QStringLiteral("Details..."), this);
   Details_->setObjectName(QStringLiteral("StatusDetails"));
   Program_ = new QLabel(this);

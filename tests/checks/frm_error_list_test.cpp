@@ -133,6 +133,16 @@ TEST_F(ErrorListScreen, A_List_Longer_Than_The_Topics_Is_Shown_In_Whole) {
   EXPECT_EQ(asked[1].topic, 0);
 }
 
+TEST_F(ErrorListScreen, F1_Is_Help_On_The_List_Itself) {
+  Current_Errors().Add("entry", "frmOperation!Text1(0)", 3000);
+  Open();
+  ASSERT_TRUE(Has_Keyboard(&List()));
+  QTest::keyClick(&List1(), Qt::Key_F1);
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].command, Help_Command::Context);
+  EXPECT_EQ(asked[0].topic, 2650);
+}
+
 TEST_F(ErrorListScreen, A_Double_Click_Opens_The_Screen_Once_With_Its_Control) {
   Current_Errors().Add("one", "frmDescription!Text1(5)");
   Current_Errors().Add("two", "frmDescription!F1Book1");

@@ -173,6 +173,36 @@ TEST_F(HelpViewer, Search_Finds_A_Word_And_Marks_It_On_The_Page) {
   EXPECT_EQ(Window()->page().textCursor().selectedText(), "Ekman");
 }
 
+TEST_F(HelpViewer, Results_Of_A_Search_Are_Shown_Whole_One_Close_To_The_Other) {
+  Ask(Help_Command::Index);
+  Window()->navigation().Open_Search();
+  QTest::keyClicks(Child<QLineEdit>("HelpWords"), "hopper");
+  QTest::mouseClick(Child<QPushButton>("HelpSearch"), Qt::LeftButton);
+  auto* results = Child<QListWidget>("HelpResults");
+  ASSERT_TRUE(Wait_Until([&] { return results->count() > 5; }));
+  QCoreApplication::processEvents();
+  const int margin = results->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+  for (int row = 0; row < results->count(); ++row) {
+    const QRect place = results->visualItemRect(results->item(row));
+    const QRect text = results->fontMetrics().boundingRect(
+        0, 0, place.width() - 2 * margin, 1000, Qt::TextWordWrap, results->item(row)->text());
+    EXPECT_GE(place.height(), text.height()) << row;
+    if (row == 0) continue;
+    const QRect above = results->visualItemRect(results->item(row - 1));
+    EXPECT_LE(place.top() - above.bottom(), 8) << row;
+  }
+}
+
+TEST_F(HelpViewer, A_Long_Keyword_Is_Read_In_Its_Tip) {
+  Ask(Help_Command::PartialKey, 0, "XBARGE");
+  auto* index = Child<QHelpIndexWidget>("HelpIndex");
+  ASSERT_TRUE(Wait_Until([&] { return index->model()->rowCount() == 1; }));
+  const QPoint place = index->visualRect(index->model()->index(0, 0)).center();
+  QTest::mouseMove(index->viewport(), place + QPoint(0, 100));
+  QTest::mouseMove(index->viewport(), place);
+  EXPECT_TRUE(Wait_Until([&] { return index->toolTip() == "XBARGE"; }));
+}
+
 TEST_F(HelpViewer, Search_Takes_Signs_For_No_Commands_And_Says_When_Nothing_Is_Found) {
   Ask(Help_Command::Index);
   auto* words = Child<QLineEdit>("HelpWords");

@@ -195,6 +195,14 @@ TEST_F(InputScreen, Each_Button_Runs_Its_Command_Once) {
   EXPECT_TRUE(screen->isVisible()) << "what closes the screen is its own command";
 }
 
+TEST_F(InputScreen, F1_Presses_Help_From_Any_Field) {
+  Open("Text1(1)");
+  log.clear();
+  QTest::keyClick(Text1(1), Qt::Key_F1);
+  EXPECT_EQ(log, Log{"click 2"});
+  EXPECT_TRUE(screen->isVisible());
+}
+
 TEST_F(InputScreen, Escape_Is_Cancel) {
   Open();
   log.clear();

@@ -498,6 +498,19 @@ TEST_F(SpreadsheetView, A_Range_Is_Copied_As_Tab_Separated_Text) {
   EXPECT_TRUE(edits.empty());
 }
 
+TEST_F(SpreadsheetView, The_Tables_Keys_Come_Before_The_Windows_Shortcuts) {
+  QAction other;
+  other.setShortcut(Qt::CTRL | Qt::Key_C);
+  int triggered = 0;
+  QObject::connect(&other, &QAction::triggered, &screen, [&] { ++triggered; });
+  screen.addAction(&other);
+  table().TextRC(1, 1, "a");
+  Start_At(1, 1);
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(Clipboard(), "a");
+  EXPECT_EQ(triggered, 0);
+}
+
 TEST_F(SpreadsheetView, A_Range_Is_Cut) {
   table().TextRC(2, 2, "a");
   table().TextRC(2, 3, "b");
@@ -605,6 +618,7 @@ TEST_F(SpreadsheetView, Undo_Inside_A_Cell_Is_The_Cells_Own) {
 TEST_F(SpreadsheetView, Fixed_Rows_Can_Be_Copied_But_Not_Changed) {
   table().FixedRows(2);
   table().TextRC(2, 1, "Gravel");
+  table().TextRC(4, 1, "xenolith");
   Start_At(2, 1);
   Type_In("x");
   Key(Qt::Key_F2);
@@ -662,9 +676,13 @@ TEST_F(SpreadsheetView, A_Click_Ends_On_Its_Cell_Whatever_The_Focus_Cell) {
   int got = 0;
   QObject::connect(book, &F1Book::Got_Focus, &screen, [&] { ++got; });
   book->SetFocusCell(1, 1);
+  table().SetActiveCell(2, 2);
+  std::string way;
+  QObject::connect(book, &F1Book::Cursor_Moved, &screen, [&] { way += cursor() + " "; });
   Click(3, 2);
   EXPECT_TRUE(book->hasFocus());
   EXPECT_EQ(cursor(), "B3");
+  EXPECT_EQ(way.find("A1"), way.npos) << "no way round: " << way;
   EXPECT_EQ(got, 1);
   Click(4, 3);
   EXPECT_EQ(cursor(), "C4");

@@ -242,6 +242,7 @@ TEST_F(SpreadsheetTable, A_Deleted_Row_Lets_The_Rows_Below_Move_Up) {
 TEST_F(SpreadsheetTable, A_Deleted_Column_Lets_The_Columns_Behind_It_Move_Left) {
   Size(2, 8);
   Fill(2, 8);
+  table.ColText(3, "Volumetric");
   table.ColText(4, "Fall");
   table.ColWidth(4, 3400);
   table.NumberFormat({1, 4, 2, 4}, "0.0");
@@ -249,7 +250,8 @@ TEST_F(SpreadsheetTable, A_Deleted_Column_Lets_The_Columns_Behind_It_Move_Left) 
   table.DeleteShiftLeft({1, 3, 2, 3});
   EXPECT_EQ(Line(1, 8), "11|12|14.0|15|16|17|18|");
   EXPECT_EQ(Line(2, 8), "21|22|24.0|25|26|27|28|");
-  EXPECT_EQ(table.ColText(3), "Fall");
+  EXPECT_EQ(table.ColText(2), "B");
+  EXPECT_EQ(table.ColText(3), "Fall") << "the deleted column's heading is gone with it";
   EXPECT_EQ(table.ColText(4), "D");
   EXPECT_EQ(table.ColWidth(3), 3400);
   table.MaxCol(8);

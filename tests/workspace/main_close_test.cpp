@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QTest>
+#include <tuple>
 
 #include "core/project_record.h"
 #include "core/workspace_port.h"
@@ -39,6 +40,30 @@ class MainClose : public ::testing::Test {
  private:
   Help_Presenter former_;
 };
+
+TEST_F(MainClose, Each_Question_Has_Its_Title_Icon_Buttons_And_Default) {
+  Modal_Replies replies({Press_Escape(), Press_Escape(), Press_Escape()});
+  bench.main().close();
+  bench.Action("mnuFileItem(10)")->trigger();
+  Title_The_Project();
+  bench.main().close();
+  const QMessageBox::StandardButtons yes_no = QMessageBox::Yes | QMessageBox::No;
+  const std::tuple<QString, QString, QMessageBox::Icon, QMessageBox::StandardButtons> boxes[] = {
+      {"screen_tests", "Do You Wish to Quit?", QMessageBox::Question, yes_no},
+      {"BARVON", "Are You Sure You Want to Quit?", QMessageBox::NoIcon, yes_no},
+      {"BARVON", "Do You Wish To Save the Current File Before Quitting?", QMessageBox::NoIcon,
+       yes_no | QMessageBox::Cancel}};
+  ASSERT_EQ(replies.seen.size(), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    const auto& [title, text, icon, buttons] = boxes[i];
+    EXPECT_EQ(replies.seen[i].title, title);
+    EXPECT_EQ(replies.seen[i].text, text);
+    EXPECT_EQ(replies.seen[i].icon, icon);
+    EXPECT_EQ(replies.seen[i].buttons, buttons);
+    EXPECT_EQ(replies.seen[i].default_button, QMessageBox::Yes);
+  }
+  EXPECT_EQ(bench.ended, 0);
+}
 
 TEST_F(MainClose, An_Untitled_Project_Is_Only_Asked_About_Quitting_Even_With_Data) {
   Project().DataSaved = kFalse;

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
+#include <QAccessible>
 #include <QDialog>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -8,39 +8,15 @@
 #include "core/project_record.h"
 #include "core/workspace_port.h"
 #include "support/screen_support.h"
+#include "support/window_walk.h"
 
 namespace barvon {
 namespace {
 
 using testing::Main_Bench;
 
-/// Every text in view has the room that it asks for, inside its window.
 void Expect_Nothing_Cut_Off(const QWidget& window) {
-  for (const QWidget* control : window.findChildren<QWidget*>()) {
-    if (!control->isVisible() || dynamic_cast<const Elided_Label*>(control) != nullptr) continue;
-    const std::string name = control->objectName().toStdString();
-    const auto* label = qobject_cast<const QLabel*>(control);
-    const auto* button = qobject_cast<const QAbstractButton*>(control);
-    const auto* frame = qobject_cast<const QGroupBox*>(control);
-    if (label != nullptr && label->wordWrap()) {
-      EXPECT_GE(control->height(), label->heightForWidth(control->width())) << name;
-    } else if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
-      EXPECT_GE(control->width(), control->sizeHint().width()) << name;
-      EXPECT_GE(control->height(), control->sizeHint().height()) << name;
-    }
-    if (frame != nullptr) {
-      EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
-      EXPECT_GE(control->height(), control->minimumSizeHint().height()) << name;
-    }
-    if (label == nullptr && button == nullptr && frame == nullptr) continue;
-    const QRect place(control->mapTo(&window, QPoint(0, 0)), control->size());
-    EXPECT_TRUE(window.rect().contains(place)) << name;
-  }
-}
-
-TEST(MainLayout, Nothing_Is_Cut_Off_On_The_Main_Menu_Board) {
-  Main_Bench bench;
-  Expect_Nothing_Cut_Off(bench.main());
+  EXPECT_EQ(testing::Listed(testing::Cut_Off_Texts(window)), "");
 }
 
 TEST(MainLayout, Nothing_Is_Cut_Off_On_The_Data_Board_With_Long_Values) {
@@ -62,10 +38,7 @@ TEST(MainLayout, Nothing_Is_Cut_Off_On_The_Data_Board_With_Long_Values) {
       bench.controls().SSOption4(evaluation)->click();
       QCoreApplication::processEvents();
       Expect_Nothing_Cut_Off(bench.main());
-      for (const QLabel* label : bench.controls().Frame3D2->findChildren<QLabel*>()) {
-        const auto* line = dynamic_cast<const Elided_Label*>(label);
-        EXPECT_TRUE(line == nullptr || !line->Is_Cut()) << label->text().toStdString();
-      }
+      EXPECT_EQ(testing::Listed(testing::Shortened_Texts(bench.main())), "");
     }
   }
 }
@@ -96,9 +69,9 @@ TEST(MainLayout, Nothing_Is_Cut_Off_While_A_Program_Runs_And_A_Long_Remark_Stand
 TEST(MainLayout, Tab_Walks_In_Reading_Order) {
   Main_Bench bench;
   bench.controls().SSOption1(0)->click();
-  std::vector<QWidget*> order = {bench.controls().Title_Box, bench.controls().SSRibbon1(4),
-                                 bench.controls().SSOption1(0), bench.controls().SSOption2(0),
-                                 bench.controls().SSRibbon2(3)};
+  std::vector<QWidget*> order = {bench.controls().Title_Box,    bench.controls().SSCheck1,
+                                 bench.controls().SSRibbon1(4), bench.controls().SSOption1(0),
+                                 bench.controls().SSOption2(0), bench.controls().SSRibbon2(3)};
   for (const int i : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(bench.controls().SSPanel3(i));
   bench.main().activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
@@ -114,9 +87,10 @@ TEST(MainLayout, Tab_Walks_The_Data_Board_In_Reading_Order) {
   auto& c = bench.controls();
   c.SSOption1(1)->click();
   c.SSPanel3(0)->click();
-  std::vector<QWidget*> order = {c.SSOption3(1), c.SSOption4(0), c.SSPanel5(0),  c.SSPanel5(1),
-                                 c.SSPanel5(2),  c.SSCheck4,     c.SSRibbon1(2), c.SSRibbon1(5),
-                                 c.Option3D1(0), c.Check3D1,     c.SSRibbon1(1), c.SSRibbon1(0),
+  std::vector<QWidget*> order = {c.SSOption3(1), c.SSOption4(0), c.SSCheck2(0),  c.SSCheck2(1),
+                                 c.SSCheck2(2),  c.SSPanel5(0),  c.SSPanel5(1),  c.SSPanel5(2),
+                                 c.SSCheck4,     c.SSRibbon1(2), c.SSRibbon1(5), c.Option3D1(0),
+                                 c.Check3D1,     c.SSRibbon1(1), c.SSRibbon1(0), c.SSCheck3,
                                  c.SSRibbon1(3)};
   for (const int i : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(c.SSPanel3(i));
   bench.main().activateWindow();
@@ -129,17 +103,51 @@ TEST(MainLayout, Tab_Walks_The_Data_Board_In_Reading_Order) {
   }
 }
 
-TEST(MainLayout, Every_Control_That_Takes_The_Focus_Has_A_Name_To_Be_Read_Out) {
+TEST(MainLayout, Tab_Walks_On_To_The_Status_Line_And_The_Toolbar) {
   Main_Bench bench;
-  for (const QWidget* control : bench.main().findChildren<QWidget*>()) {
-    if ((control->focusPolicy() & Qt::TabFocus) == 0) continue;
-    const auto* button = qobject_cast<const QAbstractButton*>(control);
-    const bool named =
-        !control->accessibleName().isEmpty() || (button && !button->text().isEmpty());
-    EXPECT_TRUE(named) << control->objectName().toStdString();
+  Port().run_state(true, "/opt/barvon/merak32");
+  bench.main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
+  bench.controls().SSPanel3(5)->setFocus();
+  QTest::keyClick(bench.main().focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(bench.main().focusWidget(), bench.Child<QPushButton>("StopRun"));
+  for (const int tool : {1, 2, 3, 5, 6, 8, 9, 11}) {
+    QTest::keyClick(bench.main().focusWidget(), Qt::Key_Tab);
+    QAction* action = bench.Action(qPrintable(QString("Toolbar1(%1)").arg(tool)));
+    EXPECT_EQ(bench.main().focusWidget(), bench.controls().Toolbar1->widgetForAction(action));
   }
-  const auto* label = bench.Child<QLabel>("Label1");
-  EXPECT_EQ(label->buddy(), bench.controls().Title_Box);
+  QTest::keyClick(bench.main().focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(bench.main().focusWidget(), bench.controls().Title_Box);
+}
+
+TEST(MainLayout, The_Title_Has_The_Focus_First_And_A_Click_On_The_Toolbar_Leaves_It_There) {
+  Main_Bench bench;
+  bench.main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
+  EXPECT_EQ(bench.main().focusWidget(), bench.controls().Title_Box);
+  QWidget* check = bench.controls().Toolbar1->widgetForAction(bench.Action("Toolbar1(9)"));
+  QTest::mouseClick(check, Qt::LeftButton);
+  EXPECT_EQ(bench.main().focusWidget(), bench.controls().Title_Box);
+}
+
+QString Read_Out(QWidget* control) {
+  return QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+}
+
+TEST(MainLayout, A_Category_Is_Read_Out_With_Its_State) {
+  Main_Bench bench;
+  auto& c = bench.controls();
+  EXPECT_EQ(Read_Out(c.Text2(0)), "Program Options: Data Not Entered");
+  EXPECT_EQ(Read_Out(c.Text2(5)), "Coefficients: Default Coefficients Used");
+  Port().set_status_line(3, kDataSupplied, Status_Colour::Blue);
+  EXPECT_EQ(Read_Out(c.Text2(3)), "Material Description: Data Supplied");
+}
+
+TEST(MainLayout, A_Remark_Is_Read_Out_Whole) {
+  Main_Bench bench;
+  const std::string remark = "remark " + std::string(400, 'w');
+  Port().show_note({remark, ""});
+  EXPECT_EQ(Read_Out(bench.Child<QLabel>("StatusNote")).toStdString(), remark);
 }
 
 TEST(MainLayout, A_Remark_That_Is_Cut_Can_Be_Read_In_Whole_Without_A_Mouse) {

@@ -1,23 +1,31 @@
 #include <gtest/gtest.h>
 
+#include <QGroupBox>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QTest>
+#include <functional>
 
 #include "core/project_record.h"
 #include "core/recent_files.h"
 #include "core/screen_register.h"
 #include "core/settings_keys.h"
 #include "core/workspace_port.h"
-#include "platform/help_viewer.h"
+#include "platform/file_dialog.h"
+#include "platform/message_box.h"
 #include "support/screen_support.h"
+#include "workspace/main_boards.h"
+#include "workspace/main_menus.h"
 
 namespace barvon {
 namespace {
 
+using testing::Has_Keyboard;
 using testing::Main_Bench;
 using testing::Modal_Replies;
 using testing::Press;
 using testing::Read_Text;
+using testing::Wait_Until;
 using testing::Write_Text;
 
 TEST(MainMenus, At_Start_Nothing_Of_The_Edit_Menu_And_No_Run_Is_Available) {
@@ -38,17 +46,68 @@ TEST(MainMenus, At_Start_Nothing_Of_The_Edit_Menu_And_No_Run_Is_Available) {
   EXPECT_FALSE(bench.Action("mnuWindow")->isVisible());
 }
 
-TEST(MainMenus, Captions_Stand_As_They_Are_Told) {
+TEST(MainMenus, Every_Item_Stands_In_The_Bar_As_The_Menu_Tree_Has_It) {
   Main_Bench bench;
-  EXPECT_EQ(bench.Action("mnuRun")->text(), "Ru&n");
-  EXPECT_EQ(bench.Action("mnuFileItem(8)")->text(), "P&rint Setup");
-  EXPECT_EQ(bench.Action("mnuEditItem(3)")->text(), "&Input, Execution and Output Keys");
-  EXPECT_EQ(bench.Action("mnuViewItem(6)")->text(), "Multiple &Input Windows");
-  EXPECT_EQ(bench.Action("mnuGraph(2)")->text(), "Concentration Contours");
-  EXPECT_EQ(bench.Action("mnuOptionItem(1)")->text(), "Always Save Before Simulation?");
-  EXPECT_EQ(bench.Action("mnuHelpItem(1)")->text(), "&Search For Help On");
-  EXPECT_EQ(bench.Action("mnuFileItem(1)")->statusTip(), "Open Existing File");
-  EXPECT_EQ(bench.controls().SSPanel3(4)->text(), "Return To &Main Menu");
+  for (const Menu& menu : Menu_Tree()) {
+    EXPECT_EQ(bench.Action(menu.name)->text(), menu.caption);
+    for (const Menu_Item& item : menu.items) {
+      const QString name = QString("%1(%2)").arg(menu.array).arg(item.index);
+      QAction* action = bench.Action(qPrintable(name));
+      ASSERT_NE(action, nullptr) << name.toStdString();
+      EXPECT_EQ(action->objectName(), name);
+      EXPECT_EQ(action->text(), item.caption);
+      EXPECT_EQ(action->isSeparator(), *item.caption == '\0') << name.toStdString();
+      EXPECT_EQ(action->isEnabled(), item.enabled && item.visible) << name.toStdString();
+      EXPECT_EQ(action->isVisible(), item.visible) << name.toStdString();
+      EXPECT_EQ(action->isCheckable(), item.has_mark) << name.toStdString();
+      EXPECT_EQ(action->isChecked(), item.marked) << name.toStdString();
+      EXPECT_EQ(action->statusTip(), item.hint) << name.toStdString();
+      EXPECT_TRUE(bench.Action(menu.name)->menu()->actions().contains(action));
+    }
+  }
+}
+
+TEST(MainMenus, The_Commands_Have_Their_Captions) {
+  Main_Bench bench;
+  const char* captions[] = {
+      "Enter/Edit &Data",     "&Run Simulation", "View &Graphics", "&Update Database",
+      "Return To &Main Menu", "E&xit",           "&Help",          "View &Output",
+      "&Save Data File",      "Data &Wizard"};
+  for (int i = 0; i < 10; ++i) EXPECT_EQ(bench.controls().SSPanel3(i)->text(), captions[i]);
+}
+
+TEST(MainMenus, The_Main_Menu_Board_Has_Its_Captions) {
+  Main_Bench bench;
+  const std::pair<const char*, const char*> frames[] = {{"Frame3D1", "BARVON Main Menu"},
+                                                        {"Frame3D3", "Data Categories"},
+                                                        {"Frame3D4", "DataBase Information"},
+                                                        {"Frame3D5", "Type of Analysis"},
+                                                        {"Frame3D6", "Method of Disposal"}};
+  for (const auto& [name, title] : frames) EXPECT_EQ(bench.Child<QGroupBox>(name)->title(), title);
+  const std::pair<const char*, const char*> labels[] = {
+      {"Label1", "Project Title"},
+      {"Label7", "Determine Contaminant Based on Dilution Needs"},
+      {"Label2(0)", "Program Options"},
+      {"Label2(1)", "Site Description"},
+      {"Label2(2)", "Velocity Data"},
+      {"Label2(3)", "Material Description"},
+      {"Label2(4)", "Disposal Operation"},
+      {"Label2(5)", "Coefficients"},
+      {"Label3(0)", "Site: NONE"},
+      {"Label3(1)", "Month: NONE"},
+      {"Label3(2)", "Material Location: NONE"},
+      {"Label3(3)", "Disposal Vessel: NONE"}};
+  for (const auto& [name, text] : labels) EXPECT_EQ(bench.Child<QLabel>(name)->text(), text);
+  const std::pair<const char*, const char*> options[] = {
+      {"SSOption1(0)", "General Open Water Disposal Analysis"},
+      {"SSOption1(1)", "Section 103 Regulatory Analysis for Ocean Sites"},
+      {"SSOption1(2)", "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"},
+      {"SSOption2(0)", "Disposal from a Multiple Bin Hopper Dredge"},
+      {"SSOption2(1)", "Disposal from a Split-Hull Barge or Scow"},
+      {"SSCheck1", "DataBase Used"}};
+  for (const auto& [name, text] : options) {
+    EXPECT_EQ(bench.Child<QAbstractButton>(name)->text(), text);
+  }
 }
 
 TEST(MainMenus, Without_Recent_Files_Neither_Entries_Nor_Separator_Show) {
@@ -85,6 +144,28 @@ TEST(MainMenus, The_Commands_Switch_The_Boards) {
   EXPECT_FALSE(bench.controls().Frame3D2->isVisible());
 }
 
+TEST(MainMenus, The_Keyboard_Follows_To_The_Board_That_Comes) {
+  Main_Bench bench;
+  auto& c = bench.controls();
+  c.SSOption1(0)->click();
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const auto press = [&](Qt::Key letter, const QWidget* board) {
+    QTest::keyClick(&bench.main(), letter, Qt::AltModifier);
+    EXPECT_TRUE(Wait_Until([&] { return board->isVisible(); }));
+  };
+  c.Title_Box->setFocus();
+  press(Qt::Key_D, c.Frame3D2);
+  EXPECT_EQ(bench.main().focusWidget(), c.SSOption3(1));  // the chosen one
+  press(Qt::Key_M, c.Frame3D1);
+  EXPECT_EQ(bench.main().focusWidget(), c.Title_Box);
+  EXPECT_FALSE(c.Title_Box->hasSelectedText());
+  // A button that was clicked keeps it.
+  c.SSPanel3(0)->setFocus();
+  press(Qt::Key_D, c.Frame3D2);
+  EXPECT_EQ(bench.main().focusWidget(), c.SSPanel3(0));
+}
+
 TEST(MainMenus, Update_Database_Is_Inert) {
   Main_Bench bench;
   Modal_Replies replies({});
@@ -100,25 +181,6 @@ TEST(MainMenus, Graphics_Without_Their_Program_Are_Told_In_A_Critical_Box) {
   EXPECT_EQ(replies.seen.at(0).text, "File: KV_graph.exe Not Found.");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
-}
-
-TEST(MainMenus, Help_Goes_To_The_Contents_Unless_The_Active_Control_Has_A_Topic) {
-  Main_Bench bench;
-  std::vector<std::pair<Help_Command, int>> asked;
-  const auto former = Set_Help_Presenter(
-      [&](const Help_Request& request) { asked.emplace_back(request.command, request.topic); });
-  bench.controls().Title_Box->setFocus();
-  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
-  bench.controls().Title_Box->setProperty("HelpContextID", 2460);
-  QTest::mouseClick(bench.controls().SSPanel3(6), Qt::LeftButton);
-  EXPECT_EQ(Project().HelpContextToShow, 2460);
-  bench.Action("mnuHelpItem(0)")->trigger();
-  bench.Action("mnuHelpItem(1)")->trigger();
-  Set_Help_Presenter(former);
-  EXPECT_EQ(asked, (std::vector<std::pair<Help_Command, int>>{{Help_Command::Index, 0},
-                                                              {Help_Command::Context, 2460},
-                                                              {Help_Command::Finder, 0},
-                                                              {Help_Command::PartialKey, 0}}));
 }
 
 TEST(MainMenus, Options_Toggle_Their_State_And_Help_Is_Kept_In_The_Settings) {
@@ -149,14 +211,48 @@ TEST(MainMenus, View_Toggles_Toolbar_And_Show_Mode_But_Never_The_Status_Bar) {
   EXPECT_EQ(Project().ShowMode, 1);
 }
 
-TEST(MainMenus, The_Wizard_Opens_Blocking) {
+TEST(MainMenus, The_Wizard_Opens_Blocking_And_What_It_Did_Is_Shown) {
   Main_Bench bench;
   int opened = 0;
-  Register_Screen("Data_Wiz",
-                  [&](bool blocking, const std::string&) { opened += blocking ? 1 : 100; });
+  Register_Screen("Data_Wiz", [&](bool blocking, const std::string&) {
+    opened += blocking ? 1 : 100;
+    Project().ProjectTitle = "by the wizard";
+  });
   QTest::mouseClick(bench.controls().SSPanel3(9), Qt::LeftButton);
   Register_Screen("Data_Wiz", {});
   EXPECT_EQ(opened, 1);
+  EXPECT_EQ(bench.controls().Title_Box->text(), "by the wizard");
+}
+
+/// What an action asks the user: the boxes' texts and the names that a save dialog is asked for.
+std::vector<std::string> Asked_By(const std::function<void()>& action) {
+  std::vector<std::string> asked;
+  const Message_Presenter boxes = Set_Message_Presenter([&](const Message& message) {
+    asked.push_back(message.text);
+    return Answer_On_Close(message);
+  });
+  const File_Dialog_Presenter files = Set_File_Dialog_Presenter({{},
+                                                                 [&](const File_Request&) {
+                                                                   asked.push_back("a name");
+                                                                   return std::nullopt;
+                                                                 },
+                                                                 {}});
+  action();
+  Set_File_Dialog_Presenter(files);
+  Set_Message_Presenter(boxes);
+  return asked;
+}
+
+TEST(MainMenus, Commands_Do_As_Their_Entries_In_The_Menus) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  const std::pair<int, const char*> commands[] = {
+      {1, "mnuRun"}, {7, "mnuViewItem(1)"}, {8, "mnuFileItem(4)"}, {5, "mnuFileItem(10)"}};
+  for (const auto& [command, entry] : commands) {
+    const auto by_command = Asked_By([&] { bench.controls().SSPanel3(command)->click(); });
+    EXPECT_FALSE(by_command.empty()) << command;
+    EXPECT_EQ(by_command, Asked_By([&] { bench.Action(entry)->trigger(); })) << command;
+  }
 }
 
 TEST(MainMenus, Input_Keys_Show_The_Data_Board_And_Enter_The_Evaluation) {
@@ -262,16 +358,66 @@ TEST(MainMenus, A_Screen_That_Does_Not_Stand_Yet_Is_Told_In_The_Status_Area) {
             "The screen frmDescription is not part of this version.");
 }
 
-TEST(MainMenus, Letters_Of_Menus_And_Commands_Do_Not_Clash) {
+/// How often the letter's key presses the button; what the button does is left out.
+int Presses(Main_Bench& bench, QPushButton* button, Qt::Key letter) {
+  QObject::disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+  QSignalSpy clicks(button, &QPushButton::clicked);
+  QTest::keyClick(&bench.main(), letter, Qt::AltModifier);
+  Wait_Until([&] { return !button->isDown(); });
+  return static_cast<int>(clicks.count());
+}
+
+TEST(MainMenus, Every_Letter_Of_A_Command_Presses_It) {
   Main_Bench bench;
-  QStringList keys;
-  for (QAction* menu : bench.main().menuBar()->actions()) {
-    if (menu->isVisible()) keys << QKeySequence::mnemonic(menu->text()).toString();
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const std::pair<int, Qt::Key> letters[] = {{0, Qt::Key_D}, {1, Qt::Key_R}, {3, Qt::Key_U},
+                                             {4, Qt::Key_M}, {5, Qt::Key_X}, {7, Qt::Key_O},
+                                             {8, Qt::Key_S}, {9, Qt::Key_W}};
+  for (const auto& [index, letter] : letters) {
+    EXPECT_EQ(Presses(bench, bench.controls().SSPanel3(index), letter), 1) << index;
   }
-  for (QPushButton* button : bench.controls().SSPanel3) keys << button->shortcut().toString();
-  for (QPushButton* button : bench.controls().SSPanel5) keys << button->shortcut().toString();
-  keys.removeAll(QString());
-  EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
+  Show_Data_Board(bench.controls());
+  EXPECT_EQ(Presses(bench, bench.controls().SSPanel5(0), Qt::Key_C), 1);
+  EXPECT_EQ(Presses(bench, bench.controls().SSPanel5(2), Qt::Key_P), 1);
+}
+
+TEST(MainMenus, A_Letter_That_A_Menu_Has_Opens_The_Menu) {
+  Main_Bench bench;
+  Show_Data_Board(bench.controls());
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  const std::tuple<const char*, Qt::Key, QPushButton*> shared[] = {
+      {"mnuGraphics", Qt::Key_G, bench.controls().SSPanel3(2)},
+      {"mnuHelp", Qt::Key_H, bench.controls().SSPanel3(6)},
+      {"mnuEdit", Qt::Key_E, bench.controls().SSPanel5(1)}};
+  for (const auto& [menu, letter, button] : shared) {
+    EXPECT_EQ(Presses(bench, button, letter), 0) << menu;
+    EXPECT_TRUE(bench.Action(menu)->menu()->isVisible()) << menu;
+    bench.Action(menu)->menu()->close();
+  }
+}
+
+TEST(MainMenus, A_Menu_That_Comes_Into_View_Takes_Its_Letter_And_Gives_It_Back) {
+  Main_Bench bench;
+  const auto captions = [&bench] {
+    QStringList shown;
+    for (const QAction* menu : bench.main().menuBar()->actions()) {
+      if (menu->isVisible()) shown << menu->text();
+    }
+    return shown.join(' ');
+  };
+  const QPushButton* wizard = bench.controls().SSPanel3(9);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Help");
+  Show_Menu(bench.controls(), "mnuWindow", true);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Window &Help");
+  EXPECT_EQ(wizard->shortcut(), QKeySequence());
+  Show_Menu(bench.controls(), "mnuTools", true);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Tools &Window &Help");
+  Show_Menu(bench.controls(), "mnuWindow", false);
+  EXPECT_EQ(captions(), "&File &Edit Ru&n &View &Graphics Options &Tools &Help");
+  EXPECT_EQ(wizard->shortcut(), QKeySequence("Alt+W"));
+  EXPECT_EQ(wizard->text(), "Data &Wizard");
 }
 
 }  // namespace

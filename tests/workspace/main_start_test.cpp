@@ -4,8 +4,10 @@
 #include <filesystem>
 
 #include "core/project_record.h"
+#include "core/screen_register.h"
 #include "core/workspace_port.h"
 #include "platform/app_folder.h"
+#include "platform/help_viewer.h"
 #include "support/screen_support.h"
 
 namespace barvon {
@@ -48,6 +50,48 @@ TEST(MainStart, Sets_The_Program_State) {
   for (int i = 1; i <= 10; ++i) EXPECT_EQ(Project().ScreenDataSupplied.at(i), kFalse) << i;
   EXPECT_TRUE(bench.Action("mnuOptionItem(0)")->isChecked());
   EXPECT_TRUE(bench.Action("mnuOptionItem(1)")->isChecked());
+}
+
+/// What a start with WizardAtStart makes of the wizard's screen.
+std::vector<bool> Wizards_At_Start(Flag wizard_at_start) {
+  std::vector<bool> blocking_opened;
+  Register_Screen("Data_Wiz", [&](bool blocking, const std::string&) {
+    blocking_opened.push_back(blocking);
+    Project().WizardActive = kTrue;  // as it leaves it
+    EXPECT_EQ(Project().OutputsCopied, kFalse);
+  });
+  Project().WizardAtStart = wizard_at_start;
+  Project().OutputsCopied = kTrue;
+  { Main_Bench bench; }
+  EXPECT_EQ(Project().WizardActive, kFalse);
+  Project().WizardAtStart = kFalse;
+  Register_Screen("Data_Wiz", {});
+  return blocking_opened;
+}
+
+TEST(MainStart, The_Wizard_Opens_Blocking_As_The_Last_Step_If_It_Is_Wanted) {
+  EXPECT_EQ(Wizards_At_Start(kTrue), std::vector<bool>{true});
+  EXPECT_EQ(Wizards_At_Start(kFalse), std::vector<bool>{});
+}
+
+TEST(MainStart, Goes_Straight_To_The_Main_Window) {
+  bool opened = false;
+  Register_Screen("frmOpen", [&](bool, const std::string&) { opened = true; });
+  Main_Bench bench;
+  EXPECT_FALSE(opened);
+  Register_Screen("frmOpen", {});
+}
+
+TEST(MainStart, The_Help_File_Stands_In_The_Programs_Folder) {
+  testing::Scratch_Folder folder;
+  for (const std::string& path : {folder.path(), folder.path() + "/"}) {
+    const Qt_Services services;
+    Main main(path, [] {});
+    testing::Modal_Replies replies({testing::Press(QMessageBox::Ok)});
+    Show_Help({Help_Command::Index, 0, ""});
+    EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+              "The help file is missing: " + (folder / "BARVON.HLP"));
+  }
 }
 
 TEST(MainStart, Makes_Its_Folder_The_Current_One) {

@@ -26,7 +26,7 @@ TEST(QuitRules, Wish_To_Quit_Asks_Under_The_Programs_Executable_Name) {
   EXPECT_EQ(messages.shown[0].icon, Icon::Question);
 }
 
-TEST(QuitRules, The_Save_Prompt_Stands_As_It_Is_Told) {
+TEST(QuitRules, The_Save_Prompt_Has_Its_Wording_And_Buttons) {
   Scripted_Messages messages({Answer::Yes});
   EXPECT_EQ(Ask_On_Close(kTitled, kFalse), Close_Action::Save_And_Close);
   ASSERT_EQ(messages.shown.size(), 1u);

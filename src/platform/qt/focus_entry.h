@@ -13,9 +13,6 @@ class Focus_Entry : public QObject {
   /// Asked when the widget gets the focus.
   bool Is_New() const { return !inside_; }
 
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
-
  private:
   QWidget* widget_;
   bool inside_ = false;  // the focus is in the widget or a child, or was when its window lost it

@@ -49,6 +49,10 @@ QWidget* Help_Navigation::Index_Tab() {
   index_->setAccessibleName(QStringLiteral("Index of the help"));
   index_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   index_->setTextElideMode(Qt::ElideRight);
+  index_->setMouseTracking(true);
+  connect(index_, &QHelpIndexWidget::entered, this, [this](const QModelIndex& keyword) {
+    index_->setToolTip(keyword.data().toString().toHtmlEscaped());
+  });
 
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(6, 6, 6, 6);

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QStyledItemDelegate>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
@@ -10,6 +11,21 @@ namespace barvon {
 namespace {
 
 constexpr int kPage = Qt::UserRole;
+
+/// Gives each item the height of its lines at the width that it is drawn in; the list by itself
+/// lays out and draws with two different ones.
+class Wrapped_Lines : public QStyledItemDelegate {
+ public:
+  explicit Wrapped_Lines(QListWidget& list) : QStyledItemDelegate(&list), list_(list) {}
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem within = option;
+    within.rect.setWidth(list_.viewport()->width() - 2 * list_.spacing());
+    return QStyledItemDelegate::sizeHint(within, index);
+  }
+
+ private:
+  const QListWidget& list_;
+};
 
 /// The words of a text. Signs would be taken for the search language's own.
 QStringList Words_Of(const QString& text) {
@@ -39,6 +55,11 @@ Help_Search::Help_Search(QHelpSearchEngine& engine, QWidget* parent)
   results_->setWordWrap(true);
   results_->setAlternatingRowColors(true);
   results_->setSpacing(2);
+  results_->setItemDelegate(new Wrapped_Lines(*results_));
+  // The heights go by the width: it must not change once they are laid out.
+  results_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  results_->setResizeMode(QListView::Adjust);
+  results_->setTextElideMode(Qt::ElideNone);
 
   auto* line = new QHBoxLayout;
   line->addWidget(words_, 1);

@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "platform/qt/tool_bar_keys.h"
+
 namespace barvon {
 namespace {
 
@@ -55,6 +57,7 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
   column->addWidget(halves, 1);
 
   Build_Actions();
+  Let_Tab_Reach(*tools);
   Place();
   const int character = fontMetrics().averageCharWidth();
   halves->setSizes({character * kNavigationWidth, width() - character * kNavigationWidth});

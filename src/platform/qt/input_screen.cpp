@@ -1,15 +1,18 @@
 #include "platform/qt/input_screen.h"
-#include "platform/qt/show_dialog.h"
-#include "platform/qt/spreadsheet_view.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QWindow>
+
+#include "platform/qt/show_dialog.h"
+#include "platform/qt/spreadsheet_view.h"
 
 namespace barvon {
 namespace {
 
+constexpr char kHelpCaption[] = "&Help";
 constexpr double kPlace = 0.03;  // of the display's width and height
 
 /// Whether a window is a screen of the program, known by its name, and no box, dialog or help.
@@ -51,6 +54,11 @@ Input_Screen::Input_Screen(const char* name, QWidget* workspace, Placement place
     : QDialog(workspace), placement_(placement) {
   setObjectName(QLatin1String(name));
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &Input_Screen::Window_In_Focus);
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
+    for (QPushButton* button : Command1_) {
+      if (button->text() == QLatin1String(kHelpCaption)) button->click();
+    }
+  });
 }
 
 QHBoxLayout* Input_Screen::Make_Command1(const std::vector<QString>& captions) {

@@ -45,7 +45,7 @@ class Input_Screen : public QDialog {
   virtual void Activated() {}
   virtual void Command1_Click(int index) = 0;
 
-  /// The button row, Command1(0) and on. The first is what Return presses.
+  /// The button row, Command1(0) and on. The first is what Return presses; F1 presses "&Help".
   QHBoxLayout* Make_Command1(const std::vector<QString>& captions = {QStringLiteral("OK"),
                                                                      QStringLiteral("C&ancel"),
                                                                      QStringLiteral("&Help")});

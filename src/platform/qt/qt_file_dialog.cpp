@@ -2,9 +2,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrinter>
+#include <QTreeView>
 
 #include "platform/qt/qt_message_box.h"
 
@@ -21,6 +23,8 @@ QString Existing_File(const QString& path) {
   }
   return {};
 }
+
+constexpr QSize kSize(680, 440);
 
 class File_Dialog : public QFileDialog {
  public:
@@ -41,6 +45,7 @@ class File_Dialog : public QFileDialog {
     }
     setNameFilters(filters);
     Offer(QString::fromStdString(request.name));
+    Make_Room();
   }
 
   std::optional<std::string> Ask() {
@@ -55,6 +60,16 @@ class File_Dialog : public QFileDialog {
   }
 
  private:
+  /// Names, sizes and dates are shown whole; what kind of file it is the filter says already.
+  void Make_Room() {
+    constexpr int kType = 2;
+    resize(kSize);
+    auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->hideColumn(kType);
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+
   void Offer(const QString& name) {
     if (!last_folder_.isEmpty()) setDirectory(last_folder_);
     if (name.isEmpty() || name.contains(QLatin1Char('*'))) return;

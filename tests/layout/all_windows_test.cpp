@@ -1,0 +1,252 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <functional>
+#include <regex>
+#include <set>
+
+#include "checks/check_data.h"
+#include "checks/frm_error_list.h"
+#include "core/project_record.h"
+#include "core/screen_register.h"
+#include "core/workspace_port.h"
+#include "material/frm_density.h"
+#include "platform/qt/frm_progress_bar.h"
+#include "platform/qt/help_window.h"
+#include "platform/qt/input_screen.h"
+#include "platform/qt/qt_file_dialog.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/text_window.h"
+#include "support/screen_support.h"
+#include "support/window_walk.h"
+#include "workspace/frm_open.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+using Look = std::function<void(QWidget& window, const std::string& state)>;
+
+QWidget& Window_Named(const char* name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->objectName() == QLatin1String(name)) return *window;
+  }
+  throw std::runtime_error(std::string("no window ") + name);
+}
+
+void Show(QWidget& window) {
+  window.show();
+  if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("a window stays hidden");
+}
+
+QWidget& Opened(const char* screen) {
+  if (!Open_Screen(screen, false)) throw std::runtime_error(std::string("no screen ") + screen);
+  QWidget& window = Window_Named(screen);
+  Show(window);
+  return window;
+}
+
+void Look_At_Main(Main_Bench& bench, const Look& look) {
+  look(bench.main(), "main menu board at start");
+  for (int type = 0; type < 3; ++type) {
+    bench.controls().SSPanel3(4)->click();
+    bench.controls().SSOption1(type)->click();
+    bench.controls().SSOption2(type % 2)->click();
+    look(bench.main(), "main menu board, type " + std::to_string(type));
+    bench.controls().SSPanel3(0)->click();
+    look(bench.main(), "data board, type " + std::to_string(type));
+  }
+  Port().show_note({"It ended with code 1.", "its last words"});
+  look(bench.main(), "with a remark");
+  Port().run_state(true, "/opt/barvon/merak32");
+  look(bench.main(), "while a program runs");
+  Port().run_state(false, "");
+}
+
+void Look_At_Details(Main_Bench& bench, const Look& look) {
+  for (const char* details : {"line\nline", ""}) {
+    Port().show_note({std::string(200, 'w') + " words " + std::string(60, 'w'), details});
+    bench.Child<QPushButton>("StatusDetails")->click();
+    QWidget& dialog = Window_Named("StatusDetailsDialog");
+    Show(dialog);
+    look(dialog, details);
+    dialog.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+void Look_At_Start_Dialog(const Look& look) {
+  QWidget& dialog = Opened("frmOpen");
+  auto* next = dialog.findChild<QPushButton*>("Command1(1)");
+  for (int page = 0; page < 3; ++page) {
+    look(dialog, "page " + std::to_string(page));
+    next->click();
+  }
+}
+
+void Look_At_Error_List(const Look& look) {
+  Check_Project(Project());
+  QWidget& list = Opened("frmErrorList");
+  look(list, "with findings");
+  list.close();
+}
+
+/// An input screen with each of its tabs in front.
+template <class Screen>
+void Look_At_Input_Screen(Main_Bench& bench, const char* name, const Look& look) {
+  Register_Screen(name, Fresh_Screens<Screen>(&bench.main()));
+  QWidget& screen = Opened(name);
+  look(screen, "as it opens");
+  for (auto* tabs : screen.findChildren<QTabWidget*>()) {
+    for (int page = 0; page < tabs->count(); ++page) {
+      tabs->setCurrentIndex(page);
+      look(screen, tabs->tabText(page).toStdString());
+    }
+  }
+  static_cast<Input_Screen&>(screen).Unload();
+  Register_Screen(name, {});
+}
+
+void Look_At_Help(const Look& look) {
+  Set_Help_File(BARVON_HELP_FILE);
+  Show_Help({Help_Command::Index, 0, ""});
+  auto& help = static_cast<Help_Window&>(Window_Named("Help"));
+  Show(help);
+  help.navigation().Open_Contents();
+  look(help, "contents");
+  help.navigation().Open_Index("salinity");
+  look(help, "index");
+  help.navigation().Open_Search();
+  look(help, "search");
+  help.findChild<QAction*>("HelpFind")->trigger();
+  look(help, "find bar");
+  Show_Help({Help_Command::Quit, 0, ""});
+}
+
+void Look_At_Text(const Look& look) {
+  Scratch_Folder folder;
+  Write_Text(folder / "site.duo", std::string(80, 'x') + "\r\nline\r\n");
+  Text_Window text(nullptr);
+  text.setAttribute(Qt::WA_DeleteOnClose, false);
+  ASSERT_TRUE(text.Load(folder / "site.duo"));
+  Show(text);
+  look(text, "");
+}
+
+void Look_At_Progress(const Look& look) {
+  frmProgress_Bar progress(nullptr);
+  progress.Open("Reading Velocity Data...");
+  progress.Move(0.5);
+  look(progress, "");
+}
+
+/// Looks at the blocking dialog that `open` brings up, and calls it off.
+void Look_At_Blocking(const std::string& name, const std::function<void()>& open,
+                      const Look& look) {
+  Modal_Replies replies({[&](QWidget* dialog) {
+    if (dialog->objectName().isEmpty()) dialog->setObjectName(QString::fromStdString(name));
+    if (!QTest::qWaitForWindowExposed(dialog)) ADD_FAILURE() << name << " stays hidden";
+    look(*dialog, name);
+    dialog->close();
+  }});
+  open();
+}
+
+void Look_At_File_Dialogs(const Look& look) {
+  Scratch_Folder folder;
+  for (const char* name : {"Barge_Four_Layers.DUI", "Section_103_Water_Quality.DUI"}) {
+    Write_Text(folder / name, std::string(258000, 'x'));
+  }
+  const File_Request request{"", {{"BARVON Data Files", "*.DUI"}}, folder.path(), {}};
+  Look_At_Blocking(
+      "open", [&] { Ask_Qt_Open_File(request); }, look);
+  Look_At_Blocking(
+      "save", [&] { Ask_Qt_Save_File(request); }, look);
+  Look_At_Blocking("printer", Show_Qt_Printer_Setup, look);
+}
+
+void Walk_All_Windows(const Look& look) {
+  const Look settled = [&look](QWidget& window, const std::string& state) {
+    QCoreApplication::processEvents();
+    look(window, state);
+  };
+  Main_Bench bench;
+  Register_frmErrorList(&bench.main());
+  Register_frmOpen(&bench.main());
+  Look_At_Main(bench, settled);
+  Look_At_Details(bench, settled);
+  Look_At_Start_Dialog(settled);
+  Look_At_Error_List(settled);
+  Look_At_Input_Screen<frmDensity>(bench, "frmDensity", settled);
+  Look_At_Help(settled);
+  Look_At_Text(settled);
+  Look_At_Progress(settled);
+  Look_At_File_Dialogs(settled);
+}
+
+std::string Where(const QWidget& window, const std::string& state) {
+  return window.objectName().toStdString() + ", " + state + ":";
+}
+
+TEST(AllWindows, No_Text_Is_Cut_Off_And_Nothing_Lies_On_Another) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Cut_Off_Texts(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
+TEST(AllWindows, No_Line_Is_Shortened_But_A_Long_Remark) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Shortened_Texts(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
+TEST(AllWindows, No_Letter_Or_Key_Has_Two_Meanings) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Clashing_Keys(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
+TEST(AllWindows, Tab_Reaches_Every_Control) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Unreached_Controls(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
+TEST(AllWindows, Every_Control_Has_A_Name_To_Be_Read_Out) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Unnamed_Controls(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
+TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
+  std::set<std::string> walked;
+  Walk_All_Windows([&walked](QWidget& window, const std::string&) {
+    walked.insert(window.objectName().toStdString());
+  });
+  const std::string program = Read_Text(BARVON_SOURCE "/src/main.cpp");
+  const std::regex registers("Register_(?:Screen\\(\"|)((?:frm|Data|Graphic)\\w+)");
+  int screens = 0;
+  for (std::sregex_iterator at(program.begin(), program.end(), registers), end; at != end; ++at) {
+    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1] << " is not in Walk_All_Windows";
+    ++screens;
+  }
+  EXPECT_GE(screens, 3);
+  for (const char* window :
+       {"Main", "Help", "Text_Window", "StatusDetailsDialog", "frmProgress_Bar"}) {
+    EXPECT_EQ(walked.count(window), 1U) << window;
+  }
+}
+
+}  // namespace
+}  // namespace barvon
