@@ -161,6 +161,8 @@ void F1Book::Take_Cursor() {
     table_.SetActiveCell(current.row() + 1, current.column() + 1);
     table_.SelectRange(range);
   }
+  // A click beside the cells selects nothing; the cursor stays in sight.
+  if (selectionModel()->selection().isEmpty()) Show_Cursor();
   Tell_Cursor();
 }
 
@@ -262,8 +264,6 @@ QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& 
       return QItemSelectionModel::SelectCurrent;
     }
   }
-  // A click beside the cells leaves the cursor where it is, and so it stays in sight.
-  if (!index.isValid()) return QItemSelectionModel::NoUpdate;
   return QTableView::selectionCommand(index, event);
 }
 
