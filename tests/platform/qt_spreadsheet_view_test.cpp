@@ -334,6 +334,20 @@ TEST_F(SpreadsheetView, An_Edit_May_Be_Answered_By_Building_The_Table_Anew) {
   EXPECT_EQ(table().TextRC(2, 2), "4");
 }
 
+TEST_F(SpreadsheetView, A_Cursor_That_Code_Moves_Ends_Typing_And_May_Be_Moved_Again) {
+  QObject::connect(book, &F1Book::Edited, &screen, [this] {
+    EXPECT_EQ(cursor(), "C4");
+    table().SetActiveCell(1, 1);
+  });
+  Start_At(2, 2);
+  Type_In("4");
+  table().SetActiveCell(4, 3);
+  EXPECT_EQ(edits, std::vector<std::string>{"B2"});
+  EXPECT_EQ(table().TextRC(2, 2), "4");
+  EXPECT_EQ(cursor(), "A1");
+  EXPECT_EQ(book->currentIndex(), book->model()->index(0, 0));
+}
+
 TEST_F(SpreadsheetView, An_Edit_May_Be_Answered_By_A_Message_Box) {
   Qt_Services services;
   QObject::connect(book, &F1Book::Edited, &screen, [] { Show_Message({"Is that so?"}); });

@@ -133,6 +133,8 @@ void F1Book::contextMenuEvent(QContextMenuEvent* event) {
 
 void F1Book::Show_Cursor() {
   if (following_) return;
+  // Who answers the edit may move the cursor once more.
+  if (currentIndex() != model_->index(table_.Row() - 1, table_.Col() - 1)) FinishEdit();
   const QScopedValueRollback following(following_, true);
   const QModelIndex current = model_->index(table_.Row() - 1, table_.Col() - 1);
   const Cell_Range& range = table_.SelectedRange();
