@@ -348,6 +348,16 @@ TEST_F(SpreadsheetView, A_Cursor_That_Code_Moves_Ends_Typing_And_May_Be_Moved_Ag
   EXPECT_EQ(book->currentIndex(), book->model()->index(0, 0));
 }
 
+TEST_F(SpreadsheetView, A_Page_Key_Ends_Typing_And_Moves_Though_The_Table_Is_Built_Anew) {
+  QObject::connect(book, &F1Book::Edited, &screen, [this] { table().MaxRow(3); });
+  Start_At(2, 2);
+  Type_In("4");
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(table().TextRC(2, 2), "4");
+  EXPECT_EQ(cursor(), "B3");
+  EXPECT_EQ(book->currentIndex(), book->model()->index(2, 1));
+}
+
 TEST_F(SpreadsheetView, An_Edit_May_Be_Answered_By_A_Message_Box) {
   Qt_Services services;
   QObject::connect(book, &F1Book::Edited, &screen, [] { Show_Message({"Is that so?"}); });

@@ -227,6 +227,10 @@ void F1Book::Move(Book_Move move) {
 }
 
 void F1Book::keyPressEvent(QKeyEvent* event) {
+  // Of the keys that the editor of a cell passes on, these leave the cell.
+  const bool leaves = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown ||
+                      event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+  if (leaves) FinishEdit();
   if (const Book_Command command = Command_Of(*event); command != Book_Command::None) {
     Run(command);
     return;
