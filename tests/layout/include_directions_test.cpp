@@ -140,6 +140,17 @@ TEST(IncludeDirections, Only_The_Console_Program_Knows_Its_Libraries) {
   }
 }
 
+TEST(IncludeDirections, Only_Pictures_Know_The_Plotting_Library) {
+  const std::regex library("#include <qcustomplot");
+  bool found = false;
+  for (const auto& [file, includes] : Read_Includes(kSource)) {
+    if (!std::regex_search(Read_Text(kSource + "/" + file), library)) continue;
+    found = true;
+    EXPECT_EQ(Room_Of(file), "pictures") << file;
+  }
+  EXPECT_TRUE(found);
+}
+
 // The rules themselves, on a house made up for the purpose.
 TEST(IncludeDirections, A_Ring_Is_Found_However_Long) {
   const Include_Graph ring = {{"a.h", {"b.h"}}, {"b.h", {"c.h"}}, {"c.h", {"a.h"}}, {"d.h", {}}};
@@ -159,6 +170,9 @@ TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
   EXPECT_TRUE(May_Include("workspace/a.cpp", "checks/check_data.h", false));
   EXPECT_FALSE(May_Include("checks/a.cpp", "platform/qt/b.h", false));
   EXPECT_TRUE(May_Include("checks/frm.cpp", "platform/qt/b.h", true));
+  EXPECT_TRUE(May_Include("site/frm.cpp", "pictures/b.h", true));
+  EXPECT_FALSE(May_Include("site/a.cpp", "pictures/b.h", false));
+  EXPECT_FALSE(May_Include("pictures/a.cpp", "core/b.h", true));
 }
 
 }  // namespace

@@ -1,0 +1,85 @@
+#include "pictures/depth_map.h"
+
+#include <qcustomplot.h>
+
+#include <utility>
+
+#include "pictures/grid_axes.h"
+#include "pictures/plot_parts.h"
+
+namespace barvon {
+namespace {
+
+/// From shallow to deep: even steps of it look evenly apart, also to colour-blind eyes and in
+/// print without colour. The stops of the public-domain scale "viridis", the light end first.
+QCPColorGradient Depth_Colours() {
+  static const char* const kStops[] = {"#fde725", "#bddf26", "#7ad151", "#44bf70",
+                                       "#22a884", "#21918c", "#2a788e", "#355f8d",
+                                       "#414487", "#482475", "#440154"};
+  QCPColorGradient colours;
+  colours.clearColorStops();
+  const int last = static_cast<int>(std::size(kStops)) - 1;
+  for (int i = 0; i <= last; ++i) {
+    colours.setColorStopAt(static_cast<double>(i) / last, QColor(QLatin1String(kStops[i])));
+  }
+  colours.setNanHandling(QCPColorGradient::nhTransparent);
+  return colours;
+}
+
+}  // namespace
+
+Depth_Map::Depth_Map(QWidget* parent)
+    : Picture(QStringLiteral("Map of the water depths"), QStringLiteral("depth grid"), parent) {
+  Dress_Grid_Axes(*plot());
+  map_ = Add_Cells(*plot());
+  scale_ = Add_Colour_Scale(*plot(), QStringLiteral("Depth (ft)"));
+  scale_->setGradient(Depth_Colours());
+  // Deep is below.
+  scale_->axis()->setRangeReversed(true);
+  map_->setColorScale(scale_);
+  Data_Changed();
+}
+
+void Depth_Map::Show(Depth_Grid grid) {
+  grid_ = std::move(grid);
+  Data_Changed();
+}
+
+const Depth_Drawing& Depth_Map::Drawn() {
+  Catch_Up();
+  return drawing_;
+}
+
+QPointF Depth_Map::Place_Of(int row, int column) {
+  Catch_Up();
+  return plot()->pos() + Place_Of_Cell(*plot(), row, column);
+}
+
+QColor Depth_Map::Colour_Of(double depth) {
+  Catch_Up();
+  QCPColorGradient colours = map_->gradient();
+  return QColor::fromRgb(colours.color(depth, map_->dataRange()));
+}
+
+QString Depth_Map::Tip_At(const QPointF& place) {
+  Catch_Up();
+  const auto cell = Cell_At(*plot(), place - plot()->pos(), drawing_.rows, drawing_.columns);
+  if (!cell) return {};
+  return QString::fromStdString(Depth_Cell_Text(grid_, cell->row, cell->column));
+}
+
+void Depth_Map::Build() {
+  drawing_ = Draw_Depths(grid_);
+  Set_Grid_Size(*plot(), drawing_.rows, drawing_.columns);
+  Set_Cells(*map_, drawing_.rows, drawing_.columns, drawing_.depths);
+  Set_Scale(*scale_->axis(), drawing_.scale, 0);
+  scale_->setDataRange({drawing_.scale.low, drawing_.scale.high});
+  Tell(drawing_.note, drawing_.description);
+}
+
+void Depth_Map::Fit() {
+  Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
+  Fit_Labels(*scale_->axis(), drawing_.scale, Room_For_Axes(*plot()).height());
+}
+
+}  // namespace barvon
