@@ -884,6 +884,13 @@ TEST_F(SpreadsheetView, An_Automatic_Width_Follows_What_Stands_In_The_Column) {
   EXPECT_EQ(book->columnWidth(1), narrow);
 }
 
+TEST_F(SpreadsheetView, An_Automatic_Width_Leaves_The_Other_Columns_In_Sight) {
+  table().AutoColWidth();
+  table().TextRC(4, 2, std::string(10000, 'x'));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(book->columnWidth(1), 60 * book->fontMetrics().horizontalAdvance('0'));
+}
+
 TEST_F(SpreadsheetView, A_Column_That_The_User_Dragged_Keeps_Its_Width) {
   book->setColumnWidth(1, 222);
   table().ColWidth(3, 3000);
