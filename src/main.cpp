@@ -10,6 +10,9 @@
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
 #include "run/create_process.h"
+#include "site/frm_description.h"
+#include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
 #include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
@@ -28,6 +31,9 @@ int main(int, char** arguments) {
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_frmErrorList(&main);
   barvon::Register_frmOpen(&main);
+  barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
+  barvon::Register_frmGridDescrip(&main);
+  barvon::Register_Screen("frmVelocity", barvon::Fresh_Screens<barvon::frmVelocity>(&main));
   barvon::Register_Screen("frmDensity", barvon::Fresh_Screens<barvon::frmDensity>(&main));
   main.show();
   return QApplication::exec();

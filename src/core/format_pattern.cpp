@@ -23,6 +23,10 @@ void Add_One(std::string& digits) {
   digits.insert(digits.begin(), '1');
 }
 
+void Group_Thousands(std::string& whole) {
+  for (std::size_t at = whole.size(); at > 3;) whole.insert(at -= 3, 1, ',');
+}
+
 /// value x 10^places as a whole number, half away from zero on the 15-digit value; no sign.
 std::string Scaled_Whole(const Decimal_Digits& decimal, int places) {
   const int length = decimal.exponent + places;  // digits in front of the cut
@@ -77,6 +81,7 @@ std::string Format_Number(double value, std::string_view pattern) {
                              fraction.find_first_not_of('0') == std::string::npos;
   whole.erase(0, std::min(whole.find_first_not_of('0'), whole.size()));
   if (whole.size() < required_before) whole.insert(0, required_before - whole.size(), '0');
+  if (before.find(',') != std::string_view::npos) Group_Thousands(whole);
   while (fraction.size() > required_after && fraction.back() == '0') fraction.pop_back();
 
   std::string text = decimal.negative && !shows_nothing ? "-" : "";

@@ -22,6 +22,7 @@ void Set_Site_Defaults(ProjectRecord& record) {
   record.DEPC0 = 0;
   record.ConstantDepthFlag = 1;
   record.DepthGrid = {};
+  record.DEPTHI = 0;
   record.RHDA0 = record.SLOPEX0 = record.SLOPEZ0 = 0;
   record.NROA0 = 2;
   record.DensityDepths = {};
@@ -37,6 +38,7 @@ void Set_Velocity_Defaults(ProjectRecord& record) {
   record.VelZDepth1 = record.VelZDepth2 = record.VelZ1 = record.VelZ2 = 0;
   record.VelocityFieldX = {};
   record.VelocityFieldZ = {};
+  record.ConstVelocityX = record.ConstVelocityZ = 0;
   record.AvgVelocityDepth = record.AvgVelocityX = record.AvgVelocityZ = 0;
   record.TidalDepth = record.TidalAvgVelX = record.TidalAvgVelZ = 0;
 }

@@ -206,8 +206,12 @@ Failure Store_Image(const Project_Image& image, const Given_Marks& given, Projec
     // The short layout fills only a corner of the grids; nothing of an earlier project stays
     // beside it.
     record.DepthGrid = {};
+    // Shown in every cell, it would hide the depths that were read.
+    record.DEPTHI = 0;
     record.VelocityFieldX = {};
     record.VelocityFieldZ = {};
+    // A constant of the project before must not stand in for the fields that are read now.
+    record.ConstVelocityX = record.ConstVelocityZ = 0;
     std::copy(image.RealSlots.begin(), image.RealSlots.end(), record.RealSlots.begin());
     if (const Failure failure = Unpack_Slots(record); failure != Failure::None) return failure;
     record.SolidNames = image.SolidNames;

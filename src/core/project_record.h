@@ -59,6 +59,7 @@ struct ProjectRecord {
   Flag AlwaysSaveBeforeRun = kFalse;
   Flag WizardAtStart = kFalse;
   Flag WizardActive = kFalse;
+  Flag LegacyKeyRebuild = kFalse;  // a refresh rebuilds KEY4; no command sets it
   Flag WizardAccepted = kFalse;
   Flag OutputsCopied = kFalse;
   int HelpContextToShow = 0;
@@ -80,7 +81,8 @@ struct ProjectRecord {
   double DistZ = 0;                    // (NMAX0 - 1) x DZ0
   double DEPC0 = 0;                    // constant water depth
   std::int16_t ConstantDepthFlag = 0;  // 1 constant, 0 variable depth grid
-  Grid DepthGrid{};
+  Grid DepthGrid{};        // [column][row] of the depth table: its first subscript counts along Z
+  double DEPTHI = 0;       // one depth for the whole grid; 0 none, or cells were edited
   double RHDA0 = 0;        // roughness height of the bottom
   double SLOPEX0 = 0;      // degrees
   double SLOPEZ0 = 0;      // degrees
@@ -97,6 +99,8 @@ struct ProjectRecord {
   double VelZDepth1 = 0, VelZDepth2 = 0, VelZ1 = 0, VelZ2 = 0;
   Grid VelocityFieldX{};
   Grid VelocityFieldZ{};
+  // What the whole field was filled with on its screen, 0 when it was not; not stored in the file.
+  double ConstVelocityX = 0, ConstVelocityZ = 0;
   double AvgVelocityDepth = 0;
   double AvgVelocityX = 0;
   double AvgVelocityZ = 0;

@@ -9,6 +9,8 @@ Workspace_Port Silent_Port() {
   port.caption = [] { return std::string(); };
   port.display_data = [] {};
   port.set_status_line = [](int, const std::string&, Status_Colour) {};
+  port.mark_edit_item = [](int) {};
+  port.paint_velocity_option = [](int, Status_Colour) {};
   port.refresh_for_new_project = [] {};
   port.open_menus = [] {};
   port.clear_text_checks = [] {};

@@ -22,6 +22,10 @@ struct Workspace_Port {
   std::function<void()> display_data;
   /// Text2(index) of the data categories, 0 to 5.
   std::function<void(int index, const std::string& text, Status_Colour colour)> set_status_line;
+  /// The Edit menu's entry of that index gets its check mark: its data has been supplied.
+  std::function<void(int index)> mark_edit_item;
+  /// Paints the text of the velocity option of that index, 0 to 3, without choosing it.
+  std::function<void(int index, Status_Colour colour)> paint_velocity_option;
   /// New project: menus, marks and panels as for a fresh record.
   std::function<void()> refresh_for_new_project;
   /// A project has been opened: its menus become available, whatever its keys say.

@@ -89,6 +89,11 @@ void Show_New_Project(Main_Controls& controls, ProjectRecord& record) {
   Set_Data_Items(controls, record);
 }
 
+void Paint_Velocity_Option(Main_Controls& controls, int index, Status_Colour colour) {
+  if (index < controls.Option3D1.first() || index > controls.Option3D1.last()) return;
+  Paint_Text(controls.Option3D1(index), colour == Status_Colour::Blue ? kBlue : kBlack);
+}
+
 void Show_Status_Line(Main_Controls& controls, int index, const std::string& text,
                       Status_Colour colour) {
   if (index < controls.Text2.first() || index > controls.Text2.last()) return;

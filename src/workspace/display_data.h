@@ -26,6 +26,9 @@ void Forget_Choices(Main_Controls& controls);
 /// data.
 void Show_New_Project(Main_Controls& controls, ProjectRecord& record);
 
+/// Paints the text of a velocity option, 0 to 3, and chooses nothing.
+void Paint_Velocity_Option(Main_Controls& controls, int index, Status_Colour colour);
+
 /// The state of a data category, 0 to 5.
 void Show_Status_Line(Main_Controls& controls, int index, const std::string& text,
                       Status_Colour colour);

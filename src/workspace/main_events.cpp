@@ -97,6 +97,7 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 }
 
 void Edit_Click(Main_Controls& controls, ProjectRecord& record, int index) {
+  Keep_Edit_Mark(controls, index);
   if (index == 3 && Check_Eval(record)) {
     SSPanel3_Click(controls, record, 0);
     SSPanel5_Click(controls, record, 1);

@@ -8,6 +8,8 @@
 namespace barvon {
 namespace {
 
+constexpr char kEditItems[] = "mnuEditItem";
+
 QString Indexed(const char* array, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
 }
@@ -93,6 +95,28 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
     for (const Menu_Item& item : entry.items) {
       if (item.gate == Gate::None) continue;
       Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
+    }
+  }
+}
+
+// An entry can be checked only while it has its mark, so that the menu keeps no room for others.
+void Mark_Edit_Item(Main_Controls& controls, int index) {
+  QAction* item = Action_Of(controls, kEditItems, index);
+  if (item == nullptr || item->isSeparator()) return;
+  item->setCheckable(true);
+  item->setChecked(true);
+}
+
+void Keep_Edit_Mark(Main_Controls& controls, int index) {
+  QAction* item = Action_Of(controls, kEditItems, index);
+  if (item->isCheckable()) item->setChecked(true);
+}
+
+void Clear_Edit_Marks(Main_Controls& controls) {
+  for (const Menu& entry : Menu_Tree()) {
+    if (QLatin1String(entry.array) != QLatin1String(kEditItems)) continue;
+    for (const Menu_Item& item : entry.items) {
+      Action_Of(controls, kEditItems, item.index)->setCheckable(false);
     }
   }
 }

@@ -19,6 +19,12 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
 
+/// The check mark of an entry of the Edit menu whose data has been supplied. Choosing the entry
+/// leaves its mark alone; a new project clears all of them.
+void Mark_Edit_Item(Main_Controls& controls, int index);
+void Keep_Edit_Mark(Main_Controls& controls, int index);
+void Clear_Edit_Marks(Main_Controls& controls);
+
 /// Shows or hides a menu of the bar.
 void Show_Menu(Main_Controls& controls, const char* name, bool shown);
 

@@ -116,7 +116,12 @@ void Main::Fill_Port() {
   port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
     Show_Status_Line(controls_, index, text, colour);
   };
+  port.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
+  port.paint_velocity_option = [this](int index, Status_Colour colour) {
+    Paint_Velocity_Option(controls_, index, colour);
+  };
   port.refresh_for_new_project = [this] {
+    Clear_Edit_Marks(controls_);
     Show_New_Project(controls_, Project());
     // At start the menus keep what the menu tree gives them.
     if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);

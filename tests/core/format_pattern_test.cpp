@@ -63,6 +63,17 @@ TEST(FormatNumber, A_Value_That_Shows_Only_Zeros_Has_No_Sign) {
   EXPECT_EQ(Format_Number(-0.5, "#.00"), "-.50");
 }
 
+TEST(FormatPattern, A_Comma_Groups_The_Digits_In_Front_Of_The_Point_By_Three) {
+  const std::pair<double, const char*> cases[] = {{0, ".00"},
+                                                  {5, "5.00"},
+                                                  {999.994, "999.99"},
+                                                  {999.995, "1,000.00"},
+                                                  {1234.5, "1,234.50"},
+                                                  {-123456, "-123,456.00"},
+                                                  {1234567, "1,234,567.00"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(Format_Number(value, "##,###.00"), text);
+}
+
 TEST(FormatText, Fills_Character_Positions_From_The_Right) {
   EXPECT_EQ(Format_Text("ab", "@@@@@"), "   ab");
   EXPECT_EQ(Format_Text("abcdefg", "@@@@@"), "abcdefg");

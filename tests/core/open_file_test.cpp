@@ -103,6 +103,14 @@ TEST_F(OpenFile, A_Project_Is_Loaded_And_Names_And_Caption_Follow) {
   EXPECT_EQ(log_, Lines{"caption BARVON - " + path});
 }
 
+TEST_F(OpenFile, The_One_Depth_Of_The_Earlier_Projects_Grid_Does_Not_Hide_The_Loaded_Depths) {
+  Scripted_Messages messages;
+  record_.DEPTHI = 30;
+  Write_Text(folder_ / "site.dui", Project_Bytes("site"));
+  EXPECT_TRUE(Open_File(folder_ / "site.dui", record_));
+  EXPECT_EQ(record_.DEPTHI, 0);
+}
+
 TEST_F(OpenFile, An_Upper_Or_Lower_Case_Extension_Is_Treated_Alike) {
   Scripted_Messages messages;
   for (const char* name : {"a.dui", "b.DUI", "c.Dui"}) {

@@ -61,7 +61,9 @@ TEST_F(ProjectDefaults, A_Used_Record_Is_Brought_Back) {
   record_.ProjectFileName = "/a.dui";
   record_.ProjectTitle = "title";
   record_.DepthGrid[96][96] = 5;
+  record_.DEPTHI = 5;
   record_.VelocityFieldZ[1][1] = 5;
+  record_.ConstVelocityX = record_.ConstVelocityZ = 5;
   record_.SolidNames[5] = "Copper";
   record_.SolidTracerFlag[2] = 1;
   record_.SpareReal61 = 3;
@@ -74,7 +76,10 @@ TEST_F(ProjectDefaults, A_Used_Record_Is_Brought_Back) {
   EXPECT_EQ(record_.ProjectFileName, "");
   EXPECT_EQ(record_.ProjectTitle, "");
   EXPECT_EQ(record_.DepthGrid[96][96], 0);
+  EXPECT_EQ(record_.DEPTHI, 0);
   EXPECT_EQ(record_.VelocityFieldZ[1][1], 0);
+  EXPECT_EQ(record_.ConstVelocityX, 0);
+  EXPECT_EQ(record_.ConstVelocityZ, 0);
   EXPECT_EQ(record_.SolidNames[5], "");
   EXPECT_EQ(record_.SolidTracerFlag[2], 0);
   EXPECT_EQ(record_.SpareReal61, 0);

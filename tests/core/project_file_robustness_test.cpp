@@ -155,6 +155,14 @@ TEST_F(ProjectFileRobustness, Free_Form_Numbers_May_Stand_Between_Commas_And_Bla
   EXPECT_EQ(record_.TidalAvgVelZ, 4.5F);
 }
 
+TEST_F(ProjectFileRobustness, A_Velocity_Constant_Of_The_Project_Before_Does_Not_Outlive_It) {
+  const auto lines = Save();
+  record_.ConstVelocityX = record_.ConstVelocityZ = 2;
+  ASSERT_EQ(Load(Joined(lines)).failure, Failure::None);
+  EXPECT_EQ(record_.ConstVelocityX, 0);
+  EXPECT_EQ(record_.ConstVelocityZ, 0);
+}
+
 TEST_F(ProjectFileRobustness, A_Cut_Off_Tail_Keeps_What_It_Has_And_Tells) {
   record_.KEY4 = 4;
   record_.DepthGrid[96][1] = 5;

@@ -11,6 +11,8 @@ void Call_Every_Entry() {
   EXPECT_EQ(port.caption(), "");
   port.display_data();
   port.set_status_line(0, "x", Status_Colour::Blue);
+  port.mark_edit_item(1);
+  port.paint_velocity_option(1, Status_Colour::Black);
   port.refresh_for_new_project();
   port.open_menus();
   port.clear_text_checks();

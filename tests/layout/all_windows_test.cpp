@@ -22,6 +22,9 @@
 #include "platform/qt/qt_file_dialog.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/text_window.h"
+#include "site/frm_description.h"
+#include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 #include "workspace/frm_open.h"
@@ -97,6 +100,21 @@ void Look_At_Error_List(const Look& look) {
   list.close();
 }
 
+void Look_At_Velocity(Main_Bench& bench, const Look& look) {
+  Register_Screen("frmVelocity", Fresh_Screens<frmVelocity>(&bench.main()));
+  Project().SimulationDuration = 5000;
+  Project().AvgVelocityX = 0.25;
+  Project().ConstVelocityX = 1.25;
+  for (const double type : {0, 1, 2, 3, 4, 5}) {
+    Project().VelocityProfileType = type;
+    QWidget& screen = Opened("frmVelocity");
+    look(screen, "type " + std::to_string(static_cast<int>(type)));
+    static_cast<frmVelocity&>(screen).Unload();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  Register_Screen("frmVelocity", {});
+}
+
 /// An input screen with each of its tabs in front.
 template <class Screen>
 void Look_At_Input_Screen(Main_Bench& bench, const char* name, const Look& look) {
@@ -137,6 +155,28 @@ void Look_At_Text(const Look& look) {
   ASSERT_TRUE(text.Load(folder / "site.duo"));
   Show(text);
   look(text, "");
+}
+
+void Look_At_Site(Main_Bench& bench, const Look& look) {
+  Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
+  Register_frmGridDescrip(&bench.main());
+  ProjectRecord& record = Project();
+  record.NROA0 = 5;
+  record.DepthGrid[1][1] = 12345.5;
+  auto& site = static_cast<frmDescription&>(Opened("frmDescription"));
+  look(site, "constant depth, typed densities");
+  for (const char* box : {"Check3D1(0)", "Check3D1(1)"}) site.findChild<QCheckBox*>(box)->click();
+  look(site, "variable depth, computed densities");
+  site.findChild<QLineEdit*>("Text1(0)")->setText("40.5");
+  look(site, "a number that is read as another one");
+  auto& grid = static_cast<frmGridDescrip&>(Opened("frmGridDescrip"));
+  look(grid, "not square");
+  grid.findChild<QCheckBox*>("Check3D2")->click();
+  look(grid, "to be initialized");
+  grid.Unload();
+  site.Unload();
+  for (const char* name : {"frmDescription", "frmGridDescrip"}) Register_Screen(name, {});
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Look_At_Progress(const Look& look) {
@@ -184,8 +224,10 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
   Look_At_Input_Screen<frmDensity>(bench, "frmDensity", settled);
+  Look_At_Velocity(bench, settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
+  Look_At_Site(bench, settled);
   Look_At_Progress(settled);
   Look_At_File_Dialogs(settled);
 }

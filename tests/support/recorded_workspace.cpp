@@ -27,6 +27,11 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
     log_.push_back("status " + std::to_string(index) + " " + text +
                    (colour == Status_Colour::Blue ? " blue" : " black"));
   };
+  port.mark_edit_item = [this](int index) { log_.push_back("mark " + std::to_string(index)); };
+  port.paint_velocity_option = [this](int index, Status_Colour colour) {
+    log_.push_back("velocity " + std::to_string(index) +
+                   (colour == Status_Colour::Blue ? " blue" : " black"));
+  };
   port.refresh_for_new_project = [this] { log_.push_back("new project"); };
   port.clear_text_checks = [this] { log_.push_back("clear text checks"); };
   port.close_dilution = [this] { log_.push_back("close dilution"); };

@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 #include <QToolBar>
 #include <QTreeView>
@@ -49,6 +50,11 @@ std::vector<QWidget*> Controls_In_View(const QWidget& window) {
   return controls;
 }
 
+/// The mark in a field's edge has a text for assistive tools only.
+bool Is_Mark_Of_A_Field(const QWidget* control) {
+  return qobject_cast<const QLineEdit*>(control->parentWidget()) != nullptr;
+}
+
 /// The field inside of a spin or combo box, whose frame is the box's.
 bool Is_Part_Of_Another(const QWidget* field) {
   const QWidget* parent = field->parentWidget();
@@ -56,12 +62,15 @@ bool Is_Part_Of_Another(const QWidget* field) {
 }
 
 bool Has_Too_Little_Room(const QWidget* control) {
+  if (Is_Mark_Of_A_Field(control)) return false;
   const auto* label = qobject_cast<const QLabel*>(control);
   const auto* button = qobject_cast<const QAbstractButton*>(control);
   if (label != nullptr && label->wordWrap()) {
     return label->height() < label->heightForWidth(label->width()) ||
            label->width() < label->minimumSizeHint().width();
   }
+  // A mark inside a field is a picture; what it says is its tool tip.
+  if (button != nullptr && qobject_cast<const QLineEdit*>(button->parentWidget())) return false;
   QSize wanted;
   if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
     wanted = control->sizeHint();
@@ -187,13 +196,15 @@ void Add_Letters_Of(const QWidget* control, Claims& claims) {
 bool Is_Worked_With(const QWidget* control) {
   if (!control->isEnabled() || control->focusProxy() != nullptr) return false;
   const QWidget* parent = control->parentWidget();
-  // A clear button is in the field's own keys; the parts of a bar, a box and
-  // a table belong to it.
+  // A clear button is in the field's own keys; the parts of a bar, a box and a table belong to it.
   if (qobject_cast<const QLineEdit*>(parent) || qobject_cast<const QTabBar*>(parent) ||
       qobject_cast<const QAbstractSpinBox*>(parent) || qobject_cast<const QComboBox*>(parent) ||
       qobject_cast<const QAbstractItemView*>(parent) || qobject_cast<const QHeaderView*>(control)) {
     return false;
   }
+  // A value that is only shown is read out with its label and passed by.
+  const auto* field = qobject_cast<const QLineEdit*>(control);
+  if (field != nullptr && field->isReadOnly()) return false;
   return qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QLineEdit*>(control) ||
          qobject_cast<const QComboBox*>(control) ||
          qobject_cast<const QAbstractSpinBox*>(control) || qobject_cast<const QTabBar*>(control) ||
@@ -206,6 +217,12 @@ bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>
     if (other->parentWidget() == option->parentWidget() && reached.count(other) != 0) return true;
   }
   return false;
+}
+
+/// Out of a table, whose cells Tab goes through, leads Tab with Ctrl.
+void Press_Tab(QWidget* control) {
+  const bool in_a_table = qobject_cast<QTableView*>(control) != nullptr;
+  QTest::keyClick(control, Qt::Key_Tab, in_a_table ? Qt::ControlModifier : Qt::NoModifier);
 }
 
 }  // namespace
@@ -270,12 +287,12 @@ Complaints Unreached_Controls(QWidget& window) {
   std::set<const QWidget*> reached;
   window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) return {"the window does not become active"};
-  QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Tab);
+  Press_Tab(window.focusWidget() ? window.focusWidget() : &window);
   const QWidget* first = window.focusWidget();
   bool left_first = false;
   for (int turn = 0; turn < kLongestRound && window.focusWidget() != nullptr; ++turn) {
     reached.insert(window.focusWidget());
-    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    Press_Tab(window.focusWidget());
     if (window.focusWidget() != first) left_first = true;
     if (window.focusWidget() == first && left_first) break;
   }

@@ -320,6 +320,28 @@ TEST(MainMenus, A_Screen_In_View_Without_Blocking_Keeps_Others_From_Blocking) {
   Register_Screen("frmVelocity", {});
 }
 
+TEST(MainMenus, An_Entry_With_Data_Keeps_Its_Mark_When_It_Is_Chosen_Until_A_New_Project) {
+  Main_Bench bench;
+  bench.controls().SSOption1(0)->click();
+  QAction* site = bench.Action("mnuEditItem(1)");
+  EXPECT_FALSE(site->isCheckable());
+  Port().mark_edit_item(1);
+  EXPECT_TRUE(site->isChecked());
+  site->trigger();
+  EXPECT_TRUE(site->isChecked());
+  bench.Action("mnuEditItem(2)")->trigger();
+  EXPECT_FALSE(bench.Action("mnuEditItem(2)")->isChecked());
+  Port().refresh_for_new_project();
+  EXPECT_FALSE(site->isChecked());
+  EXPECT_FALSE(site->isCheckable());
+}
+
+TEST(MainMenus, A_Mark_For_No_Entry_Is_Passed_Over) {
+  Main_Bench bench;
+  for (const int index : {-1, 7, 12}) Port().mark_edit_item(index);
+  EXPECT_FALSE(bench.Action("mnuEditItem(7)")->isCheckable());
+}
+
 TEST(MainMenus, The_Toolbars_Mark_Is_Set_From_Its_Visibility_Before_The_Menu_Drops) {
   Main_Bench bench;
   bench.controls().Toolbar1->hide();

@@ -198,6 +198,20 @@ TEST(MainOptions, A_Status_Line_Outside_The_List_Is_Passed_Over) {
   EXPECT_EQ(bench.controls().Text2(5)->text(), "Default Coefficients Used");
 }
 
+TEST(MainOptions, A_Velocity_Option_Can_Be_Painted_Without_Being_Chosen) {
+  Main_Bench bench;
+  const auto& options = bench.controls().Option3D1;
+  ASSERT_TRUE(options(0)->isChecked());
+  Port().paint_velocity_option(1, Status_Colour::Blue);
+  EXPECT_EQ(Text_Colour(options(1)), QColor("#0000ff"));
+  EXPECT_FALSE(options(1)->isChecked());
+  EXPECT_TRUE(options(0)->isChecked());
+  Port().paint_velocity_option(1, Status_Colour::Black);
+  EXPECT_EQ(Text_Colour(options(1)), QColor("#000000"));
+  Port().paint_velocity_option(4, Status_Colour::Blue);
+  Port().paint_velocity_option(-1, Status_Colour::Blue);
+}
+
 TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {
   Main_Bench bench;
   Click(bench.controls().SSOption1(1));

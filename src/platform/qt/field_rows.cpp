@@ -36,6 +36,15 @@ QLabel* Field_Rows::Text(const QString& label, QLineEdit* field, int max_length)
   return Add(label, field);
 }
 
+QLabel* Field_Rows::Shown(const QString& label, QLineEdit* field, const QString& tag) {
+  field->setProperty(kTag, tag);
+  field->setReadOnly(true);
+  QPalette palette = field->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  field->setPalette(palette);
+  return Add(label, field);
+}
+
 void Field_Rows::Whole_Row(QWidget* control) {
   grid_->addWidget(control, grid_->rowCount(), 0, 1, 2);
   if (last_ != nullptr) QWidget::setTabOrder(last_, control);

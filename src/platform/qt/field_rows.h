@@ -22,6 +22,8 @@ class Field_Rows {
   QLabel* Number(const QString& label, QLineEdit* field, Number_Note note,
                  const QString& tag = QString());
   QLabel* Text(const QString& label, QLineEdit* field, int max_length = 0);
+  /// A value that can't be typed, only read and copied.
+  QLabel* Shown(const QString& label, QLineEdit* field, const QString& tag = QString());
   /// A row of its own for anything else: a check box, a note.
   void Whole_Row(QWidget* control);
 

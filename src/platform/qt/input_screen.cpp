@@ -1,10 +1,12 @@
 #include "platform/qt/input_screen.h"
 
 #include <QApplication>
+#include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QWindow>
+#include <algorithm>
 
 #include "platform/qt/show_dialog.h"
 #include "platform/qt/spreadsheet_view.h"
@@ -38,10 +40,21 @@ void Show_Tabs_Of(QWidget* control) {
   }
 }
 
+/// Tab enters a group of options at the one that is set.
+bool Is_Passed_By(const QWidget* control) {
+  const auto* option = qobject_cast<const QRadioButton*>(control);
+  if (option == nullptr || !option->autoExclusive() || option->isChecked()) return false;
+  const auto group =
+      option->parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+  return std::any_of(group.begin(), group.end(),
+                     [](const QRadioButton* other) { return other->isChecked(); });
+}
+
 QWidget* First_Control(QWidget* screen) {
   for (QWidget* at = screen->nextInFocusChain(); at != screen; at = at->nextInFocusChain()) {
     const bool takes_tab = (at->focusPolicy() & Qt::TabFocus) != 0;
-    if (takes_tab && screen->isAncestorOf(at) && at->isVisibleTo(screen) && at->isEnabled()) {
+    if (takes_tab && !Is_Passed_By(at) && screen->isAncestorOf(at) && at->isVisibleTo(screen) &&
+        at->isEnabled()) {
       return at;
     }
   }
@@ -88,10 +101,20 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   Opening();
   FillingForm = false;
   Activated();
+  Keep_Room();
   Place();
   if (QWidget* first = First_Control(this)) first->setFocus(Qt::OtherFocusReason);
   Focus(control);
   Show_Dialog(*this, blocking);
+}
+
+void Input_Screen::Keep_Room() {
+  if (layout() == nullptr) return;
+  adjustSize();
+  // A window's own minimum leaves out what labels that wrap need in height.
+  if (layout()->hasHeightForWidth()) {
+    setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+  }
 }
 
 void Input_Screen::Place() {

@@ -55,6 +55,7 @@ class Input_Screen : public QDialog {
   bool FillingForm = false;
 
  private:
+  void Keep_Room();
   void Place();
   void Focus(const std::string& control);
   void Window_In_Focus(QWindow* window);

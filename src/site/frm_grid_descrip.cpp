@@ -1,0 +1,208 @@
+#include "site/frm_grid_descrip.h"
+
+#include <QGroupBox>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <utility>
+#include <vector>
+
+#include "core/book_numbers.h"
+#include "core/format_pattern.h"
+#include "core/help_topics.h"
+#include "core/number_reading.h"
+#include "core/screen_register.h"
+#include "platform/help_viewer.h"
+#include "platform/message_box.h"
+#include "platform/qt/field_rows.h"
+#include "site/drawn_cells.h"
+#include "site/grid_csv_file.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kOkWithoutButton = 3, kBackWithoutButton = 4;
+constexpr int kDepthGridScreen = 3;  // ScreenDataSupplied
+constexpr QSize kTableSize{440, 320};
+
+}  // namespace
+
+frmGridDescrip::frmGridDescrip(QWidget* workspace)
+    : Input_Screen("frmGridDescrip", workspace),
+      record_(Project()),
+      Check3D2(Named(new QCheckBox(this), "Check3D2")),
+      Text1(Named(new QLineEdit(this), "Text1")),
+      Command2(Named(new QPushButton(this), "Command2")),
+      F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
+      map_(Named(new Depth_Map(this), "DepthMap")),
+      Import_(Named(new QPushButton(QStringLiteral("&Import..."), this), "ImportGrid")),
+      Export_(Named(new QPushButton(QStringLiteral("&Export..."), this), "ExportGrid")) {
+  setWindowTitle(QStringLiteral("Variable Depth Grid"));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(Initial_Frame());
+  column->addWidget(Grid_Frame(), 1);
+  column->addLayout(Button_Row());
+  Set_Tab_Order();
+  Connect();
+}
+
+QWidget* frmGridDescrip::Initial_Frame() {
+  auto* frame = new QGroupBox(this);
+  Field_Rows rows(frame);
+  Check3D2->setText(
+      QStringLiteral("Do you wish to initialize the depth grid to a constant non-zero value?"));
+  rows.Whole_Row(Check3D2);
+  rows.Number("Depth (ft) to be used for Initializing the Grid", Text1, Real_Note, "DEPTHI");
+  Text1->setEnabled(false);
+  Command2->setText(QStringLiteral("Initialize Grid"));
+  Command2->setAutoDefault(false);
+  rows.layout()->addWidget(Command2, rows.layout()->rowCount() - 1, 2);
+  return frame;
+}
+
+QWidget* frmGridDescrip::Grid_Frame() {
+  auto* frame = new QGroupBox(QStringLiteral("Depth Grid. One Value/Gridpoint (ft)"), this);
+  F1Book1->setAccessibleName(frame->title());
+  F1Book1->setMinimumSize(kTableSize);
+  F1Book1->SetFocusCell(1, 1);
+  F1Book1->SetNumberNote(Real_Note);
+  auto* halves = new QHBoxLayout(frame);
+  halves->addWidget(F1Book1, 3);
+  halves->addWidget(map_, 2);
+  return frame;
+}
+
+QHBoxLayout* frmGridDescrip::Button_Row() {
+  QHBoxLayout* row = Make_Command1();
+  Import_->setToolTip(QStringLiteral("Reads the table from comma separated values, row by row"));
+  Export_->setToolTip(QStringLiteral("Writes the table as comma separated values, row by row"));
+  int place = 0;
+  for (QPushButton* button : {Import_, Export_}) {
+    button->setAutoDefault(false);
+    row->insertWidget(place++, button);
+  }
+  return row;
+}
+
+void frmGridDescrip::Set_Tab_Order() {
+  const std::vector<QWidget*> order = {
+      Check3D2, Text1,   Command2,      F1Book1,           map_,
+      Import_,  Export_, Command1(kOk), Command1(kCancel), Command1(kHelp)};
+  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void frmGridDescrip::Connect() {
+  connect(Check3D2, &QCheckBox::clicked, this, &frmGridDescrip::Check3D2_Click);
+  connect(Text1, &QLineEdit::textChanged, this, &frmGridDescrip::Text1_Change);
+  connect(Command2, &QPushButton::clicked, this, [this] {
+    Initialize_Depth_Grid(InitialDepth_, Check3D2->isChecked(), F1Book1->table());
+    Show_Map();
+  });
+  connect(F1Book1, &F1Book::Edited, this, &frmGridDescrip::F1Book1_EndEdit);
+  connect(Import_, &QPushButton::clicked, this, &frmGridDescrip::Import);
+  connect(Export_, &QPushButton::clicked, this, &frmGridDescrip::Export);
+}
+
+void frmGridDescrip::Opening() {
+  size_ = Ask_Depth_Grid_Size(record_).value_or(Depth_Grid_Size{1, 1});
+  if (record_.DEPTHI > 0) {
+    Check3D2->setChecked(true);
+    Check3D2_Click();
+  }
+  {
+    const QSignalBlocker quiet(Text1);
+    Text1->setText(QString::fromStdString(Format_Number(record_.DEPTHI, "###0.00")));
+  }
+  Text1_Change();
+  ShowDepthGrid(size_, Check3D2->isChecked(), record_, F1Book1->table());
+  map_->Set_Caption(QString::fromStdString(Depth_Grid_Remark(size_)));
+  Show_Map();
+}
+
+void frmGridDescrip::Command1_Click(int index) {
+  switch (index) {
+    case kOk:
+    case kOkWithoutButton:
+      Save();
+      break;
+    case kCancel:
+      Unload();
+      break;
+    case kHelp:
+      Show_Help({Help_Command::Context, help_topic::kDepthGrid, {}});
+      break;
+    case kBackWithoutButton:
+      Unload();
+      Open_Screen("frmDescription", record_.ShowMode == 1);
+      break;
+    default:
+      break;
+  }
+}
+
+void frmGridDescrip::Check3D2_Click() { Text1->setEnabled(Check3D2->isChecked()); }
+
+void frmGridDescrip::Text1_Change() {
+  const Number_Reading reading = Read_Real(Text1->text().toStdString());
+  if (reading.differs || !reading.value) {
+    Show_Message({"Entry Must Be a Number"});
+  } else {
+    InitialDepth_ = *reading.value;
+  }
+}
+
+void frmGridDescrip::F1Book1_EndEdit() {
+  // At once: what was edited must not hide behind the one depth, even after Cancel.
+  record_.DEPTHI = 0;
+  Show_Map();
+}
+
+void frmGridDescrip::Save() {
+  SaveDepthGrid({Check3D2->isChecked(), Text1->text().toStdString()}, F1Book1->table(), record_);
+  Unload();
+  record_.ScreenDataSupplied[kDepthGridScreen] = kTrue;
+}
+
+void frmGridDescrip::Import() {
+  const auto rows = Import_Grid_Csv("Import Depth Grid", size_.rows, size_.columns);
+  if (!rows) return;
+  Spreadsheet_Table& table = F1Book1->table();
+  {
+    const Table_Fill fill(table);
+    const Edit_Step step(table);
+    for (int row = 1; row <= size_.rows; ++row) {
+      for (int column = 1; column <= size_.columns; ++column) {
+        table.NumberRC(row, column, rows->at(row - 1).at(column - 1));
+      }
+    }
+  }
+  F1Book1_EndEdit();
+}
+
+void frmGridDescrip::Export() {
+  const Spreadsheet_Table& table = F1Book1->table();
+  Grid_Rows rows(size_.rows, std::vector<double>(size_.columns));
+  for (int row = 1; row <= size_.rows; ++row) {
+    for (int column = 1; column <= size_.columns; ++column) {
+      rows[row - 1][column - 1] = table.NumberRC(row, column);
+    }
+  }
+  Export_Grid_Csv("Export Depth Grid", "depths.csv", rows);
+}
+
+void frmGridDescrip::Show_Map() {
+  // Without the spacing: how far a cell lies from the corner is not the same for table and solver.
+  Depth_Grid grid;
+  grid.rows = size_.rows;
+  grid.columns = size_.columns;
+  grid.depths = Drawn_Cells(F1Book1->table());
+  map_->Show(std::move(grid));
+}
+
+void Register_frmGridDescrip(QWidget* workspace) {
+  const auto open = Fresh_Screens<frmGridDescrip>(workspace);
+  Register_Screen("frmGridDescrip", [open](bool blocking, const std::string& control) {
+    if (Ask_Depth_Grid_Size(Project())) open(blocking, control);
+  });
+}
+
+}  // namespace barvon

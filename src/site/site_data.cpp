@@ -1,0 +1,179 @@
+#include "site/site_data.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/format_pattern.h"
+#include "core/number_text.h"
+#include "core/wizard_answers.h"
+#include "core/workspace_port.h"
+#include "material/amden.h"
+#include "platform/message_box.h"
+#include "site/density_table.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kLeastGridPoints = 8;
+constexpr int kLeastDensityPoints = 2;
+constexpr double kUsualRoughness = 0.005;
+// The label and the rules allow 0.0005; the warning comes earlier all the same.
+constexpr double kLowRoughness = 0.001;
+constexpr double kHighRoughness = 0.05;
+constexpr std::int16_t kHopper = 1, kBarge = 3;
+constexpr double kNoProfile = 0, kTwoPointProfile = 3;
+constexpr int kTwoPointOption = 1;
+
+double Number(const Site_Entry& entry, Site_Field field) {
+  return Lenient_Number(entry.Text1[field]);
+}
+
+bool Check_Grid_Count(double count) {
+  if (count <= kMaxGridPoints) return true;
+  Show_Message(
+      {"Number of Grid Points Exceeds Maximum of " + Format_Number(kMaxGridPoints, "###")});
+  return false;
+}
+
+void Check_Roughness(double height) {
+  if (height < kLowRoughness && height != 0) {
+    Show_Message({"Roughness Height May Be Too Low"});
+  } else if (height > kHighRoughness) {
+    Show_Message({"Roughness Height May Be Too High"});
+  }
+}
+
+bool Check_Density_Points(double count) {
+  if (count >= kLeastDensityPoints && count <= kMaxDensityPoints) return true;
+  Show_Message({"Number of Density Points Must Be Between 2 and 5"});
+  return false;
+}
+
+std::int16_t Held_Grid_Count(double count) {
+  const double held = std::clamp<double>(Int(count), kLeastGridPoints, kMaxGridPoints);
+  return static_cast<std::int16_t>(held);
+}
+
+std::int16_t Held_Density_Points(double count) {
+  if (count >= kMaxDensityPoints) return kMaxDensityPoints;
+  if (count < kLeastDensityPoints) return kLeastDensityPoints;
+  return To_Int16(count);
+}
+
+// Half of the product's zeros would be negative ones.
+double Dimension(double count, double spacing) { return (count - 1) * spacing + 0.0; }
+
+}  // namespace
+
+void Take_Site_Defaults(ProjectRecord& record) {
+  if (record.WizardActive != kFalse) {
+    record.DEPC0 = Lenient_Number(Answers_Of_Wizard().water_depth);
+  }
+  if (record.RHDA0 == 0) record.RHDA0 = kUsualRoughness;
+  record.NROA0 = std::clamp<std::int16_t>(record.NROA0, kLeastDensityPoints, kMaxDensityPoints);
+}
+
+void Take_Wizard_Densities(ProjectRecord& record) {
+  if (record.WizardActive == kFalse) return;
+  const Wizard_Answers& wizard = Answers_Of_Wizard();
+  record.NROA0 = 2;
+  record.DensityComputeFlag = kTrue;
+  record.DensityDepths[1] = 0;
+  record.DensityDepths[2] = record.DEPC0;
+  OneBased<std::optional<double>, 2> density;
+  for (int i = 1; i <= 2; ++i) {
+    record.DensitySalinities[i] = Lenient_Number(wizard.water_salinity);
+    // Asked for in Fahrenheit, taken as Celsius: what the user sees in the table is what counts.
+    record.DensityTemperatures[i] = Lenient_Number(wizard.water_temperature);
+    density[i] =
+        AMDEN(record.DensitySalinities[i], record.DensityTemperatures[i], record.DensityDepths[i]);
+  }
+  for (int i = 1; i <= 2; ++i) {
+    if (density[i]) continue;
+    Tell_No_Density(i);
+    return;
+  }
+  for (int i = 1; i <= 2; ++i) record.Densities[i] = *density[i];
+}
+
+bool Has_Slopes(const ProjectRecord& record) {
+  return record.DisposalMethod == kHopper || record.DisposalMethod == kBarge;
+}
+
+bool Check_Site_Text(int index, const std::string& text) {
+  const double number = Lenient_Number(text);
+  switch (index) {
+    case kZPoints:
+    case kXPoints:
+      return Check_Grid_Count(number);
+    case kRoughness:
+      Check_Roughness(number);
+      return true;
+    case kDensityPoints:
+      return Check_Density_Points(number);
+    default:
+      return true;
+  }
+}
+
+int Density_Rows(const std::string& Text1_8) {
+  const double rows = Round_Half_Even(Lenient_Number(Text1_8));
+  return static_cast<int>(std::clamp<double>(rows, 0, Spreadsheet_Table::kSheetRows));
+}
+
+void Take_Dimensions(ProjectRecord& record) {
+  record.DistZ = Dimension(record.NMAX0, record.DZ0);
+  record.DistX = Dimension(record.MMAX0, record.DX0);
+}
+
+void Take_Dimensions(const Site_Entry& entry, ProjectRecord& record) {
+  record.DistZ = Dimension(Number(entry, kZPoints), Number(entry, kZSpacing));
+  record.DistX = Dimension(Number(entry, kXPoints), Number(entry, kXSpacing));
+}
+
+void Choose_Variable_Depth(bool variable, ProjectRecord& record) {
+  record.ConstantDepthFlag = variable ? 0 : 1;
+  const double displaced = variable ? kTwoPointProfile : kNoProfile;
+  if (record.VelocityProfileType != displaced) return;
+  record.VelocityProfileType = variable ? kNoProfile : kTwoPointProfile;
+  Port().paint_velocity_option(kTwoPointOption,
+                               variable ? Status_Colour::Black : Status_Colour::Blue);
+}
+
+void SaveSiteData(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,
+                  ProjectRecord& record) {
+  record.DataSaved = kFalse;
+  record.NMAX0 = Held_Grid_Count(Number(entry, kZPoints));
+  record.MMAX0 = Held_Grid_Count(Number(entry, kXPoints));
+  record.DZ0 = Number(entry, kZSpacing);
+  record.DX0 = Number(entry, kXSpacing);
+  record.DEPC0 = entry.variable_depth ? 0 : Number(entry, kConstantDepth);
+  record.ConstantDepthFlag = entry.variable_depth ? 0 : 1;
+  record.RHDA0 = Number(entry, kRoughness);
+  record.SLOPEX0 = Number(entry, kXSlope);
+  record.SLOPEZ0 = Number(entry, kZSlope);
+  record.NROA0 = Held_Density_Points(Number(entry, kDensityPoints));
+  for (int row = 1; row <= record.NROA0; ++row) {
+    Take_Density_Row(F1Book1, row, entry.computes_density, record);
+  }
+}
+
+Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record) {
+  return {record.NMAX0, record.MMAX0,           record.NROA0,        record.DZ0,
+          record.DX0,   record.RHDA0,           record.SLOPEX0,      record.SLOPEZ0,
+          record.DEPC0, entry.computes_density, entry.variable_depth};
+}
+
+void Reset_Vars(const Site_Copy& copy, ProjectRecord& record) {
+  record.NMAX0 = copy.NMAX0;
+  record.MMAX0 = copy.MMAX0;
+  record.NROA0 = copy.NROA0;
+  record.DZ0 = copy.DZ0;
+  record.DX0 = copy.DX0;
+  record.RHDA0 = copy.RHDA0;
+  record.SLOPEX0 = copy.SLOPEX0;
+  record.SLOPEZ0 = copy.SLOPEZ0;
+  record.DEPC0 = copy.DEPC0;
+}
+
+}  // namespace barvon

@@ -1,0 +1,265 @@
+#include "site/velocity_data.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/format_pattern.h"
+#include "core/number_reading.h"
+#include "core/number_text.h"
+#include "core/wizard_answers.h"
+
+namespace barvon {
+namespace {
+
+constexpr double kSecondsPerHour = 3600;
+
+struct Form {
+  double type;
+  const char* name;
+};
+constexpr Form kForms[kVelocityForms] = {
+    {kSingleVelocity, "Single Depth Averaged Velocity"},
+    {kTwoPointVelocity, "2-Point Velocity Profile for a Constant Depth Grid"},
+    {kVelocityField, "Variable Velocity Field for Entire Grid"},
+    {kUnsteadyVelocity, "Unsteady Velocity for Single Depth (Tidal Velocity Profile)"},
+};
+
+/// Rows of F1Book1: X depth and velocity, Z depth and velocity of a point.
+constexpr double ProjectRecord::*kTwoPoints[2][4] = {
+    {&ProjectRecord::VelXDepth1, &ProjectRecord::VelX1, &ProjectRecord::VelZDepth1,
+     &ProjectRecord::VelZ1},
+    {&ProjectRecord::VelXDepth2, &ProjectRecord::VelX2, &ProjectRecord::VelZDepth2,
+     &ProjectRecord::VelZ2},
+};
+constexpr double ProjectRecord::*kConstants[kDirections] = {&ProjectRecord::ConstVelocityX,
+                                                            &ProjectRecord::ConstVelocityZ};
+constexpr Grid ProjectRecord::*kFields[kDirections] = {&ProjectRecord::VelocityFieldX,
+                                                       &ProjectRecord::VelocityFieldZ};
+using Tidal_Column = OneBased<float, kTidalRows>;
+constexpr Tidal_Column ProjectRecord::*kTidalColumns[kDirections] = {&ProjectRecord::TidalVelX,
+                                                                     &ProjectRecord::TidalVelZ};
+
+OneBased<OneBased<double, 4>, 2> Two_Points(const ProjectRecord& record) {
+  OneBased<OneBased<double, 4>, 2> points{};
+  for (std::size_t point = 0; point < 2; ++point) {
+    for (std::size_t i = 0; i < 4; ++i) points[point + 1][i + 1] = record.*kTwoPoints[point][i];
+  }
+  return points;
+}
+
+void Store_Two_Points(const OneBased<OneBased<double, 4>, 2>& points, ProjectRecord& record) {
+  for (std::size_t point = 0; point < 2; ++point) {
+    for (std::size_t i = 0; i < 4; ++i) record.*kTwoPoints[point][i] = points[point + 1][i + 1];
+  }
+}
+
+int Held_Points(std::int16_t count) { return std::clamp<int>(count, 0, kMaxGridPoints); }
+
+float To_32_Bits(double value) {
+  constexpr double kLargest = std::numeric_limits<float>::max();
+  return static_cast<float>(std::clamp(value, -kLargest, kLargest));
+}
+
+void Show_Single(const ProjectRecord& record, Velocity_Entry& entry) {
+  const double values[] = {record.AvgVelocityDepth, record.AvgVelocityX, record.AvgVelocityZ};
+  for (std::size_t i = 0; i < entry.Text1.size(); ++i) {
+    entry.Text1[i] = Format_Number(values[i], "####0.0");
+  }
+}
+
+void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
+  entry.rows = Held_Points(record.MMAX0);
+  entry.columns = Held_Points(record.NMAX0);
+  for (std::size_t i = 0; i < kDirections; ++i) {
+    Velocity_Entry::Field& field = entry.fields[i];
+    const double constant = record.*kConstants[i];
+    // A negative constant does not come back: the field that it filled does.
+    field.Check3D2 = constant > 0;
+    if (field.Check3D2) {
+      field.Text2 = Format_Number(constant, "#####0.0");
+      for (auto& row : field.F1Book2) row.fill(constant);
+    } else {
+      field.F1Book2 = record.*kFields[i];
+    }
+  }
+}
+
+void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
+  entry.Text3 = {Format_Number(Widen(record.TidalStartTime), "###0.00"),
+                 Format_Number(Widen(record.TidalDepth), "###0.00"),
+                 Format_Number(Hours_Of_Simulation(record), "####0.0"),
+                 Format_Number(Widen(record.TidalAvgVelX), "###0.0"),
+                 Format_Number(Widen(record.TidalAvgVelZ), "###0.0")};
+  for (std::size_t row = 1; row <= kTidalRows; ++row) {
+    for (std::size_t i = 0; i < kDirections; ++i) {
+      entry.F1Book3[row][i + 1] = Widen((record.*kTidalColumns[i])[row]);
+    }
+  }
+}
+
+void Save_Single(const Velocity_Entry& entry, ProjectRecord& record) {
+  record.AvgVelocityDepth = Lenient_Number(entry.Text1[0]);
+  record.AvgVelocityX = Lenient_Number(entry.Text1[1]);
+  record.AvgVelocityZ = Lenient_Number(entry.Text1[2]);
+  if (entry.Check3D1) record.VelocityProfileType = kLogarithmicVelocity;
+}
+
+void Save_Fields(const Velocity_Entry& entry, ProjectRecord& record) {
+  for (std::size_t i = 0; i < kDirections; ++i) {
+    const Velocity_Entry::Field& field = entry.fields[i];
+    record.*kConstants[i] = field.Check3D2 ? Lenient_Number(field.Text2) : 0;
+    for (int row = 1; row <= entry.rows; ++row) {
+      const auto x = static_cast<std::size_t>(row);
+      std::copy_n(field.F1Book2[x].begin() + 1, entry.columns, (record.*kFields[i])[x].begin() + 1);
+    }
+  }
+}
+
+void Save_Unsteady(const Velocity_Entry& entry, ProjectRecord& record) {
+  record.TidalStartTime = To_32_Bits(Lenient_Number(entry.Text3[0]));
+  record.TidalDepth = To_32_Bits(Lenient_Number(entry.Text3[1]));
+  record.SimulationDuration = Lenient_Number(entry.Text3[2]) * kSecondsPerHour;
+  for (std::size_t row = 1; row <= kTidalRows; ++row) {
+    for (std::size_t i = 0; i < kDirections; ++i) {
+      (record.*kTidalColumns[i])[row] = To_32_Bits(entry.F1Book3[row][i + 1]);
+    }
+  }
+  const auto averages = Average_Velocities(entry);
+  record.TidalAvgVelX = To_32_Bits(averages[kAlongX]);
+  record.TidalAvgVelZ = To_32_Bits(averages[kAlongZ]);
+}
+
+}  // namespace
+
+Velocity_Form Form_Of_Type(double type) {
+  if (type == kLogarithmicVelocity) return kSingleForm;
+  for (int form = 0; form < kVelocityForms; ++form) {
+    if (kForms[form].type == type) return static_cast<Velocity_Form>(form);
+  }
+  return kNoForm;
+}
+
+double Type_Of_Form(Velocity_Form form) { return form == kNoForm ? 0 : kForms[form].type; }
+
+const char* Name_Of_Form(Velocity_Form form) { return form == kNoForm ? "" : kForms[form].name; }
+
+Velocity_Entry ShowVelocityData(const ProjectRecord& record) {
+  Velocity_Entry entry;
+  entry.Check3D1 = record.VelocityProfileType == kLogarithmicVelocity;
+  switch (Form_Of_Type(record.VelocityProfileType)) {
+    case kNoForm:
+      break;
+    case kSingleForm:
+      Show_Single(record, entry);
+      break;
+    case kTwoPointForm:
+      entry.F1Book1 = Two_Points(record);
+      break;
+    case kFieldForm:
+      Show_Fields(record, entry);
+      break;
+    case kUnsteadyForm:
+      Show_Unsteady(record, entry);
+      break;
+  }
+  return entry;
+}
+
+std::string Direction_Note(double type) {
+  std::string note =
+      "BARVON treats positive velocities in the X-Direction as moving from the top of the grid "
+      "towards the bottom.  Positive velocities in the Z-Direction move from left to right.";
+  if (type == kTwoPointVelocity) {
+    note += " The Resulting Speed of the Velocity Vector Should Be at Least 0.1 Ft/Sec.";
+  }
+  return note;
+}
+
+Tidal_Interval Interval_Of(const Velocity_Entry& entry) {
+  return {To_32_Bits(Lenient_Number(entry.Text3[0])), To_32_Bits(Lenient_Number(entry.Text3[2]))};
+}
+
+std::string Interval_Note(const Tidal_Interval& interval) {
+  const auto hours = [](float value) {
+    return Format_Number(Widen(To_32_Bits(value)), "###.00");  // an end beyond 32 bits is infinite
+  };
+  return "Start Time: " + hours(interval.start) +
+         "\nSimulation Duration: " + hours(interval.duration) +
+         "\nEnding Time: " + hours(interval.End());
+}
+
+std::array<double, kDirections> Average_Velocities(const Velocity_Entry& entry) {
+  const Tidal_Interval interval = Interval_Of(entry);
+  std::array<double, kDirections> averages{};
+  for (std::size_t i = 0; i < kDirections; ++i) {
+    Tidal_Column pattern{};
+    for (std::size_t row = 1; row <= kTidalRows; ++row) {
+      pattern[row] = To_32_Bits(entry.F1Book3[row][i + 1]);
+    }
+    averages[i] = AverageOverInterval(pattern, interval);
+  }
+  return averages;
+}
+
+void SaveVelocityData(const Velocity_Entry& entry, ProjectRecord& record) {
+  record.DataSaved = kFalse;
+  switch (Form_Of_Type(record.VelocityProfileType)) {
+    case kNoForm:
+      break;
+    case kSingleForm:
+      Save_Single(entry, record);
+      break;
+    case kTwoPointForm:
+      Store_Two_Points(entry.F1Book1, record);
+      break;
+    case kFieldForm:
+      Save_Fields(entry, record);
+      break;
+    case kUnsteadyForm:
+      Save_Unsteady(entry, record);
+      break;
+  }
+}
+
+Saved_Velocity Copy_Velocity(const ProjectRecord& record) {
+  return {record.VelocityProfileType, record.AvgVelocityDepth, record.AvgVelocityX,
+          record.AvgVelocityZ, Two_Points(record)};
+}
+
+void Reset_Vars(const Saved_Velocity& saved, ProjectRecord& record) {
+  record.VelocityProfileType = saved.VelocityProfileType;
+  record.AvgVelocityDepth = saved.AvgVelocityDepth;
+  record.AvgVelocityX = saved.AvgVelocityX;
+  record.AvgVelocityZ = saved.AvgVelocityZ;
+  Store_Two_Points(saved.two_points, record);
+}
+
+double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction) {
+  return record.*kConstants[direction];
+}
+
+double Hours_Of_Simulation(const ProjectRecord& record) {
+  return record.SimulationDuration / kSecondsPerHour;
+}
+
+std::string Filled_Note(const std::string& typed, const std::string& filled, double value) {
+  const std::string note = Real_Note(typed);
+  const double reading = Lenient_Number(typed);
+  if (!note.empty() || typed != filled || reading == value) return note;
+  return "rounded from " + Plain_Number(value) + ": OK stores " + Plain_Number(reading);
+}
+
+double Type_From_Wizard(const ProjectRecord& record) {
+  const int option = Answers_Of_Wizard().velocity_option;
+  if (record.WizardActive == kFalse || option < 0 || option >= kVelocityForms) {
+    return record.VelocityProfileType;
+  }
+  return kForms[option].type;
+}
+
+std::string Duration_From_Wizard() {
+  return Format_Number(Lenient_Number(Answers_Of_Wizard().max_duration) / kSecondsPerHour,
+                       "###.00");
+}
+
+}  // namespace barvon

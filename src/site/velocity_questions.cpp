@@ -1,0 +1,88 @@
+#include "site/velocity_questions.h"
+
+#include <cmath>
+#include <limits>
+
+#include "core/number_text.h"
+#include "platform/message_box.h"
+
+namespace barvon {
+namespace {
+
+/// The pattern's 12.5 hours in seconds. The start is held against it in hours as it is typed: up
+/// to 45000 hours pass, and that stays.
+constexpr double kLatestStart = 45000;
+
+bool Refuse(const std::string& text) {
+  Show_Message({text});
+  return false;
+}
+
+bool Check_Start(double start) {
+  if (start <= kLatestStart) return true;
+  return Refuse(
+      "Starting Time Exceeds Unsteady Velocity Pattern Duration (12.5 Hrs).  Please Correct.");
+}
+
+/// A duration that 32 bits can't tell from 0 would divide by it.
+bool Check_Duration(const Tidal_Interval& interval) {
+  if (interval.duration != 0) return true;
+  return Refuse("Please Provide a Simulation Duration Greater Than Zero.");
+}
+
+/// The unsteady profile is kept in 32 bits: what they can't hold is refused, not cut.
+bool Check_Size(double value, const std::string& name) {
+  if (std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())) return true;
+  return Refuse(name + " is Too Large a Number.  Please Correct.");
+}
+
+bool Check_Sizes(const Velocity_Entry& entry) {
+  constexpr const char* kNames[] = {"Start Time Within Velocity Profile",
+                                    "Depth Where Velocity Profile is Applied",
+                                    "Simulation Duration"};
+  for (std::size_t i = 0; i < std::size(kNames); ++i) {
+    if (!Check_Size(Lenient_Number(entry.Text3[i]), kNames[i])) return false;
+  }
+  for (std::size_t row = 1; row <= kTidalRows; ++row) {
+    const std::string velocity = "-Velocity of Point " + std::to_string(row);
+    if (!Check_Size(entry.F1Book3[row][1], "X" + velocity)) return false;
+    if (!Check_Size(entry.F1Book3[row][2], "Z" + velocity)) return false;
+  }
+  const auto averages = Average_Velocities(entry);
+  return Check_Size(averages[kAlongX], "Average X-Velocity") &&
+         Check_Size(averages[kAlongZ], "Average Z-Velocity");
+}
+
+}  // namespace
+
+bool Check_Velocity(const Velocity_Entry& entry, double type) {
+  if (type != kUnsteadyVelocity) return true;
+  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(Interval_Of(entry)) &&
+         Check_Sizes(entry);
+}
+
+void Tell_Constant_Missing(Velocity_Direction direction) {
+  Show_Message({direction == kAlongX ? "Specify Velocity In The X-Direction"
+                                     : "Specify Velocity In The Z-Direction"});
+}
+
+bool Ask_To_Overwrite() {
+  return Show_Message({"Do you Want to Overwrite Existing Data?", kMessageTitle, Buttons::YesNo,
+                       Icon::Question}) == Answer::Yes;
+}
+
+void Tell_Duration_Missing() {
+  Show_Message({"Please Provide a Value for Simulation Duration.", kMessageTitle, Buttons::Ok,
+                Icon::Information});
+}
+
+void Tell_Grid_Beyond_Fields(const ProjectRecord& record) {
+  if (record.MMAX0 <= kMaxGridPoints && record.NMAX0 <= kMaxGridPoints) return;
+  const std::string most = std::to_string(kMaxGridPoints);
+  Show_Message({"The Grid of " + std::to_string(record.MMAX0) + " x " +
+                    std::to_string(record.NMAX0) + " Points Exceeds the Maximum of " + most +
+                    " x " + most + ".  Only the Points Within It Are Shown.",
+                kMessageTitle, Buttons::Ok, Icon::Warning});
+}
+
+}  // namespace barvon
