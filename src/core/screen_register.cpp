@@ -34,4 +34,9 @@ bool Open_Screen(const std::string& name, bool blocking, const std::string& cont
   return true;
 }
 
+void Open_Screen_Or_Tell(const std::string& name, bool blocking, const std::string& control) {
+  if (Open_Screen(name, blocking, control)) return;
+  Port().show_note({"The screen " + name + " is not part of this version.", ""});
+}
+
 }  // namespace barvon

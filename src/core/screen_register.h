@@ -19,4 +19,7 @@ bool Screen_Stands(const std::string& name);
 /// Opens the screen. False when no screen of that name stands.
 bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});
 
+/// Opens the screen; one that this version does not have is named in the status area.
+void Open_Screen_Or_Tell(const std::string& name, bool blocking, const std::string& control = {});
+
 }  // namespace barvon

@@ -29,7 +29,7 @@ void Show_Program_Options(Main_Controls& controls, ProjectRecord& record) {
   Show_Simulation(controls, simulation);
   if (simulation == 1) {
     Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
-    if (std::exchange(controls.type_is_new, false)) {
+    if (std::exchange(controls.key3_to_follow, false)) {
       KEY3_Value(controls, record);
       Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
     }
@@ -74,7 +74,7 @@ void Set_Data_Items(Main_Controls& controls, ProjectRecord& record) {
 }
 
 void Forget_Choices(Main_Controls& controls) {
-  controls.type_is_new = false;
+  controls.key3_to_follow = false;
   Show_Option(controls.SSOption4, -1);
 }
 

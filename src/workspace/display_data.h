@@ -11,8 +11,13 @@ namespace barvon {
 void Display_Data(Main_Controls& controls, ProjectRecord& record);
 
 /// Rebuilds the data board from the record. In the record it changes what Refresh_KEY2 tells, and
-/// KEY3 follows a type of analysis that has been chosen since the board was last rebuilt.
+/// KEY3 follows a type of analysis, or diffusion, that has been chosen since the board was last
+/// rebuilt.
 void Set_Data_Items(Main_Controls& controls, ProjectRecord& record);
+
+/// For callers who want the summary brought up to date: the boards always are, so this does
+/// nothing.
+inline void View_Data_Summary() {}
 
 /// Another project takes the place of the one shown: what was chosen for that one is forgotten.
 void Forget_Choices(Main_Controls& controls);

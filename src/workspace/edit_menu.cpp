@@ -47,11 +47,6 @@ bool Any_Input_Screen_Is_Open() {
                      [](const char* name) { return Port().screen_is_open(name); });
 }
 
-void Show(const std::string& name, bool blocking) {
-  if (Open_Screen(name, blocking)) return;
-  Port().show_note({"The screen " + name + " is not part of this version.", ""});
-}
-
 }  // namespace
 
 void mnuEditItem_Click(int index, ProjectRecord& record) {
@@ -67,9 +62,9 @@ void Show_Screen(const std::string& name, const ProjectRecord& record) {
                   kMessageTitle, Buttons::Ok, Icon::Critical});
     return;
   }
-  Show(name, blocking);
+  Open_Screen_Or_Tell(name, blocking);
 }
 
-void Show_Blocking_Screen(const std::string& name) { Show(name, true); }
+void Show_Blocking_Screen(const std::string& name) { Open_Screen_Or_Tell(name, true); }
 
 }  // namespace barvon

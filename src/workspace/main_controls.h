@@ -86,9 +86,9 @@ struct Main_Controls {
   QToolBar* Toolbar1;
   QHash<QString, QAction*> actions;  // menu items and toolbar buttons by their names
 
-  /// A type of analysis has been chosen since the evaluation was last shown: KEY3 has yet to
-  /// follow.
-  bool type_is_new = false;
+  /// A type of analysis, or diffusion, has been chosen since the evaluation was last shown: KEY3
+  /// has yet to follow.
+  bool key3_to_follow = false;
 };
 
 }  // namespace barvon

@@ -78,7 +78,7 @@ void KEY3_Value(const Main_Controls& controls, ProjectRecord& record) {
 void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
   Show_Type(controls, index);
-  controls.type_is_new = true;
+  controls.key3_to_follow = true;
 }
 
 void SSOption2_Click(Main_Controls& controls, ProjectRecord& record, int index) {
@@ -89,6 +89,8 @@ void SSOption2_Click(Main_Controls& controls, ProjectRecord& record, int index) 
 void SSOption3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Show_Simulation(controls, index);
   Choose_Simulation_Type(index, record);
+  // While there was no diffusion KEY3 may have become 0, which in the tiers is no evaluation.
+  if (index == 1) controls.key3_to_follow = true;
   Assign_Labels(controls, record.AnalysisType);
 }
 

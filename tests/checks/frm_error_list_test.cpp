@@ -13,6 +13,7 @@
 #include "checks/check_data.h"
 #include "checks/sound_project.h"
 #include "core/screen_register.h"
+#include "core/workspace_port.h"
 #include "platform/help_viewer.h"
 #include "support/screen_support.h"
 
@@ -164,6 +165,79 @@ TEST_F(ErrorListScreen, The_Evaluation_Screen_Opens_Without_A_Control) {
   EXPECT_EQ(opened, (std::vector<Opened>{{"frmMdlkyn", false, ""}}));
 }
 
+TEST_F(ErrorListScreen, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Register_Screen("frmDescription", {});
+  std::string noted;
+  Port().show_note = [&noted](const Status_Note& note) { noted = note.text; };
+  Open();
+  Double_Click(Place_Of(0));
+  Reset_Port();
+  EXPECT_EQ(noted, "The screen frmDescription is not part of this version.");
+  EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, A_List_In_View_That_Is_Asked_For_Blocking_Blocks) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Open();
+  QWidget* in_front = nullptr;
+  bool visible = false;
+  QTimer::singleShot(50, &List(), [&] {
+    in_front = QApplication::activeModalWidget();
+    visible = List().isVisible();
+    Press_Button("SSCommand1(1)");
+  });
+  ASSERT_TRUE(Open_Screen("frmErrorList", true));
+  EXPECT_EQ(in_front, &List());
+  EXPECT_TRUE(visible);
+  EXPECT_FALSE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, Every_Finding_Leads_To_The_Screen_And_Control_That_Mend_It) {
+  using Change = void (*)(ProjectRecord&);
+  const std::pair<Change, Opened> findings[] = {
+      {[](ProjectRecord& r) { r.NMAX0 = 97; }, {"frmDescription", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.MMAX0 = 97; }, {"frmDescription", false, "Text1(1)"}},
+      // A negative spacing moves the edges of the grid as well; its own finding is the first.
+      {[](ProjectRecord& r) { r.DZ0 = -20; }, {"frmDescription", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.DX0 = -10; }, {"frmDescription", false, "Text1(4)"}},
+      {[](ProjectRecord& r) { r.RHDA0 = 0.06; }, {"frmDescription", false, "Text1(5)"}},
+      {[](ProjectRecord& r) { r.DEPC0 = 0; }, {"frmDescription", false, "F1Book1"}},
+      {[](ProjectRecord& r) { r.Densities[2] = 0; }, {"frmDescription", false, "F1Book1"}},
+      {[](ProjectRecord& r) { r.SiteTop = 601; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteLeft = 201; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteBottom = 201; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.SiteRight = 601; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.KEY3 = 2; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.KEY3 = 5, r.SiteTop = r.SiteLeft = 10; }, {"frmMdlkyn", false, ""}},
+      {[](ProjectRecord& r) { r.DEPC0 = 61; }, {"frmDescription", false, "Text1(4)"}},
+      {[](ProjectRecord& r) { r.ZBARGE = -1; }, {"frmOperation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.BINL = 0; }, {"frmOperation", false, "Text1(2)"}},
+      {[](ProjectRecord& r) { r.BINW = 0; }, {"frmOperation", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.DisposalMethod = 3, r.BargeLength = 0; },
+       {"frmOperation", false, "Text1(2)"}},
+      {[](ProjectRecord& r) { r.DisposalMethod = 3, r.BargeWidth = 0; },
+       {"frmOperation", false, "Text1(3)"}},
+      {[](ProjectRecord& r) { r.SimulationDuration = 0; }, {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.LongTermTimeStep = 0; }, {"frmSimulation", false, "Text1(1)"}},
+      {[](ProjectRecord& r) { r.AnalysisType = 2, r.SimulationDuration = 144001; },
+       {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.AnalysisType = 3, r.SimulationDuration = 36001; },
+       {"frmSimulation", false, "Text1(0)"}},
+      {[](ProjectRecord& r) { r.LongTermTimeStep = 1800; }, {"frmSimulation", false, "Text1(1)"}},
+  };
+  Open();
+  for (const auto& [change, target] : findings) {
+    ProjectRecord record = Sound_Project();
+    change(record);
+    Check_Project(record);
+    ASSERT_GE(List1().count(), 1);
+    opened.clear();
+    Double_Click(Place_Of(0));
+    EXPECT_EQ(opened, std::vector<Opened>{target}) << List1().item(0)->text().toStdString();
+  }
+}
+
 TEST_F(ErrorListScreen, Material_Findings_And_References_Without_A_Mark_Do_Nothing) {
   Current_Errors().Add("one", "frmMatHopper!F1Book1");
   Current_Errors().Add("two", "frmMatBarge!F1Book1");
@@ -216,6 +290,19 @@ TEST_F(ErrorListScreen, Return_Opens_The_Selected_Finding_Without_A_Mouse) {
   QTest::keyClick(&List1(), Qt::Key_Enter, Qt::KeypadModifier);
   const Opened second = {"frmOperation", false, "Text1(2)"};
   EXPECT_EQ(opened, (std::vector<Opened>{second, second}));
+}
+
+TEST_F(ErrorListScreen, Keys_Alone_Reach_The_First_Finding_And_The_Next) {
+  Current_Errors().Add("one", "frmDescription!Text1(5)");
+  Current_Errors().Add("two", "frmOperation!Text1(2)");
+  Open();
+  EXPECT_EQ(List().focusWidget(), &List1());
+  QTest::keyClick(&List1(), Qt::Key_Space);
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  QTest::keyClick(&List1(), Qt::Key_Down);
+  QTest::keyClick(&List1(), Qt::Key_Return);
+  EXPECT_EQ(opened, (std::vector<Opened>{{"frmDescription", false, "Text1(5)"},
+                                         {"frmOperation", false, "Text1(2)"}}));
 }
 
 TEST_F(ErrorListScreen, The_Description_Opens_The_Topic_Of_The_Selected_Finding) {

@@ -70,6 +70,23 @@ TEST_F(DocumentOpener, Without_A_Program_For_Text_The_File_Is_Shown_In_A_Window_
   EXPECT_FALSE(Exists(folder_ / "opened"));
 }
 
+TEST_F(DocumentOpener, A_Desktop_Whose_Program_Is_Gone_Leaves_The_File_To_Our_Own_Window) {
+  Install("xdg-mime", "echo gone.desktop\n");
+  Install("xdg-open", "exit 3\n");
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  ASSERT_TRUE(Wait_Until([] { return Text_Window_In_Front() != nullptr; }));
+  EXPECT_EQ(Text_Window_In_Front()->windowTitle().toStdString(), output_);
+}
+
+TEST_F(DocumentOpener, A_Desktop_That_Can_Not_Start_Its_Opener_Leaves_The_File_To_Our_Own_Window) {
+  Install("xdg-mime", "echo editor.desktop\n");
+  Write_Text(folder_ / "xdg-open", "#!/no/such/shell\n");
+  std::filesystem::permissions(folder_ / "xdg-open", std::filesystem::perms::owner_all);
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  ASSERT_NE(Text_Window_In_Front(), nullptr);
+  EXPECT_EQ(Text_Window_In_Front()->windowTitle().toStdString(), output_);
+}
+
 TEST_F(DocumentOpener, The_Window_Finds_Text_And_Starts_Again_At_The_Top) {
   ASSERT_TRUE(Open_Qt_Document(output_));
   QDialog* window = Text_Window_In_Front();

@@ -81,6 +81,15 @@ TEST_F(ViewResults, A_Native_Program_Of_The_Name_Without_Extension_Is_Found) {
   EXPECT_TRUE(Exists(bench / "seen.txt"));
 }
 
+TEST_F(ViewResults, The_Application_Directory_Is_Where_It_Starts_From_Wherever_The_User_Stands) {
+  Save_Project();
+  bench.Install("kv_graph.exe", "write:seen.txt=x\n");
+  std::filesystem::current_path(bench.folder / "bay");
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+}
+
 TEST_F(ViewResults, A_Missing_Graphics_Program_Is_Told_With_Its_Path_After_The_Hand_Over) {
   Save_Project();
   Scripted_Messages messages({Answer::Ok});
@@ -106,6 +115,32 @@ TEST_F(ViewResults, A_Graphics_Program_That_Fails_Is_Not_Passed_Over_In_Silence)
   Graph_Command(record, 0);
   ASSERT_EQ(bench.notes.size(), 1u);
   EXPECT_EQ(bench.notes[0].text, (bench / "kv_graph") + " ended with code 3.");
+}
+
+TEST_F(ViewResults, A_Graphics_Program_That_Can_Not_Be_Started_Is_Told) {
+  Save_Project();
+  Write_Text(bench / "kv_graph.exe", "#!/bin/sh\n");  // not executable
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  ASSERT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(bench.notes[0].text.rfind("The graphics program was not started: ", 0), 0u);
+  EXPECT_NE(bench.notes[0].text.find((bench / "kv_graph.exe") + " is not executable"),
+            std::string::npos);
+}
+
+TEST_F(ViewResults, Blanks_In_The_Path_Reach_Graphics_And_Editor_As_They_Are) {
+  std::filesystem::create_directory(bench.folder / "north bay");
+  record.BaseFileName = bench.folder / "north bay/site one";
+  record.ProjectFileName = record.BaseFileName + ".DUI";
+  Save_Project();
+  Write_Text(record.BaseFileName + ".duo", "output");
+  bench.Install("kv_graph", "write:seen.txt=x\n");
+  Scripted_Messages messages;
+  Graph_Command(record, 1);
+  EXPECT_EQ(Setting("Graph File", "GraphFile"), bench.folder / "north bay/site one.DUI");
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+  View_Output_Command(record);
+  EXPECT_EQ(opened, std::vector<std::string>{bench.folder / "north bay/site one.duo"});
 }
 
 TEST_F(ViewResults, Output_Of_No_Project_Is_Refused) {

@@ -1,67 +1,14 @@
-#include <gtest/gtest.h>
-
-#include <QTest>
-
-#include "core/project_record.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "support/screen_support.h"
+#include "workspace/data_board_fixture.h"
 #include "workspace/option_events.h"
 
 namespace barvon {
 namespace {
 
-using testing::Main_Bench;
-using testing::Modal_Replies;
-using testing::Press;
+using namespace barvon::testing;
 
 constexpr char kTwoPointQuestion[] =
     "To Use Two-Point Velocity Profile Variable Depth Must Be Disabled. Do You Wish To Disable "
     "Variable Depth Specification Now?";
-
-QColor Text_Colour(const QWidget* control) {
-  return control->palette().color(QPalette::Active, QPalette::WindowText);
-}
-
-template <class T>
-void Expect_Blue(const ControlArray<T>& options, int chosen) {
-  for (int i = options.first(); i <= options.last(); ++i) {
-    EXPECT_EQ(options(i)->isChecked(), i == chosen) << i;
-    EXPECT_EQ(Text_Colour(options(i)), QColor(i == chosen ? "#0000ff" : "#000000")) << i;
-  }
-}
-
-/// The data board of a project of that type, with the screens that it opens written down.
-class DataBoard : public ::testing::Test {
- protected:
-  DataBoard() {
-    for (const char* name :
-         {"frmDescription", "frmVelocity", "frmMatHopper", "frmMatBarge", "frmOperation",
-          "frmCoefficients", "frmDensity", "frmSimulation", "frmMdlkyn", "frmDilute2"}) {
-      Register_Screen(name, [this, name](bool blocking, const std::string&) {
-        opened.push_back(name + std::string(blocking ? " blocking" : ""));
-        on_open();
-      });
-      registered.push_back(name);
-    }
-    Project().ConstantDepthFlag = 1;
-  }
-  ~DataBoard() override {
-    for (const std::string& name : registered) Register_Screen(name, {});
-  }
-
-  void Show_Board_Of(int type) {
-    c.SSOption1(type - 1)->click();
-    QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
-  }
-
-  using Names = std::vector<std::string>;
-  Main_Bench bench;
-  Main_Controls& c = bench.controls();
-  ProjectRecord& record = Project();
-  Names opened, registered;
-  std::function<void()> on_open = [] {};
-};
 
 TEST_F(DataBoard, Captions_Stand_As_They_Are_Told) {
   const std::pair<const char*, const char*> frames[] = {
@@ -89,173 +36,6 @@ TEST_F(DataBoard, Captions_Stand_As_They_Are_Told) {
   for (const auto& [name, caption] : captions) {
     ASSERT_NE(bench.Child<QAbstractButton>(name), nullptr) << name;
     EXPECT_EQ(bench.Child<QAbstractButton>(name)->text(), caption);
-  }
-}
-
-TEST_F(DataBoard, Labels_Of_The_Evaluation_Go_By_The_Type) {
-  Show_Board_Of(1);
-  EXPECT_EQ(c.SSOption4(0)->text(), "No Diffusion of a Conservative Tracer");
-  EXPECT_EQ(c.SSOption4(1)->text(), "Long-Term Diffusion of Conservative Tracer");
-  EXPECT_FALSE(c.SSOption4(2)->isVisible());
-  for (const int type : {2, 3}) {
-    Show_Board_Of(type);
-    EXPECT_EQ(c.SSOption4(0)->text(), "Tier II, Determine Need for Further Testing");
-    EXPECT_EQ(c.SSOption4(1)->text(), "Tier II, Compare Water Quality");
-    EXPECT_EQ(c.SSOption4(2)->text(), " Tier III, Compare Toxicity Results");
-    EXPECT_TRUE(c.SSOption4(2)->isVisible());
-  }
-}
-
-TEST_F(DataBoard, The_Hint_Of_The_Simulation_Goes_By_The_Type) {
-  const char* hints[] = {
-      "Choose Diffusion Option for Transport of Solids Or Tracer in the Water Column",
-      "Choose Diffusion Option for Initial Mixing Calculations for MPRSA 103 Water Column "
-      "Evaluations.",
-      "Choose Diffusion for Initial Mixing Calculations for CWA 404(b)(1) Water Column "
-      "Evaluations."};
-  for (int type = 1; type <= 3; ++type) {
-    c.Label4(0)->hide();
-    Show_Board_Of(type);
-    EXPECT_EQ(c.Label4(0)->text(), hints[type - 1]);
-    EXPECT_TRUE(c.Label4(0)->isVisible());
-  }
-}
-
-TEST_F(DataBoard, Each_Evaluation_Gives_Its_KEY3_And_Its_Hint) {
-  const char* general[] = {"Computations Are Made For Solid Fraction Only",
-                           "Requires Tracer Concentration [mg/l] in Dredged Material"};
-  const char* tiers[] = {
-      "Requires Contaminant Concentration [mg/kg] in Sediment",
-      "Requires Predicted Concentration [mg/l] in Water Column Prior to Initial Mixing",
-      "Results Expressed in % of Initial Water Column Concentration Prior to Initial Mixing"};
-  const int key3[3][3] = {{0, 1, -1}, {4, 2, 3}, {7, 5, 6}};
-  for (int type = 1; type <= 3; ++type) {
-    Show_Board_Of(type);
-    for (int i = 0; i < (type == 1 ? 2 : 3); ++i) {
-      c.SSOption4(i)->click();
-      EXPECT_EQ(record.KEY3, key3[type - 1][i]);
-      EXPECT_EQ(c.Label4(1)->text(), type == 1 ? general[i] : tiers[i]);
-      Expect_Blue(c.SSOption4, i);
-      // The same state comes back from the record.
-      Port().display_data();
-      EXPECT_EQ(record.KEY3, key3[type - 1][i]);
-      EXPECT_EQ(c.Label4(1)->text(), type == 1 ? general[i] : tiers[i]);
-      Expect_Blue(c.SSOption4, i);
-    }
-  }
-}
-
-TEST_F(DataBoard, KEY3_Follows_A_New_Type_When_The_Board_Is_Shown) {
-  Show_Board_Of(1);
-  c.SSOption4(1)->click();
-  EXPECT_EQ(record.KEY3, 1);
-  c.SSOption1(1)->click();
-  EXPECT_EQ(record.KEY3, 1);
-  QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
-  EXPECT_EQ(record.KEY3, 2);
-  Show_Board_Of(3);
-  EXPECT_EQ(record.KEY3, 5);
-  c.SSOption4(2)->click();
-  EXPECT_EQ(record.KEY3, 6);
-  Show_Board_Of(1);  // which offers no third
-  EXPECT_EQ(record.KEY3, 1);
-  Expect_Blue(c.SSOption4, 1);
-}
-
-TEST_F(DataBoard, Descent_And_Collapse_Closes_The_Evaluation_And_Clears_The_Contaminant) {
-  Show_Board_Of(2);
-  c.SSOption4(1)->click();
-  record.TracerName() = "Copper";
-  record.CriterionConcentration = 5;
-  c.SSOption3(0)->click();
-  EXPECT_EQ(record.KEY2, 2);
-  EXPECT_EQ(record.KEY3, 2);  // until it is asked for
-  EXPECT_EQ(record.TracerName(), "");
-  EXPECT_EQ(record.CriterionConcentration, 0);
-  Expect_Blue(c.SSOption3, 0);
-  for (QRadioButton* option : c.SSOption4) EXPECT_FALSE(option->isEnabled());
-  Port().display_data();
-  EXPECT_EQ(record.KEY3, 2);
-  EXPECT_EQ(c.Label4(1)->text(), "");
-  c.SSPanel5(0)->click();
-  EXPECT_EQ(record.KEY3, 0);
-  c.SSOption3(1)->click();
-  EXPECT_EQ(record.KEY2, 0);
-  Expect_Blue(c.SSOption3, 1);
-  for (QRadioButton* option : c.SSOption4) EXPECT_TRUE(option->isEnabled());
-  Expect_Blue(c.SSOption4, 1);  // the choice is there again
-}
-
-TEST_F(DataBoard, Diffusion_Chosen_For_A_Project_Without_Has_No_Evaluation_Yet) {
-  Show_Board_Of(2);
-  c.SSOption4(1)->click();
-  Port().open_menus();  // another project is opened
-  record.KEY2 = 2;
-  record.KEY3 = 0;
-  Port().display_data();
-  Expect_Blue(c.SSOption4, -1);
-  c.SSOption3(1)->click();
-  opened.clear();
-  Modal_Replies replies({Press(QMessageBox::Ok)});
-  c.SSPanel5(1)->click();
-  EXPECT_EQ(replies.seen.at(0).text, "Please Specify Evaluation Type");
-  EXPECT_EQ(replies.seen.at(0).title, "BARVON");
-  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
-  EXPECT_EQ(replies.seen.at(0).buttons, QMessageBox::Ok);
-  EXPECT_EQ(opened, Names{});
-  Expect_Blue(c.SSOption4, -1);  // no refresh
-  EXPECT_EQ(record.KEY3, 3);     // the last one counts
-}
-
-TEST_F(DataBoard, Without_An_Evaluation_KEY3_Is_That_Of_The_Last_One) {
-  const int last[] = {1, 3, 6};
-  for (int type = 1; type <= 3; ++type) {
-    Show_Board_Of(type);
-    for (QRadioButton* option : c.SSOption4) {
-      option->setAutoExclusive(false);
-      option->setChecked(false);
-    }
-    c.SSPanel5(2)->click();
-    EXPECT_EQ(record.KEY3, last[type - 1]);
-  }
-}
-
-TEST_F(DataBoard, Evaluation_Needs_Diffusion) {
-  Show_Board_Of(3);
-  c.SSOption3(0)->click();
-  record.ProjectTitle = "refreshed";
-  Modal_Replies replies({Press(QMessageBox::Ok)});
-  c.SSPanel5(1)->click();
-  EXPECT_EQ(replies.seen.at(0).text,
-            "Diffusion Option Not Specified.  No Water Quality Calculations Will Be Conducted");
-  EXPECT_EQ(replies.seen.at(0).title, "BARVON");
-  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
-  EXPECT_EQ(opened, Names{});
-  EXPECT_EQ(c.Title_Box->text(), "refreshed");
-}
-
-TEST_F(DataBoard, Solids_Alone_Have_No_Evaluation_Screen) {
-  Show_Board_Of(1);
-  record.ProjectTitle = "refreshed";
-  Modal_Replies replies({Press(QMessageBox::Ok)});
-  c.SSPanel5(1)->click();
-  EXPECT_EQ(replies.seen.at(0).text, "No Long Term Tracer Computations Will Be Carried Out");
-  EXPECT_EQ(replies.seen.at(0).title, "BARVON");
-  EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Critical);
-  EXPECT_EQ(opened, Names{});
-  EXPECT_EQ(c.Title_Box->text(), "refreshed");
-}
-
-TEST_F(DataBoard, Every_Other_Evaluation_Opens_Its_Screen) {
-  const std::vector<int> evaluations[] = {{1}, {0, 1, 2}, {0, 1, 2}};
-  for (int type = 1; type <= 3; ++type) {
-    Show_Board_Of(type);
-    for (const int evaluation : evaluations[type - 1]) {
-      c.SSOption4(evaluation)->click();
-      opened.clear();
-      c.SSPanel5(1)->click();
-      EXPECT_EQ(opened, Names{"frmMdlkyn blocking"}) << type << evaluation;
-    }
   }
 }
 
@@ -309,14 +89,16 @@ TEST_F(DataBoard, VelocityProfileType_Shows_As_Its_Option) {
 
 TEST_F(DataBoard, A_Two_Point_Profile_Over_Variable_Depth_Is_Asked_About) {
   Show_Board_Of(1);
-  for (const auto button : {QMessageBox::No, QMessageBox::Cancel}) {
+  for (const Reply& reply : {Press(QMessageBox::No), Press(QMessageBox::Cancel), Press_Escape()}) {
     c.Option3D1(0)->click();
     record.ConstantDepthFlag = 0;
-    Modal_Replies replies({Press(button)});
+    Modal_Replies replies({reply});
     c.Option3D1(1)->click();
     EXPECT_EQ(replies.seen.at(0).text, kTwoPointQuestion);
     EXPECT_EQ(replies.seen.at(0).title, "BARVON");
+    EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::NoIcon);
     EXPECT_EQ(replies.seen.at(0).buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Yes);
     EXPECT_EQ(record.VelocityProfileType, 3);
     EXPECT_EQ(record.ConstantDepthFlag, 0);
     EXPECT_FALSE(c.Check3D1->isEnabled());
@@ -368,6 +150,65 @@ TEST_F(DataBoard, JBFC_Shows_The_Moisture_Content) {
   EXPECT_TRUE(c.SSCheck4->isChecked());
 }
 
+TEST_F(DataBoard, Every_Line_Shows_The_Record) {
+  record.MMAX0 = 40, record.NMAX0 = 50;
+  record.DX0 = 100, record.DZ0 = 200;
+  record.DEPC0 = 62.5;
+  record.RHDA0 = 0.005;
+  record.SLOPEX0 = 1.25, record.SLOPEZ0 = 0.5;
+  record.NROA0 = 3;
+  record.SimulationDuration = 3600, record.LongTermTimeStep = 300;
+  record.PrintConvectiveDescent = 1;
+  record.NumPrintTimes = 4;
+  record.TotalVolume = 4000, record.NumSolids = 2, record.MoistureContent = 1.5;
+  record.SiteDensity = 1.02;
+  record.JBFCFlag = 1;
+  record.XBARGE = 1250.5, record.ZBARGE = 800;
+  record.XHOLE = 10;
+  Show_Board_Of(1);
+  const std::pair<const QLabel*, const char*> lines[] = {
+      {c.SiteLabel(0), "40 x 50 Grid Size"},
+      {c.SiteLabel(1), "100 x 200 Cell Spacing"},
+      {c.SiteLabel(2), "Water Depth is Constant at 62.50 Ft"},
+      {c.SiteLabel(3), "Roughness Height is .0050"},
+      {c.SiteLabel(4), "X-Dir Slope is 1.2500"},
+      {c.SiteLabel(5), "X-Dir Slope is .5000"},
+      {c.SiteLabel(6), "3 Points Used To Describe Density"},
+      {c.Label5(0), "Simulation Duration: 3600.0"},
+      {c.Label5(1), "Long Term Time Step: 300.0"},
+      {c.Matlabel(3), "Volume of Dredged Material: 4000.0 Cu. Yds."},
+      {c.Matlabel(4), "Number of Distinct Solids Fraction: 2"},
+      {c.Matlabel(5), "Moisture Content: 1.5"},
+      {c.Matlabel(6), "Dredging Site Water Density: 1.0200 g/cc"},
+      {c.Label6(0), "Vessel Type: Hopper Dredge"},
+      {c.Label6(1), "Location From Top: 1250.5 Ft"},
+      {c.Label6(2), "Location From Left: 800.0 Ft"}};
+  for (const auto& [label, text] : lines) {
+    EXPECT_EQ(label->text(), text);
+    EXPECT_TRUE(label->isVisible()) << text;
+  }
+  EXPECT_TRUE(c.SSCheck2(0)->isChecked());
+  EXPECT_FALSE(c.SSCheck2(1)->isChecked());
+  EXPECT_TRUE(c.SSCheck2(2)->isChecked());
+  EXPECT_TRUE(c.SSCheck3->isChecked());
+  // The barge has lines of its own, and no line of the moisture for more than one layer.
+  record.DisposalMethod = 3;
+  record.LAYERS = 4;
+  record.MoistureContent = 9;
+  Port().display_data();
+  EXPECT_EQ(c.Matlabel(3)->text(), "Number of Layers 4");
+  EXPECT_EQ(c.Matlabel(5)->text(), "Moisture Content: 1.5");
+  EXPECT_EQ(c.Matlabel(6)->text(), "Dredging Site Water Density: 1.02 grams/cc");
+  EXPECT_EQ(c.Label6(0)->text(), "Vessel Type: Barge or Scow");
+  // A continuous discharge leaves them as they are.
+  record.DisposalMethod = 2;
+  record.NumSolids = 4;
+  Port().display_data();
+  EXPECT_EQ(c.Matlabel(3)->text(), "Number of Layers 4");
+  EXPECT_EQ(c.Matlabel(4)->text(), "Number of Distinct Solids Fraction: 2");
+  EXPECT_TRUE(c.Matlabel(5)->isVisible());
+}
+
 TEST_F(DataBoard, Picture_Buttons_Open_Their_Screens_And_Come_Up_Again) {
   Show_Board_Of(1);
   const std::pair<int, const char*> screens[] = {{0, "frmDescription"},
@@ -390,6 +231,51 @@ TEST_F(DataBoard, Picture_Buttons_Open_Their_Screens_And_Come_Up_Again) {
   record.DisposalMethod = 3;
   c.SSRibbon1(2)->click();
   EXPECT_EQ(opened, Names{"frmMatBarge blocking"});
+}
+
+TEST_F(DataBoard, The_Two_Point_Question_Is_The_Chosen_Options_Alone) {
+  Show_Board_Of(1);
+  record.ConstantDepthFlag = 0;
+  Modal_Replies none({});
+  for (const int i : {0, 2, 3}) c.Option3D1(i)->click();
+  record.ConstantDepthFlag = 1;
+  c.Option3D1(1)->click();
+  EXPECT_FALSE(c.Check3D1->isEnabled());
+  EXPECT_EQ(record.VelocityProfileType, 3);
+}
+
+TEST_F(DataBoard, Option_Buttons_Do_Not_Block_Over_A_Screen_In_View_And_Refresh_All_The_Same) {
+  Show_Board_Of(2);
+  QWidget screen;
+  screen.setObjectName("frmOperation");
+  screen.show();
+  for (int i = 0; i < 3; ++i) {
+    record.ProjectTitle = "refreshed " + std::to_string(i);
+    Modal_Replies replies({Press(QMessageBox::Ok)});
+    c.SSPanel5(i)->click();
+    EXPECT_EQ(replies.seen.at(0).text,
+              "Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
+    EXPECT_EQ(c.Title_Box->text().toStdString(), record.ProjectTitle);
+  }
+  EXPECT_EQ(opened, Names{});
+  record.ShowMode = 0;
+  for (int i = 0; i < 3; ++i) c.SSPanel5(i)->click();
+  EXPECT_EQ(opened, (Names{"frmCoefficients", "frmMdlkyn", "frmSimulation"}));
+}
+
+TEST_F(DataBoard, A_Method_From_Code_Acts_Also_When_It_Is_Set_Already) {
+  Show_Board_Of(3);
+  for (const int method : {1, 0}) {
+    for (int again = 0; again < 2; ++again) {
+      record.KEY1 = record.KEY4 = record.PreviousDisposalMethod = record.DisposalMethod = 0;
+      SSOption2_Click(c, record, method);
+      EXPECT_EQ(record.DisposalMethod, method == 0 ? 1 : 3);
+      EXPECT_EQ(record.PreviousDisposalMethod, record.DisposalMethod);
+      EXPECT_EQ(record.KEY4, method == 0 ? 5 : 6);
+      EXPECT_EQ(record.KEY1, 1);
+      Expect_Blue(c.SSOption2, method);
+    }
+  }
 }
 
 TEST_F(DataBoard, Setting_An_Option_From_Code_Acts_Also_When_It_Is_Set_Already) {

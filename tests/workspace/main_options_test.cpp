@@ -3,8 +3,10 @@
 #include <QTest>
 
 #include "core/project_record.h"
+#include "core/screen_register.h"
 #include "core/workspace_port.h"
 #include "support/screen_support.h"
+#include "workspace/option_events.h"
 
 namespace barvon {
 namespace {
@@ -19,6 +21,30 @@ QColor Text_Colour(const QWidget* control) {
 
 void Click(QWidget* control) {
   QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(10, control->height() / 2));
+}
+
+TEST(MainOptions, Captions_Of_The_Main_Menu_Board_Stand_As_They_Are_Told) {
+  Main_Bench bench;
+  Main_Controls& c = bench.controls();
+  const std::pair<const QAbstractButton*, const char*> buttons[] = {
+      {c.SSOption1(0), "General Open Water Disposal Analysis"},
+      {c.SSOption1(1), "Section 103 Regulatory Analysis for Ocean Sites"},
+      {c.SSOption1(2), "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"},
+      {c.SSOption2(0), "Disposal from a Multiple Bin Hopper Dredge"},
+      {c.SSOption2(1), "Disposal from a Split-Hull Barge or Scow"},
+      {c.SSCheck1, "DataBase Used"}};
+  for (const auto& [button, caption] : buttons) EXPECT_EQ(button->text(), caption);
+  const std::pair<const QLabel*, const char*> labels[] = {{c.Label2(0), "Program Options"},
+                                                          {c.Label2(1), "Site Description"},
+                                                          {c.Label2(2), "Velocity Data"},
+                                                          {c.Label2(3), "Material Description"},
+                                                          {c.Label2(4), "Disposal Operation"},
+                                                          {c.Label2(5), "Coefficients"},
+                                                          {c.Label3(0), "Site: NONE"},
+                                                          {c.Label3(1), "Month: NONE"},
+                                                          {c.Label3(2), "Material Location: NONE"},
+                                                          {c.Label3(3), "Disposal Vessel: NONE"}};
+  for (const auto& [label, text] : labels) EXPECT_EQ(label->text(), text);
 }
 
 TEST(MainOptions, Every_Pair_Of_Choices_Gives_Its_KEY4) {
@@ -59,6 +85,43 @@ TEST(MainOptions, The_Chosen_Option_Is_Blue) {
                 QColor(i == chosen ? "#0000ff" : "#000000"));
     }
   }
+}
+
+TEST(MainOptions, The_Chosen_Method_Is_Blue) {
+  Main_Bench bench;
+  Click(bench.controls().SSOption1(0));
+  for (const int chosen : {1, 0}) {
+    Click(bench.controls().SSOption2(chosen));
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(Text_Colour(bench.controls().SSOption2(i)),
+                QColor(i == chosen ? "#0000ff" : "#000000"));
+    }
+  }
+}
+
+TEST(MainOptions, A_Type_From_Code_Opens_A_Board_That_Is_Closed) {
+  Main_Bench bench;
+  bench.controls().Frame3D1->setEnabled(false);
+  SSOption1_Click(bench.controls(), Project(), 2);
+  EXPECT_TRUE(bench.controls().Frame3D1->isEnabled());
+  EXPECT_TRUE(bench.controls().MethodFrame->isEnabled());
+  EXPECT_TRUE(bench.controls().SSOption1(2)->isChecked());
+}
+
+// Only screens that accept data and saves move it.
+TEST(MainOptions, Choices_And_The_Title_Leave_DataSaved_As_It_Is) {
+  Main_Bench bench;
+  Project().DataSaved = kTrue;
+  Click(bench.controls().SSOption1(1));
+  Click(bench.controls().SSOption2(1));
+  QTest::keyClicks(bench.controls().Title_Box, "x");
+  bench.controls().SSPanel3(0)->click();
+  bench.controls().SSOption3(0)->click();
+  bench.controls().SSOption3(1)->click();
+  bench.controls().SSOption4(2)->click();
+  bench.controls().Option3D1(2)->click();
+  bench.controls().SSCheck4->click();
+  EXPECT_EQ(Project().DataSaved, kTrue);
 }
 
 TEST(MainOptions, The_Keyboard_Chooses_Too) {
@@ -152,7 +215,16 @@ TEST(MainOptions, A_Velocity_Option_Can_Be_Painted_Without_Being_Chosen) {
 TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {
   Main_Bench bench;
   Click(bench.controls().SSOption1(1));
+  Project().ShowMode = 0;  // the calculator blocks all the same
+  int opened = 0;
+  Register_Screen("frmDilute2", [&](bool blocking, const std::string&) {
+    opened += blocking && bench.controls().SSRibbon2(3)->isChecked() ? 1 : 100;
+    EXPECT_EQ(Project().KEY4, 7);
+    EXPECT_FALSE(bench.Action("mnuRun")->isEnabled());
+  });
   bench.controls().SSRibbon2(3)->click();
+  Register_Screen("frmDilute2", {});
+  EXPECT_EQ(opened, 1);
   EXPECT_EQ(Project().FileKind, 1);
   EXPECT_EQ(Project().KEY4, 7);
   EXPECT_FALSE(bench.controls().SSRibbon2(3)->isChecked());
@@ -174,6 +246,8 @@ TEST(MainOptions, The_Database_Picture_Always_Answers_With_The_Unavailable_Box) 
   EXPECT_EQ(replies.seen.at(0).text, "This Feature is Unavailable at This Time.");
   EXPECT_EQ(replies.seen.at(0).title, "BARVON");
   EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::Warning);
+  EXPECT_EQ(replies.seen.at(0).buttons, QMessageBox::Ok);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::Ok);
   EXPECT_FALSE(bench.controls().SSRibbon1(4)->isChecked());
 }
 

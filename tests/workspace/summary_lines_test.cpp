@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 #include "core/project_defaults.h"
 
@@ -44,6 +45,59 @@ TEST_F(SummaryLines, The_Line_Of_The_Z_Slope_Says_X_Dir) {
   const auto lines = Compose_Summary(*record).SiteLabel;
   EXPECT_EQ(lines[4], "X-Dir Slope is 1.5000");
   EXPECT_EQ(lines[5], "X-Dir Slope is .2500");
+}
+
+TEST_F(SummaryLines, Nothing_Prints_As_Nothing_Where_A_Digit_Is_Optional) {
+  record->MMAX0 = record->NMAX0 = record->NROA0 = record->NumSolids = 0;
+  record->DZ0 = 0.4;  // given, but nothing is left of it
+  record->DEPC0 = 0;
+  record->TotalVolume = record->XBARGE = record->ZBARGE = 0;
+  record->SimulationDuration = record->LongTermTimeStep = 0;
+  Summary_Lines lines = Compose_Summary(*record);
+  EXPECT_EQ(lines.SiteLabel[0], " x  Grid Size");
+  EXPECT_EQ(lines.SiteLabel[1], " x  Cell Spacing");
+  EXPECT_EQ(lines.SiteLabel[2], "Water Depth is Constant at 0.00 Ft");
+  EXPECT_EQ(lines.SiteLabel[4], "X-Dir Slope is .0000");
+  EXPECT_EQ(lines.SiteLabel[5], "X-Dir Slope is .0000");
+  EXPECT_EQ(lines.SiteLabel[6], " Points Used To Describe Density");
+  EXPECT_EQ(lines.Label5[0], "Simulation Duration: .0");
+  EXPECT_EQ(lines.Label5[1], "Long Term Time Step: .0");
+  EXPECT_EQ(lines.Matlabel3, "Volume of Dredged Material: .0 Cu. Yds.");
+  EXPECT_EQ(lines.Matlabel4, "Number of Distinct Solids Fraction: ");
+  EXPECT_EQ(lines.Matlabel5, "Moisture Content: .0");
+  EXPECT_EQ(lines.Label6[1], "Location From Top: .0 Ft");
+  EXPECT_EQ(lines.Label6[2], "Location From Left: .0 Ft");
+  record->DisposalMethod = 3;
+  record->LAYERS = 0;
+  record->SiteDensity = 0.972;
+  lines = Compose_Summary(*record);
+  EXPECT_EQ(lines.Matlabel3, "Number of Layers ");
+  EXPECT_EQ(lines.Matlabel6, "Dredging Site Water Density: .97 grams/cc");
+}
+
+TEST_F(SummaryLines, Numbers_Longer_Than_Their_Pattern_Are_Shown_Whole_And_Rounded) {
+  record->DX0 = 12345.5;
+  record->DZ0 = 99.4;
+  record->SLOPEX0 = -2.00006;
+  record->RHDA0 = 0.00004;  // given, but nothing is left of it
+  const auto lines = Compose_Summary(*record).SiteLabel;
+  EXPECT_EQ(lines[1], "12346 x 99 Cell Spacing");
+  EXPECT_EQ(lines[3], "Roughness Height is .0000");
+  EXPECT_EQ(lines[4], "X-Dir Slope is -2.0001");
+}
+
+TEST_F(SummaryLines, The_Spacing_Along_Z_Alone_Is_Shown_Too) {
+  record->DZ0 = 250;
+  EXPECT_EQ(Compose_Summary(*record).SiteLabel[1], " x 250 Cell Spacing");
+}
+
+TEST_F(SummaryLines, Only_A_1_Ticks_What_Is_Printed_And_Any_Count_The_Print_Times) {
+  for (const std::int16_t flag : {-1, 0, 1, 2}) {
+    record->PrintConvectiveDescent = record->PrintCollapse = record->NumPrintTimes = flag;
+    EXPECT_EQ(Compose_Summary(*record).SSCheck2,
+              (std::array<bool, 3>{flag == 1, flag == 1, flag >= 1}))
+        << flag;
+  }
 }
 
 TEST_F(SummaryLines, Output_Options) {
@@ -92,6 +146,24 @@ TEST_F(SummaryLines, A_Continuous_Discharge_Leaves_The_Material_Lines_As_They_Ar
   record->DisposalMethod = 2;
   const Summary_Lines lines = Compose_Summary(*record);
   EXPECT_FALSE(lines.Matlabel3 || lines.Matlabel4 || lines.Matlabel5 || lines.Matlabel6);
+}
+
+TEST_F(SummaryLines, A_Depression_Is_Told_By_Its_Lengths_And_Not_By_Its_Depth) {
+  const std::tuple<double, double, bool> rows[] = {
+      {0, 0, false}, {1, 0, true}, {0, 1, true}, {-1, 0, false}, {-1, 1, true}};
+  record->DHOLE = 10;
+  for (const auto& [x, z, shown] : rows) {
+    record->XHOLE = x;
+    record->ZHOLE = z;
+    EXPECT_EQ(Compose_Summary(*record).SSCheck3, shown) << x << ' ' << z;
+  }
+}
+
+TEST_F(SummaryLines, Every_Vessel_But_The_Barge_Is_Called_A_Hopper_Dredge) {
+  for (const std::int16_t method : {0, 1, 2, 4}) {
+    record->DisposalMethod = method;
+    EXPECT_EQ(Compose_Summary(*record).Label6[0], "Vessel Type: Hopper Dredge");
+  }
 }
 
 TEST_F(SummaryLines, Disposal_Operation) {

@@ -1,5 +1,8 @@
 #include "platform/qt/qt_document_opener.h"
 
+#include <unistd.h>
+
+#include <QApplication>
 #include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
@@ -21,28 +24,45 @@ bool Has_Program_For(const QString& query, const QString& kind) {
          !process.readAllStandardOutput().trimmed().isEmpty();
 }
 
-/// The desktop starts its own program: it outlives this one and is not waited for.
+bool Open_In_Own_Window(const QString& path) {
+  auto* window = new Text_Window(Window_In_Front());
+  if (!window->Load(path.toStdString())) {
+    delete window;
+    return false;
+  }
+  window->show();
+  return true;
+}
+
+/// The desktop starts its own program: it outlives this one and is not waited for. An association
+/// may name a program that is gone, which only the opener's end tells.
 bool Open_By_Desktop(const QString& path) {
   const QString opener = QStandardPaths::findExecutable("xdg-open");
   const QString query = QStandardPaths::findExecutable("xdg-mime");
   if (opener.isEmpty() || query.isEmpty()) return false;
   const QString kind = QMimeDatabase().mimeTypeForFile(path).name();
   if (!Has_Program_For(query, kind) && !Has_Program_For(query, "text/plain")) return false;
-  return QProcess::startDetached(opener, {path});
+  auto* process = new QProcess(qApp);
+  process->setStandardInputFile(QProcess::nullDevice());
+  process->setStandardOutputFile(QProcess::nullDevice());
+  process->setStandardErrorFile(QProcess::nullDevice());
+  process->setChildProcessModifier([] { ::setsid(); });
+  QObject::connect(process, &QProcess::finished, qApp,
+                   [process, path](int code, QProcess::ExitStatus status) {
+                     if (code != 0 || status != QProcess::NormalExit) Open_In_Own_Window(path);
+                     process->deleteLater();
+                   });
+  process->start(opener, {path});
+  if (process->waitForStarted()) return true;
+  delete process;
+  return false;
 }
 
 }  // namespace
 
 bool Open_Qt_Document(const std::string& path) {
   const QString name = QString::fromStdString(path);
-  if (Open_By_Desktop(name)) return true;
-  auto* window = new Text_Window(Window_In_Front());
-  if (!window->Load(path)) {
-    delete window;
-    return false;
-  }
-  window->show();
-  return true;
+  return Open_By_Desktop(name) || Open_In_Own_Window(name);
 }
 
 }  // namespace barvon

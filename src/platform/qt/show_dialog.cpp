@@ -6,6 +6,8 @@ namespace barvon {
 
 void Show_Dialog(QDialog& dialog, bool blocking) {
   if (blocking) {
+    // A window in view does not begin to block: it comes up anew.
+    if (!dialog.isModal()) dialog.hide();
     dialog.exec();
     return;
   }
