@@ -17,7 +17,17 @@ std::int16_t Analysis_Type_Of_KEY4(std::int16_t key4) {
   return key4 >= 1 && key4 <= 6 ? static_cast<std::int16_t>((key4 + 1) / 2) : std::int16_t{0};
 }
 
+std::optional<std::int16_t> KEY4_Of_Evaluation(std::int16_t key3, std::int16_t disposal_method) {
+  if (key3 < 0 || key3 > 7) return std::nullopt;
+  if (disposal_method != kHopper && disposal_method != kBarge) return std::nullopt;
+  const int hopper = key3 <= 1 ? 1 : key3 <= 4 ? 3 : 5;
+  return static_cast<std::int16_t>(disposal_method == kHopper ? hopper : hopper + 1);
+}
+
 void Refresh_Record(ProjectRecord& record) {
+  if (record.LegacyKeyRebuild) {
+    record.KEY4 = KEY4_Of_Evaluation(record.KEY3, record.DisposalMethod).value_or(record.KEY4);
+  }
   if (const std::int16_t type = Analysis_Type_Of_KEY4(record.KEY4); type != 0) {
     record.AnalysisType = type;
     record.FileKind = kModelInputProject;

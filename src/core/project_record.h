@@ -59,6 +59,7 @@ struct ProjectRecord {
   Flag AlwaysSaveBeforeRun = kFalse;
   Flag WizardAtStart = kFalse;
   Flag WizardActive = kFalse;
+  Flag LegacyKeyRebuild = kFalse;  // a refresh rebuilds KEY4; no command sets it
   Flag WizardAccepted = kFalse;
   Flag OutputsCopied = kFalse;
   int HelpContextToShow = 0;

@@ -93,6 +93,7 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::AlwaysSaveBeforeRun>("AlwaysSaveBeforeRun"),
     Field_Of<&ProjectRecord::WizardAtStart>("WizardAtStart"),
     Field_Of<&ProjectRecord::WizardActive>("WizardActive"),
+    Field_Of<&ProjectRecord::LegacyKeyRebuild>("LegacyKeyRebuild"),
     Field_Of<&ProjectRecord::WizardAccepted>("WizardAccepted"),
     Field_Of<&ProjectRecord::OutputsCopied>("OutputsCopied"),
     Field_Of<&ProjectRecord::HelpContextToShow>("HelpContextToShow"),

@@ -37,6 +37,33 @@ TEST_F(AnalysisKeys, KEY4_Stands_For_A_Type_Of_Analysis) {
   EXPECT_EQ(Analysis_Type_Of_KEY4(-1), 0);
 }
 
+TEST_F(AnalysisKeys, KEY4_Of_An_Evaluation_Follows_The_Group_Of_KEY3_And_The_Method) {
+  const std::int16_t hopper[] = {1, 1, 3, 3, 3, 5, 5, 5};
+  for (std::int16_t key3 = 0; key3 <= 7; ++key3) {
+    EXPECT_EQ(KEY4_Of_Evaluation(key3, 1), hopper[key3]) << key3;
+    EXPECT_EQ(KEY4_Of_Evaluation(key3, 3), hopper[key3] + 1) << key3;
+    EXPECT_EQ(KEY4_Of_Evaluation(key3, 2), std::nullopt) << key3;
+  }
+  EXPECT_EQ(KEY4_Of_Evaluation(-1, 1), std::nullopt);
+  EXPECT_EQ(KEY4_Of_Evaluation(8, 1), std::nullopt);
+}
+
+TEST_F(AnalysisKeys, A_Refresh_Rebuilds_KEY4_Only_While_The_Legacy_Flag_Is_On) {
+  record_.KEY3 = 3;
+  record_.DisposalMethod = 3;
+  record_.KEY4 = 0;
+  Refresh_Record(record_);
+  EXPECT_EQ(record_.KEY4, 0);
+  record_.LegacyKeyRebuild = kTrue;
+  Refresh_Record(record_);
+  EXPECT_EQ(record_.KEY4, 4);
+  EXPECT_EQ(record_.AnalysisType, 2);
+  record_.DisposalMethod = 2;
+  record_.KEY4 = 1;
+  Refresh_Record(record_);
+  EXPECT_EQ(record_.KEY4, 1);
+}
+
 TEST_F(AnalysisKeys, A_KEY4_That_Chooses_A_Type_Sets_It_And_Makes_A_Model_Input_Project) {
   record_.FileKind = 1;
   record_.KEY4 = 6;
