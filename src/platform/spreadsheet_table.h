@@ -142,7 +142,7 @@ class Spreadsheet_Table {
   // Widths are in 1/256 of a digit's width, heights in twips (1/1440 inch). 0 is what fits the
   // headings; a heading is never cut, so nothing gets narrower or lower than that.
   static constexpr int kAutoWidth = -1;
-  /// kAutoWidth: what fits headings and cells, anew whenever they change.
+  /// kAutoWidth: what fits headings and, up to 60 digits, cells, anew whenever they change.
   int ColWidth(int col) const;
   void ColWidth(int col, int width);
   /// Every column gets that width, those that a later MaxCol adds too.

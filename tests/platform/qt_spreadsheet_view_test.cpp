@@ -10,7 +10,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "core/book_numbers.h"
@@ -208,6 +210,71 @@ TEST_F(SpreadsheetView, A_Mnemonic_Ends_Typing_Before_The_Button_Acts) {
   EXPECT_EQ(edits, std::vector<std::string>{"B2"});
 }
 
+TEST_F(SpreadsheetView, A_Button_That_Takes_No_Focus_Finds_What_Is_Typed) {
+  auto* picture = new QToolButton;
+  screen.layout()->addWidget(picture);
+  QCoreApplication::processEvents();
+  QObject::connect(picture, &QToolButton::clicked, &screen, [this] { read_on_ok = cells(); });
+  Start_At(2, 2);
+  Type_In("4");
+  QTest::mouseClick(picture, Qt::LeftButton);
+  EXPECT_EQ(read_on_ok, ",,/,4,/,,/,,/");
+  EXPECT_TRUE(book->hasFocus());
+}
+
+TEST_F(SpreadsheetView, A_Press_In_The_Open_Cell_Goes_On_With_The_Typing) {
+  Start_At(2, 2);
+  Type_In("45");
+  QTest::mouseClick(Editor(), Qt::LeftButton, {}, {1, Editor()->height() / 2});
+  ASSERT_TRUE(Is_Editing());
+  EXPECT_EQ(Editor()->cursorPosition(), 0);
+  EXPECT_TRUE(edits.empty());
+}
+
+TEST_F(SpreadsheetView, A_Change_Of_Tab_Finds_What_Is_Typed) {
+  QDialog two_tabs;
+  auto* tabs = new QTabWidget(&two_tabs);
+  tabs->addTab(book, QStringLiteral("&One"));
+  tabs->addTab(new QLineEdit, QStringLiteral("&Two"));
+  two_tabs.resize(500, 400);
+  tabs->resize(two_tabs.size());
+  two_tabs.show();
+  two_tabs.activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&two_tabs));
+  QObject::connect(tabs, &QTabWidget::currentChanged, &screen, [this] { read_on_ok = cells(); });
+  for (const int way : {0, 1, 2}) {
+    tabs->setCurrentIndex(0);
+    table().ClearAll();
+    Start_At(2, 2);
+    Type_In("4");
+    QTabBar* bar = tabs->tabBar();
+    if (way == 0) QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
+    if (way == 1) Key(Qt::Key_T, Qt::AltModifier);
+    if (way == 2) tabs->setCurrentIndex(1);
+    ASSERT_TRUE(Wait_Until([&] { return tabs->currentIndex() == 1; }));
+    EXPECT_EQ(read_on_ok, ",,/,4,/,,/,,/") << way;
+    EXPECT_EQ(cursor(), "B2") << way;
+  }
+}
+
+TEST_F(SpreadsheetView, A_Hidden_Or_Disabled_Table_Passes_The_Focus_On_And_Keeps_Its_Cursor) {
+  for (const bool typing : {false, true}) {
+    for (void (*put_away)(QWidget*, bool) :
+         {+[](QWidget*table, bool away) { table->setHidden(away); },
+          +[](QWidget*table, bool away) { table->setDisabled(away); }}) {
+      table().ClearAll();
+      Start_At(2, 2);
+      if (typing) Type_In("4");
+      put_away(book, true);
+      EXPECT_FALSE(book->hasFocus());
+      EXPECT_FALSE(Is_Editing());
+      EXPECT_EQ(cursor(), "B2");
+      EXPECT_EQ(table().TextRC(2, 2), typing ? "4" : "");
+      put_away(book, false);
+    }
+  }
+}
+
 TEST_F(SpreadsheetView, What_The_Files_Can_Not_Hold_Stays_Out_Of_A_Cell) {
   Start_At(1, 1);
   Type_In("1");
@@ -265,6 +332,30 @@ TEST_F(SpreadsheetView, An_Edit_May_Be_Answered_By_Building_The_Table_Anew) {
   EXPECT_EQ(cursor(), "C2");
   EXPECT_TRUE(book->hasFocus());
   EXPECT_EQ(table().TextRC(2, 2), "4");
+}
+
+TEST_F(SpreadsheetView, A_Cursor_That_Code_Moves_Ends_Typing_And_May_Be_Moved_Again) {
+  QObject::connect(book, &F1Book::Edited, &screen, [this] {
+    EXPECT_EQ(cursor(), "C4");
+    table().SetActiveCell(1, 1);
+  });
+  Start_At(2, 2);
+  Type_In("4");
+  table().SetActiveCell(4, 3);
+  EXPECT_EQ(edits, std::vector<std::string>{"B2"});
+  EXPECT_EQ(table().TextRC(2, 2), "4");
+  EXPECT_EQ(cursor(), "A1");
+  EXPECT_EQ(book->currentIndex(), book->model()->index(0, 0));
+}
+
+TEST_F(SpreadsheetView, A_Page_Key_Ends_Typing_And_Moves_Though_The_Table_Is_Built_Anew) {
+  QObject::connect(book, &F1Book::Edited, &screen, [this] { table().MaxRow(3); });
+  Start_At(2, 2);
+  Type_In("4");
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(table().TextRC(2, 2), "4");
+  EXPECT_EQ(cursor(), "B3");
+  EXPECT_EQ(book->currentIndex(), book->model()->index(2, 1));
 }
 
 TEST_F(SpreadsheetView, An_Edit_May_Be_Answered_By_A_Message_Box) {
@@ -362,6 +453,22 @@ TEST_F(SpreadsheetView, Shift_Selects_From_Where_Typing_Left_The_Cursor) {
   EXPECT_EQ(table().Selection(), "B2:C3");
 }
 
+TEST_F(SpreadsheetView, Control_And_Shift_Select_To_The_Corners) {
+  Start_At(2, 2);
+  Key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(table().Selection(), "B2:C4");
+  Start_At(2, 2);
+  Key(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(table().Selection(), "A1:B2");
+}
+
+TEST_F(SpreadsheetView, A_Click_Beside_The_Cells_Leaves_The_Cursor_In_Sight) {
+  Start_At(2, 2);
+  QTest::mouseClick(book->viewport(), Qt::LeftButton, {}, Place(4, 3) + QPoint(0, 60));
+  EXPECT_EQ(cursor(), "B2");
+  EXPECT_TRUE(book->selectionModel()->isSelected(book->currentIndex()));
+}
+
 TEST_F(SpreadsheetView, A_Drag_A_Shift_Click_And_A_Heading_Select_A_Range) {
   QTest::mousePress(book->viewport(), Qt::LeftButton, {}, Place(1, 1));
   QTest::mouseMove(book->viewport(), Place(2, 2));
@@ -448,6 +555,15 @@ TEST_F(SpreadsheetView, A_Block_From_A_Spreadsheet_Is_Pasted_And_Selected) {
   EXPECT_EQ(edits, std::vector<std::string>{"B2:C3"});
 }
 
+TEST_F(SpreadsheetView, A_Pasted_Minus_Sign_Of_A_Document_Keeps_The_Number_Negative) {
+  Set_Clipboard(
+      "\xE2\x88\x92"
+      "1.5");
+  Start_At(2, 2);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(table().NumberRC(2, 2), -1.5);
+}
+
 TEST_F(SpreadsheetView, A_Paste_That_Does_Not_Fit_Is_Refused_In_Words) {
   Scripted_Messages messages({Answer::Ok});
   Set_Clipboard("1\t2\n3\t4\n");
@@ -478,6 +594,10 @@ TEST_F(SpreadsheetView, Delete_Clears_The_Selection) {
   EXPECT_EQ(edits, std::vector<std::string>{"B2:B3"});
   Key(Qt::Key_Delete);
   EXPECT_EQ(edits.size(), 1U) << "nothing left to clear";
+  ASSERT_TRUE(table().Selection("B1"));
+  Key(Qt::Key_Delete, Qt::KeypadModifier);
+  EXPECT_EQ(cells(), ",,/,,/,,/,4,/");
+  EXPECT_FALSE(Is_Editing());
 }
 
 // Undo
@@ -764,6 +884,13 @@ TEST_F(SpreadsheetView, An_Automatic_Width_Follows_What_Stands_In_The_Column) {
   EXPECT_EQ(book->columnWidth(1), narrow);
 }
 
+TEST_F(SpreadsheetView, An_Automatic_Width_Leaves_The_Other_Columns_In_Sight) {
+  table().AutoColWidth();
+  table().TextRC(4, 2, std::string(10000, 'x'));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(book->columnWidth(1), 60 * book->fontMetrics().horizontalAdvance('0'));
+}
+
 TEST_F(SpreadsheetView, A_Column_That_The_User_Dragged_Keeps_Its_Width) {
   book->setColumnWidth(1, 222);
   table().ColWidth(3, 3000);
@@ -778,6 +905,16 @@ TEST_F(SpreadsheetView, Cells_With_A_Larger_Font_Are_Not_Cut) {
   const QFont font = Data(1, 1, Qt::FontRole).value<QFont>();
   EXPECT_EQ(font.pointSize(), 30);
   EXPECT_GE(book->rowHeight(0), QFontMetrics(font).height());
+}
+
+TEST_F(SpreadsheetView, No_Font_Of_A_Cell_Is_Smaller_Than_The_Users_Own) {
+  const QFont usual = QApplication::font("QTableView");
+  QFont large = usual;
+  large.setPointSize(24);
+  QApplication::setFont(large, "QTableView");
+  table().Font({1, 1, 4, 3}, "ariel", 10);
+  EXPECT_EQ(Data(1, 1, Qt::FontRole).value<QFont>().pointSize(), 24);
+  QApplication::setFont(usual, "QTableView");
 }
 
 TEST_F(SpreadsheetView, A_Large_Table_Is_Filled_With_One_Reset_And_Keeps_Its_Place) {

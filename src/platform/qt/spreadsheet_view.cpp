@@ -133,6 +133,8 @@ void F1Book::contextMenuEvent(QContextMenuEvent* event) {
 
 void F1Book::Show_Cursor() {
   if (following_) return;
+  // Who answers the edit may move the cursor once more.
+  if (currentIndex() != model_->index(table_.Row() - 1, table_.Col() - 1)) FinishEdit();
   const QScopedValueRollback following(following_, true);
   const QModelIndex current = model_->index(table_.Row() - 1, table_.Col() - 1);
   const Cell_Range& range = table_.SelectedRange();
@@ -161,6 +163,8 @@ void F1Book::Take_Cursor() {
     table_.SetActiveCell(current.row() + 1, current.column() + 1);
     table_.SelectRange(range);
   }
+  // A click beside the cells selects nothing; the cursor stays in sight.
+  if (selectionModel()->selection().isEmpty()) Show_Cursor();
   Tell_Cursor();
 }
 
@@ -222,12 +226,11 @@ void F1Book::Move(Book_Move move) {
   }
 }
 
-bool F1Book::focusNextPrevChild(bool next) {
-  Move(next ? Book_Move::Next : Book_Move::Previous);
-  return true;
-}
-
 void F1Book::keyPressEvent(QKeyEvent* event) {
+  // Of the keys that the editor of a cell passes on, these leave the cell.
+  const bool leaves = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown ||
+                      event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+  if (leaves) FinishEdit();
   if (const Book_Command command = Command_Of(*event); command != Book_Command::None) {
     Run(command);
     return;
@@ -246,7 +249,28 @@ bool F1Book::event(QEvent* event) {
     event->accept();
     return true;
   }
+  // Tab is taken here and not where the toolkit moves the focus on: a table that is hidden or
+  // disabled must pass the focus on from any cell.
+  if (event->type() == QEvent::KeyPress) {
+    const Book_Move move = Move_Of(*static_cast<QKeyEvent*>(event));
+    if (move == Book_Move::Next || move == Book_Move::Previous) {
+      Move(move);
+      return true;
+    }
+  }
   return QTableView::event(event);
+}
+
+QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& index,
+                                                             const QEvent* event) const {
+  // The toolkit's own gives up selecting when Ctrl is down too, as in Ctrl+Shift+End.
+  if (event != nullptr && event->type() == QEvent::KeyPress) {
+    const auto held = static_cast<const QKeyEvent*>(event)->modifiers();
+    if (held.testFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
 }
 
 void F1Book::focusInEvent(QFocusEvent* event) {
@@ -302,9 +326,13 @@ void F1Book::FinishEdit() {
 }
 
 bool F1Book::eventFilter(QObject* object, QEvent* event) {
-  // A mnemonic of the screen, Alt+O for OK, leaves the focus in the cell: what is typed there must
-  // be in the table before the button acts.
+  // A mnemonic of the screen, Alt+O for OK, leaves the focus in the cell, and so does a click on
+  // a button that takes none: what is typed there must be in the table before the button acts.
   if (event->type() == QEvent::Shortcut) FinishEdit();
+  if (event->type() == QEvent::MouseButtonPress && object->isWidgetType()) {
+    const auto* pressed = static_cast<QWidget*>(object);
+    if (pressed->window() == window() && pressed != this && !isAncestorOf(pressed)) FinishEdit();
+  }
   return QTableView::eventFilter(object, event);
 }
 
