@@ -206,8 +206,12 @@ Failure Store_Image(const Project_Image& image, const Given_Marks& given, Projec
     // The short layout fills only a corner of the grids; nothing of an earlier project stays
     // beside it.
     record.DepthGrid = {};
-    // Shown in every cell, it would hide the depths that were read.
+    // The file holds neither the one depth of the grid nor the water behind computed densities:
+    // those of an earlier project would replace the depths and densities that were read.
     record.DEPTHI = 0;
+    record.DensityComputeFlag = 0;
+    record.DensitySalinities = {};
+    record.DensityTemperatures = {};
     record.VelocityFieldX = {};
     record.VelocityFieldZ = {};
     // A constant of the project before must not stand in for the fields that are read now.

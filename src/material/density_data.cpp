@@ -68,7 +68,8 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
     if (!computed) {
       Refuse("The formula has no result for a salinity of " + Plain_Number(salinity) +
              " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n");
-      return kTemperature;
+      // Where fresh water of that temperature has a density, the salinity is at fault.
+      return AMDEN(0, temperature, 0) ? kSalinity : kTemperature;
     }
     density = *computed;
   }

@@ -61,9 +61,9 @@ Edit_Outcome Clear_Cells(Spreadsheet_Table& table, const Cell_Range& range) {
 Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                          const Text_Block& cells) {
   const std::optional<Cell_Range> target = In_Table(table, range);
-  if (!target || cells.empty() || cells[0].empty()) return {};
   const std::size_t rows = cells.size();
-  const std::size_t cols = cells[0].size();
+  const std::size_t cols = Width_Of(cells);
+  if (!target || cols == 0) return {};
   if (rows == 1 && cols == 1) {
     return Write(table, *target, [&](int, int) -> const std::string& { return cells[0][0]; });
   }
@@ -76,8 +76,11 @@ Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
   }
   const Cell_Range written{target->row1, target->col1, target->row1 + static_cast<int>(rows) - 1,
                            target->col1 + static_cast<int>(cols) - 1};
+  const std::string empty;
   return Write(table, written, [&](int row, int col) -> const std::string& {
-    return cells[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
+    const auto& texts = cells[static_cast<std::size_t>(row)];
+    const auto at = static_cast<std::size_t>(col);
+    return at < texts.size() ? texts[at] : empty;
   });
 }
 

@@ -60,6 +60,7 @@ class Spreadsheet_Table {
  public:
   static constexpr int kSheetRows = 1024;
   static constexpr int kSheetCols = 256;
+  static constexpr Cell_Range kSheet{1, 1, kSheetRows, kSheetCols};
 
   explicit Spreadsheet_Table(const Cell_Numbers& numbers) : numbers_(numbers) {}
   Spreadsheet_Table(const Spreadsheet_Table&) = delete;
@@ -142,7 +143,7 @@ class Spreadsheet_Table {
   // Widths are in 1/256 of a digit's width, heights in twips (1/1440 inch). 0 is what fits the
   // headings; a heading is never cut, so nothing gets narrower or lower than that.
   static constexpr int kAutoWidth = -1;
-  /// kAutoWidth: what fits headings and cells, anew whenever they change.
+  /// kAutoWidth: what fits headings and, up to 60 digits, cells, anew whenever they change.
   int ColWidth(int col) const;
   void ColWidth(int col, int width);
   /// Every column gets that width, those that a later MaxCol adds too.
@@ -192,6 +193,7 @@ class Spreadsheet_Table {
   };
   using Step = std::vector<Saved_Cell>;
 
+  static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
   const Cell& At(int row, int col) const;
   Cell& Reach(int row, int col);
   template <class Change>

@@ -48,6 +48,12 @@ std::string Quoted(const std::string& cell) {
 
 }  // namespace
 
+std::size_t Width_Of(const Text_Block& cells) {
+  std::size_t widest = 0;
+  for (const auto& row : cells) widest = std::max(widest, row.size());
+  return widest;
+}
+
 Text_Block Read_Tab_Text(std::string_view text) {
   Text_Block cells(1);
   std::size_t at = 0;
@@ -60,9 +66,6 @@ Text_Block Read_Tab_Text(std::string_view text) {
     if (at >= text.size()) break;
     cells.emplace_back();
   }
-  std::size_t widest = 0;
-  for (const auto& row : cells) widest = std::max(widest, row.size());
-  for (auto& row : cells) row.resize(widest);
   return cells;
 }
 

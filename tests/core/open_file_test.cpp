@@ -111,6 +111,17 @@ TEST_F(OpenFile, The_One_Depth_Of_The_Earlier_Projects_Grid_Does_Not_Hide_The_Lo
   EXPECT_EQ(record_.DEPTHI, 0);
 }
 
+TEST_F(OpenFile, The_Water_Of_The_Earlier_Project_Does_Not_Replace_The_Loaded_Densities) {
+  Scripted_Messages messages;
+  record_.DensityComputeFlag = kTrue;
+  record_.DensitySalinities[1] = record_.DensityTemperatures[5] = 30;
+  Write_Text(folder_ / "site.dui", Project_Bytes("site"));
+  EXPECT_TRUE(Open_File(folder_ / "site.dui", record_));
+  EXPECT_EQ(record_.DensityComputeFlag, kFalse);
+  EXPECT_EQ(record_.DensitySalinities[1], 0);
+  EXPECT_EQ(record_.DensityTemperatures[5], 0);
+}
+
 TEST_F(OpenFile, An_Upper_Or_Lower_Case_Extension_Is_Treated_Alike) {
   Scripted_Messages messages;
   for (const char* name : {"a.dui", "b.DUI", "c.Dui"}) {

@@ -239,13 +239,16 @@ TEST_F(DensityData, A_Long_Text_Is_Shortened_In_The_Message) {
                      "No density has been computed.");
 }
 
-TEST_F(DensityData, Compute_Refuses_Water_For_Which_The_Formula_Breaks_Down) {
+TEST_F(DensityData, Compute_Refuses_Water_Without_A_Density_And_Leads_To_What_Is_At_Fault) {
   Expect_Refused("35", "-67.26", 1,
                  "The formula has no result for a salinity of 35 ppt and a temperature of -67.26 "
                  "deg C.\nNo density has been computed.");
-  Expect_Refused("1e300", "10", 1,
+  Expect_Refused("1e300", "10", 0,
                  "The formula has no result for a salinity of 1E+300 ppt and a temperature of 10 "
                  "deg C.\nNo density has been computed.");
+  Expect_Refused("1e300", "-67.26", 1,
+                 "The formula has no result for a salinity of 1E+300 ppt and a temperature of "
+                 "-67.26 deg C.\nNo density has been computed.");
 }
 
 TEST_F(DensityData, With_The_Box_Off_No_Water_Is_Refused) {

@@ -38,6 +38,12 @@ TEST(EncodingValidator, A_Pasted_Text_Goes_In_Without_The_Characters_That_Do_Not
   EXPECT_EQ(field.cursorPosition(), 4);
 }
 
+TEST(EncodingValidator, A_Typographic_Minus_Sign_Is_A_Minus_Sign) {
+  Field field;
+  testing::Type(&field, QString::fromUtf8("\u22121.5e\u22123"));
+  EXPECT_EQ(field.text(), "-1.5e-3");
+}
+
 TEST(EncodingValidator, A_Letter_With_Its_Accent_Behind_It_Becomes_One_Character) {
   Field field;
   field.setText(QString::fromUtf8("De\u0301po\u0302t"));

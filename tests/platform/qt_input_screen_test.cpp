@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "core/book_numbers.h"
+#include "platform/qt/spreadsheet_view.h"
 #include "support/screen_support.h"
 
 namespace barvon::testing {
@@ -348,6 +350,28 @@ TEST_F(InputScreen, A_Fresh_Screen_That_Is_Open_Comes_To_The_Front_Through_Any_C
   EXPECT_EQ(Small_Screen::made, 1);
   EXPECT_EQ(log, (Log{"opening, filling", "activated"}));
   EXPECT_EQ(main.findChild<Small_Screen*>()->inner->currentIndex(), 1);
+}
+
+// Screens read their tables in a command; the toolkit would end the typing only when the closing
+// screen loses the focus, after the record has been saved or restored.
+TEST_F(InputScreen, A_Command_Finds_In_A_Table_What_Is_Being_Typed_However_It_Is_Given) {
+  F1Book* table = nullptr;
+  for (const int way : {0, 1}) {
+    Small_Screen::log.clear();
+    screen = new Small_Screen(&main);
+    table = new F1Book(kBookNumbers, screen->tabs->widget(0));
+    screen->tabs->widget(0)->layout()->addWidget(table);
+    QObject::connect(table, &F1Book::Edited, table,
+                     [&] { Small_Screen::log.push_back("edited " + table->table().TextRC(1, 1)); });
+    Open();
+    table->setFocus();
+    QTest::keyClick(table, '7');
+    ASSERT_NE(QApplication::focusWidget(), table);
+    if (way == 0) screen->Button(0)->click();  // as a screen reader does
+    if (way == 1) Press_Close_Box(screen);
+    EXPECT_EQ(Small_Screen::log,
+              (Log{"opening, filling", "activated", "edited 7", way == 0 ? "click 0" : "click 1"}));
+  }
 }
 
 TEST_F(InputScreen, A_Fresh_Screen_Blocks_When_It_Is_Told_To) {

@@ -102,6 +102,16 @@ TEST_F(SpreadsheetEdits, A_Single_Cell_Fills_The_Whole_Selection) {
   EXPECT_TRUE(table.IsEmptyRC(1, 3));
 }
 
+TEST_F(SpreadsheetEdits, A_Paste_Empties_What_Its_Short_Rows_Lack) {
+  for (int row = 1; row <= 3; ++row) Type(row, 2, "old");
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 1, 1}, {{"1"}, {"2", "3"}}).changed,
+            (Cell_Range{1, 1, 2, 2}));
+  EXPECT_TRUE(table.IsEmptyRC(1, 2));
+  EXPECT_EQ(table.TextRC(2, 2) + table.TextRC(3, 2), "3old");
+  EXPECT_NE(Paste_Cells(table, {1, 1, 1, 1}, {{"1"}, {"2", "3", "4", "5"}}).refusal, "")
+      << "the widest row must fit";
+}
+
 TEST_F(SpreadsheetEdits, A_Paste_Beyond_The_Table_Is_Refused_As_A_Whole) {
   Type(4, 3, "old");
   const Edit_Outcome outcome = Paste_Cells(table, {4, 3, 4, 3}, {{"1", "2"}, {"3", "4"}});

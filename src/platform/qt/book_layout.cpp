@@ -12,6 +12,7 @@ namespace {
 constexpr int kLargestHintWidth = 640;
 constexpr int kLargestHintHeight = 360;
 constexpr int kDefaultDigits = 9;
+constexpr int kLargestAutoDigits = 60;  // so that one long text leaves the other columns in sight
 constexpr int kWidthsInDigit = 256;
 constexpr int kTwipsInInch = 1440;
 
@@ -66,11 +67,11 @@ int Book_Layout::Row_Pixels() const {
 int Book_Layout::Column_Pixels(int col) const {
   const int heading = view_.horizontalHeader()->sectionSizeHint(col - 1);
   const int width = table_.ColWidth(col);
+  const int digit = Digit_Pixels(view_);
   if (width == Spreadsheet_Table::kAutoWidth) {
     view_.resizeColumnToContents(col - 1);
-    return std::max(heading, view_.columnWidth(col - 1));
+    return std::max(heading, std::min(view_.columnWidth(col - 1), kLargestAutoDigits * digit));
   }
-  const int digit = Digit_Pixels(view_);
   return std::max(heading, width == 0 ? kDefaultDigits * digit : width * digit / kWidthsInDigit);
 }
 

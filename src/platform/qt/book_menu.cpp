@@ -53,7 +53,9 @@ bool Is_Possible(const Spreadsheet_Table& table, Book_Command command) {
 }  // namespace
 
 Book_Command Command_Of(const QKeyEvent& key) {
-  const QKeySequence pressed(key.keyCombination());
+  // The keypad's Delete is one too.
+  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  const QKeySequence pressed(QKeyCombination(modifiers, static_cast<Qt::Key>(key.key())));
   for (const Command_Row& row : Commands()) {
     if (row.keys.contains(pressed)) return row.command;
   }

@@ -16,12 +16,13 @@ QString Q(const std::string& text) { return QString::fromStdString(text); }
 /// A heading for the ear: one line.
 QString Spoken(const std::string& heading) { return Q(heading).simplified(); }
 
-/// A font that the desktop does not have is left to the table's own, at the size asked for.
+/// A font that the desktop does not have is left to the table's own, at the size asked for. None
+/// is smaller than the table's own: who has set a large one needs it.
 QVariant Cell_Font(const Cell_Style& style) {
   if (style.font.empty() && style.font_size == 0) return {};
   QFont font = QApplication::font("QTableView");
   if (QFontDatabase::hasFamily(Q(style.font))) font.setFamily(Q(style.font));
-  if (style.font_size > 0) font.setPointSize(style.font_size);
+  if (style.font_size > font.pointSize()) font.setPointSize(style.font_size);
   return font;
 }
 

@@ -10,10 +10,14 @@ bool Fits(QChar character) {
          Fits_File_Encoding(QString(character).toStdString());
 }
 
+constexpr QChar kMinusSign(0x2212);
+
 /// A letter and its accent as one character, then only what fits.
 QString Fitting(const QString& text) {
   QString fitting;
   for (const QChar character : text.normalized(QString::NormalizationForm_C)) {
+    // Documents write negative numbers with it: left out it would turn their sign.
+    if (character == kMinusSign) fitting += QLatin1Char('-');
     if (Fits(character)) fitting += character;
   }
   return fitting;

@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "platform/qt/show_dialog.h"
+#include "platform/qt/spreadsheet_view.h"
 
 namespace barvon {
 namespace {
@@ -178,6 +179,9 @@ void Input_Screen::Run_Command(int index) {
   if (running_command_) return;
   running_command_ = true;
   const QPointer<Input_Screen> alive(this);
+  // However the command was given: what stands in a cell must be in the table now, not when the
+  // screen has been saved or restored and takes the focus away by closing.
+  for (F1Book* table : findChildren<F1Book*>()) table->FinishEdit();
   Command1_Click(index);
   if (alive) running_command_ = false;
 }

@@ -133,6 +133,8 @@ void F1Book::contextMenuEvent(QContextMenuEvent* event) {
 
 void F1Book::Show_Cursor() {
   if (following_) return;
+  // Who answers the edit may move the cursor once more.
+  if (currentIndex() != model_->index(table_.Row() - 1, table_.Col() - 1)) FinishEdit();
   const QScopedValueRollback following(following_, true);
   const QModelIndex current = model_->index(table_.Row() - 1, table_.Col() - 1);
   const Cell_Range& range = table_.SelectedRange();
@@ -161,6 +163,8 @@ void F1Book::Take_Cursor() {
     table_.SetActiveCell(current.row() + 1, current.column() + 1);
     table_.SelectRange(range);
   }
+  // A click beside the cells selects nothing; the cursor stays in sight.
+  if (selectionModel()->selection().isEmpty()) Show_Cursor();
   Tell_Cursor();
 }
 
@@ -222,12 +226,11 @@ void F1Book::Move(Book_Move move) {
   }
 }
 
-bool F1Book::focusNextPrevChild(bool next) {
-  Move(next ? Book_Move::Next : Book_Move::Previous);
-  return true;
-}
-
 void F1Book::keyPressEvent(QKeyEvent* event) {
+  // Of the keys that the editor of a cell passes on, these leave the cell.
+  const bool leaves = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown ||
+                      event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+  if (leaves) FinishEdit();
   if (const Book_Command command = Command_Of(*event); command != Book_Command::None) {
     Run(command);
     return;
@@ -246,7 +249,28 @@ bool F1Book::event(QEvent* event) {
     event->accept();
     return true;
   }
+  // Tab is taken here and not where the toolkit moves the focus on: a table that is hidden or
+  // disabled must pass the focus on from any cell.
+  if (event->type() == QEvent::KeyPress) {
+    const Book_Move move = Move_Of(*static_cast<QKeyEvent*>(event));
+    if (move == Book_Move::Next || move == Book_Move::Previous) {
+      Move(move);
+      return true;
+    }
+  }
   return QTableView::event(event);
+}
+
+QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& index,
+                                                             const QEvent* event) const {
+  // The toolkit's own gives up selecting when Ctrl is down too, as in Ctrl+Shift+End.
+  if (event != nullptr && event->type() == QEvent::KeyPress) {
+    const auto held = static_cast<const QKeyEvent*>(event)->modifiers();
+    if (held.testFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
+      return QItemSelectionModel::SelectCurrent;
+    }
+  }
+  return QTableView::selectionCommand(index, event);
 }
 
 void F1Book::focusInEvent(QFocusEvent* event) {
@@ -257,55 +281,6 @@ void F1Book::focusInEvent(QFocusEvent* event) {
     table_.SetActiveCell(focus_row_, focus_col_);
   }
   emit Got_Focus();
-}
-
-// Editing
-
-bool F1Book::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-  delegate_->Start_By_Typing(trigger == AnyKeyPressed);
-  const bool was_editing = state() == EditingState;
-  if (!QTableView::edit(index, trigger, event)) return false;
-  if (state() == EditingState && !was_editing && delegate_->editor() != nullptr) {
-    qApp->installEventFilter(this);
-    if (trigger != AnyKeyPressed) delegate_->editor()->end(false);
-  }
-  return true;
-}
-
-void F1Book::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-  qApp->removeEventFilter(this);
-  QTableView::closeEditor(editor, hint);
-  if (!leaving_editor_) Tell_Edit();
-}
-
-void F1Book::Leave_Editor(Book_Move move) {
-  {
-    const QScopedValueRollback leaving(leaving_editor_, true);
-    if (QPointer<QLineEdit> editor = delegate_->editor()) {
-      commitData(editor);
-      if (editor) closeEditor(editor, QAbstractItemDelegate::NoHint);
-    }
-  }
-  Move(move);
-  Tell_Edit();
-}
-
-void F1Book::Drop_Editor() {
-  // Closed while its cell is still known, or the focus would go to whatever comes next.
-  if (state() == EditingState && delegate_->editor() != nullptr) {
-    closeEditor(delegate_->editor(), QAbstractItemDelegate::RevertModelCache);
-  }
-}
-
-void F1Book::FinishEdit() {
-  if (state() == EditingState) Leave_Editor(Book_Move::None);
-}
-
-bool F1Book::eventFilter(QObject* object, QEvent* event) {
-  // A mnemonic of the screen, Alt+O for OK, leaves the focus in the cell: what is typed there must
-  // be in the table before the button acts.
-  if (event->type() == QEvent::Shortcut) FinishEdit();
-  return QTableView::eventFilter(object, event);
 }
 
 // Layout

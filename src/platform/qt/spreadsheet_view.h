@@ -66,8 +66,8 @@ class F1Book : public QTableView {
   void Clear();
   void Undo();
   void Redo();
-  /// Ends the typing in a cell as leaving it would. It happens by itself when the focus goes or a
-  /// mnemonic is pressed.
+  /// Ends the typing in a cell as leaving it would. It happens by itself when the focus goes, when
+  /// a mnemonic or anything outside the table is pressed, and before a command of an Input_Screen.
   void FinishEdit();
 
   /// Room for a small table as a whole; a large one scrolls.
@@ -91,7 +91,8 @@ class F1Book : public QTableView {
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
-  bool focusNextPrevChild(bool next) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
