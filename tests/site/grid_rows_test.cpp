@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "core/book_numbers.h"
+
 namespace barvon {
 namespace {
 
 TEST(GridRows, A_Table_Gives_Its_Cells_Row_By_Row_And_0_For_An_Empty_One) {
-  Spreadsheet_Table table;
+  Spreadsheet_Table table(kBookNumbers);
   table.MaxRow(2);
   table.MaxCol(3);
   table.NumberRC(1, 3, 1.5);
@@ -15,7 +17,7 @@ TEST(GridRows, A_Table_Gives_Its_Cells_Row_By_Row_And_0_For_An_Empty_One) {
 }
 
 TEST(GridRows, Rows_Are_Put_In_As_One_Edit) {
-  Spreadsheet_Table table;
+  Spreadsheet_Table table(kBookNumbers);
   table.MaxRow(2);
   table.MaxCol(3);
   Put_Rows({{1, 2, 3}, {4, 5, 6}}, table);
