@@ -128,10 +128,7 @@ void Input_Screen::Fit_To_Contents() {
 // Only now do the controls have their final fonts and headings.
 void Input_Screen::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (event->spontaneous()) return;
-  Fit_To_Contents();
-  // A window that was resized since would stand higher by the height of its title.
-  Place();
+  if (!event->spontaneous()) Fit_To_Contents();
 }
 
 void Input_Screen::Place() {
