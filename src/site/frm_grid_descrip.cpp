@@ -16,6 +16,7 @@
 #include "platform/qt/field_rows.h"
 #include "site/drawn_cells.h"
 #include "site/grid_csv_file.h"
+#include "site/grid_rows.h"
 
 namespace barvon {
 namespace {
@@ -165,28 +166,12 @@ void frmGridDescrip::Save() {
 void frmGridDescrip::Import() {
   const auto rows = Import_Grid_Csv("Import Depth Grid", size_.rows, size_.columns);
   if (!rows) return;
-  Spreadsheet_Table& table = F1Book1->table();
-  {
-    const Table_Fill fill(table);
-    const Edit_Step step(table);
-    for (int row = 1; row <= size_.rows; ++row) {
-      for (int column = 1; column <= size_.columns; ++column) {
-        table.NumberRC(row, column, rows->at(row - 1).at(column - 1));
-      }
-    }
-  }
+  Put_Rows(*rows, F1Book1->table());
   F1Book1_EndEdit();
 }
 
 void frmGridDescrip::Export() {
-  const Spreadsheet_Table& table = F1Book1->table();
-  Grid_Rows rows(size_.rows, std::vector<double>(size_.columns));
-  for (int row = 1; row <= size_.rows; ++row) {
-    for (int column = 1; column <= size_.columns; ++column) {
-      rows[row - 1][column - 1] = table.NumberRC(row, column);
-    }
-  }
-  Export_Grid_Csv("Export Depth Grid", "depths.csv", rows);
+  Export_Grid_Csv("Export Depth Grid", "depths.csv", Rows_Of_Table(F1Book1->table()));
 }
 
 void frmGridDescrip::Show_Map() {

@@ -1,7 +1,6 @@
 #include "site/frm_velocity.h"
 
 #include <QHeaderView>
-#include <QScreen>
 #include <QStyle>
 #include <algorithm>
 #include <utility>
@@ -15,8 +14,8 @@
 #include "platform/help_viewer.h"
 #include "platform/qt/number_field.h"
 #include "platform/qt/option_paint.h"
-#include "site/drawn_cells.h"
 #include "site/grid_csv_file.h"
+#include "site/grid_rows.h"
 #include "site/velocity_questions.h"
 #include "site/velocity_tables.h"
 
@@ -26,7 +25,6 @@ namespace {
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
 constexpr int kVelocityLine = 2, kVelocityItem = 2;  // status line, Edit entry
 constexpr int kVelocityScreen = 4;                   // ScreenDataSupplied
-constexpr double kPartOfDisplay = 0.93;              // its place and its frame take the rest
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -216,9 +214,7 @@ void frmVelocity::Show_Form() {
       break;
   }
   // Forms differ much in size; what is hidden takes no room.
-  if (!isMaximized()) {
-    resize(sizeHint().boundedTo(screen()->availableSize() * kPartOfDisplay));
-  }
+  Fit_To_Contents();
   if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages_Of_Filling();
   FillingForm = filled_before;
 }
@@ -305,50 +301,6 @@ Velocity_Entry frmVelocity::Entry() const {
       break;
   }
   return entry;
-}
-
-void frmVelocity::Draw_Points() {
-  const Spreadsheet_Table& table = F1Book1->table();
-  std::array<Profile_Point, 2> points;
-  for (int row = 1; row <= 2; ++row) {
-    points[At(row) - 1] = {Drawn_Cell(table, row, 1), Drawn_Cell(table, row, 2),
-                           Drawn_Cell(table, row, 3), Drawn_Cell(table, row, 4)};
-  }
-  profile_->Show(points);
-}
-
-void frmVelocity::Draw_Arrows() {
-  const Spreadsheet_Table& x = F1Book2(kAlongX)->table();
-  arrows_->Show({x.MaxRow(), x.MaxCol(), Drawn_Cells(x), Drawn_Cells(F1Book2(kAlongZ)->table()),
-                 record_.DX0, record_.DZ0});
-  bool covered = false;
-  for (int i = 0; i < kDirections; ++i) {
-    const double constant = Lenient_Number(Text2(i)->text().toStdString());
-    covered = covered || (Check3D2(i)->isChecked() && constant > 0 &&
-                          Any_Cell_Differs(F1Book2(i)->table(), constant));
-  }
-  arrows_->Set_Caption(covered ? QStringLiteral("A ticked constant will stand in for cells that "
-                                                "differ from it at the next opening.")
-                               : QString());
-}
-
-void frmVelocity::Draw_Tide() {
-  const Spreadsheet_Table& table = F1Book3->table();
-  const Velocity_Entry entry = Entry();
-  Tidal_Pattern pattern;
-  for (int row = 1; row <= table.MaxRow(); ++row) {
-    pattern.x.push_back(Drawn_Cell(table, row, 1));
-    pattern.z.push_back(Drawn_Cell(table, row, 2));
-  }
-  const Tidal_Interval interval = Interval_Of(entry);
-  pattern.start = Widen(interval.start);
-  pattern.duration = Widen(interval.duration);
-  if (interval.duration != 0) {
-    const auto averages = Average_Velocities(entry);
-    pattern.average_x = averages[kAlongX];
-    pattern.average_z = averages[kAlongZ];
-  }
-  tide_->Show(std::move(pattern));
 }
 
 }  // namespace barvon

@@ -17,6 +17,7 @@
 #include "pictures/velocity_arrows.h"
 #include "platform/qt/control_array.h"
 #include "platform/qt/input_screen.h"
+#include "platform/qt/scrolled_part.h"
 #include "platform/qt/spreadsheet_view.h"
 #include "site/velocity_data.h"
 
@@ -83,6 +84,7 @@ class frmVelocity : public Input_Screen {
   ControlArray<QGroupBox> Frame3D{this, "Frame3D", kVelocityForms};
   ControlArray<QPlainTextEdit> Text4{this, "Text4", 2};
   QLabel* Label5;
+  Scrolled_Part* forms_;
 
   ControlArray<QLineEdit> Text1{this, "Text1", 3};
   QCheckBox* Check3D1;

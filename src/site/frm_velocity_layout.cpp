@@ -27,12 +27,19 @@ constexpr Form_Texts kForms[kVelocityForms] = {
     {"Unsteady Velocity Profile", "Unsteady Velocity Profile", "velocity_tidal"},
 };
 
+QWidget* Column_Without_Margins() {
+  auto* part = new QWidget;
+  (new QVBoxLayout(part))->setContentsMargins(0, 0, 0, 0);
+  return part;
+}
+
 }  // namespace
 
 frmVelocity::frmVelocity(QWidget* workspace)
     : Input_Screen("frmVelocity", workspace),
       record_(Project()),
       Label5(Named(new QLabel(this), "Label5")),
+      forms_(new Scrolled_Part(Column_Without_Margins(), this)),
       Check3D1(Named(new QCheckBox(this), "Check3D1")),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       profile_(Named(new Two_Point_Profile(this), "TwoPointProfile")),
@@ -50,8 +57,9 @@ frmVelocity::frmVelocity(QWidget* workspace)
   for (int form = 0; form < kVelocityForms; ++form) {
     Frame3D(form)->setTitle(QLatin1String(kForms[form].frame));
     Frame3D(form)->hide();
-    column->addWidget(Frame3D(form), 1);
+    forms_->widget()->layout()->addWidget(Frame3D(form));
   }
+  column->addWidget(forms_, 1);
   Build_Single_Frame();
   Build_Two_Point_Frame();
   Build_Field_Frame();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/spreadsheet_table.h"
-#include "site/grid_csv.h"
 #include "site/velocity_data.h"
 
 namespace barvon {
@@ -23,9 +22,5 @@ void Fill_Field_With(double velocity, Spreadsheet_Table& table);
 /// Negative cells don't count.
 bool Any_Cell_Above_0(const Spreadsheet_Table& table);
 bool Any_Cell_Differs(const Spreadsheet_Table& table, double velocity);
-
-/// All cells, row by row; the other way it is one step that can be undone.
-Grid_Rows Rows_Of_Table(const Spreadsheet_Table& table);
-void Put_Rows(const Grid_Rows& rows, Spreadsheet_Table& table);
 
 }  // namespace barvon

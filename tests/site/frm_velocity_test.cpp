@@ -92,6 +92,32 @@ TEST_F(VelocityScreen, Each_Option_Sets_Type_Name_Panel_And_Picture) {
   }
 }
 
+TEST_F(VelocityScreen, Is_As_Wide_By_Its_Option_As_By_Opening) {
+  const double types[] = {1, 3, 4, 5};
+  for (const int former : {0, 3}) {
+    for (int option = 0; option < 4; ++option) {
+      Open(types[option]);
+      const int opened = Screen()->width();
+      Press_Command(1);
+      Open(types[former]);
+      Choose(option);
+      EXPECT_EQ(Screen()->width(), opened) << types[former] << " to " << types[option];
+      Press_Command(1);
+    }
+  }
+}
+
+TEST_F(VelocityScreen, On_A_Small_Display_The_Forms_Scroll_And_The_Buttons_Stay_In_Reach) {
+  const QRect display = bench.main().screen()->availableGeometry();
+  for (const double type : {3, 4, 5}) {
+    Open(type);
+    EXPECT_LT(Screen()->height(), display.height()) << type;
+    EXPECT_LT(Screen()->width(), display.width()) << type;
+    EXPECT_TRUE(Screen()->rect().contains(Command1(2)->geometry()));
+    Press_Command(1);
+  }
+}
+
 TEST_F(VelocityScreen, The_Note_Asks_For_A_Speed_At_Two_Points_Alone) {
   Open(1);
   const QString speed =

@@ -63,6 +63,14 @@ TEST(AverageOverInterval, The_Whole_Pattern_Ends_With_A_Velocity_Of_0) {
   EXPECT_EQ(AverageOverInterval(pattern, {0, 12.5}), 0.98);
 }
 
+// (12, 4) (12.5, 0): point 26 counts beyond 12.5 hours only. 0.5 x 4 x 0.5 = 1; / 0.5 = 2.
+TEST(AverageOverInterval, An_End_At_12_And_A_Half_Hours_Has_A_Velocity_Of_0) {
+  Pattern pattern = Everywhere(99);
+  pattern[25] = 4;
+  pattern[26] = 7;
+  EXPECT_EQ(AverageOverInterval(pattern, {12, 0.5}), 2);
+}
+
 // (12, 2) (14, 3): 0.5 x 5 x 2 = 5; / 2 = 2.5. Point 25 is at 12 hours.
 TEST(AverageOverInterval, Beyond_The_Pattern_The_Last_Point_Stands_At_The_End) {
   Pattern pattern = Everywhere(99);

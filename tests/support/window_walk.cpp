@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableView>
@@ -86,6 +87,8 @@ bool Reaches_Out(const QWidget* control, const QWidget& window) {
   for (const QWidget* at = control; at != &window;) {
     const QWidget* parent = at->parentWidget();
     if (qobject_cast<const QAbstractScrollArea*>(parent) != nullptr) return false;
+    const auto* scrolled = qobject_cast<const QScrollArea*>(parent->parentWidget());
+    if (scrolled != nullptr && scrolled->widget() == at) return false;
     const QRect place(control->mapTo(parent, QPoint(0, 0)), control->size());
     if (!parent->rect().contains(place)) return true;
     at = parent;

@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QTabWidget>
 #include <QWindow>
 #include <algorithm>
@@ -15,7 +16,8 @@ namespace barvon {
 namespace {
 
 constexpr char kHelpCaption[] = "&Help";
-constexpr double kPlace = 0.03;  // of the display's width and height
+constexpr double kPlace = 0.03;          // of the display's width and height
+constexpr double kPartOfDisplay = 0.93;  // its place and its frame take the rest
 
 /// Whether a window is a screen of the program, known by its name, and no box, dialog or help.
 bool Is_Screen(const QString& name) {
@@ -101,20 +103,32 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   Opening();
   FillingForm = false;
   Activated();
-  Keep_Room();
+  Fit_To_Contents();
   Place();
   if (QWidget* first = First_Control(this)) first->setFocus(Qt::OtherFocusReason);
   Focus(control);
   Show_Dialog(*this, blocking);
 }
 
-void Input_Screen::Keep_Room() {
-  if (layout() == nullptr) return;
-  adjustSize();
+void Input_Screen::Fit_To_Contents() {
+  if (layout() == nullptr || isMaximized()) return;
+  setMinimumSize(0, 0);
+  // What was shown or hidden a moment ago is still to be told to the layouts in between.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  layout()->activate();
+  const bool wraps = layout()->hasHeightForWidth();
+  QSize size = sizeHint();
+  if (wraps) size.setHeight(layout()->totalHeightForWidth(size.width()));
+  const QSize room = screen()->availableSize() * kPartOfDisplay;
+  resize(size.boundedTo(room).expandedTo(layout()->totalMinimumSize()));
   // A window's own minimum leaves out what labels that wrap need in height.
-  if (layout()->hasHeightForWidth()) {
-    setMinimumSize(width(), layout()->totalHeightForWidth(width()));
-  }
+  if (wraps) setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+}
+
+// Only now do the controls have their final fonts and headings.
+void Input_Screen::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) Fit_To_Contents();
 }
 
 void Input_Screen::Place() {

@@ -44,6 +44,7 @@ class Input_Screen : public QDialog {
   /// screens; not when a message box, a file dialog or the help is closed.
   virtual void Activated() {}
   virtual void Command1_Click(int index) = 0;
+  void showEvent(QShowEvent* event) override;
 
   /// The button row, Command1(0) and on. The first is what Return presses; F1 presses "&Help".
   QHBoxLayout* Make_Command1(const std::vector<QString>& captions = {QStringLiteral("OK"),
@@ -51,11 +52,14 @@ class Input_Screen : public QDialog {
                                                                      QStringLiteral("&Help")});
   QPushButton* Command1(int index) const { return Command1_.at(static_cast<std::size_t>(index)); }
 
+  /// Gives the window the size that its contents ask for, as far as the display has room. Runs
+  /// when the screen opens; one whose contents change runs it again.
+  void Fit_To_Contents();
+
   /// Whether the screen fills itself: handlers that must rest meanwhile ask it.
   bool FillingForm = false;
 
  private:
-  void Keep_Room();
   void Place();
   void Focus(const std::string& control);
   void Window_In_Focus(QWindow* window);
