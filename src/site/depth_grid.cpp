@@ -135,7 +135,7 @@ std::string Depth_Grid_Remark(const Depth_Grid_Entry& entry, const Spreadsheet_T
              " ft in every cell, not these depths.";
   }
   if (F1Book1.MaxCol() == F1Book1.MaxRow()) return remark;
-  if (!remark.empty()) remark += " ";
+  if (!remark.empty()) remark += "\n";
   return remark +
          "The solver takes \"Col a\", \"Row b\" as X point a and Z point b. This grid is " +
          "not square, so some of these depths never reach it.";

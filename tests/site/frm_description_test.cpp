@@ -480,6 +480,22 @@ TEST_F(SiteScreen, While_A_New_Row_Keeps_It_Open_The_Main_Window_Is_Told_All_The
   EXPECT_EQ(bench.controls().SiteLabel(2)->text(), "Water Depth is Constant at 30.00 Ft");
 }
 
+TEST_F(SiteScreen, While_A_New_Row_Keeps_It_Open_The_Bottom_Is_That_Of_The_Counts_Just_Saved) {
+  record.NMAX0 = record.MMAX0 = 32;
+  record.ConstantDepthFlag = 0;
+  record.DepthGrid[12][9] = 90;
+  record.DepthGrid[8][8] = 80;
+  Open();
+  Enter(0, "8");
+  Enter(1, "8");
+  EXPECT_EQ(Profile()->Drawn().bottom, 90);
+  const Scripted_Messages messages({Answer::Yes});
+  Click(Command1(0));
+  ASSERT_TRUE(Is_Open());
+  EXPECT_EQ(Table().NumberRC(3, 1), 90) << "asked before the counts are saved";
+  EXPECT_EQ(Profile()->Drawn().bottom, 80);
+}
+
 TEST_F(SiteScreen, A_Fraction_Of_A_Count_Is_In_The_Dimensions_And_Cut_By_Ok) {
   Open();
   Enter(0, "12.7");
