@@ -23,7 +23,8 @@ namespace {
 
 constexpr int kOkWithoutButton = 3, kBackWithoutButton = 4;
 constexpr int kDepthGridScreen = 3;  // ScreenDataSupplied
-constexpr QSize kTableSize{440, 320};
+constexpr QSize kTableSize{400, 320};
+constexpr int kMapWidth = 280;  // below it headings and scale crowd the map out
 
 }  // namespace
 
@@ -66,6 +67,7 @@ QWidget* frmGridDescrip::Grid_Frame() {
   F1Book1->setMinimumSize(kTableSize);
   F1Book1->SetFocusCell(1, 1);
   F1Book1->SetNumberNote(Real_Note);
+  map_->setMinimumWidth(kMapWidth);
   auto* halves = new QHBoxLayout(frame);
   halves->addWidget(F1Book1, 3);
   halves->addWidget(map_, 2);

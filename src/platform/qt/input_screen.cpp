@@ -108,11 +108,6 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   Show_Dialog(*this, blocking);
 }
 
-QWidget* Input_Screen::Window_Below(bool blocking, QWidget* workspace) {
-  auto* front = dynamic_cast<Input_Screen*>(QApplication::activeWindow());
-  return blocking && front != nullptr && front->isVisible() ? front : workspace;
-}
-
 void Input_Screen::Keep_Room() {
   if (layout() == nullptr) return;
   adjustSize();
@@ -159,6 +154,11 @@ void Input_Screen::reject() {
   } else {
     Run_Command(kCancel);
   }
+}
+
+QWidget* Input_Screen::Window_Below(bool blocking, QWidget* workspace) {
+  auto* front = dynamic_cast<Input_Screen*>(QApplication::activeWindow());
+  return blocking && front != nullptr && front->isVisible() ? front : workspace;
 }
 
 void Input_Screen::Unload() { done(Rejected); }
