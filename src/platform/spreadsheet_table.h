@@ -60,6 +60,7 @@ class Spreadsheet_Table {
  public:
   static constexpr int kSheetRows = 1024;
   static constexpr int kSheetCols = 256;
+  static constexpr Cell_Range kSheet{1, 1, kSheetRows, kSheetCols};
 
   explicit Spreadsheet_Table(const Cell_Numbers& numbers) : numbers_(numbers) {}
   Spreadsheet_Table(const Spreadsheet_Table&) = delete;
@@ -192,6 +193,7 @@ class Spreadsheet_Table {
   };
   using Step = std::vector<Saved_Cell>;
 
+  static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
   const Cell& At(int row, int col) const;
   Cell& Reach(int row, int col);
   template <class Change>
