@@ -298,6 +298,39 @@ TEST_F(DepthScreen, An_Edit_Clears_The_One_Depth_At_Once_And_Cancel_Does_Not_Bri
   EXPECT_EQ(Table().ShownRC(2, 2), "22.20") << "the stored depth, not the edited one";
 }
 
+TEST_F(DepthScreen, Ok_Brings_The_One_Depth_Back_After_An_Edit_While_The_Box_Is_Checked) {
+  record.DEPTHI = 35.5;
+  Open();
+  Enter_Cell(2, 2, "50");
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPTHI, 35.5);
+  EXPECT_EQ(record.DepthGrid[2][2], 50);
+  EXPECT_EQ(record.DepthGrid[1][1], 35.5);
+}
+
+TEST_F(DepthScreen, A_Negative_One_Depth_Is_Shown_And_Not_Used) {
+  record.DEPTHI = -5;
+  Open();
+  EXPECT_FALSE(Check3D2()->isChecked());
+  EXPECT_FALSE(Text1()->isEnabled());
+  EXPECT_EQ(Text1()->text(), "-5.00");
+  EXPECT_EQ(Table().ShownRC(3, 7), "27.30");
+  Click(Check3D2());
+  Click(Command2());
+  EXPECT_EQ(Table().ShownRC(3, 7), "27.30") << "nor does it fill the grid";
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPTHI, -5) << "passed over without a word";
+}
+
+TEST_F(DepthScreen, Cancel_Forgets_The_Box_Its_Depth_And_The_Grid_It_Filled) {
+  Open();
+  Click(Check3D2());
+  Enter("12");
+  Click(Command2());
+  Click(Command1(1));
+  EXPECT_EQ(Changed(), Names{});
+}
+
 TEST_F(DepthScreen, Clear_Cut_Paste_And_Undo_Are_Edits) {
   const std::vector<void (F1Book::*)()> commands = {&F1Book::Clear, &F1Book::Cut, &F1Book::Paste,
                                                     &F1Book::Undo};
