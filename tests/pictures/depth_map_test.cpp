@@ -118,7 +118,7 @@ TEST(DepthMap, Headings_Stand_Apart_In_A_Narrow_Picture_Too) {
   for (int width = 200; width <= 900; width += 20) {
     Seen(map, {width, 360});
     double taken = -1e9;  // to where the headings before it reach
-    for (std::size_t i = 0; i < axis.tickVector().size(); ++i) {
+    for (qsizetype i = 0; i < axis.tickVector().size(); ++i) {
       const double half = metrics.horizontalAdvance(axis.tickVectorLabels().at(i)) / 2;
       const double middle = axis.coordToPixel(axis.tickVector().at(i));
       EXPECT_GT(middle - half, taken) << width << " " << i;
