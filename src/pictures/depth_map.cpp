@@ -78,8 +78,8 @@ void Depth_Map::Build() {
 }
 
 void Depth_Map::Fit() {
-  Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
   Fit_Labels(*scale_->axis(), drawing_.scale, Room_For_Axes(*plot()).height());
+  Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
 }
 
 }  // namespace barvon

@@ -23,6 +23,15 @@ void Put_Headings(QCPAxis& axis, const QString& word, int count, double pixels, 
   axis.setTicker(headings);
 }
 
+/// The width that the plot's other parts leave to the grid.
+double Width_Of_Grid(QCustomPlot& plot) {
+  for (const auto phase :
+       {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins, QCPLayoutElement::upLayout}) {
+    plot.plotLayout()->update(phase);
+  }
+  return std::max(plot.axisRect()->width(), 1);
+}
+
 }  // namespace
 
 void Dress_Grid_Axes(QCustomPlot& plot) {
@@ -44,9 +53,9 @@ void Fit_Grid_Labels(QCustomPlot& plot, int rows, int columns) {
   const QSizeF room = Room_For_Axes(plot);
   const QFontMetricsF metrics(plot.yAxis->tickLabelFont());
   const double width = metrics.horizontalAdvance(QStringLiteral("Col %1").arg(columns));
-  Put_Headings(*plot.xAxis2, QStringLiteral("Col %1"), columns, room.width() - 60,
-               width + metrics.height() * 0.6);
   Put_Headings(*plot.yAxis, QStringLiteral("Row %1"), rows, room.height(), metrics.height() * 1.1);
+  Put_Headings(*plot.xAxis2, QStringLiteral("Col %1"), columns, Width_Of_Grid(plot),
+               width + metrics.height() * 0.6);
 }
 
 QCPColorMap* Add_Cells(QCustomPlot& plot) {

@@ -87,8 +87,8 @@ void Velocity_Arrows::Build() {
 }
 
 void Velocity_Arrows::Fit() {
-  Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
   Fit_Labels(*scale_->axis(), drawing_.scale, Room_For_Axes(*plot()).height());
+  Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
   arrows_->font = plot()->yAxis->tickLabelFont();
   // The reference arrow stands below the map.
   const int below = static_cast<int>(QFontMetricsF(arrows_->font).height()) + 10;

@@ -1,5 +1,6 @@
 #include "site/density_endpoints.h"
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -70,6 +71,10 @@ bool AddSurfaceRow(Site_Entry& entry, Spreadsheet_Table& table) {
 bool AddBottomRow(float bottom, Site_Entry& entry, Spreadsheet_Table& table) {
   if (!Agrees("It is Required That the Last Density Point be at the Bottom.  Do You Wish to Have "
               "BARVON Automatically Add a Row and Make the Last Depth the Bottom?")) {
+    return false;
+  }
+  if (!std::isfinite(bottom)) {
+    Show_Message({"The Bottom Depth Is Too Large.  Please Correct It."});
     return false;
   }
   Add_Row(entry, table);

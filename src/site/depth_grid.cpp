@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/format_pattern.h"
 #include "core/number_text.h"
 #include "platform/busy_cursor.h"
 #include "platform/message_box.h"
@@ -39,6 +40,15 @@ void Fill_With(double depth, Spreadsheet_Table& table) {
   for (int row = 1; row <= table.MaxRow(); ++row) {
     for (int column = 1; column <= table.MaxCol(); ++column) table.NumberRC(row, column, depth);
   }
+}
+
+bool Is_Everywhere(double depth, const Spreadsheet_Table& table) {
+  for (int row = 1; row <= table.MaxRow(); ++row) {
+    for (int column = 1; column <= table.MaxCol(); ++column) {
+      if (table.NumberRC(row, column) != depth) return false;
+    }
+  }
+  return true;
 }
 
 void Save_Initial_Depth(const Depth_Grid_Entry& entry, ProjectRecord& record) {
@@ -117,10 +127,18 @@ double MaxGridDepth(const ProjectRecord& record) {
   return greatest;
 }
 
-std::string Depth_Grid_Remark(const Depth_Grid_Size& size) {
-  if (size.columns == size.rows) return "";
-  return "The solver takes \"Col a\", \"Row b\" as X point a and Z point b. This grid is not "
-         "square, so some of these depths never reach it.";
+std::string Depth_Grid_Remark(const Depth_Grid_Entry& entry, const Spreadsheet_Table& F1Book1) {
+  std::string remark;
+  const double depth = Lenient_Number(entry.Text1);
+  if (entry.Check3D2 && depth > 0 && !Is_Everywhere(depth, F1Book1)) {
+    remark = "While the box is checked, the next opening shows " + Format_Number(depth, kOneDepth) +
+             " ft in every cell, not these depths.";
+  }
+  if (F1Book1.MaxCol() == F1Book1.MaxRow()) return remark;
+  if (!remark.empty()) remark += "\n";
+  return remark +
+         "The solver takes \"Col a\", \"Row b\" as X point a and Z point b. This grid is " +
+         "not square, so some of these depths never reach it.";
 }
 
 }  // namespace barvon

@@ -41,7 +41,8 @@ void SaveDepthGrid(const Depth_Grid_Entry& entry, const Spreadsheet_Table& F1Boo
 /// The largest depth (ft), 0 when none is above it. See the source on which cells it looks at.
 double MaxGridDepth(const ProjectRecord& record);
 
-/// What a table that is not square has to say; "" for a square one.
-std::string Depth_Grid_Remark(const Depth_Grid_Size& size);
+/// What is not to be seen in the table: that the next opening would show one depth instead, and
+/// that a table that is not square does not reach the solver as a whole. "" for neither.
+std::string Depth_Grid_Remark(const Depth_Grid_Entry& entry, const Spreadsheet_Table& F1Book1);
 
 }  // namespace barvon

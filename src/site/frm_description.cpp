@@ -273,8 +273,8 @@ void frmDescription::Save() {
   if (entry.Text1[kDensityPoints] != points) {
     Set_Text1(kDensityPoints, entry.Text1[kDensityPoints]);
   }
-  Show_Profile();
   SaveSiteData(entry, table, record_);
+  Show_Profile();
   Port().set_status_line(kSiteLine, kDataSupplied, Status_Colour::Blue);
   const bool blocking = isModal();
   if (ready_to_close) Unload();

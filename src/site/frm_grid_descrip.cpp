@@ -1,5 +1,6 @@
 #include "site/frm_grid_descrip.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -23,7 +24,8 @@ namespace {
 
 constexpr int kOkWithoutButton = 3, kBackWithoutButton = 4;
 constexpr int kDepthGridScreen = 3;  // ScreenDataSupplied
-constexpr QSize kTableSize{440, 320};
+constexpr QSize kTableSize{400, 320};
+constexpr int kMapWidth = 280;  // below it headings and scale crowd the map out
 
 }  // namespace
 
@@ -66,6 +68,7 @@ QWidget* frmGridDescrip::Grid_Frame() {
   F1Book1->setMinimumSize(kTableSize);
   F1Book1->SetFocusCell(1, 1);
   F1Book1->SetNumberNote(Real_Note);
+  map_->setMinimumWidth(kMapWidth);
   auto* halves = new QHBoxLayout(frame);
   halves->addWidget(F1Book1, 3);
   halves->addWidget(map_, 2);
@@ -98,6 +101,11 @@ void frmGridDescrip::Connect() {
     Initialize_Depth_Grid(InitialDepth_, Check3D2->isChecked(), F1Book1->table());
     Show_Map();
   });
+  // Return behind the depth means the button beside it: OK would store a table without that depth.
+  connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* from, const QWidget* to) {
+    if (to == Text1) Command2->setDefault(true);
+    if (from == Text1) Command1(kOk)->setDefault(true);
+  });
   connect(F1Book1, &F1Book::Edited, this, &frmGridDescrip::F1Book1_EndEdit);
   connect(Import_, &QPushButton::clicked, this, &frmGridDescrip::Import);
   connect(Export_, &QPushButton::clicked, this, &frmGridDescrip::Export);
@@ -115,7 +123,6 @@ void frmGridDescrip::Opening() {
   }
   Text1_Change();
   ShowDepthGrid(size_, Check3D2->isChecked(), record_, F1Book1->table());
-  map_->Set_Caption(QString::fromStdString(Depth_Grid_Remark(size_)));
   Show_Map();
 }
 
@@ -140,7 +147,10 @@ void frmGridDescrip::Command1_Click(int index) {
   }
 }
 
-void frmGridDescrip::Check3D2_Click() { Text1->setEnabled(Check3D2->isChecked()); }
+void frmGridDescrip::Check3D2_Click() {
+  Text1->setEnabled(Check3D2->isChecked());
+  Show_Remark();
+}
 
 void frmGridDescrip::Text1_Change() {
   const Number_Reading reading = Read_Real(Text1->text().toStdString());
@@ -149,6 +159,7 @@ void frmGridDescrip::Text1_Change() {
   } else {
     InitialDepth_ = *reading.value;
   }
+  Show_Remark();
 }
 
 void frmGridDescrip::F1Book1_EndEdit() {
@@ -158,9 +169,13 @@ void frmGridDescrip::F1Book1_EndEdit() {
 }
 
 void frmGridDescrip::Save() {
-  SaveDepthGrid({Check3D2->isChecked(), Text1->text().toStdString()}, F1Book1->table(), record_);
+  SaveDepthGrid(Entry(), F1Book1->table(), record_);
   Unload();
   record_.ScreenDataSupplied[kDepthGridScreen] = kTrue;
+}
+
+Depth_Grid_Entry frmGridDescrip::Entry() const {
+  return {Check3D2->isChecked(), Text1->text().toStdString()};
 }
 
 void frmGridDescrip::Import() {
@@ -181,6 +196,11 @@ void frmGridDescrip::Show_Map() {
   grid.columns = size_.columns;
   grid.depths = Drawn_Cells(F1Book1->table());
   map_->Show(std::move(grid));
+  Show_Remark();
+}
+
+void frmGridDescrip::Show_Remark() {
+  map_->Set_Caption(QString::fromStdString(Depth_Grid_Remark(Entry(), F1Book1->table())));
 }
 
 void Register_frmGridDescrip(QWidget* workspace) {

@@ -38,6 +38,8 @@ class frmGridDescrip : public Input_Screen {
   void Import();
   void Export();
   void Show_Map();
+  void Show_Remark();
+  Depth_Grid_Entry Entry() const;
 
   ProjectRecord& record_;
   Depth_Grid_Size size_;

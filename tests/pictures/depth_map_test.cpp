@@ -1,6 +1,7 @@
 #include "pictures/depth_map.h"
 
 #include <gtest/gtest.h>
+#include <qcustomplot.h>
 
 #include <limits>
 
@@ -106,6 +107,23 @@ TEST(DepthMap, The_Largest_Grid_And_Single_Rows_And_Columns_Are_In_Their_Place) 
     const QPointF last = map.Place_Of(rows, columns);
     EXPECT_LT(Difference(seen.pixelColor(last.toPoint()), map.Colour_Of(40)), 6) << rows;
     EXPECT_TRUE(map.Tip_At(last).endsWith("40.00 ft")) << rows << " " << columns;
+  }
+}
+
+TEST(DepthMap, Headings_Stand_Apart_In_A_Narrow_Picture_Too) {
+  Depth_Map map;
+  map.Show({96, 96, std::vector<double>(96 * 96, 1234.5)});
+  const QCPAxis& axis = *map.findChild<QCustomPlot*>()->xAxis2;
+  const QFontMetricsF metrics(axis.tickLabelFont());
+  for (int width = 200; width <= 900; width += 20) {
+    Seen(map, {width, 360});
+    double taken = -1e9;  // to where the headings before it reach
+    for (qsizetype i = 0; i < axis.tickVector().size(); ++i) {
+      const double half = metrics.horizontalAdvance(axis.tickVectorLabels().at(i)) / 2;
+      const double middle = axis.coordToPixel(axis.tickVector().at(i));
+      EXPECT_GT(middle - half, taken) << width << " " << i;
+      taken = middle + half;
+    }
   }
 }
 

@@ -17,12 +17,12 @@ int Difference(const QColor& a, const QColor& b) {
          std::abs(a.blue() - b.blue());
 }
 
-int Count_Pixels(const QImage& image, const QRect& area, const QColor& colour) {
+int Count_Pixels(const QImage& image, const QRect& area, const QColor& colour, int tolerance) {
   int count = 0;
   const QRect inside = area & image.rect();
   for (int y = inside.top(); y <= inside.bottom(); ++y) {
     for (int x = inside.left(); x <= inside.right(); ++x) {
-      if (Difference(image.pixelColor(x, y), colour) < 60) ++count;
+      if (Difference(image.pixelColor(x, y), colour) < tolerance) ++count;
     }
   }
   return count;

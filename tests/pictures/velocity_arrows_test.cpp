@@ -16,8 +16,11 @@ Velocity_Grid Even_Grid(int rows, int columns, double x, double z) {
   return {rows, columns, std::vector<double>(count, x), std::vector<double>(count, z)};
 }
 
+// A thin line between two rows of pixels leaves half its ink in each.
+constexpr int kHalfInk = 300;
+
 int Ink_Near(const QImage& seen, const QPointF& place) {
-  return Count_Pixels(seen, QRect(place.toPoint() - QPoint(3, 3), QSize(7, 7)), kInk);
+  return Count_Pixels(seen, QRect(place.toPoint() - QPoint(3, 3), QSize(7, 7)), kInk, kHalfInk);
 }
 
 // The head makes the tip's end heavier than the tail's.

@@ -389,5 +389,38 @@ TEST_F(InputScreen, A_Fresh_Screen_Blocks_When_It_Is_Told_To) {
   EXPECT_EQ(Small_Screen::alive, 0);
 }
 
+// Two windows over the main one may be stacked either way, and who blocks must never lie below.
+TEST_F(InputScreen, A_Blocking_Screen_Stands_Over_The_Screen_It_Is_Opened_From) {
+  Open();
+  Come_To(screen);
+  const auto opener = Fresh_Screens<Small_Screen>(&main);
+  const QWindow* below = nullptr;
+  const auto open_and_look = [&] {
+    QTimer::singleShot(0, &main, [&] {
+      QWidget* front = QApplication::activeModalWidget();
+      below = front->windowHandle()->transientParent();
+      static_cast<Small_Screen*>(front)->Unload();
+    });
+    opener(true, "");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
+  open_and_look();
+  EXPECT_EQ(below, screen->windowHandle());
+  Come_To(&main);
+  open_and_look();
+  EXPECT_EQ(below, main.windowHandle());
+}
+
+// It would go when that screen goes.
+TEST_F(InputScreen, A_Screen_That_Does_Not_Block_Stands_Over_The_Workspace) {
+  Open();
+  Come_To(screen);
+  Fresh_Screens<Small_Screen> (&main)(false, "");
+  for (Small_Screen* each : main.findChildren<Small_Screen*>()) {
+    EXPECT_EQ(each->parentWidget(), &main);
+  }
+  EXPECT_EQ(Small_Screen::alive, 2);
+}
+
 }  // namespace
 }  // namespace barvon::testing

@@ -100,6 +100,41 @@ TEST_F(DensityEndpoints, Each_Count_And_Each_State_Ask_Their_Own_Questions) {
   }
 }
 
+TEST_F(DensityEndpoints, Each_Question_Has_An_Answer_Of_Its_Own) {
+  for (const int n : {2, 3}) {
+    Make(n, 0);
+    Ensure({Answer::Yes, Answer::No});
+    EXPECT_EQ(table_->ShownRC(1, 1), "2.0");
+    EXPECT_EQ(table_->ShownRC(n + 1, 1), "30.6");
+    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n + 1));
+    EXPECT_FALSE(ready_to_close_) << "the row that was added is not filled yet";
+    Make(n, 0);
+    Ensure({Answer::No, Answer::Yes});
+    EXPECT_EQ(table_->ShownRC(1, 1), "0.0");
+    EXPECT_EQ(table_->ShownRC(n + 1, 1), "20.0");
+    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n + 1));
+    EXPECT_FALSE(ready_to_close_);
+  }
+  Make(5, 0);
+  Ensure({Answer::Yes, Answer::No});
+  EXPECT_EQ(Shown_Column(*table_, 1), (Cells{"2.0", "4.0", "5.0", "6.0", "31.0"}));
+  Make(5, 0);
+  Ensure({Answer::No, Answer::Yes});
+  EXPECT_EQ(Shown_Column(*table_, 1), (Cells{"0.0", "4.0", "5.0", "6.0", "20.0"}));
+}
+
+TEST_F(DensityEndpoints, A_Bottom_Beyond_32_Bits_Is_Refused_In_Words_And_Adds_No_Row) {
+  for (const int n : {2, 4}) {
+    Make(n, 1);
+    entry_.Text1[kConstantDepth] = "1e300";
+    EXPECT_EQ(Ensure({Answer::Yes, Answer::Ok}),
+              (Texts{kBottomRow, "The Bottom Depth Is Too Large.  Please Correct It."}));
+    EXPECT_EQ(table_->MaxRow(), n);
+    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n));
+    EXPECT_TRUE(ready_to_close_);
+  }
+}
+
 TEST_F(DensityEndpoints, A_Count_Outside_2_To_5_Asks_Nothing) {
   for (const char* count : {"1", "0", "-3", "6", "97", "", "many", "1e300", "-1e300"}) {
     Make(3, 0);

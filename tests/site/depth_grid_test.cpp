@@ -226,10 +226,27 @@ TEST_F(DepthGrid, Counts_Of_The_Record_Beyond_The_Grid_Read_Nothing_Behind_It) {
 }
 
 TEST_F(DepthGrid, Only_A_Grid_That_Is_Not_Square_Says_That_Depths_Do_Not_Reach_The_Solver) {
-  EXPECT_EQ(Depth_Grid_Remark({32, 32}), "");
-  EXPECT_EQ(Depth_Grid_Remark({12, 20}),
+  Show(32, 32);
+  EXPECT_EQ(Depth_Grid_Remark({}, table_), "");
+  Show(12, 20);
+  EXPECT_EQ(Depth_Grid_Remark({}, table_),
             "The solver takes \"Col a\", \"Row b\" as X point a and Z point b. This grid is not "
             "square, so some of these depths never reach it.");
+}
+
+TEST_F(DepthGrid, A_Table_Says_When_The_Next_Opening_Shows_One_Depth_Instead) {
+  const std::string other =
+      "While the box is checked, the next opening shows 30.25 ft in every cell, not these depths.";
+  Show(2, 2);
+  EXPECT_EQ(Depth_Grid_Remark({true, "30.25"}, table_), other);
+  EXPECT_EQ(Depth_Grid_Remark({false, "30.25"}, table_), "");
+  for (const char* no_depth : {"0", "", "-3"}) {
+    EXPECT_EQ(Depth_Grid_Remark({true, no_depth}, table_), "") << no_depth;
+  }
+  Initialize_Depth_Grid(30.25, true, table_);
+  EXPECT_EQ(Depth_Grid_Remark({true, "30.25"}, table_), "");
+  table_.NumberRC(2, 2, 31);
+  EXPECT_EQ(Depth_Grid_Remark({true, "30.25"}, table_), other);
 }
 
 RC_GTEST_PROP(DepthGridProperty, Stored_Depths_Are_Shown_Again_In_Any_Size, ()) {

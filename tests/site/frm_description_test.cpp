@@ -464,6 +464,65 @@ TEST_F(SiteScreen, Two_Rows_With_Neither_End_Right_And_Yes_Twice_Stay_Open_With_
   EXPECT_EQ(record.Densities[4], 1.025);
 }
 
+TEST_F(SiteScreen, While_A_New_Row_Keeps_It_Open_The_Main_Window_Is_Told_All_The_Same) {
+  record.DensityDepths = {0, 0, 20};
+  Open();
+  Enter(4, "30");
+  const Scripted_Messages messages({Answer::Yes});
+  Click(Command1(0));
+  ASSERT_TRUE(Is_Open());
+  EXPECT_EQ(record.DataSaved, kFalse);
+  EXPECT_EQ(record.DEPC0, 30);
+  EXPECT_EQ(record.DensityDepths[3], 30);
+  EXPECT_EQ(record.ScreenDataSupplied[2], kTrue);
+  EXPECT_EQ(bench.controls().Text2(1)->text(), "Data Supplied");
+  EXPECT_TRUE(bench.Action("mnuEditItem(1)")->isChecked());
+  EXPECT_EQ(bench.controls().SiteLabel(2)->text(), "Water Depth is Constant at 30.00 Ft");
+}
+
+TEST_F(SiteScreen, While_A_New_Row_Keeps_It_Open_The_Bottom_Is_That_Of_The_Counts_Just_Saved) {
+  record.NMAX0 = record.MMAX0 = 32;
+  record.ConstantDepthFlag = 0;
+  record.DepthGrid[12][9] = 90;
+  record.DepthGrid[8][8] = 80;
+  Open();
+  Enter(0, "8");
+  Enter(1, "8");
+  EXPECT_EQ(Profile()->Drawn().bottom, 90);
+  const Scripted_Messages messages({Answer::Yes});
+  Click(Command1(0));
+  ASSERT_TRUE(Is_Open());
+  EXPECT_EQ(Table().NumberRC(3, 1), 90) << "asked before the counts are saved";
+  EXPECT_EQ(Profile()->Drawn().bottom, 80);
+}
+
+TEST_F(SiteScreen, A_Fraction_Of_A_Count_Is_In_The_Dimensions_And_Cut_By_Ok) {
+  Open();
+  Enter(0, "12.7");
+  EXPECT_EQ(Dimension(0), "1,170.00");  // 11.7 x 100
+  Click(Command1(0));
+  EXPECT_EQ(record.NMAX0, 12);
+  EXPECT_EQ(record.DistZ, 1170) << "as at the last edit";
+}
+
+TEST_F(SiteScreen, Return_In_The_Table_Never_Presses_Ok) {
+  Open();
+  Enter_Cell(2, 1, "31");  // the last row
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) QTest::keyClick(Book(), key);
+  QTest::keyClick(Book(), Qt::Key_F2);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Is_Open());
+  EXPECT_EQ(Changed(), Names{});
+}
+
+TEST_F(SiteScreen, Return_In_A_Field_Is_Ok_And_Saves_What_Was_Typed) {
+  Open();
+  Enter(5, "0.02");
+  QTest::keyClick(Text1(5), Qt::Key_Return);
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(record.RHDA0, 0.02);
+}
+
 TEST_F(SiteScreen, Five_Rows_With_Yes_To_The_Bottom_Get_A_Last_Depth_Of_31) {
   record.NROA0 = 5;
   record.DensityDepths = {0, 0, 5, 10, 15, 20};

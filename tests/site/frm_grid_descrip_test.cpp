@@ -75,6 +75,13 @@ class DepthScreen : public ::testing::Test {
   F1Book* Book() { return Child<F1Book>("F1Book1"); }
   Spreadsheet_Table& Table() { return Book()->table(); }
   Depth_Map* Map() { return Child<Depth_Map>("DepthMap"); }
+  /// Whether the words beside the map hold that text.
+  bool Says(const char* text) {
+    for (const QLabel* label : Map()->findChildren<QLabel*>()) {
+      if (label->text().contains(QLatin1String(text))) return true;
+    }
+    return false;
+  }
   QPushButton* Command1(int index) {
     return Screen()->findChild<QPushButton*>(QStringLiteral("Command1(%1)").arg(index));
   }
@@ -142,6 +149,36 @@ TEST_F(DepthScreen, Takes_The_Size_That_Is_Typed_On_The_Open_Site_Screen) {
   Click(site->findChild<QPushButton*>("Command2(1)"));
 }
 
+TEST_F(DepthScreen, Stands_Over_The_Site_Screen_Whose_Cancel_Then_Restores_What_Stood_By_Then) {
+  for (const std::int16_t mode : {0, 1}) {
+    record.ConstantDepthFlag = 1;
+    const auto define_grid = [&] {
+      auto* site = static_cast<frmDescription*>(Window("frmDescription"));
+      ASSERT_TRUE(Has_Keyboard(site));
+      Click(site->findChild<QCheckBox*>("Check3D1(1)"));
+      site->findChild<QPushButton*>("Command2(1)")->click();
+      site->activateWindow();  // as the desktop does when the grid goes
+      ASSERT_TRUE(Has_Keyboard(site));
+      site->Command1_Click(1);
+    };
+    const auto look = [&](QWidget* window) {
+      ASSERT_EQ(window, Screen());
+      EXPECT_EQ(window->parentWidget(), Window("frmDescription")) << mode;
+      Click(Command1(1));
+    };
+    if (mode == 0) {
+      Modal_Replies replies({look});
+      ASSERT_TRUE(Open_Screen("frmDescription", false));
+      define_grid();
+    } else {
+      Modal_Replies replies({[&](QWidget*) { define_grid(); }, look});
+      ASSERT_TRUE(Open_Screen("frmDescription", true));
+    }
+    EXPECT_EQ(Window("frmDescription"), nullptr);
+    EXPECT_EQ(record.ConstantDepthFlag, 0) << "the box was checked when the user came back";
+  }
+}
+
 TEST_F(DepthScreen, A_Size_Beyond_The_Grid_Opens_Nothing_And_Keeps_Everything) {
   ASSERT_TRUE(Open_Screen("frmDescription", false));
   auto* site = Window("frmDescription");
@@ -202,6 +239,43 @@ TEST_F(DepthScreen, Initialize_Is_No_Edit) {
   EXPECT_EQ(Changed(), Names{}) << "the one depth changes on OK only";
 }
 
+TEST_F(DepthScreen, Return_Behind_The_Depth_Initializes_And_Nowhere_In_The_Table_Presses_Ok) {
+  Open();
+  Click(Check3D2());
+  Text1()->setFocus();
+  Enter("12");
+  QTest::keyClick(Text1(), Qt::Key_Return);
+  ASSERT_TRUE(Is_Open());
+  EXPECT_EQ(Table().ShownRC(10, 12), "12.00");
+  Enter_Cell(10, 12, "13");
+  QTest::keyClick(Book(), Qt::Key_Return);
+  ASSERT_TRUE(Is_Open());
+  EXPECT_EQ(record.DepthGrid[12][10], 33) << "nothing is stored yet";
+  Check3D2()->setFocus();
+  QTest::keyClick(Check3D2(), Qt::Key_Return);
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(record.DepthGrid[12][10], 13);
+}
+
+TEST_F(DepthScreen, Depths_That_The_Next_Opening_Would_Not_Show_Are_Told_Beside_The_Map) {
+  Open();
+  EXPECT_FALSE(Says("every cell"));
+  Click(Check3D2());
+  EXPECT_FALSE(Says("every cell")) << "0 is no depth to initialize to";
+  Enter("12");
+  EXPECT_TRUE(
+      Says("While the box is checked, the next opening shows 12.00 ft in every cell, not "
+           "these depths."));
+  Click(Command2());
+  EXPECT_FALSE(Says("every cell"));
+  Enter_Cell(3, 3, "13");
+  EXPECT_TRUE(Says("every cell"));
+  EXPECT_TRUE(Says("This grid is not square"));
+  Click(Check3D2());
+  EXPECT_FALSE(Says("every cell"));
+  EXPECT_TRUE(Says("This grid is not square"));
+}
+
 TEST_F(DepthScreen, Initialize_Without_The_Box_Does_Nothing_Without_A_Word) {
   Open();
   const Scripted_Messages none;
@@ -222,6 +296,39 @@ TEST_F(DepthScreen, An_Edit_Clears_The_One_Depth_At_Once_And_Cancel_Does_Not_Bri
   Open();
   EXPECT_FALSE(Check3D2()->isChecked());
   EXPECT_EQ(Table().ShownRC(2, 2), "22.20") << "the stored depth, not the edited one";
+}
+
+TEST_F(DepthScreen, Ok_Brings_The_One_Depth_Back_After_An_Edit_While_The_Box_Is_Checked) {
+  record.DEPTHI = 35.5;
+  Open();
+  Enter_Cell(2, 2, "50");
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPTHI, 35.5);
+  EXPECT_EQ(record.DepthGrid[2][2], 50);
+  EXPECT_EQ(record.DepthGrid[1][1], 35.5);
+}
+
+TEST_F(DepthScreen, A_Negative_One_Depth_Is_Shown_And_Not_Used) {
+  record.DEPTHI = -5;
+  Open();
+  EXPECT_FALSE(Check3D2()->isChecked());
+  EXPECT_FALSE(Text1()->isEnabled());
+  EXPECT_EQ(Text1()->text(), "-5.00");
+  EXPECT_EQ(Table().ShownRC(3, 7), "27.30");
+  Click(Check3D2());
+  Click(Command2());
+  EXPECT_EQ(Table().ShownRC(3, 7), "27.30") << "nor does it fill the grid";
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPTHI, -5) << "passed over without a word";
+}
+
+TEST_F(DepthScreen, Cancel_Forgets_The_Box_Its_Depth_And_The_Grid_It_Filled) {
+  Open();
+  Click(Check3D2());
+  Enter("12");
+  Click(Command2());
+  Click(Command1(1));
+  EXPECT_EQ(Changed(), Names{});
 }
 
 TEST_F(DepthScreen, Clear_Cut_Paste_And_Undo_Are_Edits) {
@@ -312,18 +419,12 @@ TEST_F(DepthScreen, Depths_Are_Mapped_Live) {
 }
 
 TEST_F(DepthScreen, A_Grid_That_Is_Not_Square_Says_So_Beside_Its_Map) {
-  const auto said = [this] {
-    for (const QLabel* label : Map()->findChildren<QLabel*>()) {
-      if (label->text().contains("This grid is not square")) return true;
-    }
-    return false;
-  };
   Open();
-  EXPECT_TRUE(said());
+  EXPECT_TRUE(Says("This grid is not square"));
   Click(Command1(1));
   record.MMAX0 = 12;
   Open();
-  EXPECT_FALSE(said());
+  EXPECT_FALSE(Says("This grid is not square"));
 }
 
 TEST_F(DepthScreen, An_Import_Is_An_Edit_That_Can_Be_Undone) {

@@ -170,6 +170,11 @@ void Input_Screen::reject() {
   }
 }
 
+QWidget* Input_Screen::Window_Below(bool blocking, QWidget* workspace) {
+  auto* front = dynamic_cast<Input_Screen*>(QApplication::activeWindow());
+  return blocking && front != nullptr && front->isVisible() ? front : workspace;
+}
+
 void Input_Screen::Unload() { done(Rejected); }
 
 void Input_Screen::Run_Command(int index) {

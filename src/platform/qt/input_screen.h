@@ -32,6 +32,10 @@ class Input_Screen : public QDialog {
   /// Escape and the close box are Cancel.
   void reject() override;
 
+  /// What a screen that is opened now belongs to. One that blocks stays over the screen it is
+  /// opened from, which can't go before it; any other stands over the workspace.
+  static QWidget* Window_Below(bool blocking, QWidget* workspace);
+
   /// Closes the screen without asking anyone.
   void Unload();
   /// Called while the close box is at work it would do nothing.
@@ -80,7 +84,7 @@ std::function<void(bool, const std::string&)> Fresh_Screens(QWidget* workspace) 
   const auto open = std::make_shared<QPointer<Screen>>();
   return [workspace, open](bool blocking, const std::string& control) {
     if (open->isNull() || !(*open)->isVisible()) {
-      *open = new Screen(workspace);
+      *open = new Screen(Input_Screen::Window_Below(blocking, workspace));
       QObject::connect(open->data(), &QDialog::finished, open->data(), &QObject::deleteLater);
     }
     (*open)->Open(blocking, control);
