@@ -97,7 +97,6 @@ class SpreadsheetView : public ::testing::Test {
     return book->model()->index(row - 1, col - 1).data(role);
   }
 
-  QDialog screen;
   QLineEdit* before;
   F1Book* book;
   QPushButton* ok;
@@ -105,6 +104,7 @@ class SpreadsheetView : public ::testing::Test {
   std::string read_on_ok;
   std::vector<std::string> edits;
   std::string cursor_at_edit;
+  QDialog screen;  // goes first: a cell that is still edited then tells its edit
 };
 
 }  // namespace barvon::testing
