@@ -181,6 +181,9 @@ Depth_Grid_Entry frmGridDescrip::Entry() const {
 void frmGridDescrip::Import() {
   const auto rows = Import_Grid_Csv("Import Depth Grid", size_.rows, size_.columns);
   if (!rows) return;
+  // Or the one depth would stand over what was imported at the next opening.
+  Check3D2->setChecked(false);
+  Check3D2_Click();
   Put_Rows(*rows, F1Book1->table());
   F1Book1_EndEdit();
 }

@@ -83,20 +83,13 @@ class SiteScreen : public ::testing::Test {
   Density_Profile* Profile() { return Screen()->findChild<Density_Profile*>("DensityProfile"); }
   Cells Column(int column) { return Shown_Column(Table(), column); }
 
-  static void Click(QAbstractButton* button) {
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-  }
   /// Replaces a field's text by one paste, so that it changes once.
   void Enter(int index, const QString& text) {
     Text1(index)->selectAll();
     Text1(index)->insert(text);
   }
-  /// Types into a cell as a person does.
   void Enter_Cell(int row, int column, const QString& text) {
-    Book()->setFocus();
-    Table().SetActiveCell(row, column);
-    for (const QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    Type_Into_Cell(*Book(), row, column, text);
   }
   Names Changed() const { return Differing_Fields(*before, record); }
 

@@ -85,18 +85,12 @@ class DepthScreen : public ::testing::Test {
   QPushButton* Command1(int index) {
     return Screen()->findChild<QPushButton*>(QStringLiteral("Command1(%1)").arg(index));
   }
-  static void Click(QAbstractButton* button) {
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-  }
   void Enter(const QString& text) {
     Text1()->selectAll();
     Text1()->insert(text);
   }
   void Enter_Cell(int row, int column, const QString& text) {
-    Book()->setFocus();
-    Table().SetActiveCell(row, column);
-    for (const QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    Type_Into_Cell(*Book(), row, column, text);
   }
   Names Changed() const { return Differing_Fields(*before, record); }
 
@@ -438,12 +432,15 @@ TEST_F(DepthScreen, An_Import_Is_An_Edit_That_Can_Be_Undone) {
   EXPECT_EQ(Table().NumberRC(2, 3), 6.125);
   EXPECT_EQ(Table().ShownRC(1, 2), "2.00");
   EXPECT_EQ(record.DEPTHI, 0);
+  EXPECT_FALSE(Child<QCheckBox>("Check3D2")->isChecked());
+  EXPECT_FALSE(Text1()->isEnabled());
   EXPECT_EQ(Map()->Drawn().depths.at(5), 6.125);
   Book()->Undo();
   EXPECT_EQ(Table().ShownRC(2, 3), "9.00");
   Book()->Redo();
   Click(Command1(0));
   EXPECT_EQ(record.DepthGrid[3][2], 6.125);
+  EXPECT_EQ(record.DEPTHI, 0);
 }
 
 TEST_F(DepthScreen, A_Faulty_Import_Is_Told_With_Its_Place_And_Changes_Nothing) {

@@ -104,13 +104,8 @@ class VelocityScreen : public ::testing::Test {
     field->del();
     Type(field, text);
   }
-  /// Types into a cell as a person does: the cell is chosen, typing replaces it, Return ends it.
   void Enter_Cell(F1Book* book, int row, int column, const QString& text) {
-    book->setFocus();
-    book->table().SetActiveCell(row, column);
-    // The first key brings the cell's own field up, which takes the rest.
-    for (const QChar key : text) QTest::keyClick(Screen()->focusWidget(), key.toLatin1());
-    QTest::keyClick(Screen()->focusWidget(), Qt::Key_Return);
+    Type_Into_Cell(*book, row, column, text);
     ASSERT_EQ(book->table().TextRC(row, column), text.toStdString());
   }
   Fields Changed() const { return Differing_Fields(*before, record); }

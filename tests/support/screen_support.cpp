@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -70,6 +69,18 @@ void Type(QWidget* field, const QString& text) {
     QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
     QApplication::sendEvent(field, &key);
   }
+}
+
+void Click(QAbstractButton* button) {
+  QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
+void Type_Into_Cell(F1Book& book, int row, int column, const QString& text) {
+  book.setFocus();
+  book.table().SetActiveCell(row, column);
+  // The first key brings up the cell's own field, which takes the rest.
+  for (const QChar key : text) QTest::keyClick(QApplication::focusWidget(), key.toLatin1());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
 }
 
 bool Has_Keyboard(QWidget* window) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QMessageBox>
 #include <QString>
 #include <QTimer>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "platform/qt/qt_services.h"
+#include "platform/qt/spreadsheet_view.h"
 #include "support/plain_support.h"
 #include "workspace/main_window.h"
 
@@ -69,6 +71,12 @@ class Main_Bench {
 
 /// Types a text of any alphabet.
 void Type(QWidget* field, const QString& text);
+
+/// Clicks where a person does, at a button's left end.
+void Click(QAbstractButton* button);
+
+/// Types into a cell of a table and ends with Return.
+void Type_Into_Cell(F1Book& book, int row, int column, const QString& text);
 
 /// Waits until the window has the keyboard. That a window is active says less: a dialog's parent is
 /// active with it.

@@ -10,7 +10,7 @@ constexpr char kTwoPointQuestion[] =
     "To Use Two-Point Velocity Profile Variable Depth Must Be Disabled. Do You Wish To Disable "
     "Variable Depth Specification Now?";
 
-TEST_F(DataBoard, Captions_Stand_As_They_Are_Told) {
+TEST_F(DataBoard, Every_Caption_Has_Its_Wording) {
   const std::pair<const char*, const char*> frames[] = {
       {"Frame3D7", "Program Options"},       {"Frame3D8", "Simulation Type"},
       {"Frame3D13", "Evaluation Type"},      {"Frame3D9", "Output Options"},

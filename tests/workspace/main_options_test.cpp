@@ -11,6 +11,7 @@
 namespace barvon {
 namespace {
 
+using testing::Click;
 using testing::Main_Bench;
 using testing::Modal_Replies;
 using testing::Press;
@@ -19,11 +20,7 @@ QColor Text_Colour(const QWidget* control) {
   return control->palette().color(QPalette::Active, QPalette::WindowText);
 }
 
-void Click(QWidget* control) {
-  QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(10, control->height() / 2));
-}
-
-TEST(MainOptions, Captions_Of_The_Main_Menu_Board_Stand_As_They_Are_Told) {
+TEST(MainOptions, Every_Caption_Of_The_Main_Menu_Board_Has_Its_Wording) {
   Main_Bench bench;
   Main_Controls& c = bench.controls();
   const std::pair<const QAbstractButton*, const char*> buttons[] = {

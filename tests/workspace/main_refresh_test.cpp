@@ -18,7 +18,7 @@ namespace {
 using namespace barvon::testing;
 
 /// What a refresh makes of a record, by the rules.
-void Apply_What_Is_Told(ProjectRecord& r) {
+void Apply_What_A_Refresh_Changes(ProjectRecord& r) {
   if (r.KEY4 >= 1 && r.KEY4 <= 6) {
     r.AnalysisType = r.KEY4 <= 2 ? 1 : r.KEY4 <= 4 ? 2 : 3;
     r.FileKind = 2;
@@ -65,7 +65,7 @@ class Random_Records {
   std::mt19937 engine_{20260113};
 };
 
-TEST(MainRefresh, A_Random_Record_Is_The_Same_But_For_What_Is_Told) {
+TEST(MainRefresh, A_Random_Record_Is_The_Same_But_For_What_A_Refresh_Changes) {
   Main_Bench bench;
   Modal_Replies no_question({});
   Random_Records random;
@@ -73,7 +73,7 @@ TEST(MainRefresh, A_Random_Record_Is_The_Same_But_For_What_Is_Told) {
   for (int round = 0; round < 300; ++round) {
     random.Fill(Project());
     *expected = Project();
-    Apply_What_Is_Told(*expected);
+    Apply_What_A_Refresh_Changes(*expected);
     Port().display_data();
     ASSERT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << round;
     bench.controls().SSPanel3(0)->click();
@@ -101,7 +101,7 @@ TEST(MainRefresh, A_Random_Project_Loaded_Refreshed_And_Saved_Again_Is_The_Same_
   }
 }
 
-TEST(MainRefresh, Every_Sample_Is_The_Same_But_For_What_Is_Told) {
+TEST(MainRefresh, Every_Sample_Is_The_Same_But_For_What_A_Refresh_Changes) {
   Main_Bench bench;
   Modal_Replies no_question({});
   auto expected = std::make_unique<ProjectRecord>();
@@ -111,7 +111,7 @@ TEST(MainRefresh, Every_Sample_Is_The_Same_But_For_What_Is_Told) {
     ++samples;
     ASSERT_TRUE(Open_Project(entry.path().string(), Project()));
     *expected = Project();
-    Apply_What_Is_Told(*expected);
+    Apply_What_A_Refresh_Changes(*expected);
     Port().display_data();
     bench.controls().SSPanel3(0)->click();
     Port().display_data();
