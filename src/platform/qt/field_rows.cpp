@@ -14,6 +14,13 @@ QString Without_Mnemonic(QString text) {
       .replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
 
+/// Fields of numbers are as wide as each other, typed or shown.
+void Size_For_Number(QLineEdit* field) {
+  const int text_width = field->fontMetrics().averageCharWidth() * kFieldCharacters;
+  field->setMinimumWidth(text_width + field->sizeHint().height());  // with room for the mark
+  field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
 }  // namespace
 
 Field_Rows::Field_Rows(QWidget* frame) : grid_(new QGridLayout(frame)) {
@@ -25,9 +32,7 @@ QLabel* Field_Rows::Number(const QString& label, QLineEdit* field, Number_Note n
   Make_Number_Field(field, std::move(note));
   field->setProperty(kTag, tag);
   QLabel* const shown = Add(label, field);
-  const int text_width = field->fontMetrics().averageCharWidth() * kFieldCharacters;
-  field->setMinimumWidth(text_width + field->sizeHint().height());  // with room for the mark
-  field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  Size_For_Number(field);
   return shown;
 }
 
@@ -42,7 +47,9 @@ QLabel* Field_Rows::Shown(const QString& label, QLineEdit* field, const QString&
   QPalette palette = field->palette();
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   field->setPalette(palette);
-  return Add(label, field);
+  QLabel* const shown = Add(label, field);
+  Size_For_Number(field);
+  return shown;
 }
 
 void Field_Rows::Whole_Row(QWidget* control) {
