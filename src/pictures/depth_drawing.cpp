@@ -69,10 +69,7 @@ std::string Depth_Cell_Text(const Depth_Grid& grid, int row, int column) {
   if (!Grid_Is_Whole(grid.rows, grid.columns, grid.depths)) return {};
   if (row < 1 || row > grid.rows || column < 1 || column > grid.columns) return {};
   const std::size_t index = static_cast<std::size_t>(row - 1) * grid.columns + column - 1;
-  std::string text = Cell_Text(row, column) + ": " + Depth_Text(grid.depths[index]);
-  const std::string distance = Distance_Text(row, column, grid.row_spacing, grid.column_spacing);
-  if (!distance.empty()) text += "\n" + distance;
-  return text;
+  return Cell_Text(row, column) + ": " + Depth_Text(grid.depths[index]);
 }
 
 }  // namespace barvon

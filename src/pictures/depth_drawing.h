@@ -13,8 +13,6 @@ struct Depth_Grid {
   int rows = 0;     // points in X, from top to bottom
   int columns = 0;  // points in Z, from left to right
   std::vector<double> depths;
-  double row_spacing = 0;     // ft between two rows; 0 when not known
-  double column_spacing = 0;  // ft between two columns; 0 when not known
 };
 
 /// What the depth map draws.
@@ -32,8 +30,8 @@ struct Depth_Drawing {
 /// A grid whose count of values is not rows x columns is drawn as an empty one.
 Depth_Drawing Draw_Depths(const Depth_Grid& grid);
 
-/// Row, column (both from 1) and depth of a cell in words, with its distances from the top left
-/// point when the spacing is known. Empty outside of the grid.
+/// Row, column (both from 1) and depth of a cell in words; no distances, since table and solver do
+/// not count the axes of depths alike. Empty outside of the grid.
 std::string Depth_Cell_Text(const Depth_Grid& grid, int row, int column);
 
 }  // namespace barvon

@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <utility>
 #include <vector>
 
 #include "core/book_numbers.h"
@@ -193,12 +192,7 @@ void frmGridDescrip::Export() {
 }
 
 void frmGridDescrip::Show_Map() {
-  // Without the spacing: how far a cell lies from the corner is not the same for table and solver.
-  Depth_Grid grid;
-  grid.rows = size_.rows;
-  grid.columns = size_.columns;
-  grid.depths = Drawn_Cells(F1Book1->table());
-  map_->Show(std::move(grid));
+  map_->Show({size_.rows, size_.columns, Drawn_Cells(F1Book1->table())});
   Show_Remark();
 }
 

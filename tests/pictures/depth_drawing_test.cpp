@@ -12,7 +12,7 @@ constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 // Two rows of three columns:   10 20 30
 //                              40 50 65
-Depth_Grid Small_Grid() { return {2, 3, {10, 20, 30, 40, 50, 65}, 200, 300}; }
+Depth_Grid Small_Grid() { return {2, 3, {10, 20, 30, 40, 50, 65}}; }
 
 TEST(DepthDrawing, Tells_Range_And_Where_It_Is) {
   const Depth_Drawing drawing = Draw_Depths(Small_Grid());
@@ -28,15 +28,12 @@ TEST(DepthDrawing, Tells_Range_And_Where_It_Is) {
             "65.00 ft (Row 2, Col 3).");
 }
 
-// Row 2 is one spacing of 200 ft down, column 3 two of 300 ft to the right.
-TEST(DepthDrawing, A_Cell_Tells_Its_Place_Depth_And_Distances) {
-  EXPECT_EQ(Depth_Cell_Text(Small_Grid(), 2, 3),
-            "Row 2, Col 3: 65.00 ft\nX 200 ft from the top, Z 600 ft from the left");
-  Depth_Grid unspaced = Small_Grid();
-  unspaced.row_spacing = 0;
-  EXPECT_EQ(Depth_Cell_Text(unspaced, 1, 2), "Row 1, Col 2: 20.00 ft");
-  unspaced.depths[1] = kNan;
-  EXPECT_EQ(Depth_Cell_Text(unspaced, 1, 2), "Row 1, Col 2: no depth");
+TEST(DepthDrawing, A_Cell_Tells_Its_Place_And_Depth) {
+  EXPECT_EQ(Depth_Cell_Text(Small_Grid(), 2, 3), "Row 2, Col 3: 65.00 ft");
+  EXPECT_EQ(Depth_Cell_Text(Small_Grid(), 1, 2), "Row 1, Col 2: 20.00 ft");
+  Depth_Grid empty_cell = Small_Grid();
+  empty_cell.depths[1] = kNan;
+  EXPECT_EQ(Depth_Cell_Text(empty_cell, 1, 2), "Row 1, Col 2: no depth");
   for (const auto& [row, column] : {std::pair(0, 1), {3, 1}, {1, 0}, {1, 4}}) {
     EXPECT_EQ(Depth_Cell_Text(Small_Grid(), row, column), "");
   }

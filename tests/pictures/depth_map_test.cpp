@@ -12,7 +12,7 @@ namespace {
 
 // 8 rows of 12 columns; the depth tells its cell: 10 x row + column.
 Depth_Grid Telling_Grid() {
-  Depth_Grid grid = {8, 12, {}, 100, 200};
+  Depth_Grid grid = {8, 12, {}};
   for (int row = 1; row <= 8; ++row) {
     for (int column = 1; column <= 12; ++column) grid.depths.push_back(10 * row + column);
   }

@@ -19,7 +19,7 @@
 namespace barvon::testing {
 namespace {
 
-const Depth_Grid kGrid = {2, 2, {10, 20, 30, 40}, 100, 100};
+const Depth_Grid kGrid = {2, 2, {10, 20, 30, 40}};
 
 /// Answers the save dialog with one path, or as Cancel, and keeps what was asked.
 class Scripted_Save {
