@@ -34,6 +34,8 @@ class Picture : public QWidget {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  /// Its note wraps, but a layout that asked the note for the height would squeeze the plot.
+  bool hasHeightForWidth() const override { return false; }
 
  protected:
   /// `name` is the accessible name and the title of a saved picture, `file_name` what the save

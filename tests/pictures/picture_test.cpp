@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSvgRenderer>
 #include <QTest>
@@ -45,6 +47,20 @@ void Choose(Picture& picture, const QString& text) {
     if (action->text() == text) return action->trigger();
   }
   ADD_FAILURE() << "no " << text.toStdString();
+}
+
+TEST(Picture, A_Note_Takes_No_Height_From_The_Plot) {
+  QWidget screen;
+  auto* row = new QHBoxLayout(&screen);
+  auto* label = new QLabel(QStringLiteral("A label that wraps makes the row ask for heights."));
+  label->setWordWrap(true);
+  row->addWidget(label);
+  auto* map = new Depth_Map;
+  row->addWidget(map);
+  map->Show({2, 2, {30, 30, 30, 30}});
+  EXPECT_EQ(map->Drawn().note, "30.00 ft everywhere.");
+  ASSERT_TRUE(row->hasHeightForWidth());
+  EXPECT_GE(row->totalHeightForWidth(700), map->sizeHint().height());
 }
 
 TEST(Picture, Is_Saved_As_Png_With_The_Same_Colours_And_More_Pixels) {

@@ -128,7 +128,11 @@ void Input_Screen::Fit_To_Contents() {
 // Only now do the controls have their final fonts and headings.
 void Input_Screen::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!event->spontaneous()) Fit_To_Contents();
+  if (event->spontaneous()) return;
+  Fit_To_Contents();
+  // A new size is set from inside the frame: the place must be said again, or the frame stands
+  // above it.
+  Place();
 }
 
 void Input_Screen::Place() {
