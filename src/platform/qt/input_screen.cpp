@@ -130,9 +130,9 @@ void Input_Screen::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;
   Fit_To_Contents();
-  // A new size is set from inside the frame: the place must be said again, or the frame stands
-  // above it.
-  Place();
+  // A new size sets the place from inside the frame; said of the frame again, or it would stand
+  // above its place.
+  if (windowHandle() != nullptr) windowHandle()->setFramePosition(pos());
 }
 
 void Input_Screen::Place() {
