@@ -13,6 +13,8 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTest>
@@ -78,6 +80,34 @@ TEST_F(WindowWalk, Finds_A_Text_Without_Its_Room) {
 TEST_F(WindowWalk, Finds_What_Reaches_Out_Of_Its_Place) {
   Put(new QLabel("beyond the edge"), 480, 40);
   Show();
+  EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
+}
+
+TEST_F(WindowWalk, Finds_What_Reaches_Out_Of_What_Scrolls) {
+  const auto scrolled = [](int left) {
+    auto* held = new QWidget;
+    held->setFixedSize(300, 300);
+    auto* label = new QLabel("in an area", held);
+    label->move(left, 200);
+    auto* area = new QScrollArea;
+    area->setWidget(held);
+    return area;
+  };
+  Put(scrolled(10), 10, 40)->resize(150, 150);    // to be had by scrolling
+  Put(scrolled(280), 200, 40)->resize(150, 150);  // beyond what the area holds
+  Show();
+  EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
+}
+
+TEST_F(WindowWalk, Finds_What_Is_Not_To_Be_Had_By_Scrolling) {
+  auto* held = new QWidget;
+  held->setFixedSize(900, 900);
+  (new QLabel("never seen", held))->move(10, 10);
+  auto* area = new QScrollArea;
+  area->setWidget(held);
+  Put(area, 10, 40)->resize(150, 150);
+  Show();
+  area->horizontalScrollBar()->setRange(0, 0);
   EXPECT_EQ(Cut_Off_Texts(window).size(), 1U) << Listed(Cut_Off_Texts(window));
 }
 

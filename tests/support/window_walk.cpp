@@ -15,6 +15,7 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableView>
@@ -82,13 +83,25 @@ bool Has_Too_Little_Room(const QWidget* control) {
   return control->width() < wanted.width() || control->height() < wanted.height();
 }
 
-/// Whether all of the control is in view. What is scrolled is to be had by scrolling.
+/// Whether what a scroll area holds can not be brought into view by scrolling.
+bool Is_Out_Of_Reach(const QScrollArea& area) {
+  const QSize held = area.widget()->size(), room = area.viewport()->size();
+  return (held.width() > room.width() && area.horizontalScrollBar()->maximum() == 0) ||
+         (held.height() > room.height() && area.verticalScrollBar()->maximum() == 0);
+}
+
+/// Whether all of the control is in view. What is scrolled is to be had by scrolling, in an area
+/// that is in view itself.
 bool Reaches_Out(const QWidget* control, const QWidget& window) {
   for (const QWidget* at = control; at != &window;) {
     const QWidget* parent = at->parentWidget();
     if (qobject_cast<const QAbstractScrollArea*>(parent) != nullptr) return false;
     const auto* scrolled = qobject_cast<const QScrollArea*>(parent->parentWidget());
-    if (scrolled != nullptr && scrolled->widget() == at) return false;
+    if (scrolled != nullptr && scrolled->widget() == at) {
+      if (Is_Out_Of_Reach(*scrolled)) return true;
+      control = at = scrolled;
+      continue;
+    }
     const QRect place(control->mapTo(parent, QPoint(0, 0)), control->size());
     if (!parent->rect().contains(place)) return true;
     at = parent;
