@@ -8,7 +8,7 @@
 
 #include "core/book_numbers.h"
 #include "pictures/depth_map.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 
 namespace {
 

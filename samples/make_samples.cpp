@@ -5,10 +5,10 @@
 #include <cstring>
 #include <memory>
 
-#include "core/project_writer.h"
-#include "core/value_slots.h"
-#include "platform/app_folder.h"
-#include "platform/safe_file.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "sample_projects.h"
 
 int main(int argc, char** argv) {

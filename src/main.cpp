@@ -3,9 +3,9 @@
 #include <clocale>
 
 #include "checks/frm_error_list.h"
-#include "core/screen_register.h"
+#include "core/desk/screen_register.h"
 #include "material/frm_density.h"
-#include "platform/app_folder.h"
+#include "platform/files/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"

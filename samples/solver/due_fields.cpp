@@ -95,8 +95,8 @@ std::string_view Without_Padding(std::string_view column, Kind kind) {
   return column;
 }
 
-/// A column of this width holds the field: padded when it is of the field's own width, without a blank
-/// to spare when it is wider.
+/// A column of this width holds the field: padded when it is of the field's own width, without a
+/// blank to spare when it is wider.
 bool Column_Fits(std::string_view column, const Field& field) {
   if (column.size() > static_cast<std::size_t>(field.width)) {
     if (column.front() == ' ' || column.back() == ' ') return false;

@@ -4,16 +4,16 @@
 #include <cstring>
 
 #include "batch/batch_export.h"
+#include "batch/batch_findings.h"
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/batch_run.h"
 #include "batch/json_record.h"
-#include "checks/check_data.h"
-#include "core/path_lookup.h"
-#include "core/project_writer.h"
-#include "core/value_slots.h"
-#include "platform/app_folder.h"
-#include "platform/safe_file.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {
@@ -57,12 +57,6 @@ int New(const Batch_Options& options) {
 }
 
 }  // namespace
-
-int Say_Findings(const std::string& file, const ProjectRecord& record) {
-  const Error_List list = Check_Data(record);
-  for (const Error_Entry& entry : list.entries) Say({file, entry.message, entry.reference});
-  return list.ErrorsFound != kFalse ? kFindings : kDone;
-}
 
 int Do_Batch_Command(const Batch_Options& options) {
   switch (options.command) {

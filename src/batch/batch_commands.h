@@ -1,15 +1,11 @@
 #pragma once
 
 #include "batch/batch_options.h"
-#include "core/project_record.h"
 
 namespace barvon {
 
 /// Does what the options ask for and gives back the exit code. A file that can't be done does not
 /// keep the others from being done; the code is the worst of all.
 int Do_Batch_Command(const Batch_Options& options);
-
-/// A line on standard output for each finding of the project. Returns kFindings or kDone.
-int Say_Findings(const std::string& file, const ProjectRecord& record);
 
 }  // namespace barvon

@@ -10,11 +10,10 @@
 #include "batch/batch_project.h"
 #include "batch/target_key.h"
 #include "core/failure.h"
-#include "core/model_input.h"
-#include "core/path_lookup.h"
-#include "core/text_tools.h"
-#include "platform/app_folder.h"
-#include "platform/safe_file.h"
+#include "core/model_input/model_input.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {

@@ -4,14 +4,14 @@
 #include <utility>
 
 #include "batch/batch_output.h"
-#include "core/analysis_keys.h"
+#include "core/desk/analysis_keys.h"
 #include "core/failure.h"
-#include "core/path_lookup.h"
 #include "core/project_defaults.h"
-#include "core/project_reader.h"
+#include "core/project_file/project_reader.h"
 #include "core/text_tools.h"
-#include "platform/app_folder.h"
-#include "platform/safe_file.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {

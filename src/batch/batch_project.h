@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/project_record.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 

@@ -11,7 +11,7 @@
 #include <system_error>
 #include <vector>
 
-#include "batch/batch_commands.h"
+#include "batch/batch_findings.h"
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/interrupts.h"
@@ -19,8 +19,9 @@
 #include "batch/side_by_side.h"
 #include "batch/target_key.h"
 #include "core/text_tools.h"
-#include "platform/app_folder.h"
-#include "platform/event_pump.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/paths.h"
+#include "platform/process/event_pump.h"
 #include "run/create_process.h"
 #include "run/run_driver.h"
 

@@ -8,9 +8,9 @@
 #include <system_error>
 #include <utility>
 
-#include "core/settings_keys.h"
+#include "core/desk/settings_keys.h"
 #include "core/text_tools.h"
-#include "platform/app_folder.h"
+#include "platform/files/paths.h"
 
 namespace barvon {
 namespace {

@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "core/text_tools.h"
-#include "platform/app_folder.h"
+#include "platform/files/paths.h"
 
 namespace barvon {
 

@@ -7,10 +7,10 @@
 
 #include "checks/check_data.h"
 #include "checks/error_navigation.h"
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
+#include "core/desk/screen_register.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "platform/help_viewer.h"
+#include "platform/ask/help_viewer.h"
 #include "platform/qt/show_dialog.h"
 
 namespace barvon {

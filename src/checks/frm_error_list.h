@@ -4,7 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 
 namespace barvon {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
 
 namespace barvon {
 namespace {

@@ -1,6 +1,6 @@
 #include "checks/time_rules.h"
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
 
 namespace barvon {
 namespace {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "core/number_text.h"
-#include "platform/text_encoding.h"
+#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {

@@ -7,15 +7,6 @@ namespace {
 
 bool Continues_Character(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
-/// Where the dot of the extension stands, npos when the file's name has none: a dot in a folder's
-/// name is no extension.
-std::size_t Extension_Dot(std::string_view path) {
-  const auto dot = path.rfind('.');
-  const auto slash = path.rfind('/');
-  if (dot == std::string_view::npos) return dot;
-  return slash != std::string_view::npos && dot < slash ? std::string_view::npos : dot;
-}
-
 }  // namespace
 
 std::size_t Character_Count(std::string_view text) {
@@ -74,14 +65,6 @@ std::string Remove_Character(std::string_view text, std::string_view character) 
     result.erase(at, character.size());
   }
   return result;
-}
-
-std::string Base_Name(std::string_view path) {
-  return std::string(path.substr(0, Extension_Dot(path)));
-}
-
-std::string With_Extension(std::string_view path, std::string_view extension) {
-  return Base_Name(path).append(".").append(extension);
 }
 
 }  // namespace barvon

@@ -28,10 +28,4 @@ bool Equal_Ignoring_Case(std::string_view a, std::string_view b);
 /// The text without any occurrence of the character; an empty character leaves the text as it is.
 std::string Remove_Character(std::string_view text, std::string_view character);
 
-/// The path up to the last dot of its file name, without the dot; the path itself when its name
-/// has no dot.
-std::string Base_Name(std::string_view path);
-/// The path with its extension replaced, or added when its name has no dot: ("a/b.DUI", "DUE").
-std::string With_Extension(std::string_view path, std::string_view extension);
-
 }  // namespace barvon

@@ -6,7 +6,7 @@
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "material/amden.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {

@@ -3,11 +3,11 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
+#include "core/desk/workspace_port.h"
 #include "core/number_reading.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/field_rows.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/field_rows.h"
 
 namespace barvon {
 namespace {

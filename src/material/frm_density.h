@@ -7,7 +7,7 @@
 #include <array>
 
 #include "material/density_data.h"
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 #include "platform/qt/input_screen.h"
 
 namespace barvon {

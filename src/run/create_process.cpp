@@ -4,10 +4,11 @@
 #include <cstdlib>
 #include <system_error>
 
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/event_pump.h"
-#include "platform/text_encoding.h"
+#include "core/desk/workspace_port.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/paths.h"
+#include "platform/files/text_encoding.h"
+#include "platform/process/event_pump.h"
 #include "run/solver_command.h"
 
 namespace barvon {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/process_control.h"
+#include "platform/process/process_control.h"
 
 namespace barvon {
 

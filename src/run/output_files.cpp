@@ -9,10 +9,10 @@
 #include <tuple>
 #include <utility>
 
-#include "core/path_lookup.h"
 #include "core/text_tools.h"
-#include "platform/app_folder.h"
-#include "platform/safe_file.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {

@@ -5,8 +5,7 @@
 #include <cstdio>
 #include <system_error>
 
-#include "core/text_tools.h"
-#include "platform/app_folder.h"
+#include "platform/files/paths.h"
 
 namespace barvon {
 namespace {

@@ -9,9 +9,8 @@
 #include <optional>
 #include <sstream>
 
-#include "core/path_lookup.h"
-#include "core/text_tools.h"
-#include "platform/app_folder.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
 
 namespace barvon {
 namespace {

@@ -3,14 +3,14 @@
 #include <optional>
 #include <string>
 
-#include "core/path_lookup.h"
-#include "core/settings_keys.h"
-#include "core/text_tools.h"
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/document_opener.h"
-#include "platform/message_box.h"
-#include "platform/profile_settings.h"
+#include "core/desk/settings_keys.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/profile_settings.h"
+#include "platform/process/document_opener.h"
 #include "run/create_process.h"
 
 namespace barvon {

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "core/number_text.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 #include "site/depth_grid.h"
 
 namespace barvon {

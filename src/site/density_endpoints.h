@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/project_record.h"
-#include "platform/spreadsheet_table.h"
+#include "platform/table/spreadsheet_table.h"
 #include "site/site_data.h"
 
 namespace barvon {

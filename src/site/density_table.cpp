@@ -7,7 +7,7 @@
 #include "core/format_pattern.h"
 #include "core/number_text.h"
 #include "material/amden.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "core/format_pattern.h"
 #include "core/number_text.h"
-#include "platform/busy_cursor.h"
-#include "platform/message_box.h"
+#include "platform/ask/busy_cursor.h"
+#include "platform/ask/message_box.h"
 #include "site/open_site_boxes.h"
 
 namespace barvon {

@@ -3,7 +3,7 @@
 #include <limits>
 #include <vector>
 
-#include "platform/spreadsheet_table.h"
+#include "platform/table/spreadsheet_table.h"
 
 namespace barvon {
 

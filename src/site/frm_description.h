@@ -8,9 +8,9 @@
 
 #include "core/project_record.h"
 #include "pictures/density_profile.h"
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 #include "platform/qt/input_screen.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "site/site_data.h"
 
 namespace barvon {

@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "core/book_numbers.h"
+#include "core/desk/help_topics.h"
+#include "core/desk/screen_register.h"
 #include "core/format_pattern.h"
-#include "core/help_topics.h"
 #include "core/number_reading.h"
-#include "core/screen_register.h"
-#include "platform/help_viewer.h"
-#include "platform/message_box.h"
-#include "platform/qt/field_rows.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/ask/message_box.h"
+#include "platform/qt/fields/field_rows.h"
 #include "site/drawn_cells.h"
 #include "site/grid_csv_file.h"
 #include "site/grid_rows.h"

@@ -7,7 +7,7 @@
 #include "core/project_record.h"
 #include "pictures/depth_map.h"
 #include "platform/qt/input_screen.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "site/depth_grid.h"
 
 namespace barvon {

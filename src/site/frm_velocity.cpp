@@ -6,14 +6,14 @@
 #include <utility>
 #include <vector>
 
+#include "core/desk/help_topics.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
-#include "core/help_topics.h"
 #include "core/number_text.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/option_paint.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/number_field.h"
+#include "platform/qt/fields/option_paint.h"
 #include "site/grid_csv_file.h"
 #include "site/grid_rows.h"
 #include "site/velocity_questions.h"

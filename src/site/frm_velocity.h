@@ -15,10 +15,10 @@
 #include "pictures/tidal_curve.h"
 #include "pictures/two_point_profile.h"
 #include "pictures/velocity_arrows.h"
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/scrolled_part.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "site/velocity_data.h"
 
 namespace barvon {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "core/number_reading.h"
-#include "platform/qt/field_rows.h"
+#include "platform/qt/fields/field_rows.h"
 #include "site/frm_velocity.h"
 
 namespace barvon {

@@ -5,7 +5,7 @@
 
 #include "core/number_text.h"
 #include "core/text_tools.h"
-#include "platform/text_encoding.h"
+#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {

@@ -1,11 +1,10 @@
 #include "site/grid_csv_file.h"
 
 #include "core/failure.h"
-#include "core/text_tools.h"
-#include "platform/app_folder.h"
-#include "platform/file_dialog.h"
-#include "platform/message_box.h"
-#include "platform/safe_file.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {

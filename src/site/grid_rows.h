@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/spreadsheet_table.h"
+#include "platform/table/spreadsheet_table.h"
 #include "site/grid_csv.h"
 
 namespace barvon {

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
 #include "core/number_text.h"
 #include "core/wizard_answers.h"
-#include "core/workspace_port.h"
 #include "material/amden.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 #include "site/density_table.h"
 
 namespace barvon {

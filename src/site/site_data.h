@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/project_record.h"
-#include "platform/spreadsheet_table.h"
+#include "platform/table/spreadsheet_table.h"
 
 namespace barvon {
 

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "core/number_text.h"
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "platform/qt/latching_button.h"
+#include "platform/qt/fields/latching_button.h"
 
 namespace barvon {
 

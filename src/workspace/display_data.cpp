@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "core/analysis_keys.h"
-#include "platform/qt/option_paint.h"
+#include "core/desk/analysis_keys.h"
+#include "platform/qt/fields/option_paint.h"
 #include "workspace/option_events.h"
 #include "workspace/option_logic.h"
 #include "workspace/summary_lines.h"

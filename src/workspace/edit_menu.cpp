@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/message_box.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/message_box.h"
 #include "workspace/option_logic.h"
 
 namespace barvon {

@@ -7,9 +7,9 @@
 #include <QMouseEvent>
 #include <QVBoxLayout>
 
+#include "core/desk/screen_register.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "platform/qt/option_paint.h"
+#include "platform/qt/fields/option_paint.h"
 #include "platform/qt/show_dialog.h"
 #include "workspace/file_menu.h"
 

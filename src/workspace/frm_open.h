@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 
 namespace barvon {
 

@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/qt/option_paint.h"
+#include "platform/qt/fields/option_paint.h"
 #include "platform/qt/tool_bar_keys.h"
 #include "workspace/board_parts.h"
 #include "workspace/main_help.h"

@@ -12,9 +12,9 @@
 #include <QRadioButton>
 #include <QToolBar>
 
-#include "platform/qt/control_array.h"
 #include "platform/qt/elided_label.h"
-#include "platform/qt/latching_button.h"
+#include "platform/qt/fields/control_array.h"
+#include "platform/qt/fields/latching_button.h"
 #include "workspace/status_area.h"
 
 namespace barvon {

@@ -4,11 +4,11 @@
 #include <QShortcut>
 #include <functional>
 
-#include "core/settings_keys.h"
-#include "platform/help_viewer.h"
-#include "platform/message_box.h"
-#include "platform/profile_settings.h"
-#include "platform/qt/option_paint.h"
+#include "core/desk/settings_keys.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/profile_settings.h"
+#include "platform/qt/fields/option_paint.h"
 #include "run/run_driver.h"
 #include "run/view_results.h"
 #include "workspace/display_data.h"

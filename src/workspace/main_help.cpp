@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
 
 namespace barvon {
 namespace {

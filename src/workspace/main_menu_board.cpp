@@ -1,9 +1,9 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
-#include "platform/qt/encoding_validator.h"
+#include "platform/qt/fields/encoding_validator.h"
 #include "workspace/board_parts.h"
 #include "workspace/display_data.h"
 #include "workspace/main_controls.h"

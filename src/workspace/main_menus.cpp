@@ -2,8 +2,8 @@
 
 #include <QMenuBar>
 
-#include "core/recent_files.h"
-#include "core/screen_register.h"
+#include "core/desk/recent_files.h"
+#include "core/desk/screen_register.h"
 
 namespace barvon {
 namespace {

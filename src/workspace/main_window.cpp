@@ -6,14 +6,15 @@
 #include <cstdlib>
 #include <utility>
 
+#include "core/desk/recent_files.h"
+#include "core/desk/reset_vars.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/recent_files.h"
-#include "core/reset_vars.h"
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/qt_help_viewer.h"
-#include "platform/safe_file.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/qt/help/qt_help_viewer.h"
 #include "run/create_process.h"
 #include "workspace/display_data.h"
 #include "workspace/edit_menu.h"

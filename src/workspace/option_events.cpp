@@ -2,9 +2,9 @@
 
 #include <QSignalBlocker>
 
-#include "core/workspace_port.h"
-#include "platform/message_box.h"
-#include "platform/qt/option_paint.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/message_box.h"
+#include "platform/qt/fields/option_paint.h"
 #include "workspace/edit_menu.h"
 #include "workspace/main_menus.h"
 #include "workspace/option_logic.h"

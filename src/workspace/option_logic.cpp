@@ -1,7 +1,7 @@
 #include "workspace/option_logic.h"
 
-#include "core/analysis_keys.h"
-#include "platform/message_box.h"
+#include "core/desk/analysis_keys.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {

@@ -4,8 +4,8 @@
 #include <system_error>
 #include <utility>
 
-#include "core/workspace_port.h"
-#include "platform/message_box.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {

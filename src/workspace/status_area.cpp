@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
-#include "platform/app_folder.h"
+#include "platform/files/paths.h"
 #include "run/create_process.h"
 
 namespace barvon {

@@ -4,7 +4,7 @@
 #include <QStatusBar>
 #include <string>
 
-#include "core/workspace_port.h"
+#include "core/desk/workspace_port.h"
 #include "platform/qt/elided_label.h"
 
 namespace barvon {

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <memory>
 
-#include "core/project_writer.h"
-#include "core/value_slots.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
 #include "sample_projects.h"
 
 namespace barvon::testing {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "checks/sound_project.h"
-#include "core/model_input.h"
+#include "core/model_input/model_input.h"
 
 namespace barvon::testing {
 namespace {

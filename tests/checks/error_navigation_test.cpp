@@ -23,9 +23,8 @@ TEST(ErrorNavigation, The_Evaluation_Screen_Is_Only_Shown) {
 }
 
 TEST(ErrorNavigation, Material_References_And_Screens_That_No_Longer_Stand_Lead_Nowhere) {
-  for (const char* reference :
-       {"frmMatHopper!F1Book1", "frmMatBarge!F1Book1", "frmChanDis3D2!x", "frmPipeDis3D2!x",
-        "frmDikeLeak3D2!x", "frmMixZone3D!x"}) {
+  for (const char* reference : {"frmMatHopper!F1Book1", "frmMatBarge!F1Book1", "frmChanDis3D2!x",
+                                "frmPipeDis3D2!x", "frmDikeLeak3D2!x", "frmMixZone3D!x"}) {
     EXPECT_FALSE(Error_Target_Of(reference)) << reference;
   }
 }

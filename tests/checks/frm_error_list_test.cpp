@@ -12,9 +12,9 @@
 
 #include "checks/check_data.h"
 #include "checks/sound_project.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/help_viewer.h"
 #include "support/screen_support.h"
 
 namespace barvon::testing {

@@ -1,4 +1,5 @@
 #include "core/text_tools.h"
+#include "platform/files/paths.h"
 
 #include <gtest/gtest.h>
 

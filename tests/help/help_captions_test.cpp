@@ -12,9 +12,9 @@
 
 #include "checks/check_data.h"
 #include "checks/frm_error_list.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
-#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/help/qt_help_viewer.h"
 #include "support/screen_support.h"
 #include "workspace/frm_open.h"
 #include "workspace/main_menus.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
 #include "support/plain_support.h"
 
 namespace barvon {

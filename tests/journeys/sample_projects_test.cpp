@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/project_record.h"
-#include "platform/file_dialog.h"
+#include "platform/ask/file_dialog.h"
 #include "run/create_process.h"
 #include "support/screen_support.h"
 

@@ -6,11 +6,11 @@
 #include <filesystem>
 #include <string>
 
+#include "core/desk/screen_register.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "platform/file_dialog.h"
+#include "platform/ask/file_dialog.h"
 #include "platform/qt/input_screen.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "run/create_process.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"

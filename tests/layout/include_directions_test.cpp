@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <regex>
 
 #include "layout/include_graph.h"
@@ -10,8 +11,8 @@ namespace {
 
 const std::string kSource = std::string(BARVON_SOURCE) + "/src";
 
-/// What the files of a room may include beside their own room's. An entry is a room, or one file
-/// without its extension.
+/// What the files of a room may include beside their own room's. An entry is a room, a folder with
+/// all the rooms in it (the toolkit's apart), or one unit: a file without its extension.
 struct Room_Rule {
   std::set<std::string> plain;   // for every file
   std::set<std::string> screen;  // for those that need the toolkit, on top
@@ -20,10 +21,16 @@ struct Room_Rule {
 const std::map<std::string, Room_Rule>& Table() {
   static const std::set<std::string> kScreens = {"platform/qt", "pictures"};
   static const std::map<std::string, Room_Rule> table = {
-      {"platform", {{}, {}}},
+      {"platform/files", {{}, {}}},
+      {"platform/process", {{"platform/files"}, {}}},
+      {"platform/table", {{}, {}}},
+      {"platform/ask", {{}, {}}},
       {"platform/qt", {{"platform"}, {}}},
       {"pictures", {{"platform/qt"}, {}}},
       {"core", {{"platform"}, {}}},
+      {"core/project_file", {{"core/floor", "platform"}, {}}},
+      {"core/model_input", {{"core/floor", "platform"}, {}}},
+      {"core/desk", {{"core", "platform"}, {}}},
       {"checks", {{"core", "platform"}, {"platform/qt"}}},
       {"run", {{"checks", "core", "platform"}, {}}},
       {"params", {{"core", "platform"}, kScreens}},
@@ -33,35 +40,45 @@ const std::map<std::string, Room_Rule>& Table() {
       {"wizard", {{"core", "platform"}, kScreens}},
       {"site", {{"core", "platform", "material/amden"}, kScreens}},
       {"workspace",
-       {{"core", "platform", "run", "checks/check_data", "checks/error_entries",
-         "params/evaluation_data"},
-        {"platform/qt"}}},
+       {{"core", "platform", "run", "checks/check_data", "checks/error_entries"}, {"platform/qt"}}},
       {"batch", {{"core", "platform", "checks", "run"}, {}}},
+      {"batch_main.cpp", {{"batch", "core", "platform", "checks", "run"}, {}}},
   };
   return table;
 }
 
-std::string Without_Extension(const std::string& file) { return file.substr(0, file.rfind('.')); }
+/// The room that holds the rule for a file's room: the toolkit's rooms share one.
+std::string Ruled_By(const std::string& room) {
+  return room.starts_with("platform/qt/") ? "platform/qt" : room;
+}
+
+/// Whether an entry of the table names the file. "core/floor" are the files of core/ itself.
+bool Names(const std::string& entry, const std::string& included) {
+  if (entry == Unit_Of(included)) return true;
+  const std::string room = Ruled_By(Room_Of(included));
+  if (entry == "core/floor") return room == "core";
+  if (room == "platform/qt") return entry == room;
+  return room == entry || room.starts_with(entry + "/");
+}
 
 bool May_Include(const std::string& file, const std::string& included, bool needs_toolkit) {
-  const std::string room = Room_Of(file);
-  if (room == Room_Of(included)) return true;
-  if (room == "main.cpp") return true;
-  const auto rule = Table().find(room == "batch_main.cpp" ? "batch" : room);
+  const std::string room = Ruled_By(Room_Of(file));
+  if (room == Ruled_By(Room_Of(included)) || room == "main.cpp") return true;
+  const auto rule = Table().find(room);
   if (rule == Table().end()) return false;
-  for (const std::string& entry : {Room_Of(included), Without_Extension(included)}) {
-    if (rule->second.plain.contains(entry)) return true;
-    if (needs_toolkit && rule->second.screen.contains(entry)) return true;
-  }
-  return room == "batch_main.cpp" && Room_Of(included) == "batch";
+  // A room of a folder is above the folder's floor, never below it.
+  if (room == "core" && Room_Of(included).starts_with("core/")) return false;
+  const auto names = [&](const std::string& entry) { return Names(entry, included); };
+  return std::ranges::any_of(rule->second.plain, names) ||
+         (needs_toolkit && std::ranges::any_of(rule->second.screen, names));
 }
 
 // The source files that a folder's build file gives to a library.
 std::set<std::string> Sources_Of(const std::string& library) {
   std::set<std::string> sources;
   for (const auto& [room, rule] : Table()) {
-    std::string path = room;
-    if (!Exists(kSource + "/" + room + "/CMakeLists.txt")) path = "platform";
+    const std::string path = room.substr(0, room.find('/'));
+    if (!Exists(kSource + "/" + path + "/CMakeLists.txt")) continue;
     const std::string text = Read_Text(kSource + "/" + path + "/CMakeLists.txt");
     const std::regex list(R"((?:target_sources|add_library)\()" + library +
                           R"( (?:PRIVATE|STATIC)([^)]*)\))");
@@ -97,8 +114,8 @@ TEST(IncludeDirections, Every_Include_From_The_House_Names_A_File_By_Its_Path_In
   }
 }
 
-TEST(IncludeDirections, No_Files_Include_Each_Other_Nor_In_A_Longer_Ring) {
-  EXPECT_EQ(Find_Ring(Read_Includes(kSource)), std::vector<std::string>{});
+TEST(IncludeDirections, No_Units_Include_Each_Other_Nor_In_A_Longer_Ring) {
+  EXPECT_EQ(Find_Ring(Units_Of(Read_Includes(kSource))), std::vector<std::string>{});
 }
 
 TEST(IncludeDirections, No_Plain_File_Knows_The_Toolkit) {
@@ -110,8 +127,10 @@ TEST(IncludeDirections, No_Plain_File_Knows_The_Toolkit) {
     for (const std::string& file : plain) EXPECT_FALSE(toolkit.contains(file)) << file;
   }
   for (const std::string& file : toolkit) {
-    const std::string room = Room_Of(file);
-    EXPECT_TRUE(room != "platform" && room != "core" && room != "run" && room != "batch") << file;
+    const std::string folder = file.substr(0, file.find('/'));
+    const bool toolkit_room = file.starts_with("platform/qt/");
+    EXPECT_TRUE(toolkit_room || (folder != "platform" && folder != "core")) << file;
+    EXPECT_TRUE(folder != "run" && folder != "batch") << file;
   }
 }
 
@@ -159,9 +178,25 @@ TEST(IncludeDirections, A_Ring_Is_Found_However_Long) {
   EXPECT_TRUE(Find_Ring({{"a.h", {"c.h"}}, {"b.h", {"c.h"}}, {"c.h", {}}}).empty());
 }
 
+TEST(IncludeDirections, A_Header_And_Its_Source_Are_One_Unit) {
+  const Include_Graph files = {
+      {"a.h", {}}, {"a.cpp", {"a.h", "b.h"}}, {"b.h", {}}, {"b.cpp", {"a.h", "b.h"}}};
+  EXPECT_TRUE(Find_Ring(files).empty());
+  const Include_Graph units = Units_Of(files);
+  EXPECT_EQ(units, (Include_Graph{{"a", {"b"}}, {"b", {"a"}}}));
+  EXPECT_EQ(Find_Ring(units), (std::vector<std::string>{"a", "b"}));
+}
+
 TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
-  EXPECT_TRUE(May_Include("core/a.cpp", "platform/b.h", false));
-  EXPECT_FALSE(May_Include("platform/b.h", "core/a.h", false));
+  EXPECT_TRUE(May_Include("core/a.cpp", "platform/files/b.h", false));
+  EXPECT_FALSE(May_Include("platform/files/b.h", "core/a.h", false));
+  EXPECT_FALSE(May_Include("platform/files/a.h", "platform/process/b.h", false));
+  EXPECT_TRUE(May_Include("platform/process/a.h", "platform/files/b.h", false));
+  EXPECT_FALSE(May_Include("platform/files/a.h", "platform/qt/help/b.h", true));
+  EXPECT_TRUE(May_Include("platform/qt/help/a.cpp", "platform/qt/b.h", true));
+  EXPECT_TRUE(May_Include("platform/qt/a.cpp", "platform/qt/help/b.h", true));
+  EXPECT_TRUE(May_Include("platform/qt/help/a.cpp", "platform/ask/b.h", true));
+  EXPECT_FALSE(May_Include("core/a.cpp", "platform/qt/help/b.h", true));
   EXPECT_FALSE(May_Include("core/a.cpp", "run/b.h", false));
   EXPECT_FALSE(May_Include("run/a.cpp", "workspace/b.h", false));
   EXPECT_FALSE(May_Include("site/a.cpp", "material/barge_data.h", false));
@@ -169,10 +204,21 @@ TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
   EXPECT_FALSE(May_Include("workspace/a.cpp", "checks/site_rules.h", false));
   EXPECT_TRUE(May_Include("workspace/a.cpp", "checks/check_data.h", false));
   EXPECT_FALSE(May_Include("checks/a.cpp", "platform/qt/b.h", false));
-  EXPECT_TRUE(May_Include("checks/frm.cpp", "platform/qt/b.h", true));
+  EXPECT_TRUE(May_Include("checks/frm.cpp", "platform/qt/fields/b.h", true));
   EXPECT_TRUE(May_Include("site/frm.cpp", "pictures/b.h", true));
   EXPECT_FALSE(May_Include("site/a.cpp", "pictures/b.h", false));
   EXPECT_FALSE(May_Include("pictures/a.cpp", "core/b.h", true));
+}
+
+TEST(IncludeDirections, The_Project_File_And_The_Model_Input_Know_Nothing_Of_Each_Other) {
+  EXPECT_FALSE(May_Include("core/project_file/a.cpp", "core/model_input/b.h", false));
+  EXPECT_FALSE(May_Include("core/model_input/a.cpp", "core/project_file/b.h", false));
+  EXPECT_FALSE(May_Include("core/project_file/a.cpp", "core/desk/b.h", false));
+  EXPECT_FALSE(May_Include("core/a.cpp", "core/project_file/b.h", false));
+  EXPECT_FALSE(May_Include("core/a.cpp", "core/desk/b.h", false));
+  EXPECT_TRUE(May_Include("core/project_file/a.cpp", "core/b.h", false));
+  EXPECT_TRUE(May_Include("core/desk/a.cpp", "core/model_input/b.h", false));
+  EXPECT_TRUE(May_Include("workspace/a.cpp", "core/project_file/b.h", false));
 }
 
 }  // namespace

@@ -87,4 +87,17 @@ std::string Room_Of(const std::string& file) {
   return slash == std::string::npos ? file : file.substr(0, slash);
 }
 
+std::string Unit_Of(const std::string& file) { return file.substr(0, file.rfind('.')); }
+
+Include_Graph Units_Of(const Include_Graph& files) {
+  Include_Graph units;
+  for (const auto& [file, includes] : files) {
+    auto& of_unit = units[Unit_Of(file)];
+    for (const std::string& included : includes) {
+      if (Unit_Of(included) != Unit_Of(file)) of_unit.insert(Unit_Of(included));
+    }
+  }
+  return units;
+}
+
 }  // namespace barvon::testing

@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/number_text.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/number_field.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/number_field.h"
 #include "support/record_differences.h"
 #include "support/screen_support.h"
 #include "workspace/edit_menu.h"

@@ -15,7 +15,7 @@
 
 #include "pictures/depth_map.h"
 #include "pictures/picture_bench.h"
-#include "platform/file_dialog.h"
+#include "platform/ask/file_dialog.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {

@@ -12,10 +12,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/event_pump.h"
-#include "platform/safe_file.h"
+#include "core/desk/workspace_port.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/safe_file.h"
+#include "platform/process/event_pump.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {

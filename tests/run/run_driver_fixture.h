@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
+#include "core/desk/settings_keys.h"
 #include "core/project_defaults.h"
-#include "core/settings_keys.h"
-#include "platform/file_dialog.h"
-#include "platform/profile_settings.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/files/profile_settings.h"
 #include "run/child_support.h"
 #include "run/run_driver.h"
 

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "core/screen_register.h"
+#include "core/desk/screen_register.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {

@@ -4,8 +4,8 @@
 
 #include <filesystem>
 
-#include "platform/app_folder.h"
-#include "platform/folder_lock.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/folder_lock.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/document_opener.h"
-#include "platform/profile_settings.h"
+#include "platform/files/profile_settings.h"
+#include "platform/process/document_opener.h"
 #include "run/child_support.h"
 
 namespace barvon {

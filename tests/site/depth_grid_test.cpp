@@ -7,7 +7,7 @@
 #include <string>
 
 #include "core/book_numbers.h"
-#include "platform/busy_cursor.h"
+#include "platform/ask/busy_cursor.h"
 #include "site/open_site_boxes.h"
 #include "support/plain_support.h"
 #include "support/record_differences.h"

@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "checks/error_navigation.h"
-#include "core/help_topics.h"
-#include "core/screen_register.h"
+#include "core/desk/help_topics.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/wizard_answers.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/field_rows.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/field_rows.h"
 #include "site/frm_grid_descrip.h"
 #include "site/open_site_boxes.h"
 #include "site/site_support.h"

@@ -10,10 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "core/screen_register.h"
-#include "platform/file_dialog.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/field_rows.h"
+#include "core/desk/screen_register.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/field_rows.h"
 #include "site/frm_description.h"
 #include "site/open_site_boxes.h"
 #include "support/record_differences.h"

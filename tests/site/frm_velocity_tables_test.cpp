@@ -1,5 +1,5 @@
 #include "core/format_pattern.h"
-#include "platform/qt/number_field.h"
+#include "platform/qt/fields/number_field.h"
 #include "site/frm_velocity.h"
 #include "site/velocity_screen.h"
 

@@ -1,8 +1,8 @@
 #include "site/frm_velocity.h"
 
-#include "core/workspace_port.h"
-#include "platform/qt/number_field.h"
-#include "platform/qt/option_paint.h"
+#include "core/desk/workspace_port.h"
+#include "platform/qt/fields/number_field.h"
+#include "platform/qt/fields/option_paint.h"
 #include "site/velocity_screen.h"
 #include "workspace/edit_menu.h"
 

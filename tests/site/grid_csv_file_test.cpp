@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/file_dialog.h"
+#include "platform/ask/file_dialog.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_defaults.h"
 #include "core/wizard_answers.h"
-#include "core/workspace_port.h"
 #include "site/site_support.h"
 #include "support/plain_support.h"
 #include "support/record_differences.h"

@@ -6,7 +6,7 @@
 
 #include "core/book_numbers.h"
 #include "core/project_record.h"
-#include "platform/spreadsheet_table.h"
+#include "platform/table/spreadsheet_table.h"
 #include "site/density_table.h"
 
 namespace barvon::testing {

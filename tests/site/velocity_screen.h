@@ -16,11 +16,11 @@
 #include <string>
 #include <vector>
 
-#include "core/screen_register.h"
+#include "core/desk/screen_register.h"
 #include "core/wizard_answers.h"
-#include "platform/file_dialog.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "site/frm_velocity.h"
 #include "support/record_differences.h"
 #include "support/screen_support.h"

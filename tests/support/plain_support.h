@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/message_box.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon::testing {
 

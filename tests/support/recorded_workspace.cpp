@@ -1,13 +1,13 @@
 #include "support/recorded_workspace.h"
 
-#include "core/file_kinds.h"
+#include "core/desk/file_kinds.h"
+#include "core/desk/recent_files.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_defaults.h"
-#include "core/project_writer.h"
-#include "core/recent_files.h"
-#include "core/value_slots.h"
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/profile_settings.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
+#include "platform/files/app_folder.h"
+#include "platform/files/profile_settings.h"
 
 namespace barvon::testing {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/project_record.h"
-#include "platform/file_dialog.h"
+#include "platform/ask/file_dialog.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/qt/qt_services.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 #include "support/plain_support.h"
 #include "workspace/main_window.h"
 

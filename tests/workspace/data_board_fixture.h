@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/qt/control_array.h"
+#include "platform/qt/fields/control_array.h"
 #include "support/screen_support.h"
 
 namespace barvon::testing {

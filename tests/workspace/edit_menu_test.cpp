@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "support/plain_support.h"
 
 namespace barvon {

@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "checks/check_data.h"
-#include "core/recent_files.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
+#include "core/desk/recent_files.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "support/recorded_workspace.h"
 #include "workspace/quit_rules.h"
 

@@ -9,11 +9,11 @@
 #include <optional>
 #include <vector>
 
+#include "core/desk/screen_register.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "platform/file_dialog.h"
-#include "platform/help_viewer.h"
-#include "platform/qt/option_paint.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/fields/option_paint.h"
 #include "support/screen_support.h"
 
 namespace barvon::testing {

@@ -4,9 +4,9 @@
 #include <QTest>
 #include <tuple>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
-#include "platform/help_viewer.h"
+#include "platform/ask/help_viewer.h"
 #include "support/screen_support.h"
 #include "workspace/file_menu.h"
 

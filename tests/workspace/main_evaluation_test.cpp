@@ -1,5 +1,5 @@
-#include "core/open_file.h"
-#include "core/save_file.h"
+#include "core/desk/open_file.h"
+#include "core/desk/save_file.h"
 #include "workspace/data_board_fixture.h"
 #include "workspace/option_events.h"
 

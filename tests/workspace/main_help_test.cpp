@@ -2,9 +2,9 @@
 
 #include <QTest>
 
-#include "core/help_topics.h"
+#include "core/desk/help_topics.h"
 #include "core/project_record.h"
-#include "platform/help_viewer.h"
+#include "platform/ask/help_viewer.h"
 #include "support/screen_support.h"
 #include "workspace/main_boards.h"
 

@@ -5,8 +5,8 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 

@@ -6,13 +6,13 @@
 #include <QTest>
 #include <functional>
 
+#include "core/desk/recent_files.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/settings_keys.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/recent_files.h"
-#include "core/screen_register.h"
-#include "core/settings_keys.h"
-#include "core/workspace_port.h"
-#include "platform/file_dialog.h"
-#include "platform/message_box.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/message_box.h"
 #include "support/screen_support.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_menus.h"

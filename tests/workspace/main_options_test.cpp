@@ -2,9 +2,9 @@
 
 #include <QTest>
 
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
 #include "support/screen_support.h"
 #include "workspace/option_events.h"
 

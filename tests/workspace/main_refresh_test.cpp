@@ -3,12 +3,12 @@
 #include <filesystem>
 #include <random>
 
-#include "core/open_file.h"
+#include "core/desk/open_file.h"
+#include "core/desk/save_file.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_defaults.h"
-#include "core/project_writer.h"
-#include "core/save_file.h"
-#include "core/value_slots.h"
-#include "core/workspace_port.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
 #include "support/record_differences.h"
 #include "support/screen_support.h"
 

@@ -4,8 +4,8 @@
 #include <csignal>
 #include <filesystem>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
 #include "platform/qt/end_signals.h"
 #include "run/create_process.h"
 #include "support/screen_support.h"

@@ -3,11 +3,11 @@
 #include <QTest>
 #include <filesystem>
 
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/screen_register.h"
-#include "core/workspace_port.h"
-#include "platform/app_folder.h"
-#include "platform/help_viewer.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/files/app_folder.h"
 #include "support/screen_support.h"
 
 namespace barvon {

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "core/workspace_port.h"
-#include "platform/file_dialog.h"
-#include "platform/help_viewer.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
 #include "support/screen_support.h"
 #include "workspace/main_menus.h"
 

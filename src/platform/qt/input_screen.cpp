@@ -10,7 +10,7 @@
 #include <algorithm>
 
 #include "platform/qt/show_dialog.h"
-#include "platform/qt/spreadsheet_view.h"
+#include "platform/qt/table/spreadsheet_view.h"
 
 namespace barvon {
 namespace {

@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include "platform/qt/qt_message_box.h"
+#include "platform/qt/ask/qt_message_box.h"
 #include "platform/qt/text_window.h"
 
 namespace barvon {

@@ -4,10 +4,10 @@
 #include <QTimer>
 #include <utility>
 
+#include "platform/qt/ask/qt_file_dialog.h"
+#include "platform/qt/ask/qt_message_box.h"
+#include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/qt_document_opener.h"
-#include "platform/qt/qt_file_dialog.h"
-#include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_message_box.h"
 
 namespace barvon {
 namespace {

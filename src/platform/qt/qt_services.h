@@ -2,14 +2,14 @@
 
 #include <QPointer>
 
-#include "platform/busy_cursor.h"
-#include "platform/document_opener.h"
-#include "platform/event_pump.h"
-#include "platform/file_dialog.h"
-#include "platform/help_viewer.h"
-#include "platform/message_box.h"
-#include "platform/progress_display.h"
-#include "platform/qt/frm_progress_bar.h"
+#include "platform/ask/busy_cursor.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/ask/message_box.h"
+#include "platform/ask/progress_display.h"
+#include "platform/process/document_opener.h"
+#include "platform/process/event_pump.h"
+#include "platform/qt/ask/frm_progress_bar.h"
 
 namespace barvon {
 

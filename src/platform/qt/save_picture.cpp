@@ -3,9 +3,9 @@
 #include <QString>
 #include <system_error>
 
-#include "platform/file_dialog.h"
-#include "platform/message_box.h"
-#include "platform/safe_file.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {

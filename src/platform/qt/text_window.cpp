@@ -7,8 +7,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "platform/safe_file.h"
-#include "platform/text_encoding.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {

@@ -1,0 +1,63 @@
+#include "core/desk/file_dialogs.h"
+
+#include "core/desk/file_kinds.h"
+#include "core/text_tools.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/files/paths.h"
+
+namespace barvon {
+namespace {
+
+bool Is_Dilution_Name(const std::string& name) {
+  return Last_Three_Letters(name) == kDilutionLetters;
+}
+
+}  // namespace
+
+std::optional<std::string> Ask_File_To_Open(double kind) {
+  File_Request request;
+  request.title = "Open";
+  if (kind == kDilutionKind) {
+    request.filters = {{"Dilution Files (*.DUD)", "*.DUD"}};
+  } else {
+    request.filters = {{"BARVON Data Files (*.DUI)", "*.DUI"},
+                       {"BARVON Output FIles (*.DUO)", "*.DUO"}};
+  }
+  return Ask_Open_File(request);
+}
+
+std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind) {
+  File_Request request;
+  request.title = "Save As";
+  if (kind == kDilutionKind) {
+    request.filters = {{"Dilution File(*.DUD)", "*.DUD"}};
+  } else {
+    request.filters = {{"BARVON Data File (*.DUI)", "*.DUI"}};
+  }
+  request.name = kind != kDilutionKind && Is_Dilution_Name(name)
+                     ? With_Extension(name, kProjectLetters)
+                     : name;
+  request.complete = [kind](const std::string& chosen) {
+    return With_Default_Extension(chosen, kind);
+  };
+  const auto chosen = Ask_Save_File(request);
+  if (!chosen || chosen->empty()) return std::nullopt;
+  return With_Default_Extension(*chosen, kind);
+}
+
+std::string With_Default_Extension(const std::string& name, int kind) {
+  const std::string file = Name_Of(name);
+  const std::size_t length = Character_Count(file);
+  if (length >= 4 && file.substr(First_Characters(file, length - 4).size()).front() == '.') {
+    return name;
+  }
+  return name + "." + (kind == kDilutionKind ? kDilutionLetters : kProjectLetters);
+}
+
+std::optional<std::string> Ask_Name_To_Save(const ProjectRecord& record) {
+  const std::string& name = record.ProjectFileName;
+  if (!name.empty() && !Is_Dilution_Name(name)) return name;
+  return File_SaveAs_Dialog(name, kProjectKind);
+}
+
+}  // namespace barvon

@@ -1,0 +1,147 @@
+#include "core/desk/save_file.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <system_error>
+
+#include "core/desk/analysis_keys.h"
+#include "core/desk/file_dialogs.h"
+#include "core/desk/file_kinds.h"
+#include "core/desk/recent_files.h"
+#include "core/desk/workspace_port.h"
+#include "core/failure.h"
+#include "core/model_input/model_input.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
+#include "core/text_tools.h"
+#include "platform/ask/busy_cursor.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/text_encoding.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kExportKind = 3;
+constexpr int kTextKind = 4;
+constexpr int kTestedStatusMarks = 5;  // of the six
+
+bool Tell_Unable() {
+  Show_Message({"Unable to Save File!"});
+  return false;
+}
+
+/// Writes one file whole. The bytes are made once the file is known to be writable.
+bool Write_File(const std::string& path, int kind, const std::function<std::string()>& bytes) {
+  bool opened = false;
+  int error = 0;
+  {
+    const Busy_Cursor cursor;
+    Safe_File file;
+    error = file.Open(Path_To_Write(path));
+    opened = error == 0;
+    if (error == 0) error = file.Write(bytes());
+    if (error == 0) error = file.Commit();
+  }
+  if (error == 0) return true;
+  const bool bad_dilution_name =
+      kind == kDilutionKind && Failure_Of_Errno(error) == Failure::Bad_File_Name;
+  if (opened || bad_dilution_name) return Tell_Unable();
+  Show_Message({"Can't open file: " + path});
+  return false;
+}
+
+bool Write_Dilution(const std::string& path, const ProjectRecord& record) {
+  const File_Kind* kind = Find_File_Kind(kDilutionLetters);
+  if (kind == nullptr || !kind->write) {
+    Show_Message({"Unrecognized File Type!"});
+    return false;
+  }
+  return Write_File(path, kDilutionKind, [&] { return kind->write(record); });
+}
+
+bool Lead_To_One_File(const std::string& path, const std::string& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(Path_To_Write(path), Path_To_Write(other), error);
+}
+
+bool Write_Project(const std::string& path, ProjectRecord& record) {
+  const bool written = Write_File(path, kProjectKind, [&] {
+    Show_Project(record);
+    Pack_Slots(record);
+    return Save_Project(path, record);
+  });
+  if (!written) return false;
+  const std::string name = With_Extension(path, "DUE");
+  const std::string lacking =
+      Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
+  if (Lead_To_One_File(path, name)) {
+    record.FileTypeTag = "DUE";
+    Port().show_note({lacking + "that is where the project stands.", {}});
+    return true;
+  }
+  const Busy_Cursor cursor;
+  // The project is safe; its model input may still be beyond what can be computed.
+  if (const Failure failure = Save_Model_Extract(path, record); failure != Failure::None) {
+    Port().show_note({lacking + Failure_Name(failure) + ".", {}});
+  }
+  return true;
+}
+
+bool Write_Export(const std::string& path, ProjectRecord& record) {
+  record.FileTypeTag = "DUE";
+  const auto first = record.SectionStatus.begin() + 1;
+  const auto last = first + kTestedStatusMarks;
+  if (std::find(first, last, '-') != last) return false;
+  const Busy_Cursor cursor;
+  return Save_Model_Extract(path, record) == Failure::None || Tell_Unable();
+}
+
+/// The text as one printed item: lines end in CR LF, the last one too.
+bool Write_Text(const std::string& path) {
+  const std::string text = Port().active_text();
+  if (!Fits_File_Encoding(text)) return Tell_Unable();
+  const bool written = Write_File(path, kTextKind, [&] {
+    std::string lines;
+    for (const char c : Remove_Character(text, "\r"))
+      lines += c == '\n' ? "\r\n" : std::string(1, c);
+    return To_File_Bytes(lines) + "\r\n";
+  });
+  if (written) Port().set_text_caption(path);
+  return written;
+}
+
+bool Write_By_Kind(const std::string& path, int kind, ProjectRecord& record) {
+  switch (kind) {
+    case kDilutionKind:
+      return Write_Dilution(path, record);
+    case kProjectKind:
+      return Write_Project(path, record);
+    case kExportKind:
+      return Write_Export(path, record);
+    case kTextKind:
+      return Write_Text(path);
+    default:
+      Show_Message({"Unrecognized File Type!"});
+      return false;
+  }
+}
+
+}  // namespace
+
+bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
+  if (!Write_By_Kind(path, kind, record)) return false;
+  // Outputs are named from what was saved last, a text of the viewer included.
+  record.BaseFileName = Base_Name(path);
+  if (kind != kTextKind) {
+    record.DataSaved = kTrue;
+    Port().set_caption("BARVON - " + path);
+  }
+  Update_Recent_Files(path);
+  return true;
+}
+
+}  // namespace barvon

@@ -1,0 +1,259 @@
+#include "core/project_file/exact_values.h"
+
+#include <bit>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "core/number_text.h"
+
+namespace barvon {
+namespace {
+
+constexpr std::string_view kHead =
+    "Exact values of this project that the columns above this line can not hold: ";
+constexpr std::string_view kEnd = "End of the exact values";
+constexpr std::string_view kEquals = " = ";
+constexpr std::string_view kColumnsGive = "; the columns give ";
+constexpr std::string_view kNothing = "nothing";
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+
+bool Same_Bits(double a, double b) {
+  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+// ---- Numbers
+
+/// A 32-bit value is written by the shortest text of its 32 bits.
+std::string Number_Text(double value, bool narrow) {
+  return Exact_Number(narrow ? Widen(static_cast<float>(value)) : value);
+}
+
+bool Read_Number(std::string_view text, bool narrow, double& value) {
+  if (!Read_Exact_Number(text, value)) return false;
+  if (narrow) value = static_cast<double>(static_cast<float>(value));
+  return true;
+}
+
+// ---- Texts
+
+/// In quotes, in letters that survive any editor: backslash, quote and every byte that is no
+/// printable ASCII as \xNN.
+std::string Quoted(std::string_view text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte >= 0x7F || c == '"' || c == '\\') {
+      quoted.append("\\x") += kHexDigits[byte >> 4];
+      quoted += kHexDigits[byte & 0xF];
+    } else {
+      quoted += c;
+    }
+  }
+  return quoted + "\"";
+}
+
+std::optional<std::string> Unquoted(std::string_view quoted) {
+  if (quoted.size() < 2 || quoted.front() != '"' || quoted.back() != '"') return std::nullopt;
+  quoted = quoted.substr(1, quoted.size() - 2);
+  std::string text;
+  for (std::size_t at = 0; at < quoted.size(); ++at) {
+    if (quoted[at] != '\\') {
+      text += quoted[at];
+      continue;
+    }
+    if (at + 3 >= quoted.size()) return std::nullopt;
+    const auto high = kHexDigits.find(quoted[at + 2]);
+    const auto low = kHexDigits.find(quoted[at + 3]);
+    if (quoted[at + 1] != 'x' || high == std::string_view::npos || low == std::string_view::npos) {
+      return std::nullopt;
+    }
+    text += static_cast<char>(high * 16 + low);
+    at += 3;
+  }
+  return text;
+}
+
+/// A text of the image that the exact values cover, by its name.
+struct Image_Text {
+  std::string name;
+  std::string text;
+};
+
+std::vector<Image_Text> Texts_Of(const Project_Image& image) {
+  std::vector<Image_Text> texts;
+  for (std::size_t i = 1; i <= kSolidEntries; ++i) {
+    texts.push_back({"SolidNames(" + std::to_string(i) + ")", image.SolidNames[i]});
+  }
+  for (std::size_t i = 1; i < image.SectionStatus.size(); ++i) {
+    texts.push_back(
+        {"SectionStatus(" + std::to_string(i) + ")", std::string(1, image.SectionStatus[i])});
+  }
+  return texts;
+}
+
+/// `index` counts as Texts_Of does.
+bool Set_Text(Project_Image& image, std::size_t index, const std::string& text) {
+  if (index < kSolidEntries) {
+    image.SolidNames[index + 1] = text;
+    return true;
+  }
+  if (text.size() != 1) return false;
+  image.SectionStatus[index - kSolidEntries + 1] = text.front();
+  return true;
+}
+
+// ---- Lines
+
+std::string Line(const std::string& name, const std::string& exact, const std::string& given) {
+  std::string line = name;
+  line.append(kEquals).append(exact).append(kColumnsGive).append(given).append(kLineEnd);
+  return line;
+}
+
+struct Entry {
+  std::string_view name, exact, given;
+};
+
+/// Names hold no " = ", and what the columns gave is split off from the right, since a quoted text
+/// may hold anything.
+std::optional<Entry> Parse_Line(std::string_view line) {
+  const auto equals = line.find(kEquals);
+  const auto gives = line.rfind(kColumnsGive);
+  if (equals == std::string_view::npos || gives == std::string_view::npos ||
+      gives < equals + kEquals.size()) {
+    return std::nullopt;
+  }
+  const auto exact = equals + kEquals.size();
+  return Entry{line.substr(0, equals), line.substr(exact, gives - exact),
+               line.substr(gives + kColumnsGive.size())};
+}
+
+std::optional<std::string_view> Take_Line(std::string_view& rest) {
+  const auto end = rest.find('\n');
+  if (end == std::string_view::npos) return std::nullopt;
+  std::string_view line = rest.substr(0, end);
+  rest.remove_prefix(end + 1);
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  return line;
+}
+
+class Exact_Reader {
+ public:
+  explicit Exact_Reader(Columns_Read& columns) : columns_(columns) {
+    for (const Image_Number& number : Image_Numbers()) numbers_[Name_Of_Number(number)] = number;
+    texts_ = Texts_Of(columns.image);
+  }
+
+  bool Apply(const Entry& entry) {
+    const std::string name(entry.name);
+    if (const auto number = numbers_.find(name); number != numbers_.end()) {
+      return Apply_Number(entry, number->second);
+    }
+    for (std::size_t i = 0; i < texts_.size(); ++i) {
+      if (texts_[i].name == name) return Apply_Text(entry, i);
+    }
+    return false;
+  }
+
+ private:
+  bool Apply_Number(const Entry& entry, const Image_Number& number) {
+    const bool narrow = Is_Narrow(number);
+    const auto index = Index_Of(number);
+    double exact = 0;
+    double given = 0;
+    if (!Read_Number(entry.exact, narrow, exact)) return false;
+    const bool gave_nothing = entry.given == kNothing;
+    if (!gave_nothing && !Read_Number(entry.given, narrow, given)) return false;
+    const bool gives = columns_.given[index];
+    const bool as_it_was =
+        gave_nothing ? !gives : gives && Same_Bits(Number_In(columns_.image, number), given);
+    if (as_it_was) {
+      Number_In(columns_.image, number) = exact;
+      columns_.given[index] = true;
+    }
+    return true;
+  }
+
+  bool Apply_Text(const Entry& entry, std::size_t index) {
+    const auto exact = Unquoted(entry.exact);
+    const auto given = Unquoted(entry.given);
+    if (!exact || !given) return false;
+    return texts_[index].text != *given || Set_Text(columns_.image, index, *exact);
+  }
+
+  Columns_Read& columns_;
+  std::unordered_map<std::string, Image_Number> numbers_;
+  std::vector<Image_Text> texts_;
+};
+
+}  // namespace
+
+std::string Exact_Value_Lines(const Project_Image& image, const Columns_Read& columns) {
+  std::string lines;
+  std::size_t count = 0;
+  for (const Image_Number& number : Image_Numbers()) {
+    const bool narrow = Is_Narrow(number);
+    const bool given = columns.given[Index_Of(number)];
+    const double exact = Number_In(image, number);
+    const double read = Number_In(columns.image, number);
+    if (given && Same_Bits(exact, read)) continue;
+    lines += Line(Name_Of_Number(number), Number_Text(exact, narrow),
+                  given ? Number_Text(read, narrow) : std::string(kNothing));
+    ++count;
+  }
+  const std::vector<Image_Text> exact = Texts_Of(image);
+  const std::vector<Image_Text> read = Texts_Of(columns.image);
+  for (std::size_t i = 0; i < exact.size(); ++i) {
+    if (exact[i].text == read[i].text) continue;
+    lines += Line(exact[i].name, Quoted(exact[i].text), Quoted(read[i].text));
+    ++count;
+  }
+  if (count == 0) return {};
+  std::string text(kHead);
+  text += std::to_string(count);
+  return text.append(kLineEnd).append(lines).append(kEnd).append(kLineEnd);
+}
+
+File_Parts Split_File(std::string_view bytes) {
+  // The head is longer than a title or a line of names can be, so none of them passes for it.
+  const std::string head = "\n" + std::string(kHead);
+  auto found = bytes.rfind(head);
+  if (found == std::string_view::npos) {
+    // A file may be cut off inside the head: what is left of it tells that values are missing.
+    found = bytes.rfind('\n');
+    if (found == std::string_view::npos || !head.starts_with(bytes.substr(found))) {
+      return {bytes, {}};
+    }
+  }
+  return {bytes.substr(0, found + 1), bytes.substr(found + 1)};
+}
+
+Failure Apply_Exact_Values(std::string_view exact, Columns_Read& columns) {
+  const auto head = Take_Line(exact);
+  if (!head) return Failure::Input_Past_End;
+  const std::string_view count_text = head->substr(kHead.size());
+  std::size_t count = 0;
+  const auto [end, error] =
+      std::from_chars(count_text.data(), count_text.data() + count_text.size(), count);
+  if (error != std::errc() || end != count_text.data() + count_text.size()) {
+    return Failure::Type_Mismatch;
+  }
+  Exact_Reader reader(columns);
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto line = Take_Line(exact);
+    if (!line) return Failure::Input_Past_End;
+    const auto entry = Parse_Line(*line);
+    if (!entry || !reader.Apply(*entry)) return Failure::Type_Mismatch;
+  }
+  if (exact.substr(0, kEnd.size()) != kEnd) {
+    return exact.size() < kEnd.size() ? Failure::Input_Past_End : Failure::Type_Mismatch;
+  }
+  return Front_Is_Given(columns.given) ? Failure::None : columns.failure;
+}
+
+}  // namespace barvon

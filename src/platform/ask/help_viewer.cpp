@@ -1,0 +1,23 @@
+#include "platform/ask/help_viewer.h"
+
+#include <utility>
+
+namespace barvon {
+namespace {
+
+Help_Presenter& Presenter() {
+  static Help_Presenter presenter;
+  return presenter;
+}
+
+}  // namespace
+
+void Show_Help(const Help_Request& request) {
+  if (Presenter()) Presenter()(request);
+}
+
+Help_Presenter Set_Help_Presenter(Help_Presenter presenter) {
+  return std::exchange(Presenter(), std::move(presenter));
+}
+
+}  // namespace barvon

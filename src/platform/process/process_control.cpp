@@ -1,0 +1,254 @@
+#include "platform/process/process_control.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/ioctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <optional>
+#include <string_view>
+#include <thread>
+#include <utility>
+
+#include "platform/process/bounded_output.h"
+#include "platform/process/process_family.h"
+
+namespace barvon {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr std::size_t kPipeSize = 1u << 20;
+constexpr milliseconds kSearchEvery{50};  // looking through all processes is not free
+constexpr milliseconds kKillTakes{5000};  // a process that hangs in the system can't be waited for
+
+/// An environment entry that only this program's next child has.
+std::string New_Mark() {
+  static unsigned number = 0;
+  return "BARVON_CHILD=" + std::to_string(::getpid()) + "." + std::to_string(++number) + "." +
+         std::to_string(Clock::now().time_since_epoch().count());
+}
+
+std::string_view Name_Of_Entry(std::string_view entry) { return entry.substr(0, entry.find('=')); }
+
+std::vector<std::string> Environment_With(std::vector<std::string> added) {
+  std::vector<std::string> all = std::move(added);
+  const auto own = all.size();
+  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
+    const bool replaced = std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(own),
+                                      [entry](const std::string& other) {
+                                        return Name_Of_Entry(other) == Name_Of_Entry(*entry);
+                                      });
+    if (!replaced) all.emplace_back(*entry);
+  }
+  return all;
+}
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+  std::vector<char*> pointers;
+  for (std::string& text : texts) pointers.push_back(text.data());
+  pointers.push_back(nullptr);
+  return pointers;
+}
+
+/// Starts a program in a group of its own with default signal handling. `output` becomes its
+/// standard output and error, the null device when it is -1. 0 or an errno value.
+int Spawn(const Process_Start& start, std::vector<std::string> environment, int output,
+          pid_t& pid) {
+  std::vector<std::string> command = start.command;
+  posix_spawn_file_actions_t actions;
+  posix_spawnattr_t attributes;
+  if (const int error = posix_spawn_file_actions_init(&actions); error != 0) return error;
+  if (const int error = posix_spawnattr_init(&attributes); error != 0) {
+    posix_spawn_file_actions_destroy(&actions);
+    return error;
+  }
+  // Output comes first: its descriptor may be the very one that becomes the standard input.
+  int error = 0;
+  const auto add = [&error](int result) { error = error == 0 ? result : error; };
+  for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
+    add(output >= 0 ? posix_spawn_file_actions_adddup2(&actions, output, stream)
+                    : posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0));
+  }
+  add(posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
+  add(posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1));
+  if (!start.folder.empty()) {
+    add(posix_spawn_file_actions_addchdir_np(&actions, start.folder.c_str()));
+  }
+  sigset_t all, none;
+  sigfillset(&all);
+  sigemptyset(&none);
+  add(posix_spawnattr_setpgroup(&attributes, 0));
+  add(posix_spawnattr_setsigdefault(&attributes, &all));
+  add(posix_spawnattr_setsigmask(&attributes, &none));
+  add(posix_spawnattr_setflags(
+      &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK));
+  if (error == 0) {
+    error = posix_spawn(&pid, command[0].c_str(), &actions, &attributes, Pointers(command).data(),
+                        Pointers(environment).data());
+  }
+  posix_spawnattr_destroy(&attributes);
+  posix_spawn_file_actions_destroy(&actions);
+  return error;
+}
+
+}  // namespace
+
+struct External_Process::State {
+  ~State() {
+    if (output >= 0) ::close(output);
+  }
+
+  /// True when the program's own process has ended. It is not reaped yet, so that its number
+  /// stays taken.
+  bool Has_Ended() const {
+    siginfo_t info{};
+    return ::waitid(P_PID, static_cast<id_t>(pid), &info, WEXITED | WNOHANG | WNOWAIT) != 0
+               ? errno != EINTR
+               : info.si_pid == pid;
+  }
+
+  /// Takes at most `limit` bytes that stand in the pipe.
+  void Take_Output(std::size_t limit) {
+    std::array<char, 64 * 1024> part;
+    while (output >= 0 && limit > 0) {
+      const ssize_t got = ::read(output, part.data(), std::min(part.size(), limit));
+      if (got > 0) {
+        kept.Add({part.data(), static_cast<std::size_t>(got)});
+        limit -= static_cast<std::size_t>(got);
+      } else if (got == 0) {
+        ::close(std::exchange(output, -1));
+      } else if (errno != EINTR) {
+        return;
+      }
+    }
+  }
+
+  /// True while anything lives that the stopped program started; sees to it that it ends.
+  bool Family_Lives(Clock::time_point now) {
+    const bool by_force = now >= force_at;
+    if (!by_force && now < search_at) return true;
+    search_at = now + kSearchEvery;
+    return by_force ? family->Signal(SIGKILL) : family->Signal(SIGTERM, true);
+  }
+
+  void Finish() {
+    int waiting = 0;
+    // Something that the program left running may hold the pipe open and go on printing: what
+    // stands in the pipe now is all that is waited for.
+    if (output >= 0 && ::ioctl(output, FIONREAD, &waiting) == 0 && waiting > 0) {
+      Take_Output(static_cast<std::size_t>(waiting));
+    }
+    if (output >= 0) ::close(std::exchange(output, -1));
+    kept.Finish();
+    int status = 0;
+    if (::waitpid(pid, &status, WNOHANG) != pid) {
+      end.exit_code = -1;
+    } else if (WIFSIGNALED(status)) {
+      end.signal = WTERMSIG(status);
+    } else {
+      end.exit_code = WEXITSTATUS(status);
+    }
+    running = false;
+  }
+
+  pid_t pid = -1;
+  int output = -1;
+  bool running = false;
+  Process_End end;
+  Bounded_Output kept;
+  Clock::time_point started;
+  std::optional<Clock::time_point> ended;
+  std::optional<Process_Family> family;
+  Clock::time_point force_at, search_at;
+};
+
+External_Process::External_Process() : state_(std::make_unique<State>()) {}
+
+External_Process::~External_Process() { Stop_And_Wait(milliseconds(0)); }
+
+int External_Process::Start(const Process_Start& start) {
+  if (state_->running) return EBUSY;
+  if (start.command.empty()) return EINVAL;
+  state_ = std::make_unique<State>();
+  State& state = *state_;
+
+  std::array<int, 2> pipe{-1, -1};
+  if (!start.output_file.empty()) {
+    if (::pipe2(pipe.data(), O_CLOEXEC) != 0) return errno;
+    state.output = pipe[0];
+    ::fcntl(pipe[0], F_SETFL, O_NONBLOCK);
+    // With little room the program would wait for the next Poll at every few lines.
+    ::fcntl(pipe[0], F_SETPIPE_SZ, static_cast<int>(kPipeSize));
+    state.kept.Begin(start.output_file, start.output_limit);
+  }
+  std::vector<std::string> environment = start.environment;
+  const std::string mark = New_Mark();
+  environment.push_back(mark);
+  pid_t pid = -1;
+  const int error = Spawn(start, Environment_With(std::move(environment)), pipe[1], pid);
+  if (pipe[1] >= 0) ::close(pipe[1]);
+  if (error != 0) return error;
+  state.pid = pid;
+  state.family.emplace(pid, mark);
+  state.started = Clock::now();
+  state.running = true;
+  return 0;
+}
+
+bool External_Process::Poll() {
+  State& state = *state_;
+  if (!state.running) return false;
+  state.Take_Output(kPipeSize);
+  const Clock::time_point now = Clock::now();
+  const bool ended = state.ended || state.Has_Ended();
+  if (ended && !state.ended) state.ended = now;
+  const bool given_up = state.end.stopped && now >= state.force_at + kKillTakes;
+  if (!given_up) {
+    if (state.end.stopped && state.Family_Lives(now)) return true;
+    if (!ended) return true;
+  }
+  if (!state.ended) state.ended = now;
+  state.Finish();
+  return false;
+}
+
+void External_Process::Stop(milliseconds grace) {
+  State& state = *state_;
+  if (!state.running) return;
+  const Clock::time_point now = Clock::now();
+  if (state.end.stopped) {
+    state.force_at = std::min(state.force_at, now + grace);
+    return;
+  }
+  if (state.Has_Ended()) return;
+  state.end.stopped = true;
+  state.force_at = now + grace;
+  state.search_at = now + kSearchEvery;
+  state.family->Signal(SIGTERM);
+}
+
+void External_Process::Stop_And_Wait(milliseconds grace) {
+  Stop(grace);
+  while (Poll()) std::this_thread::sleep_for(milliseconds(5));
+}
+
+bool External_Process::Is_Running() const { return state_->running; }
+
+const Process_End& External_Process::End() const { return state_->end; }
+
+std::string External_Process::Last_Output() const { return state_->kept.Last_Lines(); }
+
+milliseconds External_Process::Duration() const {
+  if (state_->pid < 0) return milliseconds(0);
+  const Clock::time_point end = state_->ended.value_or(Clock::now());
+  return std::chrono::duration_cast<milliseconds>(end - state_->started);
+}
+
+}  // namespace barvon

@@ -1,0 +1,122 @@
+#include "platform/qt/ask/qt_file_dialog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrinter>
+#include <QTreeView>
+
+#include "platform/qt/ask/qt_message_box.h"
+
+namespace barvon {
+namespace {
+
+/// The file of that name in its folder, in whatever case; empty when there is none.
+QString Existing_File(const QString& path) {
+  const QFileInfo named(path);
+  if (named.exists()) return named.fileName();
+  const QDir::Filters files = QDir::Files | QDir::Hidden | QDir::System;
+  for (const QString& name : named.dir().entryList(files)) {
+    if (name.compare(named.fileName(), Qt::CaseInsensitive) == 0) return name;
+  }
+  return {};
+}
+
+constexpr QSize kSize(680, 440);
+
+class File_Dialog : public QFileDialog {
+ public:
+  File_Dialog(const File_Request& request, AcceptMode mode)
+      : QFileDialog(Window_In_Front()), complete_(request.complete) {
+    // The toolkit's own dialog: the desktop's would match "*.DUI" by case.
+    setOption(DontUseNativeDialog);
+    setOption(DontConfirmOverwrite);
+    setAcceptMode(mode);
+    setFileMode(mode == AcceptOpen ? ExistingFile : AnyFile);
+    if (!request.title.empty()) setWindowTitle(QString::fromStdString(request.title));
+    QStringList filters;
+    for (const File_Filter& filter : request.filters) {
+      QString name = QString::fromStdString(filter.name);
+      const QString pattern = QString::fromStdString(filter.pattern);
+      if (!name.contains(pattern)) name += QStringLiteral(" (%1)").arg(pattern);
+      filters << name;
+    }
+    setNameFilters(filters);
+    Offer(QString::fromStdString(request.name));
+    Make_Room();
+  }
+
+  std::optional<std::string> Ask() {
+    if (exec() != Accepted || selectedFiles().isEmpty()) return std::nullopt;
+    last_folder_ = directory().absolutePath();
+    return selectedFiles().constFirst().toStdString();
+  }
+
+  void accept() override {
+    if (acceptMode() == AcceptSave && !May_Be_Written()) return;
+    QFileDialog::accept();
+  }
+
+ private:
+  /// Names, sizes and dates are shown whole; what kind of file it is the filter says already.
+  void Make_Room() {
+    constexpr int kType = 2;
+    resize(kSize);
+    auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->hideColumn(kType);
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+
+  void Offer(const QString& name) {
+    if (!last_folder_.isEmpty()) setDirectory(last_folder_);
+    if (name.isEmpty() || name.contains(QLatin1Char('*'))) return;
+    const QFileInfo offered(name);
+    if (offered.isDir()) {
+      setDirectory(name);
+      return;
+    }
+    if (offered.isAbsolute()) setDirectory(offered.absolutePath());
+    selectFile(offered.fileName());
+  }
+
+  bool May_Be_Written() {
+    const QStringList files = selectedFiles();
+    if (files.isEmpty() || QFileInfo(files.constFirst()).isDir()) return true;
+    std::string path = files.constFirst().toStdString();
+    if (complete_) path = complete_(path);
+    const QString existing = Existing_File(QString::fromStdString(path));
+    if (existing.isEmpty()) return true;
+    QMessageBox box(this);
+    box.setWindowTitle(windowTitle());
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(QMessageBox::Warning);
+    box.setText(QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(existing));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+  }
+
+  std::function<std::string(const std::string&)> complete_;
+  inline static QString last_folder_;
+};
+
+}  // namespace
+
+std::optional<std::string> Ask_Qt_Open_File(const File_Request& request) {
+  return File_Dialog(request, QFileDialog::AcceptOpen).Ask();
+}
+
+std::optional<std::string> Ask_Qt_Save_File(const File_Request& request) {
+  return File_Dialog(request, QFileDialog::AcceptSave).Ask();
+}
+
+void Show_Qt_Printer_Setup() {
+  static QPrinter printer;
+  QPageSetupDialog dialog(&printer, Window_In_Front());
+  dialog.exec();
+}
+
+}  // namespace barvon

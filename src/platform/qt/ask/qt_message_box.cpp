@@ -1,0 +1,86 @@
+#include "platform/qt/ask/qt_message_box.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <vector>
+
+namespace barvon {
+namespace {
+
+QMessageBox::Icon Box_Icon(Icon icon) {
+  switch (icon) {
+    case Icon::Critical:
+      return QMessageBox::Critical;
+    case Icon::Question:
+      return QMessageBox::Question;
+    case Icon::Warning:
+      return QMessageBox::Warning;
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+std::vector<Answer> Answers_Of(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::YesNo:
+      return {Answer::Yes, Answer::No};
+    case Buttons::YesNoCancel:
+      return {Answer::Yes, Answer::No, Answer::Cancel};
+    case Buttons::Ok:
+      break;
+  }
+  return {Answer::Ok};
+}
+
+QMessageBox::StandardButton Box_Button(Answer answer) {
+  switch (answer) {
+    case Answer::Yes:
+      return QMessageBox::Yes;
+    case Answer::No:
+      return QMessageBox::No;
+    case Answer::Cancel:
+      return QMessageBox::Cancel;
+    case Answer::Ok:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+}  // namespace
+
+QWidget* Window_In_Front() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowType() == Qt::Window) return window;
+  }
+  return nullptr;
+}
+
+Answer Show_Qt_Message(const Message& message) {
+  QMessageBox box(Window_In_Front());
+  box.setWindowTitle(QString::fromStdString(message.title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(QString::fromStdString(message.text));
+  box.setIcon(Box_Icon(message.icon));
+  const std::vector<Answer> answers = Answers_Of(message.buttons);
+  for (const Answer answer : answers) box.addButton(Box_Button(answer));
+  box.setDefaultButton(Box_Button(answers.front()));
+  box.setEscapeButton(Box_Button(Answer_On_Close(message)));
+
+  // A question that comes up in the middle of a long action is not waiting any more.
+  const bool waiting = QApplication::overrideCursor() != nullptr;
+  if (waiting) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  const int pressed = box.exec();
+  if (waiting) QApplication::restoreOverrideCursor();
+
+  for (const Answer answer : answers) {
+    if (pressed == Box_Button(answer)) return answer;
+  }
+  return Answer_On_Close(message);
+}
+
+}  // namespace barvon

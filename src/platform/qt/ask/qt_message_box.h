@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QMessageBox>
+
+#include "platform/ask/message_box.h"
+
+namespace barvon {
+
+/// Shows the message in a QMessageBox: plain text, the first button is the default, closing the
+/// box or Escape is Answer_On_Close.
+Answer Show_Qt_Message(const Message& message);
+
+/// The window that a box or dialog belongs to: the one in front.
+QWidget* Window_In_Front();
+
+}  // namespace barvon

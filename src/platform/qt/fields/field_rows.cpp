@@ -1,0 +1,76 @@
+#include "platform/qt/fields/field_rows.h"
+
+#include <utility>
+
+namespace barvon {
+namespace {
+
+constexpr char kTag[] = "tag";
+constexpr int kFieldCharacters = 12;
+
+QString Without_Mnemonic(QString text) {
+  return text.replace(QStringLiteral("&&"), QStringLiteral("\n"))
+      .remove(QLatin1Char('&'))
+      .replace(QLatin1Char('\n'), QLatin1Char('&'));
+}
+
+/// Fields of numbers are as wide as each other, typed or shown.
+void Size_For_Number(QLineEdit* field) {
+  const int text_width = field->fontMetrics().averageCharWidth() * kFieldCharacters;
+  field->setMinimumWidth(text_width + field->sizeHint().height());  // with room for the mark
+  field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+}  // namespace
+
+Field_Rows::Field_Rows(QWidget* frame) : grid_(new QGridLayout(frame)) {
+  grid_->setColumnStretch(0, 1);
+}
+
+QLabel* Field_Rows::Number(const QString& label, QLineEdit* field, Number_Note note,
+                           const QString& tag) {
+  Make_Number_Field(field, std::move(note));
+  field->setProperty(kTag, tag);
+  QLabel* const shown = Add(label, field);
+  Size_For_Number(field);
+  return shown;
+}
+
+QLabel* Field_Rows::Text(const QString& label, QLineEdit* field, int max_length) {
+  Make_Text_Field(field, max_length);
+  return Add(label, field);
+}
+
+QLabel* Field_Rows::Shown(const QString& label, QLineEdit* field, const QString& tag) {
+  field->setProperty(kTag, tag);
+  field->setReadOnly(true);
+  QPalette palette = field->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  field->setPalette(palette);
+  QLabel* const shown = Add(label, field);
+  Size_For_Number(field);
+  return shown;
+}
+
+void Field_Rows::Whole_Row(QWidget* control) {
+  grid_->addWidget(control, grid_->rowCount(), 0, 1, 2);
+  if (last_ != nullptr) QWidget::setTabOrder(last_, control);
+  last_ = control;
+}
+
+QLabel* Field_Rows::Add(const QString& text, QLineEdit* field) {
+  auto* label = new QLabel(text, grid_->parentWidget());
+  label->setWordWrap(true);
+  label->setBuddy(field);
+  field->setAccessibleName(Without_Mnemonic(text));
+  const int row = grid_->rowCount();
+  grid_->addWidget(label, row, 0);
+  grid_->addWidget(field, row, 1);
+  if (last_ != nullptr) QWidget::setTabOrder(last_, field);
+  last_ = field;
+  return label;
+}
+
+QString Tag_Of(const QWidget* field) { return field->property(kTag).toString(); }
+
+}  // namespace barvon

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QAction>
+#include <QWidget>
+#include <memory>
+
+#include "platform/qt/help/help_find_bar.h"
+#include "platform/qt/help/help_library.h"
+#include "platform/qt/help/help_navigation.h"
+#include "platform/qt/help/help_page.h"
+
+namespace barvon {
+
+/// The help window: contents, index and search beside the page. It can be used while an input
+/// screen blocks the rest of the program.
+class Help_Window : public QWidget {
+ public:
+  explicit Help_Window(std::unique_ptr<Help_Library> library);
+  ~Help_Window() override;
+
+  Help_Library& library() { return *library_; }
+  Help_Navigation& navigation() { return *navigation_; }
+  Help_Page& page() { return *page_; }
+
+  void Show_Topic(int topic);
+  void Show_Contents();
+  /// Shows the window in front, with the contents page when it has none yet.
+  void Come_Forward();
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  QAction* Add(const char* name, const QString& text, const QList<QKeySequence>& keys);
+  void Build_Actions();
+  void Place();
+  void Print();
+  void Follow_Blocking_Window();
+
+  std::unique_ptr<Help_Library> library_;
+  Help_Navigation* navigation_;
+  Help_Page* page_;
+  Help_Find_Bar* find_bar_;
+};
+
+}  // namespace barvon

@@ -1,0 +1,91 @@
+#include "platform/qt/table/book_layout.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QStyle>
+#include <algorithm>
+#include <utility>
+
+namespace barvon {
+namespace {
+
+constexpr int kLargestHintWidth = 640;
+constexpr int kLargestHintHeight = 360;
+constexpr int kDefaultDigits = 9;
+constexpr int kLargestAutoDigits = 60;  // so that one long text leaves the other columns in sight
+constexpr int kWidthsInDigit = 256;
+constexpr int kTwipsInInch = 1440;
+
+int Digit_Pixels(const QWidget& widget) {
+  return widget.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+}
+
+}  // namespace
+
+Book_Layout::Book_Layout(QTableView& view, const Spreadsheet_Table& table)
+    : QObject(&view), view_(view), table_(table) {
+  view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int col, int, int width) {
+            if (!laying_out_) dragged_[col + 1] = width;
+          });
+}
+
+void Book_Layout::Lay_Out() {
+  due_ = false;
+  const QScopedValueRollback laying_out(laying_out_, true);
+  view_.verticalHeader()->setMinimumWidth(table_.RowHeadingWidth() * Digit_Pixels(view_) /
+                                          kWidthsInDigit);
+  view_.verticalHeader()->setDefaultSectionSize(Row_Pixels());
+  view_.horizontalHeader()->setMinimumHeight(table_.ColHeadingHeight() * view_.logicalDpiY() /
+                                             kTwipsInInch);
+  for (int col = 1; col <= table_.MaxCol(); ++col) {
+    const auto dragged = dragged_.find(col);
+    view_.setColumnWidth(col - 1, dragged == dragged_.end() ? Column_Pixels(col) : dragged->second);
+  }
+  view_.updateGeometry();
+}
+
+void Book_Layout::Lay_Out_Later() {
+  if (std::exchange(due_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (due_) Lay_Out();
+      },
+      Qt::QueuedConnection);
+}
+
+int Book_Layout::Row_Pixels() const {
+  QFont font = view_.font();
+  if (table_.LargestFont() > font.pointSize()) font.setPointSize(table_.LargestFont());
+  const int margins = 2 * (view_.style()->pixelMetric(QStyle::PM_FocusFrameVMargin) + 2);
+  return std::max(view_.verticalHeader()->minimumSectionSize(),
+                  QFontMetrics(font).height() + margins);
+}
+
+int Book_Layout::Column_Pixels(int col) const {
+  const int heading = view_.horizontalHeader()->sectionSizeHint(col - 1);
+  const int width = table_.ColWidth(col);
+  const int digit = Digit_Pixels(view_);
+  if (width == Spreadsheet_Table::kAutoWidth) {
+    view_.resizeColumnToContents(col - 1);
+    return std::max(heading, std::min(view_.columnWidth(col - 1), kLargestAutoDigits * digit));
+  }
+  return std::max(heading, width == 0 ? kDefaultDigits * digit : width * digit / kWidthsInDigit);
+}
+
+QSize Book_Layout::Size_Hint() const {
+  const QHeaderView& rows = *view_.verticalHeader();
+  const QHeaderView& cols = *view_.horizontalHeader();
+  const int width = rows.sizeHint().width() + cols.length();
+  const int height = cols.sizeHint().height() + rows.length();
+  // A table that scrolls in one direction must not do so in the other for the bar's sake.
+  const int bar = view_.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const QSize frame(2 * view_.frameWidth(), 2 * view_.frameWidth());
+  return QSize(std::min(width + (height > kLargestHintHeight ? bar : 0), kLargestHintWidth),
+               std::min(height + (width > kLargestHintWidth ? bar : 0), kLargestHintHeight)) +
+         frame;
+}
+
+}  // namespace barvon

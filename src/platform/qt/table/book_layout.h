@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QTableView>
+#include <map>
+
+#include "platform/table/spreadsheet_table.h"
+
+namespace barvon {
+
+/// Gives rows, columns and headings of a view their sizes: what the table asks for, by the font and
+/// the display, but never less than the headings need. A column that the user has dragged keeps
+/// its width.
+class Book_Layout : public QObject {
+ public:
+  /// The view shows the table from the start, and owns this.
+  Book_Layout(QTableView& view, const Spreadsheet_Table& table);
+
+  void Lay_Out();
+  /// The same when the events at hand are done; any number of wishes is met once.
+  void Lay_Out_Later();
+  /// Room for a small table as a whole; a large one scrolls.
+  QSize Size_Hint() const;
+
+ private:
+  int Row_Pixels() const;
+  int Column_Pixels(int col) const;
+
+  QTableView& view_;
+  const Spreadsheet_Table& table_;
+  bool due_ = false;
+  bool laying_out_ = false;
+  std::map<int, int> dragged_;  // pixels, by column from 1
+};
+
+}  // namespace barvon

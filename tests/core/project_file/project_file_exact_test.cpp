@@ -1,0 +1,357 @@
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/project_defaults.h"
+#include "core/project_file/project_reader.h"
+#include "core/project_file/project_writer.h"
+#include "core/project_file/value_slots.h"
+#include "support/plain_support.h"
+#include "support/project_text.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+constexpr std::size_t kFullLines = 3521;  // lines of a full file
+
+class ExactValues : public ::testing::Test {
+ protected:
+  ExactValues() { Set_Project_Defaults(record_); }
+
+  std::vector<std::string> Save() {
+    Pack_Slots(record_);
+    return Lines_Of(Save_Project("site.dui", record_));
+  }
+  Failure Load(const std::vector<std::string>& lines) {
+    Set_Project_Defaults(record_);
+    return Load_Project("site.dui", Joined(lines), record_).failure;
+  }
+  /// The lines behind the columns.
+  static std::vector<std::string> Trailer(const std::vector<std::string>& lines) {
+    return {lines.begin() + kFullLines + 1, lines.end()};
+  }
+
+  std::unique_ptr<ProjectRecord> owner_ = std::make_unique<ProjectRecord>();
+  ProjectRecord& record_ = *owner_;
+};
+
+TEST_F(ExactValues, Nothing_Is_Added_When_Everything_Survives) {
+  record_.DX0 = 100;
+  record_.SiteTop = 99999;
+  record_.SolidNames[1] = "Sand";
+  EXPECT_TRUE(Trailer(Save()).empty());
+}
+
+TEST_F(ExactValues, A_Long_Real_Is_Kept_And_Comes_Back) {
+  record_.ALPHA3 = 1.0 / 3;  // slot 6, the last field of its line
+  const auto lines = Save();
+  EXPECT_EQ(Trailer(lines),
+            (std::vector<std::string>{
+                "Exact values of this project that the columns above this line can not hold: 1",
+                "RealSlots(6) = 0.3333333333333333; the columns give 333333333333",
+                "End of the exact values"}));
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.ALPHA3, 1.0 / 3);
+  EXPECT_EQ(record_.ALPHA2, 0.3536);
+}
+
+TEST_F(ExactValues, A_Corner_Of_1250_5_Feet_Is_Kept_With_All_That_It_Shifts) {
+  record_.SiteTop = 1250.5;
+  record_.SiteBottom = 2000;
+  const auto lines = Save();
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.SiteTop, 1250.5);
+  EXPECT_EQ(record_.SiteBottom, 2000);
+  EXPECT_EQ(record_.MMAX0, 32);
+  EXPECT_EQ(record_.NMAX0, 32);
+}
+
+TEST_F(ExactValues, A_Corner_Beyond_Five_Columns_Is_Kept) {
+  record_.SiteRight = 123456;
+  const auto lines = Save();
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.SiteRight, 123456);
+}
+
+TEST_F(ExactValues, A_Name_Of_12_Characters_Is_Kept) {
+  record_.SolidNames[1] = "Coarse \"sand";
+  record_.SolidNames[5] = " Copper; the columns give = ";
+  const auto lines = Save();
+  EXPECT_EQ(Trailer(lines)[1],
+            "SolidNames(1) = \"Coarse \\x22sand\"; the columns give \"Coarse \\x22\"");
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.SolidNames[1], "Coarse \"sand");
+  EXPECT_EQ(record_.TracerName(), " Copper; the columns give = ");
+}
+
+TEST_F(ExactValues, Velocities_That_Run_Together_And_Fine_Tides_Are_Kept) {
+  for (auto& row : record_.VelocityFieldX) row.fill(-1.0 / 3);
+  record_.VelocityFieldX[0] = {};
+  for (auto& row : record_.VelocityFieldX) row[0] = 0;
+  record_.VelocityFieldZ[96][96] = 0.123456789;
+  record_.TidalVelX[3] = 0.125F;
+  record_.TidalStartTime = 0.1F;  // two decimals hold it
+  record_.KEY4 = 4;
+  const auto saved = std::make_unique<ProjectRecord>(record_);
+  const auto lines = Save();
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.VelocityFieldX, saved->VelocityFieldX);
+  EXPECT_EQ(record_.VelocityFieldZ, saved->VelocityFieldZ);
+  EXPECT_EQ(record_.TidalVelX[3], 0.125F);
+  EXPECT_EQ(record_.TidalStartTime, 0.1F);
+  EXPECT_EQ(record_.KEY4, 4);
+}
+
+TEST_F(ExactValues, A_Tidal_Value_Is_Written_By_Its_32_Bit_Text) {
+  record_.TidalDepth = 0.123F;
+  EXPECT_EQ(Trailer(Save())[1], "TidalDepth = 0.123; the columns give 0.12");
+}
+
+TEST_F(ExactValues, An_Edit_Of_The_Columns_By_Hand_Wins) {
+  record_.ALPHA3 = 1.0 / 3;
+  record_.ALPHA2 = 2.0 / 3;
+  auto lines = Save();
+  lines[6] = "      0.025      0.001      0.235     0.0806       0.35       0.25";
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.ALPHA2, 0.35);
+  EXPECT_EQ(record_.ALPHA3, 0.25);
+}
+
+TEST_F(ExactValues, Values_On_Lines_That_Were_Not_Edited_Stay_Exact) {
+  record_.ALPHA3 = 1.0 / 3;
+  record_.BargeLength = 200.0 / 3;
+  auto lines = Save();
+  lines[6] = "      0.025      0.001      0.235     0.0806     0.3536       0.25";
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.ALPHA3, 0.25);
+  EXPECT_EQ(record_.BargeLength, 200.0 / 3);
+}
+
+TEST_F(ExactValues, Lines_That_Are_Cut_Off_Fail_And_Leave_The_Record) {
+  record_.ALPHA3 = 1.0 / 3;
+  record_.ALPHA4 = 1.0 / 7;
+  const auto lines = Save();
+  const std::string text = Joined(lines);
+  const std::size_t head = text.find("Exact values");
+  record_.ProjectTitle = "before";
+  // Cut anywhere between the head's first character and its end line's last.
+  for (std::size_t size = head + 1; size < text.size() - 2; ++size) {
+    const Load_Result result = Load_Project("site.dui", text.substr(0, size), record_);
+    ASSERT_NE(result.failure, Failure::None) << size - head;
+    ASSERT_FALSE(result.told);
+    ASSERT_EQ(record_.ProjectTitle, "before");
+  }
+}
+
+TEST_F(ExactValues, Damaged_Lines_Fail) {
+  record_.ALPHA3 = 1.0 / 3;
+  const auto lines = Save();
+  for (const char* damaged :
+       {"RealSlots(6) = 0.33x; the columns give 333333333333",
+        "RealSlots(6) = 0.33; the columns give ", "RealSlots(9999) = 1; the columns give 2",
+        "Nonsense = 1; the columns give 2", "no entry at all",
+        "SolidNames(1) = \"x\\x4\"; the columns give \"\"",
+        "SolidNames(1) = x; the columns give \"\""}) {
+    auto copy = lines;
+    copy[kFullLines + 2] = damaged;
+    EXPECT_EQ(Load(copy), Failure::Type_Mismatch) << damaged;
+  }
+}
+
+TEST_F(ExactValues, Faults_Of_A_File_With_Exact_Values_Are_Told_By_Their_Number) {
+  record_.ALPHA3 = 1.0 / 3;
+  const auto lines = Save();
+  auto velocity = lines;
+  velocity[1574].replace(8, 8, "     abc");
+  auto real = lines;
+  real[7] = "      1E999";
+  auto exact = lines;
+  exact[kFullLines + 2] = "no entry at all";
+  const std::vector<std::pair<std::vector<std::string>, std::string>> faults = {
+      {velocity, "Error Reading File:  13"},
+      {real, "Error Reading File:  6"},
+      {exact, "Error Reading File:  13"}};
+  for (const auto& [faulty, text] : faults) {
+    Scripted_Messages messages({Answer::Ok});
+    const Load_Result result = Load_Project("site.dui", Joined(faulty), record_);
+    EXPECT_NE(result.failure, Failure::None) << text;
+    EXPECT_TRUE(result.told) << text;
+    ASSERT_EQ(messages.shown.size(), 1U) << text;
+    EXPECT_EQ(messages.shown[0].text, text);
+  }
+}
+
+TEST_F(ExactValues, A_Title_Can_Not_Pass_For_The_Head_Line) {
+  record_.ProjectTitle =
+      "Exact values of this project that the columns above this line can not hold: 1";
+  const auto lines = Save();
+  ASSERT_EQ(Load(lines), Failure::None);
+  EXPECT_EQ(record_.ProjectTitle, "Exact values of this project that the columns above this lin");
+}
+
+// ---- Every record comes back
+
+/// Values of every kind: plain ones, wide ones, tiny and huge ones, special ones.
+class Value_Source {
+ public:
+  explicit Value_Source(std::uint64_t seed) : random_(seed) {}
+
+  double Real() {
+    switch (random_() % 12) {
+      case 0:
+        return 0;
+      case 1:
+        return static_cast<double>(random_() % 2000) / 8 - 100;
+      case 2:
+        return static_cast<double>(random_() % 100000);
+      case 3:
+        return 1.0 / static_cast<double>(1 + random_() % 1000);
+      case 4:
+        return std::bit_cast<double>(std::uint64_t{random_()});
+      case 5:
+        return -0.0;
+      case 6:
+        return std::numeric_limits<double>::infinity();
+      case 7:
+        return std::ldexp(static_cast<double>(random_() % 1000),
+                          static_cast<int>(random_() % 2000) - 1000);
+      default:
+        return static_cast<double>(random_() % 1000) / 10;
+    }
+  }
+  float Narrow() {
+    return random_() % 4 == 0 ? std::bit_cast<float>(static_cast<std::uint32_t>(random_()))
+                              : static_cast<float>(random_() % 1000) / 100;
+  }
+  std::int16_t Integer() {
+    return random_() % 3 == 0 ? static_cast<std::int16_t>(random_())
+                              : static_cast<std::int16_t>(random_() % 100);
+  }
+  std::string Text(std::size_t longest) {
+    static const std::vector<std::string> kLetters = {
+        "a", "Z", "7", " ", "\"", "\\", ";", "\xC3\xA9", "\xE2\x82\xAC", "="};
+    std::string text;
+    for (std::size_t i = random_() % (longest + 1); i > 0; --i) {
+      text += kLetters[random_() % kLetters.size()];
+    }
+    return text;
+  }
+  bool Rarely() { return random_() % 8 == 0; }
+  char Letter() { return static_cast<char>(0x20 + random_() % 0x5F); }
+
+ private:
+  std::mt19937_64 random_;
+};
+
+/// NaN is not equal to itself, and one NaN is as good as another.
+bool Same(double a, double b) {
+  return (std::isnan(a) && std::isnan(b)) ||
+         std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+void Fill_At_Random(ProjectRecord& record, Value_Source& values) {
+  for (const Slot_Row& row : Int_Slot_Rows()) {
+    for (int i = 1; i <= row.count; ++i) {
+      row.set(record, i, row.integer ? values.Integer() : values.Real());
+    }
+  }
+  for (const Slot_Row& row : Real_Slot_Rows()) {
+    for (int i = 1; i <= row.count; ++i) {
+      row.set(record, i, row.integer ? values.Integer() : values.Real());
+    }
+  }
+  // Most of a grid is plain in life; a wild field now and then.
+  const bool wild = values.Rarely();
+  for (int a = 1; a <= kMaxGridPoints; ++a) {
+    for (int b = 1; b <= kMaxGridPoints; ++b) {
+      if (wild || values.Rarely()) record.DepthGrid[a][b] = values.Real();
+      if (wild) record.VelocityFieldX[a][b] = values.Real();
+      if (wild || values.Rarely()) record.VelocityFieldZ[a][b] = values.Integer() / 100;
+    }
+  }
+  for (float* value :
+       {&record.TidalStartTime, &record.TidalDepth, &record.TidalAvgVelX, &record.TidalAvgVelZ}) {
+    *value = values.Narrow();
+  }
+  for (int i = 1; i <= kTidalRows; ++i) {
+    record.TidalVelX[i] = values.Narrow();
+    record.TidalVelZ[i] = values.Narrow();
+  }
+  for (int i = 1; i <= kSolidEntries; ++i) record.SolidNames[i] = values.Text(12);
+  for (int i = 1; i <= 6; ++i) record.SectionStatus[i] = values.Letter();
+  for (int i = 1; i <= 18; ++i) record.SectionFlags[i] = values.Integer();
+  record.KEY4 = values.Integer();
+  record.KEY3 = static_cast<std::int16_t>(record.KEY3 == 4 || record.KEY3 == 7 ? 5 : record.KEY3);
+}
+
+/// The first difference between what two records store, empty when there is none.
+std::string First_Difference(const ProjectRecord& a, const ProjectRecord& b) {
+  for (const auto rows : {Int_Slot_Rows(), Real_Slot_Rows()}) {
+    for (const Slot_Row& row : rows) {
+      for (int i = 1; i <= row.count; ++i) {
+        if (!Same(row.get(a, i), row.get(b, i))) return row.field + std::to_string(i);
+      }
+    }
+  }
+  for (int x = 1; x <= kMaxGridPoints; ++x) {
+    for (int z = 1; z <= kMaxGridPoints; ++z) {
+      if (!Same(a.DepthGrid[x][z], b.DepthGrid[x][z])) return "DepthGrid";
+      if (!Same(a.VelocityFieldX[x][z], b.VelocityFieldX[x][z])) return "VelocityFieldX";
+      if (!Same(a.VelocityFieldZ[x][z], b.VelocityFieldZ[x][z])) return "VelocityFieldZ";
+    }
+  }
+  if (!Same(a.TidalStartTime, b.TidalStartTime)) return "TidalStartTime";
+  if (!Same(a.TidalDepth, b.TidalDepth)) return "TidalDepth";
+  if (!Same(a.TidalAvgVelX, b.TidalAvgVelX)) return "TidalAvgVelX";
+  if (!Same(a.TidalAvgVelZ, b.TidalAvgVelZ)) return "TidalAvgVelZ";
+  for (int i = 1; i <= kTidalRows; ++i) {
+    if (!Same(a.TidalVelX[i], b.TidalVelX[i])) return "TidalVelX";
+    if (!Same(a.TidalVelZ[i], b.TidalVelZ[i])) return "TidalVelZ";
+  }
+  if (a.SolidNames != b.SolidNames) return "SolidNames";
+  if (a.SectionStatus != b.SectionStatus) return "SectionStatus";
+  if (a.SectionFlags != b.SectionFlags) return "SectionFlags";
+  if (a.KEY4 != b.KEY4) return "KEY4";
+  return {};
+}
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::uint64_t kRandomRecords = 200;  // each takes ten times as long under the sanitizer
+#else
+constexpr std::uint64_t kRandomRecords = 2000;
+#endif
+
+TEST_F(ExactValues, Thousands_Of_Random_Records_Come_Back_Bit_For_Bit) {
+  const auto blank = std::make_unique<ProjectRecord>(record_);
+  const auto saved = std::make_unique<ProjectRecord>();
+  const auto loaded = std::make_unique<ProjectRecord>();
+  for (std::uint64_t seed = 1; seed <= kRandomRecords; ++seed) {
+    Value_Source values(seed);
+    *saved = *blank;
+    Fill_At_Random(*saved, values);
+    Pack_Slots(*saved);
+    const std::string text = Save_Project("site.dui", *saved);
+    *loaded = *blank;
+    ASSERT_EQ(Load_Project("site.dui", text, *loaded).failure, Failure::None) << "seed " << seed;
+    ASSERT_EQ(First_Difference(*saved, *loaded), "") << "seed " << seed;
+    if (seed <= 50) {
+      Pack_Slots(*loaded);
+      ASSERT_EQ(Save_Project("site.dui", *loaded), text) << "seed " << seed;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace barvon
