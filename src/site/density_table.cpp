@@ -57,7 +57,7 @@ void Fill_Density_Table(const ProjectRecord& record, int rows, bool computed,
   for (int row = 1; row <= std::min(rows, kMaxDensityPoints); ++row) {
     int column = 0;
     for (const Density_Column& shown : Columns(computed)) {
-      F1Book1.NumberRC(row, ++column, (record.*shown.points)[static_cast<std::size_t>(row)]);
+      F1Book1.NumberRC(row, ++column, (record.*shown.points)[row]);
     }
   }
 }
@@ -66,7 +66,7 @@ void Take_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
                       ProjectRecord& record) {
   int column = 0;
   for (const Density_Column& shown : Columns(computed)) {
-    (record.*shown.points)[static_cast<std::size_t>(row)] = F1Book1.NumberRC(row, ++column);
+    (record.*shown.points)[row] = F1Book1.NumberRC(row, ++column);
   }
 }
 
@@ -86,10 +86,10 @@ bool Compute_Density_Table(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
       Tell_No_Density(row);
       return false;
     }
-    shown[static_cast<std::size_t>(row)] = Format_Number(*density, kDensityPattern);
+    shown[row] = Format_Number(*density, kDensityPattern);
   }
   for (int row = 1; row <= rows; ++row) {
-    F1Book1.TextRC(row, kDensityColumn, shown[static_cast<std::size_t>(row)]);
+    F1Book1.TextRC(row, kDensityColumn, shown[row]);
     Take_Density_Row(F1Book1, row, true, record);
   }
   record.DensityComputeFlag = kTrue;

@@ -21,8 +21,7 @@ void Fill(const Rows& rows, int count, int columns, Spreadsheet_Table& table) {
   table.MaxCol(columns);
   for (int row = 1; row <= count; ++row) {
     for (int column = 1; column <= columns; ++column) {
-      table.NumberRC(row, column,
-                     rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+      table.NumberRC(row, column, rows[row][column]);
     }
   }
   table.ForgetEdits();
@@ -35,8 +34,7 @@ Rows Read(const Spreadsheet_Table& table) {
   const int columns = std::min(table.MaxCol(), static_cast<int>(rows[0].size()) - 1);
   for (int row = 1; row <= count; ++row) {
     for (int column = 1; column <= columns; ++column) {
-      rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] =
-          table.NumberRC(row, column);
+      rows[row][column] = table.NumberRC(row, column);
     }
   }
   return rows;
