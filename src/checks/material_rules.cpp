@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/desk/help_topics.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -21,9 +22,9 @@ void Check_Mixed_Load(const ProjectRecord& record, Error_List& errors) {
   const int solids = std::min<int>(record.NumSolids, kSolidEntries);
   for (int i = 1; i <= solids; ++i) {
     if (record.SolidVolFraction[i] != 0) continue;
-    if (record.DisposalMethod == 1) {
+    if (record.DisposalMethod == kHopper) {
       errors.Add(Zero_Fraction_Message(record, i), kHopperTable, help_topic::kMaterialHopper);
-    } else if (record.DisposalMethod == 3) {
+    } else if (record.DisposalMethod == kBarge) {
       errors.Add(Zero_Fraction_Message(record, i), kBargeTable, help_topic::kMaterialBarge);
     } else {
       errors.Add(Zero_Fraction_Message(record, i), "");

@@ -1,6 +1,7 @@
 #include "checks/operation_rules.h"
 
 #include "core/desk/help_topics.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -15,26 +16,26 @@ void Check_Vessel_Location(const ProjectRecord& record, Error_List& errors) {
 }
 
 void Check_Hopper_Bin_Length(const ProjectRecord& record, Error_List& errors) {
-  if (record.DisposalMethod == 1 && record.BINL <= 0) {
+  if (record.DisposalMethod == kHopper && record.BINL <= 0) {
     errors.Add(kBadBinLength, "frmOperation!Text1(2)");
   }
 }
 
 void Check_Hopper_Bin_Width(const ProjectRecord& record, Error_List& errors) {
-  if (record.DisposalMethod == 1 && record.BINW <= 0) {
+  if (record.DisposalMethod == kHopper && record.BINW <= 0) {
     errors.Add(kBadBinWidth, "frmOperation!Text1(3)");
   }
 }
 
 void Check_Barge_Length(const ProjectRecord& record, Error_List& errors) {
-  if (record.DisposalMethod == 3 && record.BargeLength <= 0) {
+  if (record.DisposalMethod == kBarge && record.BargeLength <= 0) {
     errors.Add(kBadBinLength, "frmOperation!Text1(2)");
   }
 }
 
 /// The only one of these rules with a help topic, and that is the timing screen's.
 void Check_Barge_Width(const ProjectRecord& record, Error_List& errors) {
-  if (record.DisposalMethod == 3 && record.BargeWidth <= 0) {
+  if (record.DisposalMethod == kBarge && record.BargeWidth <= 0) {
     errors.Add(kBadBinWidth, "frmOperation!Text1(3)", help_topic::kSimulation);
   }
 }

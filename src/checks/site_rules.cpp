@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/format_pattern.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -15,11 +16,6 @@ constexpr double kMostRoughness = 0.05;     // ft
 constexpr char kSiteOutsideGrid[] = "Location of Disposal Site is Outside of the Site Grid";
 constexpr char kZoneOutsideGrid[] = "Location of the Mixing Zone is Outside of the Site Grid";
 constexpr char kVesselOutsideSite[] = "Dumping Point is Outside of Specified Mixing Zone";
-
-/// The evaluations that speak of a disposal site; the others speak of a mixing zone.
-bool Speaks_Of_Disposal_Site(const ProjectRecord& record) {
-  return record.KEY3 >= 2 && record.KEY3 <= 4;
-}
 
 const char* Site_Message(const ProjectRecord& record) {
   return Speaks_Of_Disposal_Site(record) ? kSiteOutsideGrid : kZoneOutsideGrid;
@@ -117,7 +113,7 @@ void Check_Site_Given(const ProjectRecord& record, Error_List& errors) {
 
 /// Only a rectangle that is turned round both ways is found.
 void Check_Site_Corners(const ProjectRecord& record, Error_List& errors) {
-  if (record.KEY3 >= 2 && record.SiteTop > record.SiteBottom &&
+  if (Is_Regulatory(record) && record.SiteTop > record.SiteBottom &&
       record.SiteLeft > record.SiteRight) {
     errors.Add(Speaks_Of_Disposal_Site(record) ? "Lower Left Point of Disposal Site is Invalid"
                                                : "Lower Left Point of Mixing Zone is Invalid",

@@ -1,12 +1,13 @@
 #include "checks/time_rules.h"
 
 #include "core/desk/help_topics.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
 
-constexpr double kLongestOcean = 144000;  // s, analysis type 2
-constexpr double kLongestInland = 36000;  // s, analysis type 3
+constexpr double kLongestOcean = 144000;  // s
+constexpr double kLongestInland = 36000;  // s
 constexpr char kTooLong[] = "Simulation Duration Is Too Large.  Please Reduce.";
 
 void Check_Duration_Given(const ProjectRecord& record, Error_List& errors) {
@@ -24,13 +25,13 @@ void Check_Time_Step_Given(const ProjectRecord& record, Error_List& errors) {
 }
 
 void Check_Ocean_Duration(const ProjectRecord& record, Error_List& errors) {
-  if (record.SimulationDuration > kLongestOcean && record.AnalysisType == 2) {
+  if (record.SimulationDuration > kLongestOcean && record.AnalysisType == kOceanSites) {
     errors.Add(kTooLong, "frmSimulation!Text1(0)", help_topic::kSimulation);
   }
 }
 
 void Check_Inland_Duration(const ProjectRecord& record, Error_List& errors) {
-  if (record.SimulationDuration > kLongestInland && record.AnalysisType == 3) {
+  if (record.SimulationDuration > kLongestInland && record.AnalysisType == kNavigableWaters) {
     errors.Add(kTooLong, "frmSimulation!Text1(0)", help_topic::kSimulation);
   }
 }

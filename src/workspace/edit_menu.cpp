@@ -5,6 +5,7 @@
 
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "platform/ask/message_box.h"
 #include "workspace/option_logic.h"
 
@@ -12,8 +13,8 @@ namespace barvon {
 namespace {
 
 std::string Material_Screen(std::int16_t disposal_method) {
-  if (disposal_method == 1 || disposal_method == 2) return "frmMatHopper";
-  if (disposal_method == 3) return "frmMatBarge";
+  if (disposal_method == kHopper || disposal_method == kContinuous) return "frmMatHopper";
+  if (disposal_method == kBarge) return "frmMatBarge";
   return "";
 }
 

@@ -3,6 +3,8 @@
 #include <QSignalBlocker>
 
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
+#include "core/velocity_types.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/option_paint.h"
 #include "workspace/edit_menu.h"
@@ -12,10 +14,6 @@
 
 namespace barvon {
 namespace {
-
-constexpr double kDilutionFileKind = 1;
-constexpr std::int16_t kDilutionKEY4 = 7;
-constexpr int kTwoPointProfile = 1;
 
 /// Sets a box without its click action.
 void Show_Box(QCheckBox* box, bool set) {
@@ -102,8 +100,7 @@ void SSOption4_Click(Main_Controls& controls, ProjectRecord& record, int index) 
 void Option3D1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Show_Option(controls.Option3D1, index);
   Choose_Velocity(index, controls.Check3D1->isChecked(), record);
-  if (index == kTwoPointProfile && record.ConstantDepthFlag == 0 &&
-      Ask_To_Disable_Variable_Depth()) {
+  if (index == kTwoPointForm && record.ConstantDepthFlag == 0 && Ask_To_Disable_Variable_Depth()) {
     Show_Screen("frmDescription", record);
     return;
   }
@@ -146,8 +143,8 @@ void SSRibbon1_Click(ProjectRecord& record, int index) {
 }
 
 void SSRibbon2_Click(Main_Controls& controls, ProjectRecord& record) {
-  record.FileKind = kDilutionFileKind;
-  record.KEY4 = kDilutionKEY4;
+  record.FileKind = kDilutionKind;
+  record.KEY4 = kDilutionStudy;
   SetMenuAvailability(controls, Menu_Mode::Dilution);
   Show_Blocking_Screen("frmDilute2");
 }
