@@ -11,8 +11,6 @@ constexpr std::int16_t kEvaluations[kAnalysisTypes][kMostEvaluations] = {
     {kNavigableFurtherTesting, kNavigableWaterQuality, kNavigableToxicity},
 };
 
-bool Is_Analysis_Type(std::int16_t type) { return type >= 1 && type <= kAnalysisTypes; }
-
 struct Place {
   std::int16_t type = kNoAnalysis;
   int option = -1;
@@ -35,6 +33,10 @@ bool Has_Vessel(const ProjectRecord& record) {
 
 bool Is_Model_Project(const ProjectRecord& record) {
   return record.FileKind == kProjectKind || record.FileKind == kFormerProjectKind;
+}
+
+bool Is_Analysis_Type(std::int16_t analysis_type) {
+  return analysis_type >= kOpenWater && analysis_type <= kNavigableWaters;
 }
 
 bool Is_Regulatory(const ProjectRecord& record) { return record.KEY3 >= kOceanWaterQuality; }

@@ -71,6 +71,8 @@ bool Has_Zid(const ProjectRecord& record);
 /// The contaminant is given in the sediment, and the concentration in the fluid follows from it.
 bool Contaminant_Is_In_The_Sediment(const ProjectRecord& record);
 
+bool Is_Analysis_Type(std::int16_t analysis_type);
+
 /// The evaluations that a type of analysis offers, in the order of their options: further testing,
 /// water quality, toxicity; of open water no tracer and tracer. 0 for any other type.
 int Evaluations_Of(std::int16_t analysis_type);

@@ -89,7 +89,7 @@ const Evaluation_Captions& Evaluation_Captions_Of(std::int16_t analysis_type) {
 }
 
 std::optional<const char*> Simulation_Hint(std::int16_t analysis_type) {
-  if (analysis_type < 1 || analysis_type > kAnalysisTypes) return std::nullopt;
+  if (!Is_Analysis_Type(analysis_type)) return std::nullopt;
   return kSimulationHints[analysis_type - 1];
 }
 
