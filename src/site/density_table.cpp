@@ -1,73 +1,45 @@
 #include "site/density_table.h"
 
-#include <algorithm>
 #include <array>
-#include <span>
 
 #include "core/format_pattern.h"
 #include "core/number_text.h"
+#include "core/record_columns.h"
 #include "material/amden.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {
 
-using Points = OneBased<double, kMaxDensityPoints>;
+enum Layout : unsigned { kTyped = 1, kComputed = 2 };
 
-struct Density_Column {
-  const char* heading;
-  const char* pattern;
-  Points ProjectRecord::*points;
-};
-
+constexpr int kWidth = 3650;
 constexpr char kDensityPattern[] = "###0.0000";
-constexpr Density_Column kDepth = {"Depth (ft)", "###0.0", &ProjectRecord::DensityDepths};
-constexpr Density_Column kDensity = {"Density (g/cc)", kDensityPattern, &ProjectRecord::Densities};
-constexpr std::array<Density_Column, 2> kTyped = {kDepth, kDensity};
-constexpr std::array<Density_Column, 4> kComputed = {
-    kDepth,
-    {"Salinity (ppt)", "###0.0", &ProjectRecord::DensitySalinities},
-    {"Temp (celsius)", "###0.0", &ProjectRecord::DensityTemperatures},
-    kDensity};
-constexpr int kColumnWidth = 3650;
+constexpr Table_Column<ProjectRecord> kColumns[] = {
+    {"Depth (ft)", kWidth, "###0.0", kCells<&ProjectRecord::DensityDepths>},
+    {"Salinity (ppt)", kWidth, "###0.0", kCells<&ProjectRecord::DensitySalinities>, kComputed},
+    {"Temp (celsius)", kWidth, "###0.0", kCells<&ProjectRecord::DensityTemperatures>, kComputed},
+    {"Density (g/cc)", kWidth, kDensityPattern, kCells<&ProjectRecord::Densities>}};
 constexpr int kDepthColumn = 1, kSalinityColumn = 2, kTemperatureColumn = 3, kDensityColumn = 4;
 
-std::span<const Density_Column> Columns(bool computed) {
-  if (computed) return kComputed;
-  return kTyped;
+Shown_Columns<ProjectRecord> Columns(bool computed) {
+  return Shown_Columns(kColumns, computed ? kComputed : kTyped);
 }
 
 }  // namespace
 
 void Lay_Out_Density_Table(bool computed, Spreadsheet_Table& F1Book1) {
-  const auto columns = Columns(computed);
-  F1Book1.MaxCol(static_cast<int>(columns.size()));
-  int column = 0;
-  for (const Density_Column& shown : columns) {
-    ++column;
-    F1Book1.ColText(column, shown.heading);
-    F1Book1.NumberFormat({1, column, kMaxDensityPoints, column}, shown.pattern);
-  }
-  F1Book1.ColWidths(kColumnWidth);
+  Columns(computed).Lay_Out(1, kMaxDensityPoints, F1Book1);
 }
 
 void Fill_Density_Table(const ProjectRecord& record, int rows, bool computed,
                         Spreadsheet_Table& F1Book1) {
-  const Table_Fill fill(F1Book1);
-  for (int row = 1; row <= std::min(rows, kMaxDensityPoints); ++row) {
-    int column = 0;
-    for (const Density_Column& shown : Columns(computed)) {
-      F1Book1.NumberRC(row, ++column, (record.*shown.points)[row]);
-    }
-  }
+  Columns(computed).Fill(record, rows, F1Book1);
 }
 
 void Take_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
                       ProjectRecord& record) {
-  int column = 0;
-  for (const Density_Column& shown : Columns(computed)) {
-    (record.*shown.points)[row] = F1Book1.NumberRC(row, ++column);
-  }
+  Columns(computed).Take_Row(F1Book1, row, row, record);
 }
 
 bool Compute_Density_Table(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
@@ -86,10 +58,10 @@ bool Compute_Density_Table(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
       Tell_No_Density(row);
       return false;
     }
-    shown[row] = Format_Number(*density, kDensityPattern);
+    shown[static_cast<std::size_t>(row)] = Format_Number(*density, kDensityPattern);
   }
   for (int row = 1; row <= rows; ++row) {
-    F1Book1.TextRC(row, kDensityColumn, shown[row]);
+    F1Book1.TextRC(row, kDensityColumn, shown[static_cast<std::size_t>(row)]);
     Take_Density_Row(F1Book1, row, true, record);
   }
   record.DensityComputeFlag = kTrue;

@@ -6,12 +6,12 @@
 #include "core/number_text.h"
 #include "platform/ask/busy_cursor.h"
 #include "platform/ask/message_box.h"
+#include "site/grid_rows.h"
 #include "site/open_site_boxes.h"
 
 namespace barvon {
 namespace {
 
-constexpr int kRowHeadingWidth = 2000;
 constexpr char kStoredDepth[] = "##0.00";
 constexpr char kOneDepth[] = "###0.00";
 
@@ -25,30 +25,13 @@ std::optional<int> Grid_Count(const std::string& typed, const char* direction) {
   return std::nullopt;
 }
 
-void Lay_Out(const Depth_Grid_Size& size, Spreadsheet_Table& table) {
-  table.MaxCol(size.columns);
-  table.MaxRow(size.rows);
-  table.RowHeadingWidth(kRowHeadingWidth);
-  for (int column = 1; column <= size.columns; ++column) {
-    table.ColText(column, "Col " + Plain_Number(column));
-  }
-  for (int row = 1; row <= size.rows; ++row) table.RowText(row, "Row " + Plain_Number(row));
-}
-
 void Fill_With(double depth, Spreadsheet_Table& table) {
   table.NumberFormat(table.TableRange(), kOneDepth);
-  for (int row = 1; row <= table.MaxRow(); ++row) {
-    for (int column = 1; column <= table.MaxCol(); ++column) table.NumberRC(row, column, depth);
-  }
+  Fill_Grid(depth, table);
 }
 
 bool Is_Everywhere(double depth, const Spreadsheet_Table& table) {
-  for (int row = 1; row <= table.MaxRow(); ++row) {
-    for (int column = 1; column <= table.MaxCol(); ++column) {
-      if (table.NumberRC(row, column) != depth) return false;
-    }
-  }
-  return true;
+  return !Any_Cell(table, [depth](double cell) { return cell != depth; });
 }
 
 void Save_Initial_Depth(const Depth_Grid_Entry& entry, ProjectRecord& record) {
@@ -79,17 +62,15 @@ void ShowDepthGrid(const Depth_Grid_Size& size, bool Check3D2, const ProjectReco
                    Spreadsheet_Table& F1Book1) {
   const Busy_Cursor cursor;
   const Table_Fill fill(F1Book1);
-  Lay_Out(size, F1Book1);
+  Lay_Out_Grid(size.rows, size.columns, F1Book1);
   if (Check3D2 && record.DEPTHI != 0) {
     Fill_With(record.DEPTHI, F1Book1);
     return;
   }
   F1Book1.NumberFormat(F1Book1.TableRange(), kStoredDepth);
-  for (int row = 1; row <= size.rows; ++row) {
-    for (int column = 1; column <= size.columns; ++column) {
-      F1Book1.NumberRC(row, column, record.DepthGrid[column][row]);
-    }
-  }
+  For_Each_Cell(F1Book1, [&](int row, int column) {
+    F1Book1.NumberRC(row, column, record.DepthGrid[column][row]);
+  });
 }
 
 void Initialize_Depth_Grid(double InitialDepth, bool Check3D2, Spreadsheet_Table& F1Book1) {
@@ -105,13 +86,10 @@ void SaveDepthGrid(const Depth_Grid_Entry& entry, const Spreadsheet_Table& F1Boo
   record.DataSaved = kFalse;
   Save_Initial_Depth(entry, record);
   const Busy_Cursor cursor;
-  const int rows = std::min(F1Book1.MaxRow(), kMaxGridPoints);
-  const int columns = std::min(F1Book1.MaxCol(), kMaxGridPoints);
-  for (int row = 1; row <= rows; ++row) {
-    for (int column = 1; column <= columns; ++column) {
-      record.DepthGrid[column][row] = F1Book1.NumberRC(row, column);
-    }
-  }
+  For_Each_Cell(F1Book1, [&](int row, int column) {
+    if (row > kMaxGridPoints || column > kMaxGridPoints) return;
+    record.DepthGrid[column][row] = F1Book1.NumberRC(row, column);
+  });
 }
 
 double MaxGridDepth(const ProjectRecord& record) {

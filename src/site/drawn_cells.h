@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/table/spreadsheet_table.h"
+#include "site/grid_rows.h"
 
 namespace barvon {
 
@@ -16,11 +17,8 @@ inline double Drawn_Cell(const Spreadsheet_Table& table, int row, int column) {
 /// The same for all cells, row by row.
 inline std::vector<double> Drawn_Cells(const Spreadsheet_Table& table) {
   std::vector<double> cells;
-  for (int row = 1; row <= table.MaxRow(); ++row) {
-    for (int column = 1; column <= table.MaxCol(); ++column) {
-      cells.push_back(Drawn_Cell(table, row, column));
-    }
-  }
+  For_Each_Cell(table,
+                [&](int row, int column) { cells.push_back(Drawn_Cell(table, row, column)); });
   return cells;
 }
 

@@ -15,8 +15,6 @@
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/drawn_cells.h"
-#include "site/grid_csv_file.h"
-#include "site/grid_rows.h"
 
 namespace barvon {
 namespace {
@@ -36,8 +34,8 @@ frmGridDescrip::frmGridDescrip(QWidget* workspace)
       Command2(Named(new QPushButton(this), "Command2")),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       map_(Named(new Depth_Map(this), "DepthMap")),
-      Import_(Named(new QPushButton(QStringLiteral("&Import..."), this), "ImportGrid")),
-      Export_(Named(new QPushButton(QStringLiteral("&Export..."), this), "ExportGrid")) {
+      csv_(this, F1Book1, {"Grid", "&Import...", "&Export...", "Depth Grid", "depths.csv"},
+           [this] { Imported(); }) {
   setWindowTitle(QStringLiteral("Variable Depth Grid"));
   auto* column = new QVBoxLayout(this);
   column->addWidget(Initial_Frame());
@@ -76,20 +74,15 @@ QWidget* frmGridDescrip::Grid_Frame() {
 
 QHBoxLayout* frmGridDescrip::Button_Row() {
   QHBoxLayout* row = Make_Command1();
-  Import_->setToolTip(QStringLiteral("Reads the table from comma separated values, row by row"));
-  Export_->setToolTip(QStringLiteral("Writes the table as comma separated values, row by row"));
-  int place = 0;
-  for (QPushButton* button : {Import_, Export_}) {
-    button->setAutoDefault(false);
-    row->insertWidget(place++, button);
-  }
+  row->insertWidget(0, csv_.Import);
+  row->insertWidget(1, csv_.Export);
   return row;
 }
 
 void frmGridDescrip::Set_Tab_Order() {
   const std::vector<QWidget*> order = {
-      Check3D2, Text1,   Command2,      F1Book1,           map_,
-      Import_,  Export_, Command1(kOk), Command1(kCancel), Command1(kHelp)};
+      Check3D2,    Text1,       Command2,      F1Book1,           map_,
+      csv_.Import, csv_.Export, Command1(kOk), Command1(kCancel), Command1(kHelp)};
   for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -106,8 +99,6 @@ void frmGridDescrip::Connect() {
     if (from == Text1) Command1(kOk)->setDefault(true);
   });
   connect(F1Book1, &F1Book::Edited, this, &frmGridDescrip::F1Book1_EndEdit);
-  connect(Import_, &QPushButton::clicked, this, &frmGridDescrip::Import);
-  connect(Export_, &QPushButton::clicked, this, &frmGridDescrip::Export);
 }
 
 void frmGridDescrip::Opening() {
@@ -177,18 +168,11 @@ Depth_Grid_Entry frmGridDescrip::Entry() const {
   return {Check3D2->isChecked(), Text1->text().toStdString()};
 }
 
-void frmGridDescrip::Import() {
-  const auto rows = Import_Grid_Csv("Import Depth Grid", size_.rows, size_.columns);
-  if (!rows) return;
+void frmGridDescrip::Imported() {
   // Or the one depth would stand over what was imported at the next opening.
   Check3D2->setChecked(false);
   Check3D2_Click();
-  Put_Rows(*rows, F1Book1->table());
   F1Book1_EndEdit();
-}
-
-void frmGridDescrip::Export() {
-  Export_Grid_Csv("Export Depth Grid", "depths.csv", Rows_Of_Table(F1Book1->table()));
 }
 
 void frmGridDescrip::Show_Map() {

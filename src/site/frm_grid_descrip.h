@@ -9,6 +9,7 @@
 #include "platform/qt/input_screen.h"
 #include "platform/qt/table/spreadsheet_view.h"
 #include "site/depth_grid.h"
+#include "site/grid_csv_buttons.h"
 
 namespace barvon {
 
@@ -35,8 +36,7 @@ class frmGridDescrip : public Input_Screen {
   void Text1_Change();
   void F1Book1_EndEdit();
   void Save();
-  void Import();
-  void Export();
+  void Imported();
   void Show_Map();
   void Show_Remark();
   Depth_Grid_Entry Entry() const;
@@ -50,8 +50,7 @@ class frmGridDescrip : public Input_Screen {
   QPushButton* Command2;
   F1Book* F1Book1;
   Depth_Map* map_;
-  QPushButton* Import_;
-  QPushButton* Export_;
+  Grid_Csv_Buttons csv_;
 };
 
 /// Registers the screen. It does not open for a size that the depth grid can't hold.

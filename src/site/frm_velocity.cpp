@@ -14,8 +14,6 @@
 #include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/fields/option_paint.h"
-#include "site/grid_csv_file.h"
-#include "site/grid_rows.h"
 #include "site/velocity_questions.h"
 #include "site/velocity_tables.h"
 
@@ -49,8 +47,6 @@ void frmVelocity::Connect() {
     connect(Check3D2(i), &QCheckBox::clicked, this, [this, i] { Check3D2_Click(i); });
     connect(Text2(i), &QLineEdit::textChanged, this, [this, i] { Text2_Change(i); });
     connect(F1Book2(i), &F1Book::Edited, this, &frmVelocity::Draw_Arrows);
-    connect(Import_(i), &QPushButton::clicked, this, [this, i] { Import(i); });
-    connect(Export_(i), &QPushButton::clicked, this, [this, i] { Export(i); });
   }
   connect(F1Book3, &F1Book::Edited, this, &frmVelocity::Draw_Tide);
   for (QLineEdit* field : Text3) {
@@ -153,23 +149,6 @@ void frmVelocity::Text3_Change() {
   Draw_Tide();
 }
 
-void frmVelocity::Import(int i) {
-  Spreadsheet_Table& table = F1Book2(i)->table();
-  const auto rows = Import_Grid_Csv(std::string("Import ") + kAxes[i] + "-Direction Velocities",
-                                    table.MaxRow(), table.MaxCol());
-  if (!rows) return;
-  Put_Rows(*rows, table);
-  // A constant that stays behind would cover what was read at the next opening.
-  Check3D2(i)->setChecked(false);
-  Check3D2_Click(i);
-}
-
-void frmVelocity::Export(int i) {
-  Export_Grid_Csv(std::string("Export ") + kAxes[i] + "-Direction Velocities",
-                  i == kAlongX ? "x-velocities.csv" : "z-velocities.csv",
-                  Rows_Of_Table(F1Book2(i)->table()));
-}
-
 void frmVelocity::Save() {
   const Velocity_Entry entry = Entry();
   if (!Check_Velocity(entry, record_.VelocityProfileType)) return;
@@ -201,7 +180,7 @@ void frmVelocity::Show_Form() {
       break;
     }
     case kTwoPointForm:
-      Fill_Point_Table(entry.F1Book1, F1Book1->table());
+      Fill_Point_Table(entry, F1Book1->table());
       Show_All_Columns(F1Book1);
       F1Book1->setFixedHeight(F1Book1->sizeHint().height());
       Draw_Points();
@@ -241,7 +220,7 @@ void frmVelocity::Show_Unsteady(const Velocity_Entry& entry) {
     Set_Field(Text3(i), filled3_[At(i)], entry.Text3[At(i)], values[i]);
   }
   for (const int i : {kAverageX, kAverageZ}) Text3(i)->setText(Text(entry.Text3[At(i)]));
-  Fill_Tidal_Table(entry.F1Book3, F1Book3->table());
+  Fill_Tidal_Table(entry, F1Book3->table());
   Show_All_Columns(F1Book3);
   Text3_Change();
 }
@@ -284,7 +263,7 @@ Velocity_Entry frmVelocity::Entry() const {
     case kSingleForm:
       break;
     case kTwoPointForm:
-      entry.F1Book1 = Read_Point_Table(F1Book1->table());
+      Read_Point_Table(F1Book1->table(), entry);
       break;
     case kFieldForm:
       entry.rows = F1Book2(kAlongX)->table().MaxRow();
@@ -297,7 +276,7 @@ Velocity_Entry frmVelocity::Entry() const {
       }
       break;
     case kUnsteadyForm:
-      entry.F1Book3 = Read_Tidal_Table(F1Book3->table());
+      Read_Tidal_Table(F1Book3->table(), entry);
       break;
   }
   return entry;

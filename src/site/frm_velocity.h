@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <array>
 #include <string>
+#include <vector>
 
 #include "core/book_numbers.h"
 #include "core/project_record.h"
@@ -19,6 +20,7 @@
 #include "platform/qt/input_screen.h"
 #include "platform/qt/scrolled_part.h"
 #include "platform/qt/table/spreadsheet_view.h"
+#include "site/grid_csv_buttons.h"
 #include "site/velocity_data.h"
 
 namespace barvon {
@@ -58,8 +60,6 @@ class frmVelocity : public Input_Screen {
   void Enable_Constant(int direction, bool enabled);
   void Text2_Change(int direction);
   void Text3_Change();
-  void Import(int direction);
-  void Export(int direction);
   void Save();
 
   void Show_Form();
@@ -97,8 +97,7 @@ class frmVelocity : public Input_Screen {
   ControlArray<QCheckBox> Check3D2{this, "Check3D2", kDirections};
   ControlArray<QLineEdit> Text2{this, "Text2", kDirections};
   ControlArray<F1Book> F1Book2;
-  ControlArray<QPushButton> Import_{this, "ImportField", kDirections};
-  ControlArray<QPushButton> Export_{this, "ExportField", kDirections};
+  std::vector<Grid_Csv_Buttons> csv_;
   Velocity_Arrows* arrows_;
   std::array<Filled_Text, kDirections> filled2_;
 

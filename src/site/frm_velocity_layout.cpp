@@ -150,16 +150,18 @@ QWidget* frmVelocity::Build_Field(int i) {
   F1Book2(i)->SetNumberNote(Real_Note);
   column->addWidget(F1Book2(i), 1);
   auto* buttons = new QHBoxLayout;
-  Import_(i)->setText(i == kAlongX ? QStringLiteral("&Import X...")
-                                   : QStringLiteral("I&mport Z..."));
-  Export_(i)->setText(i == kAlongX ? QStringLiteral("&Export X...")
-                                   : QStringLiteral("E&xport Z..."));
-  Import_(i)->setToolTip(QStringLiteral("Reads the table from comma separated values, row by row"));
-  Export_(i)->setToolTip(QStringLiteral("Writes the table as comma separated values, row by row"));
-  for (QPushButton* button : {Import_(i), Export_(i)}) {
-    button->setAutoDefault(false);
-    buttons->addWidget(button);
-  }
+  const std::string what = std::string(kAxes[i]) + "-Direction Velocities";
+  const Grid_Csv_Texts texts =
+      i == kAlongX
+          ? Grid_Csv_Texts{"Field(0)", "&Import X...", "&Export X...", what, "x-velocities.csv"}
+          : Grid_Csv_Texts{"Field(1)", "I&mport Z...", "E&xport Z...", what, "z-velocities.csv"};
+  csv_.emplace_back(part, F1Book2(i), texts, [this, i] {
+    // A constant that stays behind would cover what was read at the next opening.
+    Check3D2(i)->setChecked(false);
+    Check3D2_Click(i);
+  });
+  buttons->addWidget(csv_.back().Import);
+  buttons->addWidget(csv_.back().Export);
   buttons->addStretch();
   column->addLayout(buttons);
   return part;
@@ -210,7 +212,7 @@ void frmVelocity::Set_Tab_Order() {
   order.insert(order.end(), Text1.begin(), Text1.end());
   order.insert(order.end(), {Check3D1, F1Book1, profile_});
   for (int i = 0; i < kDirections; ++i) {
-    order.insert(order.end(), {Check3D2(i), Text2(i), F1Book2(i), Import_(i), Export_(i)});
+    order.insert(order.end(), {Check3D2(i), Text2(i), F1Book2(i), csv_[i].Import, csv_[i].Export});
   }
   order.insert(order.end(), {arrows_, F1Book3});
   order.insert(order.end(), Text3.begin(), Text3.end());

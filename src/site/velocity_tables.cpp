@@ -1,75 +1,51 @@
 #include "site/velocity_tables.h"
 
-#include <algorithm>
-#include <functional>
-#include <vector>
-
 #include "core/number_text.h"
+#include "core/record_columns.h"
 #include "site/grid_rows.h"
 
 namespace barvon {
 namespace {
 
+using Column = Table_Column<Velocity_Entry>;
+
 constexpr int kPointHeadingWidth = 2800;
-constexpr int kFieldHeadingWidth = 2000;
+constexpr Column kPointColumns[] = {{"X-Depth", 0, "", kCells<&Velocity_Entry::F1Book1, 1>},
+                                    {"X-Velocity", 0, "", kCells<&Velocity_Entry::F1Book1, 2>},
+                                    {"Z-Depth", 0, "", kCells<&Velocity_Entry::F1Book1, 3>},
+                                    {"Z-Velocity", 0, "", kCells<&Velocity_Entry::F1Book1, 4>}};
+
 constexpr int kTidalHeadingWidth = 4500;
 constexpr int kTidalHeadingHeight = 550;
+constexpr Column kTidalColumns[] = {
+    {"X-Velocity\n(Fps)", 0, "", kCells<&Velocity_Entry::F1Book3, 1>},
+    {"Z-Velocity\n(Fps)", 0, "", kCells<&Velocity_Entry::F1Book3, 2>}};
 
-template <class Rows>
-void Fill(const Rows& rows, int count, int columns, Spreadsheet_Table& table) {
-  table.MaxRow(count);
-  table.MaxCol(columns);
-  for (int row = 1; row <= count; ++row) {
-    for (int column = 1; column <= columns; ++column) {
-      table.NumberRC(row, column, rows[row][column]);
-    }
-  }
+/// Size, headings and cells.
+void Fill(const Shown_Columns<Velocity_Entry>& columns, const Velocity_Entry& entry,
+          Spreadsheet_Table& table) {
+  table.MaxRow(columns.Entries());
+  columns.Lay_Out(1, columns.Entries(), table);
+  columns.Fill(entry, columns.Entries(), table);
   table.ForgetEdits();
-}
-
-template <class Rows>
-Rows Read(const Spreadsheet_Table& table) {
-  Rows rows{};
-  const int count = std::min(table.MaxRow(), static_cast<int>(rows.size()) - 1);
-  const int columns = std::min(table.MaxCol(), static_cast<int>(rows[0].size()) - 1);
-  for (int row = 1; row <= count; ++row) {
-    for (int column = 1; column <= columns; ++column) {
-      rows[row][column] = table.NumberRC(row, column);
-    }
-  }
-  return rows;
-}
-
-bool Any_Cell(const Spreadsheet_Table& table, const std::function<bool(double)>& is_one) {
-  for (int row = 1; row <= table.MaxRow(); ++row) {
-    for (int column = 1; column <= table.MaxCol(); ++column) {
-      if (is_one(table.NumberRC(row, column))) return true;
-    }
-  }
-  return false;
 }
 
 }  // namespace
 
-void Fill_Point_Table(const Two_Points& points, Spreadsheet_Table& table) {
+void Fill_Point_Table(const Velocity_Entry& entry, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
-  Fill(points, 2, 4, table);
-  int column = 0;
-  for (const char* heading : {"X-Depth", "X-Velocity", "Z-Depth", "Z-Velocity"}) {
-    table.ColText(++column, heading);
-  }
-  table.RowText(1, "Point 1");
-  table.RowText(2, "Point 2");
+  Fill(Shown_Columns(kPointColumns), entry, table);
   table.RowHeadingWidth(kPointHeadingWidth);
+  Number_Rows("Point ", table.MaxRow(), table);
 }
 
-Two_Points Read_Point_Table(const Spreadsheet_Table& table) { return Read<Two_Points>(table); }
+void Read_Point_Table(const Spreadsheet_Table& table, Velocity_Entry& entry) {
+  Shown_Columns(kPointColumns).Take(table, table.MaxRow(), entry);
+}
 
-void Fill_Tidal_Table(const Tidal_Rows& rows, Spreadsheet_Table& table) {
+void Fill_Tidal_Table(const Velocity_Entry& entry, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
-  Fill(rows, kTidalRows, kDirections, table);
-  table.ColText(1, "X-Velocity\n(Fps)");
-  table.ColText(2, "Z-Velocity\n(Fps)");
+  Fill(Shown_Columns(kTidalColumns), entry, table);
   table.ColHeadingHeight(kTidalHeadingHeight);
   table.RowHeadingWidth(kTidalHeadingWidth);
   for (int row = 1; row <= kTidalRows; ++row) {
@@ -78,24 +54,34 @@ void Fill_Tidal_Table(const Tidal_Rows& rows, Spreadsheet_Table& table) {
   }
 }
 
-Tidal_Rows Read_Tidal_Table(const Spreadsheet_Table& table) { return Read<Tidal_Rows>(table); }
+void Read_Tidal_Table(const Spreadsheet_Table& table, Velocity_Entry& entry) {
+  Shown_Columns(kTidalColumns).Take(table, table.MaxRow(), entry);
+}
 
 void Fill_Field_Table(const Grid& field, int rows, int columns, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
-  Fill(field, rows, columns, table);
-  for (int column = 1; column <= columns; ++column) {
-    table.ColText(column, "Col " + std::to_string(column));
-  }
-  for (int row = 1; row <= rows; ++row) table.RowText(row, "Row " + std::to_string(row));
-  table.RowHeadingWidth(kFieldHeadingWidth);
+  Lay_Out_Grid(rows, columns, table);
+  For_Each_Cell(table, [&](int row, int column) {
+    table.NumberRC(row, column,
+                   field[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+  });
+  table.ForgetEdits();
 }
 
-Grid Read_Field_Table(const Spreadsheet_Table& table) { return Read<Grid>(table); }
+Grid Read_Field_Table(const Spreadsheet_Table& table) {
+  Grid field{};
+  For_Each_Cell(table, [&](int row, int column) {
+    if (row > kMaxGridPoints || column > kMaxGridPoints) return;
+    field[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] =
+        table.NumberRC(row, column);
+  });
+  return field;
+}
 
 void Fill_Field_With(double velocity, Spreadsheet_Table& table) {
-  const auto columns = static_cast<std::size_t>(table.MaxCol());
-  Put_Rows(Grid_Rows(static_cast<std::size_t>(table.MaxRow()), std::vector(columns, velocity)),
-           table);
+  const Table_Fill fill(table);
+  const Edit_Step step(table);
+  Fill_Grid(velocity, table);
 }
 
 bool Any_Cell_Above_0(const Spreadsheet_Table& table) {

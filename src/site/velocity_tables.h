@@ -7,13 +7,11 @@ namespace barvon {
 
 // The tables of frmVelocity. Filling one sets its size and headings and forgets its edits.
 
-using Two_Points = OneBased<OneBased<double, 4>, 2>;
-void Fill_Point_Table(const Two_Points& points, Spreadsheet_Table& table);
-Two_Points Read_Point_Table(const Spreadsheet_Table& table);
+void Fill_Point_Table(const Velocity_Entry& entry, Spreadsheet_Table& table);
+void Read_Point_Table(const Spreadsheet_Table& table, Velocity_Entry& entry);
 
-using Tidal_Rows = OneBased<OneBased<double, kDirections>, kTidalRows>;
-void Fill_Tidal_Table(const Tidal_Rows& rows, Spreadsheet_Table& table);
-Tidal_Rows Read_Tidal_Table(const Spreadsheet_Table& table);
+void Fill_Tidal_Table(const Velocity_Entry& entry, Spreadsheet_Table& table);
+void Read_Tidal_Table(const Spreadsheet_Table& table, Velocity_Entry& entry);
 
 void Fill_Field_Table(const Grid& field, int rows, int columns, Spreadsheet_Table& table);
 Grid Read_Field_Table(const Spreadsheet_Table& table);

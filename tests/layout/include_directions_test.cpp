@@ -21,6 +21,7 @@ struct Room_Rule {
 const std::map<std::string, Room_Rule>& Table() {
   static const std::set<std::string> kScreens = {"platform/qt", "pictures"};
   static const std::map<std::string, Room_Rule> table = {
+      {"platform/fields", {{}, {}}},
       {"platform/files", {{}, {}}},
       {"platform/process", {{"platform/files"}, {}}},
       {"platform/table", {{}, {}}},

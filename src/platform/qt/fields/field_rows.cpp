@@ -30,7 +30,7 @@ Field_Rows::Field_Rows(QWidget* frame) : grid_(new QGridLayout(frame)) {
 QLabel* Field_Rows::Number(const QString& label, QLineEdit* field, Number_Note note,
                            const QString& tag) {
   Make_Number_Field(field, std::move(note));
-  field->setProperty(kTag, tag);
+  Set_Tag(field, tag);
   QLabel* const shown = Add(label, field);
   Size_For_Number(field);
   return shown;
@@ -42,7 +42,7 @@ QLabel* Field_Rows::Text(const QString& label, QLineEdit* field, int max_length)
 }
 
 QLabel* Field_Rows::Shown(const QString& label, QLineEdit* field, const QString& tag) {
-  field->setProperty(kTag, tag);
+  Set_Tag(field, tag);
   field->setReadOnly(true);
   QPalette palette = field->palette();
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
@@ -58,18 +58,30 @@ void Field_Rows::Whole_Row(QWidget* control) {
   last_ = control;
 }
 
-QLabel* Field_Rows::Add(const QString& text, QLineEdit* field) {
-  auto* label = new QLabel(text, grid_->parentWidget());
+QLabel* Field_Rows::Control(const QString& label, QWidget* control, const QString& tag) {
+  Set_Tag(control, tag);
+  return Add(label, control);
+}
+
+QLabel* Field_Rows::Add(const QString& text, QWidget* control) {
+  auto* label = new QLabel(grid_->parentWidget());
   label->setWordWrap(true);
-  label->setBuddy(field);
-  field->setAccessibleName(Without_Mnemonic(text));
+  label->setBuddy(control);
+  Rename(label, text);
   const int row = grid_->rowCount();
   grid_->addWidget(label, row, 0);
-  grid_->addWidget(field, row, 1);
-  if (last_ != nullptr) QWidget::setTabOrder(last_, field);
-  last_ = field;
+  grid_->addWidget(control, row, 1);
+  if (last_ != nullptr) QWidget::setTabOrder(last_, control);
+  last_ = control;
   return label;
 }
+
+void Rename(QLabel* label, const QString& text) {
+  label->setText(text);
+  label->buddy()->setAccessibleName(Without_Mnemonic(text));
+}
+
+void Set_Tag(QWidget* field, const QString& tag) { field->setProperty(kTag, tag); }
 
 QString Tag_Of(const QWidget* field) { return field->property(kTag).toString(); }
 

@@ -24,13 +24,15 @@ class Field_Rows {
   QLabel* Text(const QString& label, QLineEdit* field, int max_length = 0);
   /// A value that can't be typed, only read and copied.
   QLabel* Shown(const QString& label, QLineEdit* field, const QString& tag = QString());
+  /// Any other control with a label: a list to choose from, a check box.
+  QLabel* Control(const QString& label, QWidget* control, const QString& tag = QString());
   /// A row of its own for anything else: a check box, a note.
   void Whole_Row(QWidget* control);
 
   QGridLayout* layout() const { return grid_; }
 
  private:
-  QLabel* Add(const QString& label, QLineEdit* field);
+  QLabel* Add(const QString& label, QWidget* control);
 
   QGridLayout* grid_;
   QWidget* last_ = nullptr;
@@ -44,7 +46,11 @@ Control* Named(Control* control, const char* reference) {
   return control;
 }
 
+/// Another text for the label of a row; its control is named by it.
+void Rename(QLabel* label, const QString& text);
+
 /// The tag of a field, "" when it has none.
+void Set_Tag(QWidget* field, const QString& tag);
 QString Tag_Of(const QWidget* field);
 
 }  // namespace barvon

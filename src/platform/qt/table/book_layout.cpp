@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/table/table_width.h"
+
 namespace barvon {
 namespace {
 
@@ -13,7 +15,6 @@ constexpr int kLargestHintWidth = 640;
 constexpr int kLargestHintHeight = 360;
 constexpr int kDefaultDigits = 9;
 constexpr int kLargestAutoDigits = 60;  // so that one long text leaves the other columns in sight
-constexpr int kWidthsInDigit = 256;
 constexpr int kTwipsInInch = 1440;
 
 int Digit_Pixels(const QWidget& widget) {
