@@ -1,5 +1,7 @@
 #include "pictures/density_drawing.h"
 
+#include "platform/text/counted.h"
+
 #include <algorithm>
 
 namespace barvon {

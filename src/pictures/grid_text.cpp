@@ -1,6 +1,7 @@
 #include "pictures/grid_text.h"
 
 #include "pictures/axis_scale.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 

@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
@@ -88,10 +89,6 @@ std::string_view Without_Byte_Order_Mark(std::string_view bytes) {
   return bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes;
 }
 
-std::string Count(std::size_t count, const char* one) {
-  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
-}
-
 std::string Place(std::size_t row, std::size_t column) {
   return "Row " + std::to_string(row) + ", column " + std::to_string(column);
 }
@@ -130,9 +127,10 @@ std::optional<std::string> Wrong_Width(const Cells& line, std::size_t row, std::
 }
 
 std::string Sizes(const std::vector<Cells>& lines, std::size_t rows, std::size_t columns) {
-  std::string file = "The file has " + Count(lines.size(), "row");
-  if (!lines.empty()) file += ", the first of " + Count(lines.front().size(), "column");
-  return file + "; the table has " + Count(rows, "row") + " of " + Count(columns, "column") + ".";
+  std::string file = "The file has " + Counted(lines.size(), "row");
+  if (!lines.empty()) file += ", the first of " + Counted(lines.front().size(), "column");
+  return file + "; the table has " + Counted(rows, "row") + " of " + Counted(columns, "column") +
+         ".";
 }
 
 }  // namespace

@@ -22,12 +22,13 @@ const std::map<std::string, Room_Rule>& Table() {
   static const std::set<std::string> kScreens = {"platform/qt", "pictures"};
   static const std::map<std::string, Room_Rule> table = {
       {"platform/fields", {{}, {}}},
-      {"platform/files", {{}, {}}},
+      {"platform/files", {{"platform/text"}, {}}},
       {"platform/process", {{"platform/files"}, {}}},
-      {"platform/table", {{}, {}}},
+      {"platform/table", {{"platform/text"}, {}}},
+      {"platform/text", {{}, {}}},
       {"platform/ask", {{}, {}}},
       {"platform/qt", {{"platform"}, {}}},
-      {"pictures", {{"platform/qt"}, {}}},
+      {"pictures", {{"platform/qt", "platform/text"}, {}}},
       {"core", {{"platform"}, {}}},
       {"core/project_file", {{"core/floor", "platform"}, {}}},
       {"core/model_input", {{"core/floor", "platform"}, {}}},
