@@ -18,6 +18,7 @@ constexpr int kWaterDensityData = 8;  // of the data categories
 
 frmDensity::frmDensity(QWidget* workspace)
     : Input_Screen("frmDensity", workspace, Placement::Centre),
+      record_(Project()),
       Check3D3(Named(new QCheckBox(this), "Check3D3")),
       Text3(this, "Text3", 3),
       Command2(Named(new QPushButton("&Compute", this), "Command2")) {
@@ -44,11 +45,11 @@ frmDensity::frmDensity(QWidget* workspace)
 void frmDensity::Opening() {
   Check3D3->setChecked(false);
   Check3D3_Click();
-  const Density_Entry entry = Open_Density(Project());
+  const Density_Entry entry = Open_Density(record_);
   for (int i = 0; i < 3; ++i) Text3(i)->setText(QString::fromStdString(entry.Text3[i]));
 }
 
-void frmDensity::Activated() { copy_ = Copy_Vars(Project()); }
+void frmDensity::Activated() { copy_ = Copy_Vars(record_); }
 
 void frmDensity::Check3D3_Click() {
   const bool computed = Check3D3->isChecked();
@@ -61,7 +62,7 @@ void frmDensity::Check3D3_Click() {
 
 void frmDensity::Command2_Click() {
   Density_Entry entry = Entry();
-  if (const auto wrong = Compute_Water_Density(entry, Project())) {
+  if (const auto wrong = Compute_Water_Density(entry, record_)) {
     Text3(*wrong)->setFocus();
     Text3(*wrong)->selectAll();
     return;
@@ -72,13 +73,13 @@ void frmDensity::Command2_Click() {
 void frmDensity::Command1_Click(int index) {
   if (index == kOk) {
     Density_Entry entry = Entry();
-    Save_Data(entry, Project());
+    Save_Data(entry, record_);
     Show_Density(entry);
     Unload();
-    Project().ScreenDataSupplied[kWaterDensityData] = kTrue;
+    record_.ScreenDataSupplied[kWaterDensityData] = kTrue;
     Port().display_data();
   } else if (index == kCancel) {
-    Reset_Vars(copy_, Project());
+    Reset_Vars(copy_, record_);
     Unload();
   } else if (index == kHelp) {
     Show_Help({Help_Command::Context, help_topic::kWaterDensity, {}});

@@ -28,6 +28,7 @@ class frmDensity : public Input_Screen {
   Density_Entry Entry() const;
   void Show_Density(const Density_Entry& entry);
 
+  ProjectRecord& record_;
   QCheckBox* Check3D3;
   ControlArray<QLineEdit> Text3;  // salinity, temperature, density
   std::array<QLabel*, 3> Label4;
