@@ -91,6 +91,32 @@ TEST(BareNumbers, A_Choice_Is_Written_By_Its_Name_Outside_Its_Home) {
   }
 }
 
+/// The names that a text gives to numbers.
+std::set<std::string> Named_Numbers(const std::string& text) {
+  static const std::regex kNamed(R"(\b(k[A-Z]\w*)\s*=\s*)" + kNumber);
+  std::set<std::string> names;
+  for (std::sregex_iterator at(text.begin(), text.end(), kNamed), end; at != end; ++at) {
+    names.insert((*at)[1]);
+  }
+  return names;
+}
+
+TEST(BareNumbers, No_File_Names_A_Choice_A_Second_Time) {
+  std::set<std::string> at_home;
+  for (const std::string& home : kHomes) {
+    at_home.merge(Named_Numbers(Read_Text(kSource + "/" + home + ".h")));
+  }
+  EXPECT_TRUE(at_home.contains("kHopper") && at_home.contains("kTwoPointVelocity"));
+  for (const auto& [file, includes] : Read_Includes(kSource)) {
+    if (kHomes.contains(Unit_Of(file))) continue;
+    for (const std::string& name : Named_Numbers(Read_Text(kSource + "/" + file))) {
+      EXPECT_FALSE(at_home.contains(name)) << file << ": " << name;
+    }
+  }
+  EXPECT_EQ(Named_Numbers("constexpr std::int16_t kHopper = 1, kBarge = 3;\nif (kWide == 2)"),
+            (std::set<std::string>{"kHopper", "kBarge"}));
+}
+
 // The rule itself, on lines made up for the purpose.
 TEST(BareNumbers, A_Bare_Number_Is_Found_However_It_Is_Written) {
   for (const char* line : {
