@@ -72,7 +72,7 @@ void frmDensity::Command1_Click(int index) {
     fields_.Show(entry.texts);
     Unload();
     Project().ScreenDataSupplied[kWaterDensityData] = kTrue;
-    Port().display_data();
+    Port().board.display_data();
   } else if (index == kCancel) {
     Reset_Vars(copy_, Project());
     Unload();
