@@ -3,20 +3,19 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "core/desk/help_topics.h"
-#include "core/desk/workspace_port.h"
-#include "platform/ask/help_viewer.h"
+#include "core/desk/accepted_screen.h"
 #include "platform/qt/fields/field_rows.h"
 
 namespace barvon {
 namespace {
 
-constexpr int kWaterDensityData = 8;  // of the data categories
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDensity");
 
 }  // namespace
 
 frmDensity::frmDensity(QWidget* workspace)
-    : Input_Screen("frmDensity", workspace, Placement::Centre),
+    : Input_Screen(kScreen.name, workspace,
+                   {.topic = kScreen.topic, .placement = Screen_Setup::Placement::Centre}),
       record_(Project()),
       Check3D3(Named(new QCheckBox(this), "Check3D3")),
       Text3(this, "Text3", 3),
@@ -72,13 +71,10 @@ void frmDensity::Command1_Click(int index) {
     Save_Data(entry, record_);
     fields_.Show(entry.texts);
     Unload();
-    record_.ScreenDataSupplied[kWaterDensityData] = kTrue;
-    Port().display_data();
+    Accept_Screen(kScreen, isModal(), record_);
   } else if (index == kCancel) {
     Reset_Vars(copy_, record_);
     Unload();
-  } else if (index == kHelp) {
-    Show_Help({Help_Command::Context, help_topic::kWaterDensity, {}});
   }
 }
 

@@ -73,7 +73,7 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
     case Answer::No:
       return std::nullopt;
     case Answer::Yes:
-      Open_Screen("frmErrorList", record.ShowMode == 1);
+      Open_Screen("frmErrorList", Opens_Blocking(record));
       return Run_Stage::Errors;
     default:
       return Run_Stage::Cancelled;
@@ -195,7 +195,7 @@ Run_Report Run_Model(ProjectRecord& record) {
   report.text = Status_Text(report);
   if (report.outcome.program_ends) return report;
   const bool failed = report.stage == Run_Stage::Ended && !report.Succeeded();
-  Port().show_note({report.text, failed ? report.outcome.last_output : std::string()});
+  Port().board.show_note({report.text, failed ? report.outcome.last_output : std::string()});
   return report;
 }
 

@@ -7,12 +7,10 @@
 #include <vector>
 
 #include "core/book_numbers.h"
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/density_endpoints.h"
 #include "site/density_table.h"
@@ -22,10 +20,9 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDescription");
 constexpr int kOkWithoutButton = 3, kCloseWithoutButton = 4;
 constexpr int kComputesDensity = 0, kVariableDepth = 1;  // Check3D1, and Command2 beside it
-constexpr int kSiteLine = 1, kSiteItem = 1;              // status line, Edit entry
-constexpr int kSiteScreen = 2;                           // ScreenDataSupplied
 constexpr char kEditedDimension[] = "##,###.00";
 
 /// A check box and, at the right, the button that it makes available.
@@ -43,7 +40,7 @@ void Add_Choice(Field_Rows& rows, QCheckBox* box, const QString& caption, QPushB
 }  // namespace
 
 frmDescription::frmDescription(QWidget* workspace)
-    : Input_Screen("frmDescription", workspace),
+    : Input_Screen(kScreen.name, workspace, {.topic = kScreen.topic}),
       record_(Project()),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       profile_(Named(new Density_Profile(this), "DensityProfile")) {
@@ -113,9 +110,9 @@ void frmDescription::Set_Tab_Order() {
   order.insert(order.end(), {Text2(0), Text2(1), Text1(kConstantDepth), Check3D1(kVariableDepth),
                              Command2(kVariableDepth)});
   for (int i = kRoughness; i <= kDensityPoints; ++i) order.push_back(Text1(i));
-  order.insert(order.end(), {Check3D1(kComputesDensity), Command2(kComputesDensity), F1Book1,
-                             profile_, Command1(kOk), Command1(kCancel), Command1(kHelp)});
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+  order.insert(order.end(),
+               {Check3D1(kComputesDensity), Command2(kComputesDensity), F1Book1, profile_});
+  Tab_Through(order);
 }
 
 void frmDescription::Connect() {
@@ -163,9 +160,6 @@ void frmDescription::Command1_Click(int index) {
     case kCancel:
       Reset();
       Unload();
-      break;
-    case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kSite, {}});
       break;
     case kCloseWithoutButton:
       Unload();
@@ -240,13 +234,8 @@ void frmDescription::Save() {
   if (needed != points) Set_Text1(kDensityPoints, needed);
   SaveSiteData(entry, table, record_);
   Show_Profile();
-  Port().set_status_line(kSiteLine, kDataSupplied, Status_Colour::Blue);
-  const bool blocking = isModal();
   if (ready_to_close) Unload();
-  record_.ScreenDataSupplied[kSiteScreen] = kTrue;
-  Port().mark_edit_item(kSiteItem);
-  // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().display_data();
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 void frmDescription::Reset() {

@@ -4,13 +4,11 @@
 #include <QGroupBox>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <vector>
 
 #include "core/book_numbers.h"
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
 #include "core/number_reading.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/drawn_cells.h"
@@ -18,15 +16,15 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmGridDescrip");
 constexpr int kOkWithoutButton = 3, kBackWithoutButton = 4;
-constexpr int kDepthGridScreen = 3;  // ScreenDataSupplied
 constexpr QSize kTableSize{400, 320};
 constexpr int kMapWidth = 280;  // below it headings and scale crowd the map out
 
 }  // namespace
 
 frmGridDescrip::frmGridDescrip(QWidget* workspace)
-    : Input_Screen("frmGridDescrip", workspace),
+    : Input_Screen(kScreen.name, workspace, {.topic = kScreen.topic}),
       record_(Project()),
       Check3D2(Named(new QCheckBox(this), "Check3D2")),
       Text1(Named(new QLineEdit(this), "Text1")),
@@ -41,7 +39,7 @@ frmGridDescrip::frmGridDescrip(QWidget* workspace)
   column->addWidget(Initial_Frame());
   column->addWidget(Grid_Frame(), 1);
   column->addLayout(Button_Row());
-  Set_Tab_Order();
+  Tab_Through({Check3D2, Text1, Command2, F1Book1, map_, csv_.Import, csv_.Export});
   Connect();
 }
 
@@ -77,13 +75,6 @@ QHBoxLayout* frmGridDescrip::Button_Row() {
   row->insertWidget(0, csv_.Import);
   row->insertWidget(1, csv_.Export);
   return row;
-}
-
-void frmGridDescrip::Set_Tab_Order() {
-  const std::vector<QWidget*> order = {
-      Check3D2,    Text1,       Command2,      F1Book1,           map_,
-      csv_.Import, csv_.Export, Command1(kOk), Command1(kCancel), Command1(kHelp)};
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void frmGridDescrip::Connect() {
@@ -125,12 +116,9 @@ void frmGridDescrip::Command1_Click(int index) {
     case kCancel:
       Unload();
       break;
-    case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kDepthGrid, {}});
-      break;
     case kBackWithoutButton:
       Unload();
-      Open_Screen("frmDescription", record_.ShowMode == 1);
+      Open_Screen("frmDescription", Opens_Blocking(record_));
       break;
     default:
       break;
@@ -161,7 +149,7 @@ void frmGridDescrip::F1Book1_EndEdit() {
 void frmGridDescrip::Save() {
   SaveDepthGrid(Entry(), F1Book1->table(), record_);
   Unload();
-  record_.ScreenDataSupplied[kDepthGridScreen] = kTrue;
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 Depth_Grid_Entry frmGridDescrip::Entry() const {
@@ -186,7 +174,7 @@ void frmGridDescrip::Show_Remark() {
 
 void Register_frmGridDescrip(QWidget* workspace) {
   const auto open = Fresh_Screens<frmGridDescrip>(workspace);
-  Register_Screen("frmGridDescrip", [open](bool blocking, const std::string& control) {
+  Register_Screen(kScreen.name, [open](bool blocking, const std::string& control) {
     if (Ask_Depth_Grid_Size(Project())) open(blocking, control);
   });
 }

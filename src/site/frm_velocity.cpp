@@ -6,12 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
 #include "core/number_text.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/fields/option_paint.h"
 #include "site/velocity_questions.h"
@@ -20,9 +18,8 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmVelocity");
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
-constexpr int kVelocityLine = 2, kVelocityItem = 2;  // status line, Edit entry
-constexpr int kVelocityScreen = 4;                   // ScreenDataSupplied
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -83,12 +80,9 @@ void frmVelocity::Command1_Click(int index) {
       Reset_Vars(saved_, record_);
       Unload();
       break;
-    case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kVelocity, {}});
-      break;
     case kGridWithoutButton:
       Unload();
-      Open_Screen("frmGridDescrip", record_.ShowMode == 1);
+      Open_Screen("frmGridDescrip", Opens_Blocking(record_));
       break;
     default:
       break;
@@ -154,13 +148,8 @@ void frmVelocity::Save() {
   if (!Check_Velocity(entry, record_.VelocityProfileType)) return;
   SaveVelocityData(entry, record_);
   if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages();
-  Port().set_status_line(kVelocityLine, kDataSupplied, Status_Colour::Blue);
-  const bool blocking = isModal();
   Unload();
-  record_.ScreenDataSupplied[kVelocityScreen] = kTrue;
-  Port().mark_edit_item(kVelocityItem);
-  // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().display_data();
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 void frmVelocity::Show_Form() {

@@ -8,6 +8,8 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
@@ -15,9 +17,9 @@
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/help/qt_help_viewer.h"
+#include "platform/qt/screen_window.h"
 #include "run/create_process.h"
 #include "workspace/display_data.h"
-#include "workspace/edit_menu.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_events.h"
@@ -54,7 +56,7 @@ bool Is_Open_Without_Blocking(const std::string& name) {
 
 Main::Main(const std::string& application_folder, std::function<void()> end_process)
     : controls_(this), end_process_(std::move(end_process)) {
-  setObjectName(QStringLiteral("Main"));
+  Name_Screen(*this, Row_Of_Screen("Main").name);
   setStatusBar(controls_.status_area);
   Build_Menus(controls_);
   Build_Toolbar(controls_);
@@ -78,69 +80,62 @@ Main::~Main() {
 
 void Main::Start_Up(const std::string& application_folder) {
   ProjectRecord& record = Project();
-  // 1
   Set_Application_Folder(application_folder);
   Change_Current_Folder(application_folder);
-  // 2
   record.WizardHelpOn = kTrue;
   Action_Of(controls_, "mnuOptionItem", 0)->setChecked(true);
-  // 3
   move(0, 0);
   Lock_Size();
-  // 4
   Set_Help_File(Join_Path(application_folder, kHelpFile));
-  // 5
   record.ScreenDataSupplied.fill(kFalse);
   record.ShowMode = 1;
-  // 6
   GetRecentFiles();
   Remove_Leftovers(application_folder);
-  // 7 is the dilution table's: its headings belong to its screen.
-  // 8
   Set_Caption(kUntitledCaption);
   Reset_Vars(record);
-  // 9
   Display_Data(controls_, record);
-  // 10
   record.OutputsCopied = kFalse;
-  if (record.WizardAtStart != kFalse) Show_Blocking_Screen("Data_Wiz");
-  // 11
+  if (record.WizardAtStart != kFalse) Open_Screen_Or_Tell("Data_Wiz", true);
   record.AlwaysSaveBeforeRun = kTrue;
   record.WizardActive = kFalse;
 }
 
-void Main::Fill_Port() {
-  Workspace_Port& port = Port();
-  port.set_caption = [this](const std::string& caption) { Set_Caption(caption); };
-  port.caption = [this] { return caption_; };
-  port.display_data = [this] { Display_Data(controls_, Project()); };
-  port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
+void Main::Fill_Board_Port(Board_Port& board) {
+  board.set_caption = [this](const std::string& caption) { Set_Caption(caption); };
+  board.caption = [this] { return caption_; };
+  board.display_data = [this] { Display_Data(controls_, Project()); };
+  board.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
     Show_Status_Line(controls_, index, text, colour);
   };
-  port.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
-  port.paint_velocity_option = [this](int index, Status_Colour colour) {
+  board.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
+  board.paint_velocity_option = [this](int index, Status_Colour colour) {
     Paint_Velocity_Option(controls_, index, colour);
   };
-  port.refresh_for_new_project = [this] {
+  board.refresh_for_new_project = [this] {
     Clear_Edit_Marks(controls_);
     Show_New_Project(controls_, Project());
     // At start the menus keep what the menu tree gives them.
     if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);
   };
-  port.open_menus = [this] {
+  board.open_menus = [this] {
     SetMenuAvailability(controls_, Menu_Mode::Project);
     Forget_Choices(controls_);
   };
-  port.screen_is_open = Is_Open_Without_Blocking;
-  port.screens_changed = [this] { Show_Tools_Menu(controls_); };
-  port.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
-  port.show_main_board = [this] { Show_Main_Board(controls_); };
-  port.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
-  port.run_state = [this](bool running, const std::string& program) {
+  board.screen_is_open = Is_Open_Without_Blocking;
+  board.screens_changed = [this] { Show_Tools_Menu(controls_); };
+  board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
+  board.show_main_board = [this] { Show_Main_Board(controls_); };
+  board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
+}
+
+void Main::Fill_Port() {
+  Fill_Board_Port(Port().board);
+  Port().run.state = [this](bool running, const std::string& program) {
     controls_.status_area->Show_Run(running, program);
   };
-  port.print_active_text = [] { Port().show_note({"There is no text to print.", ""}); };
-  // The text viewer's and the dilution screen's entries are filled by those who own them.
+  Port().text.print = [this] {
+    controls_.status_area->Show_Note({"There is no text to print.", ""});
+  };
 }
 
 void Main::Set_Caption(const std::string& caption) {
