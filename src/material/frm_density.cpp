@@ -76,7 +76,7 @@ void frmDensity::Command1_Click(int index) {
     Show_Density(entry);
     Unload();
     Project().ScreenDataSupplied[kWaterDensityData] = kTrue;
-    Port().display_data();
+    Port().board.display_data();
   } else if (index == kCancel) {
     Reset_Vars(copy_, Project());
     Unload();

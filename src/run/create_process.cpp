@@ -63,7 +63,7 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   }
   outcome.started = true;
   Current_Run() = &run;
-  Port().run_state(true, run.program);
+  Port().run.state(true, run.program);
   while (run.process.Poll()) Pump_Events(kPollEvery);
   Current_Run() = nullptr;
 
@@ -72,7 +72,7 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   outcome.last_output = Shown_Lines(run.process.Last_Output());
   if (!outcome.last_output.empty()) outcome.output_file = start.output_file;
   outcome.program_ends = run.program_ends;
-  if (!run.program_ends) Port().run_state(false, run.program);
+  if (!run.program_ends) Port().run.state(false, run.program);
   return outcome;
 }
 
@@ -88,11 +88,11 @@ void Stop_Run_And_Wait() {
   run->program_ends = true;
   run->process.Stop_And_Wait();
   // Said here, while the caller, who ends this program, is still there to hear it.
-  Port().run_state(false, run->program);
+  Port().run.state(false, run->program);
 }
 
 void Stop_Run_At_Exit() {
-  Reset_Port();  // made before the handler, so that it is still there when the handler is called
+  Port();  // made before the handler, so that it is still there when the handler is called
   std::atexit([] {
     Reset_Port();
     Stop_Run_And_Wait();

@@ -196,7 +196,7 @@ Run_Report Run_Model(ProjectRecord& record) {
   report.text = Status_Text(report);
   if (report.outcome.program_ends) return report;
   const bool failed = report.stage == Run_Stage::Ended && !report.Succeeded();
-  Port().show_note({report.text, failed ? report.outcome.last_output : std::string()});
+  Port().board.show_note({report.text, failed ? report.outcome.last_output : std::string()});
   return report;
 }
 

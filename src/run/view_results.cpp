@@ -41,13 +41,13 @@ bool Hand_Over(const ProjectRecord& record, int kind) {
 void Tell_How_It_Ended(const Process_Outcome& outcome) {
   if (outcome.program_ends) return;
   if (!outcome.started) {
-    Port().show_note({"The graphics program was not started: " + outcome.problem + ".", {}});
+    Port().board.show_note({"The graphics program was not started: " + outcome.problem + ".", {}});
   } else if (outcome.end.signal != 0 && !outcome.end.stopped) {
-    Port().show_note(
+    Port().board.show_note(
         {outcome.program + " was ended by signal " + std::to_string(outcome.end.signal) + ".",
          outcome.last_output});
   } else if (outcome.end.exit_code != 0 && !outcome.end.stopped) {
-    Port().show_note(
+    Port().board.show_note(
         {outcome.program + " ended with code " + std::to_string(outcome.end.exit_code) + ".",
          outcome.last_output});
   }
@@ -76,7 +76,7 @@ void Graph_Command(const ProjectRecord& record, int kind) {
     return;
   }
   if (!handed_over) {
-    Port().show_note(
+    Port().board.show_note(
         {"The settings could not be written, so the graphics program would show "
          "another project; it was not started.",
          {}});
@@ -96,7 +96,7 @@ void View_Output_Command(const ProjectRecord& record) {
     Tell_Missing("File " + name + " Not Found.");
     return;
   }
-  if (!Open_Document(*found)) Port().show_note({name + " could not be shown.", {}});
+  if (!Open_Document(*found)) Port().board.show_note({name + " could not be shown.", {}});
 }
 
 }  // namespace barvon

@@ -275,13 +275,13 @@ void frmDescription::Save() {
   }
   SaveSiteData(entry, table, record_);
   Show_Profile();
-  Port().set_status_line(kSiteLine, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(kSiteLine, kDataSupplied, Status_Colour::Blue);
   const bool blocking = isModal();
   if (ready_to_close) Unload();
   record_.ScreenDataSupplied[kSiteScreen] = kTrue;
-  Port().mark_edit_item(kSiteItem);
+  Port().board.mark_edit_item(kSiteItem);
   // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().display_data();
+  if (!blocking) Port().board.display_data();
 }
 
 void frmDescription::Reset() {

@@ -154,13 +154,13 @@ void frmVelocity::Save() {
   if (!Check_Velocity(entry, record_.VelocityProfileType)) return;
   SaveVelocityData(entry, record_);
   if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages();
-  Port().set_status_line(kVelocityLine, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(kVelocityLine, kDataSupplied, Status_Colour::Blue);
   const bool blocking = isModal();
   Unload();
   record_.ScreenDataSupplied[kVelocityScreen] = kTrue;
-  Port().mark_edit_item(kVelocityItem);
+  Port().board.mark_edit_item(kVelocityItem);
   // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().display_data();
+  if (!blocking) Port().board.display_data();
 }
 
 void frmVelocity::Show_Form() {

@@ -136,8 +136,8 @@ void Choose_Variable_Depth(bool variable, ProjectRecord& record) {
   const double displaced = variable ? kTwoPointProfile : kNoProfile;
   if (record.VelocityProfileType != displaced) return;
   record.VelocityProfileType = variable ? kNoProfile : kTwoPointProfile;
-  Port().paint_velocity_option(kTwoPointOption,
-                               variable ? Status_Colour::Black : Status_Colour::Blue);
+  Port().board.paint_velocity_option(kTwoPointOption,
+                                     variable ? Status_Colour::Black : Status_Colour::Blue);
 }
 
 void SaveSiteData(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,

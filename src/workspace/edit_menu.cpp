@@ -44,7 +44,7 @@ constexpr const char* kInputScreens[] = {"frmDescription", "frmVelocity",   "frm
 
 bool Any_Input_Screen_Is_Open() {
   return std::any_of(std::begin(kInputScreens), std::end(kInputScreens),
-                     [](const char* name) { return Port().screen_is_open(name); });
+                     [](const char* name) { return Port().board.screen_is_open(name); });
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ bool Any_Input_Screen_Is_Open() {
 void mnuEditItem_Click(int index, ProjectRecord& record) {
   const std::string screen = Edit_Screen(index, record);
   if (!screen.empty()) Show_Screen(screen, record);
-  Port().display_data();
+  Port().board.display_data();
 }
 
 void Show_Screen(const std::string& name, const ProjectRecord& record) {

@@ -26,7 +26,7 @@ namespace {
 constexpr int kLastStatusLine = 4;  // that of the coefficients has a wording of its own
 
 void Set_Status_Lines(const char* text, Status_Colour colour) {
-  for (int i = 0; i <= kLastStatusLine; ++i) Port().set_status_line(i, text, colour);
+  for (int i = 0; i <= kLastStatusLine; ++i) Port().board.set_status_line(i, text, colour);
 }
 
 void New_Project(ProjectRecord& record) {
@@ -41,13 +41,14 @@ void Show_Opened(ProjectRecord& record) {
   Update_Recent_Files(record.ProjectFileName);
   Show_Project(record);
   if (!Write_Graph_File(record.ProjectFileName)) {
-    Port().show_note({std::string(kSettingsFile) +
-                          " could not be written: the graphics program has not been told of " +
-                          record.ProjectFileName + ".",
-                      {}});
+    Port().board.show_note(
+        {std::string(kSettingsFile) +
+             " could not be written: the graphics program has not been told of " +
+             record.ProjectFileName + ".",
+         {}});
   }
   Set_Status_Lines(kDataSupplied, Status_Colour::Blue);
-  Port().show_main_board();
+  Port().board.show_main_board();
 }
 
 bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
@@ -91,7 +92,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
     case kFileSaveAs:
       return Save_As(record);
     case kFilePrint:
-      return Port().print_active_text();
+      return Port().text.print();
     case kFilePrintSetup:
       return Show_Printer_Setup();
     case kFileExit:

@@ -109,38 +109,42 @@ void Main::Start_Up(const std::string& application_folder) {
   record.WizardActive = kFalse;
 }
 
-void Main::Fill_Port() {
-  Workspace_Port& port = Port();
-  port.set_caption = [this](const std::string& caption) { Set_Caption(caption); };
-  port.caption = [this] { return caption_; };
-  port.display_data = [this] { Display_Data(controls_, Project()); };
-  port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
+void Main::Fill_Board_Port(Board_Port& board) {
+  board.set_caption = [this](const std::string& caption) { Set_Caption(caption); };
+  board.caption = [this] { return caption_; };
+  board.display_data = [this] { Display_Data(controls_, Project()); };
+  board.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
     Show_Status_Line(controls_, index, text, colour);
   };
-  port.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
-  port.paint_velocity_option = [this](int index, Status_Colour colour) {
+  board.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
+  board.paint_velocity_option = [this](int index, Status_Colour colour) {
     Paint_Velocity_Option(controls_, index, colour);
   };
-  port.refresh_for_new_project = [this] {
+  board.refresh_for_new_project = [this] {
     Clear_Edit_Marks(controls_);
     Show_New_Project(controls_, Project());
     // At start the menus keep what the menu tree gives them.
     if (!opening_) SetMenuAvailability(controls_, Menu_Mode::Closed);
   };
-  port.open_menus = [this] {
+  board.open_menus = [this] {
     SetMenuAvailability(controls_, Menu_Mode::Project);
     Forget_Choices(controls_);
   };
-  port.screen_is_open = Is_Open_Without_Blocking;
-  port.screens_changed = [this] { Show_Tools_Menu(controls_); };
-  port.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
-  port.show_main_board = [this] { Show_Main_Board(controls_); };
-  port.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
-  port.run_state = [this](bool running, const std::string& program) {
+  board.screen_is_open = Is_Open_Without_Blocking;
+  board.screens_changed = [this] { Show_Tools_Menu(controls_); };
+  board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
+  board.show_main_board = [this] { Show_Main_Board(controls_); };
+  board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
+}
+
+void Main::Fill_Port() {
+  Fill_Board_Port(Port().board);
+  Port().run.state = [this](bool running, const std::string& program) {
     controls_.status_area->Show_Run(running, program);
   };
-  port.print_active_text = [] { Port().show_note({"There is no text to print.", ""}); };
-  // The text viewer's and the dilution screen's entries are filled by those who own them.
+  Port().text.print = [this] {
+    controls_.status_area->Show_Note({"There is no text to print.", ""});
+  };
 }
 
 void Main::Set_Caption(const std::string& caption) {

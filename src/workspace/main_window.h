@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "core/desk/workspace_port.h"
 #include "workspace/main_controls.h"
 
 namespace barvon {
@@ -29,6 +30,7 @@ class Main : public QMainWindow {
 
  private:
   void Fill_Port();
+  void Fill_Board_Port(Board_Port& board);
   void Start_Up(const std::string& application_folder);
   void Lock_Size();
   void Set_Caption(const std::string& caption);

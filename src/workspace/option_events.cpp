@@ -132,7 +132,7 @@ void SSPanel5_Click(Main_Controls& controls, ProjectRecord& record, int index) {
     if (entry == Evaluation_Entry::Open) Show_Screen("frmMdlkyn", record);
   }
   if (index == 2) Show_Screen("frmSimulation", record);
-  Port().display_data();
+  Port().board.display_data();
 }
 
 void SSRibbon1_Click(ProjectRecord& record, int index) {

@@ -169,7 +169,7 @@ TEST_F(ErrorListScreen, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area
   Current_Errors().Add("one", "frmDescription!Text1(5)");
   Register_Screen("frmDescription", {});
   std::string noted;
-  Port().show_note = [&noted](const Status_Note& note) { noted = note.text; };
+  Port().board.show_note = [&noted](const Status_Note& note) { noted = note.text; };
   Open();
   Double_Click(Place_Of(0));
   Reset_Port();

@@ -68,9 +68,9 @@ std::set<QString> All_Captions() {
     bench.controls().SSPanel3(0)->click();
     Add_Captions_Of(bench.main(), captions);
   }
-  Port().set_status_line(0, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(0, kDataSupplied, Status_Colour::Blue);
   Project().DX0 = Project().DZ0 = 100;
-  Port().display_data();
+  Port().board.display_data();
   Add_Captions_Of(bench.main(), captions);
   Set_Help_File(BARVON_HELP_FILE);
   Show_Help({Help_Command::Index, 0, ""});

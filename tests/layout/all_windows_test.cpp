@@ -65,16 +65,16 @@ void Look_At_Main(Main_Bench& bench, const Look& look) {
     bench.controls().SSPanel3(0)->click();
     look(bench.main(), "data board, type " + std::to_string(type));
   }
-  Port().show_note({"It ended with code 1.", "its last words"});
+  Port().board.show_note({"It ended with code 1.", "its last words"});
   look(bench.main(), "with a remark");
-  Port().run_state(true, "/opt/barvon/merak32");
+  Port().run.state(true, "/opt/barvon/merak32");
   look(bench.main(), "while a program runs");
-  Port().run_state(false, "");
+  Port().run.state(false, "");
 }
 
 void Look_At_Details(Main_Bench& bench, const Look& look) {
   for (const char* details : {"line\nline", ""}) {
-    Port().show_note({std::string(200, 'w') + " words " + std::string(60, 'w'), details});
+    Port().board.show_note({std::string(200, 'w') + " words " + std::string(60, 'w'), details});
     bench.Child<QPushButton>("StatusDetails")->click();
     QWidget& dialog = Window_Named("StatusDetailsDialog");
     Show(dialog);

@@ -70,8 +70,8 @@ class Solver_Bench {
     Set_Application_Folder(app());
     former_pump_ = Set_Event_Pump(nullptr);
     Reset_Port();
-    Port().show_note = [this](const Status_Note& note) { notes.push_back(note); };
-    Port().run_state = [this](bool running, const std::string& program) {
+    Port().board.show_note = [this](const Status_Note& note) { notes.push_back(note); };
+    Port().run.state = [this](bool running, const std::string& program) {
       states.push_back((running ? "on " : "off ") + program);
     };
   }

@@ -81,8 +81,8 @@ TEST_F(RunWaiting, The_Programs_End_During_A_Run_Touches_Nothing_More) {
     if (!Exists(bench / "grandchild")) return;
     Stop_Run_And_Wait();
     EXPECT_FALSE(Is_Alive(Pid_In(bench / "grandchild")));
-    Port().show_note = [](const Status_Note&) { ADD_FAILURE() << "the window is gone"; };
-    Port().run_state = [](bool, const std::string&) { ADD_FAILURE() << "the window is gone"; };
+    Port().board.show_note = [](const Status_Note&) { ADD_FAILURE() << "the window is gone"; };
+    Port().run.state = [](bool, const std::string&) { ADD_FAILURE() << "the window is gone"; };
   });
   const Run_Report report = Run();
   EXPECT_EQ(report.stage, Run_Stage::Stopped);

@@ -380,7 +380,7 @@ TEST_F(SiteScreen, A_Variable_Depth_Takes_The_Constant_One_Out_And_Ok_Stores_It_
 
 TEST_F(SiteScreen, A_Variable_Depth_Takes_The_Two_Point_Profile_And_Its_Blue_Away_For_A_While) {
   record.VelocityProfileType = 3;
-  Port().display_data();
+  Port().board.display_data();
   Open();
   const auto colour = [this] {
     return bench.controls().Option3D1(1)->palette().color(QPalette::Active, QPalette::WindowText);

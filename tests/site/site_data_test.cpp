@@ -25,7 +25,7 @@ class SiteData : public ::testing::Test {
   SiteData() {
     Reset_Port();
     Set_Project_Defaults(record_);
-    Port().paint_velocity_option = [this](int index, Status_Colour colour) {
+    Port().board.paint_velocity_option = [this](int index, Status_Colour colour) {
       painted_.push_back(std::to_string(index) +
                          (colour == Status_Colour::Blue ? " blue" : " black"));
     };

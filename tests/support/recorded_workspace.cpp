@@ -17,30 +17,32 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
   GetRecentFiles();  // no settings file: an empty menu
   Set_Project_Defaults(record_);
   Workspace_Port& port = Port();
-  port.set_caption = [this](const std::string& caption) {
+  port.board.set_caption = [this](const std::string& caption) {
     caption_ = caption;
     log_.push_back("caption " + caption);
   };
-  port.caption = [this] { return caption_; };
-  port.display_data = [this] { log_.push_back("display"); };
-  port.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
+  port.board.caption = [this] { return caption_; };
+  port.board.display_data = [this] { log_.push_back("display"); };
+  port.board.set_status_line = [this](int index, const std::string& text, Status_Colour colour) {
     log_.push_back("status " + std::to_string(index) + " " + text +
                    (colour == Status_Colour::Blue ? " blue" : " black"));
   };
-  port.mark_edit_item = [this](int index) { log_.push_back("mark " + std::to_string(index)); };
-  port.paint_velocity_option = [this](int index, Status_Colour colour) {
+  port.board.mark_edit_item = [this](int index) {
+    log_.push_back("mark " + std::to_string(index));
+  };
+  port.board.paint_velocity_option = [this](int index, Status_Colour colour) {
     log_.push_back("velocity " + std::to_string(index) +
                    (colour == Status_Colour::Blue ? " blue" : " black"));
   };
-  port.refresh_for_new_project = [this] { log_.push_back("new project"); };
-  port.clear_text_checks = [this] { log_.push_back("clear text checks"); };
-  port.close_dilution = [this] { log_.push_back("close dilution"); };
-  port.show_recent_menu = [this] { log_.push_back("recent menu"); };
-  port.show_main_board = [this] { log_.push_back("main board"); };
-  port.show_note = [this](const Status_Note& note) { notes_.push_back(note.text); };
-  port.text_has_changed = [this] { return text_has_changed_; };
-  port.text_caption = [] { return std::string("Untitled"); };
-  port.print_active_text = [this] { log_.push_back("print"); };
+  port.board.refresh_for_new_project = [this] { log_.push_back("new project"); };
+  port.text.clear_checks = [this] { log_.push_back("clear text checks"); };
+  port.dilution.close = [this] { log_.push_back("close dilution"); };
+  port.board.show_recent_menu = [this] { log_.push_back("recent menu"); };
+  port.board.show_main_board = [this] { log_.push_back("main board"); };
+  port.board.show_note = [this](const Status_Note& note) { notes_.push_back(note.text); };
+  port.text.has_changed = [this] { return text_has_changed_; };
+  port.text.caption = [] { return std::string("Untitled"); };
+  port.text.print = [this] { log_.push_back("print"); };
   File_Dialog_Presenter dialogs;
   dialogs.open = [this](const File_Request& request) {
     open_asked_.push_back(request);

@@ -21,8 +21,8 @@ class EditMenu : public ::testing::Test {
         blocked = blocking;
       });
     }
-    Port().display_data = [this] { ++refreshed; };
-    Port().show_note = [this](const Status_Note& note) { noted = note.text; };
+    Port().board.display_data = [this] { ++refreshed; };
+    Port().board.show_note = [this](const Status_Note& note) { noted = note.text; };
     record->ShowMode = 1;
     record->AnalysisType = 1;
     record->DisposalMethod = 1;
@@ -86,7 +86,7 @@ TEST_F(EditMenu, A_Negative_Analysis_Type_Opens_Only_Coefficients_And_Density) {
 }
 
 TEST_F(EditMenu, No_Screen_Comes_Up_Blocking_While_One_Stands_Open_Without) {
-  Port().screen_is_open = [](const std::string& name) { return name == "frmVelocity"; };
+  Port().board.screen_is_open = [](const std::string& name) { return name == "frmVelocity"; };
   testing::Scripted_Messages messages({Answer::Ok, Answer::Ok});
   for (const int index : {2, 1}) EXPECT_EQ(Opened_By(index), Names{}) << index;
   ASSERT_EQ(messages.shown.size(), 2u);

@@ -30,7 +30,7 @@ class MainClose : public ::testing::Test {
 
   void Title_The_Project() {
     Project().ProjectFileName = bench.folder / "bay.DUI";
-    Port().set_caption("BARVON - " + Project().ProjectFileName);
+    Port().board.set_caption("BARVON - " + Project().ProjectFileName);
     Project().DataSaved = kFalse;
   }
 

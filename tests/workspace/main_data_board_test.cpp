@@ -76,9 +76,9 @@ TEST_F(DataBoard, VelocityProfileType_Shows_As_Its_Option) {
   for (const auto& [type, option, logarithmic] : shown) {
     for (const double before : {2.0, 5.0}) {
       record.VelocityProfileType = before;
-      Port().display_data();
+      Port().board.display_data();
       record.VelocityProfileType = type;
-      Port().display_data();
+      Port().board.display_data();
       EXPECT_EQ(record.VelocityProfileType, type);
       Expect_Blue(c.Option3D1, option);
       EXPECT_EQ(c.Check3D1->isChecked(), logarithmic) << type;
@@ -121,7 +121,7 @@ TEST_F(DataBoard, A_Refresh_Of_A_Two_Point_Profile_Over_Variable_Depth_Never_Ask
   Modal_Replies none({});
   record.ConstantDepthFlag = 0;
   record.VelocityProfileType = 3;
-  Port().display_data();
+  Port().board.display_data();
   QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
   QTest::qWait(20);
   Expect_Blue(c.Option3D1, 1);
@@ -143,10 +143,10 @@ TEST_F(DataBoard, JBFC_Shows_The_Moisture_Content) {
   c.SSCheck4->click();
   EXPECT_EQ(c.Matlabel(5)->text(), "Moisture Content: 2.5");  // written for one layer only
   record.JBFCFlag = 0;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_FALSE(c.SSCheck4->isChecked());
   record.JBFCFlag = 1;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_TRUE(c.SSCheck4->isChecked());
 }
 
@@ -195,7 +195,7 @@ TEST_F(DataBoard, Every_Line_Shows_The_Record) {
   record.DisposalMethod = 3;
   record.LAYERS = 4;
   record.MoistureContent = 9;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(c.Matlabel(3)->text(), "Number of Layers 4");
   EXPECT_EQ(c.Matlabel(5)->text(), "Moisture Content: 1.5");
   EXPECT_EQ(c.Matlabel(6)->text(), "Dredging Site Water Density: 1.02 grams/cc");
@@ -203,7 +203,7 @@ TEST_F(DataBoard, Every_Line_Shows_The_Record) {
   // A continuous discharge leaves them as they are.
   record.DisposalMethod = 2;
   record.NumSolids = 4;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(c.Matlabel(3)->text(), "Number of Layers 4");
   EXPECT_EQ(c.Matlabel(4)->text(), "Number of Distinct Solids Fraction: 2");
   EXPECT_TRUE(c.Matlabel(5)->isVisible());

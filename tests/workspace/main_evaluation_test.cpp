@@ -56,7 +56,7 @@ TEST_F(EvaluationBoard, Each_Evaluation_Gives_Its_KEY3_And_Its_Hint) {
       EXPECT_EQ(c.Label4(1)->text(), type == 1 ? general[i] : tiers[i]);
       Expect_Blue(c.SSOption4, i);
       // The same state comes back from the record.
-      Port().display_data();
+      Port().board.display_data();
       EXPECT_EQ(record.KEY3, key3[type - 1][i]);
       EXPECT_EQ(c.Label4(1)->text(), type == 1 ? general[i] : tiers[i]);
       Expect_Blue(c.SSOption4, i);
@@ -99,10 +99,10 @@ TEST_F(EvaluationBoard, A_New_Type_Chosen_For_One_Project_Does_Not_Touch_The_Nex
   Show_Board_Of(1);
   c.SSOption4(1)->click();
   c.SSOption1(2)->click();
-  Port().open_menus();  // another project is opened, whose keys do not agree
+  Port().board.open_menus();  // another project is opened, whose keys do not agree
   record.KEY4 = 3;
   record.KEY3 = 7;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(record.KEY3, 7);
   Expect_Blue(c.SSOption4, 0);
 }
@@ -119,7 +119,7 @@ TEST_F(EvaluationBoard, Descent_And_Collapse_Closes_The_Evaluation_And_Clears_Th
   EXPECT_EQ(record.CriterionConcentration, 0);
   Expect_Blue(c.SSOption3, 0);
   for (QRadioButton* option : c.SSOption4) EXPECT_FALSE(option->isEnabled());
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(record.KEY3, 2);
   EXPECT_EQ(c.Label4(1)->text(), "");
   c.SSPanel5(0)->click();
@@ -141,7 +141,7 @@ TEST_F(EvaluationBoard, KEY3_Follows_Diffusion_Chosen_Again_At_The_Next_Refresh)
     EXPECT_EQ(record.KEY3, 0);
     c.SSOption3(1)->click();
     EXPECT_EQ(record.KEY3, 0);
-    Port().display_data();
+    Port().board.display_data();
     EXPECT_EQ(record.KEY3, first[type - 1]);
     Expect_Blue(c.SSOption4, 0);
   }
@@ -152,7 +152,7 @@ TEST_F(EvaluationBoard, Diffusion_Chosen_Again_Keeps_A_KEY3_That_Nothing_Has_Cle
   c.SSOption4(1)->click();
   c.SSOption3(0)->click();
   c.SSOption3(1)->click();
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(record.KEY3, 5);
   Expect_Blue(c.SSOption4, 1);
 }
@@ -160,10 +160,10 @@ TEST_F(EvaluationBoard, Diffusion_Chosen_Again_Keeps_A_KEY3_That_Nothing_Has_Cle
 TEST_F(EvaluationBoard, Diffusion_Chosen_For_A_Project_Without_Has_No_Evaluation_Yet) {
   Show_Board_Of(2);
   c.SSOption4(1)->click();
-  Port().open_menus();  // another project is opened
+  Port().board.open_menus();  // another project is opened
   record.KEY2 = 2;
   record.KEY3 = 0;
-  Port().display_data();
+  Port().board.display_data();
   Expect_Blue(c.SSOption4, -1);
   c.SSOption3(1)->click();
   opened.clear();

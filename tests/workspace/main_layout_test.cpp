@@ -33,7 +33,7 @@ TEST(MainLayout, Nothing_Is_Cut_Off_On_The_Data_Board_With_Long_Values) {
     Project().DX0 = Project().DZ0 = 1234;
     Project().RHDA0 = 0.0051;
     Project().SimulationDuration = 123456.5;
-    Port().display_data();
+    Port().board.display_data();
     for (int evaluation = 0; evaluation < (key4 < 3 ? 2 : 3); ++evaluation) {
       bench.controls().SSOption4(evaluation)->click();
       QCoreApplication::processEvents();
@@ -50,7 +50,7 @@ TEST(MainLayout, A_Value_Beyond_Its_Frame_Is_Shortened_And_Moves_Nothing) {
   const QRect place = bench.Child<QGroupBox>("Frame3D10")->geometry();
   Project().TotalVolume = 1e60;
   Project().DX0 = 1e60;
-  Port().display_data();
+  Port().board.display_data();
   QCoreApplication::processEvents();
   EXPECT_EQ(bench.Child<QGroupBox>("Frame3D10")->geometry(), place);
   EXPECT_TRUE(bench.controls().Matlabel(3)->Is_Cut());
@@ -59,8 +59,8 @@ TEST(MainLayout, A_Value_Beyond_Its_Frame_Is_Shortened_And_Moves_Nothing) {
 
 TEST(MainLayout, Nothing_Is_Cut_Off_While_A_Program_Runs_And_A_Long_Remark_Stands) {
   Main_Bench bench;
-  Port().run_state(true, "/opt/barvon/merak32");
-  Port().show_note({std::string(400, 'w'), "details"});
+  Port().run.state(true, "/opt/barvon/merak32");
+  Port().board.show_note({std::string(400, 'w'), "details"});
   QCoreApplication::processEvents();
   Expect_Nothing_Cut_Off(bench.main());
   EXPECT_EQ(bench.main().size(), QSize(627, 735));
@@ -105,7 +105,7 @@ TEST(MainLayout, Tab_Walks_The_Data_Board_In_Reading_Order) {
 
 TEST(MainLayout, Tab_Walks_On_To_The_Status_Line_And_The_Toolbar) {
   Main_Bench bench;
-  Port().run_state(true, "/opt/barvon/merak32");
+  Port().run.state(true, "/opt/barvon/merak32");
   bench.main().activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
   bench.controls().SSPanel3(5)->setFocus();
@@ -139,34 +139,34 @@ TEST(MainLayout, A_Category_Is_Read_Out_With_Its_State) {
   auto& c = bench.controls();
   EXPECT_EQ(Read_Out(c.Text2(0)), "Program Options: Data Not Entered");
   EXPECT_EQ(Read_Out(c.Text2(5)), "Coefficients: Default Coefficients Used");
-  Port().set_status_line(3, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(3, kDataSupplied, Status_Colour::Blue);
   EXPECT_EQ(Read_Out(c.Text2(3)), "Material Description: Data Supplied");
 }
 
 TEST(MainLayout, A_Remark_Is_Read_Out_Whole) {
   Main_Bench bench;
   const std::string remark = "remark " + std::string(400, 'w');
-  Port().show_note({remark, ""});
+  Port().board.show_note({remark, ""});
   EXPECT_EQ(Read_Out(bench.Child<QLabel>("StatusNote")).toStdString(), remark);
 }
 
 TEST(MainLayout, A_Remark_That_Is_Cut_Can_Be_Read_In_Whole_Without_A_Mouse) {
   Main_Bench bench;
-  Port().show_note({std::string(400, 'w'), ""});
+  Port().board.show_note({std::string(400, 'w'), ""});
   EXPECT_TRUE(bench.Child<QPushButton>("StatusDetails")->isVisible());
-  Port().show_note({"short", ""});
+  Port().board.show_note({"short", ""});
   EXPECT_FALSE(bench.Child<QPushButton>("StatusDetails")->isVisible());
 }
 
 TEST(MainLayout, A_Long_Remark_Is_Shortened_And_Its_Details_Are_At_Hand) {
   Main_Bench bench;
-  Port().show_note({"short", ""});
+  Port().board.show_note({"short", ""});
   QCoreApplication::processEvents();
   auto* note = dynamic_cast<Elided_Label*>(bench.Child<QLabel>("StatusNote"));
   ASSERT_NE(note, nullptr);
   EXPECT_FALSE(note->Is_Cut());
   EXPECT_FALSE(bench.Child<QPushButton>("StatusDetails")->isVisible());
-  Port().show_note({std::string(400, 'w'), "last line\nof the program"});
+  Port().board.show_note({std::string(400, 'w'), "last line\nof the program"});
   QCoreApplication::processEvents();
   EXPECT_TRUE(note->Is_Cut());
   EXPECT_EQ(note->text().size(), 400);

@@ -325,20 +325,20 @@ TEST(MainMenus, An_Entry_With_Data_Keeps_Its_Mark_When_It_Is_Chosen_Until_A_New_
   bench.controls().SSOption1(0)->click();
   QAction* site = bench.Action("mnuEditItem(1)");
   EXPECT_FALSE(site->isCheckable());
-  Port().mark_edit_item(1);
+  Port().board.mark_edit_item(1);
   EXPECT_TRUE(site->isChecked());
   site->trigger();
   EXPECT_TRUE(site->isChecked());
   bench.Action("mnuEditItem(2)")->trigger();
   EXPECT_FALSE(bench.Action("mnuEditItem(2)")->isChecked());
-  Port().refresh_for_new_project();
+  Port().board.refresh_for_new_project();
   EXPECT_FALSE(site->isChecked());
   EXPECT_FALSE(site->isCheckable());
 }
 
 TEST(MainMenus, A_Mark_For_No_Entry_Is_Passed_Over) {
   Main_Bench bench;
-  for (const int index : {-1, 7, 12}) Port().mark_edit_item(index);
+  for (const int index : {-1, 7, 12}) Port().board.mark_edit_item(index);
   EXPECT_FALSE(bench.Action("mnuEditItem(7)")->isCheckable());
 }
 
@@ -354,7 +354,7 @@ TEST(MainMenus, The_Toolbars_Mark_Is_Set_From_Its_Visibility_Before_The_Menu_Dro
 
 TEST(MainMenus, A_Highlighted_Item_Is_Described_In_The_Status_Bar) {
   Main_Bench bench;
-  Port().show_note({"the note", ""});
+  Port().board.show_note({"the note", ""});
   bench.main().activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.main()));
   const auto message = [&bench] { return bench.controls().status_area->currentMessage(); };

@@ -133,7 +133,7 @@ TEST(MainOptions, A_Refresh_Shows_What_The_Record_Holds_And_Not_What_Was_Shown_B
   Click(bench.controls().SSOption1(0));
   Project().KEY4 = 6;
   Project().DisposalMethod = 3;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_TRUE(bench.controls().SSOption1(2)->isChecked());
   EXPECT_TRUE(bench.controls().SSOption2(1)->isChecked());
   EXPECT_EQ(Project().KEY4, 6);
@@ -148,7 +148,7 @@ TEST(MainOptions, A_KEY4_Of_0_Or_7_Selects_No_Type_And_The_Method_Follows_Dispos
     Click(bench.controls().SSOption1(1));
     Project().KEY4 = key4;
     Project().DisposalMethod = 3;
-    Port().display_data();
+    Port().board.display_data();
     for (QRadioButton* option : bench.controls().SSOption1) EXPECT_FALSE(option->isChecked());
     EXPECT_TRUE(bench.controls().SSOption2(1)->isChecked());
     EXPECT_EQ(Project().KEY4, key4);
@@ -159,7 +159,7 @@ TEST(MainOptions, A_Continuous_Discharge_Stays_One_Through_A_Refresh) {
   Main_Bench bench;
   Project().KEY4 = 1;
   Project().DisposalMethod = 2;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(Project().DisposalMethod, 2);
   EXPECT_EQ(Project().KEY4, 1);
   EXPECT_FALSE(bench.controls().SSOption2(0)->isChecked());
@@ -169,7 +169,7 @@ TEST(MainOptions, A_Continuous_Discharge_Stays_One_Through_A_Refresh) {
 TEST(MainOptions, A_Refresh_Holds_The_Site_Density_To_Its_Limits) {
   Main_Bench bench;
   Project().SiteDensity = 1.2;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(Project().SiteDensity, 1.05);
   EXPECT_EQ(bench.Child<QLabel>("Matlabel(6)")->text(), "Dredging Site Water Density: 1.0500 g/cc");
 }
@@ -177,9 +177,9 @@ TEST(MainOptions, A_Refresh_Holds_The_Site_Density_To_Its_Limits) {
 TEST(MainOptions, A_New_Project_Clears_The_Marks_And_Closes_The_Gate) {
   Main_Bench bench;
   Click(bench.controls().SSOption1(1));
-  Port().set_status_line(2, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(2, kDataSupplied, Status_Colour::Blue);
   EXPECT_EQ(Text_Colour(bench.controls().Text2(2)), QColor("#0000ff"));
-  Port().refresh_for_new_project();
+  Port().board.refresh_for_new_project();
   for (QRadioButton* option : bench.controls().SSOption1) EXPECT_FALSE(option->isChecked());
   for (QRadioButton* option : bench.controls().SSOption2) EXPECT_FALSE(option->isChecked());
   EXPECT_FALSE(bench.controls().MethodFrame->isEnabled());
@@ -190,8 +190,8 @@ TEST(MainOptions, A_New_Project_Clears_The_Marks_And_Closes_The_Gate) {
 
 TEST(MainOptions, A_Status_Line_Outside_The_List_Is_Passed_Over) {
   Main_Bench bench;
-  Port().set_status_line(6, kDataSupplied, Status_Colour::Blue);
-  Port().set_status_line(-1, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(6, kDataSupplied, Status_Colour::Blue);
+  Port().board.set_status_line(-1, kDataSupplied, Status_Colour::Blue);
   EXPECT_EQ(bench.controls().Text2(5)->text(), "Default Coefficients Used");
 }
 
@@ -199,14 +199,14 @@ TEST(MainOptions, A_Velocity_Option_Can_Be_Painted_Without_Being_Chosen) {
   Main_Bench bench;
   const auto& options = bench.controls().Option3D1;
   ASSERT_TRUE(options(0)->isChecked());
-  Port().paint_velocity_option(1, Status_Colour::Blue);
+  Port().board.paint_velocity_option(1, Status_Colour::Blue);
   EXPECT_EQ(Text_Colour(options(1)), QColor("#0000ff"));
   EXPECT_FALSE(options(1)->isChecked());
   EXPECT_TRUE(options(0)->isChecked());
-  Port().paint_velocity_option(1, Status_Colour::Black);
+  Port().board.paint_velocity_option(1, Status_Colour::Black);
   EXPECT_EQ(Text_Colour(options(1)), QColor("#000000"));
-  Port().paint_velocity_option(4, Status_Colour::Blue);
-  Port().paint_velocity_option(-1, Status_Colour::Blue);
+  Port().board.paint_velocity_option(4, Status_Colour::Blue);
+  Port().board.paint_velocity_option(-1, Status_Colour::Blue);
 }
 
 TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {

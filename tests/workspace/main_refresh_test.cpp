@@ -74,10 +74,10 @@ TEST(MainRefresh, A_Random_Record_Is_The_Same_But_For_What_A_Refresh_Changes) {
     random.Fill(Project());
     *expected = Project();
     Apply_What_A_Refresh_Changes(*expected);
-    Port().display_data();
+    Port().board.display_data();
     ASSERT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << round;
     bench.controls().SSPanel3(0)->click();
-    Port().display_data();
+    Port().board.display_data();
     ASSERT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << round;
   }
 }
@@ -93,7 +93,7 @@ TEST(MainRefresh, A_Random_Project_Loaded_Refreshed_And_Saved_Again_Is_The_Same_
     Project().BulkDensity = 0;  // from another one a load computes the water density
     ASSERT_TRUE(Save_File(first, 2, Project()));
     ASSERT_TRUE(Open_Project(first, Project())) << round;
-    Port().display_data();
+    Port().board.display_data();
     bench.controls().SSPanel3(0)->click();
     ASSERT_TRUE(Save_File(second, 2, Project())) << round;
     // Not EXPECT_EQ: a difference would print a quarter of a megabyte.
@@ -112,9 +112,9 @@ TEST(MainRefresh, Every_Sample_Is_The_Same_But_For_What_A_Refresh_Changes) {
     ASSERT_TRUE(Open_Project(entry.path().string(), Project()));
     *expected = Project();
     Apply_What_A_Refresh_Changes(*expected);
-    Port().display_data();
+    Port().board.display_data();
     bench.controls().SSPanel3(0)->click();
-    Port().display_data();
+    Port().board.display_data();
     EXPECT_EQ(Differing_Fields(Project(), *expected), std::vector<std::string>{}) << entry.path();
   }
   EXPECT_EQ(samples, 8);
@@ -128,7 +128,7 @@ TEST(MainRefresh, A_Barge_Project_Opened_While_The_Hopper_Is_Shown_Stays_Its_Own
   Project().KEY3 = 3;
   Project().DisposalMethod = 3;
   Project().VelocityProfileType = 5;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(Project().KEY4, 4);
   EXPECT_EQ(Project().KEY3, 3);
   EXPECT_EQ(Project().DisposalMethod, 3);
@@ -165,7 +165,7 @@ TEST(MainRefresh, A_File_With_KEY2_Of_1_Comes_Up_As_Descent_And_Collapse_And_Is_
   ASSERT_TRUE(Open_Project(file, Project()));
   EXPECT_EQ(Project().KEY2, 1);
   EXPECT_EQ(Project().TracerConcentration, 7);
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_TRUE(bench.controls().SSOption3(0)->isChecked());
   EXPECT_EQ(Project().TracerConcentration, 0);
   EXPECT_EQ(Project().ZidRight, 0);
@@ -187,7 +187,7 @@ TEST(MainRefresh, A_Water_Density_Beyond_Its_Limits_Is_Stored_At_The_Limit_By_Th
     Write_Text(file, Save_Project(file, Project()));
     ASSERT_TRUE(Open_Project(file, Project()));
     EXPECT_EQ(Project().SiteDensity, stored);
-    Port().display_data();
+    Port().board.display_data();
     EXPECT_EQ(Project().SiteDensity, held);
     ASSERT_TRUE(Save_File(file, 2, Project()));
     ASSERT_TRUE(Open_Project(file, Project()));
@@ -203,7 +203,7 @@ TEST(MainRefresh, KEY4_And_DisposalMethod_Each_Show_In_Their_Own_Group) {
     for (std::int16_t method = 0; method <= 4; ++method) {
       Project().KEY4 = key4;
       Project().DisposalMethod = method;
-      Port().display_data();
+      Port().board.display_data();
       for (int i = 0; i < 3; ++i) {
         EXPECT_EQ(bench.controls().SSOption1(i)->isChecked(), i == type_of[key4]) << key4;
       }
@@ -229,7 +229,7 @@ TEST(MainRefresh, A_Refresh_In_The_Dilution_Mode_Does_Not_Leave_It) {
 TEST(MainRefresh, A_KEY2_Without_A_Meaning_Shows_No_Simulation_Type_And_Stays) {
   Main_Bench bench;
   Project().KEY2 = 3;
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(Project().KEY2, 3);
   for (QRadioButton* option : bench.controls().SSOption3) EXPECT_FALSE(option->isChecked());
 }

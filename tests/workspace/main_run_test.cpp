@@ -118,9 +118,9 @@ TEST_F(MainRun, A_Key_After_Stop_Does_Not_Replace_The_Title) {
   });
   EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
   auto* details = bench.Child<QPushButton>("StatusDetails");
-  Port().show_note({"a remark", "with details"});
+  Port().board.show_note({"a remark", "with details"});
   details->setFocus();
-  Port().show_note({"another", ""});
+  Port().board.show_note({"another", ""});
   EXPECT_NE(bench.main().focusWidget(), bench.controls().Title_Box);
 }
 

@@ -138,15 +138,15 @@ TEST(MainStart, Removes_What_A_Killed_Save_Left_Behind_Without_Touching_Projects
 
 TEST(MainStart, The_Port_Is_Silent_Again_When_The_Window_Is_Gone) {
   { Main_Bench bench; }
-  Port().set_caption("BARVON - /gone.DUI");
-  Port().show_note({"nobody", ""});
-  EXPECT_NE(Port().caption(), "BARVON - /gone.DUI");
+  Port().board.set_caption("BARVON - /gone.DUI");
+  Port().board.show_note({"nobody", ""});
+  EXPECT_NE(Port().board.caption(), "BARVON - /gone.DUI");
 }
 
 TEST(MainStart, A_Caption_Shows_Whatever_Stands_In_A_Path) {
   Main_Bench bench;
-  Port().set_caption("BARVON - /data/a[*]b&c.DUI");
-  EXPECT_EQ(Port().caption(), "BARVON - /data/a[*]b&c.DUI");
+  Port().board.set_caption("BARVON - /data/a[*]b&c.DUI");
+  EXPECT_EQ(Port().board.caption(), "BARVON - /data/a[*]b&c.DUI");
   EXPECT_EQ(bench.main().windowTitle(), "BARVON - /data/a[*][*]b&c.DUI");
 }
 
@@ -178,7 +178,7 @@ TEST(MainStart, The_Title_Takes_Sixty_Characters_That_Files_Hold) {
 TEST(MainStart, A_Refresh_Keeps_A_Title_That_The_Box_Can_Not_Show_Whole) {
   Main_Bench bench;
   Project().ProjectTitle = std::string(80, 't');
-  Port().display_data();
+  Port().board.display_data();
   EXPECT_EQ(Project().ProjectTitle, std::string(80, 't'));
 }
 

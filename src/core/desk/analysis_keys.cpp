@@ -49,7 +49,7 @@ void Refresh_KEY2(ProjectRecord& record) {
 
 void Show_Project(ProjectRecord& record) {
   Refresh_Record(record);
-  Port().display_data();
+  Port().board.display_data();
 }
 
 void Reset_WQParams(ProjectRecord& record) {

@@ -42,7 +42,8 @@ bool Can_Be_Loaded(const std::string& path) {
   const std::string letters = Last_Three_Letters(path);
   if (letters == kProjectLetters) return true;
   if (letters != kDilutionLetters) {
-    Port().show_note({Name_Of(path) + " is no project file: nothing was loaded from it.", {}});
+    Port().board.show_note(
+        {Name_Of(path) + " is no project file: nothing was loaded from it.", {}});
     return false;
   }
   const File_Kind* kind = Find_File_Kind(kDilutionLetters);
@@ -70,7 +71,7 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
     return false;
   }
   // What was said of the project before no longer holds.
-  Port().show_note({result.remark, {}});
+  Port().board.show_note({result.remark, {}});
   return true;
 }
 
@@ -78,11 +79,11 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
   if (!Open_File(path, record)) return false;
   record.ProjectFileName = path;
   record.BaseFileName = Base_Name(path);
-  Port().set_caption("BARVON - " + path);
+  Port().board.set_caption("BARVON - " + path);
   if (Last_Three_Letters(path) == kProjectLetters) {
     // A project whose KEY4 chooses nothing yet can be edited, saved and run like any other.
     record.FileKind = kProjectKind;
-    Port().open_menus();
+    Port().board.open_menus();
   }
   return true;
 }

@@ -44,7 +44,7 @@ void GetRecentFiles() {
     const std::string value = Read_Entry(i);
     Menu()[i] = Is_File(value) ? value : "";
   }
-  Port().show_recent_menu();
+  Port().board.show_recent_menu();
 }
 
 void Update_Recent_Files(const std::string& path) {

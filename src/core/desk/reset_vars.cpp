@@ -8,12 +8,12 @@ namespace barvon {
 
 bool Reset_Vars(ProjectRecord& record) {
   if (Text_Changed_Prompt(record)) return false;
-  Port().clear_text_checks();
-  Port().close_dilution();
-  Port().set_caption(kUntitledCaption);
+  Port().text.clear_checks();
+  Port().dilution.close();
+  Port().board.set_caption(kUntitledCaption);
   Set_Project_Defaults(record);
   record.WizardActive = record.WizardAccepted = kFalse;
-  Port().refresh_for_new_project();
+  Port().board.refresh_for_new_project();
   return true;
 }
 

@@ -80,13 +80,13 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
       Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
   if (Lead_To_One_File(path, name)) {
     record.FileTypeTag = "DUE";
-    Port().show_note({lacking + "that is where the project stands.", {}});
+    Port().board.show_note({lacking + "that is where the project stands.", {}});
     return true;
   }
   const Busy_Cursor cursor;
   // The project is safe; its model input may still be beyond what can be computed.
   if (const Failure failure = Save_Model_Extract(path, record); failure != Failure::None) {
-    Port().show_note({lacking + Failure_Name(failure) + ".", {}});
+    Port().board.show_note({lacking + Failure_Name(failure) + ".", {}});
   }
   return true;
 }
@@ -102,7 +102,7 @@ bool Write_Export(const std::string& path, ProjectRecord& record) {
 
 /// The text as one printed item: lines end in CR LF, the last one too.
 bool Write_Text(const std::string& path) {
-  const std::string text = Port().active_text();
+  const std::string text = Port().text.active();
   if (!Fits_File_Encoding(text)) return Tell_Unable();
   const bool written = Write_File(path, kTextKind, [&] {
     std::string lines;
@@ -110,7 +110,7 @@ bool Write_Text(const std::string& path) {
       lines += c == '\n' ? "\r\n" : std::string(1, c);
     return To_File_Bytes(lines) + "\r\n";
   });
-  if (written) Port().set_text_caption(path);
+  if (written) Port().text.set_caption(path);
   return written;
 }
 
@@ -138,7 +138,7 @@ bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   record.BaseFileName = Base_Name(path);
   if (kind != kTextKind) {
     record.DataSaved = kTrue;
-    Port().set_caption("BARVON - " + path);
+    Port().board.set_caption("BARVON - " + path);
   }
   Update_Recent_Files(path);
   return true;

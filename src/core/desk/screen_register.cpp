@@ -21,7 +21,7 @@ void Register_Screen(const std::string& name, Screen_Opener opener) {
   } else {
     Screens().erase(name);
   }
-  Port().screens_changed();
+  Port().board.screens_changed();
 }
 
 bool Screen_Stands(const std::string& name) { return Screens().count(name) != 0; }
@@ -36,7 +36,7 @@ bool Open_Screen(const std::string& name, bool blocking, const std::string& cont
 
 void Open_Screen_Or_Tell(const std::string& name, bool blocking, const std::string& control) {
   if (Open_Screen(name, blocking, control)) return;
-  Port().show_note({"The screen " + name + " is not part of this version.", ""});
+  Port().board.show_note({"The screen " + name + " is not part of this version.", ""});
 }
 
 }  // namespace barvon

@@ -21,9 +21,9 @@ bool Save_Changes(ProjectRecord& record) {
 }  // namespace
 
 bool Text_Changed_Prompt(ProjectRecord& record) {
-  if (!Port().text_has_changed()) return false;
+  if (!Port().text.has_changed()) return false;
   const std::string name =
-      record.ProjectFileName.empty() ? Port().text_caption() : record.ProjectFileName;
+      record.ProjectFileName.empty() ? Port().text.caption() : record.ProjectFileName;
   const Answer answer =
       Show_Message({"The text in " + name + " has changed.\n\nDo you want to save the changes?",
                     kMessageTitle, Buttons::YesNoCancel, Icon::None});

@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace barvon {
 
@@ -14,41 +13,66 @@ struct Status_Note {
   std::string details;
 };
 
-/// What the floors below the main window may ask of it. Main fills the table; everything is
-/// silent until then, so that the console program and tests need no window.
-struct Workspace_Port {
-  std::function<void(const std::string&)> set_caption;
-  std::function<std::string()> caption;
-  std::function<void()> display_data;
+/// The main window's boards, menus and status area.
+struct Board_Port {
+  std::function<void(const std::string&)> set_caption = [](const std::string&) {};
+  std::function<std::string()> caption = [] { return std::string(); };
+  std::function<void()> display_data = [] {};
   /// Text2(index) of the data categories, 0 to 5.
-  std::function<void(int index, const std::string& text, Status_Colour colour)> set_status_line;
+  std::function<void(int index, const std::string& text, Status_Colour colour)> set_status_line =
+      [](int, const std::string&, Status_Colour) {};
   /// The Edit menu's entry of that index gets its check mark: its data has been supplied.
-  std::function<void(int index)> mark_edit_item;
+  std::function<void(int index)> mark_edit_item = [](int) {};
   /// Paints the text of the velocity option of that index, 0 to 3, without choosing it.
-  std::function<void(int index, Status_Colour colour)> paint_velocity_option;
+  std::function<void(int index, Status_Colour colour)> paint_velocity_option = [](int,
+                                                                                  Status_Colour) {};
   /// New project: menus, marks and panels as for a fresh record.
-  std::function<void()> refresh_for_new_project;
+  std::function<void()> refresh_for_new_project = [] {};
   /// A project has been opened: its menus become available, whatever its keys say.
-  std::function<void()> open_menus;
-  std::function<void()> clear_text_checks;
-  std::function<void()> close_dilution;
-  std::function<void()> show_recent_menu;
-  std::function<void()> show_main_board;
+  std::function<void()> open_menus = [] {};
+  std::function<void()> show_recent_menu = [] {};
+  std::function<void()> show_main_board = [] {};
   /// Whether the screen of that name is in view without blocking.
-  std::function<bool(const std::string& name)> screen_is_open;
+  std::function<bool(const std::string& name)> screen_is_open = [](const std::string&) {
+    return false;
+  };
   /// A screen has been registered or taken out.
-  std::function<void()> screens_changed;
-  std::function<void(const Status_Note&)> show_note;
-  /// The run under way changed: true when a program has been started, false when it has ended.
-  std::function<void(bool running, const std::string& program)> run_state;
-  /// The text viewer's document: whether it has unsaved text, and its caption.
-  std::function<bool()> text_has_changed;
-  std::function<std::string()> text_caption;
+  std::function<void()> screens_changed = [] {};
+  std::function<void(const Status_Note&)> show_note = [](const Status_Note&) {};
+};
+
+/// The text viewer and its documents.
+struct Text_Port {
+  std::function<void()> clear_checks = [] {};
+  /// Whether the document has unsaved text, and its caption.
+  std::function<bool()> has_changed = [] { return false; };
+  std::function<std::string()> caption = [] { return std::string(); };
   /// The text of the active viewer window, and what its caption becomes after a save.
-  std::function<std::string()> active_text;
-  std::function<void(const std::string&)> set_text_caption;
+  std::function<std::string()> active = [] { return std::string(); };
+  std::function<void(const std::string&)> set_caption = [](const std::string&) {};
   /// Prints the text of the window in front.
-  std::function<void()> print_active_text;
+  std::function<void()> print = [] {};
+};
+
+/// Who shows the run under way.
+struct Run_Port {
+  /// True when a program has been started, false when it has ended.
+  std::function<void(bool running, const std::string& program)> state = [](bool,
+                                                                           const std::string&) {};
+};
+
+/// The dilution calculator.
+struct Dilution_Port {
+  std::function<void()> close = [] {};
+};
+
+/// What the floors below may ask of the windows above them. The owner of a group fills it; every
+/// entry is silent until then, so that the console program and tests need no window.
+struct Workspace_Port {
+  Board_Port board;
+  Text_Port text;
+  Run_Port run;
+  Dilution_Port dilution;
 };
 
 /// The table, each entry callable even when nobody filled it.

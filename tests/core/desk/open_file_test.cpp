@@ -266,7 +266,7 @@ TEST_F(OpenFile, A_Faulty_Dilution_File_Offers_A_Fresh_Start) {
 TEST_F(OpenFile, What_Was_Said_Of_The_Project_Before_Is_Taken_Back) {
   const std::string path = folder_ / "next.dui";
   Write_Text(path, Project_Bytes("Next"));
-  Port().show_note({"site.duo kept", "details"});
+  Port().board.show_note({"site.duo kept", "details"});
   ASSERT_TRUE(Open_File(path, record_));
   EXPECT_EQ(notes_, (Lines{"site.duo kept", ""}));
 }
@@ -275,7 +275,7 @@ TEST_F(OpenFile, A_Project_Whose_KEY4_Chooses_Nothing_Has_Its_Menus_And_Its_Kind
   const std::string path = folder_ / "unchosen.dui";
   Write_Text(path, Project_Bytes("Unchosen"));
   int opened = 0;
-  Port().open_menus = [&opened] { ++opened; };
+  Port().board.open_menus = [&opened] { ++opened; };
   record_.FileKind = 1;
   ASSERT_TRUE(Open_Project(path, record_));
   EXPECT_EQ(record_.KEY4, 0);

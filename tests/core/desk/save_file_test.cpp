@@ -223,9 +223,9 @@ TEST_F(SaveFile, An_Export_That_Can_Not_Be_Computed_Is_Told) {
 
 TEST_F(SaveFile, A_Text_Of_The_Viewer_Leaves_Caption_And_DataSaved_And_Renames_The_Outputs) {
   Scripted_Messages messages;
-  Port().active_text = [] { return std::string("caf\xC3\xA9\nline 2\r\nend"); };
+  Port().text.active = [] { return std::string("caf\xC3\xA9\nline 2\r\nend"); };
   std::string text_caption;
-  Port().set_text_caption = [&](const std::string& caption) { text_caption = caption; };
+  Port().text.set_caption = [&](const std::string& caption) { text_caption = caption; };
   EXPECT_TRUE(Save_File(folder_ / "notes.txt", 4, record_));
   EXPECT_EQ(Read_Text(folder_ / "notes.txt"), "caf\xE9\r\nline 2\r\nend\r\n");
   EXPECT_EQ(text_caption, folder_ / "notes.txt");
@@ -237,7 +237,7 @@ TEST_F(SaveFile, A_Text_Of_The_Viewer_Leaves_Caption_And_DataSaved_And_Renames_T
 
 TEST_F(SaveFile, A_Text_That_The_File_Can_Not_Hold_Is_Not_Written_With_Question_Marks) {
   Scripted_Messages messages({Answer::Ok});
-  Port().active_text = [] { return std::string("\xCE\xB1"); };
+  Port().text.active = [] { return std::string("\xCE\xB1"); };
   EXPECT_FALSE(Save_File(folder_ / "notes.txt", 4, record_));
   Expect_Box(messages, "Unable to Save File!");
   EXPECT_TRUE(Names_In(folder_.path()).empty());
