@@ -108,7 +108,7 @@ void frmErrorList::List1_DblClick(int index) {
   const auto target = Error_Target_Of(reference->text().toStdString());
   if (!target) return;
   // Over a blocking list a screen that does not block would take no input.
-  Open_Screen_Or_Tell(target->screen, isModal() || Project().ShowMode == 1, target->control);
+  Open_Screen_Or_Tell(target->screen, isModal() || Opens_Blocking(Project()), target->control);
 }
 
 void frmErrorList::SSCommand1_Click(int index) {

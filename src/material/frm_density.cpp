@@ -3,8 +3,7 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "core/desk/help_topics.h"
-#include "core/desk/workspace_port.h"
+#include "core/desk/accepted_screen.h"
 #include "core/number_reading.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/field_rows.h"
@@ -12,12 +11,12 @@
 namespace barvon {
 namespace {
 
-constexpr int kWaterDensityData = 8;  // of the data categories
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDensity");
 
 }  // namespace
 
 frmDensity::frmDensity(QWidget* workspace)
-    : Input_Screen("frmDensity", workspace, Placement::Centre),
+    : Input_Screen(kScreen.name, workspace, Placement::Centre),
       Check3D3(Named(new QCheckBox(this), "Check3D3")),
       Text3(this, "Text3", 3),
       Command2(Named(new QPushButton("&Compute", this), "Command2")) {
@@ -75,13 +74,12 @@ void frmDensity::Command1_Click(int index) {
     Save_Data(entry, Project());
     Show_Density(entry);
     Unload();
-    Project().ScreenDataSupplied[kWaterDensityData] = kTrue;
-    Port().board.display_data();
+    Accept_Screen(kScreen, isModal(), Project());
   } else if (index == kCancel) {
     Reset_Vars(copy_, Project());
     Unload();
   } else if (index == kHelp) {
-    Show_Help({Help_Command::Context, help_topic::kWaterDensity, {}});
+    Show_Help({Help_Command::Context, kScreen.topic, {}});
   }
 }
 

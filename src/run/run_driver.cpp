@@ -74,7 +74,7 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
     case Answer::No:
       return std::nullopt;
     case Answer::Yes:
-      Open_Screen("frmErrorList", record.ShowMode == 1);
+      Open_Screen("frmErrorList", Opens_Blocking(record));
       return Run_Stage::Errors;
     default:
       return Run_Stage::Cancelled;

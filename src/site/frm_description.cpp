@@ -8,9 +8,8 @@
 #include <vector>
 
 #include "core/book_numbers.h"
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
@@ -24,10 +23,9 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDescription");
 constexpr int kOkWithoutButton = 3, kCloseWithoutButton = 4;
 constexpr int kComputesDensity = 0, kVariableDepth = 1;  // Check3D1, and Command2 beside it
-constexpr int kSiteLine = 1, kSiteItem = 1;              // status line, Edit entry
-constexpr int kSiteScreen = 2;                           // ScreenDataSupplied
 constexpr char kOpeningDimension[] = "####.00";
 constexpr char kEditedDimension[] = "##,###.00";
 
@@ -52,7 +50,7 @@ void Add_Choice(Field_Rows& rows, QCheckBox* box, const QString& caption, QPushB
 }  // namespace
 
 frmDescription::frmDescription(QWidget* workspace)
-    : Input_Screen("frmDescription", workspace),
+    : Input_Screen(kScreen.name, workspace),
       record_(Project()),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       profile_(Named(new Density_Profile(this), "DensityProfile")) {
@@ -199,7 +197,7 @@ void frmDescription::Command1_Click(int index) {
       Unload();
       break;
     case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kSite, {}});
+      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kCloseWithoutButton:
       Unload();
@@ -275,13 +273,8 @@ void frmDescription::Save() {
   }
   SaveSiteData(entry, table, record_);
   Show_Profile();
-  Port().board.set_status_line(kSiteLine, kDataSupplied, Status_Colour::Blue);
-  const bool blocking = isModal();
   if (ready_to_close) Unload();
-  record_.ScreenDataSupplied[kSiteScreen] = kTrue;
-  Port().board.mark_edit_item(kSiteItem);
-  // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().board.display_data();
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 void frmDescription::Reset() {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/book_numbers.h"
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
@@ -19,15 +19,15 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmGridDescrip");
 constexpr int kOkWithoutButton = 3, kBackWithoutButton = 4;
-constexpr int kDepthGridScreen = 3;  // ScreenDataSupplied
 constexpr QSize kTableSize{400, 320};
 constexpr int kMapWidth = 280;  // below it headings and scale crowd the map out
 
 }  // namespace
 
 frmGridDescrip::frmGridDescrip(QWidget* workspace)
-    : Input_Screen("frmGridDescrip", workspace),
+    : Input_Screen(kScreen.name, workspace),
       record_(Project()),
       Check3D2(Named(new QCheckBox(this), "Check3D2")),
       Text1(Named(new QLineEdit(this), "Text1")),
@@ -126,11 +126,11 @@ void frmGridDescrip::Command1_Click(int index) {
       Unload();
       break;
     case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kDepthGrid, {}});
+      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kBackWithoutButton:
       Unload();
-      Open_Screen("frmDescription", record_.ShowMode == 1);
+      Open_Screen("frmDescription", Opens_Blocking(record_));
       break;
     default:
       break;
@@ -161,7 +161,7 @@ void frmGridDescrip::F1Book1_EndEdit() {
 void frmGridDescrip::Save() {
   SaveDepthGrid(Entry(), F1Book1->table(), record_);
   Unload();
-  record_.ScreenDataSupplied[kDepthGridScreen] = kTrue;
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 Depth_Grid_Entry frmGridDescrip::Entry() const {
@@ -186,7 +186,7 @@ void frmGridDescrip::Show_Remark() {
 
 void Register_frmGridDescrip(QWidget* workspace) {
   const auto open = Fresh_Screens<frmGridDescrip>(workspace);
-  Register_Screen("frmGridDescrip", [open](bool blocking, const std::string& control) {
+  Register_Screen(kScreen.name, [open](bool blocking, const std::string& control) {
     if (Ask_Depth_Grid_Size(Project())) open(blocking, control);
   });
 }

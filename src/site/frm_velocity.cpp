@@ -6,9 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/desk/help_topics.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
 #include "core/number_text.h"
 #include "platform/ask/help_viewer.h"
@@ -20,9 +19,8 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmVelocity");
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
-constexpr int kVelocityLine = 2, kVelocityItem = 2;  // status line, Edit entry
-constexpr int kVelocityScreen = 4;                   // ScreenDataSupplied
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
@@ -84,11 +82,11 @@ void frmVelocity::Command1_Click(int index) {
       Unload();
       break;
     case kHelp:
-      Show_Help({Help_Command::Context, help_topic::kVelocity, {}});
+      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kGridWithoutButton:
       Unload();
-      Open_Screen("frmGridDescrip", record_.ShowMode == 1);
+      Open_Screen("frmGridDescrip", Opens_Blocking(record_));
       break;
     default:
       break;
@@ -154,13 +152,8 @@ void frmVelocity::Save() {
   if (!Check_Velocity(entry, record_.VelocityProfileType)) return;
   SaveVelocityData(entry, record_);
   if (record_.VelocityProfileType == kUnsteadyVelocity) Show_Averages();
-  Port().board.set_status_line(kVelocityLine, kDataSupplied, Status_Colour::Blue);
-  const bool blocking = isModal();
   Unload();
-  record_.ScreenDataSupplied[kVelocityScreen] = kTrue;
-  Port().board.mark_edit_item(kVelocityItem);
-  // Who opened a blocking screen refreshes the main window when the screen is closed.
-  if (!blocking) Port().board.display_data();
+  Accept_Screen(kScreen, isModal(), record_);
 }
 
 void frmVelocity::Show_Form() {

@@ -6,9 +6,8 @@
 
 namespace barvon {
 
-/// The Edit menu's entries that open a screen, by their index: 1 site, 2 velocity, 4 material by
-/// DisposalMethod, 5 operation, 6 coefficients, 9 water density. Ends with the refresh, as does
-/// every other index, which opens nothing. Index 3 is the main window's own.
+/// Opens the screen that the table of screens has for the Edit menu's entry of that index, and ends
+/// with the refresh; for any other index it only refreshes. Index 3 is the main window's own.
 void mnuEditItem_Click(int index, ProjectRecord& record);
 
 /// Opens an input screen as ShowMode says. It tells the user and opens nothing when it would block

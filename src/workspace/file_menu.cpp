@@ -55,7 +55,7 @@ bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   if (Check_Project(record) == kFalse) return true;
   const Answer answer =
       Show_Message({kErrorsDetected, kMessageTitle, Buttons::YesNoCancel, Icon::None});
-  if (answer == Answer::Yes) Open_Screen("frmErrorList", record.ShowMode == 1);
+  if (answer == Answer::Yes) Open_Screen("frmErrorList", Opens_Blocking(record));
   return answer == Answer::No;
 }
 

@@ -45,13 +45,4 @@ inline constexpr std::array<int, 11> kWizardTopics = {help_topic::kErrorList,
                                                       440,
                                                       810};
 
-/// Every topic that a screen or a step asks for, once.
-inline constexpr std::array<int, 16> kHelpTopics = {
-    help_topic::kMainWindow,     help_topic::kSite,          help_topic::kVelocity,
-    help_topic::kMaterialHopper, help_topic::kOperation,     help_topic::kCoefficients,
-    help_topic::kDepthGrid,      help_topic::kEvaluation,    help_topic::kMaterialBarge,
-    help_topic::kDataBase,       help_topic::kErrorList,     help_topic::kSimulation,
-    help_topic::kWaterDensity,   help_topic::kWizardOptions, help_topic::kWizardVessel,
-    help_topic::kWizardTimes};
-
 }  // namespace barvon

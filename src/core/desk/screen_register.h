@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "core/project_record.h"
+
 namespace barvon {
 
 /// How a screen is opened: blocking or not, with the focus on the control of that name when one is
@@ -15,6 +17,9 @@ void Register_Screen(const std::string& name, Screen_Opener opener);
 
 /// Whether a screen of that name is registered.
 bool Screen_Stands(const std::string& name);
+
+/// Whether input screens open blocking, as the View menu says.
+inline bool Opens_Blocking(const ProjectRecord& record) { return record.ShowMode == 1; }
 
 /// Opens the screen. False when no screen of that name stands.
 bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "core/desk/screen_table.h"
+#include "core/desk/workspace_port.h"
+
+namespace barvon {
+
+/// How a status line tells of an accepted screen.
+struct Status_Words {
+  std::string text = kDataSupplied;
+  Status_Colour colour = Status_Colour::Blue;
+};
+
+/// The end of OK, the same for every input screen: what the screen's row says is told to the main
+/// window and to ScreenDataSupplied. It is said once the record holds what was entered and, if the
+/// screen goes, after it has gone. `blocking` is whether the screen was opened so.
+void Accept_Screen(const Screen_Row& row, bool blocking, ProjectRecord& record,
+                   const Status_Words& words = {});
+
+}  // namespace barvon

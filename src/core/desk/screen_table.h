@@ -1,0 +1,105 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/desk/help_topics.h"
+#include "core/project_record.h"
+
+namespace barvon {
+
+/// Input screens work on the project: while one is open without blocking, none comes up blocking.
+enum class Screen_Kind { Input, Other };
+
+/// What the Edit menu asks before it opens the screen: Check_Eval, or nothing.
+enum class Screen_Gate { Open, Evaluation };
+
+/// Where the error list goes from a reference to a control of the screen.
+enum class Error_Lead { Nowhere, To_Screen, To_Control };
+
+/// Two screens share an entry of the Edit menu, one for each vessel.
+enum class Vessel { Any, Hopper, Barge };
+
+/// Whether OK refreshes the main window. Who opened a screen that blocks refreshes afterwards.
+enum class Refresh_On_Ok { Never, Unless_Blocking, Always };
+
+/// A screen of the program. An index that is not given: the screen has none.
+struct Screen_Row {
+  const char* name;                   // its window's
+  int topic = help_topic::kContents;  // of its help; the contents: it has no page
+  Screen_Kind kind = Screen_Kind::Other;
+  std::optional<int> status_line = {};  // Text2, a data category that OK reports as supplied
+  std::optional<int> supplied = {};     // the element of ScreenDataSupplied that OK sets
+  std::optional<int> edit_mark = {};    // the entry of the Edit menu that OK marks
+  std::optional<int> edit_entry = {};   // the entry of the Edit menu that opens the screen
+  Screen_Gate gate = Screen_Gate::Open;
+  Error_Lead lead = Error_Lead::Nowhere;
+  Vessel vessel = Vessel::Any;
+  Refresh_On_Ok refresh = Refresh_On_Ok::Unless_Blocking;
+};
+
+namespace screen_table {
+
+consteval auto Make() {
+  using namespace help_topic;
+  using enum Screen_Kind;
+  using enum Screen_Gate;
+  using enum Error_Lead;
+  using enum Vessel;
+  using enum Refresh_On_Ok;
+  // clang-format off
+  return std::to_array<Screen_Row>({
+      //                                        OK:  line sup mark  Edit
+      {"Main",            kMainWindow},
+      {"frmDescription",  kSite,           Input,  1,   2,   1,   1, Evaluation, To_Control},
+      {"frmGridDescrip",  kDepthGrid,      Other, {},   3,  {},  {}, Open, Nowhere, Any, Never},
+      {"frmVelocity",     kVelocity,       Input,  2,   4,   2,   2, Evaluation},
+      {"frmMatHopper",    kMaterialHopper, Input,  3,   7,   4,   4, Evaluation, Nowhere, Hopper},
+      {"frmMatBarge",     kMaterialBarge,  Input,  3,   7,   4,   4, Evaluation, Nowhere, Barge},
+      {"frmOperation",    kOperation,      Input,  4,   9,   5,   5, Evaluation, To_Control},
+      {"frmCoefficients", kCoefficients,   Input,  5,  10,   6,   6, Open},
+      {"frmDensity",      kWaterDensity,   Input, {},   8,  {},   9, Open, Nowhere, Any, Always},
+      {"frmSimulation",   kSimulation,     Input,  0,   6,  {},  {}, Open, To_Control},
+      {"frmMdlkyn",       kEvaluation,     Input,  0,   5,   3,  {}, Open, To_Screen},
+      {"frmDilute2",      kDilution},
+      {"Write_Dilute_Report"},
+      {"DataBase",        kDataBase},
+      {"Data_Wiz"},  // its help follows the steps
+      {"Graphic_Data_Entry"},
+      {"frmErrorList",    kErrorList},
+      {"frmOpen"},
+      {"frmNotePad"},
+      {"frmTip"},
+      {"frmAbout"},
+      {"frmAboutMore"},
+  });
+  // clang-format on
+}
+
+}  // namespace screen_table
+
+/// Every screen of the program, those to come included.
+inline constexpr auto kScreens = screen_table::Make();
+
+/// The row of a screen. A name that the table does not have does not compile.
+consteval const Screen_Row& Row_Of_Screen(std::string_view name) {
+  for (const Screen_Row& row : kScreens) {
+    if (name == row.name) return row;
+  }
+  throw std::invalid_argument("no screen of that name");
+}
+
+/// The row of a screen, none for a name that the table does not have.
+const Screen_Row* Find_Screen(std::string_view name);
+
+/// Whether the screen is the one for the project's vessel.
+bool Serves_Vessel(const Screen_Row& row, const ProjectRecord& record);
+
+/// Every topic that a screen or a shown step of the wizard asks for, once, in rising order.
+std::vector<int> Help_Topics();
+
+}  // namespace barvon
