@@ -2,18 +2,12 @@
 #include <QIcon>
 #include <clocale>
 
-#include "checks/frm_error_list.h"
-#include "core/desk/screen_register.h"
-#include "material/frm_density.h"
 #include "platform/files/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
+#include "program_screens.h"
 #include "run/create_process.h"
-#include "site/frm_description.h"
-#include "site/frm_grid_descrip.h"
-#include "site/frm_velocity.h"
-#include "workspace/frm_open.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
 
@@ -29,12 +23,7 @@ int main(int, char** arguments) {
   barvon::Stop_Run_At_Exit();
   const barvon::End_Signals end_signals(barvon::End_Program);
   barvon::Main main(barvon::Program_Folder());
-  barvon::Register_frmErrorList(&main);
-  barvon::Register_frmOpen(&main);
-  barvon::Register_Screen("frmDescription", barvon::Fresh_Screens<barvon::frmDescription>(&main));
-  barvon::Register_frmGridDescrip(&main);
-  barvon::Register_Screen("frmVelocity", barvon::Fresh_Screens<barvon::frmVelocity>(&main));
-  barvon::Register_Screen("frmDensity", barvon::Fresh_Screens<barvon::frmDensity>(&main));
+  barvon::Register_Program_Screens(&main);
   main.show();
   return QApplication::exec();
 }

@@ -9,13 +9,16 @@
 #include "checks/error_navigation.h"
 #include "core/desk/help_topics.h"
 #include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
+#include "platform/qt/screen_window.h"
 #include "platform/qt/show_dialog.h"
 
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmErrorList");
 constexpr int kDetails = 0;
 constexpr int kClose = 1;
 constexpr QSize kSize(600, 360);
@@ -27,7 +30,7 @@ frmErrorList::frmErrorList(QWidget* workspace)
       List1(new QListWidget(this)),
       List2(new QListWidget(this)),
       SSCommand1(this, "SSCommand1", 2) {
-  setObjectName("frmErrorList");
+  Name_Screen(*this, kScreen.name);
   setWindowTitle("Error List");
   resize(kSize);
   List1->setObjectName("List1");
@@ -69,7 +72,7 @@ frmErrorList::frmErrorList(QWidget* workspace)
             [this, index] { SSCommand1_Click(index); });
   }
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [] {
-    Show_Help({Help_Command::Context, help_topic::kErrorList, {}});
+    Show_Help({Help_Command::Context, kScreen.topic, {}});
   });
   Set_Findings_Listener([this] { Fill(); });
 }
@@ -125,9 +128,9 @@ void frmErrorList::SSCommand1_Click(int index) {
 
 void Register_frmErrorList(QWidget* workspace) {
   auto* screen = new frmErrorList(workspace);
-  Register_Screen("frmErrorList",
+  Register_Screen(kScreen.name,
                   [screen](bool blocking, const std::string&) { screen->Open(blocking); });
-  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen("frmErrorList", nullptr); });
+  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen.name, nullptr); });
 }
 
 }  // namespace barvon

@@ -5,7 +5,6 @@
 
 #include "core/desk/accepted_screen.h"
 #include "core/number_reading.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/field_rows.h"
 
 namespace barvon {
@@ -16,7 +15,8 @@ constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDensity");
 }  // namespace
 
 frmDensity::frmDensity(QWidget* workspace)
-    : Input_Screen(kScreen.name, workspace, Placement::Centre),
+    : Input_Screen(kScreen.name, workspace,
+                   {.topic = kScreen.topic, .placement = Screen_Setup::Placement::Centre}),
       Check3D3(Named(new QCheckBox(this), "Check3D3")),
       Text3(this, "Text3", 3),
       Command2(Named(new QPushButton("&Compute", this), "Command2")) {
@@ -78,8 +78,6 @@ void frmDensity::Command1_Click(int index) {
   } else if (index == kCancel) {
     Reset_Vars(copy_, Project());
     Unload();
-  } else if (index == kHelp) {
-    Show_Help({Help_Command::Context, kScreen.topic, {}});
   }
 }
 

@@ -13,7 +13,6 @@
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/density_endpoints.h"
 #include "site/density_table.h"
@@ -50,7 +49,7 @@ void Add_Choice(Field_Rows& rows, QCheckBox* box, const QString& caption, QPushB
 }  // namespace
 
 frmDescription::frmDescription(QWidget* workspace)
-    : Input_Screen(kScreen.name, workspace),
+    : Input_Screen(kScreen.name, workspace, {.topic = kScreen.topic}),
       record_(Project()),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       profile_(Named(new Density_Profile(this), "DensityProfile")) {
@@ -136,9 +135,9 @@ void frmDescription::Set_Tab_Order() {
   order.insert(order.end(), {Text2(0), Text2(1), Text1(kConstantDepth), Check3D1(kVariableDepth),
                              Command2(kVariableDepth)});
   for (int i = kRoughness; i <= kDensityPoints; ++i) order.push_back(Text1(i));
-  order.insert(order.end(), {Check3D1(kComputesDensity), Command2(kComputesDensity), F1Book1,
-                             profile_, Command1(kOk), Command1(kCancel), Command1(kHelp)});
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+  order.insert(order.end(),
+               {Check3D1(kComputesDensity), Command2(kComputesDensity), F1Book1, profile_});
+  Tab_Through(order);
 }
 
 void frmDescription::Connect() {
@@ -195,9 +194,6 @@ void frmDescription::Command1_Click(int index) {
     case kCancel:
       Reset();
       Unload();
-      break;
-    case kHelp:
-      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kCloseWithoutButton:
       Unload();

@@ -4,14 +4,12 @@
 #include <QGroupBox>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <vector>
 
 #include "core/book_numbers.h"
 #include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/drawn_cells.h"
@@ -27,7 +25,7 @@ constexpr int kMapWidth = 280;  // below it headings and scale crowd the map out
 }  // namespace
 
 frmGridDescrip::frmGridDescrip(QWidget* workspace)
-    : Input_Screen(kScreen.name, workspace),
+    : Input_Screen(kScreen.name, workspace, {.topic = kScreen.topic}),
       record_(Project()),
       Check3D2(Named(new QCheckBox(this), "Check3D2")),
       Text1(Named(new QLineEdit(this), "Text1")),
@@ -41,7 +39,7 @@ frmGridDescrip::frmGridDescrip(QWidget* workspace)
   column->addWidget(Initial_Frame());
   column->addWidget(Grid_Frame(), 1);
   column->addLayout(Button_Row());
-  Set_Tab_Order();
+  Tab_Through({Check3D2, Text1, Command2, F1Book1, map_, csv_.Import, csv_.Export});
   Connect();
 }
 
@@ -77,13 +75,6 @@ QHBoxLayout* frmGridDescrip::Button_Row() {
   row->insertWidget(0, csv_.Import);
   row->insertWidget(1, csv_.Export);
   return row;
-}
-
-void frmGridDescrip::Set_Tab_Order() {
-  const std::vector<QWidget*> order = {
-      Check3D2,    Text1,       Command2,      F1Book1,           map_,
-      csv_.Import, csv_.Export, Command1(kOk), Command1(kCancel), Command1(kHelp)};
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void frmGridDescrip::Connect() {
@@ -124,9 +115,6 @@ void frmGridDescrip::Command1_Click(int index) {
       break;
     case kCancel:
       Unload();
-      break;
-    case kHelp:
-      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kBackWithoutButton:
       Unload();

@@ -30,7 +30,6 @@ class frmGridDescrip : public Input_Screen {
   QWidget* Grid_Frame();
   QHBoxLayout* Button_Row();
   void Connect();
-  void Set_Tab_Order();
 
   void Check3D2_Click();
   void Text1_Change();

@@ -10,7 +10,6 @@
 #include "core/desk/screen_register.h"
 #include "core/format_pattern.h"
 #include "core/number_text.h"
-#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/fields/option_paint.h"
 #include "site/velocity_questions.h"
@@ -80,9 +79,6 @@ void frmVelocity::Command1_Click(int index) {
     case kCancel:
       Reset_Vars(saved_, record_);
       Unload();
-      break;
-    case kHelp:
-      Show_Help({Help_Command::Context, kScreen.topic, {}});
       break;
     case kGridWithoutButton:
       Unload();

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "core/desk/screen_table.h"
 #include "core/number_reading.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/frm_velocity.h"
@@ -10,6 +11,7 @@
 namespace barvon {
 namespace {
 
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmVelocity");
 constexpr QSize kIllustration{220, 160};
 constexpr QSize kFieldTable{300, 260};
 constexpr QSize kSmallestPicture{440, 250};
@@ -36,7 +38,7 @@ QWidget* Column_Without_Margins() {
 }  // namespace
 
 frmVelocity::frmVelocity(QWidget* workspace)
-    : Input_Screen("frmVelocity", workspace),
+    : Input_Screen(kScreen.name, workspace, {.topic = kScreen.topic}),
       record_(Project()),
       Label5(Named(new QLabel(this), "Label5")),
       forms_(new Scrolled_Part(Column_Without_Margins(), this)),
@@ -215,9 +217,8 @@ void frmVelocity::Set_Tab_Order() {
   }
   order.insert(order.end(), {arrows_, F1Book3});
   order.insert(order.end(), Text3.begin(), Text3.end());
-  order.insert(order.end(),
-               {tide_, Text4(0), Text4(1), Command1(kOk), Command1(kCancel), Command1(kHelp)});
-  for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
+  order.insert(order.end(), {tide_, Text4(0), Text4(1)});
+  Tab_Through(order);
 }
 
 }  // namespace barvon

@@ -8,15 +8,17 @@
 #include <QVBoxLayout>
 
 #include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/project_record.h"
 #include "platform/qt/fields/option_paint.h"
+#include "platform/qt/screen_window.h"
 #include "platform/qt/show_dialog.h"
 #include "workspace/file_menu.h"
 
 namespace barvon {
 namespace {
 
-constexpr char kName[] = "frmOpen";
+constexpr const char* kName = Row_Of_Screen("frmOpen").name;
 constexpr char kTitle[] = "BARVON  -  Dredged Material Released Into Open Water";
 constexpr QSize kPicture{150, 200};
 
@@ -40,7 +42,7 @@ frmOpen::frmOpen(QWidget* workspace)
       Frame2(this, "Frame2", kPages),
       Option1(this, "Option1", 4),
       Command1(this, "Command1", 4) {
-  setObjectName(QLatin1String(kName));
+  Name_Screen(*this, kName);
   setWindowTitle(QStringLiteral("BARVON"));
   Build();
   for (QRadioButton* option : Option1) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/qt/fields/option_paint.h"
+#include "platform/qt/tab_order.h"
 #include "platform/qt/tool_bar_keys.h"
 #include "workspace/board_parts.h"
 #include "workspace/main_help.h"
@@ -63,7 +64,7 @@ void Set_Tab_Order(Main_Controls& c) {
                              c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
   for (const int index : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(c.SSPanel3(index));
   add(c.status_area->findChildren<QPushButton*>());
-  for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+  barvon::Set_Tab_Order(order);
   c.Title_Box->setFocus();
 }
 

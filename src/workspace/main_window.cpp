@@ -8,6 +8,7 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
+#include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
@@ -15,6 +16,7 @@
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/help/qt_help_viewer.h"
+#include "platform/qt/screen_window.h"
 #include "run/create_process.h"
 #include "workspace/display_data.h"
 #include "workspace/edit_menu.h"
@@ -54,7 +56,7 @@ bool Is_Open_Without_Blocking(const std::string& name) {
 
 Main::Main(const std::string& application_folder, std::function<void()> end_process)
     : controls_(this), end_process_(std::move(end_process)) {
-  setObjectName(QStringLiteral("Main"));
+  Name_Screen(*this, Row_Of_Screen("Main").name);
   setStatusBar(controls_.status_area);
   Build_Menus(controls_);
   Build_Toolbar(controls_);

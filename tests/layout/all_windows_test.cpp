@@ -7,32 +7,37 @@
 #include <QTabWidget>
 #include <QTest>
 #include <functional>
-#include <regex>
 #include <set>
 
 #include "checks/check_data.h"
-#include "checks/frm_error_list.h"
 #include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "material/frm_density.h"
 #include "platform/qt/ask/frm_progress_bar.h"
 #include "platform/qt/ask/qt_file_dialog.h"
 #include "platform/qt/help/help_window.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/input_screen.h"
+#include "platform/qt/screen_window.h"
 #include "platform/qt/text_window.h"
-#include "site/frm_description.h"
-#include "site/frm_grid_descrip.h"
-#include "site/frm_velocity.h"
+#include "program_screens.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
-#include "workspace/frm_open.h"
 
 namespace barvon {
 namespace {
 
 using namespace barvon::testing;
+
+/// The program's screens for as long as a main window is there.
+class Program_Screens {
+ public:
+  explicit Program_Screens(QWidget* main) { Register_Program_Screens(main); }
+  ~Program_Screens() {
+    for (const Screen_Row& row : kScreens) Register_Screen(row.name, {});
+  }
+};
 
 using Look = std::function<void(QWidget& window, const std::string& state)>;
 
@@ -100,8 +105,12 @@ void Look_At_Error_List(const Look& look) {
   list.close();
 }
 
-void Look_At_Velocity(Main_Bench& bench, const Look& look) {
-  Register_Screen("frmVelocity", Fresh_Screens<frmVelocity>(&bench.main()));
+void Unload(QWidget& screen) {
+  static_cast<Input_Screen&>(screen).Unload();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Look_At_Velocity(const Look& look) {
   Project().SimulationDuration = 5000;
   Project().AvgVelocityX = 0.25;
   Project().ConstVelocityX = 1.25;
@@ -109,16 +118,12 @@ void Look_At_Velocity(Main_Bench& bench, const Look& look) {
     Project().VelocityProfileType = type;
     QWidget& screen = Opened("frmVelocity");
     look(screen, "type " + std::to_string(static_cast<int>(type)));
-    static_cast<frmVelocity&>(screen).Unload();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Unload(screen);
   }
-  Register_Screen("frmVelocity", {});
 }
 
 /// An input screen with each of its tabs in front.
-template <class Screen>
-void Look_At_Input_Screen(Main_Bench& bench, const char* name, const Look& look) {
-  Register_Screen(name, Fresh_Screens<Screen>(&bench.main()));
+void Look_At_Input_Screen(const char* name, const Look& look) {
   QWidget& screen = Opened(name);
   look(screen, "as it opens");
   for (auto* tabs : screen.findChildren<QTabWidget*>()) {
@@ -127,8 +132,7 @@ void Look_At_Input_Screen(Main_Bench& bench, const char* name, const Look& look)
       look(screen, tabs->tabText(page).toStdString());
     }
   }
-  static_cast<Input_Screen&>(screen).Unload();
-  Register_Screen(name, {});
+  Unload(screen);
 }
 
 void Look_At_Help(const Look& look) {
@@ -157,26 +161,22 @@ void Look_At_Text(const Look& look) {
   look(text, "");
 }
 
-void Look_At_Site(Main_Bench& bench, const Look& look) {
-  Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
-  Register_frmGridDescrip(&bench.main());
+void Look_At_Site(const Look& look) {
   ProjectRecord& record = Project();
   record.NROA0 = 5;
   record.DepthGrid[1][1] = 12345.5;
-  auto& site = static_cast<frmDescription&>(Opened("frmDescription"));
+  QWidget& site = Opened("frmDescription");
   look(site, "constant depth, typed densities");
   for (const char* box : {"Check3D1(0)", "Check3D1(1)"}) site.findChild<QCheckBox*>(box)->click();
   look(site, "variable depth, computed densities");
   site.findChild<QLineEdit*>("Text1(0)")->setText("40.5");
   look(site, "a number that is read as another one");
-  auto& grid = static_cast<frmGridDescrip&>(Opened("frmGridDescrip"));
+  QWidget& grid = Opened("frmGridDescrip");
   look(grid, "not square");
   grid.findChild<QCheckBox*>("Check3D2")->click();
   look(grid, "to be initialized");
-  grid.Unload();
-  site.Unload();
-  for (const char* name : {"frmDescription", "frmGridDescrip"}) Register_Screen(name, {});
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  Unload(grid);
+  Unload(site);
 }
 
 void Look_At_Progress(const Look& look) {
@@ -217,17 +217,16 @@ void Walk_All_Windows(const Look& look) {
     look(window, state);
   };
   Main_Bench bench;
-  Register_frmErrorList(&bench.main());
-  Register_frmOpen(&bench.main());
+  const Program_Screens screens(&bench.main());
   Look_At_Main(bench, settled);
   Look_At_Details(bench, settled);
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
-  Look_At_Input_Screen<frmDensity>(bench, "frmDensity", settled);
-  Look_At_Velocity(bench, settled);
+  Look_At_Input_Screen("frmDensity", settled);
+  Look_At_Velocity(settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
-  Look_At_Site(bench, settled);
+  Look_At_Site(settled);
   Look_At_Progress(settled);
   Look_At_File_Dialogs(settled);
 }
@@ -271,19 +270,28 @@ TEST(AllWindows, Every_Control_Has_A_Name_To_Be_Read_Out) {
   });
 }
 
+// Coming back to an input screen from one of these activates it, from any other window it does not.
+TEST(AllWindows, The_Screens_Are_The_Windows_That_The_Table_Names) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const std::string name = window.objectName().toStdString();
+    EXPECT_EQ(Is_Screen(window), Find_Screen(name) != nullptr) << Where(window, state);
+  });
+}
+
 TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
   std::set<std::string> walked;
   Walk_All_Windows([&walked](QWidget& window, const std::string&) {
     walked.insert(window.objectName().toStdString());
   });
-  const std::string program = Read_Text(BARVON_SOURCE "/src/main.cpp");
-  const std::regex registers("Register_(?:Screen\\(\"|)((?:frm|Data|Graphic)\\w+)");
-  int screens = 0;
-  for (std::sregex_iterator at(program.begin(), program.end(), registers), end; at != end; ++at) {
-    EXPECT_EQ(walked.count((*at)[1]), 1U) << (*at)[1] << " is not in Walk_All_Windows";
-    ++screens;
+  Main_Bench bench;
+  const Program_Screens screens(&bench.main());
+  int registered = 0;
+  for (const Screen_Row& row : kScreens) {
+    if (!Screen_Stands(row.name)) continue;
+    EXPECT_EQ(walked.count(row.name), 1U) << row.name << " is not in Walk_All_Windows";
+    ++registered;
   }
-  EXPECT_GE(screens, 3);
+  EXPECT_GE(registered, 6);
   for (const char* window :
        {"Main", "Help", "Text_Window", "StatusDetailsDialog", "frmProgress_Bar"}) {
     EXPECT_EQ(walked.count(window), 1U) << window;

@@ -9,21 +9,17 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/ask/help_viewer.h"
+#include "platform/qt/screen_window.h"
 #include "platform/qt/show_dialog.h"
+#include "platform/qt/tab_order.h"
 #include "platform/qt/table/spreadsheet_view.h"
 
 namespace barvon {
 namespace {
 
-constexpr char kHelpCaption[] = "&Help";
 constexpr double kPlace = 0.03;          // of the display's width and height
 constexpr double kPartOfDisplay = 0.93;  // its place and its frame take the rest
-
-/// Whether a window is a screen of the program, known by its name, and no box, dialog or help.
-bool Is_Screen(const QString& name) {
-  return name.startsWith(QLatin1String("frm")) || name == QLatin1String("Main") ||
-         name == QLatin1String("Data_Wiz") || name == QLatin1String("DataBase");
-}
 
 QWidget* Widget_Of(const QWindow* window) {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -65,30 +61,42 @@ QWidget* First_Control(QWidget* screen) {
 
 }  // namespace
 
-Input_Screen::Input_Screen(const char* name, QWidget* workspace, Placement placement)
-    : QDialog(workspace), placement_(placement) {
-  setObjectName(QLatin1String(name));
+Input_Screen::Input_Screen(const char* name, QWidget* workspace, const Screen_Setup& setup)
+    : QDialog(workspace), setup_(setup) {
+  Name_Screen(*this, name);
   connect(qApp, &QGuiApplication::focusWindowChanged, this, &Input_Screen::Window_In_Focus);
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [this] {
-    for (QPushButton* button : Command1_) {
-      if (button->text() == QLatin1String(kHelpCaption)) button->click();
-    }
+    if (setup_.help) Run_Command(*setup_.help);
   });
 }
 
 QHBoxLayout* Input_Screen::Make_Command1(const std::vector<QString>& captions) {
   auto* row = new QHBoxLayout;
   row->addStretch();
+  std::vector<QPushButton*> buttons;
   for (const QString& caption : captions) {
-    const int index = static_cast<int>(Command1_.size());
     auto* button = new QPushButton(caption, this);
-    button->setObjectName(QStringLiteral("Command1(%1)").arg(index));
-    connect(button, &QPushButton::clicked, this, [this, index] { Run_Command(index); });
+    button->setObjectName(QStringLiteral("Command1(%1)").arg(buttons.size()));
     row->addWidget(button);
-    Command1_.push_back(button);
+    buttons.push_back(button);
   }
-  Command1_.front()->setDefault(true);
+  Take_Commands(buttons);
   return row;
+}
+
+void Input_Screen::Take_Commands(const std::vector<QPushButton*>& buttons) {
+  commands_ = buttons;
+  int index = 0;
+  for (QPushButton* button : commands_) {
+    connect(button, &QPushButton::clicked, this, [this, index] { Run_Command(index); });
+    ++index;
+  }
+  Command1(setup_.on_return)->setDefault(true);
+}
+
+void Input_Screen::Tab_Through(std::vector<QWidget*> order) {
+  order.insert(order.end(), commands_.begin(), commands_.end());
+  Set_Tab_Order(order);
 }
 
 void Input_Screen::Open(bool blocking, const std::string& control) {
@@ -130,17 +138,21 @@ void Input_Screen::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;
   Fit_To_Contents();
-  // A new size sets the place from inside the frame; said of the frame again, or it would stand
-  // above its place.
+  // move() places the frame's corner, but a resize of a window in view keeps the corner of what is
+  // inside the frame: without this the frame would rise by the height of its title.
   if (windowHandle() != nullptr) windowHandle()->setFramePosition(pos());
 }
 
 void Input_Screen::Place() {
-  if (placement_ == Placement::Centre) {
+  const QRect display = screen()->geometry();
+  if (setup_.place) {
+    move(display.topLeft() + *setup_.place);
+    return;
+  }
+  if (setup_.placement == Screen_Setup::Placement::Centre) {
     Centre_On_Display(*this);
     return;
   }
-  const QRect display = screen()->geometry();
   move(display.left() + static_cast<int>(display.width() * kPlace),
        display.top() + static_cast<int>(display.height() * kPlace));
 }
@@ -160,7 +172,7 @@ void Input_Screen::Window_In_Focus(QWindow* window) {
   if (front == this) {
     if (was_elsewhere_) Activated();
     was_elsewhere_ = false;
-  } else if (Is_Screen(front->objectName())) {
+  } else if (Is_Screen(*front)) {
     was_elsewhere_ = true;
   }
 }
@@ -170,7 +182,7 @@ void Input_Screen::reject() {
   if (running_command_) {
     QDialog::reject();
   } else {
-    Run_Command(kCancel);
+    Run_Command(setup_.cancel);
   }
 }
 
@@ -188,7 +200,11 @@ void Input_Screen::Run_Command(int index) {
   // However the command was given: what stands in a cell must be in the table now, not when the
   // screen has been saved or restored and takes the focus away by closing.
   for (F1Book* table : findChildren<F1Book*>()) table->FinishEdit();
-  Command1_Click(index);
+  if (index == setup_.help && setup_.topic != 0) {
+    Show_Help({Help_Command::Context, setup_.topic, {}});
+  } else {
+    Command1_Click(index);
+  }
   if (alive) running_command_ = false;
 }
 

@@ -2,34 +2,45 @@
 
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QPoint>
 #include <QPointer>
 #include <QPushButton>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace barvon {
+
+/// What a screen has of its own. The usual one has OK, Cancel and Help as its commands 0 to 2.
+struct Screen_Setup {
+  int topic = 0;                // the help's page that Help opens; 0: the screen answers itself
+  int on_return = 0;            // the command that Return gives in a field
+  int cancel = 1;               // the command that Escape and the close box give
+  std::optional<int> help = 2;  // the command that F1 gives
+  /// Where it opens: at 3 % of the display's width and height from its left and top, in the
+  /// display's middle, or at that point of the display, in pixels.
+  enum class Placement { Corner, Centre } placement = Placement::Corner;
+  std::optional<QPoint> place = {};
+};
 
 /// Base of the input screens. A screen builds its controls in its constructor, fills them in
 /// Opening, copies what Cancel restores in Activated, and answers its buttons in Command1_Click;
 /// there Unload closes it.
 class Input_Screen : public QDialog {
  public:
-  enum Command { kOk = 0, kCancel = 1, kHelp = 2 };
-  /// Where it opens: at 3 % of the display's width and height from its left and top, or in the
-  /// display's middle.
-  enum class Placement { Corner, Centre };
+  enum Command { kOk = 0, kCancel = 1, kHelp = 2 };  // of the usual screen
 
   /// `name` is the screen's name and reference, "frmOperation"; it opens over `workspace`.
-  Input_Screen(const char* name, QWidget* workspace, Placement placement = Placement::Corner);
+  Input_Screen(const char* name, QWidget* workspace, const Screen_Setup& setup = {});
 
   /// Opens at its place and, when blocking, comes back when the screen is closed. The focus goes to
   /// the control of that name, in whichever tab it is, else to the first control. A screen that is
   /// open already comes to the front as it stands.
   void Open(bool blocking, const std::string& control = {});
 
-  /// Escape and the close box are Cancel.
+  /// Escape and the close box give the command that calls off.
   void reject() override;
 
   /// What a screen that is opened now belongs to. One that blocks stays over the screen it is
@@ -47,14 +58,20 @@ class Input_Screen : public QDialog {
   /// After Opening, and whenever the user comes back to the screen from another of the program's
   /// screens; not when a message box, a file dialog or the help is closed.
   virtual void Activated() {}
+  /// A command was given, by its button or its key. Help does not come here when it has a page.
   virtual void Command1_Click(int index) = 0;
   void showEvent(QShowEvent* event) override;
 
-  /// The button row, Command1(0) and on. The first is what Return presses; F1 presses "&Help".
+  /// A row of buttons, Command1(0) and on, which are the screen's commands.
   QHBoxLayout* Make_Command1(const std::vector<QString>& captions = {QStringLiteral("OK"),
                                                                      QStringLiteral("C&ancel"),
                                                                      QStringLiteral("&Help")});
-  QPushButton* Command1(int index) const { return Command1_.at(static_cast<std::size_t>(index)); }
+  /// Buttons that the screen made and named itself become its commands, 0 and on.
+  void Take_Commands(const std::vector<QPushButton*>& buttons);
+  QPushButton* Command1(int index) const { return commands_.at(static_cast<std::size_t>(index)); }
+
+  /// Tab goes through these controls, then the commands.
+  void Tab_Through(std::vector<QWidget*> order);
 
   /// Gives the window the size that its contents ask for, as far as the display has room. Runs
   /// when the screen opens; one whose contents change runs it again.
@@ -69,8 +86,8 @@ class Input_Screen : public QDialog {
   void Window_In_Focus(QWindow* window);
   void Run_Command(int index);
 
-  Placement placement_;
-  std::vector<QPushButton*> Command1_;
+  Screen_Setup setup_;
+  std::vector<QPushButton*> commands_;
   bool running_command_ = false;
   bool was_elsewhere_ = false;  // the user is at another screen of the program
 };

@@ -14,6 +14,8 @@
 #include <vector>
 
 #include "core/book_numbers.h"
+#include "platform/qt/ask/frm_progress_bar.h"
+#include "platform/qt/screen_window.h"
 #include "platform/qt/table/spreadsheet_view.h"
 #include "support/screen_support.h"
 
@@ -78,7 +80,7 @@ class InputScreen : public ::testing::Test {
  protected:
   InputScreen() {
     Small_Screen::Clear();
-    main.setObjectName("Main");
+    Name_Screen(main, "Main");
     main.setGeometry(200, 150, 400, 300);
     main.show();
     EXPECT_TRUE(Has_Keyboard(&main));
@@ -266,7 +268,7 @@ TEST_F(InputScreen, Is_Activated_When_The_User_Comes_Back_From_Another_Screen) {
   Come_To(screen);
   EXPECT_EQ(log, Log{"activated"});
   QDialog other;
-  other.setObjectName("frmOther");
+  Name_Screen(other, "frmOther");
   other.show();
   Come_To(&other);
   Come_To(screen);
@@ -277,7 +279,7 @@ TEST_F(InputScreen, Is_Activated_When_A_Screen_That_Blocked_It_Is_Closed) {
   Open();
   log.clear();
   QDialog other(screen);
-  other.setObjectName("frmOther");
+  Name_Screen(other, "frmOther");
   QTimer::singleShot(0, &other, [&] {
     EXPECT_TRUE(Has_Keyboard(&other));
     other.accept();
@@ -312,12 +314,22 @@ TEST_F(InputScreen, Is_Not_Activated_By_Coming_Back_From_The_Help) {
   EXPECT_EQ(log, Log{});
 }
 
+TEST_F(InputScreen, Is_Not_Activated_When_A_Progress_Box_Goes) {
+  Open();
+  log.clear();
+  frmProgress_Bar progress(nullptr);
+  progress.Open("Reading...");
+  Come_To(&progress);
+  Come_To(screen);
+  EXPECT_EQ(log, Log{});
+}
+
 TEST_F(InputScreen, While_It_Is_Closed_It_Is_Not_Activated) {
   Open();
   screen->Unload();
   log.clear();
   QDialog other;
-  other.setObjectName("frmOther");
+  Name_Screen(other, "frmOther");
   other.show();
   Come_To(&other);
   Come_To(&main);

@@ -1,0 +1,33 @@
+#include "program_screens.h"
+
+#include "checks/frm_error_list.h"
+#include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
+#include "material/frm_density.h"
+#include "platform/qt/input_screen.h"
+#include "site/frm_description.h"
+#include "site/frm_grid_descrip.h"
+#include "site/frm_velocity.h"
+#include "workspace/frm_open.h"
+
+namespace barvon {
+namespace {
+
+/// A screen that is made anew at each use.
+template <class Screen>
+void Register(const Screen_Row& row, QWidget* main) {
+  Register_Screen(row.name, Fresh_Screens<Screen>(main));
+}
+
+}  // namespace
+
+void Register_Program_Screens(QWidget* main) {
+  Register_frmErrorList(main);
+  Register_frmOpen(main);
+  Register<frmDescription>(Row_Of_Screen("frmDescription"), main);
+  Register_frmGridDescrip(main);
+  Register<frmVelocity>(Row_Of_Screen("frmVelocity"), main);
+  Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
+}
+
+}  // namespace barvon
