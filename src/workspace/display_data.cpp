@@ -1,10 +1,10 @@
 #include "workspace/display_data.h"
 
-#include <utility>
+#include <QSignalBlocker>
 
 #include "core/desk/analysis_keys.h"
 #include "platform/qt/fields/option_paint.h"
-#include "workspace/option_events.h"
+#include "workspace/option_groups.h"
 #include "workspace/option_logic.h"
 #include "workspace/summary_lines.h"
 
@@ -19,7 +19,7 @@ void Show_Line(QLabel* label, const std::optional<std::string>& text) {
   if (text) Show_Line(label, *text);
 }
 
-void Show_Program_Options(Main_Controls& controls, ProjectRecord& record) {
+void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) {
   if (const auto hint = Simulation_Hint(record.AnalysisType)) {
     controls.Label4(0)->setText(QLatin1String(*hint));
   }
@@ -29,10 +29,6 @@ void Show_Program_Options(Main_Controls& controls, ProjectRecord& record) {
   Show_Simulation(controls, simulation);
   if (simulation == 1) {
     Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
-    if (std::exchange(controls.key3_to_follow, false)) {
-      KEY3_Value(controls, record);
-      Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
-    }
     return;
   }
   // KEY3 0 says nothing of the evaluation while there is no diffusion: the choice then stays for
@@ -45,11 +41,11 @@ void Show_Program_Options(Main_Controls& controls, ProjectRecord& record) {
 
 void Display_Data(Main_Controls& controls, ProjectRecord& record) {
   Refresh_Record(record);
-  // A title longer than the box stays what it is.
-  const std::string title = record.ProjectTitle;
-  controls.Title_Box->setText(QString::fromStdString(title));
-  controls.Title_Box->setCursorPosition(0);
-  record.ProjectTitle = title;
+  {
+    const QSignalBlocker quiet(controls.Title_Box);  // a title longer than the box stays what it is
+    controls.Title_Box->setText(QString::fromStdString(record.ProjectTitle));
+    controls.Title_Box->setCursorPosition(0);
+  }
   Show_Type(controls, Type_Option(record.KEY4));
   Show_Method(controls, Method_Option(record.DisposalMethod));
   Set_Data_Items(controls, record);
@@ -57,6 +53,7 @@ void Display_Data(Main_Controls& controls, ProjectRecord& record) {
 
 void Set_Data_Items(Main_Controls& controls, ProjectRecord& record) {
   Refresh_KEY2(record);
+  controls.key3.Follow(record);
   const Summary_Lines lines = Compose_Summary(record);
   for (int i = 0; i < 7; ++i) Show_Line(controls.SiteLabel(i), lines.SiteLabel[i]);
   const Velocity_Choice velocity = Velocity_Choice_Of(record.VelocityProfileType);
@@ -74,7 +71,7 @@ void Set_Data_Items(Main_Controls& controls, ProjectRecord& record) {
 }
 
 void Forget_Choices(Main_Controls& controls) {
-  controls.key3_to_follow = false;
+  controls.key3.Forget();
   Show_Option(controls.SSOption4, -1);
 }
 

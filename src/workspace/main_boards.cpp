@@ -16,17 +16,21 @@ namespace {
 constexpr int kGap = 8;  // between the board and the row of commands
 constexpr int kButtonHeight = 28;
 
+constexpr int kCommandRows = 2, kCommandColumns = 5;
+constexpr Command_Button kReadingOrder[kCommandRows * kCommandColumns] = {
+    kEnterData,    kSaveDataFile, kRunSimulation,  kViewOutput, kViewGraphics,
+    kReturnToMenu, kDataWizard,   kUpdateDatabase, kShowHelp,   kExitProgram};
+
 QLayout* Command_Row(Main_Controls& controls) {
   static constexpr const char* kCaptions[] = {
       "Enter/Edit &Data",     "&Run Simulation", "View &Graphics", "&Update Database",
       "Return To &Main Menu", "E&xit",           "&Help",          "View &Output",
       "&Save Data File",      "Data &Wizard"};
-  static constexpr int kPlaces[2][5] = {{0, 8, 1, 7, 2}, {4, 9, 3, 6, 5}};
   auto* grid = new QGridLayout;
   grid->setSpacing(6);
-  for (int row = 0; row < 2; ++row) {
-    for (int column = 0; column < 5; ++column) {
-      const int index = kPlaces[row][column];
+  for (int row = 0; row < kCommandRows; ++row) {
+    for (int column = 0; column < kCommandColumns; ++column) {
+      const Command_Button index = kReadingOrder[row * kCommandColumns + column];
       QPushButton* button = controls.SSPanel3(index);
       button->setText(QLatin1String(kCaptions[index]));
       button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -35,10 +39,12 @@ QLayout* Command_Row(Main_Controls& controls) {
     }
   }
   // In proportion to the longer caption of each column.
-  constexpr int kShares[5] = {142, 112, 124, 102, 112};
-  for (int column = 0; column < 5; ++column) grid->setColumnStretch(column, kShares[column]);
+  constexpr int kShares[kCommandColumns] = {142, 112, 124, 102, 112};
+  for (int column = 0; column < kCommandColumns; ++column) {
+    grid->setColumnStretch(column, kShares[column]);
+  }
   // Help tells the topic of the control that has the focus, so it must not take it.
-  controls.SSPanel3(6)->setFocusPolicy(Qt::TabFocus);
+  controls.SSPanel3(kShowHelp)->setFocusPolicy(Qt::TabFocus);
   return grid;
 }
 
@@ -62,7 +68,7 @@ void Set_Tab_Order(Main_Controls& c) {
   order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5), c.Option3D1(0), c.Check3D1,
                              c.Option3D1(1), c.Option3D1(2), c.Option3D1(3), c.SSRibbon1(1),
                              c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
-  for (const int index : {0, 8, 1, 7, 2, 4, 9, 3, 6, 5}) order.push_back(c.SSPanel3(index));
+  for (const Command_Button index : kReadingOrder) order.push_back(c.SSPanel3(index));
   add(c.status_area->findChildren<QPushButton*>());
   barvon::Set_Tab_Order(order);
   c.Title_Box->setFocus();

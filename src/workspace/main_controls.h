@@ -15,9 +15,25 @@
 #include "platform/qt/elided_label.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/latching_button.h"
+#include "workspace/option_logic.h"
 #include "workspace/status_area.h"
 
 namespace barvon {
+
+/// The row of commands under both boards, SSPanel3 by its indices.
+enum Command_Button {
+  kEnterData,
+  kRunSimulation,
+  kViewGraphics,
+  kUpdateDatabase,
+  kReturnToMenu,
+  kExitProgram,
+  kShowHelp,
+  kViewOutput,
+  kSaveDataFile,
+  kDataWizard
+};
+inline constexpr int kCommandButtons = 10;
 
 /// The controls of the main window. Who builds, fills and hears them stands elsewhere.
 struct Main_Controls {
@@ -48,7 +64,7 @@ struct Main_Controls {
         Matlabel(main, "Matlabel", 4, 3),
         SSCheck3(new QCheckBox(main)),
         Label6(main, "Label6", 3),
-        SSPanel3(main, "SSPanel3", 10),
+        SSPanel3(main, "SSPanel3", kCommandButtons),
         status_area(new Status_Area(main)),
         Toolbar1(new QToolBar(main)) {}
 
@@ -81,14 +97,12 @@ struct Main_Controls {
   ControlArray<Elided_Label> Label6;
 
   // In view under both boards.
-  ControlArray<QPushButton> SSPanel3;
+  ControlArray<QPushButton> SSPanel3;  // by Command_Button
   Status_Area* status_area;
   QToolBar* Toolbar1;
   QHash<QString, QAction*> actions;  // menu items and toolbar buttons by their names
 
-  /// A type of analysis, or diffusion, has been chosen since the evaluation was last shown: KEY3
-  /// has yet to follow.
-  bool key3_to_follow = false;
+  KEY3_Follower key3;  // what the groups of options owe the record
 };
 
 }  // namespace barvon

@@ -3,7 +3,11 @@
 #include <QEvent>
 #include <QShortcut>
 #include <functional>
+#include <map>
+#include <string>
 
+#include "core/desk/recent_files.h"
+#include "core/desk/screen_register.h"
 #include "core/desk/settings_keys.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
@@ -12,7 +16,6 @@
 #include "run/run_driver.h"
 #include "run/view_results.h"
 #include "workspace/display_data.h"
-#include "workspace/edit_menu.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_help.h"
@@ -37,8 +40,8 @@ class Early_Events : public QObject {
   Early_Events(Main_Controls& controls, ProjectRecord& record)
       : QObject(controls.window), controls_(controls), record_(record) {
     controls_.Title_Box->installEventFilter(this);
-    controls_.SSPanel3(6)->installEventFilter(this);
-    controls_.SSPanel3(6)->setMouseTracking(true);
+    controls_.SSPanel3(kShowHelp)->installEventFilter(this);
+    controls_.SSPanel3(kShowHelp)->setMouseTracking(true);
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -58,40 +61,41 @@ class Early_Events : public QObject {
 
 void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   switch (index) {
-    case 0:
+    case kEnterData:
       Show_Data_Board(controls);
       Set_Data_Items(controls, record);
       break;
-    case 1:
+    case kRunSimulation:
       Run_Model(record);
       break;
-    case 2:
+    case kViewGraphics:
       View_Graphics(record);
       break;
-    case 4:
+    case kReturnToMenu:
       Show_Main_Board(controls);
       break;
-    case 5:
+    case kExitProgram:
       mnuFileItem_Click(kFileExit, record);
       break;
-    case 6:
+    case kShowHelp:
       if (record.HelpContextToShow == 0) {
         Show_Help({Help_Command::Index, 0, ""});
       } else {
         Show_Help({Help_Command::Context, record.HelpContextToShow, ""});
       }
       break;
-    case 7:
+    case kViewOutput:
       View_Output_Command(record);
       break;
-    case 8:
+    case kSaveDataFile:
       mnuFileItem_Click(kFileSave, record);
       break;
-    case 9:
-      Show_Blocking_Screen("Data_Wiz");
+    case kDataWizard:
+      Open_Screen_Or_Tell("Data_Wiz", true);
       Display_Data(controls, record);
       break;
-    default:  // 3, "Update Database", does nothing.
+    case kUpdateDatabase:  // does nothing
+    default:
       break;
   }
 }
@@ -99,10 +103,10 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 void Edit_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Keep_Edit_Mark(controls, index);
   if (index == 3 && Check_Eval(record)) {
-    SSPanel3_Click(controls, record, 0);
+    SSPanel3_Click(controls, record, kEnterData);
     SSPanel5_Click(controls, record, 1);
   }
-  mnuEditItem_Click(index, record);
+  mnuEditItem_Click(controls, record, index);
 }
 
 void Mark_Toolbar(Main_Controls& controls) {
@@ -142,13 +146,13 @@ void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 }
 
 void Tool_Click(int index) {
-  if (const char* screen = Tool_Screen(index)) Show_Blocking_Screen(screen);
+  if (const char* screen = Tool_Screen(index)) Open_Screen_Or_Tell(screen, true);
 }
 
 void Help_Click(int index) {
   if (index == 0) Show_Help({Help_Command::Finder, 0, ""});
   if (index == 1) Show_Help({Help_Command::PartialKey, 0, ""});
-  if (index == 3) Show_Blocking_Screen("frmAbout");
+  if (index == 3) Open_Screen_Or_Tell("frmAbout", true);
 }
 
 void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
@@ -162,7 +166,7 @@ void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
     case 5:
       return mnuFileItem_Click(kFilePrint, record);
     case 6:
-      return SSPanel3_Click(controls, record, 1);
+      return SSPanel3_Click(controls, record, kRunSimulation);
     case 8:
       return Graph_Command(record, 0);
     case 9:
@@ -174,31 +178,48 @@ void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   }
 }
 
-/// Binds every action of an array to one operation that takes the index.
-void Connect_Array(Main_Controls& controls, const char* array,
-                   const std::function<void(int)>& operation) {
-  for (int index = 0; index <= 11; ++index) {
-    QAction* action = Action_Of(controls, array, index);
-    if (action == nullptr || action->isSeparator()) continue;
-    QObject::connect(action, &QAction::triggered, controls.window,
-                     [operation, index] { operation(index); });
-  }
+/// What choosing an entry of an array does, by the array's name.
+using Operations = std::map<std::string, std::function<void(int)>>;
+
+Operations Menu_Operations(Main_Controls& c, ProjectRecord& record) {
+  return {
+      {"mnuFileItem", [&record](int i) { mnuFileItem_Click(i, record); }},
+      {"mnuEditItem", [&c, &record](int i) { Edit_Click(c, record, i); }},
+      {"mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); }},
+      {"mnuGraph", [&record](int i) { Graph_Command(record, i); }},
+      {"mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); }},
+      {"mnuToolItem", Tool_Click},
+      {"mnuHelpItem", Help_Click},
+  };
+}
+
+void Connect_Action(Main_Controls& c, const char* array, int index,
+                    const std::function<void(int)>& operation) {
+  QObject::connect(Action_Of(c, array, index), &QAction::triggered, c.window,
+                   [operation, index] { operation(index); });
 }
 
 void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
-  Connect_Array(c, "mnuFileItem", [&record](int i) { mnuFileItem_Click(i, record); });
-  Connect_Array(c, "mnuRecentFile", [&record](int i) { mnuRecentFile_Click(i, record); });
-  Connect_Array(c, "mnuEditItem", [&c, &record](int i) { Edit_Click(c, record, i); });
-  Connect_Array(c, "mnuViewItem", [&c, &record](int i) { View_Click(c, record, i); });
-  Connect_Array(c, "mnuGraph", [&record](int index) { Graph_Command(record, index); });
-  Connect_Array(c, "mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); });
-  Connect_Array(c, "mnuToolItem", Tool_Click);
-  Connect_Array(c, "mnuHelpItem", Help_Click);
+  const Operations operations = Menu_Operations(c, record);
+  for (const Menu& menu : Menu_Tree()) {
+    const auto operation = operations.find(menu.array);
+    if (operation == operations.end()) continue;  // Window has no documents yet
+    for (const Menu_Item& item : menu.items) {
+      Connect_Action(c, menu.array, item.index, operation->second);
+    }
+  }
+  for (int i = 1; i <= kRecentFiles; ++i) {
+    Connect_Action(c, "mnuRecentFile", i,
+                   [&record](int index) { mnuRecentFile_Click(index, record); });
+  }
+  const int tools = static_cast<int>(c.Toolbar1->actions().size());
+  for (int i = 1; i <= tools; ++i) {
+    Connect_Action(c, "Toolbar1", i, [&c, &record](int index) { Toolbar_Click(c, record, index); });
+  }
   QObject::connect(Action_Of(c, "mnuView")->menu(), &QMenu::aboutToShow, c.window,
                    [&c] { Mark_Toolbar(c); });
-  Connect_Array(c, "Toolbar1", [&c, &record](int i) { Toolbar_Click(c, record, i); });
   QObject::connect(Action_Of(c, "mnuRun"), &QAction::triggered, c.window,
-                   [&c, &record] { SSPanel3_Click(c, record, 1); });
+                   [&c, &record] { SSPanel3_Click(c, record, kRunSimulation); });
 }
 
 using Option_Click_Action = void (*)(Main_Controls&, ProjectRecord&, int);
@@ -231,7 +252,7 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
   QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window,
                    [&record](const QString& text) { record.ProjectTitle = text.toStdString(); });
   Connect_Options(c, record);
-  for (int i = 0; i < 10; ++i) {
+  for (int i = 0; i < kCommandButtons; ++i) {
     QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,
                      [&c, &record, i] { SSPanel3_Click(c, record, i); });
   }
@@ -240,13 +261,13 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
                      [&c, &record, i] { SSPanel5_Click(c, record, i); });
   }
   for (int i = 0; i < 6; ++i) {
-    c.SSRibbon1(i)->When_Down([&record, i] { SSRibbon1_Click(record, i); });
+    c.SSRibbon1(i)->When_Down([&c, &record, i] { SSRibbon1_Click(c, record, i); });
   }
   c.SSRibbon2(3)->When_Down([&c, &record] { SSRibbon2_Click(c, record); });
   auto* help_key = new QShortcut(QKeySequence::HelpContents, c.window);
   QObject::connect(help_key, &QShortcut::activated, c.window, [&c, &record] {
     record.HelpContextToShow = Active_Topic(c, record);
-    SSPanel3_Click(c, record, 6);
+    SSPanel3_Click(c, record, kShowHelp);
   });
 }
 

@@ -8,6 +8,7 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
+#include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
@@ -19,7 +20,6 @@
 #include "platform/qt/screen_window.h"
 #include "run/create_process.h"
 #include "workspace/display_data.h"
-#include "workspace/edit_menu.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_events.h"
@@ -80,33 +80,22 @@ Main::~Main() {
 
 void Main::Start_Up(const std::string& application_folder) {
   ProjectRecord& record = Project();
-  // 1
   Set_Application_Folder(application_folder);
   Change_Current_Folder(application_folder);
-  // 2
   record.WizardHelpOn = kTrue;
   Action_Of(controls_, "mnuOptionItem", 0)->setChecked(true);
-  // 3
   move(0, 0);
   Lock_Size();
-  // 4
   Set_Help_File(Join_Path(application_folder, kHelpFile));
-  // 5
   record.ScreenDataSupplied.fill(kFalse);
   record.ShowMode = 1;
-  // 6
   GetRecentFiles();
   Remove_Leftovers(application_folder);
-  // 7 is the dilution table's: its headings belong to its screen.
-  // 8
   Set_Caption(kUntitledCaption);
   Reset_Vars(record);
-  // 9
   Display_Data(controls_, record);
-  // 10
   record.OutputsCopied = kFalse;
-  if (record.WizardAtStart != kFalse) Show_Blocking_Screen("Data_Wiz");
-  // 11
+  if (record.WizardAtStart != kFalse) Open_Screen_Or_Tell("Data_Wiz", true);
   record.AlwaysSaveBeforeRun = kTrue;
   record.WizardActive = kFalse;
 }

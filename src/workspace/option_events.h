@@ -19,24 +19,13 @@ void Option3D1_Click(Main_Controls& controls, ProjectRecord& record, int index);
 void Check3D1_Click(Main_Controls& controls, ProjectRecord& record, bool set);
 void SSCheck4_Click(Main_Controls& controls, ProjectRecord& record, bool set);
 
+/// Opens the screen of the Edit menu's entry of that index, if it has one, and refreshes in any
+/// case.
+void mnuEditItem_Click(Main_Controls& controls, ProjectRecord& record, int index);
+
 /// The buttons of the program options and the picture buttons.
 void SSPanel5_Click(Main_Controls& controls, ProjectRecord& record, int index);
-void SSRibbon1_Click(ProjectRecord& record, int index);
+void SSRibbon1_Click(Main_Controls& controls, ProjectRecord& record, int index);
 void SSRibbon2_Click(Main_Controls& controls, ProjectRecord& record);
-
-/// The evaluation group reads as the type of analysis has it.
-void Assign_Labels(Main_Controls& controls, std::int16_t analysis_type);
-
-/// KEY3 from what the simulation and evaluation groups show.
-void KEY3_Value(const Main_Controls& controls, ProjectRecord& record);
-
-/// The controls' half of each choice, for a state that the record holds already; -1 shows no
-/// option.
-void Show_Type(Main_Controls& controls, int type);
-void Show_Method(Main_Controls& controls, int method);
-void Show_Simulation(Main_Controls& controls, int simulation);
-void Show_Evaluation(Main_Controls& controls, int evaluation, std::int16_t analysis_type);
-void Show_Velocity(Main_Controls& controls, int option, bool logarithmic);
-void Show_JBFC(Main_Controls& controls, bool used);
 
 }  // namespace barvon

@@ -1,5 +1,7 @@
 #include "workspace/option_logic.h"
 
+#include <utility>
+
 #include "core/desk/analysis_keys.h"
 #include "platform/ask/message_box.h"
 
@@ -89,6 +91,17 @@ std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int1
   const int last = analysis_type == kGeneral ? 1 : kEvaluations - 1;
   const int index = evaluation >= 0 && evaluation < last ? evaluation : last;
   return kKEY3[analysis_type - 1][index];
+}
+
+void Follow_KEY3(int simulation, int evaluation, ProjectRecord& record) {
+  const auto key3 = KEY3_Value(simulation, evaluation, record.AnalysisType);
+  if (key3) record.KEY3 = *key3;
+}
+
+void KEY3_Follower::Follow(ProjectRecord& record) {
+  const int simulation = Simulation_Option(record.KEY2);
+  if (simulation != 1 || !std::exchange(due_, false)) return;
+  Follow_KEY3(simulation, Evaluation_Option(record.KEY3), record);
 }
 
 void Choose_Simulation_Type(int simulation, ProjectRecord& record) {

@@ -30,6 +30,23 @@ int Method_Option(std::int16_t disposal_method);
 /// evaluations: KEY3 then keeps its value.
 std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int16_t analysis_type);
 
+/// KEY3 takes the value of the two groups, as far as they give one.
+void Follow_KEY3(int simulation, int evaluation, ProjectRecord& record);
+
+/// Whoever chooses a type of analysis, or diffusion, expects KEY3 to follow. It does when the
+/// options are next shown, or asked for: until then other choices may still come.
+class KEY3_Follower {
+ public:
+  void Choice_Made() { due_ = true; }
+  void Forget() { due_ = false; }
+  /// KEY3 follows the choice made since the last call, by the evaluation that it shows itself.
+  /// While there is no diffusion it waits.
+  void Follow(ProjectRecord& record);
+
+ private:
+  bool due_ = false;
+};
+
 /// A click on a simulation type: KEY2, and without diffusion there is no contaminant.
 void Choose_Simulation_Type(int simulation, ProjectRecord& record);
 

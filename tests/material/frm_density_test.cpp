@@ -17,7 +17,7 @@
 #include "platform/qt/fields/number_field.h"
 #include "support/record_differences.h"
 #include "support/screen_support.h"
-#include "workspace/edit_menu.h"
+#include "workspace/option_events.h"
 
 namespace barvon::testing {
 namespace {
@@ -480,7 +480,7 @@ TEST_F(DensityScreen, Opened_Without_Blocking_Its_Ok_Refreshes_The_Board) {
   auto& c = bench.controls();
   c.SSOption1(0)->click();
   c.SSOption2(1)->click();
-  mnuEditItem_Click(9, record);
+  mnuEditItem_Click(c, record, 9);
   ASSERT_TRUE(Has_Keyboard(Screen()));
   EXPECT_FALSE(Screen()->isModal());
   EXPECT_EQ(c.Matlabel(6)->text(), "Dredging Site Water Density: 1.01 grams/cc");

@@ -4,7 +4,7 @@
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/fields/option_paint.h"
 #include "site/velocity_screen.h"
-#include "workspace/edit_menu.h"
+#include "workspace/option_events.h"
 
 namespace barvon::testing {
 namespace {
@@ -339,7 +339,7 @@ TEST_F(VelocityScreen, Help_Opens_Its_Topic) {
 
 TEST_F(VelocityScreen, The_Edit_Menu_And_The_Picture_Button_Open_It) {
   bench.controls().SSOption1(0)->click();
-  mnuEditItem_Click(2, record);
+  mnuEditItem_Click(bench.controls(), record, 2);
   ASSERT_TRUE(Is_Open());
   Press_Command(1);
   bench.controls().SSRibbon1(1)->click();

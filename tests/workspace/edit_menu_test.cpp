@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "support/plain_support.h"
 
@@ -21,22 +22,18 @@ class EditMenu : public ::testing::Test {
         blocked = blocking;
       });
     }
-    Port().board.display_data = [this] { ++refreshed; };
-    Port().board.show_note = [this](const Status_Note& note) { noted = note.text; };
     record->ShowMode = 1;
     record->AnalysisType = 1;
     record->DisposalMethod = 1;
   }
   ~EditMenu() override {
-    for (const std::string& name : opened) Register_Screen(name, {});
+    for (const Screen_Row& row : kScreens) Register_Screen(row.name, {});
     Reset_Port();
   }
 
   std::vector<std::string> Opened_By(int index) {
     opened.clear();
-    refreshed = 0;
-    mnuEditItem_Click(index, *record);
-    EXPECT_EQ(refreshed, 1) << index;
+    Open_Edit_Screen(index, *record);
     return opened;
   }
 
@@ -44,11 +41,9 @@ class EditMenu : public ::testing::Test {
   std::unique_ptr<ProjectRecord> record = std::make_unique<ProjectRecord>();
   Names opened;
   bool blocked = false;
-  int refreshed = 0;
-  std::string noted;
 };
 
-TEST_F(EditMenu, Opens_The_Screen_Of_Its_Entry_And_Refreshes) {
+TEST_F(EditMenu, Opens_The_Screen_Of_Its_Entry) {
   EXPECT_EQ(Opened_By(1), Names{"frmDescription"});
   EXPECT_EQ(Opened_By(2), Names{"frmVelocity"});
   EXPECT_EQ(Opened_By(5), Names{"frmOperation"});
@@ -64,7 +59,7 @@ TEST_F(EditMenu, Material_Goes_By_The_Method_Of_Disposal) {
   }
 }
 
-TEST_F(EditMenu, Error_Check_And_Evaluation_Selection_Only_Refresh) {
+TEST_F(EditMenu, Error_Check_And_Evaluation_Selection_Open_None) {
   for (const int index : {0, 7, 8, 10, 11, -1, 99}) EXPECT_EQ(Opened_By(index), Names{}) << index;
 }
 
@@ -102,9 +97,33 @@ TEST_F(EditMenu, No_Screen_Comes_Up_Blocking_While_One_Stands_Open_Without) {
   EXPECT_EQ(Opened_By(1), Names{"frmDescription"});
 }
 
-TEST_F(EditMenu, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
-  Show_Blocking_Screen("frmNobody");
-  EXPECT_EQ(noted, "The screen frmNobody is not part of this version.");
+TEST_F(EditMenu, The_Evaluation_Is_Asked_For_Once_Whatever_The_Vessel) {
+  record->AnalysisType = -1;
+  constexpr std::int16_t kMethods[] = {0, 1, 3};
+  for (const std::int16_t method : kMethods) {
+    record->DisposalMethod = method;
+    testing::Scripted_Messages messages({Answer::Ok});
+    EXPECT_EQ(Opened_By(4), Names{});
+    EXPECT_EQ(messages.shown.size(), 1u) << method;
+  }
+}
+
+TEST_F(EditMenu, Only_Input_Screens_Keep_A_Screen_From_Blocking) {
+  for (const Screen_Row& row : kScreens) {
+    const bool input = row.kind == Screen_Kind::Input;
+    Port().board.screen_is_open = [&row](const std::string& name) { return name == row.name; };
+    testing::Scripted_Messages messages({Answer::Ok});
+    EXPECT_EQ(Opened_By(6), input ? Names{} : Names{"frmCoefficients"}) << row.name;
+    EXPECT_EQ(messages.shown.size(), input ? 1u : 0u) << row.name;
+  }
+}
+
+TEST_F(EditMenu, A_Screen_That_Is_Not_There_Is_Named_In_The_Status_Area) {
+  std::string noted;
+  Port().board.show_note = [&noted](const Status_Note& note) { noted = note.text; };
+  Register_Screen("frmDensity", {});
+  EXPECT_EQ(Opened_By(9), Names{});
+  EXPECT_EQ(noted, "The screen frmDensity is not part of this version.");
 }
 
 }  // namespace

@@ -137,5 +137,57 @@ TEST(OptionLogic, Velocity_Options_Both_Ways) {
   }
 }
 
+TEST(OptionLogic, KEY3_Follows_A_Choice_Once_And_By_The_Evaluation_That_It_Shows) {
+  const auto record = std::make_unique<ProjectRecord>();
+  record->AnalysisType = 2;
+  record->KEY2 = 0;
+  record->KEY3 = 5;  // water quality in the tiers of another type
+  KEY3_Follower key3;
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 5);
+  key3.Choice_Made();
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 2);
+  record->KEY3 = 5;
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 5);
+}
+
+TEST(OptionLogic, KEY3_Waits_For_Diffusion_Before_It_Follows) {
+  const auto record = std::make_unique<ProjectRecord>();
+  record->AnalysisType = 3;
+  record->KEY2 = 2;
+  record->KEY3 = 0;
+  KEY3_Follower key3;
+  key3.Choice_Made();
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 0);
+  record->KEY2 = 0;
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 7);
+}
+
+TEST(OptionLogic, A_Choice_That_Is_Forgotten_Leaves_KEY3) {
+  const auto record = std::make_unique<ProjectRecord>();
+  record->AnalysisType = 2;
+  record->KEY2 = 0;
+  record->KEY3 = 5;
+  KEY3_Follower key3;
+  key3.Choice_Made();
+  key3.Forget();
+  key3.Follow(*record);
+  EXPECT_EQ(record->KEY3, 5);
+}
+
+TEST(OptionLogic, KEY3_Keeps_Its_Value_For_A_Type_Without_Evaluations) {
+  const auto record = std::make_unique<ProjectRecord>();
+  record->AnalysisType = 0;
+  record->KEY3 = 4;
+  Follow_KEY3(1, 0, *record);
+  EXPECT_EQ(record->KEY3, 4);
+  Follow_KEY3(0, 0, *record);
+  EXPECT_EQ(record->KEY3, 0);
+}
+
 }  // namespace
 }  // namespace barvon

@@ -1,0 +1,31 @@
+#include "core/desk/show_screen.h"
+
+#include <algorithm>
+
+#include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/message_box.h"
+
+namespace barvon {
+namespace {
+
+bool Any_Input_Screen_Is_Open() {
+  return std::any_of(kScreens.begin(), kScreens.end(), [](const Screen_Row& row) {
+    return row.kind == Screen_Kind::Input && Port().board.screen_is_open(row.name);
+  });
+}
+
+}  // namespace
+
+void Show_Screen(const std::string& name, const ProjectRecord& record) {
+  const bool blocking = Opens_Blocking(record);
+  if (blocking && Any_Input_Screen_Is_Open()) {
+    Show_Message({"Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu",
+                  kMessageTitle, Buttons::Ok, Icon::Critical});
+    return;
+  }
+  Open_Screen_Or_Tell(name, blocking);
+}
+
+}  // namespace barvon
