@@ -6,6 +6,7 @@
 #include "batch/batch_output.h"
 #include "core/desk/analysis_keys.h"
 #include "core/failure.h"
+#include "core/keys.h"
 #include "core/project_defaults.h"
 #include "core/project_file/project_reader.h"
 #include "core/text_tools.h"
@@ -15,8 +16,6 @@
 
 namespace barvon {
 namespace {
-
-constexpr double kModelProject = 2;
 
 /// Why a load failed, when no box said it.
 std::string Load_Problem(Failure failure) {
@@ -54,7 +53,7 @@ bool Is_Project_Name(const std::string& name) {
 std::unique_ptr<ProjectRecord> Fresh_Project() {
   auto record = std::make_unique<ProjectRecord>();
   Set_Project_Defaults(*record);
-  record->FileKind = kModelProject;
+  record->FileKind = kProjectKind;
   return record;
 }
 

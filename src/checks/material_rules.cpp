@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <string>
 
+#include "checks/references.h"
 #include "core/desk/help_topics.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
-
-constexpr char kHopperTable[] = "frmMatHopper!F1Book1";
-constexpr char kBargeTable[] = "frmMatBarge!F1Book1";
 
 std::string Zero_Fraction_Message(const ProjectRecord& record, int solid) {
   return "Volumetric Fraction for " + record.SolidNames[solid] + " is Zero";
@@ -21,12 +20,14 @@ void Check_Mixed_Load(const ProjectRecord& record, Error_List& errors) {
   const int solids = std::min<int>(record.NumSolids, kSolidEntries);
   for (int i = 1; i <= solids; ++i) {
     if (record.SolidVolFraction[i] != 0) continue;
-    if (record.DisposalMethod == 1) {
-      errors.Add(Zero_Fraction_Message(record, i), kHopperTable, help_topic::kMaterialHopper);
-    } else if (record.DisposalMethod == 3) {
-      errors.Add(Zero_Fraction_Message(record, i), kBargeTable, help_topic::kMaterialBarge);
+    if (record.DisposalMethod == kHopper) {
+      errors.Add(Zero_Fraction_Message(record, i), reference::kHopperSolids,
+                 help_topic::kMaterialHopper);
+    } else if (record.DisposalMethod == kBarge) {
+      errors.Add(Zero_Fraction_Message(record, i), reference::kBargeSolids,
+                 help_topic::kMaterialBarge);
     } else {
-      errors.Add(Zero_Fraction_Message(record, i), "");
+      errors.Add(Zero_Fraction_Message(record, i), reference::kNowhere);
     }
   }
 }
@@ -38,7 +39,8 @@ void Check_Separated_Load(const ProjectRecord& record, Error_List& errors) {
   for (int i = 1; i <= solids; ++i) {
     for (int j = 1; j <= layers; ++j) {
       if (record.LayerSolidFraction[i][j] == 0) {
-        errors.Add(Zero_Fraction_Message(record, i), kBargeTable, help_topic::kMaterialBarge);
+        errors.Add(Zero_Fraction_Message(record, i), reference::kBargeSolids,
+                   help_topic::kMaterialBarge);
       }
     }
   }

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "checks/references.h"
 #include "core/format_pattern.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -15,11 +17,6 @@ constexpr double kMostRoughness = 0.05;     // ft
 constexpr char kSiteOutsideGrid[] = "Location of Disposal Site is Outside of the Site Grid";
 constexpr char kZoneOutsideGrid[] = "Location of the Mixing Zone is Outside of the Site Grid";
 constexpr char kVesselOutsideSite[] = "Dumping Point is Outside of Specified Mixing Zone";
-
-/// The evaluations that speak of a disposal site; the others speak of a mixing zone.
-bool Speaks_Of_Disposal_Site(const ProjectRecord& record) {
-  return record.KEY3 >= 2 && record.KEY3 <= 4;
-}
 
 const char* Site_Message(const ProjectRecord& record) {
   return Speaks_Of_Disposal_Site(record) ? kSiteOutsideGrid : kZoneOutsideGrid;
@@ -41,33 +38,33 @@ std::string Grid_Count_Message(int points) {
 
 void Check_Z_Count(const ProjectRecord& record, Error_List& errors) {
   if (Grid_Count_Outside_Bounds(record.NMAX0)) {
-    errors.Add(Grid_Count_Message(record.NMAX0), "frmDescription!Text1(0)");
+    errors.Add(Grid_Count_Message(record.NMAX0), reference::kSiteZPoints);
   }
 }
 
 void Check_X_Count(const ProjectRecord& record, Error_List& errors) {
   if (Grid_Count_Outside_Bounds(record.MMAX0)) {
-    errors.Add(Grid_Count_Message(record.MMAX0), "frmDescription!Text1(1)");
+    errors.Add(Grid_Count_Message(record.MMAX0), reference::kSiteXPoints);
   }
 }
 
 void Check_Z_Spacing(const ProjectRecord& record, Error_List& errors) {
-  if (record.DZ0 < 0) errors.Add("Z Grid Spacing Less Than Zero", "frmDescription!Text1(3)");
+  if (record.DZ0 < 0) errors.Add("Z Grid Spacing Less Than Zero", reference::kSiteZSpacing);
 }
 
 void Check_X_Spacing(const ProjectRecord& record, Error_List& errors) {
-  if (record.DX0 < 0) errors.Add("X Grid Spacing Less Than Zero", "frmDescription!Text1(4)");
+  if (record.DX0 < 0) errors.Add("X Grid Spacing Less Than Zero", reference::kSiteXSpacing);
 }
 
 void Check_Roughness(const ProjectRecord& record, Error_List& errors) {
   if (record.RHDA0 < kLeastRoughness || record.RHDA0 > kMostRoughness) {
-    errors.Add("Roughness Height Outside Bounds", "frmDescription!Text1(5)");
+    errors.Add("Roughness Height Outside Bounds", reference::kSiteRoughness);
   }
 }
 
 void Check_Depth(const ProjectRecord& record, Error_List& errors) {
   if (record.DEPC0 <= 0 && record.ConstantDepthFlag == 1) {
-    errors.Add("Depth of Receiving Water Not Supplied", "frmDescription!F1Book1");
+    errors.Add("Depth of Receiving Water Not Supplied", reference::kSiteDensities);
   }
 }
 
@@ -77,7 +74,7 @@ void Check_Densities(const ProjectRecord& record, Error_List& errors) {
     if (record.Densities[i] == 0) {
       errors.Add(
           "Density Value Not Supplied at Depth = " + Format_Number(record.DensityDepths[i], "####"),
-          "frmDescription!F1Book1");
+          reference::kSiteDensities);
     }
   }
 }
@@ -86,56 +83,56 @@ void Check_Densities(const ProjectRecord& record, Error_List& errors) {
 // a top edge is measured along Z. Users' projects rely on it.
 void Check_Site_Top(const ProjectRecord& record, Error_List& errors) {
   if (Outside(record.SiteTop, Z_Extent(record))) {
-    errors.Add(Site_Message(record), "frmMdlkyn!Text(0)");
+    errors.Add(Site_Message(record), reference::kBoundaryTop);
   }
 }
 
 void Check_Site_Left(const ProjectRecord& record, Error_List& errors) {
   if (Outside(record.SiteLeft, X_Extent(record))) {
-    errors.Add(Site_Message(record), "frmMdlkyn!Text(1)");
+    errors.Add(Site_Message(record), reference::kBoundaryLeft);
   }
 }
 
 void Check_Site_Bottom(const ProjectRecord& record, Error_List& errors) {
   if (Outside(record.SiteBottom, X_Extent(record))) {
-    errors.Add(Site_Message(record), "frmMdlkyn!Text(2)");
+    errors.Add(Site_Message(record), reference::kBoundaryBottom);
   }
 }
 
 void Check_Site_Right(const ProjectRecord& record, Error_List& errors) {
   if (Outside(record.SiteRight, Z_Extent(record))) {
-    errors.Add(Site_Message(record), "frmMdlkyn!Text(3)");
+    errors.Add(Site_Message(record), reference::kBoundaryRight);
   }
 }
 
 void Check_Site_Given(const ProjectRecord& record, Error_List& errors) {
   if (Speaks_Of_Disposal_Site(record) && record.SiteTop == 0 && record.SiteLeft == 0 &&
       record.SiteBottom == 0 && record.SiteRight == 0) {
-    errors.Add("Disposal Site Is Not Specified", "frmMdlkyn!Text(0)");
+    errors.Add("Disposal Site Is Not Specified", reference::kBoundaryTop);
   }
 }
 
 /// Only a rectangle that is turned round both ways is found.
 void Check_Site_Corners(const ProjectRecord& record, Error_List& errors) {
-  if (record.KEY3 >= 2 && record.SiteTop > record.SiteBottom &&
+  if (Is_Regulatory(record) && record.SiteTop > record.SiteBottom &&
       record.SiteLeft > record.SiteRight) {
     errors.Add(Speaks_Of_Disposal_Site(record) ? "Lower Left Point of Disposal Site is Invalid"
                                                : "Lower Left Point of Mixing Zone is Invalid",
-               "frmMdlkyn!Text(2)");
+               reference::kBoundaryBottom);
   }
 }
 
 void Check_Vessel_Across_Site(const ProjectRecord& record, Error_List& errors) {
   if (Speaks_Of_Disposal_Site(record) &&
       (record.ZBARGE < record.SiteLeft || record.ZBARGE > record.SiteRight)) {
-    errors.Add(kVesselOutsideSite, "frmMdlkyn!Text(0)");
+    errors.Add(kVesselOutsideSite, reference::kBoundaryTop);
   }
 }
 
 void Check_Vessel_Along_Site(const ProjectRecord& record, Error_List& errors) {
   if (Speaks_Of_Disposal_Site(record) &&
       (record.XBARGE < record.SiteTop || record.XBARGE > record.SiteBottom)) {
-    errors.Add(kVesselOutsideSite, "frmMdlkyn!Text(0)");
+    errors.Add(kVesselOutsideSite, reference::kBoundaryTop);
   }
 }
 
@@ -143,7 +140,7 @@ void Check_Vessel_Along_Site(const ProjectRecord& record, Error_List& errors) {
 void Check_Profile_Reaches_Bottom(const ProjectRecord& record, Error_List& errors) {
   const int last = std::clamp<int>(record.NROA0, 0, kMaxDensityPoints);
   if (record.DensityDepths[last] < record.DEPC0) {
-    errors.Add("Receiving Water Densities Unacceptable.", "frmDescription!Text1(4)");
+    errors.Add("Receiving Water Densities Unacceptable.", reference::kSiteDepth);
   }
 }
 

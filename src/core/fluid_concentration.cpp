@@ -1,6 +1,7 @@
 #include "core/fluid_concentration.h"
 
 #include "core/checked_entry.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -8,10 +9,6 @@ namespace {
 constexpr double kLeastSediment = 0.0001;        // mg/kg
 constexpr double kLeastVolumeFraction = 0.0001;  // of a solid
 constexpr double kLeastSpecificGravity = 0.01;
-
-bool Contaminant_Is_In_The_Sediment(const ProjectRecord& record) {
-  return record.KEY3 == 4 || record.KEY3 == 7;
-}
 
 bool Carries_Contaminant(const ProjectRecord& record) {
   return record.NumSolids >= 1 && record.SedimentConcentration > kLeastSediment;

@@ -33,8 +33,8 @@ std::string Scaled_Whole(const Decimal_Digits& decimal, int places) {
   if (length < 0) return "0";
   std::string kept =
       decimal.digits.substr(0, std::min(decimal.digits.size(), static_cast<std::size_t>(length)));
-  const bool round_up = static_cast<std::size_t>(length) < decimal.digits.size() &&
-                        decimal.digits[static_cast<std::size_t>(length)] >= '5';
+  const bool round_up =
+      static_cast<std::size_t>(length) < decimal.digits.size() && decimal.digits[length] >= '5';
   kept.append(static_cast<std::size_t>(length) - kept.size(), '0');
   if (kept.empty()) kept = "0";
   if (round_up) Add_One(kept);

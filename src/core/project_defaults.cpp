@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "core/density_limits.h"
+#include "core/keys.h"
+#include "core/velocity_types.h"
 
 namespace barvon {
 namespace {
@@ -33,7 +35,7 @@ void Set_Site_Defaults(ProjectRecord& record) {
 }
 
 void Set_Velocity_Defaults(ProjectRecord& record) {
-  record.VelocityProfileType = 1;
+  record.VelocityProfileType = kSingleVelocity;
   record.VelXDepth1 = record.VelXDepth2 = record.VelX1 = record.VelX2 = 0;
   record.VelZDepth1 = record.VelZDepth2 = record.VelZ1 = record.VelZ2 = 0;
   record.VelocityFieldX = {};
@@ -120,11 +122,14 @@ void Set_Coefficient_Defaults(ProjectRecord& record) {
 }
 
 void Set_Key_And_Working_Defaults(ProjectRecord& record) {
-  record.AnalysisType = 1;
+  record.AnalysisType = kOpenWater;
   record.OldGridFile = kFreshGridFile;
   record.OldGridRetry = kFalse;
-  record.DisposalMethod = record.PreviousDisposalMethod = 1;
-  record.KEY1 = record.KEY2 = record.KEY3 = record.KEY4 = 0;
+  record.DisposalMethod = record.PreviousDisposalMethod = kHopper;
+  record.KEY1 = 0;
+  record.KEY2 = kDiffusion;
+  record.KEY3 = kNoTracer;
+  record.KEY4 = kNoStudy;
   record.SolidsVolumeSum = record.SolidsMassSum = 0;
   record.SiteGridTop = record.SiteGridBottom = record.SiteGridLeft = record.SiteGridRight = 0;
   record.ZidGridTop = record.ZidGridBottom = record.ZidGridLeft = record.ZidGridRight = 0;

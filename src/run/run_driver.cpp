@@ -14,6 +14,7 @@
 #include "core/desk/settings_keys.h"
 #include "core/desk/workspace_port.h"
 #include "core/failure.h"
+#include "core/keys.h"
 #include "core/model_input/model_input.h"
 #include "core/text_tools.h"
 #include "platform/ask/message_box.h"
@@ -54,12 +55,12 @@ std::optional<Run_Stage> Save_As(ProjectRecord& record, Run_Stage on_cancel) {
 /// Sees to it that the project has a file. Nothing when the run may go on.
 std::optional<Run_Stage> Check_File(ProjectRecord& record) {
   constexpr char kNoFile[] = "Please Specify a File Before Running Model";
-  if (record.FileKind == 1) {
+  if (record.FileKind == kDilutionKind) {
     if (Project_Exists(record, ".DUD")) return std::nullopt;
     Show_Error(kNoFile);
     return Run_Stage::No_File;
   }
-  if (record.FileKind == 2 || record.FileKind == 3) {
+  if (Is_Model_Project(record)) {
     if (Project_Exists(record, ".DUI")) return std::nullopt;
     Show_Error(kNoFile);
     return Save_As(record, Run_Stage::No_File);

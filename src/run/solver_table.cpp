@@ -1,15 +1,17 @@
 #include "run/solver_table.h"
 
+#include "core/keys.h"
+
 namespace barvon {
 
 Solver Solver_For(int disposal_method) {
   switch (disposal_method) {
-    case 1:  // hopper
-    case 3:  // barge
+    case kHopper:
+    case kBarge:
       return {"DOS4GW MERAK32.EXE", true};
-    case 2:  // continuous: chosen, and not started
+    case kContinuous:  // chosen, and not started
       return {"TOLIN.EXE", false};
-    case 4:
+    case kMethodOfSolvers:
       return {"MERAK4.EXE", false};
     default:
       return {};

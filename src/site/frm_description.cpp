@@ -282,7 +282,7 @@ void frmDescription::Reset() {
 Site_Entry frmDescription::Entry() const {
   Site_Entry entry;
   for (int i = 0; i < kSiteFields; ++i) {
-    entry.Text1[static_cast<std::size_t>(i)] = Text1(i)->text().toStdString();
+    entry.Text1[i] = Text1(i)->text().toStdString();
   }
   entry.computes_density = Check3D1(kComputesDensity)->isChecked();
   entry.variable_depth = Check3D1(kVariableDepth)->isChecked();

@@ -1,6 +1,7 @@
 #include <QIcon>
 #include <QVBoxLayout>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 #include "core/desk/screen_table.h"
@@ -18,16 +19,16 @@ constexpr QSize kSmallestPicture{440, 250};
 constexpr int kNoteLines = 4;
 
 struct Form_Texts {
-  const char* option;
   const char* frame;
   const char* illustration;
 };
-constexpr Form_Texts kForms[kVelocityForms] = {
-    {"Single Depth Averaged Velocity", "Average Velocity", "velocity_average"},
-    {"2-Point Velocity Profile For Constant Depth", "2-Point Profile", "velocity_two_point"},
-    {"Variable Velocity Field", "Variable Velocity Field", "velocity_field"},
-    {"Unsteady Velocity Profile", "Unsteady Velocity Profile", "velocity_tidal"},
+constexpr Form_Texts kForms[] = {
+    {"Average Velocity", "velocity_average"},
+    {"2-Point Profile", "velocity_two_point"},
+    {"Variable Velocity Field", "velocity_field"},
+    {"Unsteady Velocity Profile", "velocity_tidal"},
 };
+static_assert(std::size(kForms) == kVelocityForms);
 
 QWidget* Column_Without_Margins() {
   auto* part = new QWidget;
@@ -80,7 +81,7 @@ QWidget* frmVelocity::Choice_Part() {
   auto* options = new QVBoxLayout(frame);
   options->addStretch();
   for (int form = 0; form < kVelocityForms; ++form) {
-    Option3D1(form)->setText(QLatin1String(kForms[form].option));
+    Option3D1(form)->setText(QLatin1String(Option_Of_Form(Velocity_Form(form))));
     options->addWidget(Option3D1(form));
   }
   options->addStretch();

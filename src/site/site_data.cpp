@@ -5,7 +5,9 @@
 
 #include "core/desk/workspace_port.h"
 #include "core/format_pattern.h"
+#include "core/keys.h"
 #include "core/number_text.h"
+#include "core/velocity_types.h"
 #include "core/wizard_answers.h"
 #include "material/amden.h"
 #include "platform/ask/message_box.h"
@@ -20,9 +22,6 @@ constexpr double kUsualRoughness = 0.005;
 // The label and the rules allow 0.0005; the warning comes earlier all the same.
 constexpr double kLowRoughness = 0.001;
 constexpr double kHighRoughness = 0.05;
-constexpr std::int16_t kHopper = 1, kBarge = 3;
-constexpr double kNoProfile = 0, kTwoPointProfile = 3;
-constexpr int kTwoPointOption = 1;
 
 double Number(const Site_Entry& entry, Site_Field field) {
   return Lenient_Number(entry.Text1[field]);
@@ -96,9 +95,7 @@ void Take_Wizard_Densities(ProjectRecord& record) {
   for (int i = 1; i <= 2; ++i) record.Densities[i] = *density[i];
 }
 
-bool Has_Slopes(const ProjectRecord& record) {
-  return record.DisposalMethod == kHopper || record.DisposalMethod == kBarge;
-}
+bool Has_Slopes(const ProjectRecord& record) { return Has_Vessel(record); }
 
 bool Check_Site_Text(int index, const std::string& text) {
   const double number = Lenient_Number(text);
@@ -133,10 +130,10 @@ void Take_Dimensions(const Site_Entry& entry, ProjectRecord& record) {
 
 void Choose_Variable_Depth(bool variable, ProjectRecord& record) {
   record.ConstantDepthFlag = variable ? 0 : 1;
-  const double displaced = variable ? kTwoPointProfile : kNoProfile;
+  const double displaced = variable ? kTwoPointVelocity : kNoVelocity;
   if (record.VelocityProfileType != displaced) return;
-  record.VelocityProfileType = variable ? kNoProfile : kTwoPointProfile;
-  Port().board.paint_velocity_option(kTwoPointOption,
+  record.VelocityProfileType = variable ? kNoVelocity : kTwoPointVelocity;
+  Port().board.paint_velocity_option(kTwoPointForm,
                                      variable ? Status_Colour::Black : Status_Colour::Blue);
 }
 

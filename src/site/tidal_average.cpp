@@ -16,8 +16,7 @@ float Time(int point) { return static_cast<float>(point - 1) * kPatternStep; }
 float Velocity_At(const Pattern& pattern, float time) {
   for (int i = 1; i < kTidalRows; ++i) {
     if (Time(i) <= time && time < Time(i + 1)) {
-      return InterpolateLinear(Time(i), pattern[static_cast<std::size_t>(i)], Time(i + 1),
-                               pattern[static_cast<std::size_t>(i) + 1], time);
+      return InterpolateLinear(Time(i), pattern[i], Time(i + 1), pattern[i + 1], time);
     }
   }
   return 0;
@@ -40,7 +39,7 @@ double AverageOverInterval(const Pattern& pattern, const Tidal_Interval& interva
   std::vector<Entry> list = {{interval.start, Velocity_At(pattern, interval.start)}};
   for (int i = 2; i < kTidalRows; ++i) {
     if (interval.start < Time(i) && Time(i) < end) {
-      list.push_back({Time(i), pattern[static_cast<std::size_t>(i)]});
+      list.push_back({Time(i), pattern[i]});
     }
   }
   list.push_back({end, end > kPatternEnd ? pattern[kTidalRows] : Velocity_At(pattern, end)});

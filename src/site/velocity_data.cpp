@@ -13,17 +13,6 @@ namespace {
 
 constexpr double kSecondsPerHour = 3600;
 
-struct Form {
-  double type;
-  const char* name;
-};
-constexpr Form kForms[kVelocityForms] = {
-    {kSingleVelocity, "Single Depth Averaged Velocity"},
-    {kTwoPointVelocity, "2-Point Velocity Profile for a Constant Depth Grid"},
-    {kVelocityField, "Variable Velocity Field for Entire Grid"},
-    {kUnsteadyVelocity, "Unsteady Velocity for Single Depth (Tidal Velocity Profile)"},
-};
-
 /// Rows of F1Book1: X depth and velocity, Z depth and velocity of a point.
 constexpr double ProjectRecord::*kTwoPoints[2][4] = {
     {&ProjectRecord::VelXDepth1, &ProjectRecord::VelX1, &ProjectRecord::VelZDepth1,
@@ -109,8 +98,8 @@ void Save_Fields(const Velocity_Entry& entry, ProjectRecord& record) {
     const Velocity_Entry::Field& field = entry.fields[i];
     record.*kConstants[i] = field.Check3D2 ? Lenient_Number(field.Text2) : 0;
     for (int row = 1; row <= entry.rows; ++row) {
-      const auto x = static_cast<std::size_t>(row);
-      std::copy_n(field.F1Book2[x].begin() + 1, entry.columns, (record.*kFields[i])[x].begin() + 1);
+      std::copy_n(field.F1Book2[row].begin() + 1, entry.columns,
+                  (record.*kFields[i])[row].begin() + 1);
     }
   }
 }
@@ -130,18 +119,6 @@ void Save_Unsteady(const Velocity_Entry& entry, ProjectRecord& record) {
 }
 
 }  // namespace
-
-Velocity_Form Form_Of_Type(double type) {
-  if (type == kLogarithmicVelocity) return kSingleForm;
-  for (int form = 0; form < kVelocityForms; ++form) {
-    if (kForms[form].type == type) return static_cast<Velocity_Form>(form);
-  }
-  return kNoForm;
-}
-
-double Type_Of_Form(Velocity_Form form) { return form == kNoForm ? 0 : kForms[form].type; }
-
-const char* Name_Of_Form(Velocity_Form form) { return form == kNoForm ? "" : kForms[form].name; }
 
 Velocity_Entry ShowVelocityData(const ProjectRecord& record) {
   Velocity_Entry entry;
@@ -254,7 +231,7 @@ double Type_From_Wizard(const ProjectRecord& record) {
   if (record.WizardActive == kFalse || option < 0 || option >= kVelocityForms) {
     return record.VelocityProfileType;
   }
-  return kForms[option].type;
+  return Type_Of_Form(static_cast<Velocity_Form>(option));
 }
 
 std::string Duration_From_Wizard() {

@@ -4,27 +4,10 @@
 #include <string>
 
 #include "core/project_record.h"
+#include "core/velocity_types.h"
 #include "site/tidal_average.h"
 
 namespace barvon {
-
-/// VelocityProfileType, an integer in a real. Any other value is none of them: 0 stands after a
-/// variable depth grid has displaced a two-point profile.
-inline constexpr double kSingleVelocity = 1;
-inline constexpr double kLogarithmicVelocity = 2;
-inline constexpr double kTwoPointVelocity = 3;
-inline constexpr double kVelocityField = 4;
-inline constexpr double kUnsteadyVelocity = 5;
-
-/// The four forms of frmVelocity, by the index of option, frame and illustration.
-enum Velocity_Form { kNoForm = -1, kSingleForm = 0, kTwoPointForm, kFieldForm, kUnsteadyForm };
-inline constexpr int kVelocityForms = 4;
-
-/// The form that shows a type; kNoForm for none.
-Velocity_Form Form_Of_Type(double velocity_profile_type);
-/// The type that a click on the form's option sets, and the form's name.
-double Type_Of_Form(Velocity_Form form);
-const char* Name_Of_Form(Velocity_Form form);
 
 /// X runs from the top of the grid to its bottom, Z from left to right.
 enum Velocity_Direction { kAlongX = 0, kAlongZ = 1 };

@@ -2,6 +2,7 @@
 #include <QHBoxLayout>
 #include <vector>
 
+#include "core/velocity_types.h"
 #include "workspace/board_parts.h"
 #include "workspace/main_controls.h"
 
@@ -105,7 +106,7 @@ QGroupBox* With_Pictures(QGroupBox* frame, const std::vector<QWidget*>& lines, i
   grid->setVerticalSpacing(kLineGap);
   const int last = static_cast<int>(lines.size());
   for (int row = 0; row < last; ++row) {
-    grid->addWidget(lines[static_cast<std::size_t>(row)], row, 0, 1, row < last - beside ? 2 : 1);
+    grid->addWidget(lines[row], row, 0, 1, row < last - beside ? 2 : 1);
   }
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(kGap);
@@ -129,15 +130,15 @@ QGroupBox* Material(Main_Controls& controls) {
 }
 
 QGroupBox* Velocity(Main_Controls& controls) {
-  static constexpr const char* kProfiles[] = {
-      "Single Depth Averaged Velocity", "2-Point Velocity Profile For Constant Depth",
-      "Variable Velocity Field", "Unsteady Velocity Profile"};
-  for (int i = 0; i < 4; ++i) controls.Option3D1(i)->setText(QLatin1String(kProfiles[i]));
+  std::vector<QWidget*> lines;
+  for (int form = 0; form < kVelocityForms; ++form) {
+    controls.Option3D1(form)->setText(QLatin1String(Option_Of_Form(Velocity_Form(form))));
+    lines.push_back(controls.Option3D1(form));
+    if (form == kSingleForm) lines.push_back(controls.Check3D1);
+  }
   controls.Check3D1->setObjectName(QStringLiteral("Check3D1"));
   controls.Check3D1->setText(QStringLiteral("Use a Logarithmic Velocity Profile ?"));
-  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D14", "Velocity Data"),
-                       {controls.Option3D1(0), controls.Check3D1, controls.Option3D1(1),
-                        controls.Option3D1(2), controls.Option3D1(3)},
+  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D14", "Velocity Data"), lines,
                        2, {Picture_Button(controls.SSRibbon1(1), "velocity", "Velocity Data")});
 }
 

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 
 #include "core/desk/analysis_keys.h"
+#include "core/keys.h"
 #include "platform/qt/fields/option_paint.h"
 #include "workspace/option_groups.h"
 #include "workspace/option_logic.h"
@@ -33,7 +34,7 @@ void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) 
   }
   // KEY3 0 says nothing of the evaluation while there is no diffusion: the choice then stays for
   // the day on which diffusion is chosen again.
-  if (record.KEY3 != 0) Show_Option(controls.SSOption4, Evaluation_Option(record.KEY3));
+  if (record.KEY3 != kNoTracer) Show_Option(controls.SSOption4, Evaluation_Option(record.KEY3));
   controls.Label4(1)->clear();
 }
 

@@ -15,6 +15,7 @@
 #include "core/desk/settings_keys.h"
 #include "core/desk/text_prompt.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QToolBar>
 
+#include "core/velocity_types.h"
 #include "platform/qt/elided_label.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/latching_button.h"
@@ -55,7 +56,7 @@ struct Main_Controls {
         SSOption4(main, "SSOption4", 3),
         Label4(main, "Label4", 2),
         SSPanel5(main, "SSPanel5", 3),
-        Option3D1(main, "Option3D1", 4),
+        Option3D1(main, "Option3D1", kVelocityForms),
         Check3D1(new QCheckBox(main)),
         SSCheck4(new QCheckBox(main)),
         SiteLabel(main, "SiteLabel", 7),

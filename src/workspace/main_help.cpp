@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "core/desk/help_topics.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
 
 constexpr char kTopic[] = "HelpContextID";
-constexpr std::int16_t kBarge = 3;
 
 template <class T>
 void Set_Topic(const ControlArray<T>& controls, int topic) {

@@ -2,6 +2,8 @@
 
 #include "core/desk/screen_register.h"
 #include "core/desk/show_screen.h"
+#include "core/keys.h"
+#include "core/velocity_types.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/option_paint.h"
 #include "workspace/display_data.h"
@@ -12,13 +14,6 @@
 #include "workspace/summary_lines.h"
 
 namespace barvon {
-namespace {
-
-constexpr double kDilutionFileKind = 1;
-constexpr std::int16_t kDilutionKEY4 = 7;
-constexpr int kTwoPointProfile = 1;
-
-}  // namespace
 
 void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
@@ -47,8 +42,7 @@ void SSOption4_Click(Main_Controls& controls, ProjectRecord& record, int index) 
 void Option3D1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Show_Option(controls.Option3D1, index);
   Choose_Velocity(index, controls.Check3D1->isChecked(), record);
-  if (index == kTwoPointProfile && record.ConstantDepthFlag == 0 &&
-      Ask_To_Disable_Variable_Depth()) {
+  if (index == kTwoPointForm && record.ConstantDepthFlag == 0 && Ask_To_Disable_Variable_Depth()) {
     Show_Screen("frmDescription", record);
     return;
   }
@@ -96,8 +90,8 @@ void SSRibbon1_Click(Main_Controls& controls, ProjectRecord& record, int index) 
 }
 
 void SSRibbon2_Click(Main_Controls& controls, ProjectRecord& record) {
-  record.FileKind = kDilutionFileKind;
-  record.KEY4 = kDilutionKEY4;
+  record.FileKind = kDilutionKind;
+  record.KEY4 = kDilutionStudy;
   SetMenuAvailability(controls, Menu_Mode::Dilution);
   Open_Screen_Or_Tell("frmDilute2", true);
 }

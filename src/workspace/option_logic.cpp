@@ -3,39 +3,26 @@
 #include <utility>
 
 #include "core/desk/analysis_keys.h"
+#include "core/keys.h"
+#include "core/velocity_types.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {
 
-constexpr int kTypes = 3;
 constexpr int kMethods = 2;
-constexpr std::int16_t kKEY4[kTypes][kMethods] = {
-    // hopper, barge
-    {1, 2},  // general open water
-    {3, 4},  // Section 103, ocean sites
-    {5, 6},  // Section 404(b)(1), navigable waters
-};
-constexpr std::int16_t kMethodOfOption[kMethods] = {1, 3};
-constexpr double kProjectFileKind = 2;
+constexpr std::int16_t kMethodOfOption[kMethods] = {kHopper, kBarge};
 
 constexpr int kSimulations = 2;
-constexpr std::int16_t kKEY2[kSimulations] = {2, 0};  // descent and collapse; diffusion too
+constexpr std::int16_t kKEY2[kSimulations] = {kDescentAndCollapse, kDiffusion};
 constexpr int kEvaluations = 3;
-constexpr std::int16_t kKEY3[kTypes][kEvaluations] = {
-    // further testing, water quality, toxicity
-    {0, 1, 1},  // general: no diffusion of a tracer, or diffusion; it offers no third
-    {4, 2, 3},  // Section 103
-    {7, 5, 6},  // Section 404(b)(1)
-};
-constexpr std::int16_t kGeneral = 1;
 
 constexpr Evaluation_Captions kGeneralCaptions = {
     "No Diffusion of a Conservative Tracer", "Long-Term Diffusion of Conservative Tracer", nullptr};
 constexpr Evaluation_Captions kTierCaptions = {"Tier II, Determine Need for Further Testing",
                                                "Tier II, Compare Water Quality",
                                                " Tier III, Compare Toxicity Results"};
-constexpr const char* kSimulationHints[kTypes] = {
+constexpr const char* kSimulationHints[kAnalysisTypes] = {
     "Choose Diffusion Option for Transport of Solids Or Tracer in the Water Column",
     "Choose Diffusion Option for Initial Mixing Calculations for MPRSA 103 Water Column "
     "Evaluations.",
@@ -48,25 +35,21 @@ constexpr const char* kTierHints[kEvaluations] = {
     "Requires Predicted Concentration [mg/l] in Water Column Prior to Initial Mixing",
     "Results Expressed in % of Initial Water Column Concentration Prior to Initial Mixing"};
 
-constexpr int kVelocities = 4;
-constexpr double kVelocityTypes[kVelocities] = {1, 3, 4, 5};
-constexpr double kLogarithmic = 2;  // the first option with its check box
-
-bool Is_Type(std::int16_t analysis_type) { return analysis_type >= 1 && analysis_type <= kTypes; }
+std::int16_t Type_Of_Option(int option) { return static_cast<std::int16_t>(option + 1); }
 
 void Stop(const char* text) { Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Critical}); }
 
 }  // namespace
 
 std::optional<std::int16_t> KEY4_Value(int type, int method) {
-  if (type < 0 || type >= kTypes || method < 0 || method >= kMethods) return std::nullopt;
-  return kKEY4[type][method];
+  if (method < 0 || method >= kMethods) return std::nullopt;
+  return KEY4_Of(Type_Of_Option(type), kMethodOfOption[method]);
 }
 
 void Choose_Analysis_Type(int type, int method, ProjectRecord& record) {
-  record.AnalysisType = static_cast<std::int16_t>(type + 1);
+  record.AnalysisType = Type_Of_Option(type);
   if (const auto key4 = KEY4_Value(type, method)) record.KEY4 = *key4;
-  record.FileKind = kProjectFileKind;
+  record.FileKind = kProjectKind;
 }
 
 void Choose_Disposal_Method(int type, int method, ProjectRecord& record) {
@@ -76,7 +59,7 @@ void Choose_Disposal_Method(int type, int method, ProjectRecord& record) {
   record.PreviousDisposalMethod = record.DisposalMethod;
 }
 
-int Type_Option(std::int16_t key4) { return key4 >= 1 && key4 <= 6 ? (key4 - 1) / 2 : -1; }
+int Type_Option(std::int16_t key4) { return Analysis_Type_Of_KEY4(key4) - 1; }
 
 int Method_Option(std::int16_t disposal_method) {
   for (int option = 0; option < kMethods; ++option) {
@@ -86,11 +69,9 @@ int Method_Option(std::int16_t disposal_method) {
 }
 
 std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int16_t analysis_type) {
-  if (simulation == 0) return std::int16_t{0};
-  if (!Is_Type(analysis_type)) return std::nullopt;
-  const int last = analysis_type == kGeneral ? 1 : kEvaluations - 1;
-  const int index = evaluation >= 0 && evaluation < last ? evaluation : last;
-  return kKEY3[analysis_type - 1][index];
+  if (simulation == 0) return kNoTracer;
+  const int last = Evaluations_Of(analysis_type) - 1;
+  return KEY3_Of(analysis_type, evaluation >= 0 && evaluation < last ? evaluation : last);
 }
 
 void Follow_KEY3(int simulation, int evaluation, ProjectRecord& record) {
@@ -116,43 +97,32 @@ int Simulation_Option(std::int16_t key2) {
   return -1;
 }
 
-int Evaluation_Option(std::int16_t key3) {
-  for (const auto& row : kKEY3) {
-    for (int option = 0; option < kEvaluations; ++option) {
-      if (row[option] == key3) return option;
-    }
-  }
-  return -1;
-}
-
 const Evaluation_Captions& Evaluation_Captions_Of(std::int16_t analysis_type) {
-  return analysis_type == kGeneral ? kGeneralCaptions : kTierCaptions;
+  return analysis_type == kOpenWater ? kGeneralCaptions : kTierCaptions;
 }
 
 std::optional<const char*> Simulation_Hint(std::int16_t analysis_type) {
-  if (!Is_Type(analysis_type)) return std::nullopt;
+  if (!Is_Analysis_Type(analysis_type)) return std::nullopt;
   return kSimulationHints[analysis_type - 1];
 }
 
 const char* Evaluation_Hint(int evaluation, std::int16_t analysis_type) {
   if (evaluation < 0 || evaluation >= kEvaluations) return "";
-  return (analysis_type == kGeneral ? kGeneralHints : kTierHints)[evaluation];
+  return (analysis_type == kOpenWater ? kGeneralHints : kTierHints)[evaluation];
 }
 
 void Choose_Velocity(int option, bool logarithmic, ProjectRecord& record) {
-  record.VelocityProfileType = option == 0 && logarithmic ? kLogarithmic : kVelocityTypes[option];
+  record.VelocityProfileType = option == kSingleForm && logarithmic
+                                   ? kLogarithmicVelocity
+                                   : Type_Of_Form(static_cast<Velocity_Form>(option));
 }
 
 void Choose_Logarithmic(bool logarithmic, ProjectRecord& record) {
-  record.VelocityProfileType = logarithmic ? kLogarithmic : kVelocityTypes[0];
+  record.VelocityProfileType = logarithmic ? kLogarithmicVelocity : kSingleVelocity;
 }
 
 Velocity_Choice Velocity_Choice_Of(double velocity_profile_type) {
-  if (velocity_profile_type == kLogarithmic) return {0, true};
-  for (int option = 0; option < kVelocities; ++option) {
-    if (kVelocityTypes[option] == velocity_profile_type) return {option, false};
-  }
-  return {};
+  return {Form_Of_Type(velocity_profile_type), velocity_profile_type == kLogarithmicVelocity};
 }
 
 bool Ask_To_Disable_Variable_Depth() {
@@ -162,7 +132,7 @@ bool Ask_To_Disable_Variable_Depth() {
 }
 
 Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record) {
-  if (record.KEY2 != 0) {
+  if (record.KEY2 != kDiffusion) {
     Stop("Diffusion Option Not Specified.  No Water Quality Calculations Will Be Conducted");
     return Evaluation_Entry::No_Diffusion;
   }
@@ -170,7 +140,7 @@ Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record) {
     Stop("Please Specify Evaluation Type");
     return Evaluation_Entry::No_Evaluation;
   }
-  if (record.KEY3 == 0) {
+  if (record.KEY3 == kNoTracer) {
     Stop("No Long Term Tracer Computations Will Be Carried Out");
     return Evaluation_Entry::No_Tracer_Evaluated;
   }

@@ -52,8 +52,6 @@ void Choose_Simulation_Type(int simulation, ProjectRecord& record);
 
 /// The option that shows KEY2: 0 descent and collapse, 1 diffusion too, -1 for any other value.
 int Simulation_Option(std::int16_t key2);
-/// The option that shows KEY3: 0 to 2, or -1.
-int Evaluation_Option(std::int16_t key3);
 
 /// How the evaluation group reads for a type of analysis. An option without a caption is hidden
 /// and keeps the one that it has.
@@ -83,9 +81,9 @@ bool Ask_To_Disable_Variable_Depth();
 /// What keeps "Enter/Edit Evaluation" from its screen.
 enum class Evaluation_Entry {
   Open,                // nothing
-  No_Diffusion,        // KEY2 is not 0
+  No_Diffusion,        // diffusion is not computed
   No_Evaluation,       // none of the options is set
-  No_Tracer_Evaluated  // KEY3 is 0
+  No_Tracer_Evaluated  // no evaluation is made
 };
 /// Tells the user what stands in the way.
 Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record);

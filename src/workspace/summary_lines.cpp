@@ -1,6 +1,7 @@
 #include "workspace/summary_lines.h"
 
 #include "core/format_pattern.h"
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
@@ -33,8 +34,8 @@ void Compose_Output(const ProjectRecord& record, Summary_Lines& lines) {
 
 void Compose_Material(const ProjectRecord& record, Summary_Lines& lines) {
   lines.shows_moisture = record.JBFCFlag == 1;
-  const bool hopper = record.DisposalMethod == 1;
-  if (!hopper && record.DisposalMethod != 3) return;
+  if (!Has_Vessel(record)) return;
+  const bool hopper = record.DisposalMethod == kHopper;
   const std::string water = "Dredging Site Water Density: ";
   lines.Matlabel3 =
       hopper ? "Volume of Dredged Material: " + Format_Number(record.TotalVolume, "###.0") +
@@ -51,7 +52,7 @@ void Compose_Material(const ProjectRecord& record, Summary_Lines& lines) {
 void Compose_Operation(const ProjectRecord& record, Summary_Lines& lines) {
   lines.SSCheck3 = record.XHOLE > 0 || record.ZHOLE > 0;
   lines.Label6[0] =
-      record.DisposalMethod == 3 ? "Vessel Type: Barge or Scow" : "Vessel Type: Hopper Dredge";
+      record.DisposalMethod == kBarge ? "Vessel Type: Barge or Scow" : "Vessel Type: Hopper Dredge";
   lines.Label6[1] = "Location From Top: " + Format_Number(record.XBARGE, "####.0") + " Ft";
   lines.Label6[2] = "Location From Left: " + Format_Number(record.ZBARGE, "####.0") + " Ft";
 }

@@ -193,12 +193,13 @@ TEST_F(ErrorListScreen, A_List_In_View_That_Is_Asked_For_Blocking_Blocks) {
   EXPECT_FALSE(List().isVisible());
 }
 
-TEST_F(ErrorListScreen, Every_Finding_Leads_To_The_Screen_And_Control_That_Mend_It) {
+TEST_F(ErrorListScreen, Every_Finding_Leads_To_The_Screen_And_Control_Of_Its_Reference) {
   using Change = void (*)(ProjectRecord&);
   const std::pair<Change, Opened> findings[] = {
       {[](ProjectRecord& r) { r.NMAX0 = 97; }, {"frmDescription", false, "Text1(0)"}},
       {[](ProjectRecord& r) { r.MMAX0 = 97; }, {"frmDescription", false, "Text1(1)"}},
-      // A negative spacing moves the edges of the grid as well; its own finding is the first.
+      // A negative spacing moves the edges of the grid as well; its own finding is the first, and
+      // leads to the field behind its own.
       {[](ProjectRecord& r) { r.DZ0 = -20; }, {"frmDescription", false, "Text1(3)"}},
       {[](ProjectRecord& r) { r.DX0 = -10; }, {"frmDescription", false, "Text1(4)"}},
       {[](ProjectRecord& r) { r.RHDA0 = 0.06; }, {"frmDescription", false, "Text1(5)"}},

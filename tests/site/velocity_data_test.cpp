@@ -29,29 +29,6 @@ class VelocityData : public ::testing::Test {
 using Texts3 = std::array<std::string, 3>;
 using Texts5 = std::array<std::string, 5>;
 
-TEST_F(VelocityData, Each_Type_Has_Its_Form) {
-  EXPECT_EQ(Form_Of_Type(1), kSingleForm);
-  EXPECT_EQ(Form_Of_Type(2), kSingleForm);
-  EXPECT_EQ(Form_Of_Type(3), kTwoPointForm);
-  EXPECT_EQ(Form_Of_Type(4), kFieldForm);
-  EXPECT_EQ(Form_Of_Type(5), kUnsteadyForm);
-  for (const double none : {0.0, -1.0, 6.0, 2.5}) EXPECT_EQ(Form_Of_Type(none), kNoForm);
-}
-
-TEST_F(VelocityData, Each_Form_Has_Its_Type_And_Name) {
-  const struct {
-    double type;
-    const char* name;
-  } forms[] = {{1, "Single Depth Averaged Velocity"},
-               {3, "2-Point Velocity Profile for a Constant Depth Grid"},
-               {4, "Variable Velocity Field for Entire Grid"},
-               {5, "Unsteady Velocity for Single Depth (Tidal Velocity Profile)"}};
-  for (int form = 0; form < kVelocityForms; ++form) {
-    EXPECT_EQ(Type_Of_Form(static_cast<Velocity_Form>(form)), forms[form].type);
-    EXPECT_STREQ(Name_Of_Form(static_cast<Velocity_Form>(form)), forms[form].name);
-  }
-}
-
 TEST_F(VelocityData, A_Single_Velocity_Is_Shown_With_One_Decimal) {
   record.AvgVelocityDepth = 60;
   record.AvgVelocityX = 0.25;

@@ -98,13 +98,6 @@ TEST(OptionLogic, A_Type_Without_Evaluations_Leaves_KEY3) {
   }
 }
 
-TEST(OptionLogic, KEY3_Shows_As_Its_Evaluation) {
-  const int shown[] = {0, 1, 1, 2, 0, 1, 2, 0};
-  for (std::int16_t key3 = 0; key3 <= 7; ++key3) EXPECT_EQ(Evaluation_Option(key3), shown[key3]);
-  EXPECT_EQ(Evaluation_Option(8), -1);
-  EXPECT_EQ(Evaluation_Option(-1), -1);
-}
-
 TEST(OptionLogic, A_Simulation_Without_Diffusion_Has_No_Contaminant) {
   auto record = std::make_unique<ProjectRecord>();
   record->TracerConcentration = 5;

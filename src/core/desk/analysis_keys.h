@@ -1,19 +1,8 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-
 #include "core/project_record.h"
 
 namespace barvon {
-
-/// AnalysisType that KEY4 stands for: 1 for 1 and 2, 2 for 3 and 4, 3 for 5 and 6; 0 when KEY4
-/// chooses none.
-std::int16_t Analysis_Type_Of_KEY4(std::int16_t key4);
-
-/// KEY4 that evaluation and method stand for: 1 and 2 for KEY3 0 and 1, 3 and 4 for 2 to 4, 5 and 6
-/// for 5 to 7, hopper first. Nothing for any other KEY3 or method.
-std::optional<std::int16_t> KEY4_Of_Evaluation(std::int16_t key3, std::int16_t disposal_method);
 
 /// What showing a project does to its record, in the window and in the console program alike:
 /// LegacyKeyRebuild makes KEY4 follow KEY3 and the method, AnalysisType and FileKind follow a KEY4

@@ -1,6 +1,7 @@
 #include "core/desk/file_dialogs.h"
 
 #include "core/desk/file_kinds.h"
+#include "core/keys.h"
 #include "core/text_tools.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/files/paths.h"

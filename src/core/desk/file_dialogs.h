@@ -7,16 +7,13 @@
 
 namespace barvon {
 
-inline constexpr int kDilutionKind = 1;
-inline constexpr int kProjectKind = 2;
-
-/// Shows the open dialog: dilution files for kind 1, projects and outputs otherwise. Nothing on
-/// Cancel.
+/// Shows the open dialog: dilution files for kDilutionKind, projects and outputs otherwise. Nothing
+/// on Cancel.
 std::optional<std::string> Ask_File_To_Open(double kind);
 
 /// Shows the save dialog with `name` offered; a project is never offered a dilution file's name.
-/// A name whose fourth character from its end is not a dot gets ".DUD" (kind 1) or ".DUI" added.
-/// Nothing on Cancel.
+/// A name whose fourth character from its end is not a dot gets ".DUD" (kDilutionKind) or ".DUI"
+/// added. Nothing on Cancel.
 std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind);
 
 /// The extension rule of the save dialog by itself. Only the file's own name counts, not the

@@ -7,6 +7,7 @@
 #include "core/desk/file_kinds.h"
 #include "core/desk/reset_vars.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "core/project_defaults.h"
 #include "core/project_file/project_reader.h"
 #include "platform/ask/busy_cursor.h"

@@ -11,6 +11,7 @@
 #include "core/desk/recent_files.h"
 #include "core/desk/workspace_port.h"
 #include "core/failure.h"
+#include "core/keys.h"
 #include "core/model_input/model_input.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"

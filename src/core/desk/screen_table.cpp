@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include "core/keys.h"
+
 namespace barvon {
 
 const Screen_Row* Find_Screen(std::string_view name) {
@@ -16,9 +18,9 @@ bool Serves_Vessel(const Screen_Row& row, const ProjectRecord& record) {
     case Vessel::Any:
       return true;
     case Vessel::Hopper:
-      return record.DisposalMethod == 1 || record.DisposalMethod == 2;
+      return record.DisposalMethod == kHopper || record.DisposalMethod == kContinuous;
     case Vessel::Barge:
-      return record.DisposalMethod == 3;
+      return record.DisposalMethod == kBarge;
   }
   return false;
 }

@@ -5,6 +5,7 @@
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {

@@ -1,8 +1,10 @@
 #include "core/model_input/model_continuous.h"
 
 #include "core/checked_entry.h"
+#include "core/keys.h"
 #include "core/model_input/model_text.h"
 #include "core/text_tools.h"
+#include "core/velocity_types.h"
 
 // Reading notes for this section, which no solver of ours has read yet:
 // - Its patterns do not pad, so a 0 in an integer pattern leaves nothing, and the values of a line
@@ -43,7 +45,7 @@ void Put_Head(Model_Text& lines, const ProjectRecord& record) {
   lines.End_Line();
   lines.Formatted_Line(kInteger, record.NMAX0, record.MMAX0, record.NumSolids);
   lines.Formatted_Line(kInteger, record.KEY1, record.KEY2, record.KEY3);
-  if (record.KEY3 >= 2) {
+  if (Is_Regulatory(record)) {
     lines.Formatted_Line(kInteger, record.SiteGridTop, record.SiteGridBottom, record.SiteGridLeft,
                          record.SiteGridRight);
   }
@@ -108,14 +110,14 @@ void Put_Densities(Model_Text& lines, const ProjectRecord& record) {
 
 void Put_Velocities(Model_Text& lines, const ProjectRecord& record) {
   lines.Formatted(kInteger, record.VelocityProfileType);
-  if (record.VelocityProfileType == 3) {
+  if (record.VelocityProfileType == kTwoPointVelocity) {
     lines.Formatted(kLength, record.VelXDepth1, record.VelXDepth2);
     lines.Formatted(kGridVelocity, record.VelX1, record.VelX2);
     lines.Formatted(kLength, record.VelZDepth1, record.VelZDepth2);
     lines.Formatted(kGridVelocity, record.VelZ1, record.VelZ2);
   }
   lines.End_Line();
-  if (record.VelocityProfileType == 4) {
+  if (record.VelocityProfileType == kVelocityField) {
     Put_Grid(lines, record, record.VelocityFieldX, kGridVelocity);
     Put_Grid(lines, record, record.VelocityFieldZ, kGridVelocity);
   }
@@ -132,8 +134,8 @@ void Put_Print_Times(Model_Text& lines, const ProjectRecord& record) {
 /// The two steps are taken one after the other: a still vessel's KEY2 of 0 is 1 after one writing
 /// and 2 after the next.
 void Adjust_Keys(ProjectRecord& record) {
-  if (record.KEY2 == 1) record.KEY2 = 2;
-  if (record.KEY2 != 2 && record.VesselSpeed == 0) record.KEY2 = 1;
+  if (record.KEY2 == kStillVessel) record.KEY2 = kDescentAndCollapse;
+  if (record.KEY2 != kDescentAndCollapse && record.VesselSpeed == 0) record.KEY2 = kStillVessel;
   record.ContinuousTimeStart = 0;
 }
 

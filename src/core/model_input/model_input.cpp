@@ -5,6 +5,7 @@
 
 #include "core/checked_entry.h"
 #include "core/fluid_concentration.h"
+#include "core/keys.h"
 #include "core/model_input/model_continuous.h"
 #include "core/model_input/model_sections.h"
 #include "core/number_text.h"
@@ -16,16 +17,12 @@
 namespace barvon {
 namespace {
 
-constexpr int kHopper = 1;
-constexpr int kContinuous = 2;
-constexpr int kBarge = 3;
-
 void Demand(Failure failure) {
   if (failure != Failure::None) throw Run_Time_Failure{failure};
 }
 
 void Derive_Concentrations(ProjectRecord& record) {
-  if (record.KEY3 != 4 && record.KEY3 != 7) return;
+  if (!Contaminant_Is_In_The_Sediment(record)) return;
   Demand(Sediment_Tracer_Concentration(record, record.TracerConcentration));
   double& fluid = record.FluidComputedConcentration;
   if (record.LAYERS > 1 && record.DisposalMethod == kBarge) {
@@ -38,7 +35,7 @@ void Derive_Concentrations(ProjectRecord& record) {
 
 void Derive_Tracer_Flags(ProjectRecord& record) {
   for (int i = 1; i <= record.NumSolids; ++i) {
-    Entry(record.SolidTracerFlag, i) = record.KEY3 > 1 ? 1 : 0;
+    Entry(record.SolidTracerFlag, i) = Is_Regulatory(record) ? 1 : 0;
   }
 }
 
@@ -91,7 +88,7 @@ void Derive_Site_Indices(ProjectRecord& record) {
       record, {record.SiteTop, record.SiteBottom, record.SiteLeft, record.SiteRight},
       {record.SiteGridTop, record.SiteGridBottom, record.SiteGridLeft, record.SiteGridRight},
       Least_Far_Corner::Two_From_The_Near_One);
-  if (record.KEY3 > 4 && record.ZidFlag == 1 && record.DisposalMethod != kContinuous) {
+  if (Has_Zid(record) && record.DisposalMethod != kContinuous) {
     Derive_Indices(
         record, {record.ZidTop, record.ZidBottom, record.ZidLeft, record.ZidRight},
         {record.ZidGridTop, record.ZidGridBottom, record.ZidGridLeft, record.ZidGridRight},

@@ -1,9 +1,11 @@
 #include "core/model_input/model_sections.h"
 
 #include "core/checked_entry.h"
+#include "core/keys.h"
 #include "core/model_input/model_text.h"
 #include "core/model_input/vessel_footprint.h"
 #include "core/text_tools.h"
+#include "core/velocity_types.h"
 
 namespace barvon {
 namespace {
@@ -16,14 +18,12 @@ constexpr std::size_t kNameWidth = 10;
 constexpr int kGridValuesToALine = 10;
 constexpr int kPrintTimesToALine = 8;
 
-bool Has_Zid_Lines(const ProjectRecord& record) { return record.KEY3 > 4 && record.ZidFlag == 1; }
-
 void Put_Site(Model_Text& lines, const ProjectRecord& record) {
   lines.Number_Line(kIntegerWidth, record.SiteGridTop, record.SiteGridBottom, record.SiteGridLeft,
                     record.SiteGridRight);
   lines.Number_Line(kRealWidth, record.SiteTop, record.SiteBottom, record.SiteLeft,
                     record.SiteRight);
-  if (!Has_Zid_Lines(record)) return;
+  if (!Has_Zid(record)) return;
   lines.Number_Line(kIntegerWidth, record.ZidGridTop, record.ZidGridBottom, record.ZidGridLeft,
                     record.ZidGridRight);
   lines.Number_Line(kRealWidth, record.ZidTop, record.ZidBottom, record.ZidLeft, record.ZidRight);
@@ -71,23 +71,23 @@ void Put_Densities(Model_Text& lines, const ProjectRecord& record) {
 
 void Put_Velocities(Model_Text& lines, ProjectRecord& record) {
   lines.Number_Line(kIntegerWidth, record.VelocityProfileType);
-  if (record.VelocityProfileType == 4) {
+  if (record.VelocityProfileType == kVelocityField) {
     Put_Grid(lines, record, record.VelocityFieldX, kVelocityWidth);
     Put_Grid(lines, record, record.VelocityFieldZ, kVelocityWidth);
     return;
   }
-  if (record.VelocityProfileType == 3) {
+  if (record.VelocityProfileType == kTwoPointVelocity) {
     lines.Number_Line(kRealWidth, record.VelXDepth1, record.VelXDepth2, record.VelX1, record.VelX2,
                       record.VelZDepth1, record.VelZDepth2, record.VelZ1, record.VelZ2);
     return;
   }
-  if (record.VelocityProfileType == 5) {
+  if (record.VelocityProfileType == kUnsteadyVelocity) {
     // The solver knows no tidal profile: it gets the average, and so does every later run, since
     // the type stays 1. The line above has shown 5.
     record.AvgVelocityX = Widen(record.TidalAvgVelX);
     record.AvgVelocityZ = Widen(record.TidalAvgVelZ);
     record.AvgVelocityDepth = Widen(record.TidalDepth);
-    record.VelocityProfileType = 1;
+    record.VelocityProfileType = kSingleVelocity;
   }
   lines.Number_Line(kRealWidth, record.AvgVelocityX, record.AvgVelocityZ, record.AvgVelocityDepth);
 }
@@ -130,27 +130,27 @@ void Put_Hopper_Fluid(Model_Text& lines, const ProjectRecord& record) {
   const double criterion = record.CriterionConcentration;
   Put_Fluid_Head(lines, record);
   switch (record.KEY3) {
-    case 0:
-    case 1:
+    case kNoTracer:
+    case kTracer:
       lines.Numbers(kRealWidth, tracer, background);
       break;
-    case 2:
+    case kOceanWaterQuality:
       lines.Numbers(kRealWidth, tracer, background, criterion);
       break;
-    case 3:
+    case kOceanToxicity:
       lines.Numbers(kRealWidth, 0, 0, record.ToxicityDilution);
       break;
-    case 4:
+    case kOceanFurtherTesting:
       Put_Fluid_Computed(lines, record);
       lines.Numbers(kRealWidth, background, sediment, record.ZidToxicityDilution);
       break;
-    case 5:
+    case kNavigableWaterQuality:
       lines.Numbers(kRealWidth, tracer, background, criterion, record.ZidToxicityDilution);
       break;
-    case 6:
+    case kNavigableToxicity:
       lines.Numbers(kRealWidth, 0, 0, record.ToxicityDilution, record.ZidToxicityDilution);
       break;
-    case 7:
+    case kNavigableFurtherTesting:
       Put_Fluid_Computed(lines, record);
       lines.Numbers(kRealWidth, background, sediment, criterion, record.ZCRIT);
       break;
@@ -165,29 +165,29 @@ void Put_Barge_Fluid(Model_Text& lines, const ProjectRecord& record) {
   const double sediment = record.SedimentConcentration;
   const double criterion = record.CriterionConcentration;
   Put_Fluid_Head(lines, record);
-  if (record.KEY3 == 4 || record.KEY3 == 7) {
+  if (Contaminant_Is_In_The_Sediment(record)) {
     Put_Fluid_Computed(lines, record);
   } else {
     lines.Numbers(kRealWidth, record.TracerConcentration);
   }
   lines.Numbers(kRealWidth, record.BackgroundConcentration);
   switch (record.KEY3) {
-    case 2:
+    case kOceanWaterQuality:
       lines.Numbers(kRealWidth, criterion);
       break;
-    case 3:
+    case kOceanToxicity:
       lines.Numbers(kRealWidth, record.ToxicityDilution);
       break;
-    case 4:
+    case kOceanFurtherTesting:
       lines.Numbers(kRealWidth, sediment, record.ZidToxicityDilution);
       break;
-    case 5:
+    case kNavigableWaterQuality:
       lines.Numbers(kRealWidth, criterion, record.ZidToxicityDilution);
       break;
-    case 6:
+    case kNavigableToxicity:
       lines.Numbers(kRealWidth, record.ToxicityDilution, record.ZidToxicityDilution);
       break;
-    case 7:
+    case kNavigableFurtherTesting:
       lines.Numbers(kRealWidth, sediment, criterion, record.ZCRIT);
       break;
     default:

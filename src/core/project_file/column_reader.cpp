@@ -163,9 +163,8 @@ class Column_Reader {
     for (const auto& [first_slot, last_slot] : kIntLines) {
       const std::string_view line = Next_Line();
       for (int slot = first_slot; slot <= last_slot; ++slot) {
-        Take_Column(
-            {Part::IntSlots, slot, 0},
-            Columns(line, static_cast<std::size_t>(slot - first_slot) * kIntWidth, kIntWidth));
+        Take_Column({Part::IntSlots, slot, 0},
+                    Columns(line, (slot - first_slot) * kIntWidth, kIntWidth));
       }
     }
   }
@@ -197,7 +196,7 @@ class Column_Reader {
     const std::string_view flags = Next_Line();
     for (int i = 1; i <= static_cast<int>(kFlagCount); ++i) {
       const Image_Number number{Part::Flags, i, 0};
-      const std::string_view letter = Columns(flags, static_cast<std::size_t>(i) - 1, 1);
+      const std::string_view letter = Columns(flags, i - 1, 1);
       // A missing character reads as 0, like every field that a line is too short for.
       const bool clear = letter.empty() || letter == "F";
       Number_In(result_.image, number) = clear ? kFalse : letter == "T" ? kTrue : kOtherFlag;
@@ -228,14 +227,12 @@ class Column_Reader {
   }
 
   void Read_Tail() {
-    Read_Tail_Statement({{Part::TidalHeader, 1, 0},
-                         {Part::TidalHeader, 2, 0},
-                         {Part::TidalHeader, 3, 0},
-                         {Part::TidalHeader, 4, 0}});
+    Read_Tail_Statement(
+        {{Part::TidalStart}, {Part::TidalDepth}, {Part::TidalAverageX}, {Part::TidalAverageZ}});
     for (int i = 1; i <= kTidalRows; ++i) {
-      Read_Tail_Statement({{Part::TidalX, i, 0}, {Part::TidalZ, i, 0}});
+      Read_Tail_Statement({{Part::Tide, i, 1}, {Part::Tide, i, 2}});
     }
-    Read_Tail_Statement({{Part::Key4, 0, 0}});
+    Read_Tail_Statement({{Part::Key4}});
   }
 
   Text_Source source_;

@@ -54,9 +54,10 @@ void Write_Velocity_Field(const Grid& field, std::string& text) {
 }
 
 void Write_Tail(const Project_Image& image, std::string& text) {
-  for (int i = 1; i <= 4; ++i) {
-    if (i > 1) text += kFiveBlanks;
-    text += Pattern_Of_Narrow(image.TidalHeader[i], "####.00");
+  text += Pattern_Of_Narrow(image.TidalStartTime, "####.00");
+  for (const double value : {image.TidalDepth, image.TidalAvgVelX, image.TidalAvgVelZ}) {
+    text += kFiveBlanks;
+    text += Pattern_Of_Narrow(value, "####.00");
   }
   text += kLineEnd;
   for (int i = 1; i <= kTidalRows; ++i) {

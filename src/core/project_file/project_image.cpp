@@ -1,6 +1,10 @@
 #include "core/project_file/project_image.h"
 
 #include <algorithm>
+#include <array>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 
 #include "core/number_text.h"
 #include "core/project_file/value_slots.h"
@@ -10,69 +14,93 @@ namespace {
 
 using Part = Image_Number::Part;
 
-constexpr std::size_t kFlags = 18;
-constexpr std::size_t kGridNumbers = std::size_t{kMaxGridPoints} * kMaxGridPoints;
-constexpr std::size_t kTidalHeaderNumbers = 4;
+/// The numbers of one part: one, a row of them by one subscript, or rows with columns by two.
+struct Run {
+  Part part;
+  std::array<const char*, 2> names;  // the second where the second column has a name of its own
+  int rows;                          // 0 for a single number
+  int columns;                       // 0 for a run with one subscript
+  bool narrow;                       // 32-bit in the record
+  double& (*number)(Project_Image&, int, int);
+};
 
-// Where each part starts in the file's order of numbers.
-constexpr std::size_t kIntStart = 0;
-constexpr std::size_t kRealStart = kIntStart + kIntSlots;
-constexpr std::size_t kFlagStart = kRealStart + kFullFileRealSlots;
-constexpr std::size_t kFieldXStart = kFlagStart + kFlags;
-constexpr std::size_t kFieldZStart = kFieldXStart + kGridNumbers;
-constexpr std::size_t kTidalHeaderStart = kFieldZStart + kGridNumbers;
-constexpr std::size_t kTidalStart = kTidalHeaderStart + kTidalHeaderNumbers;
-constexpr std::size_t kKey4Start = kTidalStart + 2 * std::size_t{kTidalRows};
+template <auto Member>
+double& Number_Of(Project_Image& image, [[maybe_unused]] int first, [[maybe_unused]] int second) {
+  auto& field = image.*Member;
+  using Field = std::remove_cvref_t<decltype(field)>;
+  if constexpr (std::is_same_v<Field, double>) {
+    return field;
+  } else if constexpr (std::is_same_v<typename Field::value_type, double>) {
+    return field.at(first);
+  } else {
+    return field.at(first).at(second);
+  }
+}
 
-const OneBased<const char*, 4> kTidalHeaderNames = {"", "TidalStartTime", "TidalDepth",
-                                                    "TidalAvgVelX", "TidalAvgVelZ"};
+template <class Array>
+constexpr int kLast = static_cast<int>(std::tuple_size_v<Array>) - 1;  // index 0 is unused
+template <>
+constexpr int kLast<double> = 0;
+
+enum Width { kWide, kNarrow };
+
+template <auto Member>
+constexpr Run Run_Of(Part part, const char* name, Width width, const char* second_name = nullptr) {
+  using Field = std::remove_cvref_t<decltype(std::declval<Project_Image&>().*Member)>;
+  Run run{part, {name, second_name}, kLast<Field>, 0, width == kNarrow, &Number_Of<Member>};
+  if constexpr (!std::is_same_v<Field, double>) run.columns = kLast<typename Field::value_type>;
+  return run;
+}
+
+/// The numbers of a full file, in its order. What the member holds says how many they are.
+constexpr auto kRuns = std::to_array<Run>({
+    Run_Of<&Project_Image::IntSlots>(Part::IntSlots, "IntSlots", kWide),
+    Run_Of<&Project_Image::RealSlots>(Part::RealSlots, "RealSlots", kWide),
+    Run_Of<&Project_Image::SectionFlags>(Part::Flags, "SectionFlags", kWide),
+    Run_Of<&Project_Image::VelocityFieldX>(Part::FieldX, "VelocityFieldX", kWide),
+    Run_Of<&Project_Image::VelocityFieldZ>(Part::FieldZ, "VelocityFieldZ", kWide),
+    Run_Of<&Project_Image::TidalStartTime>(Part::TidalStart, "TidalStartTime", kNarrow),
+    Run_Of<&Project_Image::TidalDepth>(Part::TidalDepth, "TidalDepth", kNarrow),
+    Run_Of<&Project_Image::TidalAvgVelX>(Part::TidalAverageX, "TidalAvgVelX", kNarrow),
+    Run_Of<&Project_Image::TidalAvgVelZ>(Part::TidalAverageZ, "TidalAvgVelZ", kNarrow),
+    Run_Of<&Project_Image::TidalTable>(Part::Tide, "TidalVelX", kNarrow, "TidalVelZ"),
+    Run_Of<&Project_Image::KEY4>(Part::Key4, "KEY4", kWide),
+});
+
+constexpr std::size_t Place_Of(Part part) { return static_cast<std::size_t>(part); }
+
+constexpr bool Follow_The_Parts() {
+  for (std::size_t i = 0; i < kRuns.size(); ++i) {
+    if (Place_Of(kRuns[i].part) != i) return false;
+  }
+  return kRuns.size() == Place_Of(Part::Key4) + 1;
+}
+static_assert(Follow_The_Parts(), "a run for every part, in the order of the parts");
+
+/// Where each run starts in the file's order of numbers, and behind the last one their count.
+constexpr auto kStarts = [] {
+  std::array<std::size_t, kRuns.size() + 1> starts{};
+  for (std::size_t i = 0; i < kRuns.size(); ++i) {
+    starts[i + 1] = starts[i] + std::max(kRuns[i].rows, 1) * std::max(kRuns[i].columns, 1);
+  }
+  return starts;
+}();
+
+constexpr std::size_t kTailStart = kStarts[Place_Of(Part::TidalStart)];
+
+const Run& Run_Of_Number(const Image_Number& number) { return kRuns[Place_Of(number.part)]; }
 
 std::vector<Image_Number> All_Numbers() {
   std::vector<Image_Number> numbers;
-  for (int i = 1; i <= kIntSlots; ++i) numbers.push_back({Part::IntSlots, i, 0});
-  for (int i = 1; i <= kFullFileRealSlots; ++i) numbers.push_back({Part::RealSlots, i, 0});
-  for (int i = 1; i <= static_cast<int>(kFlags); ++i) numbers.push_back({Part::Flags, i, 0});
-  for (const Part field : {Part::FieldX, Part::FieldZ}) {
-    for (int a = 1; a <= kMaxGridPoints; ++a) {
-      for (int b = 1; b <= kMaxGridPoints; ++b) numbers.push_back({field, a, b});
+  numbers.reserve(kStarts.back());
+  for (const Run& run : kRuns) {
+    for (int i = run.rows == 0 ? 0 : 1; i <= run.rows; ++i) {
+      for (int j = run.columns == 0 ? 0 : 1; j <= run.columns; ++j) {
+        numbers.push_back({run.part, i, j});
+      }
     }
   }
-  for (int i = 1; i <= static_cast<int>(kTidalHeaderNumbers); ++i) {
-    numbers.push_back({Part::TidalHeader, i, 0});
-  }
-  for (int i = 1; i <= kTidalRows; ++i) {
-    numbers.push_back({Part::TidalX, i, 0});
-    numbers.push_back({Part::TidalZ, i, 0});
-  }
-  numbers.push_back({Part::Key4, 0, 0});
   return numbers;
-}
-
-template <class Image>
-auto& Find_Number(Image& image, const Image_Number& number) {
-  const auto first = static_cast<std::size_t>(number.first);
-  const auto second = static_cast<std::size_t>(number.second);
-  switch (number.part) {
-    case Part::IntSlots:
-      return image.IntSlots.at(first);
-    case Part::RealSlots:
-      return image.RealSlots.at(first);
-    case Part::Flags:
-      return image.SectionFlags.at(first);
-    case Part::FieldX:
-      return image.VelocityFieldX.at(first).at(second);
-    case Part::FieldZ:
-      return image.VelocityFieldZ.at(first).at(second);
-    case Part::TidalHeader:
-      return image.TidalHeader.at(first);
-    case Part::TidalX:
-      return image.TidalTable.at(first)[1];
-    case Part::TidalZ:
-      return image.TidalTable.at(first)[2];
-    case Part::Key4:
-      break;
-  }
-  return image.KEY4;
 }
 
 /// Sets a field that keeps what it had when the file gave nothing for it.
@@ -101,79 +129,40 @@ const std::vector<Image_Number>& Image_Numbers() {
 }
 
 std::string Name_Of_Number(const Image_Number& number) {
-  const std::string subscript = "(" + std::to_string(number.first) + ")";
-  const std::string subscripts =
-      "(" + std::to_string(number.first) + "," + std::to_string(number.second) + ")";
-  switch (number.part) {
-    case Part::IntSlots:
-      return "IntSlots" + subscript;
-    case Part::RealSlots:
-      return "RealSlots" + subscript;
-    case Part::Flags:
-      return "SectionFlags" + subscript;
-    case Part::FieldX:
-      return "VelocityFieldX" + subscripts;
-    case Part::FieldZ:
-      return "VelocityFieldZ" + subscripts;
-    case Part::TidalHeader:
-      return kTidalHeaderNames.at(static_cast<std::size_t>(number.first));
-    case Part::TidalX:
-      return "TidalVelX" + subscript;
-    case Part::TidalZ:
-      return "TidalVelZ" + subscript;
-    case Part::Key4:
-      break;
-  }
-  return "KEY4";
+  const Run& run = Run_Of_Number(number);
+  const bool named_columns = run.names[1] != nullptr;
+  std::string name = run.names[named_columns ? number.second - 1 : 0];
+  if (run.rows == 0) return name;
+  name += "(" + std::to_string(number.first);
+  if (run.columns != 0 && !named_columns) name += "," + std::to_string(number.second);
+  return name + ")";
 }
 
 double& Number_In(Project_Image& image, const Image_Number& number) {
-  return Find_Number(image, number);
+  return Run_Of_Number(number).number(image, number.first, number.second);
 }
 
 double Number_In(const Project_Image& image, const Image_Number& number) {
-  return Find_Number(image, number);
+  // A run only finds its number; nothing is written here.
+  return Number_In(const_cast<Project_Image&>(image), number);
 }
 
 std::size_t Index_Of(const Image_Number& number) {
-  const auto first = static_cast<std::size_t>(number.first);
-  const auto second = static_cast<std::size_t>(number.second);
-  switch (number.part) {
-    case Part::IntSlots:
-      return kIntStart + first - 1;
-    case Part::RealSlots:
-      return kRealStart + first - 1;
-    case Part::Flags:
-      return kFlagStart + first - 1;
-    case Part::FieldX:
-      return kFieldXStart + (first - 1) * kMaxGridPoints + second - 1;
-    case Part::FieldZ:
-      return kFieldZStart + (first - 1) * kMaxGridPoints + second - 1;
-    case Part::TidalHeader:
-      return kTidalHeaderStart + first - 1;
-    case Part::TidalX:
-      return kTidalStart + 2 * (first - 1);
-    case Part::TidalZ:
-      return kTidalStart + 2 * (first - 1) + 1;
-    case Part::Key4:
-      break;
-  }
-  return kKey4Start;
+  const int row = std::max(number.first - 1, 0), column = std::max(number.second - 1, 0);
+  const int columns = std::max(Run_Of_Number(number).columns, 1);
+  return kStarts[Place_Of(number.part)] + row * columns + column;
 }
 
 bool Front_Is_Given(const Given_Marks& given) {
-  return std::find(given.begin(), given.begin() + kTidalHeaderStart, false) ==
-         given.begin() + kTidalHeaderStart;
+  const auto tail = given.begin() + kTailStart;
+  return std::find(given.begin(), tail, false) == tail;
 }
 
 bool Tail_Is_Given(const Given_Marks& given) {
-  return std::find(given.begin() + kTidalHeaderStart, given.end(), false) == given.end();
+  return std::find(given.begin() + kTailStart, given.end(), false) == given.end();
 }
 
-bool Is_Narrow(const Image_Number& number) {
-  return number.part == Part::TidalHeader || number.part == Part::TidalX ||
-         number.part == Part::TidalZ;
-}
+bool Is_Narrow(const Image_Number& number) { return Run_Of_Number(number).narrow; }
 
 Project_Image Image_Of(const ProjectRecord& record) {
   Project_Image image;
@@ -187,8 +176,10 @@ Project_Image Image_Of(const ProjectRecord& record) {
   std::copy(record.SectionFlags.begin(), record.SectionFlags.end(), image.SectionFlags.begin());
   image.VelocityFieldX = record.VelocityFieldX;
   image.VelocityFieldZ = record.VelocityFieldZ;
-  image.TidalHeader = {0, record.TidalStartTime, record.TidalDepth, record.TidalAvgVelX,
-                       record.TidalAvgVelZ};
+  image.TidalStartTime = record.TidalStartTime;
+  image.TidalDepth = record.TidalDepth;
+  image.TidalAvgVelX = record.TidalAvgVelX;
+  image.TidalAvgVelZ = record.TidalAvgVelZ;
   for (std::size_t i = 1; i <= kTidalRows; ++i) {
     image.TidalTable[i] = {0, record.TidalVelX[i], record.TidalVelZ[i]};
   }
@@ -220,7 +211,7 @@ Failure Store_Image(const Project_Image& image, const Given_Marks& given, Projec
     if (const Failure failure = Unpack_Slots(record); failure != Failure::None) return failure;
     record.SolidNames = image.SolidNames;
     record.SectionStatus = image.SectionStatus;
-    for (std::size_t i = 1; i <= kFlags; ++i) {
+    for (std::size_t i = 1; i < image.SectionFlags.size(); ++i) {
       record.SectionFlags[i] = To_Int16(image.SectionFlags[i]);
     }
     for (int a = 1; a <= n; ++a) {
@@ -231,16 +222,16 @@ Failure Store_Image(const Project_Image& image, const Given_Marks& given, Projec
     return stopped.failure;
   }
   const Tail_Values tail(image, given);
-  tail.Set(record.TidalStartTime, {Part::TidalHeader, 1, 0});
-  tail.Set(record.TidalDepth, {Part::TidalHeader, 2, 0});
-  tail.Set(record.TidalAvgVelX, {Part::TidalHeader, 3, 0});
-  tail.Set(record.TidalAvgVelZ, {Part::TidalHeader, 4, 0});
+  tail.Set(record.TidalStartTime, {Part::TidalStart});
+  tail.Set(record.TidalDepth, {Part::TidalDepth});
+  tail.Set(record.TidalAvgVelX, {Part::TidalAverageX});
+  tail.Set(record.TidalAvgVelZ, {Part::TidalAverageZ});
   for (int i = 1; i <= kTidalRows; ++i) {
-    tail.Set(record.TidalVelX[i], {Part::TidalX, i, 0});
-    tail.Set(record.TidalVelZ[i], {Part::TidalZ, i, 0});
+    tail.Set(record.TidalVelX[i], {Part::Tide, i, 1});
+    tail.Set(record.TidalVelZ[i], {Part::Tide, i, 2});
   }
   try {
-    tail.Set(record.KEY4, {Part::Key4, 0, 0});
+    tail.Set(record.KEY4, {Part::Key4});
   } catch (const Run_Time_Failure&) {
     // Like every failure behind the velocity fields, this leaves the field as it was.
   }

@@ -23,17 +23,30 @@ struct Project_Image {
   OneBased<double, 18> SectionFlags{};
   Grid VelocityFieldX{};
   Grid VelocityFieldZ{};
-  OneBased<double, 4> TidalHeader{};  // start time, depth, average X, average Z; 32-bit values
+  double TidalStartTime = 0, TidalDepth = 0, TidalAvgVelX = 0, TidalAvgVelZ = 0;  // 32-bit values
   OneBased<OneBased<double, 2>, kTidalRows> TidalTable{};  // X and Z; 32-bit values
   double KEY4 = 0;
 };
 
 /// One number of the image and the name that the exact values know it by.
 struct Image_Number {
-  enum class Part { IntSlots, RealSlots, Flags, FieldX, FieldZ, TidalHeader, TidalX, TidalZ, Key4 };
+  // The file's order: what the tide has stands row by row, Z behind X.
+  enum class Part {
+    IntSlots,
+    RealSlots,
+    Flags,
+    FieldX,
+    FieldZ,
+    TidalStart,
+    TidalDepth,
+    TidalAverageX,
+    TidalAverageZ,
+    Tide,
+    Key4
+  };
   Part part = Part::IntSlots;
   int first = 0;   // subscript, 0 when there is none
-  int second = 0;  // second subscript of a grid, otherwise 0
+  int second = 0;  // second subscript of a grid; 1 X and 2 Z of the tide; otherwise 0
 };
 
 /// Every number of a full file, in its order, with its name: "RealSlots(88)",

@@ -1,6 +1,7 @@
 #include "core/project_file/project_writer.h"
 
 #include "core/fluid_concentration.h"
+#include "core/keys.h"
 #include "core/project_file/column_reader.h"
 #include "core/project_file/column_writer.h"
 #include "core/project_file/exact_values.h"
@@ -13,12 +14,11 @@ namespace {
 
 constexpr char kProjectTag[] = "   DUMP";
 constexpr int kTracerSlot = 30;
-constexpr std::int16_t kBarge = 3;
 
-/// KEY3 4 and 7 give the contaminant in the sediment; the concentrations that follow from it are
-/// kept as they stand when a count or a volume makes no sense: a save must not fail for them.
+/// The concentrations that follow from a contaminant in the sediment. They are kept as they are
+/// when a count or a volume makes no sense: a save must not fail for them.
 void Recompute_Concentrations(ProjectRecord& record) {
-  if (record.KEY3 != 4 && record.KEY3 != 7) return;
+  if (!Contaminant_Is_In_The_Sediment(record)) return;
   Sediment_Tracer_Concentration(record, record.TracerConcentration);
   record.RealSlots[kTracerSlot] = record.TracerConcentration;
   const bool separated =

@@ -44,7 +44,7 @@ std::uint32_t Next_Character(std::string_view text, std::size_t& at) {
     character = (character << 6) | (next & 0x3F);
   }
   constexpr std::array<std::uint32_t, 4> kLeast = {0, 0x80, 0x800, 0x10000};
-  if (character < kLeast[static_cast<std::size_t>(more)]) return kNoCharacter;
+  if (character < kLeast[more]) return kNoCharacter;
   if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) return kNoCharacter;
   at += static_cast<std::size_t>(more);
   return character;

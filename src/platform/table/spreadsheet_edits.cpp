@@ -78,7 +78,7 @@ Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                            target->col1 + static_cast<int>(cols) - 1};
   const std::string empty;
   return Write(table, written, [&](int row, int col) -> const std::string& {
-    const auto& texts = cells[static_cast<std::size_t>(row)];
+    const auto& texts = cells[row];
     const auto at = static_cast<std::size_t>(col);
     return at < texts.size() ? texts[at] : empty;
   });

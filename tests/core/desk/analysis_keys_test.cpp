@@ -29,25 +29,6 @@ class AnalysisKeys : public Recorded_Workspace {
   }
 };
 
-TEST_F(AnalysisKeys, KEY4_Stands_For_A_Type_Of_Analysis) {
-  const std::int16_t types[] = {0, 1, 1, 2, 2, 3, 3, 0};
-  for (std::int16_t key4 = 0; key4 <= 7; ++key4) {
-    EXPECT_EQ(Analysis_Type_Of_KEY4(key4), types[key4]) << key4;
-  }
-  EXPECT_EQ(Analysis_Type_Of_KEY4(-1), 0);
-}
-
-TEST_F(AnalysisKeys, KEY4_Of_An_Evaluation_Follows_The_Group_Of_KEY3_And_The_Method) {
-  const std::int16_t hopper[] = {1, 1, 3, 3, 3, 5, 5, 5};
-  for (std::int16_t key3 = 0; key3 <= 7; ++key3) {
-    EXPECT_EQ(KEY4_Of_Evaluation(key3, 1), hopper[key3]) << key3;
-    EXPECT_EQ(KEY4_Of_Evaluation(key3, 3), hopper[key3] + 1) << key3;
-    EXPECT_EQ(KEY4_Of_Evaluation(key3, 2), std::nullopt) << key3;
-  }
-  EXPECT_EQ(KEY4_Of_Evaluation(-1, 1), std::nullopt);
-  EXPECT_EQ(KEY4_Of_Evaluation(8, 1), std::nullopt);
-}
-
 TEST_F(AnalysisKeys, A_Refresh_Rebuilds_KEY4_Only_While_The_Legacy_Flag_Is_On) {
   record_.KEY3 = 3;
   record_.DisposalMethod = 3;

@@ -1,5 +1,6 @@
 #include "core/desk/file_dialogs.h"
 
+#include "core/keys.h"
 #include "support/recorded_workspace.h"
 
 namespace barvon {

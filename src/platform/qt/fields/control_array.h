@@ -22,7 +22,7 @@ class ControlArray {
     }
   }
 
-  T* operator()(int index) const { return controls_.at(static_cast<std::size_t>(index - first_)); }
+  T* operator()(int index) const { return controls_.at(index - first_); }
   int first() const { return first_; }
   int last() const { return first_ + static_cast<int>(controls_.size()) - 1; }
   auto begin() const { return controls_.begin(); }
