@@ -58,8 +58,7 @@ void mnuEditItem_Click(int index, ProjectRecord& record) {
 void Show_Screen(const std::string& name, const ProjectRecord& record) {
   const bool blocking = record.ShowMode == 1;
   if (blocking && Any_Input_Screen_Is_Open()) {
-    Show_Message({"Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu",
-                  kMessageTitle, Buttons::Ok, Icon::Critical});
+    Show_Critical("Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
     return;
   }
   Open_Screen_Or_Tell(name, blocking);
