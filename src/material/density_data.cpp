@@ -14,6 +14,7 @@ namespace {
 enum Field { kSalinity = 0, kTemperature, kDensity };
 
 constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted in a message
+constexpr char kNothingComputed[] = "No density has been computed.";
 
 std::string Density_Text(double density) { return Format_Number(density, "####0.0000"); }
 
@@ -29,11 +30,6 @@ std::string Complaint(Field field, const std::string& text) {
   std::string shown = First_Characters(text, kShownCharacters);
   if (shown.size() < text.size()) shown += "...";
   return name + ": \"" + shown + "\" can't be read as a number.\n";
-}
-
-void Refuse(const std::string& reason) {
-  Show_Message(
-      {reason + "No density has been computed.", kMessageTitle, Buttons::Ok, Icon::Warning});
 }
 
 }  // namespace
@@ -58,7 +54,7 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
     }
   }
   if (wrong) {
-    Refuse(complaints);
+    Show_Warning(complaints + kNothingComputed);
     return wrong;
   }
   const auto [salinity, temperature] = typed;
@@ -66,8 +62,9 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   if (entry.Check3D3) {
     const auto computed = AMDEN(salinity, temperature, 0);
     if (!computed) {
-      Refuse("The formula has no result for a salinity of " + Plain_Number(salinity) +
-             " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n");
+      Show_Warning("The formula has no result for a salinity of " + Plain_Number(salinity) +
+                   " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n" +
+                   kNothingComputed);
       // Where fresh water of that temperature has a density, the salinity is at fault.
       return AMDEN(0, temperature, 0) ? kSalinity : kTemperature;
     }

@@ -28,12 +28,8 @@ namespace {
 
 constexpr int kExportKind = 3;
 constexpr int kTextKind = 4;
+constexpr char kUnable[] = "Unable to Save File!";
 constexpr int kTestedStatusMarks = 5;  // of the six
-
-bool Tell_Unable() {
-  Show_Message({"Unable to Save File!"});
-  return false;
-}
 
 /// Writes one file whole. The bytes are made once the file is known to be writable.
 bool Write_File(const std::string& path, int kind, const std::function<std::string()>& bytes) {
@@ -50,8 +46,7 @@ bool Write_File(const std::string& path, int kind, const std::function<std::stri
   if (error == 0) return true;
   const bool bad_dilution_name =
       kind == kDilutionKind && Failure_Of_Errno(error) == Failure::Bad_File_Name;
-  if (opened || bad_dilution_name) return Tell_Unable();
-  Show_Message({"Can't open file: " + path});
+  Show_Message({opened || bad_dilution_name ? kUnable : "Can't open file: " + path});
   return false;
 }
 
@@ -98,13 +93,18 @@ bool Write_Export(const std::string& path, ProjectRecord& record) {
   const auto last = first + kTestedStatusMarks;
   if (std::find(first, last, '-') != last) return false;
   const Busy_Cursor cursor;
-  return Save_Model_Extract(path, record) == Failure::None || Tell_Unable();
+  if (Save_Model_Extract(path, record) == Failure::None) return true;
+  Show_Message({kUnable});
+  return false;
 }
 
 /// The text as one printed item: lines end in CR LF, the last one too.
 bool Write_Text(const std::string& path) {
   const std::string text = Port().text.active();
-  if (!Fits_File_Encoding(text)) return Tell_Unable();
+  if (!Fits_File_Encoding(text)) {
+    Show_Message({kUnable});
+    return false;
+  }
   const bool written = Write_File(path, kTextKind, [&] {
     std::string lines;
     for (const char c : Remove_Character(text, "\r"))
