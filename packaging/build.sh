@@ -1,9 +1,8 @@
-# Sourced by run.sh and test.sh: configures a preset once, then builds the targets that are given,
-# or everything. BARVON_WERROR=ON makes warnings errors.
+# Sourced by run.sh, test.sh and lint.sh: configures a preset once, then builds the targets that are
+# given, or everything. BARVON_WERROR=ON makes warnings errors.
 
-barvon_build() {
+barvon_configure() {
   local preset="$1" settings=()
-  shift
   local cache="build/$preset/CMakeCache.txt"
   if [ -n "${BARVON_WERROR:-}" ]; then
     settings=("-DBARVON_WERROR=$BARVON_WERROR")
@@ -13,6 +12,12 @@ barvon_build() {
     ! grep -q "^BARVON_WERROR:BOOL=$BARVON_WERROR\$" "$cache"; }; then
     cmake --preset "$preset" "${settings[@]}"
   fi
+}
+
+barvon_build() {
+  local preset="$1"
+  shift
+  barvon_configure "$preset"
   if [ $# -gt 0 ]; then
     cmake --build --preset "$preset" --parallel "$(nproc)" --target "$@"
   else

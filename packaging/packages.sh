@@ -1,4 +1,4 @@
-# Sourced by run.sh and test.sh: installs what is missing of debian-packages.txt. With everything
+# Sourced by run.sh, test.sh and lint.sh: installs what is missing of debian-packages.txt. With everything
 # there it neither needs a network nor asks for root.
 
 barvon_missing_packages() {

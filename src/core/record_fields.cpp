@@ -47,6 +47,18 @@ const auto& Element_Of(const ProjectRecord& record, [[maybe_unused]] int i,
   }
 }
 
+template <auto Member>
+void Set_Element(ProjectRecord& record, int i, int j, double value) {
+  using Element = typename Shape<
+      std::remove_cvref_t<decltype(std::declval<const ProjectRecord&>().*Member)>>::Element;
+  auto& element = const_cast<Element&>(Element_Of<Member>(record, i, j));
+  if constexpr (std::is_same_v<Element, std::string>) {
+    element = Plain_Number(value);
+  } else {
+    element = static_cast<Element>(value);
+  }
+}
+
 double No_Number(const ProjectRecord&, int, int) { return 0; }
 std::string No_Text(const ProjectRecord&, int, int) { return {}; }
 
@@ -55,8 +67,8 @@ constexpr Record_Field Field_Of(const char* name) {
   using Field_Shape =
       Shape<std::remove_cvref_t<decltype(std::declval<const ProjectRecord&>().*Member)>>;
   using Element = typename Field_Shape::Element;
-  Record_Field field{
-      name, Type_Of<Element>(), Field_Shape::kCount, Field_Shape::kAcross, &No_Number, &No_Text};
+  Record_Field field{name,       Type_Of<Element>(), Field_Shape::kCount, Field_Shape::kAcross,
+                     &No_Number, &No_Text,           &Set_Element<Member>};
   if constexpr (std::is_same_v<Element, std::string>) {
     field.text = [](const ProjectRecord& r, int i, int j) { return Element_Of<Member>(r, i, j); };
   } else if constexpr (std::is_same_v<Element, char>) {
@@ -171,8 +183,10 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::OutputDepths>("OutputDepths"),
     Field_Of<&ProjectRecord::NumSolids>("NumSolids"),
     Field_Of<&ProjectRecord::SolidNames>("SolidNames"),
-    Record_Field{"TracerName", Field_Type::Text, 0, 0, &No_Number,
-                 [](const ProjectRecord& r, int, int) { return r.TracerName(); }},
+    Record_Field{
+        "TracerName", Field_Type::Text, 0, 0, &No_Number,
+        [](const ProjectRecord& r, int, int) { return r.TracerName(); },
+        [](ProjectRecord& r, int, int, double value) { r.TracerName() = Plain_Number(value); }},
     Field_Of<&ProjectRecord::SolidSG>("SolidSG"),
     Field_Of<&ProjectRecord::SolidVolFraction>("SolidVolFraction"),
     Field_Of<&ProjectRecord::SolidFallVelocity>("SolidFallVelocity"),

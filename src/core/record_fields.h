@@ -23,6 +23,9 @@ struct Record_Field {
   int across = 0;  // elements of each row; 0: not a grid
   double (*number)(const ProjectRecord&, int i, int j) = nullptr;     // Integer and Real, else 0
   std::string (*text)(const ProjectRecord&, int i, int j) = nullptr;  // Text and Character
+  // Puts a value there whatever the type, cut to what the field can hold: a text takes the number's
+  // text, a character the byte. What fills a whole record goes by it.
+  void (*set)(ProjectRecord&, int i, int j, double value) = nullptr;
 };
 
 /// Every field, in the order of the record: what shows a whole record or compares two goes by it.

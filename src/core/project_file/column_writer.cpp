@@ -83,12 +83,13 @@ std::string Write_Columns(const Project_Image& image, Progress_Display& progress
     }
     text += kLineEnd;
   }
-  constexpr double kLines = kFullFileRealSlots / kRealsPerLine + 1;
+  constexpr int kLines = kFullFileRealSlots / kRealsPerLine + 1;
   for (int slot = 1; slot <= kFullFileRealSlots; ++slot) {
     text += Right_Justified(Plain_Number(image.RealSlots[slot]), kRealWidth);
     if (slot % kRealsPerLine == 0 || slot == kFullFileRealSlots) {
       text += kLineEnd;
-      progress.Move(slot / kRealsPerLine / kLines);
+      const int line = slot / kRealsPerLine;
+      progress.Move(static_cast<double>(line) / kLines);
     }
   }
   for (std::size_t i = 1; i <= kSolidEntries; ++i) {

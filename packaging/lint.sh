@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# What no compiler says. "format": every source is laid out as .clang-format wants it. "tidy": the
+# checks of .clang-tidy find nothing in src/, or only in the given sources of it. Without a word
+# both, the quick one first.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. packaging/packages.sh
+. packaging/build.sh
+
+barvon_check_format() {
+  echo "Checking the format"
+  find src tests help samples bench -name '*.cpp' -o -name '*.h' | sort |
+    xargs clang-format --dry-run -Werror || {
+    echo "lint: not laid out as .clang-format wants it; clang-format -i mends it" >&2
+    return 1
+  }
+}
+
+# The commands of the compiler are those of the release build; nothing needs to be built for it.
+barvon_check_tidy() {
+  local sources=("$@")
+  barvon_configure release
+  cmake --build --preset release --target build.ninja  # configures again if a build file has changed
+  [ $# -gt 0 ] || mapfile -t sources < <(find src -name '*.cpp' | sort)
+  echo "Checking ${#sources[@]} sources with clang-tidy"
+  # The compiler's own warnings are the build's matter, and it has some that clang does not know.
+  # How many warnings of the libraries were passed over is nobody's.
+  local one='clang-tidy --quiet -p build/release --extra-arg=-Wno-error \
+    --extra-arg=-Wno-unknown-warning-option "$1" 2> >(grep -v "warnings\? generated" >&2)'
+  printf '%s\n' "${sources[@]}" | xargs -P "$(nproc)" -n 1 \
+    bash -c "$one" tidy || {
+    echo "lint: clang-tidy finds what is told above" >&2
+    return 1
+  }
+}
+
+what="${1:-all}"
+[ $# -eq 0 ] || shift
+case "$what" in
+  all | format | tidy) ;;
+  *)
+    echo "usage: packaging/lint.sh [format | tidy [SOURCE...]]" >&2
+    exit 2
+    ;;
+esac
+barvon_install_packages packaging/debian-packages.txt
+[ "$what" = tidy ] || barvon_check_format
+[ "$what" = format ] || barvon_check_tidy "$@"
