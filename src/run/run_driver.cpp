@@ -131,9 +131,8 @@ std::string Marker_Line() {
 /// Writes model input and marker. Returns what failed first, as text.
 std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder) {
   std::string problem;
-  record.FileTypeTag = "DUE";
   std::string input;
-  if (const Failure failure = Write_Model_Input(record, input); failure != Failure::None) {
+  if (const Failure failure = Make_Model_Input(record, input); failure != Failure::None) {
     Remove_Files(folder, kModelInputFile);
     problem = std::string("the model input could not be written (") + Failure_Name(failure) + ")";
   } else {

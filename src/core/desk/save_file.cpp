@@ -65,24 +65,30 @@ bool Lead_To_One_File(const std::string& path, const std::string& other) {
 }
 
 bool Write_Project(const std::string& path, ProjectRecord& record) {
+  std::string model_input;
+  Failure model_failure = Failure::None;
   const bool written = Write_File(path, kProjectKind, [&] {
     Show_Project(record);
+    // The model input comes first: what it derives belongs into the file, so that the next save of
+    // an unchanged project gives the same one.
+    model_failure = Make_Model_Input(record, model_input);
     Pack_Slots(record);
     return Save_Project(path, record);
   });
   if (!written) return false;
+  record.FileTypeTag = "DUE";
   const std::string name = With_Extension(path, "DUE");
   const std::string lacking =
       Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
   if (Lead_To_One_File(path, name)) {
-    record.FileTypeTag = "DUE";
     Port().board.show_note({lacking + "that is where the project stands.", {}});
     return true;
   }
   const Busy_Cursor cursor;
   // The project is safe; its model input may still be beyond what can be computed.
-  if (const Failure failure = Save_Model_Extract(path, record); failure != Failure::None) {
-    Port().board.show_note({lacking + Failure_Name(failure) + ".", {}});
+  if (model_failure == Failure::None) model_failure = Write_Model_Extract(path, model_input);
+  if (model_failure != Failure::None) {
+    Port().board.show_note({lacking + Failure_Name(model_failure) + ".", {}});
   }
   return true;
 }
