@@ -9,10 +9,10 @@
 #include "core/keys.h"
 #include "core/project_defaults.h"
 #include "core/project_file/project_reader.h"
-#include "core/text_tools.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {

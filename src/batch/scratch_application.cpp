@@ -9,8 +9,9 @@
 #include <utility>
 
 #include "core/desk/settings_keys.h"
-#include "core/text_tools.h"
 #include "platform/files/paths.h"
+#include "platform/text/letter_case.h"
+#include "run/scratch_names.h"
 
 namespace barvon {
 namespace {
@@ -20,9 +21,8 @@ namespace fs = std::filesystem;
 /// What a run writes into its application directory: an older one's must not be found there, nor
 /// the solvers' folder be written through a link.
 bool Is_Made_By_A_Run(const std::string& name) {
-  const std::string upper = Upper_Case(name);
-  return upper.starts_with("TMPFILE.") || upper == "KOLBREE.TMP" ||
-         Equal_Ignoring_Case(name, kSettingsFile);
+  return Upper_Case(name).starts_with(Upper_Case(kScratchName) + ".") ||
+         Equal_Ignoring_Case(name, kMarkerFile) || Equal_Ignoring_Case(name, kSettingsFile);
 }
 
 std::error_code Link_Files(const fs::path& from, const fs::path& into) {

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/text_tools.h"
 #include "platform/files/paths.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 

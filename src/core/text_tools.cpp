@@ -46,18 +46,6 @@ std::string Trimmed(std::string_view text) {
   return first == std::string_view::npos ? std::string() : Trimmed_Right(text.substr(first));
 }
 
-std::string Upper_Case(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return upper;
-}
-
-bool Equal_Ignoring_Case(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && Upper_Case(a) == Upper_Case(b);
-}
-
 std::string Remove_Character(std::string_view text, std::string_view character) {
   std::string result(text);
   if (character.empty()) return result;

@@ -21,9 +21,6 @@ std::string FitField(std::string_view text, std::size_t width);
 /// Without the blanks at both ends.
 std::string Trimmed(std::string_view text);
 std::string Trimmed_Right(std::string_view text);
-/// A to Z and a to z only.
-std::string Upper_Case(std::string_view text);
-bool Equal_Ignoring_Case(std::string_view a, std::string_view b);
 
 /// The text without any occurrence of the character; an empty character leaves the text as it is.
 std::string Remove_Character(std::string_view text, std::string_view character);

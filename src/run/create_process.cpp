@@ -9,14 +9,13 @@
 #include "platform/files/paths.h"
 #include "platform/files/text_encoding.h"
 #include "platform/process/event_pump.h"
+#include "run/scratch_names.h"
 #include "run/solver_command.h"
 
 namespace barvon {
 namespace {
 
 constexpr std::chrono::milliseconds kPollEvery{25};
-// Among the scratch files of a run, so that the next one removes it.
-constexpr char kOutputFile[] = "Tmpfile.log";
 
 struct Run {
   External_Process process;
@@ -55,7 +54,7 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   Run run;
   start.command = std::move(found.command);
   start.environment = std::move(found.environment);
-  start.output_file = Join_Path(start.folder, kOutputFile);
+  start.output_file = Join_Path(start.folder, kPrintedFile);
   outcome.program = run.program = start.command[0];
   if (const int error = run.process.Start(start); error != 0) {
     outcome.problem = run.program + ": " + std::generic_category().message(error);

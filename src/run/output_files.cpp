@@ -9,15 +9,14 @@
 #include <tuple>
 #include <utility>
 
-#include "core/text_tools.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/text/letter_case.h"
+#include "run/scratch_names.h"
 
 namespace barvon {
 namespace {
-
-constexpr char kScratchName[] = "tmpfile";
 
 /// A descriptor that is closed when it goes.
 class Open_Input {

@@ -23,14 +23,12 @@
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "run/scratch_names.h"
 #include "run/solver_table.h"
 
 namespace barvon {
 namespace {
 
-constexpr char kModelInputFile[] = "Tmpfile.Due";
-constexpr char kMarkerFile[] = "KOLBREE.TMP";
-constexpr char kScratchFiles[] = "Tmpfile.*";
 constexpr std::size_t kScratchNameWidth = 8;
 constexpr char kErrorTitle[] = "BARVON Error";
 
@@ -125,7 +123,7 @@ void Make_File(const std::string& folder, const char* name, std::string_view byt
 std::string Marker_Line() {
   return "DUE   , ,                            ,"
          "                                     ," +
-         Left_Justified("TmpFile", kScratchNameWidth) + ",                           ,\r\n";
+         Left_Justified(kNameInMarker, kScratchNameWidth) + ",                           ,\r\n";
 }
 
 /// Writes model input and marker. Returns what failed first, as text.

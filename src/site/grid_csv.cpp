@@ -7,6 +7,7 @@
 #include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
 #include "platform/table/delimited_text.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
@@ -29,10 +30,6 @@ Text_Block Lines_Of(std::string_view bytes) {
     lines.pop_back();
   }
   return lines;
-}
-
-std::string Count(std::size_t count, const char* one) {
-  return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
 }
 
 std::string Place(std::size_t row, std::size_t column) {
@@ -73,9 +70,9 @@ std::optional<std::string> Wrong_Width(const Cells& line, std::size_t row, std::
 }
 
 std::string Sizes(const Text_Block& lines, std::size_t rows, std::size_t columns) {
-  std::string file = "The file has " + Count(lines.size(), "row");
-  if (!lines.empty()) file += ", the first of " + Count(lines.front().size(), "column");
-  return file + "; the table has " + Count(rows, "row") + " of " + Count(columns, "column") + ".";
+  std::string file = "The file has " + Counted(lines.size(), "row");
+  if (!lines.empty()) file += ", the first of " + Counted(lines.front().size(), "column");
+  return file + "; the table has " + Counted(rows, "row") + " of " + Counted(columns, "column") + ".";
 }
 
 }  // namespace

@@ -39,11 +39,5 @@ TEST(TextTools, Remove_Character_Leaves_Text_Alone_For_An_Empty_Character) {
   EXPECT_EQ(Remove_Character("", "x"), "");
 }
 
-TEST(TextTools, Case_Is_Ignored_For_Letters_Of_The_Alphabet) {
-  EXPECT_EQ(Upper_Case("site.dui"), "SITE.DUI");
-  EXPECT_TRUE(Equal_Ignoring_Case("Tmpfile.Due", "TMPFILE.DUE"));
-  EXPECT_FALSE(Equal_Ignoring_Case("a", "ab"));
-}
-
 }  // namespace
 }  // namespace barvon

@@ -3,7 +3,7 @@
 #include <map>
 #include <utility>
 
-#include "core/text_tools.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {

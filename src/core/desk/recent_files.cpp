@@ -7,6 +7,7 @@
 #include "core/desk/workspace_port.h"
 #include "core/text_tools.h"
 #include "platform/files/profile_settings.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {

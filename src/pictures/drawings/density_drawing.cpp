@@ -1,5 +1,7 @@
 #include "pictures/drawings/density_drawing.h"
 
+#include "platform/text/counted.h"
+
 #include <algorithm>
 
 #include "pictures/shapes/inks.h"

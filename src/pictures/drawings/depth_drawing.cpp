@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "pictures/drawings/grid_text.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {

@@ -1,6 +1,7 @@
 #include "pictures/drawings/grid_text.h"
 
 #include "pictures/shapes/axis_scale.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 

@@ -1,5 +1,7 @@
 #include "pictures/drawings/profile_drawing.h"
 
+#include "platform/text/counted.h"
+
 #include <algorithm>
 
 #include "pictures/shapes/inks.h"

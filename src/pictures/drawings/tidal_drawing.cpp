@@ -1,5 +1,7 @@
 #include "pictures/drawings/tidal_drawing.h"
 
+#include "platform/text/counted.h"
+
 #include <algorithm>
 #include <cmath>
 

@@ -137,8 +137,4 @@ std::string Fixed_Text(double value, int decimals) {
 
 std::string Short_Text(double value) { return Text_Of(value, std::chars_format::general, 6); }
 
-std::string Counted(int count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
 }  // namespace barvon

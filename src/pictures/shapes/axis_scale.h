@@ -68,7 +68,4 @@ std::string Fixed_Text(double value, int decimals);
 /// The number in up to six digits: "40", "0.25", "1.5e+09"; "no number" for what is not finite.
 std::string Short_Text(double value);
 
-/// "1 point", "2 points".
-std::string Counted(int count, const std::string& noun);
-
 }  // namespace barvon

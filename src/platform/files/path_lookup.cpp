@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/files/paths.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {
@@ -14,14 +15,9 @@ namespace fs = std::filesystem;
 /// A name brought to one case: the letters that Windows-1252 holds, as the systems that these
 /// files come from fold them. Other letters keep their case.
 std::string Folded(std::string_view name) {
-  std::string folded(name);
-  for (std::size_t at = 0; at < folded.size(); ++at) {
+  std::string folded = Upper_Case(name);
+  for (std::size_t at = 1; at < folded.size(); ++at) {
     const auto byte = static_cast<unsigned char>(folded[at]);
-    if (byte >= 'a' && byte <= 'z') {
-      folded[at] = static_cast<char>(byte - 'a' + 'A');
-      continue;
-    }
-    if (at == 0) continue;
     const auto lead = static_cast<unsigned char>(folded[at - 1]);
     if (lead == 0xC3 && byte == 0xBF) {  // y with two dots, whose capital stands elsewhere
       folded[at - 1] = '\xC5';

@@ -7,6 +7,7 @@
 
 #include "platform/files/safe_file.h"
 #include "platform/files/text_encoding.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {
@@ -22,18 +23,9 @@ std::string_view Without_Blanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-bool Same_Letters(std::string_view a, std::string_view b) {
-  const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; };
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    if (upper(a[i]) != upper(b[i])) return false;
-  }
-  return true;
-}
-
 /// A section or key name as it stands in the file, against one in memory.
 bool Names(std::string_view in_file, std::string_view name) {
-  return Same_Letters(From_Settings_Bytes(Without_Blanks(in_file)), name);
+  return Equal_Ignoring_Case(From_Settings_Bytes(Without_Blanks(in_file)), name);
 }
 
 /// The section that a line heads; nothing when it is no heading.

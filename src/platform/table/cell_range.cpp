@@ -1,5 +1,7 @@
 #include "platform/table/cell_range.h"
 
+#include "platform/text/letter_case.h"
+
 #include <algorithm>
 
 namespace barvon {
@@ -16,7 +18,7 @@ std::optional<Cell_Place> Parse_Cell(std::string_view text) {
   Cell_Place place;
   std::size_t at = 0;
   for (; at < text.size(); ++at) {
-    const char letter = text[at] >= 'a' && text[at] <= 'z' ? char(text[at] - 'a' + 'A') : text[at];
+    const char letter = Upper_Case(text[at]);
     if (letter < 'A' || letter > 'Z') break;
     place.col = 26 * place.col + (letter - 'A' + 1);
     if (at >= kMostLetters) return std::nullopt;

@@ -1,11 +1,9 @@
 #include "platform/table/spreadsheet_edits.h"
 
+#include "platform/text/counted.h"
+
 namespace barvon {
 namespace {
-
-std::string Counted(std::size_t count, const std::string& what) {
-  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
 
 std::string Size_Text(std::size_t rows, std::size_t cols) {
   return Counted(rows, "row") + " and " + Counted(cols, "column");
