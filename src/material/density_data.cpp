@@ -1,7 +1,9 @@
 #include "material/density_data.h"
 
+#include <array>
+#include <string>
+
 #include "core/density_limits.h"
-#include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
 #include "core/text_tools.h"
@@ -13,10 +15,36 @@ namespace {
 
 enum Field { kSalinity = 0, kTemperature, kDensity };
 
+constexpr Field_Row kRows[] = {
+    {.control = {"Text3", kSalinity},
+     .label = "Salinity (ppt)",
+     .unit = "ppt",
+     .pattern = "####0.00",
+     .member = &ProjectRecord::SiteSalinity,
+     .frame = kDensityFrame,
+     .label_name = {"Label4", kSalinity}},
+    {.control = {"Text3", kTemperature},
+     .label = "Temperature (celsius)",
+     .unit = "celsius",
+     .pattern = "####0.00",
+     .member = &ProjectRecord::SiteTemperature,
+     .frame = kDensityFrame,
+     .label_name = {"Label4", kTemperature}},
+    {.control = {"Text3", kDensity},
+     .label = "Density (g/cc)",
+     .unit = "g/cc",
+     .pattern = "####0.0000",
+     .member = &ProjectRecord::SiteDensity,
+     .frame = kDensityFrame,
+     .label_name = {"Label4", kDensity}},
+};
+
 constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted in a message
 constexpr char kNothingComputed[] = "No density has been computed.";
 
-std::string Density_Text(double density) { return Format_Number(density, "####0.0000"); }
+void Show_Density(const ProjectRecord& record, Density_Entry& entry) {
+  entry.texts("Text3", kDensity) = Field_Text(kRows[kDensity], record);
+}
 
 /// The strict conversion: all of the text is one number. It takes what the field has no mark for.
 std::optional<double> Strict_Number(const std::string& text) {
@@ -25,7 +53,7 @@ std::optional<double> Strict_Number(const std::string& text) {
 }
 
 std::string Complaint(Field field, const std::string& text) {
-  const std::string name = kDensityFields[field];
+  const std::string name = kRows[field].label;
   if (Trimmed(text).empty()) return name + " is empty.\n";
   std::string shown = First_Characters(text, kShownCharacters);
   if (shown.size() < text.size()) shown += "...";
@@ -34,11 +62,11 @@ std::string Complaint(Field field, const std::string& text) {
 
 }  // namespace
 
+Field_Table Density_Fields() { return kRows; }
+
 Density_Entry Open_Density(ProjectRecord& record) {
   record.SiteDensity = Held_Site_Density(record.SiteDensity);
-  return {{Format_Number(record.SiteSalinity, "####0.00"),
-           Format_Number(record.SiteTemperature, "####0.00"), Density_Text(record.SiteDensity)},
-          false};
+  return {Fill_Fields(kRows, record), false};
 }
 
 std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& record) {
@@ -46,10 +74,10 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   std::optional<int> wrong;
   std::string complaints;
   for (const Field field : {kSalinity, kTemperature}) {
-    if (const auto number = Strict_Number(entry.Text3[field])) {
+    if (const auto number = Strict_Number(entry.texts("Text3", field))) {
       typed[field] = *number;
     } else {
-      complaints += Complaint(field, entry.Text3[field]);
+      complaints += Complaint(field, entry.texts("Text3", field));
       if (!wrong) wrong = field;
     }
   }
@@ -73,15 +101,13 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   record.SiteSalinity = salinity;
   record.SiteTemperature = temperature;
   record.SiteDensity = Held_Site_Density(density);
-  entry.Text3[kDensity] = Density_Text(record.SiteDensity);
+  Show_Density(record, entry);
   return std::nullopt;
 }
 
 void Save_Data(Density_Entry& entry, ProjectRecord& record) {
   record.DataSaved = kFalse;
-  record.SiteSalinity = Lenient_Number(entry.Text3[kSalinity]);
-  record.SiteTemperature = Lenient_Number(entry.Text3[kTemperature]);
-  record.SiteDensity = Lenient_Number(entry.Text3[kDensity]);
+  Read_Fields(kRows, entry.texts, record);
   // The material screens refuse such a density; here it is told and the screen closes.
   if (record.SiteDensity < kLeastSiteDensity) {
     Show_Message({"Minimum Density is 0.972 grams/cc"});
@@ -89,7 +115,7 @@ void Save_Data(Density_Entry& entry, ProjectRecord& record) {
     Show_Message({"Maximum Density is 1.050 grams/cc"});
   }
   record.SiteDensity = Held_Site_Density(record.SiteDensity);
-  entry.Text3[kDensity] = Density_Text(record.SiteDensity);
+  Show_Density(record, entry);
 }
 
 Density_Copy Copy_Vars(const ProjectRecord& record) { return {record.SiteDensity}; }

@@ -1,21 +1,21 @@
 #pragma once
 
-#include <array>
 #include <optional>
-#include <string>
 
+#include "core/field_table.h"
 #include "core/project_record.h"
 
 namespace barvon {
 
-/// What the fields of frmDensity are called, on the screen and in messages: Text3(0) to Text3(2).
-inline constexpr std::array<const char*, 3> kDensityFields = {
-    "Salinity (ppt)", "Temperature (celsius)", "Density (g/cc)"};
+inline constexpr char kDensityFrame[] = "Density of Dredging Site Water";
+
+/// The table of frmDensity: salinity, temperature and density in Text3(0) to Text3(2).
+Field_Table Density_Fields();
 
 /// What frmDensity holds.
 struct Density_Entry {
-  std::array<std::string, 3> Text3;  // as typed: salinity, temperature, density
-  bool Check3D3 = false;             // the density comes from salinity and temperature
+  Field_Texts texts;      // of Density_Fields(), as typed
+  bool Check3D3 = false;  // the density comes from salinity and temperature
 };
 
 /// What the screen shows when it opens. SiteDensity is held to its limits first, without a message.

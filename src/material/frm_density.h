@@ -1,13 +1,12 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <array>
 
 #include "material/density_data.h"
 #include "platform/qt/fields/control_array.h"
+#include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
 
 namespace barvon {
@@ -26,11 +25,10 @@ class frmDensity : public Input_Screen {
   void Check3D3_Click();
   void Command2_Click();
   Density_Entry Entry() const;
-  void Show_Density(const Density_Entry& entry);
 
   QCheckBox* Check3D3;
   ControlArray<QLineEdit> Text3;  // salinity, temperature, density
-  std::array<QLabel*, 3> Label4;
+  Table_Fields fields_;
   QPushButton* Command2;
   Density_Copy copy_;  // for Cancel
 };

@@ -46,7 +46,7 @@ void Add_Row(Site_Entry& entry, Spreadsheet_Table& table) {
   const int row = table.MaxRow() + 1;
   table.ClearRange({row, 1, row, table.MaxCol()});
   table.MaxRow(row);
-  entry.Text1[kDensityPoints] = Plain_Number(row);
+  entry.texts("Text1", kDensityPoints) = Plain_Number(row);
 }
 
 bool AddSurfaceRow(Site_Entry& entry, Spreadsheet_Table& table) {
@@ -86,7 +86,7 @@ bool AddBottomRow(float bottom, Site_Entry& entry, Spreadsheet_Table& table) {
 
 double Bottom_Depth(const Site_Entry& entry, const ProjectRecord& record) {
   if (entry.variable_depth) return MaxGridDepth(record);
-  return Lenient_Number(entry.Text1[kConstantDepth]);
+  return Lenient_Number(entry.texts("Text1", kConstantDepth));
 }
 
 Density_Ends Check_Depths(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,
@@ -101,7 +101,7 @@ Density_Ends Check_Depths(const Site_Entry& entry, const Spreadsheet_Table& F1Bo
 
 bool EnsureDensityEndpoints(Site_Entry& entry, Spreadsheet_Table& F1Book1,
                             const ProjectRecord& record) {
-  const int n = Density_Rows(entry.Text1[kDensityPoints]);
+  const int n = Density_Rows(entry.texts("Text1", kDensityPoints));
   if (n < 2 || n > kMaxDensityPoints) return true;
   const auto [result, bottom] = Check_Depths(entry, F1Book1, record);
   if (result == kBothAreRight) return true;

@@ -14,6 +14,12 @@ namespace {
 
 constexpr char kStoredDepth[] = "##0.00";
 constexpr char kOneDepth[] = "###0.00";
+constexpr Field_Row kRows[] = {{.control = {"Text1"},
+                                .label = "Depth (ft) to be used for Initializing the Grid",
+                                .unit = "ft",
+                                .pattern = kOneDepth,
+                                .member = &ProjectRecord::DEPTHI,
+                                .tag = "DEPTHI"}};
 
 /// The whole part of a count; nothing, and told, when no grid has so many points.
 std::optional<int> Grid_Count(const std::string& typed, const char* direction) {
@@ -45,6 +51,8 @@ void Save_Initial_Depth(const Depth_Grid_Entry& entry, ProjectRecord& record) {
 }
 
 }  // namespace
+
+Field_Table Depth_Grid_Fields() { return kRows; }
 
 std::optional<Depth_Grid_Size> Ask_Depth_Grid_Size(const ProjectRecord& record) {
   const Site_Boxes boxes = Open_Site_Boxes(record);

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "core/field_table.h"
 #include "core/project_record.h"
 #include "platform/table/spreadsheet_table.h"
 
@@ -17,6 +18,9 @@ struct Depth_Grid_Size {
 /// The size that the open site screen asks for, the whole parts of its counts. Nothing when the
 /// grid can't hold it: the user has been told then.
 std::optional<Depth_Grid_Size> Ask_Depth_Grid_Size(const ProjectRecord& record);
+
+/// The table of frmGridDescrip: in Text1 the one depth. SaveDepthGrid reads it.
+Field_Table Depth_Grid_Fields();
 
 /// What frmGridDescrip holds beside its table.
 struct Depth_Grid_Entry {

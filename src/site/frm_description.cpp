@@ -4,7 +4,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "core/book_numbers.h"
@@ -12,7 +11,6 @@
 #include "core/desk/screen_register.h"
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
-#include "core/number_text.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/density_endpoints.h"
 #include "site/density_table.h"
@@ -25,14 +23,7 @@ namespace {
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDescription");
 constexpr int kOkWithoutButton = 3, kCloseWithoutButton = 4;
 constexpr int kComputesDensity = 0, kVariableDepth = 1;  // Check3D1, and Command2 beside it
-constexpr char kOpeningDimension[] = "####.00";
 constexpr char kEditedDimension[] = "##,###.00";
-
-QGroupBox* Group(const QString& title, QVBoxLayout* column) {
-  auto* frame = new QGroupBox(title);
-  column->addWidget(frame);
-  return frame;
-}
 
 /// A check box and, at the right, the button that it makes available.
 void Add_Choice(Field_Rows& rows, QCheckBox* box, const QString& caption, QPushButton* button,
@@ -70,19 +61,12 @@ frmDescription::~frmDescription() {
 }
 
 QWidget* frmDescription::Grid_Frames() {
-  const QString limits = QStringLiteral(" (8 to %1)").arg(kMaxGridPoints);
   auto* part = new QWidget(this);
   auto* column = new QVBoxLayout(part);
   column->setContentsMargins(0, 0, 0, 0);
-  Field_Rows points(Group(QStringLiteral("Number of Grid Points in:"), column));
-  points.Number("Z-Direction (Left to Right)" + limits, Text1(kZPoints), Cut_Note, "NMAX0");
-  points.Number("X-Direction (Top to Bottom)" + limits, Text1(kXPoints), Cut_Note, "MMAX0");
-  Field_Rows spacing(Group(QStringLiteral("Spacing (ft) between Grid Points"), column));
-  spacing.Number("Z-Dir (Left to Right)", Text1(kZSpacing), Real_Note, "DZ0");
-  spacing.Number("X-Dir (Top to Bottom)", Text1(kXSpacing), Real_Note, "DX0");
-  Field_Rows dimensions(Group(QStringLiteral("Disposal Grid Dimensions"), column));
-  dimensions.Shown("Width (ft) [Z-Dir]", Text2(0), "DistZ");
-  dimensions.Shown("Length (ft) [X-Dir]", Text2(1), "DistX");
+  for (const char* frame : {kPointsFrame, kSpacingFrame, kDimensionsFrame}) {
+    column->addWidget(fields_.Frame(frame));
+  }
   column->addStretch();
   return part;
 }
@@ -91,20 +75,14 @@ QWidget* frmDescription::Depth_Frames() {
   auto* part = new QWidget(this);
   auto* column = new QVBoxLayout(part);
   column->setContentsMargins(0, 0, 0, 0);
-  Field_Rows bottom(Group(QStringLiteral("Water Depth and Bottom"), column));
-  Label1_4 = bottom.Number("Constant Water Depth (ft) at Disposal Site", Text1(kConstantDepth),
-                           Real_Note, "DEPC0");
-  Label1_4->setObjectName(QStringLiteral("Label1(4)"));
+  auto* frame = new QGroupBox(QStringLiteral("Water Depth and Bottom"), part);
+  Field_Rows bottom(frame);
+  fields_.Add(bottom, {"Text1", kConstantDepth});
   Add_Choice(bottom, Check3D1(kVariableDepth), "Specify Variable Depth Grid?",
              Command2(kVariableDepth), "Define Grid");
-  bottom.Number(
-      "Roughness Height (ft) at Bottom in X-Direction (Typically from 0.0005 to  0.05 ft)",
-      Text1(kRoughness), Real_Note, "RHDA0");
-  Field_Rows slopes(Group(QStringLiteral("Slope (deg) of Bottom in:"), column));
-  slopes.Number("X-Direction (+ Depth Increases Top to Bottom)", Text1(kXSlope), Real_Note,
-                "SLOPEX0");
-  slopes.Number("Z-Direction (+ Depth Increases Left to Right)", Text1(kZSlope), Real_Note,
-                "SLOPEZ0");
+  fields_.Add(bottom, {"Text1", kRoughness});
+  column->addWidget(frame);
+  column->addWidget(fields_.Frame(kSlopeFrame));
   column->addStretch();
   return part;
 }
@@ -114,10 +92,7 @@ QWidget* frmDescription::Density_Frame() {
   auto* entries = new QWidget(frame);
   Field_Rows rows(entries);
   rows.layout()->setContentsMargins(0, 0, 0, 0);
-  rows.Number(
-      "Number of Points to Describe Water Density Profile (max 5).  Enter Increasing Depths "
-      "Starting From Surface.",
-      Text1(kDensityPoints), Whole_Note, "NROA0");
+  fields_.Add(rows, {"Text1", kDensityPoints});
   Add_Choice(rows, Check3D1(kComputesDensity), "Compute Density Based on Salinity and Temperature?",
              Command2(kComputesDensity), "Compute Density");
   rows.Whole_Row(F1Book1);
@@ -158,22 +133,13 @@ void frmDescription::Connect() {
 void frmDescription::Opening() {
   Take_Site_Defaults(record_);
   Lay_Out_Density_Table(false, F1Book1->table());
-  Set_Text1(kZPoints, Format_Number(record_.NMAX0, "#######0"));
-  Set_Text1(kXPoints, Format_Number(record_.MMAX0, "#######0"));
-  Set_Text1(kZSpacing, Format_Number(record_.DZ0, "####0.00"));
-  Set_Text1(kXSpacing, Format_Number(record_.DX0, "####0.00"));
   Take_Dimensions(record_);
-  Show_Dimensions(kOpeningDimension);
-  Set_Text1(kConstantDepth, Format_Number(record_.DEPC0, "#####0.0"));
+  fields_.Follow(Faces_Of(Site_Fields(), record_));
+  const Field_Texts texts = Fill_Fields(Site_Fields(), record_);
+  for (int i = 0; i < 2; ++i) Text2(i)->setText(QString::fromStdString(texts("Text2", i)));
+  for (int i = kZPoints; i <= kConstantDepth; ++i) Set_Text1(i, texts("Text1", i));
   if (record_.ConstantDepthFlag == 0) Set_Check(kVariableDepth, true);
-  Set_Text1(kRoughness, Format_Number(record_.RHDA0, "#0.00000"));
-  const bool has_slopes = Has_Slopes(record_);
-  for (const auto& [field, slope] :
-       {std::pair(kXSlope, record_.SLOPEX0), std::pair(kZSlope, record_.SLOPEZ0)}) {
-    Text1(field)->setEnabled(has_slopes);
-    Set_Text1(field, has_slopes ? Format_Number(slope, "#####0.00") : "0");
-  }
-  Set_Text1(kDensityPoints, Format_Number(record_.NROA0, "#######0"));
+  for (int i = kRoughness; i < kSiteFields; ++i) Set_Text1(i, texts("Text1", i));
   F1Book1->table().ClearAll();
   Take_Wizard_Densities(record_);
   const bool computed = record_.DensityComputeFlag != kFalse;
@@ -183,7 +149,7 @@ void frmDescription::Opening() {
   Show_Profile();
 }
 
-void frmDescription::Activated() { copy_ = Copy_Site(Entry(), record_); }
+void frmDescription::Activated() { copy_ = Copy_Vars(Entry(), record_); }
 
 void frmDescription::Command1_Click(int index) {
   switch (index) {
@@ -224,7 +190,7 @@ void frmDescription::Text1_Change(int index) {
   // While it opens, the screen shows the dimensions by itself.
   if (FillingForm) return;
   Take_Dimensions(Entry(), record_);
-  Show_Dimensions(kEditedDimension);
+  Show_Dimensions();
   Show_Profile();
 }
 
@@ -232,7 +198,7 @@ void frmDescription::Check3D1_Click(int index) {
   const bool checked = Check3D1(index)->isChecked();
   Command2(index)->setEnabled(checked);
   if (index == kVariableDepth) {
-    Label1_4->setEnabled(!checked);
+    fields_.Label({"Text1", kConstantDepth})->setEnabled(!checked);
     Text1(kConstantDepth)->setEnabled(!checked);
     Choose_Variable_Depth(checked, record_);
   } else {
@@ -262,11 +228,10 @@ void frmDescription::Save() {
   Spreadsheet_Table& table = F1Book1->table();
   if (Check3D1(kComputesDensity)->isChecked() && !Compute_Density_Table(table, record_)) return;
   Site_Entry entry = Entry();
-  const std::string points = entry.Text1[kDensityPoints];
+  const std::string points = entry.texts("Text1", kDensityPoints);
   const bool ready_to_close = EnsureDensityEndpoints(entry, table, record_);
-  if (entry.Text1[kDensityPoints] != points) {
-    Set_Text1(kDensityPoints, entry.Text1[kDensityPoints]);
-  }
+  const std::string& needed = entry.texts("Text1", kDensityPoints);
+  if (needed != points) Set_Text1(kDensityPoints, needed);
   SaveSiteData(entry, table, record_);
   Show_Profile();
   if (ready_to_close) Unload();
@@ -281,17 +246,15 @@ void frmDescription::Reset() {
 
 Site_Entry frmDescription::Entry() const {
   Site_Entry entry;
-  for (int i = 0; i < kSiteFields; ++i) {
-    entry.Text1[i] = Text1(i)->text().toStdString();
-  }
+  entry.texts = fields_.Texts();
   entry.computes_density = Check3D1(kComputesDensity)->isChecked();
   entry.variable_depth = Check3D1(kVariableDepth)->isChecked();
   return entry;
 }
 
-void frmDescription::Show_Dimensions(const char* pattern) {
-  Text2(0)->setText(QString::fromStdString(Format_Number(record_.DistZ, pattern)));
-  Text2(1)->setText(QString::fromStdString(Format_Number(record_.DistX, pattern)));
+void frmDescription::Show_Dimensions() {
+  Text2(0)->setText(QString::fromStdString(Format_Number(record_.DistZ, kEditedDimension)));
+  Text2(1)->setText(QString::fromStdString(Format_Number(record_.DistX, kEditedDimension)));
 }
 
 void frmDescription::Show_Profile() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <string>
@@ -9,6 +8,7 @@
 #include "core/project_record.h"
 #include "pictures/density_profile.h"
 #include "platform/qt/fields/control_array.h"
+#include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/table/spreadsheet_view.h"
 #include "site/site_data.h"
@@ -45,7 +45,7 @@ class frmDescription : public Input_Screen {
   void Reset();
 
   Site_Entry Entry() const;
-  void Show_Dimensions(const char* pattern);
+  void Show_Dimensions();
   void Show_Profile();
   void Tell_Boxes();
 
@@ -57,7 +57,7 @@ class frmDescription : public Input_Screen {
   ControlArray<QLineEdit> Text2{this, "Text2", 2};  // DistZ, DistX
   ControlArray<QCheckBox> Check3D1{this, "Check3D1", 2};
   ControlArray<QPushButton> Command2{this, "Command2", 2};
-  QLabel* Label1_4 = nullptr;  // Label1(4), the constant depth's
+  Table_Fields fields_{this, Faces_Of(Site_Fields(), Project())};
   F1Book* F1Book1;
   Density_Profile* profile_;
 };

@@ -8,7 +8,6 @@
 #include "core/book_numbers.h"
 #include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/field_rows.h"
@@ -29,6 +28,7 @@ frmGridDescrip::frmGridDescrip(QWidget* workspace)
       record_(Project()),
       Check3D2(Named(new QCheckBox(this), "Check3D2")),
       Text1(Named(new QLineEdit(this), "Text1")),
+      fields_(this, Faces_Of(Depth_Grid_Fields(), record_)),
       Command2(Named(new QPushButton(this), "Command2")),
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       map_(Named(new Depth_Map(this), "DepthMap")),
@@ -49,7 +49,7 @@ QWidget* frmGridDescrip::Initial_Frame() {
   Check3D2->setText(
       QStringLiteral("Do you wish to initialize the depth grid to a constant non-zero value?"));
   rows.Whole_Row(Check3D2);
-  rows.Number("Depth (ft) to be used for Initializing the Grid", Text1, Real_Note, "DEPTHI");
+  fields_.Add(rows, {"Text1"});
   Text1->setEnabled(false);
   Command2->setText(QStringLiteral("Initialize Grid"));
   Command2->setAutoDefault(false);
@@ -100,7 +100,7 @@ void frmGridDescrip::Opening() {
   }
   {
     const QSignalBlocker quiet(Text1);
-    Text1->setText(QString::fromStdString(Format_Number(record_.DEPTHI, "###0.00")));
+    fields_.Show(Fill_Fields(Depth_Grid_Fields(), record_));
   }
   Text1_Change();
   ShowDepthGrid(size_, Check3D2->isChecked(), record_, F1Book1->table());

@@ -6,6 +6,7 @@
 
 #include "core/project_record.h"
 #include "pictures/depth_map.h"
+#include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/table/spreadsheet_view.h"
 #include "site/depth_grid.h"
@@ -46,6 +47,7 @@ class frmGridDescrip : public Input_Screen {
 
   QCheckBox* Check3D2;
   QLineEdit* Text1;
+  Table_Fields fields_;
   QPushButton* Command2;
   F1Book* F1Book1;
   Depth_Map* map_;

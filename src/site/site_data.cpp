@@ -16,7 +16,6 @@
 namespace barvon {
 namespace {
 
-constexpr int kLeastGridPoints = 8;
 constexpr int kLeastDensityPoints = 2;
 constexpr double kUsualRoughness = 0.005;
 // The label and the rules allow 0.0005; the warning comes earlier all the same.
@@ -24,7 +23,7 @@ constexpr double kLowRoughness = 0.001;
 constexpr double kHighRoughness = 0.05;
 
 double Number(const Site_Entry& entry, Site_Field field) {
-  return Lenient_Number(entry.Text1[field]);
+  return Lenient_Number(entry.texts("Text1", field));
 }
 
 bool Check_Grid_Count(double count) {
@@ -46,17 +45,6 @@ bool Check_Density_Points(double count) {
   if (count >= kLeastDensityPoints && count <= kMaxDensityPoints) return true;
   Show_Message({"Number of Density Points Must Be Between 2 and 5"});
   return false;
-}
-
-std::int16_t Held_Grid_Count(double count) {
-  const double held = std::clamp<double>(Int(count), kLeastGridPoints, kMaxGridPoints);
-  return static_cast<std::int16_t>(held);
-}
-
-std::int16_t Held_Density_Points(double count) {
-  if (count >= kMaxDensityPoints) return kMaxDensityPoints;
-  if (count < kLeastDensityPoints) return kLeastDensityPoints;
-  return To_Int16(count);
 }
 
 // Half of the product's zeros would be negative ones.
@@ -94,8 +82,6 @@ void Take_Wizard_Densities(ProjectRecord& record) {
   }
   for (int i = 1; i <= 2; ++i) record.Densities[i] = *density[i];
 }
-
-bool Has_Slopes(const ProjectRecord& record) { return Has_Vessel(record); }
 
 bool Check_Site_Text(int index, const std::string& text) {
   const double number = Lenient_Number(text);
@@ -140,22 +126,15 @@ void Choose_Variable_Depth(bool variable, ProjectRecord& record) {
 void SaveSiteData(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,
                   ProjectRecord& record) {
   record.DataSaved = kFalse;
-  record.NMAX0 = Held_Grid_Count(Number(entry, kZPoints));
-  record.MMAX0 = Held_Grid_Count(Number(entry, kXPoints));
-  record.DZ0 = Number(entry, kZSpacing);
-  record.DX0 = Number(entry, kXSpacing);
-  record.DEPC0 = entry.variable_depth ? 0 : Number(entry, kConstantDepth);
+  Read_Fields(Site_Fields(), entry.texts, record);  // its counts are held: no text is refused
+  if (entry.variable_depth) record.DEPC0 = 0;
   record.ConstantDepthFlag = entry.variable_depth ? 0 : 1;
-  record.RHDA0 = Number(entry, kRoughness);
-  record.SLOPEX0 = Number(entry, kXSlope);
-  record.SLOPEZ0 = Number(entry, kZSlope);
-  record.NROA0 = Held_Density_Points(Number(entry, kDensityPoints));
   for (int row = 1; row <= record.NROA0; ++row) {
     Take_Density_Row(F1Book1, row, entry.computes_density, record);
   }
 }
 
-Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record) {
+Site_Copy Copy_Vars(const Site_Entry& entry, const ProjectRecord& record) {
   return {record.NMAX0, record.MMAX0,           record.NROA0,        record.DZ0,
           record.DX0,   record.RHDA0,           record.SLOPEX0,      record.SLOPEZ0,
           record.DEPC0, entry.computes_density, entry.variable_depth};

@@ -1,32 +1,19 @@
 #pragma once
 
-#include <array>
+#include <cstdint>
 #include <string>
 
 #include "core/project_record.h"
 #include "platform/table/spreadsheet_table.h"
+#include "site/site_fields.h"
 
 namespace barvon {
 
-/// The fields of frmDescription, by the index of Text1.
-enum Site_Field {
-  kZPoints = 0,
-  kXPoints,
-  kZSpacing,       // ft
-  kXSpacing,       // ft
-  kConstantDepth,  // ft
-  kRoughness,      // ft
-  kXSlope,         // degrees
-  kZSlope,         // degrees
-  kDensityPoints,
-  kSiteFields
-};
-
 /// What frmDescription holds beside its density table.
 struct Site_Entry {
-  std::array<std::string, kSiteFields> Text1;  // as typed
-  bool computes_density = false;               // Check3D1(0)
-  bool variable_depth = false;                 // Check3D1(1)
+  Field_Texts texts;              // of Site_Fields(), as typed
+  bool computes_density = false;  // Check3D1(0)
+  bool variable_depth = false;    // Check3D1(1)
 };
 
 /// What the opening screen changes in the record: a roughness height of 0 becomes 0.005, the count
@@ -36,9 +23,6 @@ void Take_Site_Defaults(ProjectRecord& record);
 /// With the wizard open, the profile becomes its water at the surface and at the bottom. Water
 /// without a finite density is told and keeps the densities as they were.
 void Take_Wizard_Densities(ProjectRecord& record);
-
-/// Whether slopes can be given, that is for hopper and barge.
-bool Has_Slopes(const ProjectRecord& record);
 
 /// What a change of Text1(index) has to say. False when nothing may follow it: neither the number
 /// of density rows nor the grid's dimensions.
@@ -67,7 +51,7 @@ struct Site_Copy {
   bool computes_density = false, variable_depth = false;  // the check boxes
 };
 
-Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record);
+Site_Copy Copy_Vars(const Site_Entry& entry, const ProjectRecord& record);
 
 /// Copies the values back into the record. Densities, dimensions and the velocity profile are not
 /// among them; the check boxes are the screen's to put back.

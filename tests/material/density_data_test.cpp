@@ -4,7 +4,6 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
-#include <array>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -33,11 +32,20 @@ class DensityData : public ::testing::Test {
     *before = record;
   }
 
+  static Field_Texts Texts(const std::string& salinity, const std::string& temperature,
+                           const std::string& density) {
+    Field_Texts texts;
+    texts("Text3", 0) = salinity;
+    texts("Text3", 1) = temperature;
+    texts("Text3", 2) = density;
+    return texts;
+  }
+
   Fields Changed() const { return Differing_Fields(*before, record); }
 
   /// "Compute" of these texts, with the box set.
   std::optional<int> Compute(const std::string& salinity, const std::string& temperature) {
-    entry = {{salinity, temperature, "1.2345"}, true};
+    entry = {Texts(salinity, temperature, "1.2345"), true};
     return Compute_Water_Density(entry, record);
   }
 
@@ -51,12 +59,12 @@ class DensityData : public ::testing::Test {
     EXPECT_EQ(messages.shown[0].icon, Icon::Warning);
     EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
     EXPECT_EQ(Changed(), Fields{});
-    EXPECT_EQ(entry.Text3, (std::array<std::string, 3>{salinity, temperature, "1.2345"}));
+    EXPECT_EQ(entry.texts, Texts(salinity, temperature, "1.2345"));
   }
 
   void Save(const std::string& salinity, const std::string& temperature,
             const std::string& density) {
-    entry = {{salinity, temperature, density}, false};
+    entry = {Texts(salinity, temperature, density), false};
     Save_Data(entry, record);
   }
 
@@ -82,7 +90,7 @@ class DensityData : public ::testing::Test {
 
 TEST_F(DensityData, Opens_With_The_Records_Values_And_The_Box_Off) {
   const Density_Entry shown = Open_Density(record);
-  EXPECT_EQ(shown.Text3, (std::array<std::string, 3>{"12.50", "8.25", "1.0100"}));
+  EXPECT_EQ(shown.texts, Texts("12.50", "8.25", "1.0100"));
   EXPECT_FALSE(shown.Check3D3);
   EXPECT_EQ(Changed(), Fields{});
 }
@@ -91,8 +99,7 @@ TEST_F(DensityData, Shows_Two_Decimals_Of_Salinity_And_Temperature_And_Four_Of_D
   record.SiteSalinity = 1234567.005;  // half away from zero
   record.SiteTemperature = -0.004;    // a 0 has no sign
   record.SiteDensity = 1.02345;
-  EXPECT_EQ(Open_Density(record).Text3,
-            (std::array<std::string, 3>{"1234567.01", "0.00", "1.0235"}));
+  EXPECT_EQ(Open_Density(record).texts, Texts("1234567.01", "0.00", "1.0235"));
   EXPECT_EQ(record.SiteDensity, 1.02345);
 }
 
@@ -107,7 +114,7 @@ TEST_F(DensityData, Opening_Holds_The_Density_To_Its_Limits_Without_A_Message) {
         Case{0.972, 0.972, "0.9720"}, Case{1.05, 1.05, "1.0500"}, Case{1.0501, 1.05, "1.0500"},
         Case{2650, 1.05, "1.0500"}}) {
     record.SiteDensity = c.density;
-    EXPECT_EQ(Open_Density(record).Text3[2], c.shown) << c.density;
+    EXPECT_EQ(Open_Density(record).texts("Text3", 2), c.shown) << c.density;
     EXPECT_EQ(record.SiteDensity, c.held) << c.density;
   }
   EXPECT_EQ(record.DataSaved, kTrue);
@@ -119,21 +126,21 @@ TEST_F(DensityData, Compute_Takes_The_Density_From_Salinity_And_Temperature) {
   EXPECT_EQ(record.SiteSalinity, 35);
   EXPECT_EQ(record.SiteTemperature, 20);
   EXPECT_NEAR(record.SiteDensity, 1.025060, 5e-7);
-  EXPECT_EQ(entry.Text3, (std::array<std::string, 3>{"35", "20", "1.0251"}));
+  EXPECT_EQ(entry.texts, Texts("35", "20", "1.0251"));
   EXPECT_EQ(Changed(), (Fields{"SiteSalinity", "SiteTemperature", "SiteDensity"}));
 }
 
 TEST_F(DensityData, Compute_Of_Fresh_Water) {
   EXPECT_EQ(Compute("0", "4"), std::nullopt);
-  EXPECT_EQ(entry.Text3[2], "1.0000");
+  EXPECT_EQ(entry.texts("Text3", 2), "1.0000");
   EXPECT_NEAR(record.SiteDensity, 1.000038, 5e-7);
 }
 
 TEST_F(DensityData, Compute_With_The_Box_Off_Takes_The_Two_Values_And_Shows_The_Old_Density) {
-  entry = {{"35", "20", "1.2345"}, false};
+  entry = {Texts("35", "20", "1.2345"), false};
   EXPECT_EQ(Compute_Water_Density(entry, record), std::nullopt);
   EXPECT_EQ(Changed(), (Fields{"SiteSalinity", "SiteTemperature"}));
-  EXPECT_EQ(entry.Text3[2], "1.0100");
+  EXPECT_EQ(entry.texts("Text3", 2), "1.0100");
   record.SiteDensity = 3;
   Compute_Water_Density(entry, record);
   EXPECT_EQ(record.SiteDensity, 1.05);
@@ -144,10 +151,10 @@ TEST_F(DensityData, Compute_Holds_The_Density_To_Its_Limits_Without_A_Message) {
   Scripted_Messages silent;
   EXPECT_EQ(Compute("100", "10"), std::nullopt);
   EXPECT_EQ(record.SiteDensity, 1.05);
-  EXPECT_EQ(entry.Text3[2], "1.0500");
+  EXPECT_EQ(entry.texts("Text3", 2), "1.0500");
   EXPECT_EQ(Compute("-100", "10"), std::nullopt);
   EXPECT_EQ(record.SiteDensity, 0.972);
-  EXPECT_EQ(entry.Text3[2], "0.9720");
+  EXPECT_EQ(entry.texts("Text3", 2), "0.9720");
 }
 
 TEST_F(DensityData, Compute_Takes_Every_Way_To_Write_One_Number) {
@@ -219,7 +226,7 @@ TEST_F(DensityData, Compute_Refuses_What_Starts_With_A_Number_Only) {
 
 TEST_F(DensityData, Compute_With_The_Box_Off_Is_As_Strict) {
   Scripted_Messages messages({Answer::Ok});
-  entry = {{"35", "x", "1.2345"}, false};
+  entry = {Texts("35", "x", "1.2345"), false};
   EXPECT_EQ(Compute_Water_Density(entry, record), 1);
   EXPECT_EQ(messages.shown.size(), 1u);
   EXPECT_EQ(Changed(), Fields{});
@@ -253,7 +260,7 @@ TEST_F(DensityData, Compute_Refuses_Water_Without_A_Density_And_Leads_To_What_Is
 
 TEST_F(DensityData, With_The_Box_Off_No_Water_Is_Refused) {
   Scripted_Messages silent;
-  entry = {{"35", "-67.26", "1.2345"}, false};
+  entry = {Texts("35", "-67.26", "1.2345"), false};
   EXPECT_EQ(Compute_Water_Density(entry, record), std::nullopt);
   EXPECT_EQ(record.SiteTemperature, -67.26);
 }
@@ -264,7 +271,7 @@ TEST_F(DensityData, Save_Stores_All_Three_As_Typed) {
   EXPECT_EQ(record.SiteSalinity, 30.5);
   EXPECT_EQ(record.SiteTemperature, -1.25);
   EXPECT_EQ(record.SiteDensity, 1.0234567);
-  EXPECT_EQ(entry.Text3[2], "1.0235");
+  EXPECT_EQ(entry.texts("Text3", 2), "1.0235");
   EXPECT_EQ(Changed(), (Fields{"DataSaved", "SiteSalinity", "SiteTemperature", "SiteDensity"}));
   EXPECT_EQ(record.DataSaved, kFalse);
 }
@@ -295,11 +302,11 @@ TEST_F(DensityData, The_Limits_Themselves_Pass_Without_A_Message) {
 
 TEST_F(DensityData, A_Density_Outside_The_Limits_Is_Told_And_The_Save_Goes_On) {
   Expect_Told("0.9719", "Minimum Density is 0.972 grams/cc", 0.972);
-  EXPECT_EQ(entry.Text3[2], "0.9720");
+  EXPECT_EQ(entry.texts("Text3", 2), "0.9720");
   Expect_Told("", "Minimum Density is 0.972 grams/cc", 0.972);
   Expect_Told("-1", "Minimum Density is 0.972 grams/cc", 0.972);
   Expect_Told("1.0501", "Maximum Density is 1.050 grams/cc", 1.05);
-  EXPECT_EQ(entry.Text3[2], "1.0500");
+  EXPECT_EQ(entry.texts("Text3", 2), "1.0500");
   Expect_Told("2.0", "Maximum Density is 1.050 grams/cc", 1.05);
 }
 
@@ -339,7 +346,7 @@ RC_GTEST_FIXTURE_PROP(DensityData, Compute_Refuses_Just_What_Would_Be_Marked, ()
   }
   if (wrong) {
     RC_ASSERT(Changed() == Fields{});
-    RC_ASSERT(entry.Text3[2] == "1.2345");
+    RC_ASSERT(entry.texts("Text3", 2) == "1.2345");
   }
   RC_ASSERT(record.SiteDensity >= 0.972 && record.SiteDensity <= 1.05);
 }
@@ -352,7 +359,7 @@ RC_GTEST_FIXTURE_PROP(DensityData, Save_Takes_Any_Text_And_Stores_A_Density_With
   RC_ASSERT(std::isfinite(record.SiteSalinity) && std::isfinite(record.SiteTemperature));
   // What is stored is shown again when the screen opens, and stored again as it is shown.
   const Density_Entry shown = Open_Density(record);
-  RC_ASSERT(shown.Text3[2] == entry.Text3[2]);
+  RC_ASSERT(shown.texts("Text3", 2) == entry.texts("Text3", 2));
 }
 
 }  // namespace

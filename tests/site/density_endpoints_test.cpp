@@ -33,7 +33,7 @@ const std::string kBottomRow =
 /// A site with a constant depth of 30.6 ft, unless a test says otherwise.
 class DensityEndpoints : public ::testing::Test {
  protected:
-  DensityEndpoints() { entry_.Text1[kConstantDepth] = "30.6"; }
+  DensityEndpoints() { entry_.texts("Text1", kConstantDepth) = "30.6"; }
 
   /// n rows: the first at the surface or at 2 ft, the last at the bottom or at 20 ft.
   void Make(int n, int result) {
@@ -42,7 +42,7 @@ class DensityEndpoints : public ::testing::Test {
     rows.front().first = result == 1 || result == 3 ? 0 : 2;
     rows.back().first = result == 2 || result == 3 ? 30.6 : 20;
     table_ = Typed_Profile(rows);
-    entry_.Text1[kDensityPoints] = std::to_string(n);
+    entry_.texts("Text1", kDensityPoints) = std::to_string(n);
   }
 
   /// Runs it with these answers; the questions asked.
@@ -94,7 +94,7 @@ TEST_F(DensityEndpoints, Each_Count_And_Each_State_Ask_Their_Own_Questions) {
       const bool adds = c.n < 5 && answer == Answer::Yes;
       const int rows = c.n + (adds ? static_cast<int>(c.asked.size()) : 0);
       EXPECT_EQ(table_->MaxRow(), rows) << c.n << " " << c.result;
-      EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(rows));
+      EXPECT_EQ(entry_.texts("Text1", kDensityPoints), std::to_string(rows));
       EXPECT_EQ(ready_to_close_, rows == c.n) << c.n << " " << c.result;
     }
   }
@@ -106,13 +106,13 @@ TEST_F(DensityEndpoints, Each_Question_Has_An_Answer_Of_Its_Own) {
     Ensure({Answer::Yes, Answer::No});
     EXPECT_EQ(table_->ShownRC(1, 1), "2.0");
     EXPECT_EQ(table_->ShownRC(n + 1, 1), "30.6");
-    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n + 1));
+    EXPECT_EQ(entry_.texts("Text1", kDensityPoints), std::to_string(n + 1));
     EXPECT_FALSE(ready_to_close_) << "the row that was added is not filled yet";
     Make(n, 0);
     Ensure({Answer::No, Answer::Yes});
     EXPECT_EQ(table_->ShownRC(1, 1), "0.0");
     EXPECT_EQ(table_->ShownRC(n + 1, 1), "20.0");
-    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n + 1));
+    EXPECT_EQ(entry_.texts("Text1", kDensityPoints), std::to_string(n + 1));
     EXPECT_FALSE(ready_to_close_);
   }
   Make(5, 0);
@@ -126,11 +126,11 @@ TEST_F(DensityEndpoints, Each_Question_Has_An_Answer_Of_Its_Own) {
 TEST_F(DensityEndpoints, A_Bottom_Beyond_32_Bits_Is_Refused_In_Words_And_Adds_No_Row) {
   for (const int n : {2, 4}) {
     Make(n, 1);
-    entry_.Text1[kConstantDepth] = "1e300";
+    entry_.texts("Text1", kConstantDepth) = "1e300";
     EXPECT_EQ(Ensure({Answer::Yes, Answer::Ok}),
               (Texts{kBottomRow, "The Bottom Depth Is Too Large.  Please Correct It."}));
     EXPECT_EQ(table_->MaxRow(), n);
-    EXPECT_EQ(entry_.Text1[kDensityPoints], std::to_string(n));
+    EXPECT_EQ(entry_.texts("Text1", kDensityPoints), std::to_string(n));
     EXPECT_TRUE(ready_to_close_);
   }
 }
@@ -138,26 +138,26 @@ TEST_F(DensityEndpoints, A_Bottom_Beyond_32_Bits_Is_Refused_In_Words_And_Adds_No
 TEST_F(DensityEndpoints, A_Count_Outside_2_To_5_Asks_Nothing) {
   for (const char* count : {"1", "0", "-3", "6", "97", "", "many", "1e300", "-1e300"}) {
     Make(3, 0);
-    entry_.Text1[kDensityPoints] = count;
+    entry_.texts("Text1", kDensityPoints) = count;
     EXPECT_EQ(Ensure({}), Texts{}) << count;
     EXPECT_TRUE(ready_to_close_);
     EXPECT_EQ(table_->MaxRow(), 3);
-    EXPECT_EQ(entry_.Text1[kDensityPoints], count);
+    EXPECT_EQ(entry_.texts("Text1", kDensityPoints), count);
   }
 }
 
 TEST_F(DensityEndpoints, The_Count_Is_Rounded_Half_To_Even) {
   Make(4, 0);
-  entry_.Text1[kDensityPoints] = "4.5";  // 4: one row is free
+  entry_.texts("Text1", kDensityPoints) = "4.5";  // 4: one row is free
   EXPECT_EQ(Ensure({Answer::No}), Texts{kBottomRow});
   Make(4, 0);
-  entry_.Text1[kDensityPoints] = "3.5";  // 4
+  entry_.texts("Text1", kDensityPoints) = "3.5";  // 4
   EXPECT_EQ(Ensure({Answer::No}), Texts{kBottomRow});
   Make(3, 0);
-  entry_.Text1[kDensityPoints] = "1.5";  // 2
+  entry_.texts("Text1", kDensityPoints) = "1.5";  // 2
   EXPECT_EQ(Ensure({Answer::No, Answer::No}), (Texts{kBottomRow, kSurfaceRow}));
   Make(5, 0);
-  entry_.Text1[kDensityPoints] = "5.5";  // 6
+  entry_.texts("Text1", kDensityPoints) = "5.5";  // 6
   EXPECT_EQ(Ensure({}), Texts{});
 }
 
@@ -182,7 +182,7 @@ TEST_F(DensityEndpoints, Two_Rows_With_Neither_End_Right_And_Yes_Twice_End_With_
 }
 
 TEST_F(DensityEndpoints, A_Row_More_At_The_Bottom_Is_Not_Rounded) {
-  entry_.Text1[kConstantDepth] = "30.64";
+  entry_.texts("Text1", kConstantDepth) = "30.64";
   Make(4, 1);
   Ensure({Answer::Yes});
   EXPECT_EQ(table_->NumberRC(5, 1), 30.64);
@@ -197,7 +197,7 @@ TEST_F(DensityEndpoints, Without_A_Free_Row_The_Last_Depth_Is_Taken_In_Whole_Fee
       {"30.6", "31.0"}, {"30.4", "30.0"}, {"30.5", "30.0"}, {"31.5", "32.0"}};
   for (const auto& [typed, shown] : depths) {
     Make(5, 1);
-    entry_.Text1[kConstantDepth] = typed;
+    entry_.texts("Text1", kConstantDepth) = typed;
     Ensure({Answer::Yes});
     EXPECT_EQ(table_->ShownRC(5, 1), shown);
     EXPECT_EQ(table_->MaxRow(), 5);
@@ -208,7 +208,7 @@ TEST_F(DensityEndpoints, Without_A_Free_Row_The_Last_Depth_Is_Taken_In_Whole_Fee
 TEST_F(DensityEndpoints, A_Bottom_That_Rounds_To_0_Asks_For_Its_Depth) {
   Make(5, 1);
   table_->NumberRC(5, 1, 0.1);
-  entry_.Text1[kConstantDepth] = "0.4";
+  entry_.texts("Text1", kConstantDepth) = "0.4";
   EXPECT_EQ(Ensure({Answer::Yes, Answer::Ok}),
             (Texts{kLastIsBottom, "Please Provide Value for Bottom Depth."}));
   EXPECT_EQ(last_.title, "BARVON");
@@ -219,14 +219,14 @@ TEST_F(DensityEndpoints, A_Bottom_That_Rounds_To_0_Asks_For_Its_Depth) {
 
 TEST_F(DensityEndpoints, A_Bottom_Beyond_16_Bits_Is_Refused_In_Words) {
   Make(5, 1);
-  entry_.Text1[kConstantDepth] = "32768";
+  entry_.texts("Text1", kConstantDepth) = "32768";
   EXPECT_EQ(Ensure({Answer::Yes, Answer::Ok}),
             (Texts{kLastIsBottom,
                    "The Bottom Depth Is Too Large to be Taken in Whole Feet.  "
                    "Please Correct It."}));
   EXPECT_EQ(table_->NumberRC(5, 1), 20);
   Make(5, 1);
-  entry_.Text1[kConstantDepth] = "32767";
+  entry_.texts("Text1", kConstantDepth) = "32767";
   Ensure({Answer::Yes});
   EXPECT_EQ(table_->NumberRC(5, 1), 32767);
 }
@@ -253,7 +253,7 @@ TEST_F(DensityEndpoints, A_New_First_Row_Leaves_Columns_3_And_4_Where_They_Are) 
   table_ = Computed_Profile({{2, 31, 11}, {30.6, 32, 12}});
   table_->TextRC(1, 4, "1.0200");
   table_->TextRC(2, 4, "1.0300");
-  entry_.Text1[kDensityPoints] = "2";
+  entry_.texts("Text1", kDensityPoints) = "2";
   Ensure({Answer::Yes});
   EXPECT_EQ(Shown_Column(*table_, 1), (Cells{"0.0", "2.0", "30.6"}));
   EXPECT_EQ(Shown_Column(*table_, 2), (Cells{"", "31.0", "32.0"}));
@@ -265,7 +265,7 @@ TEST_F(DensityEndpoints, Cells_That_A_New_Row_Leaves_Open_Are_Empty_Whatever_Sto
   table_ = Computed_Profile({{0, 31, 11}, {20, 32, 12}, {30, 33, 13}});
   table_->TextRC(3, 4, "1.0300");
   table_->MaxRow(2);  // the third row is kept below the table
-  entry_.Text1[kDensityPoints] = "2";
+  entry_.texts("Text1", kDensityPoints) = "2";
   Ensure({Answer::Yes});
   EXPECT_EQ(table_->ShownRC(3, 1), "30.6");
   for (int column = 2; column <= 4; ++column) EXPECT_TRUE(table_->IsEmptyRC(3, column)) << column;
@@ -314,8 +314,8 @@ RC_GTEST_PROP(DensityEndpointsProperty, Yes_To_Everything_Asks_Nothing_A_Second_
   for (int i = 0; i < n; ++i) rows.push_back({*rc::gen::inRange(0, 900) / 10.0, 1.0});
   const auto table = Typed_Profile(rows);
   Site_Entry entry;
-  entry.Text1[kDensityPoints] = std::to_string(n);
-  entry.Text1[kConstantDepth] = std::to_string(*rc::gen::inRange(1, 900)) + ".5";
+  entry.texts("Text1", kDensityPoints) = std::to_string(n);
+  entry.texts("Text1", kConstantDepth) = std::to_string(*rc::gen::inRange(1, 900)) + ".5";
   {
     const Scripted_Messages messages(std::vector<Answer>(2, Answer::Yes));
     EnsureDensityEndpoints(entry, *table, *record);

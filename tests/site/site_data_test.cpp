@@ -38,8 +38,11 @@ class SiteData : public ::testing::Test {
   /// Text1(index) of a sound site, with one other text.
   static Site_Entry Entry(int index = -1, const std::string& text = "") {
     Site_Entry entry;
-    entry.Text1 = {"40", "20", "100", "50", "30.6", "0.005", "0.5", "-0.25", "2"};
-    if (index >= 0) entry.Text1[static_cast<std::size_t>(index)] = text;
+    int field = 0;
+    for (const char* sound : {"40", "20", "100", "50", "30.6", "0.005", "0.5", "-0.25", "2"}) {
+      entry.texts("Text1", field++) = sound;
+    }
+    if (index >= 0) entry.texts("Text1", index) = text;
     return entry;
   }
 
@@ -210,7 +213,7 @@ TEST_F(SiteData, Dimensions_Are_One_Spacing_Less_Than_The_Points) {
 
 TEST_F(SiteData, A_Dimension_Is_Never_A_Negative_Zero) {
   Site_Entry entry = Entry(kZPoints, "0");
-  entry.Text1[kZSpacing] = "0";
+  entry.texts("Text1", kZSpacing) = "0";
   Take_Dimensions(entry, record_);
   EXPECT_FALSE(std::signbit(record_.DistZ));
 }
@@ -255,9 +258,12 @@ TEST_F(SiteData, Opening_Brings_Roughness_And_Density_Points_In) {
 
 TEST_F(SiteData, Slopes_Are_Those_Of_Hopper_And_Barge) {
   const std::pair<int, bool> methods[] = {{0, false}, {1, true}, {2, false}, {3, true}, {4, false}};
+  record_.SLOPEX0 = 0.5;
+  record_.SLOPEZ0 = -0.25;
   for (const auto& [method, has_slopes] : methods) {
     record_.DisposalMethod = static_cast<std::int16_t>(method);
-    EXPECT_EQ(Has_Slopes(record_), has_slopes) << method;
+    EXPECT_EQ(Fill_Fields(Site_Fields(), record_)("Text1", kXSlope), has_slopes ? "0.50" : "0");
+    EXPECT_EQ(Fill_Fields(Site_Fields(), record_)("Text1", kZSlope), has_slopes ? "-0.25" : "0");
   }
 }
 
@@ -303,7 +309,7 @@ TEST_F(SiteData, Water_Of_The_Wizard_Without_A_Density_Is_Told_And_The_Densities
 }
 
 TEST_F(SiteData, Cancel_Restores_Its_Nine_Fields_And_No_Others) {
-  const Site_Copy copy = Copy_Site(Entry(), record_);
+  const Site_Copy copy = Copy_Vars(Entry(), record_);
   const auto before = std::make_unique<ProjectRecord>(record_);
   Save(Entry());
   Take_Dimensions(Entry(), record_);
@@ -317,9 +323,11 @@ RC_GTEST_PROP(SiteDataProperty, A_Saved_Site_Is_Always_Within_Its_Limits, ()) {
   const auto record = std::make_unique<ProjectRecord>();
   const auto table = Typed_Profile({{0, 1}, {1, 1}});
   Site_Entry entry;
-  for (std::string& text : entry.Text1) text = *rc::gen::string<std::string>();
-  entry.Text1[kZPoints] = std::to_string(*rc::gen::arbitrary<int>());
-  entry.Text1[kDensityPoints] = std::to_string(*rc::gen::arbitrary<int>());
+  for (int field = 0; field < kSiteFields; ++field) {
+    entry.texts("Text1", field) = *rc::gen::string<std::string>();
+  }
+  entry.texts("Text1", kZPoints) = std::to_string(*rc::gen::arbitrary<int>());
+  entry.texts("Text1", kDensityPoints) = std::to_string(*rc::gen::arbitrary<int>());
   SaveSiteData(entry, *table, *record);
   RC_ASSERT(record->NMAX0 >= 8 && record->NMAX0 <= 96);
   RC_ASSERT(record->MMAX0 >= 8 && record->MMAX0 <= 96);

@@ -46,7 +46,9 @@ QLabel* Table_Fields::Label(const Control_Name& control) const {
 void Table_Fields::Show(const Field_Texts& texts) {
   for (const Field& field : fields_) {
     const std::string* text = texts.Find(field.face.control);
-    if (text != nullptr) field.line->setText(QString::fromStdString(*text));
+    if (text == nullptr) continue;
+    const QString shown = QString::fromStdString(*text);
+    if (field.line->text() != shown) field.line->setText(shown);
   }
 }
 

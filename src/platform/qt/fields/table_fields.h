@@ -34,7 +34,7 @@ class Table_Fields {
 
   /// The label of a field that has been laid out.
   QLabel* Label(const Control_Name& control) const;
-  /// Sets the fields that have a text.
+  /// Sets the fields that have a text. One that shows it already keeps its cursor and its history.
   void Show(const Field_Texts& texts);
   /// The texts of all fields that the project's keys show, whether or not their tab is in front.
   Field_Texts Texts() const;

@@ -90,6 +90,15 @@ TEST_F(TableFields, Texts_Go_Through_The_Fields) {
   EXPECT_EQ(fields.Texts(), texts);
 }
 
+TEST_F(TableFields, A_Text_That_Is_There_Already_Leaves_The_Cursor_Where_It_Is) {
+  Text1(0)->setText("12.5");
+  Text1(0)->setCursorPosition(1);
+  Field_Texts texts;
+  texts("Text1", 0) = "12.5";
+  fields.Show(texts);
+  EXPECT_EQ(Text1(0)->cursorPosition(), 1);
+}
+
 TEST_F(TableFields, Other_Keys_Change_Labels_Notes_And_What_Is_There) {
   std::vector<Field_Face> faces = Faces();
   faces[0].label = "Length of Barge";
