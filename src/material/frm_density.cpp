@@ -16,9 +16,10 @@ constexpr const Screen_Row& kScreen = Row_Of_Screen("frmDensity");
 frmDensity::frmDensity(QWidget* workspace)
     : Input_Screen(kScreen.name, workspace,
                    {.topic = kScreen.topic, .placement = Screen_Setup::Placement::Centre}),
+      record_(Project()),
       Check3D3(Named(new QCheckBox(this), "Check3D3")),
       Text3(this, "Text3", 3),
-      fields_(this, Faces_Of(Density_Fields(), Project())),
+      fields_(this, Faces_Of(Density_Fields(), record_)),
       Command2(Named(new QPushButton("&Compute", this), "Command2")) {
   setWindowTitle(QStringLiteral("Dredging Site Water Density"));
   Check3D3->setText(QStringLiteral("Compute Density Based on Salinity and Temperature?"));
@@ -40,10 +41,10 @@ frmDensity::frmDensity(QWidget* workspace)
 void frmDensity::Opening() {
   Check3D3->setChecked(false);
   Check3D3_Click();
-  fields_.Show(Open_Density(Project()).texts);
+  fields_.Show(Open_Density(record_).texts);
 }
 
-void frmDensity::Activated() { copy_ = Copy_Vars(Project()); }
+void frmDensity::Activated() { copy_ = Copy_Vars(record_); }
 
 void frmDensity::Check3D3_Click() {
   const bool computed = Check3D3->isChecked();
@@ -56,7 +57,7 @@ void frmDensity::Check3D3_Click() {
 
 void frmDensity::Command2_Click() {
   Density_Entry entry = Entry();
-  if (const auto wrong = Compute_Water_Density(entry, Project())) {
+  if (const auto wrong = Compute_Water_Density(entry, record_)) {
     Text3(*wrong)->setFocus();
     Text3(*wrong)->selectAll();
     return;
@@ -67,12 +68,12 @@ void frmDensity::Command2_Click() {
 void frmDensity::Command1_Click(int index) {
   if (index == kOk) {
     Density_Entry entry = Entry();
-    Save_Data(entry, Project());
+    Save_Data(entry, record_);
     fields_.Show(entry.texts);
     Unload();
-    Accept_Screen(kScreen, isModal(), Project());
+    Accept_Screen(kScreen, isModal(), record_);
   } else if (index == kCancel) {
-    Reset_Vars(copy_, Project());
+    Reset_Vars(copy_, record_);
     Unload();
   }
 }

@@ -26,6 +26,7 @@ class frmDensity : public Input_Screen {
   void Command2_Click();
   Density_Entry Entry() const;
 
+  ProjectRecord& record_;
   QCheckBox* Check3D3;
   ControlArray<QLineEdit> Text3;  // salinity, temperature, density
   Table_Fields fields_;
