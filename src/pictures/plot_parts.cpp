@@ -8,8 +8,8 @@
 namespace barvon {
 namespace {
 
-const QColor kLetters = To_QColor(kInk), kAxis = To_QColor(kAxisInk),
-             kGrid = To_QColor(kGridInk), kZeroLine = To_QColor(kZeroInk);
+const QColor kLetters = To_QColor(kInk), kAxis = To_QColor(kAxisInk), kGrid = To_QColor(kGridInk),
+             kZeroLine = To_QColor(kZeroInk);
 constexpr double kLargestInFull = 1e6, kSmallestInFull = 1e-5;
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 #include "pictures/shapes/inks.h"
 
@@ -40,13 +41,11 @@ std::vector<std::string> Wrapped(const std::string& text, double size, double wi
     std::istringstream words(paragraph);
     std::string line;
     for (std::string word; words >> word;) {
-      const std::string longer = line.empty() ? word : line + " " + word;
-      if (!line.empty() && Text_Width(longer, size) > width) {
-        lines.push_back(line);
-        line = word;
-      } else {
-        line = longer;
+      if (!line.empty() && Text_Width(line, size) + Text_Width(" " + word, size) > width) {
+        lines.push_back(std::exchange(line, {}));
       }
+      if (!line.empty()) line += ' ';
+      line += word;
     }
     if (!line.empty()) lines.push_back(line);
   }
