@@ -109,7 +109,7 @@ Shape_List Plan_Picture::Shapes(const Canvas& canvas) const { return Plan_Shapes
 
 Shape_List Plan_Picture::Above(const Canvas& canvas) const {
   Shape_List picture;
-  const Plan_Frame frame = Frame();
+  const Plan_Frame frame(plan_.area, canvas);
   if (frame.Is_Empty()) return picture;
   const Stroke stroke{kCursorInk, 1};
   if (corner_ && other_) {

@@ -72,7 +72,8 @@ std::optional<std::string> Wrong_Width(const Cells& line, std::size_t row, std::
 std::string Sizes(const Text_Block& lines, std::size_t rows, std::size_t columns) {
   std::string file = "The file has " + Counted(lines.size(), "row");
   if (!lines.empty()) file += ", the first of " + Counted(lines.front().size(), "column");
-  return file + "; the table has " + Counted(rows, "row") + " of " + Counted(columns, "column") + ".";
+  return file + "; the table has " + Counted(rows, "row") + " of " + Counted(columns, "column") +
+         ".";
 }
 
 }  // namespace

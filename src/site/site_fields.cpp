@@ -1,11 +1,10 @@
 #include "site/site_fields.h"
 
-#include <cstdint>
+#include "core/keys.h"
 
 namespace barvon {
 namespace {
 
-constexpr std::int16_t kHopper = 1, kBarge = 3;
 constexpr Count_Limits kGridCount = {8, kMaxGridPoints};
 constexpr Count_Limits kDensityCount = {2, kMaxDensityPoints};
 constexpr char kCount[] = "#######0";
@@ -14,10 +13,6 @@ constexpr char kDegrees[] = "#####0.00";
 constexpr char kDimension[] = "####.00";
 
 static_assert(kMaxGridPoints == 96 && kMaxDensityPoints == 5, "two labels name them");
-
-bool Has_Slopes(const ProjectRecord& record) {
-  return record.DisposalMethod == kHopper || record.DisposalMethod == kBarge;
-}
 
 constexpr Field_Row kRows[] = {
     {.control = {"Text1", kZPoints},
@@ -86,7 +81,7 @@ constexpr Field_Row kRows[] = {
      .member = &ProjectRecord::SLOPEX0,
      .frame = kSlopeFrame,
      .tag = "SLOPEX0",
-     .enabled_for = Has_Slopes},
+     .enabled_for = Has_Vessel},
     {.control = {"Text1", kZSlope},
      .label = "Z-Direction (+ Depth Increases Left to Right)",
      .unit = "deg",
@@ -94,7 +89,7 @@ constexpr Field_Row kRows[] = {
      .member = &ProjectRecord::SLOPEZ0,
      .frame = kSlopeFrame,
      .tag = "SLOPEZ0",
-     .enabled_for = Has_Slopes},
+     .enabled_for = Has_Vessel},
     {.control = {"Text1", kDensityPoints},
      .label = "Number of Points to Describe Water Density Profile (max 5).  Enter Increasing "
               "Depths Starting From Surface.",

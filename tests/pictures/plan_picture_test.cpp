@@ -290,7 +290,7 @@ TEST_F(PlanPicture, Shapes_In_Feet_Are_Seen_Where_The_Pointer_Reads_Those_Feet) 
   const QImage seen = plan_.grab().toImage();
   EXPECT_EQ(seen.pixelColor(At(600, 800)), QColor(0, 160, 0));
   EXPECT_NE(seen.pixelColor(At(900, 800)), QColor(0, 160, 0));
-  EXPECT_TRUE(plan_.Tip_At(At(0, 0)).startsWith("X 0 ft, Z 0 ft"));
+  EXPECT_TRUE(plan_.Tip_At(plan_.Place_Of({0, 0})) == "X 0 ft, Z 0 ft");
 }
 
 TEST_F(PlanPicture, The_Frame_Shows_Where_The_Keyboard_Is) {

@@ -6,6 +6,7 @@
 
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
+#include "core/keys.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "core/keys.h"
+
 namespace barvon {
 namespace {
 
@@ -14,7 +16,7 @@ constexpr std::array kNumbers = {
 };
 
 bool Is_Computed(double ProjectRecord::*number, const ProjectRecord& record) {
-  return number == &ProjectRecord::TracerConcentration && (record.KEY3 == 4 || record.KEY3 == 7);
+  return number == &ProjectRecord::TracerConcentration && Contaminant_Is_In_The_Sediment(record);
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ std::string Note_Of(const Density_Drawing& drawing) {
 }
 
 std::string Description_Of(const Density_Drawing& drawing) {
-  std::string text = Counted(static_cast<int>(drawing.points.size()), "point") + ":";
+  std::string text = Counted(drawing.points.size(), "point") + ":";
   for (const Density_Point& point : drawing.points) {
     text += " " + Fixed_Text(point.density, 4) + " g/cc at " + Short_Text(point.depth) + " ft,";
   }

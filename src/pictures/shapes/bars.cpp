@@ -4,6 +4,7 @@
 
 #include "pictures/shapes/inks.h"
 #include "pictures/shapes/lettering.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
@@ -42,8 +43,7 @@ std::string Note_Of(const Bars_Drawing& drawing) {
 std::string Description_Of(const Bars_Drawing& drawing) {
   const auto& bars = drawing.chart.bars;
   if (bars.empty()) return drawing.note;
-  std::string text =
-      Counted(static_cast<int>(bars.size()), "bar") + ", " + drawing.chart.value_label + ".";
+  std::string text = Counted(bars.size(), "bar") + ", " + drawing.chart.value_label + ".";
   const std::size_t told = std::min(bars.size(), kMostInWords);
   for (std::size_t i = 0; i < told; ++i) text += " " + Bar_Words(bars[i]) + ".";
   if (told < bars.size()) text += " And " + std::to_string(bars.size() - told) + " more.";
