@@ -25,8 +25,8 @@ bool Check_Start(double start) {
 }
 
 /// A duration that 32 bits can't tell from 0 would divide by it.
-bool Check_Duration(const Tidal_Interval& interval) {
-  if (interval.duration != 0) return true;
+bool Check_Duration(const Velocity_Entry& entry) {
+  if (Average_Velocities(entry)) return true;
   return Refuse("Please Provide a Simulation Duration Greater Than Zero.");
 }
 
@@ -49,16 +49,15 @@ bool Check_Sizes(const Velocity_Entry& entry) {
     if (!Check_Size(entry.F1Book3[row][2], "Z" + velocity)) return false;
   }
   const auto averages = Average_Velocities(entry);
-  return Check_Size(averages[kAlongX], "Average X-Velocity") &&
-         Check_Size(averages[kAlongZ], "Average Z-Velocity");
+  return averages && Check_Size((*averages)[kAlongX], "Average X-Velocity") &&
+         Check_Size((*averages)[kAlongZ], "Average Z-Velocity");
 }
 
 }  // namespace
 
 bool Check_Velocity(const Velocity_Entry& entry, double type) {
   if (type != kUnsteadyVelocity) return true;
-  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(Interval_Of(entry)) &&
-         Check_Sizes(entry);
+  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(entry) && Check_Sizes(entry);
 }
 
 void Tell_Constant_Missing(Velocity_Direction direction) {
