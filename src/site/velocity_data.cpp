@@ -254,7 +254,7 @@ double Hours_Of_Simulation(const ProjectRecord& record) {
 }
 
 std::string Filled_Note(const std::string& typed, const std::string& filled, double value) {
-  const std::string note = Real_Note(typed);
+  std::string note = Real_Note(typed);
   const double reading = Lenient_Number(typed);
   if (!note.empty() || typed != filled || reading == value) return note;
   return "rounded from " + Plain_Number(value) + ": OK stores " + Plain_Number(reading);
