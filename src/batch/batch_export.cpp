@@ -33,9 +33,8 @@ std::string Target_Of(const std::string& file, const std::string& output) {
 int Export(const std::string& file, const std::string& target) {
   const auto record = Open_Project(file);
   if (!record) return kNotDone;
-  record->FileTypeTag = "DUE";
   std::string text;
-  if (const Failure failure = Write_Model_Input(*record, text); failure != Failure::None) {
+  if (const Failure failure = Make_Model_Input(*record, text); failure != Failure::None) {
     Say_Problem(file, std::string("the model input can't be written: ") + Failure_Name(failure));
     return kNotDone;
   }

@@ -40,6 +40,7 @@ constexpr Field_Row kRows[] = {
 };
 
 constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted in a message
+constexpr char kNothingComputed[] = "No density has been computed.";
 
 void Show_Density(const ProjectRecord& record, Density_Entry& entry) {
   entry.texts("Text3", kDensity) = Field_Text(kRows[kDensity], record);
@@ -57,11 +58,6 @@ std::string Complaint(Field field, const std::string& text) {
   std::string shown = First_Characters(text, kShownCharacters);
   if (shown.size() < text.size()) shown += "...";
   return name + ": \"" + shown + "\" can't be read as a number.\n";
-}
-
-void Refuse(const std::string& reason) {
-  Show_Message(
-      {reason + "No density has been computed.", kMessageTitle, Buttons::Ok, Icon::Warning});
 }
 
 }  // namespace
@@ -86,7 +82,7 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
     }
   }
   if (wrong) {
-    Refuse(complaints);
+    Show_Warning(complaints + kNothingComputed);
     return wrong;
   }
   const auto [salinity, temperature] = typed;
@@ -94,8 +90,9 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   if (entry.Check3D3) {
     const auto computed = AMDEN(salinity, temperature, 0);
     if (!computed) {
-      Refuse("The formula has no result for a salinity of " + Plain_Number(salinity) +
-             " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n");
+      Show_Warning("The formula has no result for a salinity of " + Plain_Number(salinity) +
+                   " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n" +
+                   kNothingComputed);
       // Where fresh water of that temperature has a density, the salinity is at fault.
       return AMDEN(0, temperature, 0) ? kSalinity : kTemperature;
     }

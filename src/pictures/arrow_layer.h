@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "pictures/velocity_drawing.h"
+#include "pictures/drawings/velocity_drawing.h"
 
 namespace barvon {
 

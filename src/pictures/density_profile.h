@@ -1,12 +1,12 @@
 #pragma once
 
-#include "pictures/density_drawing.h"
-#include "pictures/picture.h"
+#include "pictures/drawings/density_drawing.h"
+#include "pictures/shape_picture.h"
 
 namespace barvon {
 
 /// Water density against depth, the surface at the top.
-class Density_Profile : public Picture {
+class Density_Profile : public Shape_Picture {
   Q_OBJECT
 
  public:
@@ -24,11 +24,9 @@ class Density_Profile : public Picture {
 
  protected:
   void Build() override;
-  void Fit() override;
+  Shape_List Shapes(const Canvas& canvas) const override;
 
  private:
-  void Name_Bottom();
-
   std::vector<Density_Point> points_;
   double bottom_ = 0;
   Density_Drawing drawing_;

@@ -29,7 +29,8 @@ QCPColorGradient Depth_Colours() {
 }  // namespace
 
 Depth_Map::Depth_Map(QWidget* parent)
-    : Picture(QStringLiteral("Map of the water depths"), QStringLiteral("depth grid"), parent) {
+    : Plot_Picture(QStringLiteral("Map of the water depths"), QStringLiteral("depth grid"),
+                   parent) {
   Dress_Grid_Axes(*plot());
   map_ = Add_Cells(*plot());
   scale_ = Add_Colour_Scale(*plot(), QStringLiteral("Depth (ft)"));

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pictures/depth_drawing.h"
-#include "pictures/picture.h"
+#include "pictures/drawings/depth_drawing.h"
+#include "pictures/plot_picture.h"
 
 class QCPColorMap;
 class QCPColorScale;
@@ -9,7 +9,7 @@ class QCPColorScale;
 namespace barvon {
 
 /// The depth grid as a colour map, rows and columns as its table has them. Dark is deep.
-class Depth_Map : public Picture {
+class Depth_Map : public Plot_Picture {
   Q_OBJECT
 
  public:

@@ -10,7 +10,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "pictures/plot_parts.h"
+#include "pictures/shape_painter.h"
+#include "pictures/shapes/inks.h"
 #include "platform/qt/save_picture.h"
 
 namespace barvon {
@@ -19,23 +20,19 @@ namespace {
 constexpr int kFrame = 2;          // room for the frame that shows the keyboard
 constexpr int kSavedWidth = 1600;  // a PNG has about so many pixels at least
 constexpr int kLeastEnlarged = 2, kMostEnlarged = 8;
-const QColor kCaption(90, 98, 109);
+const QColor kCaption = To_QColor(kQuietInk);
 
 }  // namespace
 
-Picture::Picture(const QString& name, const QString& file_name, QWidget* parent)
-    : QWidget(parent),
-      plot_(new QCustomPlot(this)),
-      caption_(new QLabel(this)),
-      file_name_(file_name) {
+Picture::Picture(const QString& name, const QString& file_name, QWidget* content, QWidget* parent)
+    : QWidget(parent), content_(content), caption_(new QLabel(this)), file_name_(file_name) {
   setAccessibleName(name);
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  // Wheel and clicks are not for the plot: a picture must not keep a screen from scrolling.
-  plot_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  plot_->setFocusPolicy(Qt::NoFocus);
-  plot_->setLocale(QLocale::c());
+  // Wheel and clicks are not for the content: a picture must not keep a screen from scrolling.
+  content_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  content_->setFocusPolicy(Qt::NoFocus);
   caption_->setWordWrap(true);
   caption_->setTextFormat(Qt::PlainText);
   caption_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -47,7 +44,7 @@ Picture::Picture(const QString& name, const QString& file_name, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kFrame, kFrame, kFrame, kFrame);
   column->setSpacing(0);
-  column->addWidget(plot_, 1);
+  column->addWidget(content_, 1);
   column->addWidget(caption_);
   auto* png = new QAction(QStringLiteral("Save picture as PNG..."), this);
   auto* svg = new QAction(QStringLiteral("Save picture as SVG..."), this);
@@ -58,11 +55,7 @@ Picture::Picture(const QString& name, const QString& file_name, QWidget* parent)
   pending_.setSingleShot(true);
   pending_.setInterval(0);
   connect(&pending_, &QTimer::timeout, this, &Picture::Catch_Up);
-  connect(plot_, &QCustomPlot::beforeReplot, this, [this] { Fit(); });
 }
-
-// The plot outlives the part of this object that it asks before it draws.
-Picture::~Picture() { plot_->disconnect(this); }
 
 void Picture::Set_Caption(const QString& caption) {
   given_caption_ = caption;
@@ -75,11 +68,15 @@ void Picture::Tell(const std::string& note, const std::string& description) {
   Show_Texts();
 }
 
-void Picture::Show_Texts() {
+QString Picture::Caption() const {
   QStringList lines = {note_, given_caption_};
   lines.removeAll(QString());
-  caption_->setText(lines.join(QLatin1Char('\n')));
-  caption_->setVisible(!lines.isEmpty());
+  return lines.join(QLatin1Char('\n'));
+}
+
+void Picture::Show_Texts() {
+  caption_->setText(Caption());
+  caption_->setVisible(!Caption().isEmpty());
 }
 
 void Picture::Data_Changed() {
@@ -94,14 +91,14 @@ void Picture::Catch_Up() {
   Build();
   Take_Font();
   layout()->activate();
-  plot_->replot(QCustomPlot::rpQueuedRefresh);
+  Redraw_Content();
 }
 
 void Picture::Take_Font() {
   QFont small = font();
   if (small.pointSizeF() > 0) small.setPointSizeF(small.pointSizeF() * 0.92);
   caption_->setFont(small);
-  Dress_Fonts(*plot_, small);
+  Dress_Content(small);
 }
 
 void Picture::Save(const char* kind, QByteArray (Picture::*content)()) {
@@ -115,8 +112,8 @@ void Picture::Draw_On(QPaintDevice& device) {
   painter.fillRect(rect(), Qt::white);
   painter.setMode(QCPPainter::pmNoCaching);
   painter.save();
-  painter.translate(plot_->pos());
-  plot_->toPainter(&painter, plot_->width(), plot_->height());
+  painter.translate(content_->pos());
+  Draw_Content(painter);
   painter.restore();
   if (caption_height > 0) {
     painter.setFont(caption_->font());

@@ -8,15 +8,16 @@
 namespace barvon {
 namespace {
 
-const QColor kInk(45, 52, 61), kAxis(122, 130, 140), kGrid(228, 231, 235), kZeroLine(150, 157, 166);
+const QColor kLetters = To_QColor(kInk), kAxis = To_QColor(kAxisInk), kGrid = To_QColor(kGridInk),
+             kZeroLine = To_QColor(kZeroInk);
 constexpr double kLargestInFull = 1e6, kSmallestInFull = 1e-5;
 
 }  // namespace
 
 void Dress_Axis(QCPAxis& axis, const QString& label, bool with_grid) {
   axis.setLabel(label);
-  axis.setLabelColor(kInk);
-  axis.setTickLabelColor(kInk);
+  axis.setLabelColor(kLetters);
+  axis.setTickLabelColor(kLetters);
   axis.setBasePen(QPen(kAxis));
   axis.setTickPen(QPen(kAxis));
   axis.setTickLength(0, 4);
@@ -67,16 +68,6 @@ QSizeF Room_For_Axes(const QCustomPlot& plot) {
   return room.expandedTo(QSizeF(1, 1));
 }
 
-QCPCurve* Add_Line(QCustomPlot& plot, const QString& name, const QColor& colour, bool squares) {
-  auto* line = new QCPCurve(plot.xAxis, plot.yAxis);
-  line->setName(name);
-  line->setPen(QPen(colour, 1.8));
-  line->setScatterStyle(
-      QCPScatterStyle(squares ? QCPScatterStyle::ssSquare : QCPScatterStyle::ssCircle,
-                      QPen(colour, 1.4), Qt::white, 7));
-  return line;
-}
-
 void Add_Band(QCustomPlot& plot, QCPAxis& axis, Value_Range range, const QColor& colour) {
   const bool upright = axis.orientation() == Qt::Horizontal;
   const QCPRange x = plot.xAxis->range(), y = plot.yAxis->range();
@@ -109,7 +100,7 @@ QCPLegend* Add_Legend(QCustomPlot& plot) {
   legend->setLayer(QStringLiteral("legend"));
   legend->setFillOrder(QCPLegend::foColumnsFirst);
   legend->setBorderPen(Qt::NoPen);
-  legend->setTextColor(kInk);
+  legend->setTextColor(kLetters);
   legend->setIconSize(20, 10);
   // A saved SVG shows the icons' lines unclipped, a little longer than on the screen.
   legend->setIconTextPadding(10);

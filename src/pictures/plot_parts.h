@@ -7,19 +7,20 @@
 #include <QSizeF>
 #include <QString>
 
-#include "pictures/axis_scale.h"
+#include "pictures/shape_painter.h"
+#include "pictures/shapes/axis_scale.h"
+#include "pictures/shapes/inks.h"
 
 class QCPAxis;
 class QCPColorScale;
-class QCPCurve;
 class QCPLegend;
 class QCustomPlot;
 
 namespace barvon {
 
-/// The two directions, told apart by lightness as well as by colour.
-inline constexpr QColor kXColour(11, 94, 168);
-inline constexpr QColor kZColour(214, 112, 10);
+/// The two directions.
+inline constexpr QColor kXColour = To_QColor(kXInk);
+inline constexpr QColor kZColour = To_QColor(kZInk);
 
 /// The plain look of an axis: thin lines, and a grid where `with_grid`.
 void Dress_Axis(QCPAxis& axis, const QString& label, bool with_grid);
@@ -38,9 +39,6 @@ void Dress_Fonts(QCustomPlot& plot, const QFont& font);
 
 /// The pixels that the axes get of the plot's present size, before its layout is known.
 QSizeF Room_For_Axes(const QCustomPlot& plot);
-
-/// A line through points in any order, with markers.
-QCPCurve* Add_Line(QCustomPlot& plot, const QString& name, const QColor& colour, bool squares);
 
 /// A filled band below the grid over a range of the axis, and a line at one of its values, both
 /// across the whole picture.

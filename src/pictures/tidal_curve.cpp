@@ -34,8 +34,8 @@ void Fill(QCPGraph& curve, const std::vector<Tidal_Point>& points) {
 }  // namespace
 
 Tidal_Curve::Tidal_Curve(QWidget* parent)
-    : Picture(QStringLiteral("Velocity over the tidal pattern"), QStringLiteral("tidal velocity"),
-              parent) {
+    : Plot_Picture(QStringLiteral("Velocity over the tidal pattern"),
+                   QStringLiteral("tidal velocity"), parent) {
   Dress_Axis(*plot()->xAxis, QStringLiteral("Time (h)"), true);
   Dress_Axis(*plot()->yAxis, QStringLiteral("Velocity (ft/s)"), true);
   x_curve_ = Add_Curve(*plot(), kXColour, false);

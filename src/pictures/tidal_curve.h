@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pictures/picture.h"
-#include "pictures/tidal_drawing.h"
+#include "pictures/drawings/tidal_drawing.h"
+#include "pictures/plot_picture.h"
 
 class QCPGraph;
 class QCPLegend;
@@ -10,7 +10,7 @@ namespace barvon {
 
 /// X and Z velocity over the hours of the pattern; the simulated interval is shaded and carries
 /// its averages as dashed lines.
-class Tidal_Curve : public Picture {
+class Tidal_Curve : public Plot_Picture {
   Q_OBJECT
 
  public:

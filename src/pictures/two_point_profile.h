@@ -1,15 +1,12 @@
 #pragma once
 
-#include "pictures/picture.h"
-#include "pictures/profile_drawing.h"
-
-class QCPCurve;
-class QCPLegend;
+#include "pictures/drawings/profile_drawing.h"
+#include "pictures/shape_picture.h"
 
 namespace barvon {
 
 /// X and Z velocity against depth, each a line through its two points, the surface at the top.
-class Two_Point_Profile : public Picture {
+class Two_Point_Profile : public Shape_Picture {
   Q_OBJECT
 
  public:
@@ -25,14 +22,11 @@ class Two_Point_Profile : public Picture {
 
  protected:
   void Build() override;
-  void Fit() override;
+  Shape_List Shapes(const Canvas& canvas) const override;
 
  private:
   std::array<Profile_Point, 2> points_;
   Profile_Drawing drawing_;
-  QCPCurve* x_line_;
-  QCPCurve* z_line_;
-  QCPLegend* legend_;
 };
 
 }  // namespace barvon

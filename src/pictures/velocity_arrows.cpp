@@ -30,8 +30,8 @@ QCPColorGradient Speed_Colours() {
 }  // namespace
 
 Velocity_Arrows::Velocity_Arrows(QWidget* parent)
-    : Picture(QStringLiteral("Map of the velocity field"), QStringLiteral("velocity field"),
-              parent) {
+    : Plot_Picture(QStringLiteral("Map of the velocity field"), QStringLiteral("velocity field"),
+                   parent) {
   Dress_Grid_Axes(*plot());
   map_ = Add_Cells(*plot());
   scale_ = Add_Colour_Scale(*plot(), QStringLiteral("Speed (ft/s)"));

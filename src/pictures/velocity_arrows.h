@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pictures/picture.h"
-#include "pictures/velocity_drawing.h"
+#include "pictures/drawings/velocity_drawing.h"
+#include "pictures/plot_picture.h"
 
 class QCPColorMap;
 class QCPColorScale;
@@ -12,7 +12,7 @@ class Arrow_Layer;
 
 /// The velocity field: an arrow the way the water goes at every point, or at every few of a large
 /// grid, over the speed as shades of blue.
-class Velocity_Arrows : public Picture {
+class Velocity_Arrows : public Plot_Picture {
   Q_OBJECT
 
  public:

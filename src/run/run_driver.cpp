@@ -30,10 +30,7 @@ namespace barvon {
 namespace {
 
 constexpr std::size_t kScratchNameWidth = 8;
-
-void Show_Error(const char* text) {
-  Show_Message({text, "BARVON Error", Buttons::Ok, Icon::Critical});
-}
+constexpr char kErrorTitle[] = "BARVON Error";
 
 bool Project_Exists(const ProjectRecord& record, const char* extension) {
   return !record.BaseFileName.empty() && Find_Path(record.BaseFileName + extension).has_value();
@@ -55,21 +52,21 @@ std::optional<Run_Stage> Check_File(ProjectRecord& record) {
   constexpr char kNoFile[] = "Please Specify a File Before Running Model";
   if (record.FileKind == kDilutionKind) {
     if (Project_Exists(record, ".DUD")) return std::nullopt;
-    Show_Error(kNoFile);
+    Show_Critical(kNoFile, kErrorTitle);
     return Run_Stage::No_File;
   }
   if (Is_Model_Project(record)) {
     if (Project_Exists(record, ".DUI")) return std::nullopt;
-    Show_Error(kNoFile);
+    Show_Critical(kNoFile, kErrorTitle);
     return Save_As(record, Run_Stage::No_File);
   }
-  Show_Error("Invalid File Type");
+  Show_Critical("Invalid File Type", kErrorTitle);
   return Run_Stage::Invalid_Type;
 }
 
 std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
   if (Check_Project(record) == kFalse) return std::nullopt;
-  switch (Show_Message({kErrorsDetected, kMessageTitle, Buttons::YesNoCancel, Icon::None})) {
+  switch (Ask(kErrorsDetected, Buttons::YesNoCancel)) {
     case Answer::No:
       return std::nullopt;
     case Answer::Yes:
@@ -132,9 +129,8 @@ std::string Marker_Line() {
 /// Writes model input and marker. Returns what failed first, as text.
 std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder) {
   std::string problem;
-  record.FileTypeTag = "DUE";
   std::string input;
-  if (const Failure failure = Write_Model_Input(record, input); failure != Failure::None) {
+  if (const Failure failure = Make_Model_Input(record, input); failure != Failure::None) {
     Remove_Files(folder, kModelInputFile);
     problem = std::string("the model input could not be written (") + Failure_Name(failure) + ")";
   } else {

@@ -20,10 +20,6 @@ constexpr char kGraphicsProgram[] = "kv_graph.exe";
 constexpr char kNativeGraphicsProgram[] = "kv_graph";
 constexpr char kUntitledName[] = "UNTITLED.DUI";
 
-void Tell_Missing(const std::string& text) {
-  Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Warning});
-}
-
 std::optional<std::string> Find_Graphics_Program(const std::string& folder) {
   for (const char* name : {kGraphicsProgram, kNativeGraphicsProgram}) {
     if (auto found = Find_Path(Join_Path(folder, name))) return found;
@@ -61,18 +57,17 @@ bool Graphics_Program_Exists() {
 
 void Graph_Command(const ProjectRecord& record, int kind) {
   if (!Find_Path(record.BaseFileName + ".DUI")) {
-    Show_Message({"Please Specify a File Before Running Model", "BARVON Error", Buttons::Ok,
-                  Icon::Critical});
+    Show_Critical("Please Specify a File Before Running Model", "BARVON Error");
     return;
   }
   const bool handed_over = Hand_Over(record, kind);
   const std::string& folder = Application_Folder();
   if (!Find_Path(folder)) {
-    Tell_Missing("Path: " + folder + " Not Found");
+    Show_Warning("Path: " + folder + " Not Found");
     return;
   }
   if (!Find_Graphics_Program(folder)) {
-    Tell_Missing("File: " + Join_Path(folder, kGraphicsProgram) + " Not Found");
+    Show_Warning("File: " + Join_Path(folder, kGraphicsProgram) + " Not Found");
     return;
   }
   if (!handed_over) {
@@ -87,13 +82,13 @@ void Graph_Command(const ProjectRecord& record, int kind) {
 
 void View_Output_Command(const ProjectRecord& record) {
   if (record.ProjectFileName.empty() || record.ProjectFileName == kUntitledName) {
-    Show_Message({"No File Specified", kMessageTitle, Buttons::Ok, Icon::Critical});
+    Show_Critical("No File Specified");
     return;
   }
   const std::string name = Base_Name(record.ProjectFileName) + ".duo";
   const std::optional<std::string> found = Find_Path(name);
   if (!found) {
-    Tell_Missing("File " + name + " Not Found.");
+    Show_Warning("File " + name + " Not Found.");
     return;
   }
   if (!Open_Document(*found)) Port().board.show_note({name + " could not be shown.", {}});

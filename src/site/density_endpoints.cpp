@@ -15,8 +15,7 @@ constexpr int kSurfaceIsRight = 1, kBottomIsRight = 2, kBothAreRight = 3;
 constexpr int kShifted = 2;  // columns that a new first row pushes down
 
 bool Agrees(const char* question) {
-  return Show_Message({question, "BARVON Information", Buttons::YesNo, Icon::Information}) ==
-         Answer::Yes;
+  return Ask(question, Buttons::YesNo, Icon::Information, "BARVON Information") == Answer::Yes;
 }
 
 void AskFirstDepthIsSurface(Spreadsheet_Table& table) {

@@ -47,10 +47,7 @@ void Save_Initial_Depth(const Depth_Grid_Entry& entry, ProjectRecord& record) {
   }
   const double depth = Lenient_Number(entry.Text1);
   if (depth > 0) record.DEPTHI = depth;
-  if (depth == 0) {
-    Show_Message(
-        {"Depth Cannot Be Initialized to Zero", kMessageTitle, Buttons::Ok, Icon::Critical});
-  }
+  if (depth == 0) Show_Critical("Depth Cannot Be Initialized to Zero");
 }
 
 }  // namespace

@@ -6,87 +6,30 @@
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
+#include "platform/table/delimited_text.h"
 #include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
 
-using Cells = std::vector<std::string>;
+using Cells = Text_Block::value_type;
 
 constexpr std::size_t kShownOfACell = 40;  // characters of a faulty cell that a message shows
-
-/// Cuts bytes into lines of cells. A quoted cell may hold separators and line ends.
-class Csv_Cutter {
- public:
-  explicit Csv_Cutter(std::string_view bytes)
-      : bytes_(bytes), separator_(bytes.find(';') == std::string_view::npos ? ',' : ';') {}
-
-  std::vector<Cells> Cut() {
-    while (at_ < bytes_.size()) Take(bytes_[at_++]);
-    if (in_quotes_) cell_.insert(0, 1, '"');  // never closed: no number
-    if (!cell_.empty() || !line_.empty()) End_Line();
-    while (!lines_.empty() && lines_.back().size() == 1 && Trimmed(lines_.back().front()).empty()) {
-      lines_.pop_back();
-    }
-    return std::move(lines_);
-  }
-
- private:
-  bool Next_Is(char character) const { return at_ < bytes_.size() && bytes_[at_] == character; }
-
-  void Take(char character) {
-    if (in_quotes_) {
-      Take_Quoted(character);
-    } else if (character == '"' && !was_quoted_ && Trimmed(cell_).empty()) {
-      in_quotes_ = was_quoted_ = true;
-      cell_.clear();
-    } else if (character == separator_) {
-      End_Cell();
-    } else if (character == '\r' || character == '\n') {
-      if (character == '\r' && Next_Is('\n')) ++at_;
-      End_Line();
-    } else {
-      // What follows the closing quote must not grow together with the number in front of it.
-      if (was_quoted_ && character != ' ') cell_ += '"';
-      cell_ += character;
-    }
-  }
-
-  void Take_Quoted(char character) {
-    if (character != '"') {
-      cell_ += character;
-    } else if (Next_Is('"')) {
-      cell_ += bytes_[at_++];
-    } else {
-      in_quotes_ = false;
-    }
-  }
-
-  void End_Cell() {
-    line_.push_back(std::move(cell_));
-    cell_.clear();
-    was_quoted_ = false;
-  }
-
-  void End_Line() {
-    End_Cell();
-    lines_.push_back(std::move(line_));
-    line_.clear();
-  }
-
-  std::string_view bytes_;
-  char separator_;
-  std::size_t at_ = 0;
-  bool in_quotes_ = false;
-  bool was_quoted_ = false;  // the cell so far
-  std::string cell_;
-  Cells line_;
-  std::vector<Cells> lines_;
-};
 
 std::string_view Without_Byte_Order_Mark(std::string_view bytes) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   return bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes;
+}
+
+/// The lines of cells, without empty lines at the end.
+Text_Block Lines_Of(std::string_view bytes) {
+  const char separator = bytes.find(';') == std::string_view::npos ? ',' : ';';
+  Text_Block lines =
+      Read_Delimited_Text(Without_Byte_Order_Mark(bytes), separator, Quote_Rule::Whole_Cell);
+  while (!lines.empty() && lines.back().size() == 1 && Trimmed(lines.back().front()).empty()) {
+    lines.pop_back();
+  }
+  return lines;
 }
 
 std::string Place(std::size_t row, std::size_t column) {
@@ -126,7 +69,7 @@ std::optional<std::string> Wrong_Width(const Cells& line, std::size_t row, std::
          (lacking ? " is missing" : " is extra");
 }
 
-std::string Sizes(const std::vector<Cells>& lines, std::size_t rows, std::size_t columns) {
+std::string Sizes(const Text_Block& lines, std::size_t rows, std::size_t columns) {
   std::string file = "The file has " + Counted(lines.size(), "row");
   if (!lines.empty()) file += ", the first of " + Counted(lines.front().size(), "column");
   return file + "; the table has " + Counted(rows, "row") + " of " + Counted(columns, "column") +
@@ -150,7 +93,7 @@ std::string Write_Grid_Csv(const Grid_Rows& rows) {
 Grid_Csv Read_Grid_Csv(std::string_view bytes, int rows, int columns) {
   const auto height = static_cast<std::size_t>(rows);
   const auto width = static_cast<std::size_t>(columns);
-  const std::vector<Cells> lines = Csv_Cutter(Without_Byte_Order_Mark(bytes)).Cut();
+  const Text_Block lines = Lines_Of(bytes);
   const auto other_size = [&](const std::string& place) {
     return Grid_Csv{{}, place + ".  " + Sizes(lines, height, width)};
   };

@@ -19,15 +19,8 @@ File_Request Csv_Request(const std::string& title) {
   return request;
 }
 
-void Tell(const std::string& text) {
-  Message message;
-  message.text = text;
-  message.icon = Icon::Warning;
-  Show_Message(message);
-}
-
 void Tell_Failure(const std::string& what, const std::string& path, int error) {
-  Tell(what + Name_Of(path) + ": " + Failure_Name(Failure_Of_Errno(error)) + ".");
+  Show_Warning(what + Name_Of(path) + ": " + Failure_Name(Failure_Of_Errno(error)) + ".");
 }
 
 std::string With_Csv_Extension(const std::string& path) {
@@ -45,12 +38,13 @@ std::optional<Grid_Rows> Import_Grid_Csv(const std::string& title, int rows, int
     return std::nullopt;
   }
   if (bytes.size() > kMaxCsvBytes) {
-    Tell("Nothing is imported from " + Name_Of(*path) + ".  The file is too large for a table.");
+    Show_Warning("Nothing is imported from " + Name_Of(*path) +
+                 ".  The file is too large for a table.");
     return std::nullopt;
   }
   Grid_Csv read = Read_Grid_Csv(bytes, rows, columns);
   if (!read.fault.empty()) {
-    Tell("Nothing is imported from " + Name_Of(*path) + ".  " + read.fault);
+    Show_Warning("Nothing is imported from " + Name_Of(*path) + ".  " + read.fault);
     return std::nullopt;
   }
   return std::move(read.rows);

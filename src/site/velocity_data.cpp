@@ -7,6 +7,7 @@
 #include "core/number_reading.h"
 #include "core/number_text.h"
 #include "core/wizard_answers.h"
+#include "site/velocity_fields.h"
 
 namespace barvon {
 namespace {
@@ -49,11 +50,24 @@ float To_32_Bits(double value) {
   return static_cast<float>(std::clamp(value, -kLargest, kLargest));
 }
 
+/// The fields' texts, in the order of their rows; "" for one that the rows can't fill.
+template <std::size_t N>
+std::array<std::string, N> Texts_Of(const Field_Row (&rows)[N], const ProjectRecord& record) {
+  std::array<std::string, N> texts;
+  for (std::size_t i = 0; i < N; ++i) texts[i] = Field_Text(rows[i], record);
+  return texts;
+}
+
+template <std::size_t N>
+void Store_Texts(const Field_Row (&rows)[N], const std::array<std::string, N>& texts,
+                 ProjectRecord& record) {
+  Field_Texts typed;
+  for (std::size_t i = 0; i < N; ++i) typed.Set(rows[i].control, texts[i]);
+  Read_Fields(rows, typed, record);
+}
+
 void Show_Single(const ProjectRecord& record, Velocity_Entry& entry) {
-  const double values[] = {record.AvgVelocityDepth, record.AvgVelocityX, record.AvgVelocityZ};
-  for (std::size_t i = 0; i < entry.Text1.size(); ++i) {
-    entry.Text1[i] = Format_Number(values[i], "####0.0");
-  }
+  entry.Text1 = Texts_Of(kAverageFields, record);
 }
 
 void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
@@ -74,11 +88,9 @@ void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
 }
 
 void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
-  entry.Text3 = {Format_Number(Widen(record.TidalStartTime), "###0.00"),
-                 Format_Number(Widen(record.TidalDepth), "###0.00"),
-                 Format_Number(Hours_Of_Simulation(record), "####0.0"),
-                 Format_Number(Widen(record.TidalAvgVelX), "###0.0"),
-                 Format_Number(Widen(record.TidalAvgVelZ), "###0.0")};
+  entry.Text3 = Texts_Of(kUnsteadyFields, record);
+  entry.Text3[kDuration] =
+      Format_Number(Hours_Of_Simulation(record), kUnsteadyFields[kDuration].pattern);
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
     for (std::size_t i = 0; i < kDirections; ++i) {
       entry.F1Book3[row][i + 1] = Widen((record.*kTidalColumns[i])[row]);
@@ -87,9 +99,7 @@ void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
 }
 
 void Save_Single(const Velocity_Entry& entry, ProjectRecord& record) {
-  record.AvgVelocityDepth = Lenient_Number(entry.Text1[0]);
-  record.AvgVelocityX = Lenient_Number(entry.Text1[1]);
-  record.AvgVelocityZ = Lenient_Number(entry.Text1[2]);
+  Store_Texts(kAverageFields, entry.Text1, record);
   if (entry.Check3D1) record.VelocityProfileType = kLogarithmicVelocity;
 }
 
@@ -105,15 +115,14 @@ void Save_Fields(const Velocity_Entry& entry, ProjectRecord& record) {
 }
 
 void Save_Unsteady(const Velocity_Entry& entry, ProjectRecord& record) {
-  record.TidalStartTime = To_32_Bits(Lenient_Number(entry.Text3[0]));
-  record.TidalDepth = To_32_Bits(Lenient_Number(entry.Text3[1]));
-  record.SimulationDuration = Lenient_Number(entry.Text3[2]) * kSecondsPerHour;
+  Store_Texts(kUnsteadyFields, entry.Text3, record);
+  record.SimulationDuration = Lenient_Number(entry.Text3[kDuration]) * kSecondsPerHour;
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
     for (std::size_t i = 0; i < kDirections; ++i) {
       (record.*kTidalColumns[i])[row] = To_32_Bits(entry.F1Book3[row][i + 1]);
     }
   }
-  const auto averages = Average_Velocities(entry);
+  const auto averages = Average_Velocities(entry).value_or(std::array<double, kDirections>{});
   record.TidalAvgVelX = To_32_Bits(averages[kAlongX]);
   record.TidalAvgVelZ = To_32_Bits(averages[kAlongZ]);
 }
@@ -153,7 +162,8 @@ std::string Direction_Note(double type) {
 }
 
 Tidal_Interval Interval_Of(const Velocity_Entry& entry) {
-  return {To_32_Bits(Lenient_Number(entry.Text3[0])), To_32_Bits(Lenient_Number(entry.Text3[2]))};
+  return {To_32_Bits(Lenient_Number(entry.Text3[kStart])),
+          To_32_Bits(Lenient_Number(entry.Text3[kDuration]))};
 }
 
 std::string Interval_Note(const Tidal_Interval& interval) {
@@ -165,8 +175,9 @@ std::string Interval_Note(const Tidal_Interval& interval) {
          "\nEnding Time: " + hours(interval.End());
 }
 
-std::array<double, kDirections> Average_Velocities(const Velocity_Entry& entry) {
+std::optional<std::array<double, kDirections>> Average_Velocities(const Velocity_Entry& entry) {
   const Tidal_Interval interval = Interval_Of(entry);
+  if (interval.duration == 0) return std::nullopt;
   std::array<double, kDirections> averages{};
   for (std::size_t i = 0; i < kDirections; ++i) {
     Tidal_Column pattern{};
@@ -220,7 +231,7 @@ double Hours_Of_Simulation(const ProjectRecord& record) {
 }
 
 std::string Filled_Note(const std::string& typed, const std::string& filled, double value) {
-  const std::string note = Real_Note(typed);
+  std::string note = Real_Note(typed);
   const double reading = Lenient_Number(typed);
   if (!note.empty() || typed != filled || reading == value) return note;
   return "rounded from " + Plain_Number(value) + ": OK stores " + Plain_Number(reading);

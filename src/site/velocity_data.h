@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/project_record.h"
@@ -13,9 +14,6 @@ namespace barvon {
 enum Velocity_Direction { kAlongX = 0, kAlongZ = 1 };
 inline constexpr int kDirections = 2;
 inline constexpr const char* kAxes[kDirections] = {"X", "Z"};
-
-/// The fields Text3 of the unsteady form.
-enum Unsteady_Field { kStart = 0, kDepth, kDuration, kAverageX, kAverageZ };
 
 /// What frmVelocity holds, one member per control; tables by row and column from 1. Velocities in
 /// ft/s, depths in feet, times in hours.
@@ -46,8 +44,9 @@ Tidal_Interval Interval_Of(const Velocity_Entry& entry);
 /// Text4(1): start, duration and end of the simulated interval.
 std::string Interval_Note(const Tidal_Interval& interval);
 
-/// Average velocities over the interval, X and Z. Nothing is stored.
-std::array<double, kDirections> Average_Velocities(const Velocity_Entry& entry);
+/// Average velocities over the interval, X and Z; nothing while no duration is typed. Nothing is
+/// stored.
+std::optional<std::array<double, kDirections>> Average_Velocities(const Velocity_Entry& entry);
 
 /// Stores the form of the record's type and clears DataSaved. Check_Velocity must have passed the
 /// entry.

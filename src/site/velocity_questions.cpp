@@ -13,27 +13,25 @@ namespace {
 /// to 45000 hours pass, and that stays.
 constexpr double kLatestStart = 45000;
 
-bool Refuse(const std::string& text) {
-  Show_Message({text});
+bool Check_Start(double start) {
+  if (start <= kLatestStart) return true;
+  Show_Message(
+      {"Starting Time Exceeds Unsteady Velocity Pattern Duration (12.5 Hrs).  Please Correct."});
   return false;
 }
 
-bool Check_Start(double start) {
-  if (start <= kLatestStart) return true;
-  return Refuse(
-      "Starting Time Exceeds Unsteady Velocity Pattern Duration (12.5 Hrs).  Please Correct.");
-}
-
 /// A duration that 32 bits can't tell from 0 would divide by it.
-bool Check_Duration(const Tidal_Interval& interval) {
-  if (interval.duration != 0) return true;
-  return Refuse("Please Provide a Simulation Duration Greater Than Zero.");
+bool Check_Duration(const Velocity_Entry& entry) {
+  if (Average_Velocities(entry)) return true;
+  Show_Message({"Please Provide a Simulation Duration Greater Than Zero."});
+  return false;
 }
 
 /// The unsteady profile is kept in 32 bits: what they can't hold is refused, not cut.
 bool Check_Size(double value, const std::string& name) {
   if (std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())) return true;
-  return Refuse(name + " is Too Large a Number.  Please Correct.");
+  Show_Message({name + " is Too Large a Number.  Please Correct."});
+  return false;
 }
 
 bool Check_Sizes(const Velocity_Entry& entry) {
@@ -49,16 +47,15 @@ bool Check_Sizes(const Velocity_Entry& entry) {
     if (!Check_Size(entry.F1Book3[row][2], "Z" + velocity)) return false;
   }
   const auto averages = Average_Velocities(entry);
-  return Check_Size(averages[kAlongX], "Average X-Velocity") &&
-         Check_Size(averages[kAlongZ], "Average Z-Velocity");
+  return averages && Check_Size((*averages)[kAlongX], "Average X-Velocity") &&
+         Check_Size((*averages)[kAlongZ], "Average Z-Velocity");
 }
 
 }  // namespace
 
 bool Check_Velocity(const Velocity_Entry& entry, double type) {
   if (type != kUnsteadyVelocity) return true;
-  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(Interval_Of(entry)) &&
-         Check_Sizes(entry);
+  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(entry) && Check_Sizes(entry);
 }
 
 void Tell_Constant_Missing(Velocity_Direction direction) {
@@ -67,22 +64,20 @@ void Tell_Constant_Missing(Velocity_Direction direction) {
 }
 
 bool Ask_To_Overwrite() {
-  return Show_Message({"Do you Want to Overwrite Existing Data?", kMessageTitle, Buttons::YesNo,
-                       Icon::Question}) == Answer::Yes;
+  return Ask("Do you Want to Overwrite Existing Data?", Buttons::YesNo, Icon::Question) ==
+         Answer::Yes;
 }
 
 void Tell_Duration_Missing() {
-  Show_Message({"Please Provide a Value for Simulation Duration.", kMessageTitle, Buttons::Ok,
-                Icon::Information});
+  Show_Information("Please Provide a Value for Simulation Duration.");
 }
 
 void Tell_Grid_Beyond_Fields(const ProjectRecord& record) {
   if (record.MMAX0 <= kMaxGridPoints && record.NMAX0 <= kMaxGridPoints) return;
   const std::string most = std::to_string(kMaxGridPoints);
-  Show_Message({"The Grid of " + std::to_string(record.MMAX0) + " x " +
-                    std::to_string(record.NMAX0) + " Points Exceeds the Maximum of " + most +
-                    " x " + most + ".  Only the Points Within It Are Shown.",
-                kMessageTitle, Buttons::Ok, Icon::Warning});
+  Show_Warning("The Grid of " + std::to_string(record.MMAX0) + " x " +
+               std::to_string(record.NMAX0) + " Points Exceeds the Maximum of " + most + " x " +
+               most + ".  Only the Points Within It Are Shown.");
 }
 
 }  // namespace barvon

@@ -54,8 +54,7 @@ void Show_Opened(ProjectRecord& record) {
 
 bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   if (Check_Project(record) == kFalse) return true;
-  const Answer answer =
-      Show_Message({kErrorsDetected, kMessageTitle, Buttons::YesNoCancel, Icon::None});
+  const Answer answer = Ask(kErrorsDetected, Buttons::YesNoCancel);
   if (answer == Answer::Yes) Open_Screen("frmErrorList", Opens_Blocking(record));
   return answer == Answer::No;
 }

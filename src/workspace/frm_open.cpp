@@ -38,7 +38,7 @@ constexpr int kOptionsPerPage = 2;
 
 frmOpen::frmOpen(QWidget* workspace)
     : QDialog(workspace),
-      pages_(new QStackedWidget(this)),
+      pages_(new Page_Stack(this)),
       Frame2(this, "Frame2", kPages),
       Option1(this, "Option1", 4),
       Command1(this, "Command1", 4) {
@@ -49,7 +49,7 @@ frmOpen::frmOpen(QWidget* workspace)
     option->installEventFilter(this);
     connect(option, &QRadioButton::toggled, this, [this] { Paint_Options(Option1); });
   }
-  connect(Command1(kBack), &QPushButton::clicked, this, [this] { Back(); });
+  connect(Command1(kBack), &QPushButton::clicked, pages_, &Page_Stack::Go_Back);
   connect(Command1(kNext), &QPushButton::clicked, this, [this] { Next(); });
   connect(Command1(kCancel), &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -113,7 +113,7 @@ void frmOpen::Open(bool blocking) {
     activateWindow();
     return;
   }
-  Show_Page(0);
+  pages_->Start();
   Project().WizardAtStart = kFalse;
   Show_Option(Option1, -1);
   Option1(kExistingProject)->setFocus();
@@ -121,29 +121,22 @@ void frmOpen::Open(bool blocking) {
   Show_Dialog(*this, blocking);
 }
 
-void frmOpen::Show_Page(int page) { pages_->setCurrentIndex(page); }
-
 void frmOpen::Next() {
-  const int page = pages_->currentIndex();
   if (Option1(kExistingProject)->isChecked()) {
     accept();
     mnuFileItem_Click(kFileOpen, Project());
     return;
   }
-  if (page == 1) {
+  if (pages_->currentIndex() == 1) {
     // With neither chosen it keeps what it holds.
     if (Option1(kWithWizard)->isChecked()) Project().WizardAtStart = kTrue;
     if (Option1(kConventionally)->isChecked()) Project().WizardAtStart = kFalse;
   }
-  if (page == kPages - 1) {
+  if (pages_->Is_At_End()) {
     accept();
   } else {
-    Show_Page(page + 1);
+    pages_->Go_On();
   }
-}
-
-void frmOpen::Back() {
-  if (pages_->currentIndex() > 0) Show_Page(pages_->currentIndex() - 1);
 }
 
 bool frmOpen::eventFilter(QObject* watched, QEvent* event) {

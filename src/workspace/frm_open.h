@@ -4,9 +4,9 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStackedWidget>
 
 #include "platform/qt/fields/control_array.h"
+#include "platform/qt/page_stack.h"
 
 namespace barvon {
 
@@ -25,11 +25,9 @@ class frmOpen : public QDialog {
 
  private:
   void Build();
-  void Show_Page(int page);
   void Next();
-  void Back();
 
-  QStackedWidget* pages_;
+  Page_Stack* pages_;
   ControlArray<QGroupBox> Frame2;
   ControlArray<QRadioButton> Option1;
   ControlArray<QPushButton> Command1;

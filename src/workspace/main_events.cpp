@@ -28,7 +28,7 @@ namespace {
 
 void View_Graphics(const ProjectRecord& record) {
   if (!Graphics_Program_Exists()) {
-    Show_Message({"File: KV_graph.exe Not Found.", kMessageTitle, Buttons::Ok, Icon::Critical});
+    Show_Critical("File: KV_graph.exe Not Found.");
     return;
   }
   Graph_Command(record, 0);

@@ -14,7 +14,6 @@
 #include "workspace/summary_lines.h"
 
 namespace barvon {
-namespace {}  // namespace
 
 void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
@@ -83,8 +82,7 @@ void mnuEditItem_Click(Main_Controls& controls, ProjectRecord& record, int index
 void SSRibbon1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   constexpr int kEditItems[] = {1, 2, 4, 5, 0, 9};
   if (index == 4) {
-    Show_Message(
-        {"This Feature is Unavailable at This Time.", kMessageTitle, Buttons::Ok, Icon::Warning});
+    Show_Warning("This Feature is Unavailable at This Time.");
     return;
   }
   mnuEditItem_Click(controls, record, kEditItems[index]);

@@ -37,8 +37,6 @@ constexpr const char* kTierHints[kEvaluations] = {
 
 std::int16_t Type_Of_Option(int option) { return static_cast<std::int16_t>(option + 1); }
 
-void Stop(const char* text) { Show_Message({text, kMessageTitle, Buttons::Ok, Icon::Critical}); }
-
 }  // namespace
 
 std::optional<std::int16_t> KEY4_Value(int type, int method) {
@@ -126,22 +124,23 @@ Velocity_Choice Velocity_Choice_Of(double velocity_profile_type) {
 }
 
 bool Ask_To_Disable_Variable_Depth() {
-  return Show_Message({"To Use Two-Point Velocity Profile Variable Depth Must Be Disabled. Do You "
-                       "Wish To Disable Variable Depth Specification Now?",
-                       kMessageTitle, Buttons::YesNoCancel}) == Answer::Yes;
+  return Ask("To Use Two-Point Velocity Profile Variable Depth Must Be Disabled. Do You Wish To "
+             "Disable Variable Depth Specification Now?",
+             Buttons::YesNoCancel) == Answer::Yes;
 }
 
 Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record) {
   if (record.KEY2 != kDiffusion) {
-    Stop("Diffusion Option Not Specified.  No Water Quality Calculations Will Be Conducted");
+    Show_Critical(
+        "Diffusion Option Not Specified.  No Water Quality Calculations Will Be Conducted");
     return Evaluation_Entry::No_Diffusion;
   }
   if (evaluation < 0) {
-    Stop("Please Specify Evaluation Type");
+    Show_Critical("Please Specify Evaluation Type");
     return Evaluation_Entry::No_Evaluation;
   }
   if (record.KEY3 == kNoTracer) {
-    Stop("No Long Term Tracer Computations Will Be Carried Out");
+    Show_Critical("No Long Term Tracer Computations Will Be Carried Out");
     return Evaluation_Entry::No_Tracer_Evaluated;
   }
   return Evaluation_Entry::Open;
@@ -149,7 +148,7 @@ Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record) {
 
 bool Check_Eval(const ProjectRecord& record) {
   if (record.AnalysisType >= 0) return true;
-  Show_Message({"Evaluation Type Must Be Selected", "BARVON Warning", Buttons::Ok, Icon::Warning});
+  Show_Warning("Evaluation Type Must Be Selected", "BARVON Warning");
   return false;
 }
 

@@ -23,8 +23,7 @@ std::string Program_Name() {
 }  // namespace
 
 bool Wish_To_Quit() {
-  return Show_Message({"Do You Wish to Quit?", Program_Name(), Buttons::YesNo, Icon::Question}) ==
-         Answer::Yes;
+  return Ask("Do You Wish to Quit?", Buttons::YesNo, Icon::Question, Program_Name()) == Answer::Yes;
 }
 
 Close_Action Ask_On_Close(const std::string& caption, Flag data_saved) {
@@ -44,10 +43,7 @@ Close_Action Ask_On_Close(const std::string& caption, Flag data_saved) {
   }
 }
 
-bool Ask_On_Exit() {
-  return Show_Message({"Are You Sure You Want to Quit?", kMessageTitle, Buttons::YesNo,
-                       Icon::None}) != Answer::No;
-}
+bool Ask_On_Exit() { return Ask("Are You Sure You Want to Quit?", Buttons::YesNo) != Answer::No; }
 
 void End_Program() {
   if (Program_End()) Program_End()();

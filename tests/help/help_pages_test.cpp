@@ -155,7 +155,8 @@ TEST(HelpPages, Every_Named_Topic_Is_Among_Those_That_Have_A_Page) {
   std::set<int> topics;
   for (const std::string& topic : named) topics.insert(std::stoi(topic));
   topics.erase(kWizardPages);
-  EXPECT_EQ(std::vector<int>(topics.begin(), topics.end()), Help_Topics());
+  const std::vector<int> shown = Help_Topics();
+  EXPECT_EQ(topics, std::set<int>(shown.begin(), shown.end()));
 }
 
 // The help speaks of the program, never of how it came about.

@@ -19,7 +19,11 @@ struct Room_Rule {
 };
 
 const std::map<std::string, Room_Rule>& Table() {
+  // Lists of shapes are made without the toolkit, so that a report without a window shows the same
+  // pictures: plain files of the screens' rooms, the report's and the console's may know them.
   static const std::set<std::string> kScreens = {"platform/qt", "pictures"};
+  static const std::set<std::string> kPlain = {"core", "platform", "pictures/shapes",
+                                               "pictures/drawings"};
   static const std::map<std::string, Room_Rule> table = {
       {"platform/fields", {{}, {}}},
       {"platform/files", {{"platform/text"}, {}}},
@@ -28,22 +32,28 @@ const std::map<std::string, Room_Rule>& Table() {
       {"platform/text", {{}, {}}},
       {"platform/ask", {{}, {}}},
       {"platform/qt", {{"platform"}, {}}},
-      {"pictures", {{"platform/qt", "platform/text"}, {}}},
+      {"pictures", {{"pictures/shapes", "pictures/drawings", "platform/text"}, {"platform/qt"}}},
+      {"pictures/shapes", {{"platform/text"}, {}}},
+      {"pictures/drawings", {{"pictures/shapes", "platform/text"}, {}}},
       {"core", {{"platform"}, {}}},
       {"core/project_file", {{"core/floor", "platform"}, {}}},
       {"core/model_input", {{"core/floor", "platform"}, {}}},
       {"core/desk", {{"core", "platform"}, {}}},
       {"checks", {{"core", "platform"}, {"platform/qt"}}},
       {"run", {{"checks", "core", "platform"}, {}}},
-      {"params", {{"core", "platform"}, kScreens}},
-      {"material", {{"core", "platform"}, kScreens}},
-      {"dilution", {{"core", "platform"}, kScreens}},
-      {"database", {{"core", "platform"}, kScreens}},
-      {"wizard", {{"core", "platform"}, kScreens}},
-      {"site", {{"core", "platform", "material/amden"}, kScreens}},
+      {"params", {kPlain, kScreens}},
+      {"material", {kPlain, kScreens}},
+      {"dilution", {kPlain, kScreens}},
+      {"database", {kPlain, kScreens}},
+      {"wizard", {kPlain, kScreens}},
+      {"site",
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "material/amden"}, kScreens}},
       {"workspace",
-       {{"core", "platform", "run", "checks/check_data", "checks/error_entries"}, {"platform/qt"}}},
-      {"batch", {{"core", "platform", "checks", "run"}, {}}},
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "run", "checks/check_data",
+         "checks/error_entries"},
+        {"platform/qt"}}},
+      {"batch",
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks", "run"}, {}}},
       {"batch_main.cpp", {{"batch", "core", "platform", "checks", "run"}, {}}},
   };
   return table;
@@ -134,6 +144,8 @@ TEST(IncludeDirections, No_Plain_File_Knows_The_Toolkit) {
     for (const std::string& file : plain) EXPECT_FALSE(toolkit.contains(file)) << file;
   }
   for (const std::string& file : toolkit) {
+    EXPECT_NE(Room_Of(file), "pictures/shapes") << file;
+    EXPECT_NE(Room_Of(file), "pictures/drawings") << file;
     const std::string folder = file.substr(0, file.find('/'));
     const bool toolkit_room = file.starts_with("platform/qt/");
     EXPECT_TRUE(toolkit_room || (folder != "platform" && folder != "core")) << file;
@@ -216,6 +228,23 @@ TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
   EXPECT_TRUE(May_Include("site/frm.cpp", "pictures/b.h", true));
   EXPECT_FALSE(May_Include("site/a.cpp", "pictures/b.h", false));
   EXPECT_FALSE(May_Include("pictures/a.cpp", "core/b.h", true));
+}
+
+TEST(IncludeDirections, Plain_Files_Know_The_Plain_Part_Of_Pictures_And_No_More) {
+  for (const char* file :
+       {"params/site_plan.cpp", "site/a.cpp", "batch/a.cpp", "workspace/a.cpp"}) {
+    EXPECT_TRUE(May_Include(file, "pictures/shapes/plan.h", false)) << file;
+    EXPECT_TRUE(May_Include(file, "pictures/drawings/density_drawing.h", false)) << file;
+    EXPECT_FALSE(May_Include(file, "pictures/plan_picture.h", false)) << file;
+  }
+  EXPECT_FALSE(May_Include("core/a.cpp", "pictures/shapes/plan.h", false));
+  EXPECT_FALSE(May_Include("checks/a.cpp", "pictures/shapes/plan.h", false));
+  EXPECT_FALSE(May_Include("platform/qt/a.cpp", "pictures/shapes/plan.h", true));
+  EXPECT_FALSE(May_Include("pictures/shapes/a.cpp", "pictures/drawings/b.h", false));
+  EXPECT_FALSE(May_Include("pictures/shapes/a.cpp", "pictures/b.h", true));
+  EXPECT_FALSE(May_Include("pictures/drawings/a.cpp", "pictures/b.h", true));
+  EXPECT_FALSE(May_Include("pictures/drawings/a.cpp", "platform/files/b.h", false));
+  EXPECT_TRUE(May_Include("pictures/a.cpp", "pictures/drawings/b.h", true));
 }
 
 TEST(IncludeDirections, The_Project_File_And_The_Model_Input_Know_Nothing_Of_Each_Other) {

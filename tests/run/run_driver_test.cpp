@@ -4,6 +4,9 @@
 
 #include <filesystem>
 
+#include "core/desk/file_dialogs.h"
+#include "core/desk/save_file.h"
+#include "core/keys.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {
@@ -52,6 +55,23 @@ TEST_F(RunDriver, The_Model_Input_Is_That_Of_The_Record) {
   Install("copy:Tmpfile.Due=seen.due\n");
   Run();
   EXPECT_EQ(Read_Text(bench / "seen.due").substr(0, 17), "    DUE       3\r\n");
+}
+
+TEST_F(RunDriver, A_Save_Behind_A_Run_Gives_The_Same_File_And_The_Project_Stays_Tidal) {
+  record.VelocityProfileType = 5;
+  record.TidalAvgVelX = 0.5F;
+  record.AvgVelocityX = 7;
+  record.DZ0 = 0;
+  record.DEPC0 = 60;
+  Install(kWritesAll);
+  const Scripted_Messages no_boxes;
+  ASSERT_TRUE(Save_File(base + ".DUI", kProjectKind, record));
+  const std::string saved = Read_Text(base + ".DUI");
+  Run({Answer::No});
+  EXPECT_EQ(record.VelocityProfileType, 5);
+  EXPECT_EQ(record.AvgVelocityX, 7);
+  ASSERT_TRUE(Save_File(base + ".DUI", kProjectKind, record));
+  EXPECT_TRUE(Read_Text(base + ".DUI") == saved);
 }
 
 TEST_F(RunDriver, A_Solver_That_Names_Its_Outputs_In_Capitals_Is_Understood) {

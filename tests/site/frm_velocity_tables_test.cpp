@@ -1,4 +1,6 @@
 #include "core/format_pattern.h"
+#include "pictures/tidal_curve.h"
+#include "pictures/velocity_arrows.h"
 #include "platform/qt/fields/number_field.h"
 #include "site/frm_velocity.h"
 #include "site/velocity_screen.h"

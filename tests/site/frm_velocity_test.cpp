@@ -1,6 +1,7 @@
 #include "site/frm_velocity.h"
 
 #include "core/desk/workspace_port.h"
+#include "pictures/two_point_profile.h"
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/fields/option_paint.h"
 #include "site/velocity_screen.h"

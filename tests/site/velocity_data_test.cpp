@@ -222,6 +222,15 @@ TEST_F(VelocityData, The_Average_Uses_The_Start_As_Typed_And_Stores_Nothing) {
   EXPECT_TRUE(Differing_Fields(record, before).empty());
 }
 
+TEST_F(VelocityData, There_Is_No_Average_Over_A_Duration_That_32_Bits_Take_For_0) {
+  Velocity_Entry entry;
+  entry.F1Book3[1] = {0, 1, 2};
+  for (const char* typed : {"", "0", "1E-60"}) {
+    entry.Text3[2] = typed;
+    EXPECT_EQ(Average_Velocities(entry), std::nullopt) << typed;
+  }
+}
+
 TEST_F(VelocityData, The_Interval_Is_Told_With_Two_Decimals) {
   EXPECT_EQ(Interval_Note({1.25F, 2}),
             "Start Time: 1.25\nSimulation Duration: 2.00\nEnding Time: 3.25");

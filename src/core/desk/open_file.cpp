@@ -22,8 +22,7 @@ namespace {
 /// Tells that data is missing and offers a new project in the place of the one that is open.
 void Offer_Fresh_Start(ProjectRecord& record) {
   Show_Message({"Error in Data File. Some of the Data is missing."});
-  const Answer answer = Show_Message(
-      {"Initialize data and continue?", kMessageTitle, Buttons::YesNoCancel, Icon::Warning});
+  const Answer answer = Ask("Initialize data and continue?", Buttons::YesNoCancel, Icon::Warning);
   record.OldGridFile = 0;
   record.OldGridRetry = kFalse;
   if (answer == Answer::Yes && Reset_Vars(record)) Show_Project(record);

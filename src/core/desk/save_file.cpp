@@ -28,12 +28,8 @@ namespace {
 
 constexpr int kExportKind = 3;
 constexpr int kTextKind = 4;
+constexpr char kUnable[] = "Unable to Save File!";
 constexpr int kTestedStatusMarks = 5;  // of the six
-
-bool Tell_Unable() {
-  Show_Message({"Unable to Save File!"});
-  return false;
-}
 
 /// Writes one file whole. The bytes are made once the file is known to be writable.
 bool Write_File(const std::string& path, int kind, const std::function<std::string()>& bytes) {
@@ -50,8 +46,7 @@ bool Write_File(const std::string& path, int kind, const std::function<std::stri
   if (error == 0) return true;
   const bool bad_dilution_name =
       kind == kDilutionKind && Failure_Of_Errno(error) == Failure::Bad_File_Name;
-  if (opened || bad_dilution_name) return Tell_Unable();
-  Show_Message({"Can't open file: " + path});
+  Show_Message({opened || bad_dilution_name ? kUnable : "Can't open file: " + path});
   return false;
 }
 
@@ -70,24 +65,30 @@ bool Lead_To_One_File(const std::string& path, const std::string& other) {
 }
 
 bool Write_Project(const std::string& path, ProjectRecord& record) {
+  std::string model_input;
+  Failure model_failure = Failure::None;
   const bool written = Write_File(path, kProjectKind, [&] {
     Show_Project(record);
+    // The model input comes first: what it derives belongs into the file, so that the next save of
+    // an unchanged project gives the same one.
+    model_failure = Make_Model_Input(record, model_input);
     Pack_Slots(record);
     return Save_Project(path, record);
   });
   if (!written) return false;
+  record.FileTypeTag = "DUE";
   const std::string name = With_Extension(path, "DUE");
   const std::string lacking =
       Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
   if (Lead_To_One_File(path, name)) {
-    record.FileTypeTag = "DUE";
     Port().board.show_note({lacking + "that is where the project stands.", {}});
     return true;
   }
   const Busy_Cursor cursor;
   // The project is safe; its model input may still be beyond what can be computed.
-  if (const Failure failure = Save_Model_Extract(path, record); failure != Failure::None) {
-    Port().board.show_note({lacking + Failure_Name(failure) + ".", {}});
+  if (model_failure == Failure::None) model_failure = Write_Model_Extract(path, model_input);
+  if (model_failure != Failure::None) {
+    Port().board.show_note({lacking + Failure_Name(model_failure) + ".", {}});
   }
   return true;
 }
@@ -98,13 +99,18 @@ bool Write_Export(const std::string& path, ProjectRecord& record) {
   const auto last = first + kTestedStatusMarks;
   if (std::find(first, last, '-') != last) return false;
   const Busy_Cursor cursor;
-  return Save_Model_Extract(path, record) == Failure::None || Tell_Unable();
+  if (Save_Model_Extract(path, record) == Failure::None) return true;
+  Show_Message({kUnable});
+  return false;
 }
 
 /// The text as one printed item: lines end in CR LF, the last one too.
 bool Write_Text(const std::string& path) {
   const std::string text = Port().text.active();
-  if (!Fits_File_Encoding(text)) return Tell_Unable();
+  if (!Fits_File_Encoding(text)) {
+    Show_Message({kUnable});
+    return false;
+  }
   const bool written = Write_File(path, kTextKind, [&] {
     std::string lines;
     for (const char c : Remove_Character(text, "\r"))

@@ -21,8 +21,7 @@ bool Any_Input_Screen_Is_Open() {
 void Show_Screen(const std::string& name, const ProjectRecord& record) {
   const bool blocking = Opens_Blocking(record);
   if (blocking && Any_Input_Screen_Is_Open()) {
-    Show_Message({"Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu",
-                  kMessageTitle, Buttons::Ok, Icon::Critical});
+    Show_Critical("Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
     return;
   }
   Open_Screen_Or_Tell(name, blocking);

@@ -26,8 +26,8 @@ bool Text_Changed_Prompt(ProjectRecord& record) {
   const std::string name =
       record.ProjectFileName.empty() ? Port().text.caption() : record.ProjectFileName;
   const Answer answer =
-      Show_Message({"The text in " + name + " has changed.\n\nDo you want to save the changes?",
-                    kMessageTitle, Buttons::YesNoCancel, Icon::None});
+      Ask("The text in " + name + " has changed.\n\nDo you want to save the changes?",
+          Buttons::YesNoCancel);
   if (answer == Answer::Yes) return !Save_Changes(record);
   return answer != Answer::No;
 }

@@ -6,6 +6,7 @@
 #include "core/checked_entry.h"
 #include "core/fluid_concentration.h"
 #include "core/keys.h"
+#include "core/model_input/entered_values.h"
 #include "core/model_input/model_continuous.h"
 #include "core/model_input/model_sections.h"
 #include "core/number_text.h"
@@ -146,15 +147,21 @@ Failure Write_Model_Input(ProjectRecord& record, std::string& text) {
   return Failure::None;
 }
 
-Failure Save_Model_Extract(const std::string& path, ProjectRecord& record, std::string* written) {
+Failure Make_Model_Input(ProjectRecord& record, std::string& text) {
   record.FileTypeTag = "DUE";
+  const Entered_Values entered(record);
+  return Write_Model_Input(record, text);
+}
+
+Failure Write_Model_Extract(const std::string& path, const std::string& text) {
   const std::string name = Path_To_Write(With_Extension(path, "DUE"));
-  if (written != nullptr) *written = name;
-  std::string text;
-  if (const Failure failure = Write_Model_Input(record, text); failure != Failure::None) {
-    return failure;
-  }
   return Failure_Of_Errno(Write_Whole_File(name, text));
+}
+
+Failure Save_Model_Extract(const std::string& path, ProjectRecord& record) {
+  std::string text;
+  const Failure failure = Make_Model_Input(record, text);
+  return failure == Failure::None ? Write_Model_Extract(path, text) : failure;
 }
 
 }  // namespace barvon

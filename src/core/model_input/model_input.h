@@ -14,11 +14,16 @@ namespace barvon {
 /// in the record what had been derived before it. A method without a section gives an empty text.
 Failure Write_Model_Input(ProjectRecord& record, std::string& text);
 
-/// The export of the model input: FileTypeTag becomes "DUE", and the model input is written
-/// beside the path under its name with the extension DUE, whole or not at all. On a failure an
-/// older export stays as it was, and no new one appears; the caller tells the user.
-/// `written` (may be null) takes the path of the export, also when it could not be written.
-Failure Save_Model_Extract(const std::string& path, ProjectRecord& record,
-                           std::string* written = nullptr);
+/// The model input as export and run hand it on: under the tag "DUE", which the record keeps, and
+/// without a trace in what a person entered, also on a failure. What is derived stays.
+Failure Make_Model_Input(ProjectRecord& record, std::string& text);
+
+/// Writes a model input beside the path under its name with the extension DUE, whole or not at
+/// all. On a failure an older one stays as it was, and no new one appears; the caller tells the
+/// user.
+Failure Write_Model_Extract(const std::string& path, const std::string& text);
+
+/// The export of the model input: makes it and writes it.
+Failure Save_Model_Extract(const std::string& path, ProjectRecord& record);
 
 }  // namespace barvon

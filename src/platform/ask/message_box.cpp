@@ -29,6 +29,22 @@ Answer Show_Message(const Message& message) {
   return Presenter() ? Presenter()(message) : Answer_On_Close(message);
 }
 
+void Show_Warning(const std::string& text, const std::string& title) {
+  Show_Message({text, title, Buttons::Ok, Icon::Warning});
+}
+
+void Show_Critical(const std::string& text, const std::string& title) {
+  Show_Message({text, title, Buttons::Ok, Icon::Critical});
+}
+
+void Show_Information(const std::string& text, const std::string& title) {
+  Show_Message({text, title, Buttons::Ok, Icon::Information});
+}
+
+Answer Ask(const std::string& question, Buttons buttons, Icon icon, const std::string& title) {
+  return Show_Message({question, title, buttons, icon});
+}
+
 Message_Presenter Set_Message_Presenter(Message_Presenter presenter) {
   return std::exchange(Presenter(), std::move(presenter));
 }

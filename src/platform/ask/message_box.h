@@ -31,6 +31,16 @@ using Message_Presenter = std::function<Answer(const Message&)>;
 /// answer is the one of a box that is closed without a choice.
 Answer Show_Message(const Message& message);
 
+/// A box with this icon and an OK button.
+void Show_Warning(const std::string& text, const std::string& title = kMessageTitle);
+void Show_Critical(const std::string& text, const std::string& title = kMessageTitle);
+void Show_Information(const std::string& text, const std::string& title = kMessageTitle);
+
+/// A question with these buttons. Closed without a choice it counts as Cancel where there is that
+/// button, as No otherwise.
+Answer Ask(const std::string& question, Buttons buttons, Icon icon = Icon::None,
+           const std::string& title = kMessageTitle);
+
 /// Puts another presenter in place and returns the one that was there.
 Message_Presenter Set_Message_Presenter(Message_Presenter presenter);
 

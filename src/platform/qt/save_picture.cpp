@@ -11,9 +11,8 @@ namespace barvon {
 namespace {
 
 bool Tell_Failure(const std::string& path, const std::string& reason) {
-  Show_Message({.text = "The picture was not saved as " + path + ": " + reason +
-                        ".\nA file that was there before is unchanged.",
-                .icon = Icon::Critical});
+  Show_Critical("The picture was not saved as " + path + ": " + reason +
+                ".\nA file that was there before is unchanged.");
   return false;
 }
 

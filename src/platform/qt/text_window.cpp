@@ -2,13 +2,13 @@
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/files/safe_file.h"
 #include "platform/files/text_encoding.h"
+#include "platform/qt/find_bar.h"
 
 namespace barvon {
 namespace {
@@ -18,8 +18,7 @@ constexpr QSize kSize{760, 560};
 
 }  // namespace
 
-Text_Window::Text_Window(QWidget* parent)
-    : QDialog(parent), Text1(new QPlainTextEdit(this)), Find(new QLineEdit(this)) {
+Text_Window::Text_Window(QWidget* parent) : QDialog(parent), Text1(new QPlainTextEdit(this)) {
   setObjectName("Text_Window");
   setAttribute(Qt::WA_DeleteOnClose);
   setModal(false);
@@ -32,26 +31,23 @@ Text_Window::Text_Window(QWidget* parent)
   Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
   Text1->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
-  Find->setObjectName("Find");
-  auto* label = new QLabel("&Find", this);
-  label->setBuddy(Find);
-  auto* next = new QPushButton("&Next", this);
+  auto* find_bar = new Find_Bar(
+      {"Find", "&Find", "Not in this text.",
+       [this](const QString& text, bool backward) { return Find_Around(*Text1, text, backward); }},
+      this);
+  find_bar->layout()->setContentsMargins(0, 0, 0, 0);
   auto* close = new QPushButton("&Close", this);
   close->setAutoDefault(false);
   auto* row = new QHBoxLayout;
-  row->addWidget(label);
-  row->addWidget(Find, 1);
-  row->addWidget(next);
-  row->addWidget(close);
+  row->addWidget(find_bar, 1);
+  row->addWidget(close, 0, Qt::AlignBottom);
   auto* column = new QVBoxLayout(this);
   column->addWidget(Text1, 1);
   column->addLayout(row);
 
-  next->setDefault(true);
-  connect(next, &QPushButton::clicked, this, &Text_Window::Find_Next);
   connect(close, &QPushButton::clicked, this, &QDialog::close);
   auto* find = new QShortcut(QKeySequence::Find, this);
-  connect(find, &QShortcut::activated, Find, [this] { Find->setFocus(); });
+  connect(find, &QShortcut::activated, find_bar, &Find_Bar::Open);
 }
 
 bool Text_Window::Load(const std::string& path) {
@@ -60,14 +56,6 @@ bool Text_Window::Load(const std::string& path) {
   Text1->setPlainText(QString::fromStdString(From_Settings_Bytes(bytes)));
   setWindowTitle(QString::fromStdString(path));
   return true;
-}
-
-void Text_Window::Find_Next() {
-  if (Find->text().isEmpty() || Text1->find(Find->text())) return;
-  // Behind the last place the search starts again at the top.
-  const QTextCursor former = Text1->textCursor();
-  Text1->moveCursor(QTextCursor::Start);
-  if (!Text1->find(Find->text())) Text1->setTextCursor(former);
 }
 
 }  // namespace barvon

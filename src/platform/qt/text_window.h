@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <string>
 
@@ -17,10 +16,7 @@ class Text_Window : public QDialog {
   bool Load(const std::string& path);
 
  private:
-  void Find_Next();
-
   QPlainTextEdit* Text1;
-  QLineEdit* Find;
 };
 
 }  // namespace barvon

@@ -373,11 +373,9 @@ TEST(ModelExtract, Stands_Beside_The_Project_With_The_Extension_DUE) {
   const Scratch_Folder folder;
   ProjectRecord record = Hopper_Example();
   record.FileTypeTag = "   DUMP";
-  std::string written;
-  EXPECT_EQ(Save_Model_Extract(folder / "site.a.dui", record, &written), Failure::None);
-  EXPECT_EQ(written, folder / "site.a.DUE");
+  EXPECT_EQ(Save_Model_Extract(folder / "site.a.dui", record), Failure::None);
   EXPECT_EQ(record.FileTypeTag, "DUE");
-  EXPECT_EQ(Read_Text(written),
+  EXPECT_EQ(Read_Text(folder / "site.a.DUE"),
             Read_Text(std::string(BARVON_TEST_DATA) + "/model_input/hopper_with_two_openings.due"));
   EXPECT_EQ(Names_In(folder.path()), std::vector<std::string>{"site.a.DUE"});
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -92,7 +93,7 @@ TEST_F(DocumentOpener, The_Window_Finds_Text_And_Starts_Again_At_The_Top) {
   QDialog* window = Text_Window_In_Front();
   ASSERT_NE(window, nullptr);
   auto* text = window->findChild<QPlainTextEdit*>("Text1");
-  auto* find = window->findChild<QLineEdit*>("Find");
+  auto* find = window->findChild<QLineEdit*>("FindText");
   QTest::keyClicks(find, "line");
   QTest::keyClick(find, Qt::Key_Return);
   EXPECT_EQ(text->textCursor().blockNumber(), 0);
@@ -102,6 +103,26 @@ TEST_F(DocumentOpener, The_Window_Finds_Text_And_Starts_Again_At_The_Top) {
   QTest::keyClick(find, Qt::Key_Return);
   EXPECT_EQ(text->textCursor().blockNumber(), 0);
   EXPECT_EQ(text->textCursor().selectedText(), "line");
+}
+
+TEST_F(DocumentOpener, The_Window_Finds_Backward_And_Says_When_There_Is_Nothing) {
+  ASSERT_TRUE(Open_Qt_Document(output_));
+  QDialog* window = Text_Window_In_Front();
+  ASSERT_NE(window, nullptr);
+  ASSERT_TRUE(Has_Keyboard(window));
+  auto* text = window->findChild<QPlainTextEdit*>("Text1");
+  auto* find = window->findChild<QLineEdit*>("FindText");
+  auto* outcome = window->findChild<QLabel*>("FindOutcome");
+  QTest::keyClicks(find, "line");
+  QTest::keyClick(window, Qt::Key_V, Qt::AltModifier);
+  ASSERT_TRUE(Wait_Until([text] { return text->textCursor().blockNumber() == 2; }));
+  QTest::keyClicks(find, "s");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(outcome->text(), "Not in this text.");
+  EXPECT_EQ(text->textCursor().selectedText(), "line") << "the mark stays";
+  QTest::keyClick(find, Qt::Key_Backspace);
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(outcome->text(), "");
 }
 
 TEST_F(DocumentOpener, A_File_That_Can_Not_Be_Read_Is_Not_Shown) {

@@ -43,16 +43,4 @@ void Help_Page::Zoom(int steps) {
 
 void Help_Page::Zoom_Back() { Zoom(-zoom_); }
 
-bool Help_Page::Find_Next(const QString& text, bool backward) {
-  if (text.isEmpty()) return false;
-  const QTextDocument::FindFlags way =
-      backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-  if (find(text, way)) return true;
-  const QTextCursor before = textCursor();
-  moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
-  if (find(text, way)) return true;
-  setTextCursor(before);
-  return false;
-}
-
 }  // namespace barvon

@@ -17,10 +17,6 @@ class Help_Page : public QTextBrowser {
   void Zoom_Back();
   int zoom() const { return zoom_; }
 
-  /// Marks the next place of the text, from the top again behind the last. False when there is
-  /// none.
-  bool Find_Next(const QString& text, bool backward = false);
-
  private:
   Help_Library& library_;
   int zoom_ = 0;  // steps away from the size of the desktop's font

@@ -30,7 +30,13 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
     : library_(std::move(library)),
       navigation_(new Help_Navigation(*library_, this)),
       page_(new Help_Page(*library_, this)),
-      find_bar_(new Help_Find_Bar(*page_, this)) {
+      find_bar_(new Find_Bar({QStringLiteral("HelpFind"), QStringLiteral("Find in &page:"),
+                              QStringLiteral("Not on this page."),
+                              [this](const QString& text, bool backward) {
+                                return Find_Around(*page_, text, backward);
+                              }},
+                             this)) {
+  find_bar_->hide();
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("BARVON Help"));
   // The program ends with its main window, whether help stands open or not.
@@ -69,7 +75,7 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
           [this](const QUrl& page, const QString& word) {
             page_->setSource(page);
             page_->moveCursor(QTextCursor::Start);
-            page_->Find_Next(word);
+            Find_Around(*page_, word);
           });
   connect(page_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
     navigation_->Follow(page);
@@ -128,7 +134,7 @@ void Help_Window::Build_Actions() {
   connect(larger, &QAction::triggered, page_, [this] { page_->Zoom(1); });
   connect(smaller, &QAction::triggered, page_, [this] { page_->Zoom(-1); });
   connect(normal, &QAction::triggered, page_, [this] { page_->Zoom_Back(); });
-  connect(find, &QAction::triggered, find_bar_, &Help_Find_Bar::Open);
+  connect(find, &QAction::triggered, find_bar_, &Find_Bar::Open);
   connect(print, &QAction::triggered, this, &Help_Window::Print);
 
   auto* next = new QAction(this);

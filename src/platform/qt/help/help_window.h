@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "platform/qt/help/help_find_bar.h"
+#include "platform/qt/find_bar.h"
 #include "platform/qt/help/help_library.h"
 #include "platform/qt/help/help_navigation.h"
 #include "platform/qt/help/help_page.h"
@@ -40,7 +40,7 @@ class Help_Window : public QWidget {
   std::unique_ptr<Help_Library> library_;
   Help_Navigation* navigation_;
   Help_Page* page_;
-  Help_Find_Bar* find_bar_;
+  Find_Bar* find_bar_;
 };
 
 }  // namespace barvon

@@ -21,10 +21,6 @@ QPointer<Help_Window>& Window() {
   return window;
 }
 
-void Refuse(const char* text) {
-  Show_Message({text + Help_File(), kMessageTitle, Buttons::Ok, Icon::Warning});
-}
-
 /// The help window on the present help file; none when the user has been told that it can't be.
 Help_Window* Open_Window() {
   const QString path = QString::fromStdString(Help_File());
@@ -32,12 +28,12 @@ Help_Window* Open_Window() {
   delete Window();
   std::error_code error;
   if (!std::filesystem::exists(Help_File(), error)) {
-    Refuse("The help file is missing: ");
+    Show_Warning("The help file is missing: " + Help_File());
     return nullptr;
   }
   auto library = Help_Library::Open(path);
   if (library == nullptr) {
-    Refuse("The help file can't be shown: ");
+    Show_Warning("The help file can't be shown: " + Help_File());
     return nullptr;
   }
   Window() = new Help_Window(std::move(library));

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/field_table.h"
+#include "platform/qt/fields/number_field.h"
+#include "platform/qt/table/spreadsheet_view.h"
+#include "site/velocity_data.h"
+
+namespace barvon {
+
+/// A form of frmVelocity: the fields, the table and the picture of one way to tell the current.
+class Velocity_Panel : public QGroupBox {
+ public:
+  /// The illustration is a picture of the program's resources.
+  Velocity_Panel(const char* caption, const char* illustration, ProjectRecord& record);
+
+  const char* Illustration() const { return illustration_; }
+
+  /// Fills the controls. Handlers that must not take it for a person's typing rest.
+  void Show(const Velocity_Entry& entry);
+  /// Says what is to be said of what was filled, when the screen has its size.
+  virtual void Shown() {}
+  /// Another form is chosen.
+  virtual void Left() {}
+  /// Puts what the controls hold into the entry.
+  virtual void Read(Velocity_Entry& entry) const = 0;
+  /// OK has stored what was read.
+  virtual void Stored() {}
+  /// The open wizard's answers, on top of what was filled.
+  virtual void Take_Wizard() {}
+
+  /// A note of its own, shown beside the one on directions; nullptr without one.
+  virtual QPlainTextEdit* Note() const { return nullptr; }
+  /// Its controls in the order of Tab.
+  virtual std::vector<QWidget*> Order() const = 0;
+
+ protected:
+  virtual void Fill(const Velocity_Entry& entry) = 0;
+  bool Is_Filling() const { return filling_; }
+
+  ProjectRecord& record_;
+
+ private:
+  const char* illustration_;
+  bool filling_ = false;
+};
+
+/// A number field that shows few decimals of what it is filled with: its mark tells what they leave
+/// out for as long as the text stays.
+class Filled_Field {
+ public:
+  /// Refers to this field, which must stay where it is.
+  Number_Note Note() const;
+  void Show(QLineEdit* field, const std::string& text, double value);
+
+ private:
+  std::string text_;
+  double value_ = 0;
+};
+
+/// The faces of fields, the first of which are marked by what they were filled with. Refers to
+/// `filled`.
+std::vector<Field_Face> Faces_With_Notes(Field_Table table, std::span<const Filled_Field> filled,
+                                         const ProjectRecord& record);
+
+inline constexpr QSize kSmallestVelocityPicture{440, 250};
+
+/// As wide as all its columns: none is ever out of sight.
+void Show_All_Columns(F1Book* table);
+
+}  // namespace barvon
