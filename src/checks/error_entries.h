@@ -26,7 +26,7 @@ struct Error_List {
   std::array<int, kErrorHelpTopics> ErrorHelpTopics{};  // read at list index + 1
 
   /// Adds a finding. A topic other than 0 is stored at the number of entries after adding, so the
-  /// first entry's topic stands at 1.
+  /// first entry's topic is at 1.
   void Add(std::string message, std::string reference, int topic = 0);
 };
 

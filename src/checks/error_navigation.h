@@ -13,7 +13,7 @@ struct Error_Target {
 
 /// The screen and the control that can mend the finding. Nothing for a reference without "!" and
 /// for the screens that the list does not lead to: the two material screens and the four names of
-/// screens that no longer stand.
+/// screens that no longer exist.
 std::optional<Error_Target> Error_Target_Of(const std::string& reference);
 
 }  // namespace barvon

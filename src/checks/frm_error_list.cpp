@@ -72,7 +72,7 @@ frmErrorList::frmErrorList(QWidget* workspace)
             [this, index] { SSCommand1_Click(index); });
   }
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [] {
-    Show_Help({Help_Command::Context, kScreen.topic, {}});
+    Show_Topic(kScreen.topic);
   });
   Set_Findings_Listener([this] { Fill(); });
 }
@@ -123,7 +123,7 @@ void frmErrorList::SSCommand1_Click(int index) {
   if (entry < 0) return;
   const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1]
                                                  : help_topic::kContents;
-  Show_Help({Help_Command::Context, topic, {}});
+  Show_Topic(topic);
 }
 
 void Register_frmErrorList(QWidget* workspace) {

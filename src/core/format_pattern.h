@@ -14,7 +14,7 @@ namespace barvon {
 std::string Format_Number(double value, std::string_view pattern);
 
 /// A text in a pattern of '@': the characters fill the positions from the right, positions left
-/// over become blanks, characters left over stand in front. Every other character of the pattern
+/// over become blanks, characters left over are in front. Every other character of the pattern
 /// is written as it is ("@@@@@@@@.0" of "3600" is "    3600.0").
 std::string Format_Text(std::string_view text, std::string_view pattern);
 

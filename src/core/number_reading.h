@@ -8,7 +8,7 @@ namespace barvon {
 /// What a typed text will be taken as by the field that holds it.
 struct Number_Reading {
   std::optional<double> value;  // nothing when reading it fails
-  bool differs = false;         // what is read is not the number that stands there
+  bool differs = false;         // what is read is not the number that is there
 };
 
 /// The lenient parse. It differs when a character other than blanks around the number is left

@@ -26,16 +26,16 @@ Cell_Value Cell_Of(const std::string& value) {
   return value.empty() ? Cell_Value() : Cell_Value(value);
 }
 
-void Take_Cell(const Table_Cell& cell, double& value) {
+void Store_Cell(const Table_Cell& cell, double& value) {
   value = cell.table.NumberRC(cell.row, cell.col);
 }
-void Take_Cell(const Table_Cell& cell, float& value) {
+void Store_Cell(const Table_Cell& cell, float& value) {
   value = Within<float>(cell.table.NumberRC(cell.row, cell.col));
 }
-void Take_Cell(const Table_Cell& cell, std::int16_t& value) {
+void Store_Cell(const Table_Cell& cell, std::int16_t& value) {
   value = Within<std::int16_t>(Round_Half_Even(cell.table.NumberRC(cell.row, cell.col)));
 }
-void Take_Cell(const Table_Cell& cell, std::string& value) {
+void Store_Cell(const Table_Cell& cell, std::string& value) {
   value = cell.table.TextRC(cell.row, cell.col);
 }
 

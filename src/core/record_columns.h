@@ -23,7 +23,7 @@ namespace barvon {
 //     Number_Rows("Set ", kMaxLayers, F1Book1);
 //     columns.Fill(record, record.NOPENS, F1Book1);
 //     ...
-//     columns.Take(F1Book1, record.NOPENS, record);
+//     columns.Store(F1Book1, record.NOPENS, record);
 
 /// A cell that is read.
 struct Table_Cell {
@@ -41,10 +41,10 @@ Cell_Value Cell_Of(const std::string& value);
 
 /// Reads a cell into a value; what is beyond the value's range becomes the end of the range, and a
 /// fraction is rounded, half to even, where the value has none.
-void Take_Cell(const Table_Cell& cell, double& value);
-void Take_Cell(const Table_Cell& cell, float& value);
-void Take_Cell(const Table_Cell& cell, std::int16_t& value);
-void Take_Cell(const Table_Cell& cell, std::string& value);
+void Store_Cell(const Table_Cell& cell, double& value);
+void Store_Cell(const Table_Cell& cell, float& value);
+void Store_Cell(const Table_Cell& cell, std::int16_t& value);
+void Store_Cell(const Table_Cell& cell, std::string& value);
 
 /// Where the cells of a column come from and go to. A column whose cells are no plain array brings
 /// its own two procedures.
@@ -85,7 +85,7 @@ inline constexpr Column_Cells<Owner_Of<Member>> kCells = {
       return Cell_Of(Entry_Of<Member, Second>(owner, entry));
     },
     [](const Table_Cell& cell, int entry, Owner_Of<Member>& owner) {
-      Take_Cell(cell, Entry_Of<Member, Second>(owner, entry));
+      Store_Cell(cell, Entry_Of<Member, Second>(owner, entry));
     }};
 
 inline constexpr unsigned kEveryLayout = ~0U;
@@ -145,7 +145,7 @@ class Shown_Columns {
   }
 
   /// Reads a row into an entry. A cell that still holds the entry's value leaves it alone.
-  void Take_Row(const Spreadsheet_Table& table, int row, int entry, Owner& owner) const {
+  void Store_Row(const Spreadsheet_Table& table, int row, int entry, Owner& owner) const {
     int col = 0;
     for (const Column* column : shown_) {
       ++col;
@@ -157,9 +157,9 @@ class Shown_Columns {
 
   /// Reads the rows behind `above` into the entries from 1 to `count`, as far as the table has
   /// such rows and the owner such entries.
-  void Take(const Spreadsheet_Table& table, int count, Owner& owner, int above = 0) const {
+  void Store(const Spreadsheet_Table& table, int count, Owner& owner, int above = 0) const {
     const int last = std::min({count, Entries(), table.MaxRow() - above});
-    for (int entry = 1; entry <= last; ++entry) Take_Row(table, above + entry, entry, owner);
+    for (int entry = 1; entry <= last; ++entry) Store_Row(table, above + entry, entry, owner);
   }
 
   /// The entries of the longest column.

@@ -29,7 +29,7 @@ struct Record_Field {
 };
 
 /// Every field, in the order of the record: what shows a whole record or compares two goes by it.
-/// The tracer's name stands under its own name too.
+/// The tracer's name is under its own name too.
 std::span<const Record_Field> Record_Fields();
 
 }  // namespace barvon

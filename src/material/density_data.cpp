@@ -118,7 +118,7 @@ void Save_Data(Density_Entry& entry, ProjectRecord& record) {
   Show_Density(record, entry);
 }
 
-Density_Copy Copy_Vars(const ProjectRecord& record) { return {record.SiteDensity}; }
+Density_Copy Copy_Density(const ProjectRecord& record) { return {record.SiteDensity}; }
 
 void Reset_Vars(const Density_Copy& copy, ProjectRecord& record) {
   record.SiteDensity = copy.SiteDensity;

@@ -37,7 +37,7 @@ void Save_Data(Density_Entry& entry, ProjectRecord& record);
 struct Density_Copy {
   double SiteDensity = 0;  // g/cc
 };
-Density_Copy Copy_Vars(const ProjectRecord& record);
+Density_Copy Copy_Density(const ProjectRecord& record);
 void Reset_Vars(const Density_Copy& copy, ProjectRecord& record);
 
 }  // namespace barvon

@@ -44,7 +44,7 @@ void frmDensity::Opening() {
   fields_.Show(Open_Density(record_).texts);
 }
 
-void frmDensity::Activated() { copy_ = Copy_Vars(record_); }
+void frmDensity::Activated() { copy_ = Copy_Density(record_); }
 
 void frmDensity::Check3D3_Click() {
   const bool computed = Check3D3->isChecked();

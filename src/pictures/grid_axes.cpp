@@ -44,7 +44,7 @@ void Dress_Grid_Axes(QCustomPlot& plot) {
 }
 
 void Set_Grid_Size(QCustomPlot& plot, int rows, int columns) {
-  // Each point stands in the middle of its cell.
+  // Each point is in the middle of its cell.
   plot.xAxis2->setRange(0.5, columns > 0 ? columns + 0.5 : 1);
   plot.yAxis->setRange(0.5, rows > 0 ? rows + 0.5 : 1);
 }

@@ -102,7 +102,7 @@ void Tidal_Curve::Build() {
   Tell(drawing_.note, drawing_.description);
 }
 
-// The averages stand beside the names of their lines, so that no label lies on the curves.
+// The averages are beside the names of their lines, so that no label lies on the curves.
 void Tidal_Curve::Name_Curves() {
   const auto average = [](const char* name, const std::optional<double>& value) {
     return QString::fromStdString(std::string(name) + " average " +

@@ -90,7 +90,7 @@ void Velocity_Arrows::Fit() {
   Fit_Labels(*scale_->axis(), drawing_.scale, Room_For_Axes(*plot()).height());
   Fit_Grid_Labels(*plot(), drawing_.rows, drawing_.columns);
   arrows_->font = plot()->yAxis->tickLabelFont();
-  // The reference arrow stands below the map.
+  // The reference arrow is below the map.
   const int below = static_cast<int>(QFontMetricsF(arrows_->font).height()) + 10;
   plot()->axisRect()->setMinimumMargins(QMargins(15, 15, 15, below));
 }

@@ -14,13 +14,13 @@ inline constexpr std::array<const char*, 4> kOutputExtensions{".duo", ".dup", ".
 /// What became of one output.
 struct Kept_Output {
   std::string extension;
-  bool written = false;  // by this run; otherwise what stands there is of an earlier one
+  bool written = false;  // by this run; otherwise what is there is of an earlier one
   std::string path;      // its copy beside the project; empty when there is none
   int error = 0;         // errno of a copy that failed
 };
 
 /// The outputs in the application directory, by name without regard to case. Made before a solver
-/// starts, it remembers what stands there, so that it can tell afterwards what this run wrote.
+/// starts, it remembers what is there, so that it can tell afterwards what this run wrote.
 class Output_Files {
  public:
   explicit Output_Files(std::string application_folder);

@@ -172,7 +172,7 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
     return;
   }
   report.stage = report.outcome.started ? Run_Stage::Ended : Run_Stage::Not_Started;
-  // Outputs that stand there without a run are another one's, and older ones stay as they are.
+  // Outputs that are there without a run are another one's, and older ones stay as they are.
   if (report.outcome.started) report.Add_Outputs(outputs.Keep(base_name));
   Write_Graph_File(project);
 }

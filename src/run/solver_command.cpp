@@ -23,7 +23,7 @@ std::vector<std::string> Words(const std::string& text) {
 }
 
 /// The folders of the search path. Relative ones are passed over: what they name depends on where
-/// this program happens to stand.
+/// this program happens to be.
 std::vector<std::string> Search_Path() {
   std::vector<std::string> folders;
   const char* path = std::getenv("PATH");
@@ -98,7 +98,7 @@ std::string Joined(const std::vector<std::string>& words, std::size_t from) {
   return text;
 }
 
-/// What stands in the application directory under one of the names and still can't be run.
+/// What is in the application directory under one of the names and still can't be run.
 std::string Remark_On(const std::string& folder, const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     for (const std::string& file : Files_Named(folder, name)) {
@@ -142,7 +142,7 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
               words[named] + " in " + application_folder +
                   " is a DOS program, and dosbox was not found on the search path"};
     }
-    // A launcher that stands there too is what the program was meant to be started by.
+    // A launcher that is there too is what the program was meant to be started by.
     const bool launched = named > 0 && (Has_Dos_Program(application_folder, launcher) ||
                                         Has_Dos_Program(application_folder, launcher + ".EXE"));
     return Through_Dosbox(*dosbox, Joined(words, launched ? 0 : named));

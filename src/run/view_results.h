@@ -9,11 +9,11 @@ inline constexpr int kGraphKinds = 4;
 
 /// Hands the project and the kind of picture (0 to 3) to the graphics program through the
 /// settings, starts it in the application directory and waits for its end. It reads what it is to
-/// show from the settings; nothing stands on its command line. Tells the user in a box what is
+/// show from the settings; nothing is on its command line. Tells the user in a box what is
 /// missing, and in the status area when it could not be started or failed.
 void Graph_Command(const ProjectRecord& record, int kind);
 
-/// Whether the graphics program stands in the current directory, under either of its names.
+/// Whether the graphics program is in the current directory, under either of its names.
 bool Graphics_Program_Exists();
 
 /// Opens the project's readable output in the desktop's text editor, or in the program's own text

@@ -6,7 +6,7 @@
 
 namespace barvon {
 
-/// Where the ends of the density profile stand.
+/// Where the ends of the density profile are.
 struct Density_Ends {
   int result = 0;         // 0 neither end is right, 1 only the surface, 2 only the bottom, 3 both
   float BottomDepth = 0;  // ft: the constant depth as typed, or the depth grid's largest

@@ -37,9 +37,9 @@ void Fill_Density_Table(const ProjectRecord& record, int rows, bool computed,
   Columns(computed).Fill(record, rows, F1Book1);
 }
 
-void Take_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
-                      ProjectRecord& record) {
-  Columns(computed).Take_Row(F1Book1, row, row, record);
+void Store_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
+                       ProjectRecord& record) {
+  Columns(computed).Store_Row(F1Book1, row, row, record);
 }
 
 bool Compute_Density_Table(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
@@ -62,7 +62,7 @@ bool Compute_Density_Table(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
   }
   for (int row = 1; row <= rows; ++row) {
     F1Book1.TextRC(row, kDensityColumn, shown[static_cast<std::size_t>(row)]);
-    Take_Density_Row(F1Book1, row, true, record);
+    Store_Density_Row(F1Book1, row, true, record);
   }
   record.DensityComputeFlag = kTrue;
   return true;

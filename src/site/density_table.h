@@ -18,8 +18,8 @@ void Fill_Density_Table(const ProjectRecord& record, int rows, bool computed,
                         Spreadsheet_Table& F1Book1);
 
 /// Writes a row of the table to the record's point of that number, at most kMaxDensityPoints.
-void Take_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
-                      ProjectRecord& record);
+void Store_Density_Row(const Spreadsheet_Table& F1Book1, int row, bool computed,
+                       ProjectRecord& record);
 
 /// "Compute Density": the density of every row from its salinity and temperature. The table shows
 /// four decimals, and the record takes what it shows. False, and told, when there are more rows

@@ -131,9 +131,9 @@ void frmDescription::Connect() {
 }
 
 void frmDescription::Opening() {
-  Take_Site_Defaults(record_);
+  Store_Site_Defaults(record_);
   Lay_Out_Density_Table(false, F1Book1->table());
-  Take_Dimensions(record_);
+  Store_Dimensions(record_);
   fields_.Follow(Faces_Of(Site_Fields(), record_));
   const Field_Texts texts = Fill_Fields(Site_Fields(), record_);
   for (int i = 0; i < 2; ++i) Text2(i)->setText(QString::fromStdString(texts("Text2", i)));
@@ -141,7 +141,7 @@ void frmDescription::Opening() {
   if (record_.ConstantDepthFlag == 0) Set_Check(kVariableDepth, true);
   for (int i = kRoughness; i < kSiteFields; ++i) Set_Text1(i, texts("Text1", i));
   F1Book1->table().ClearAll();
-  Take_Wizard_Densities(record_);
+  Store_Wizard_Densities(record_);
   const bool computed = record_.DensityComputeFlag != kFalse;
   if (computed) Set_Check(kComputesDensity, true);
   Fill_Density_Table(record_, record_.NROA0, computed, F1Book1->table());
@@ -149,7 +149,7 @@ void frmDescription::Opening() {
   Show_Profile();
 }
 
-void frmDescription::Activated() { copy_ = Copy_Vars(Entry(), record_); }
+void frmDescription::Activated() { copy_ = Copy_Site(Entry(), record_); }
 
 void frmDescription::Command1_Click(int index) {
   switch (index) {
@@ -189,7 +189,7 @@ void frmDescription::Text1_Change(int index) {
   if (index == kDensityPoints) F1Book1->table().MaxRow(Density_Rows(text));
   // While it opens, the screen shows the dimensions by itself.
   if (FillingForm) return;
-  Take_Dimensions(Entry(), record_);
+  Store_Dimensions(Entry(), record_);
   Show_Dimensions();
   Show_Profile();
 }

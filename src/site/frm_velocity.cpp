@@ -125,10 +125,10 @@ void frmVelocity::Opening() {
     Choose(form);
   }
   if (record_.WizardActive == kFalse) return;
-  for (Velocity_Panel* panel : panels_) panel->Take_Wizard();
+  for (Velocity_Panel* panel : panels_) panel->Show_Wizard();
 }
 
-void frmVelocity::Activated() { saved_ = Copy_Velocity(record_); }
+void frmVelocity::Activated() { copy_ = Copy_Velocity(record_); }
 
 void frmVelocity::Command1_Click(int index) {
   switch (index) {
@@ -137,7 +137,7 @@ void frmVelocity::Command1_Click(int index) {
       Save();
       break;
     case kCancel:
-      Reset_Vars(saved_, record_);
+      Reset_Vars(copy_, record_);
       Unload();
       break;
     case kGridWithoutButton:

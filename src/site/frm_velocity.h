@@ -40,7 +40,7 @@ class frmVelocity : public Input_Screen {
   Velocity_Panel* Panel() const;
 
   ProjectRecord& record_;
-  Saved_Velocity saved_;
+  Velocity_Copy copy_;
   std::vector<Velocity_Panel*> panels_;  // by Velocity_Form
 
   ControlArray<QRadioButton> Option3D1{this, "Option3D1", kVelocityForms};

@@ -52,7 +52,7 @@ double Dimension(double count, double spacing) { return (count - 1) * spacing + 
 
 }  // namespace
 
-void Take_Site_Defaults(ProjectRecord& record) {
+void Store_Site_Defaults(ProjectRecord& record) {
   if (record.WizardActive != kFalse) {
     record.DEPC0 = Lenient_Number(Answers_Of_Wizard().water_depth);
   }
@@ -60,7 +60,7 @@ void Take_Site_Defaults(ProjectRecord& record) {
   record.NROA0 = std::clamp<std::int16_t>(record.NROA0, kLeastDensityPoints, kMaxDensityPoints);
 }
 
-void Take_Wizard_Densities(ProjectRecord& record) {
+void Store_Wizard_Densities(ProjectRecord& record) {
   if (record.WizardActive == kFalse) return;
   const Wizard_Answers& wizard = Answers_Of_Wizard();
   record.NROA0 = 2;
@@ -104,12 +104,12 @@ int Density_Rows(const std::string& Text1_8) {
   return static_cast<int>(std::clamp<double>(rows, 0, Spreadsheet_Table::kSheetRows));
 }
 
-void Take_Dimensions(ProjectRecord& record) {
+void Store_Dimensions(ProjectRecord& record) {
   record.DistZ = Dimension(record.NMAX0, record.DZ0);
   record.DistX = Dimension(record.MMAX0, record.DX0);
 }
 
-void Take_Dimensions(const Site_Entry& entry, ProjectRecord& record) {
+void Store_Dimensions(const Site_Entry& entry, ProjectRecord& record) {
   record.DistZ = Dimension(Number(entry, kZPoints), Number(entry, kZSpacing));
   record.DistX = Dimension(Number(entry, kXPoints), Number(entry, kXSpacing));
 }
@@ -130,11 +130,11 @@ void SaveSiteData(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,
   if (entry.variable_depth) record.DEPC0 = 0;
   record.ConstantDepthFlag = entry.variable_depth ? 0 : 1;
   for (int row = 1; row <= record.NROA0; ++row) {
-    Take_Density_Row(F1Book1, row, entry.computes_density, record);
+    Store_Density_Row(F1Book1, row, entry.computes_density, record);
   }
 }
 
-Site_Copy Copy_Vars(const Site_Entry& entry, const ProjectRecord& record) {
+Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record) {
   return {record.NMAX0, record.MMAX0,           record.NROA0,        record.DZ0,
           record.DX0,   record.RHDA0,           record.SLOPEX0,      record.SLOPEZ0,
           record.DEPC0, entry.computes_density, entry.variable_depth};

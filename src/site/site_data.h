@@ -18,11 +18,11 @@ struct Site_Entry {
 
 /// What the opening screen changes in the record: a roughness height of 0 becomes 0.005, the count
 /// of density points is brought to 2 to 5, and with the wizard open the water depth is its own.
-void Take_Site_Defaults(ProjectRecord& record);
+void Store_Site_Defaults(ProjectRecord& record);
 
 /// With the wizard open, the profile becomes its water at the surface and at the bottom. Water
 /// without a finite density is told and keeps the densities as they were.
-void Take_Wizard_Densities(ProjectRecord& record);
+void Store_Wizard_Densities(ProjectRecord& record);
 
 /// What a change of Text1(index) has to say. False when nothing may follow it: neither the number
 /// of density rows nor the grid's dimensions.
@@ -32,8 +32,8 @@ bool Check_Site_Text(int index, const std::string& text);
 int Density_Rows(const std::string& Text1_8);
 
 /// Writes DistZ and DistX to the record, by its own counts and spacings or by those typed.
-void Take_Dimensions(ProjectRecord& record);
-void Take_Dimensions(const Site_Entry& entry, ProjectRecord& record);
+void Store_Dimensions(ProjectRecord& record);
+void Store_Dimensions(const Site_Entry& entry, ProjectRecord& record);
 
 /// Check3D1(1), by whomever: ConstantDepthFlag follows. A two-point velocity profile, which needs a
 /// constant depth, goes with it and comes back, and so does the blue of its option on the main
@@ -51,7 +51,7 @@ struct Site_Copy {
   bool computes_density = false, variable_depth = false;  // the check boxes
 };
 
-Site_Copy Copy_Vars(const Site_Entry& entry, const ProjectRecord& record);
+Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record);
 
 /// Copies the values back into the record. Densities, dimensions and the velocity profile are not
 /// among them; the check boxes are the screen's to put back.

@@ -4,7 +4,7 @@
 
 namespace barvon {
 
-/// Hours between two points of the tidal pattern; point i stands at (i - 1) of them.
+/// Hours between two points of the tidal pattern; point i is at (i - 1) of them.
 inline constexpr float kPatternStep = 0.5F;
 
 /// y at x on the straight line through (x1, y1) and (x2, y2). Every step is rounded to 32 bits.

@@ -17,7 +17,7 @@ class Tidal_Panel : public Velocity_Panel {
   void Shown() override;
   void Read(Velocity_Entry& entry) const override;
   void Stored() override;
-  void Take_Wizard() override;
+  void Show_Wizard() override;
   /// Text4(1): start, duration and end of the interval.
   QPlainTextEdit* Note() const override { return Text4_1; }
   std::vector<QWidget*> Order() const override;

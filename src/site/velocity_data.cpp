@@ -209,17 +209,17 @@ void SaveVelocityData(const Velocity_Entry& entry, ProjectRecord& record) {
   }
 }
 
-Saved_Velocity Copy_Velocity(const ProjectRecord& record) {
+Velocity_Copy Copy_Velocity(const ProjectRecord& record) {
   return {record.VelocityProfileType, record.AvgVelocityDepth, record.AvgVelocityX,
           record.AvgVelocityZ, Two_Points(record)};
 }
 
-void Reset_Vars(const Saved_Velocity& saved, ProjectRecord& record) {
-  record.VelocityProfileType = saved.VelocityProfileType;
-  record.AvgVelocityDepth = saved.AvgVelocityDepth;
-  record.AvgVelocityX = saved.AvgVelocityX;
-  record.AvgVelocityZ = saved.AvgVelocityZ;
-  Store_Two_Points(saved.two_points, record);
+void Reset_Vars(const Velocity_Copy& copy, ProjectRecord& record) {
+  record.VelocityProfileType = copy.VelocityProfileType;
+  record.AvgVelocityDepth = copy.AvgVelocityDepth;
+  record.AvgVelocityX = copy.AvgVelocityX;
+  record.AvgVelocityZ = copy.AvgVelocityZ;
+  Store_Two_Points(copy.two_points, record);
 }
 
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction) {

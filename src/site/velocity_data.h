@@ -53,14 +53,14 @@ std::optional<std::array<double, kDirections>> Average_Velocities(const Velocity
 void SaveVelocityData(const Velocity_Entry& entry, ProjectRecord& record);
 
 /// What Cancel puts back.
-struct Saved_Velocity {
+struct Velocity_Copy {
   double VelocityProfileType = 0;
   double AvgVelocityDepth = 0, AvgVelocityX = 0, AvgVelocityZ = 0;
   OneBased<OneBased<double, 4>, 2> two_points{};
 };
-Saved_Velocity Copy_Velocity(const ProjectRecord& record);
+Velocity_Copy Copy_Velocity(const ProjectRecord& record);
 /// The fields of the grid and the unsteady profile stay as they are.
-void Reset_Vars(const Saved_Velocity& saved, ProjectRecord& record);
+void Reset_Vars(const Velocity_Copy& copy, ProjectRecord& record);
 
 /// The constant that fills the direction's field, 0 for none.
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction);

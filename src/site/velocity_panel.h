@@ -33,7 +33,7 @@ class Velocity_Panel : public QGroupBox {
   /// OK has stored what was read.
   virtual void Stored() {}
   /// The open wizard's answers, on top of what was filled.
-  virtual void Take_Wizard() {}
+  virtual void Show_Wizard() {}
 
   /// A note of its own, shown beside the one on directions; nullptr without one.
   virtual QPlainTextEdit* Note() const { return nullptr; }

@@ -40,7 +40,7 @@ void Fill_Point_Table(const Velocity_Entry& entry, Spreadsheet_Table& table) {
 }
 
 void Read_Point_Table(const Spreadsheet_Table& table, Velocity_Entry& entry) {
-  Shown_Columns(kPointColumns).Take(table, table.MaxRow(), entry);
+  Shown_Columns(kPointColumns).Store(table, table.MaxRow(), entry);
 }
 
 void Fill_Tidal_Table(const Velocity_Entry& entry, Spreadsheet_Table& table) {
@@ -55,7 +55,7 @@ void Fill_Tidal_Table(const Velocity_Entry& entry, Spreadsheet_Table& table) {
 }
 
 void Read_Tidal_Table(const Spreadsheet_Table& table, Velocity_Entry& entry) {
-  Shown_Columns(kTidalColumns).Take(table, table.MaxRow(), entry);
+  Shown_Columns(kTidalColumns).Store(table, table.MaxRow(), entry);
 }
 
 void Fill_Field_Table(const Grid& field, int rows, int columns, Spreadsheet_Table& table) {

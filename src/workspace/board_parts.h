@@ -16,7 +16,7 @@ QGroupBox* Frame(QGroupBox* frame, const char* name, const char* caption);
 /// The lines of a frame, one under the other.
 QVBoxLayout* Lines(QGroupBox* frame, int gap);
 
-/// A label that shows text of the project, whatever characters stand in it.
+/// A label that shows text of the project, whatever characters are in it.
 QLabel* Text(QLabel* label, const char* text = "");
 
 /// A check box that shows a state and takes no click.

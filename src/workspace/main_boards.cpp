@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/velocity_types.h"
 #include "platform/qt/fields/option_paint.h"
 #include "platform/qt/tab_order.h"
 #include "platform/qt/tool_bar_keys.h"
@@ -50,7 +51,7 @@ QLayout* Command_Row(Main_Controls& controls) {
 
 /// The toolbar, both boards and the row of commands in reading order; what is out of view is passed
 /// over.
-void Set_Tab_Order(Main_Controls& c) {
+void Order_Controls(Main_Controls& c) {
   std::vector<QWidget*> order;
   const auto add = [&order](const auto& controls) {
     order.insert(order.end(), controls.begin(), controls.end());
@@ -65,12 +66,15 @@ void Set_Tab_Order(Main_Controls& c) {
   add(c.SSCheck2);
   add(c.SSPanel5);
   // The left column of the data board, then the right one.
-  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5), c.Option3D1(0), c.Check3D1,
-                             c.Option3D1(1), c.Option3D1(2), c.Option3D1(3), c.SSRibbon1(1),
-                             c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
+  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5)});
+  for (int form = 0; form < kVelocityForms; ++form) {
+    order.push_back(c.Option3D1(form));
+    if (form == kSingleForm) order.push_back(c.Check3D1);
+  }
+  order.insert(order.end(), {c.SSRibbon1(1), c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
   for (const Command_Button index : kReadingOrder) order.push_back(c.SSPanel3(index));
   add(c.status_area->findChildren<QPushButton*>());
-  barvon::Set_Tab_Order(order);
+  Set_Tab_Order(order);
   c.Title_Box->setFocus();
 }
 
@@ -93,7 +97,7 @@ void Build_Boards(Main_Controls& controls) {
   layout->addWidget(controls.Frame3D2, 1);
   layout->addLayout(Command_Row(controls));
   controls.window->setCentralWidget(centre);
-  Set_Tab_Order(controls);
+  Order_Controls(controls);
   Set_Help_Topics(controls);
   Show_Main_Board(controls);
 }

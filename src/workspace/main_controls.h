@@ -36,7 +36,7 @@ enum Command_Button {
 };
 inline constexpr int kCommandButtons = 10;
 
-/// The controls of the main window. Who builds, fills and hears them stands elsewhere.
+/// The controls of the main window. Who builds, fills and hears them is elsewhere.
 struct Main_Controls {
   explicit Main_Controls(QMainWindow* main)
       : window(main),
@@ -80,7 +80,7 @@ struct Main_Controls {
   ControlArray<Latching_Button> SSRibbon2;          // (3): dilution calculator
   QCheckBox* SSCheck1;
   ControlArray<QLabel> Label3;
-  ControlArray<Latching_Button> SSRibbon1;  // (4): database; the others stand on the data board
+  ControlArray<Latching_Button> SSRibbon1;  // (4): database; the others are on the data board
 
   // The data board.
   QGroupBox* Frame3D2;

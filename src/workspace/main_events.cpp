@@ -81,7 +81,7 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
       if (record.HelpContextToShow == 0) {
         Show_Help({Help_Command::Index, 0, ""});
       } else {
-        Show_Help({Help_Command::Context, record.HelpContextToShow, ""});
+        Show_Topic(record.HelpContextToShow);
       }
       break;
     case kViewOutput:

@@ -40,7 +40,7 @@ void Add_Recent_Files(Main_Controls& controls, QMenu* menu) {
   }
 }
 
-/// The menu before which the one of that name stands; none for the last.
+/// The menu before which the one of that name is; none for the last.
 QAction* Next_In_Bar(const Main_Controls& controls, const QString& name) {
   const QList<QAction*> bar = controls.window->menuBar()->actions();
   bool behind = false;
@@ -152,9 +152,9 @@ void Share_Letters(Main_Controls& controls) {
 void Show_Tools_Menu(Main_Controls& controls) {
   bool any = false;
   for (int i = 0; const char* screen = Tool_Screen(i); ++i) {
-    const bool stands = Screen_Stands(screen);
-    Action_Of(controls, "mnuToolItem", i)->setVisible(stands);
-    any = any || stands;
+    const bool known = Screen_Stands(screen);
+    Action_Of(controls, "mnuToolItem", i)->setVisible(known);
+    any = any || known;
   }
   Show_Menu(controls, "mnuTools", any);
 }

@@ -12,7 +12,7 @@ void Build_Menus(Main_Controls& controls);
 /// Makes the action known as the array's item of that index, "Toolbar1(3)"; returns it.
 QAction* Name_Action(Main_Controls& controls, QAction* action, const char* array, int index);
 
-/// The action of that name; it stands as long as the window.
+/// The action of that name; it lives as long as the window.
 QAction* Action_Of(const Main_Controls& controls, const char* array, int index);
 QAction* Action_Of(const Main_Controls& controls, const char* name);
 
@@ -32,7 +32,8 @@ void Show_Menu(Main_Controls& controls, const char* name, bool shown);
 /// far as no menu in view has it.
 void Share_Letters(Main_Controls& controls);
 
-/// Shows the entries of the Tools menu whose screens stand; without any the menu is hidden too.
+/// Shows the entries of the Tools menu whose screens are registered; without any the menu is hidden
+/// too.
 void Show_Tools_Menu(Main_Controls& controls);
 
 /// Shows the recent files as the menu holds them.

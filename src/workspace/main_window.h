@@ -13,7 +13,7 @@ namespace barvon {
 /// start-up; closing it ends the process.
 class Main : public QMainWindow {
  public:
-  /// `application_folder` is where the settings stand and solvers run. `end_process` ends the
+  /// `application_folder` is where the settings are and solvers run. `end_process` ends the
   /// process at once, however deep the calls are nested.
   explicit Main(const std::string& application_folder,
                 std::function<void()> end_process = End_Process_Now);

@@ -13,7 +13,7 @@ Menu_Item Marked(int index, const char* caption, bool marked, const char* hint =
   return {index, caption, true, true, Gate::None, true, marked, hint};
 }
 Menu_Item Hidden(int index, const char* caption) { return {index, caption, false, false}; }
-/// Shows once its screen stands.
+/// Shows once its screen is registered.
 Menu_Item Opens(int index, const char* caption, const char* screen) {
   return {index, caption, true, false, Gate::None, false, false, "", screen};
 }

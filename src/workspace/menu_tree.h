@@ -32,10 +32,10 @@ struct Menu_Item {
   bool has_mark = false;
   bool marked = false;  // at start
   const char* hint = "";
-  const char* screen = "";  // what it opens; it shows as long as a screen of that name stands
+  const char* screen = "";  // what it opens; it shows as long as that screen is registered
 };
 
-/// One menu of the menu bar, or, without items, a command that stands in the menu bar itself.
+/// One menu of the menu bar, or, without items, a command that is in the menu bar itself.
 /// An item's name is the array's with its index: "mnuFileItem(4)".
 struct Menu {
   const char* name = "";
@@ -51,7 +51,7 @@ struct Menu {
 /// The screen that the entry of the Tools menu opens; none for any other index.
 const char* Tool_Screen(int index);
 
-/// The menu bar from left to right. The recent files stand in the File menu, behind its items.
+/// The menu bar from left to right. The recent files are in the File menu, behind its items.
 const std::vector<Menu>& Menu_Tree();
 
 /// The caption of a recent-file entry, 1 to 4, with the path shown as it is.

@@ -46,7 +46,7 @@ void Option3D1_Click(Main_Controls& controls, ProjectRecord& record, int index) 
     Show_Screen("frmDescription", record);
     return;
   }
-  controls.Check3D1->setEnabled(index == 0);
+  controls.Check3D1->setEnabled(index == kSingleForm);
 }
 
 void Check3D1_Click(Main_Controls& controls, ProjectRecord& record, bool set) {

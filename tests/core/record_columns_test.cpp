@@ -100,7 +100,7 @@ TEST_F(RecordColumns, Entries_Lie_Behind_The_Rows_Above_Them) {
   EXPECT_EQ(table.TextRC(9, 1), "Sand");
   EXPECT_EQ(table.NumberRC(11, 2), 30);
   table.NumberRC(11, 2, 31);
-  all.Take(table, 3, load, 8);
+  all.Store(table, 3, load, 8);
   EXPECT_EQ(load.depths[3], 31);
 }
 
@@ -113,7 +113,7 @@ TEST_F(RecordColumns, Every_Kind_Of_Cell_Is_Read_Back) {
   table.TextRC(1, 4, "8.5");
   table.NumberRC(2, 5, 0.25);
   table.TextRC(1, 7, "Y");
-  all.Take(table, 3, load);
+  all.Store(table, 3, load);
   EXPECT_EQ(load.names[1], "Clay");
   EXPECT_EQ(load.depths[1], 12.5);
   EXPECT_EQ(load.speeds[1], 0.75F);
@@ -131,7 +131,7 @@ TEST_F(RecordColumns, What_Nobody_Touched_Comes_Back_Bit_By_Bit) {
   const Load before = load;
   all.Lay_Out(1, 3, table);
   all.Fill(load, 3, table);
-  all.Take(table, 3, load);
+  all.Store(table, 3, load);
   EXPECT_EQ(load.depths, before.depths);
   EXPECT_EQ(load.speeds, before.speeds);
   EXPECT_EQ(load.counts, before.counts);
@@ -143,7 +143,7 @@ TEST_F(RecordColumns, Numbers_Beyond_An_Entrys_Range_Become_Its_End) {
   table.TextRC(1, 3, "-1E+300");
   table.TextRC(1, 4, "40000");
   table.NumberRC(2, 4, std::numeric_limits<double>::quiet_NaN());
-  all.Take(table, 2, load);
+  all.Store(table, 2, load);
   EXPECT_EQ(load.speeds[1], std::numeric_limits<float>::lowest());
   EXPECT_EQ(load.counts[1], 32767);
   EXPECT_EQ(load.counts[2], 0);
@@ -154,7 +154,7 @@ TEST_F(RecordColumns, Only_Rows_Of_The_Table_Are_Read) {
   table.MaxRow(1);
   table.NumberRC(1, 2, 1);
   table.NumberRC(2, 2, 2);
-  all.Take(table, 3, load);
+  all.Store(table, 3, load);
   EXPECT_EQ(load.depths[1], 1);
   EXPECT_EQ(load.depths[2], 20.123456);
 }

@@ -311,7 +311,7 @@ TEST_F(DensityData, A_Density_Outside_The_Limits_Is_Told_And_The_Save_Goes_On) {
 }
 
 TEST_F(DensityData, Cancel_Brings_Back_The_Density_Alone) {
-  const Density_Copy copy = Copy_Vars(record);
+  const Density_Copy copy = Copy_Density(record);
   Compute("35", "20");
   Reset_Vars(copy, record);
   EXPECT_EQ(Changed(), (Fields{"SiteSalinity", "SiteTemperature"}));

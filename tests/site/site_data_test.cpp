@@ -200,21 +200,21 @@ TEST_F(SiteData, The_Tables_Rows_Are_The_Count_Rounded_Half_To_Even) {
 }
 
 TEST_F(SiteData, Dimensions_Are_One_Spacing_Less_Than_The_Points) {
-  Take_Dimensions(Entry(), record_);
+  Store_Dimensions(Entry(), record_);
   EXPECT_EQ(record_.DistZ, 3900);  // (40 - 1) x 100
   EXPECT_EQ(record_.DistX, 950);   // (20 - 1) x 50
-  Take_Dimensions(Entry(kZPoints, ""), record_);
+  Store_Dimensions(Entry(kZPoints, ""), record_);
   EXPECT_EQ(record_.DistZ, -100);
   record_.NMAX0 = 11;
   record_.DZ0 = 2.5;
-  Take_Dimensions(record_);
+  Store_Dimensions(record_);
   EXPECT_EQ(record_.DistZ, 25);
 }
 
 TEST_F(SiteData, A_Dimension_Is_Never_A_Negative_Zero) {
   Site_Entry entry = Entry(kZPoints, "0");
   entry.texts("Text1", kZSpacing) = "0";
-  Take_Dimensions(entry, record_);
+  Store_Dimensions(entry, record_);
   EXPECT_FALSE(std::signbit(record_.DistZ));
 }
 
@@ -244,14 +244,14 @@ TEST_F(SiteData, Opening_Brings_Roughness_And_Density_Points_In) {
   const std::pair<int, int> counts[] = {{0, 2}, {1, 2}, {2, 2}, {5, 5}, {6, 5}, {-7, 2}};
   for (const auto& [stored, held] : counts) {
     record_.NROA0 = static_cast<std::int16_t>(stored);
-    Take_Site_Defaults(record_);
+    Store_Site_Defaults(record_);
     EXPECT_EQ(record_.NROA0, held);
   }
   EXPECT_EQ(record_.RHDA0, 0.005);
   record_.RHDA0 = 0.0002;
   record_.DEPC0 = 12;
   Answers_Of_Wizard().water_depth = "60";
-  Take_Site_Defaults(record_);
+  Store_Site_Defaults(record_);
   EXPECT_EQ(record_.RHDA0, 0.0002);
   EXPECT_EQ(record_.DEPC0, 12) << "the wizard is not open";
 }
@@ -271,9 +271,9 @@ TEST_F(SiteData, The_Wizards_Water_Becomes_A_Profile_Of_Two_Points_Its_Degrees_T
   record_.WizardActive = kTrue;
   record_.NROA0 = 4;
   Answers_Of_Wizard() = {"2400", "1000", "10", "35", 0};
-  Take_Site_Defaults(record_);
+  Store_Site_Defaults(record_);
   EXPECT_EQ(record_.DEPC0, 1000);
-  Take_Wizard_Densities(record_);
+  Store_Wizard_Densities(record_);
   EXPECT_EQ(record_.NROA0, 2);
   EXPECT_EQ(record_.DensityComputeFlag, kTrue);
   EXPECT_EQ(record_.DensityDepths[1], 0);
@@ -290,7 +290,7 @@ TEST_F(SiteData, The_Wizards_Water_Becomes_A_Profile_Of_Two_Points_Its_Degrees_T
 TEST_F(SiteData, Without_The_Wizard_The_Profile_Is_The_Records) {
   Answers_Of_Wizard() = {"2400", "1000", "10", "35", 0};
   const auto before = std::make_unique<ProjectRecord>(record_);
-  Take_Wizard_Densities(record_);
+  Store_Wizard_Densities(record_);
   EXPECT_EQ(Differing_Fields(*before, record_), Names{});
 }
 
@@ -299,7 +299,7 @@ TEST_F(SiteData, Water_Of_The_Wizard_Without_A_Density_Is_Told_And_The_Densities
   record_.Densities = {0, 1.01, 1.02};
   Answers_Of_Wizard() = {"2400", "60", "-67.26", "35", 0};
   Scripted_Messages messages({Answer::Ok});
-  Take_Wizard_Densities(record_);
+  Store_Wizard_Densities(record_);
   EXPECT_EQ(messages.shown.at(0).text,
             "The Density of Point 1 Can Not Be Computed.  Please Correct Its Salinity or "
             "Temperature.");
@@ -309,10 +309,10 @@ TEST_F(SiteData, Water_Of_The_Wizard_Without_A_Density_Is_Told_And_The_Densities
 }
 
 TEST_F(SiteData, Cancel_Restores_Its_Nine_Fields_And_No_Others) {
-  const Site_Copy copy = Copy_Vars(Entry(), record_);
+  const Site_Copy copy = Copy_Site(Entry(), record_);
   const auto before = std::make_unique<ProjectRecord>(record_);
   Save(Entry());
-  Take_Dimensions(Entry(), record_);
+  Store_Dimensions(Entry(), record_);
   Choose_Variable_Depth(true, record_);
   Reset_Vars(copy, record_);
   EXPECT_EQ(Differing_Fields(*before, record_),

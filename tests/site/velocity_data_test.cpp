@@ -268,7 +268,7 @@ TEST_F(VelocityData, A_Form_Stores_Nothing_Of_The_Others) {
 }
 
 TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
-  const Saved_Velocity saved = Copy_Velocity(record);
+  const Velocity_Copy saved = Copy_Velocity(record);
   const ProjectRecord before = record;
   record.VelocityProfileType = 5;
   record.AvgVelocityDepth = record.AvgVelocityX = record.AvgVelocityZ = 1;

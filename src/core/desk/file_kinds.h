@@ -9,7 +9,7 @@
 
 namespace barvon {
 
-/// Who reads and writes the formats that core does not own. main.cpp registers them at start.
+/// Who reads and writes the formats that core does not own. Their owners register them at start.
 struct File_Kind {
   /// Fills the record from the file's bytes. None, or what stopped it, with the record untouched.
   std::function<Failure(const std::string& path, std::string_view bytes, ProjectRecord& record)>
@@ -27,7 +27,7 @@ inline constexpr char kProjectLetters[] = "DUI";
 inline constexpr char kDilutionLetters[] = "DUD";
 
 /// What a file is told by when it is opened: the last three characters of its path in upper case,
-/// whatever stands before them.
+/// whatever is before them.
 std::string Last_Three_Letters(std::string_view path);
 
 }  // namespace barvon

@@ -32,7 +32,7 @@ inline constexpr int kWizardTimes = 420;
 inline constexpr int kWizardPages = 8;
 
 /// What the wizard shows at its steps, the first step's topic first. Behind those of its pages
-/// stand three that no page shows.
+/// are three that no page shows.
 inline constexpr std::array<int, 11> kWizardTopics = {help_topic::kErrorList,
                                                       help_topic::kWizardOptions,
                                                       help_topic::kVelocity,

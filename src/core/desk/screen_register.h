@@ -21,7 +21,7 @@ bool Screen_Stands(const std::string& name);
 /// Whether input screens open blocking, as the View menu says.
 inline bool Opens_Blocking(const ProjectRecord& record) { return record.ShowMode == 1; }
 
-/// Opens the screen. False when no screen of that name stands.
+/// Opens the screen. False when no screen of that name is registered.
 bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});
 
 /// Opens the screen; one that this version does not have is named in the status area.

@@ -9,7 +9,7 @@
 // Reading notes for this section, which no solver of ours has read yet:
 // - Its patterns do not pad, so a 0 in an integer pattern leaves nothing, and the values of a line
 //   run together. Only the order of the fields is promised.
-// - A group of fields is one line; output depths and the density profile stand one value to a
+// - A group of fields is one line; output depths and the density profile are one value to a
 //   line. So do the grids of depths and velocities: run together they could not be taken apart.
 // - The fluid is followed by an empty line, and what comes after that starts a new one.
 

@@ -7,7 +7,7 @@
 
 namespace barvon {
 
-/// Builds the model input line by line, in UTF-8. Nothing stands between two fields, and a field
+/// Builds the model input line by line, in UTF-8. Nothing is between two fields, and a field
 /// that does not fit its columns is not cut: it moves the rest of its line to the right.
 class Model_Text {
  public:

@@ -14,7 +14,7 @@ inline constexpr std::size_t kStatusLength = 6;
 inline constexpr std::size_t kFlagCount = 18;
 inline constexpr std::string_view kFileTag = "DUMP";
 
-/// Slots 1 to 16 stand on the third line, 17 to 32 on the fourth, 33 to 41 on the fifth.
+/// Slots 1 to 16 are on the third line, 17 to 32 on the fourth, 33 to 41 on the fifth.
 inline constexpr std::array<std::array<int, 2>, 3> kIntLines = {{{1, 16}, {17, 32}, {33, 41}}};
 
 }  // namespace barvon

@@ -17,7 +17,7 @@ struct Columns_Read {
   /// given.
   Failure failure = Failure::None;
   bool at_end = false;  // nothing but blanks is left of the file
-  /// The status and flags lines are far wider than they can be: what stands there are real lines.
+  /// The status and flags lines are far wider than they can be: what is there are real lines.
   bool text_lines_too_wide = false;
 };
 

@@ -10,7 +10,7 @@
 namespace barvon {
 
 /// The columns of a project file can't hold every value: a wide real, a corner of 1250.5 ft, a
-/// name of 12 characters. What would not survive stands once more behind the last line, as plain
+/// name of 12 characters. What would not survive is written once more behind the last line, as plain
 /// text lines that older readers leave unread:
 ///
 ///     Exact values of this project that the columns above this line can not hold: 2
@@ -19,7 +19,7 @@ namespace barvon {
 ///     End of the exact values
 ///
 /// The exact value counts only where the columns still give what they gave when it was written,
-/// so an edit of the columns by hand wins. "nothing" stands where the columns give no value.
+/// so an edit of the columns by hand wins. "nothing" is written where the columns give no value.
 
 /// The lines for every value of `image` that `columns`, read back from its lines, does not give;
 /// empty when everything survives.

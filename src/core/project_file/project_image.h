@@ -30,7 +30,7 @@ struct Project_Image {
 
 /// One number of the image and the name that the exact values know it by.
 struct Image_Number {
-  // The file's order: what the tide has stands row by row, Z behind X.
+  // The file's order: what the tide has comes row by row, Z behind X.
   enum class Part {
     IntSlots,
     RealSlots,

@@ -43,7 +43,7 @@ Failure Take_Over(const Columns_Read& read, bool short_layout, ProjectRecord& re
 Load_Result Load_Short(std::string_view bytes, Progress_Display& progress, ProjectRecord& record) {
   const Columns_Read read = Read_Columns(bytes, kShortLayoutPoints, &progress);
   // A full file that was cut off must not pass for a short one: it goes on behind the short
-  // layout, or ends just there with real lines where the text lines of a short file stand.
+  // layout, or ends just there with real lines where the text lines of a short file are.
   if (read.failure != Failure::None) return {read.failure, false, {}};
   if (!read.at_end || read.text_lines_too_wide) return {Failure::Input_Past_End, false, {}};
   return {Take_Over(read, true, record), false, {}};
@@ -68,7 +68,7 @@ Load_Result Load_Project(const std::string& path, std::string_view bytes, Projec
     if (!parts.exact.empty()) {
       read.failure = Apply_Exact_Values(parts.exact, read);
       if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
-      // Behind the columns of such a file stand its exact values, not the end.
+      // Behind the columns of such a file are its exact values, not the end.
       read.at_end = false;
     } else if (read.failure == Failure::Input_Past_End) {
       return Load_Short(bytes, progress, record);

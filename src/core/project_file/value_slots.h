@@ -11,7 +11,7 @@ namespace barvon {
 /// loading and the tests go by these tables.
 struct Slot_Row {
   int first = 0;           // first slot
-  int count = 1;           // slots of the row; element i of the field stands in first + i - 1
+  int count = 1;           // slots of the row; element i of the field is in first + i - 1
   const char* field = "";  // the field's name
   bool integer = false;    // the field holds 16-bit integers
   bool cut = false;        // an integer field whose fraction is cut instead of rounded

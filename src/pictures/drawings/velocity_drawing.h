@@ -46,7 +46,7 @@ struct Velocity_Arrow {
 std::vector<Velocity_Arrow> Arrows_Of(const Velocity_Drawing& drawing, int row_stride,
                                       int column_stride);
 
-/// Every how many points an arrow stands, so that arrows keep `least_pixels` between them.
+/// Every how many points an arrow is drawn, so that arrows keep `least_pixels` between them.
 int Arrow_Stride(int points, double pixels, double least_pixels);
 
 /// Row, column (both from 1), velocities, speed and distances of a point in words. Empty outside

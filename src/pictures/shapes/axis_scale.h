@@ -29,7 +29,7 @@ struct Axis_Scale {
 };
 
 /// The scale that holds the range in about five steps. Ranges below `least_span` (above 0) are
-/// widened to it around their middle, so that equal values stand in the middle of an axis.
+/// widened to it around their middle, so that equal values are in the middle of an axis.
 Axis_Scale Scale_Over(Value_Range range, double least_span);
 
 /// Below this a value has no place on a logarithmic axis.

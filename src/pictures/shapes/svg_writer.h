@@ -11,7 +11,7 @@ namespace barvon {
 /// file cannot hold are left out, bytes that are no UTF-8 become "?".
 std::string Svg_Text(const Shape_List& picture);
 
-/// A text as it may stand in the file's elements and attributes.
+/// A text as it may be in the file's elements and attributes.
 std::string Svg_Escaped(const std::string& text);
 
 }  // namespace barvon

@@ -16,6 +16,8 @@ void Show_Help(const Help_Request& request) {
   if (Presenter()) Presenter()(request);
 }
 
+void Show_Topic(int topic) { Show_Help({Help_Command::Context, topic, {}}); }
+
 Help_Presenter Set_Help_Presenter(Help_Presenter presenter) {
   return std::exchange(Presenter(), std::move(presenter));
 }

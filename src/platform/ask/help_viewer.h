@@ -15,6 +15,8 @@ struct Help_Request {
 };
 
 void Show_Help(const Help_Request& request);
+/// The page of a topic.
+void Show_Topic(int topic);
 
 using Help_Presenter = std::function<void(const Help_Request&)>;
 Help_Presenter Set_Help_Presenter(Help_Presenter presenter);

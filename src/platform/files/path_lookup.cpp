@@ -19,7 +19,7 @@ std::string Folded(std::string_view name) {
   for (std::size_t at = 1; at < folded.size(); ++at) {
     const auto byte = static_cast<unsigned char>(folded[at]);
     const auto lead = static_cast<unsigned char>(folded[at - 1]);
-    if (lead == 0xC3 && byte == 0xBF) {  // y with two dots, whose capital stands elsewhere
+    if (lead == 0xC3 && byte == 0xBF) {  // y with two dots, whose capital is elsewhere
       folded[at - 1] = '\xC5';
       folded[at] = '\xB8';
     } else if (lead == 0xC3 && byte >= 0xA0 && byte != 0xB7) {  // B7 is the division sign

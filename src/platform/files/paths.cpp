@@ -6,7 +6,7 @@
 namespace barvon {
 namespace {
 
-/// Where the dot of the extension stands, npos when the file's name has none: a dot in a folder's
+/// Where the dot of the extension is, npos when the file's name has none: a dot in a folder's
 /// name is no extension.
 std::size_t Extension_Dot(std::string_view path) {
   const auto dot = path.rfind('.');

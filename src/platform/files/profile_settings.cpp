@@ -37,7 +37,7 @@ std::optional<std::string_view> Heading(std::string_view line) {
   return line.substr(1, end - 1);
 }
 
-/// Where a key stands in the text of a profile, or where it would have to go.
+/// Where a key is in the text of a profile, or where it would have to go.
 struct Place {
   bool section = false;
   bool key = false;

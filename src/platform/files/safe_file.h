@@ -46,7 +46,7 @@ int Write_Whole_File(const std::string& path, std::string_view bytes);
 /// value.
 int Read_Whole_File(const std::string& path, std::string& bytes);
 
-/// Makes a new file that no link can lead elsewhere: what stands under the name is removed first,
+/// Makes a new file that no link can lead elsewhere: what is under the name is removed first,
 /// and the file is created exclusively. 0 or an errno value; nothing stays after a failure.
 int Write_Exclusive_File(const std::string& path, std::string_view bytes);
 
@@ -55,7 +55,7 @@ int Write_Exclusive_File(const std::string& path, std::string_view bytes);
 void Set_Save_Notes_Folder(std::string folder);
 
 /// Removes working files whose writer no longer lives: those noted in the notes folder and those
-/// that stand in the given folders. Returns the removed paths.
+/// that are in the given folders. Returns the removed paths.
 std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& folders);
 
 }  // namespace barvon

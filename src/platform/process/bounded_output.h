@@ -17,7 +17,7 @@ class Bounded_Output {
   Bounded_Output(const Bounded_Output&) = delete;
   Bounded_Output& operator=(const Bounded_Output&) = delete;
 
-  /// Removes what stands under the name. The file itself is made when the first bytes come, and
+  /// Removes what is under the name. The file itself is made when the first bytes come, and
   /// made anew, so that a link planted under its name leads nowhere. Limits below 1 KiB count as
   /// 1 KiB.
   void Begin(std::string path, std::size_t limit);

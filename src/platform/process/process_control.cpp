@@ -114,7 +114,7 @@ struct External_Process::State {
                : info.si_pid == pid;
   }
 
-  /// Takes at most `limit` bytes that stand in the pipe.
+  /// Takes at most `limit` bytes that are in the pipe.
   void Take_Output(std::size_t limit) {
     std::array<char, 64 * 1024> part;
     while (output >= 0 && limit > 0) {
@@ -141,7 +141,7 @@ struct External_Process::State {
   void Finish() {
     int waiting = 0;
     // Something that the program left running may hold the pipe open and go on printing: what
-    // stands in the pipe now is all that is waited for.
+    // is in the pipe now is all that is waited for.
     if (output >= 0 && ::ioctl(output, FIONREAD, &waiting) == 0 && waiting > 0) {
       Take_Output(static_cast<std::size_t>(waiting));
     }

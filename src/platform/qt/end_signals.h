@@ -9,7 +9,7 @@
 
 namespace barvon {
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP don't end the process where it stands: `end` is
+/// While it lives, SIGTERM, SIGINT and SIGHUP don't end the process at once: `end` is
 /// called from the event loop, so that what the process has started can be ended with it. A signal
 /// that the caller has switched off (nohup) stays off. There is at most one at a time.
 class End_Signals {

@@ -197,11 +197,11 @@ void Input_Screen::Run_Command(int index) {
   if (running_command_) return;
   running_command_ = true;
   const QPointer<Input_Screen> alive(this);
-  // However the command was given: what stands in a cell must be in the table now, not when the
+  // However the command was given: what is in a cell must be in the table now, not when the
   // screen has been saved or restored and takes the focus away by closing.
   for (F1Book* table : findChildren<F1Book*>()) table->FinishEdit();
   if (index == setup_.help && setup_.topic != 0) {
-    Show_Help({Help_Command::Context, setup_.topic, {}});
+    Show_Topic(setup_.topic);
   } else {
     Command1_Click(index);
   }

@@ -44,7 +44,7 @@ class Input_Screen : public QDialog {
   void reject() override;
 
   /// What a screen that is opened now belongs to. One that blocks stays over the screen it is
-  /// opened from, which can't go before it; any other stands over the workspace.
+  /// opened from, which can't go before it; any other is over the workspace.
   static QWidget* Window_Below(bool blocking, QWidget* workspace);
 
   /// Closes the screen without asking anyone.

@@ -23,7 +23,7 @@ class Qt_Services {
   Qt_Services& operator=(const Qt_Services&) = delete;
 
  private:
-  QPointer<frmProgress_Bar> progress_;  // the window that it stands on may go first
+  QPointer<frmProgress_Bar> progress_;  // the window that it is on may go first
   Message_Presenter messages_;
   File_Dialog_Presenter file_dialogs_;
   Progress_Presenter progress_displays_;

@@ -5,7 +5,7 @@
 namespace barvon {
 namespace {
 
-/// What stands at and behind `first` moves by that many places; what is taken away is gone.
+/// What is at and behind `first` moves by that many places; what is taken away is gone.
 template <class Kept>
 void Shift_Keys(std::map<int, Kept>& kept, int first, int by, int last) {
   std::map<int, Kept> shifted;

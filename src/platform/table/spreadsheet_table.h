@@ -17,7 +17,7 @@ namespace barvon {
 /// What a cell's text is taken as.
 struct Cell_Reading {
   double value = 0;    // the leading number, 0 if there is none
-  bool whole = false;  // nothing but that number stands there
+  bool whole = false;  // nothing but that number is there
 };
 
 /// How a table reads and shows numbers; who makes a table hands it in. Both are required.
@@ -87,7 +87,7 @@ class Spreadsheet_Table {
   void NumberRC(int row, int col, double number);
   /// What the cell shows: as TextRC, but a text that is nothing but a number is in the format too.
   std::string ShownRC(int row, int col) const;
-  /// What stands in the cell while it is edited, and what is copied from it: a number plain, a
+  /// What is in the cell while it is edited, and what is copied from it: a number plain, a
   /// text as it was written.
   std::string EntryRC(int row, int col) const;
   /// A number, or a text that is nothing but a number.
@@ -148,7 +148,7 @@ class Spreadsheet_Table {
   void ColWidth(int col, int width);
   /// Every column gets that width, those that a later MaxCol adds too.
   void ColWidths(int width);
-  /// Every column takes the width of what stands in it.
+  /// Every column takes the width of what is in it.
   void AutoColWidth() { ColWidths(kAutoWidth); }
   int RowHeadingWidth() const { return row_heading_width_; }
   void RowHeadingWidth(int width);
@@ -228,7 +228,7 @@ class Spreadsheet_Table {
 };
 
 /// While it lives the table is filled: its watcher hears of nothing, and of one change of shape at
-/// the end. Fills may stand inside each other.
+/// the end. Fills may be inside each other.
 class Table_Fill {
  public:
   explicit Table_Fill(Spreadsheet_Table& table);
@@ -241,7 +241,7 @@ class Table_Fill {
 };
 
 /// While it lives, what is written into cells is one step of the history, for a command that a
-/// person must be able to undo. A step that changes nothing is none. Steps may stand inside each
+/// person must be able to undo. A step that changes nothing is none. Steps may be inside each
 /// other; the outermost counts.
 class Edit_Step {
  public:

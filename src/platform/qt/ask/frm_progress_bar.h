@@ -8,7 +8,7 @@
 
 namespace barvon {
 
-/// The progress display of a load or a save. While it stands the interface is repainted, but
+/// The progress display of a load or a save. While it is in view the interface is repainted, but
 /// takes no key and no click: nobody starts a second command in the middle of a file.
 class frmProgress_Bar : public QWidget {
  public:

@@ -10,9 +10,9 @@ namespace barvon {
 using Number_Note = std::function<std::string(const std::string& typed)>;
 
 /// Makes a line of text a numeric field. Nothing is refused; while the note has something to say,
-/// a quiet mark stands inside the field at its right, and the field's tool tip and accessible
+/// a quiet mark is inside the field at its right, and the field's tool tip and accessible
 /// description tell the note. It follows every change, by whomever, even with the field's signals
-/// blocked. A tool tip and a description that the field has of its own stand again afterwards.
+/// blocked. A tool tip and a description that the field has of its own come back afterwards.
 void Make_Number_Field(QLineEdit* field, Number_Note note);
 
 /// What the field's mark says now; "" while it has none or is no numeric field.

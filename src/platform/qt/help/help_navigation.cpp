@@ -103,7 +103,7 @@ void Help_Navigation::Open_Search() {
 void Help_Navigation::Follow(const QUrl& page) {
   followed_ = page;
   QModelIndex at = contents_->indexOf(page);
-  // A place within a page need not stand in the contents; its page does.
+  // A place within a page need not be in the contents; its page does.
   if (!at.isValid()) at = contents_->indexOf(page.adjusted(QUrl::RemoveFragment));
   if (at.isValid()) contents_->setCurrentIndex(at);
 }

@@ -39,7 +39,7 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
   find_bar_->hide();
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("BARVON Help"));
-  // The program ends with its main window, whether help stands open or not.
+  // The program ends with its main window, whether help is open or not.
   setAttribute(Qt::WA_QuitOnClose, false);
 
   auto* right = new QWidget(this);
@@ -199,14 +199,14 @@ bool Help_Window::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-/// A blocking window leaves those alone that stand on it, so help moves onto each that comes up,
+/// A blocking window leaves those alone that are on it, so help moves onto each that comes up,
 /// and back to the one below when it goes.
 void Help_Window::Follow_Blocking_Window() {
   winId();  // gives it the native window that is moved
   QWindow* own = windowHandle();
   QWindow* blocking = QGuiApplication::modalWindow();
   if (own == nullptr || blocking == own || own->transientParent() == blocking) return;
-  // A dialog of its own already stands on it.
+  // A dialog of its own already is on it.
   if (blocking != nullptr && own->isAncestorOf(blocking, QWindow::IncludeTransients)) return;
   own->setTransientParent(blocking);
   if (blocking == nullptr) return;

@@ -31,7 +31,7 @@ enum class Book_Move;
 /// Keys: typing replaces a cell, F2 edits it, Return goes down and stays in the last row, Tab goes
 /// through the rows to the right. In the last cell Tab leads out of the table, as Shift+Tab does in
 /// the first; Ctrl+Tab and Ctrl+Shift+Tab lead out from anywhere. Ctrl+X, C, V, A, Delete, Ctrl+Z,
-/// Ctrl+Y and Ctrl+Shift+Z are what they are everywhere, and stand in the context menu. Cells go to
+/// Ctrl+Y and Ctrl+Shift+Z are what they are everywhere, and are in the context menu. Cells go to
 /// and come from the clipboard as tab-separated text.
 class F1Book : public QTableView {
   Q_OBJECT
@@ -77,7 +77,7 @@ class F1Book : public QTableView {
  signals:
   /// The user has changed these cells: by typing, which ends when the cell is left, by a cut, a
   /// paste, a clearing, an undo or a redo. Once for each, when the change is made and the cursor
-  /// stands where it goes. Neither what code writes is an edit, nor what leaves all cells as they
+  /// is where it goes. Neither what code writes is an edit, nor what leaves all cells as they
   /// were.
   void Edited(int row, int col, int last_row, int last_col);
   /// The table got the focus, in the sense of SetFocusCell or by a click, and the active cell is
