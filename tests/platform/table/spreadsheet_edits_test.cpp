@@ -182,10 +182,25 @@ TEST_F(SpreadsheetEdits, Steps_Are_Forgotten_When_Their_Cells_May_Be_Elsewhere) 
   };
   EXPECT_FALSE(typed_and([&] { table.MaxRow(3); })) << "a row went";
   EXPECT_TRUE(typed_and([&] { table.MaxRow(9); })) << "rows came";
+  EXPECT_TRUE(typed_and([&] { table.MaxCol(3); })) << "as many columns as there were";
+  EXPECT_FALSE(typed_and([&] { table.MaxCol(4); })) << "a column came";
+  EXPECT_FALSE(typed_and([&] { table.MaxCol(3); })) << "a column went";
   EXPECT_FALSE(typed_and([&] { table.DeleteShiftUp({1, 2, 1, 2}); }));
   EXPECT_FALSE(typed_and([&] { table.InsertShiftRight({1, 2, 1, 2}); }));
   EXPECT_FALSE(typed_and([&] { table.ClearAll(); }));
   EXPECT_FALSE(typed_and([&] { table.ForgetEdits(); }));
+}
+
+TEST_F(SpreadsheetEdits, Nothing_Is_Undone_Or_Redone_Across_Another_Number_Of_Columns) {
+  Type(1, 2, "1.02");
+  Type(2, 2, "1.03");
+  table.Undo();
+  table.MaxCol(5);
+  table.NumberRC(1, 2, 30);
+  EXPECT_EQ(table.Undo(), std::nullopt);
+  EXPECT_EQ(table.Redo(), std::nullopt);
+  EXPECT_EQ(table.NumberRC(1, 2), 30);
+  EXPECT_TRUE(table.IsEmptyRC(2, 2));
 }
 
 TEST_F(SpreadsheetEdits, The_Last_Hundred_Steps_Are_Kept) {
