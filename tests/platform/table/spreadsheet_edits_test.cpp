@@ -102,6 +102,31 @@ TEST_F(SpreadsheetEdits, A_Single_Cell_Fills_The_Whole_Selection) {
   EXPECT_TRUE(table.IsEmptyRC(1, 3));
 }
 
+std::string Row_Of(const Spreadsheet_Table& table, int row) {
+  std::string all;
+  for (int col = 1; col <= table.MaxCol(); ++col) all += table.TextRC(row, col) + ",";
+  return all;
+}
+
+TEST_F(SpreadsheetEdits, A_Block_Fills_A_Selection_That_Takes_It_Some_Times_Over) {
+  table.MaxCol(4);
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 4, 4}, {{"1", "2"}, {"3"}}).changed,
+            (Cell_Range{1, 1, 4, 4}));
+  EXPECT_EQ(Row_Of(table, 1), "1,2,1,2,");
+  EXPECT_EQ(Row_Of(table, 2), "3,,3,,") << "what a short row lacks is empty each time";
+  EXPECT_EQ(Row_Of(table, 3) + Row_Of(table, 4), "1,2,1,2,3,,3,,");
+  table.Undo();
+  EXPECT_FALSE(table.CanUndo()) << "one step";
+  EXPECT_EQ(Paste_Cells(table, {2, 1, 4, 2}, {{"5", "6"}}).changed, (Cell_Range{2, 1, 4, 2}));
+  EXPECT_EQ(Row_Of(table, 1) + Row_Of(table, 4), ",,,,5,6,,,");
+}
+
+TEST_F(SpreadsheetEdits, A_Block_That_Fits_One_Side_Of_The_Selection_Only_Is_Written_Once) {
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 4, 3}, {{"1", "2"}, {"3", "4"}}).changed,
+            (Cell_Range{1, 1, 2, 2}));
+  EXPECT_EQ(Row_Of(table, 3) + Row_Of(table, 4), ",,,,,,");
+}
+
 TEST_F(SpreadsheetEdits, A_Paste_Empties_What_Its_Short_Rows_Lack) {
   for (int row = 1; row <= 3; ++row) Type(row, 2, "old");
   EXPECT_EQ(Paste_Cells(table, {1, 1, 1, 1}, {{"1"}, {"2", "3"}}).changed,
