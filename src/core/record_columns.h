@@ -114,9 +114,11 @@ class Shown_Columns {
   }
 
   /// Gives the table these columns with headings and widths, and the cells of the rows from
-  /// `first` to `last` their patterns and places.
+  /// `first` to `last` their patterns and places. The table's history of edits ends: what was typed
+  /// into other columns means nothing in these.
   void Lay_Out(int first, int last, Spreadsheet_Table& table) const {
     table.MaxCol(static_cast<int>(shown_.size()));
+    table.ForgetEdits();
     int col = 0;
     for (const Column* column : shown_) {
       ++col;

@@ -23,6 +23,7 @@ void AskFirstDepthIsSurface(Spreadsheet_Table& table) {
               "BARVON Automatically Make the First Depth the Fluid Surface?")) {
     return;
   }
+  const Edit_Step step(table);
   table.NumberRC(1, 1, 0);
 }
 
@@ -35,6 +36,7 @@ void AskLastDepthIsBottom(float bottom, Spreadsheet_Table& table) {
   if (feet > std::numeric_limits<std::int16_t>::max()) {
     Show_Message({"The Bottom Depth Is Too Large to be Taken in Whole Feet.  Please Correct It."});
   } else if (feet > 0) {
+    const Edit_Step step(table);
     table.NumberRC(table.MaxRow(), 1, feet);
   } else {
     Show_Message({"Please Provide Value for Bottom Depth."});
@@ -64,6 +66,8 @@ bool AddSurfaceRow(Site_Entry& entry, Spreadsheet_Table& table) {
   }
   table.NumberRC(1, 1, 0);
   table.TextRC(1, 2, "");
+  // A step of the history knows its cells by their place, and what was typed stands a row lower.
+  table.ForgetEdits();
   return true;
 }
 

@@ -22,7 +22,8 @@ Density_Ends Check_Depths(const Site_Entry& entry, const Spreadsheet_Table& F1Bo
 /// Asks the user about the ends of the profile that are not right and mends them in the table: by
 /// another depth where the profile has no more points, otherwise by a row of its own, which the
 /// count in the entry then includes. False when a row was added: its other cells are empty, and
-/// the user has to fill them.
+/// the user has to fill them. A new first row ends the table's history of edits; another depth is a
+/// step of it.
 bool EnsureDensityEndpoints(Site_Entry& entry, Spreadsheet_Table& F1Book1,
                             const ProjectRecord& record);
 

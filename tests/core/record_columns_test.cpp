@@ -4,8 +4,10 @@
 
 #include <array>
 #include <limits>
+#include <span>
 
 #include "core/book_numbers.h"
+#include "platform/table/spreadsheet_edits.h"
 #include "platform/table/table_width.h"
 
 namespace barvon {
@@ -46,6 +48,16 @@ class RecordColumns : public ::testing::Test {
   Load load;
   const Shown_Columns<Load> all{kColumns};
 };
+
+TEST_F(RecordColumns, A_Layout_Ends_The_History_Of_Edits_Also_With_As_Many_Columns) {
+  const std::span<const Table_Column<Load>> columns(kColumns);
+  const Shown_Columns first(columns.first(2)), second(columns.subspan(2, 2));
+  first.Lay_Out(1, 3, table);
+  Type_Cell(table, 1, 2, "7");
+  ASSERT_TRUE(table.CanUndo());
+  second.Lay_Out(1, 3, table);
+  EXPECT_FALSE(table.CanUndo());
+}
 
 TEST_F(RecordColumns, A_Layout_Has_Its_Own_Columns_In_Their_Order) {
   Shown_Columns(kColumns, kShort).Lay_Out(1, 3, table);

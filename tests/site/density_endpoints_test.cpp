@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/table/spreadsheet_edits.h"
 #include "site/site_support.h"
 #include "support/plain_support.h"
 #include "support/record_differences.h"
@@ -259,6 +260,31 @@ TEST_F(DensityEndpoints, A_New_First_Row_Leaves_Columns_3_And_4_Where_They_Are) 
   EXPECT_EQ(Shown_Column(*table_, 2), (Cells{"", "31.0", "32.0"}));
   EXPECT_EQ(Shown_Column(*table_, 3), (Cells{"11.0", "12.0", ""}));
   EXPECT_EQ(Shown_Column(*table_, 4), (Cells{"1.0200", "1.0300", ""}));
+}
+
+TEST_F(DensityEndpoints, A_New_First_Row_Ends_The_History_And_One_At_The_Bottom_Keeps_It) {
+  Make(2, 2);
+  Type_Cell(*table_, 1, 2, "1.05");
+  Ensure({Answer::Yes});
+  EXPECT_EQ(table_->Undo(), std::nullopt);
+  EXPECT_EQ(Shown_Column(*table_, 2), (Cells{"", "1.0500", "1.0110"}));
+  Make(2, 1);
+  Type_Cell(*table_, 1, 2, "1.05");
+  Ensure({Answer::Yes});
+  EXPECT_EQ(table_->Undo(), (Cell_Range{1, 2, 1, 2}));
+  EXPECT_EQ(Shown_Column(*table_, 2), (Cells{"1.0100", "1.0110", ""}));
+}
+
+TEST_F(DensityEndpoints, A_Depth_That_The_Program_Sets_Is_A_Step_Of_Its_Own) {
+  Make(5, 0);
+  Type_Cell(*table_, 1, 1, "7");
+  Ensure({Answer::Yes, Answer::Yes});
+  EXPECT_EQ(table_->Undo(), (Cell_Range{1, 1, 1, 1}));
+  EXPECT_EQ(Shown_Column(*table_, 1), (Cells{"7.0", "4.0", "5.0", "6.0", "31.0"}));
+  EXPECT_EQ(table_->Undo(), (Cell_Range{5, 1, 5, 1}));
+  EXPECT_EQ(Shown_Column(*table_, 1), (Cells{"7.0", "4.0", "5.0", "6.0", "20.0"}));
+  table_->Undo();
+  EXPECT_EQ(table_->NumberRC(1, 1), 2);
 }
 
 TEST_F(DensityEndpoints, Cells_That_A_New_Row_Leaves_Open_Are_Empty_Whatever_Stood_There_Once) {

@@ -293,6 +293,42 @@ TEST_F(SiteScreen, Switching_The_Columns_Takes_The_Records_Values_For_What_Was_T
   EXPECT_EQ(Column(2), (Cells{"1.0200", "1.0240"}));
 }
 
+TEST_F(SiteScreen, Undo_Never_Takes_A_Density_For_A_Salinity) {
+  record.DensitySalinities = {0, 30, 31};
+  record.DensityTemperatures = {0, 12, 10};
+  Open();
+  Enter_Cell(1, 2, "1.01");
+  Enter_Cell(2, 2, "1.03");
+  Click(Check3D1(0));
+  const auto switched = std::make_unique<ProjectRecord>(record);
+  Book()->setFocus();
+  for (int i = 0; i < 2; ++i) QTest::keyClick(Book(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Column(2), (Cells{"30.0", "31.0"}));
+  EXPECT_EQ(Column(4), (Cells{"1.0200", "1.0240"}));
+  EXPECT_EQ(Differing_Fields(*switched, record), Names{});
+  Enter_Cell(1, 2, "32");
+  Click(Check3D1(0));
+  Book()->setFocus();
+  QTest::keyClick(Book(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(Column(2)[0], "30.0") << "nor the other way round";
+}
+
+TEST_F(SiteScreen, Undo_After_A_New_Surface_Row_Writes_Into_No_Other_Row) {
+  record.DensityDepths = {0, 2, 30.6};
+  Open();
+  Enter_Cell(1, 2, "1.01");
+  Enter_Cell(2, 2, "1.03");
+  Modal_Replies replies({Press(QMessageBox::Yes)});
+  Click(Command1(0));
+  ASSERT_TRUE(Is_Open());
+  Screen()->activateWindow();  // as the desktop does when the box goes
+  ASSERT_TRUE(Has_Keyboard(Screen()));
+  Book()->setFocus();
+  for (int i = 0; i < 2; ++i) QTest::keyClick(Book(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Column(1), (Cells{"0.0", "2.0", "30.6"}));
+  EXPECT_EQ(Column(2), (Cells{"", "1.0100", "1.0300"}));
+}
+
 TEST_F(SiteScreen, A_Salinity_Never_Turns_Into_A_Density_By_A_Count_Outside_Its_Limits) {
   record.DensityComputeFlag = kTrue;
   record.DensitySalinities = {0, 30, 31};

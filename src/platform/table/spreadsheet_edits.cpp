@@ -62,8 +62,15 @@ Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
   const std::size_t rows = cells.size();
   const std::size_t cols = Width_Of(cells);
   if (!target || cols == 0) return {};
-  if (rows == 1 && cols == 1) {
-    return Write(table, *target, [&](int, int) -> const std::string& { return cells[0][0]; });
+  const std::string empty;
+  const auto text_of = [&](int row, int col) -> const std::string& {
+    const auto& texts = cells[static_cast<std::size_t>(row) % rows];
+    const std::size_t at = static_cast<std::size_t>(col) % cols;
+    return at < texts.size() ? texts[at] : empty;
+  };
+  if (static_cast<std::size_t>(target->rows()) % rows == 0 &&
+      static_cast<std::size_t>(target->cols()) % cols == 0) {
+    return Write(table, *target, text_of);
   }
   const auto rows_left = static_cast<std::size_t>(table.MaxRow() - target->row1 + 1);
   const auto cols_left = static_cast<std::size_t>(table.MaxCol() - target->col1 + 1);
@@ -74,12 +81,7 @@ Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
   }
   const Cell_Range written{target->row1, target->col1, target->row1 + static_cast<int>(rows) - 1,
                            target->col1 + static_cast<int>(cols) - 1};
-  const std::string empty;
-  return Write(table, written, [&](int row, int col) -> const std::string& {
-    const auto& texts = cells[row];
-    const auto at = static_cast<std::size_t>(col);
-    return at < texts.size() ? texts[at] : empty;
-  });
+  return Write(table, written, text_of);
 }
 
 Text_Block Copied_Cells(const Spreadsheet_Table& table, const Cell_Range& range) {

@@ -24,7 +24,8 @@ Edit_Outcome Type_Cell(Spreadsheet_Table& table, int row, int col, const std::st
 /// Empties the cells of the range that are in the table.
 Edit_Outcome Clear_Cells(Spreadsheet_Table& table, const Cell_Range& range);
 
-/// Writes the cells from the first cell of the range on; a single cell fills the whole range.
+/// Writes the cells from the first cell of the range on, beyond the range too. A range that takes
+/// them some times over, in rows and in columns, is filled with them; a single cell fills any.
 Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                          const Text_Block& cells);
 

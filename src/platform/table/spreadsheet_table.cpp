@@ -13,7 +13,7 @@ constexpr std::size_t kKeptSteps = 100;
 
 void Spreadsheet_Table::Resize(int& count, int new_count) {
   if (new_count == count) return;
-  if (new_count < count) ForgetEdits();
+  if (new_count < count || &count == &max_col_) ForgetEdits();
   count = new_count;
   const Cell_Range table = TableRange();
   row_ = std::min(row_, table.row2);

@@ -67,7 +67,8 @@ class Spreadsheet_Table {
   Spreadsheet_Table& operator=(const Spreadsheet_Table&) = delete;
 
   // Size. 1 x 1 at first; a number outside 0 to the sheet's is brought in. The cursor and the
-  // selection stay inside the table when it shrinks, and the history of edits is dropped then.
+  // selection stay inside the table when it shrinks. The history of edits is dropped with rows that
+  // go and with any other number of columns: what was typed belongs to the columns as they were.
   int MaxRow() const { return max_row_; }
   void MaxRow(int rows);
   int MaxCol() const { return max_col_; }

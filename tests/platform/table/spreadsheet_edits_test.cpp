@@ -102,6 +102,31 @@ TEST_F(SpreadsheetEdits, A_Single_Cell_Fills_The_Whole_Selection) {
   EXPECT_TRUE(table.IsEmptyRC(1, 3));
 }
 
+std::string Row_Of(const Spreadsheet_Table& table, int row) {
+  std::string all;
+  for (int col = 1; col <= table.MaxCol(); ++col) all += table.TextRC(row, col) + ",";
+  return all;
+}
+
+TEST_F(SpreadsheetEdits, A_Block_Fills_A_Selection_That_Takes_It_Some_Times_Over) {
+  table.MaxCol(4);
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 4, 4}, {{"1", "2"}, {"3"}}).changed,
+            (Cell_Range{1, 1, 4, 4}));
+  EXPECT_EQ(Row_Of(table, 1), "1,2,1,2,");
+  EXPECT_EQ(Row_Of(table, 2), "3,,3,,") << "what a short row lacks is empty each time";
+  EXPECT_EQ(Row_Of(table, 3) + Row_Of(table, 4), "1,2,1,2,3,,3,,");
+  table.Undo();
+  EXPECT_FALSE(table.CanUndo()) << "one step";
+  EXPECT_EQ(Paste_Cells(table, {2, 1, 4, 2}, {{"5", "6"}}).changed, (Cell_Range{2, 1, 4, 2}));
+  EXPECT_EQ(Row_Of(table, 1) + Row_Of(table, 4), ",,,,5,6,,,");
+}
+
+TEST_F(SpreadsheetEdits, A_Block_That_Fits_One_Side_Of_The_Selection_Only_Is_Written_Once) {
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 4, 3}, {{"1", "2"}, {"3", "4"}}).changed,
+            (Cell_Range{1, 1, 2, 2}));
+  EXPECT_EQ(Row_Of(table, 3) + Row_Of(table, 4), ",,,,,,");
+}
+
 TEST_F(SpreadsheetEdits, A_Paste_Empties_What_Its_Short_Rows_Lack) {
   for (int row = 1; row <= 3; ++row) Type(row, 2, "old");
   EXPECT_EQ(Paste_Cells(table, {1, 1, 1, 1}, {{"1"}, {"2", "3"}}).changed,
@@ -182,10 +207,25 @@ TEST_F(SpreadsheetEdits, Steps_Are_Forgotten_When_Their_Cells_May_Be_Elsewhere) 
   };
   EXPECT_FALSE(typed_and([&] { table.MaxRow(3); })) << "a row went";
   EXPECT_TRUE(typed_and([&] { table.MaxRow(9); })) << "rows came";
+  EXPECT_TRUE(typed_and([&] { table.MaxCol(3); })) << "as many columns as there were";
+  EXPECT_FALSE(typed_and([&] { table.MaxCol(4); })) << "a column came";
+  EXPECT_FALSE(typed_and([&] { table.MaxCol(3); })) << "a column went";
   EXPECT_FALSE(typed_and([&] { table.DeleteShiftUp({1, 2, 1, 2}); }));
   EXPECT_FALSE(typed_and([&] { table.InsertShiftRight({1, 2, 1, 2}); }));
   EXPECT_FALSE(typed_and([&] { table.ClearAll(); }));
   EXPECT_FALSE(typed_and([&] { table.ForgetEdits(); }));
+}
+
+TEST_F(SpreadsheetEdits, Nothing_Is_Undone_Or_Redone_Across_Another_Number_Of_Columns) {
+  Type(1, 2, "1.02");
+  Type(2, 2, "1.03");
+  table.Undo();
+  table.MaxCol(5);
+  table.NumberRC(1, 2, 30);
+  EXPECT_EQ(table.Undo(), std::nullopt);
+  EXPECT_EQ(table.Redo(), std::nullopt);
+  EXPECT_EQ(table.NumberRC(1, 2), 30);
+  EXPECT_TRUE(table.IsEmptyRC(2, 2));
 }
 
 TEST_F(SpreadsheetEdits, The_Last_Hundred_Steps_Are_Kept) {

@@ -14,8 +14,16 @@
 #include "platform/qt/table/book_layout.h"
 #include "platform/qt/table/book_menu.h"
 #include "platform/qt/table/book_model.h"
+#include "platform/table/filled_block.h"
 
 namespace barvon {
+namespace {
+
+bool Is_Arrow(int key) {
+  return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Left || key == Qt::Key_Right;
+}
+
+}  // namespace
 
 F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
     : QTableView(parent),
@@ -261,6 +269,32 @@ bool F1Book::event(QEvent* event) {
   return QTableView::event(event);
 }
 
+QModelIndex F1Book::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  Cell_Way way;
+  switch (action) {
+    case MoveUp:
+      way = {-1, 0};
+      break;
+    case MoveDown:
+      way = {1, 0};
+      break;
+    case MoveLeft:
+      way = {0, -1};
+      break;
+    case MoveRight:
+      way = {0, 1};
+      break;
+    default:
+      break;
+  }
+  const QModelIndex current = currentIndex();
+  if (!(modifiers & Qt::ControlModifier) || way == Cell_Way{} || !current.isValid()) {
+    return QTableView::moveCursor(action, modifiers);
+  }
+  const Cell_Place edge = Block_Edge(table_, {current.row() + 1, current.column() + 1}, way);
+  return model_->index(edge.row - 1, edge.col - 1);
+}
+
 QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& index,
                                                              const QEvent* event) const {
   // The toolkit's own gives up selecting when Ctrl is down too, as in Ctrl+Shift+End.
@@ -268,6 +302,11 @@ QItemSelectionModel::SelectionFlags F1Book::selectionCommand(const QModelIndex& 
     const auto held = static_cast<const QKeyEvent*>(event)->modifiers();
     if (held.testFlags(Qt::ControlModifier | Qt::ShiftModifier)) {
       return QItemSelectionModel::SelectCurrent;
+    }
+    // Nor does it take Ctrl and an arrow for a move of the selection.
+    if (held.testFlag(Qt::ControlModifier) &&
+        Is_Arrow(static_cast<const QKeyEvent*>(event)->key())) {
+      return QItemSelectionModel::ClearAndSelect;
     }
   }
   return QTableView::selectionCommand(index, event);

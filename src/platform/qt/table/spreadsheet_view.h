@@ -30,7 +30,8 @@ enum class Book_Move;
 ///
 /// Keys: typing replaces a cell, F2 edits it, Return goes down and stays in the last row, Tab goes
 /// through the rows to the right. In the last cell Tab leads out of the table, as Shift+Tab does in
-/// the first; Ctrl+Tab and Ctrl+Shift+Tab lead out from anywhere. Ctrl+X, C, V, A, Delete, Ctrl+Z,
+/// the first; Ctrl+Tab and Ctrl+Shift+Tab lead out from anywhere. Ctrl and an arrow go to the edge
+/// of the filled block, and with Shift select as far. Ctrl+X, C, V, A, Delete, Ctrl+Z,
 /// Ctrl+Y and Ctrl+Shift+Z are what they are everywhere, and are in the context menu. Cells go to
 /// and come from the clipboard as tab-separated text.
 class F1Book : public QTableView {
@@ -91,6 +92,7 @@ class F1Book : public QTableView {
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
   void focusInEvent(QFocusEvent* event) override;

@@ -92,6 +92,31 @@ TEST_F(SpreadsheetView, Control_And_Shift_Select_To_The_Corners) {
   EXPECT_EQ(table().Selection(), "A1:B2");
 }
 
+TEST_F(SpreadsheetView, Control_And_An_Arrow_Go_To_The_Edge_Of_The_Filled_Block) {
+  for (const int row : {1, 2, 4}) table().NumberRC(row, 2, row);
+  Start_At(1, 2);
+  std::string way;
+  for (const auto key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Left, Qt::Key_Right,
+                         Qt::Key_Right, Qt::Key_Up}) {
+    Key(key, Qt::ControlModifier);
+    way += table().Selection() + " ";
+  }
+  EXPECT_EQ(way, "B2 B4 B2 A2 B2 C2 C1 ");
+  EXPECT_EQ(book->selectionModel()->selectedIndexes().size(), 1);
+  EXPECT_EQ(edits, std::vector<std::string>{});
+}
+
+TEST_F(SpreadsheetView, Control_Shift_And_An_Arrow_Select_As_Far) {
+  for (const int row : {1, 2, 3}) table().NumberRC(row, 2, row);
+  Start_At(1, 2);
+  Key(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(table().Selection(), "B1:B3");
+  Key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(table().Selection(), "B1:C3");
+  Key(Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(table().Selection(), "C1") << "from the end that moved";
+}
+
 TEST_F(SpreadsheetView, A_Click_Beside_The_Cells_Leaves_The_Cursor_In_Sight) {
   Start_At(2, 2);
   QTest::mouseClick(book->viewport(), Qt::LeftButton, {}, Place(4, 3) + QPoint(0, 60));
