@@ -89,6 +89,19 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
 }
 
+TEST_F(MainRun, A_New_Project_Is_Not_Run_Under_The_Former_Ones_Name) {
+  Write_Text(bench.folder / "bay.duo", "former result");
+  bench.Action("mnuFileItem(0)")->trigger();
+  EXPECT_EQ(Project().BaseFileName, "");
+  bench.controls().SSOption1(0)->click();
+  Modal_Replies replies({Press(QMessageBox::Ok), testing::Close_Window()});
+  QTest::mouseClick(bench.controls().SSPanel3(1), Qt::LeftButton);
+  ASSERT_FALSE(replies.seen.empty());
+  EXPECT_EQ(replies.seen[0].text, "Please Specify a File Before Running Model");
+  EXPECT_FALSE(testing::Exists(bench.folder / "solver.pid"));
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "former result");
+}
+
 TEST_F(MainRun, Run_While_A_Run_Is_Under_Way_Starts_Nothing) {
   Run_And([this] {
     const int first = Process("solver.pid");
