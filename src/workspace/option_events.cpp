@@ -16,7 +16,10 @@
 namespace barvon {
 
 void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
+  // A closed project shows no method, but its record has one.
+  const int method = Method_Option(record.DisposalMethod);
+  Show_Method(controls, method);
+  Choose_Analysis_Type(index, method, record);
   Show_Type(controls, index);
   controls.key3.Choice_Made();
 }

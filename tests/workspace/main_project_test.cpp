@@ -43,5 +43,21 @@ TEST_F(MainProject, A_File_Without_A_Type_Reads_The_Same_Whatever_Was_Open_Befor
   }
 }
 
+TEST_F(MainProject, A_Type_Chosen_After_Close_Is_Kept_As_After_New) {
+  for (const char* command : {"mnuFileItem(0)", "mnuFileItem(2)"}) {
+    Show_Board_Of(1);
+    bench.Action(command)->trigger();
+    Click(c.SSOption1(1));
+    EXPECT_TRUE(c.SSOption2(0)->isChecked()) << command;  // the hopper of a new project
+    bench.Action("mnuEditItem(1)")->trigger();            // a screen that is cancelled
+    EXPECT_TRUE(c.SSOption1(1)->isChecked()) << command;
+    const std::string file = bench.folder / "site.DUI";
+    ASSERT_TRUE(Save_File(file, 2, record));
+    record.KEY4 = 0;
+    ASSERT_TRUE(Open_Project(file, record));
+    EXPECT_EQ(record.KEY4, 3) << command;
+  }
+}
+
 }  // namespace
 }  // namespace barvon
