@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "checks/check_data.h"
+#include "core/desk/analysis_keys.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
@@ -79,6 +80,8 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
 
 /// Everything before the point from which failures no longer stop the flow.
 std::optional<Run_Stage> Prepare(ProjectRecord& record) {
+  // What is run is what the boards show; a choice made on them may still wait for its refresh.
+  if (Is_Model_Project(record)) Show_Project(record);
   if (auto stage = Check_File(record)) return stage;
   if (auto stage = Offer_Findings(record)) return stage;
   if (record.DataSaved == kFalse && record.AlwaysSaveBeforeRun != kFalse) {

@@ -89,6 +89,21 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
 }
 
+TEST_F(MainRun, A_Type_Chosen_Since_Is_Run_With_Its_Own_Evaluation) {
+  Main_Controls& c = bench.controls();
+  c.SSOption1(2)->click();
+  QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
+  c.SSOption4(1)->click();
+  QTest::mouseClick(c.SSPanel3(4), Qt::LeftButton);
+  c.SSOption1(1)->click();
+  EXPECT_EQ(Project().KEY3, 5);  // it rests until it is asked for
+  Project().AlwaysSaveBeforeRun = kFalse;
+  Run_And([this] {
+    EXPECT_EQ(Project().KEY3, 2);
+    Write_Text(bench.folder / "go", "");
+  });
+}
+
 TEST_F(MainRun, A_New_Project_Is_Not_Run_Under_The_Former_Ones_Name) {
   Write_Text(bench.folder / "bay.duo", "former result");
   bench.Action("mnuFileItem(0)")->trigger();
