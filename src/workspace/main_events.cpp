@@ -228,7 +228,10 @@ void Connect_Group(Main_Controls& c, ProjectRecord& record,
                    const ControlArray<QRadioButton>& options, Option_Click_Action click) {
   for (int i = options.first(); i <= options.last(); ++i) {
     QObject::connect(options(i), &QRadioButton::clicked, c.window,
-                     [&c, &record, click, i] { click(c, record, i); });
+                     [&c, &record, click, i] {
+                       record.DataSaved = kFalse;
+                       click(c, record, i);
+                     });
   }
 }
 
@@ -239,9 +242,15 @@ void Connect_Options(Main_Controls& c, ProjectRecord& record) {
   Connect_Group(c, record, c.SSOption4, SSOption4_Click);
   Connect_Group(c, record, c.Option3D1, Option3D1_Click);
   QObject::connect(c.Check3D1, &QCheckBox::clicked, c.window,
-                   [&c, &record](bool set) { Check3D1_Click(c, record, set); });
+                   [&c, &record](bool set) {
+                     record.DataSaved = kFalse;
+                     Check3D1_Click(c, record, set);
+                   });
   QObject::connect(c.SSCheck4, &QCheckBox::clicked, c.window,
-                   [&c, &record](bool set) { SSCheck4_Click(c, record, set); });
+                   [&c, &record](bool set) {
+                     record.DataSaved = kFalse;
+                     SSCheck4_Click(c, record, set);
+                   });
 }
 
 }  // namespace
@@ -250,7 +259,10 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
   new Early_Events(c, record);
   Connect_Menus(c, record);
   QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window,
-                   [&record](const QString& text) { record.ProjectTitle = text.toStdString(); });
+                   [&record](const QString& text) {
+                     record.ProjectTitle = text.toStdString();
+                     record.DataSaved = kFalse;
+                   });
   Connect_Options(c, record);
   for (int i = 0; i < kCommandButtons; ++i) {
     QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,

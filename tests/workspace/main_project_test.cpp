@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <functional>
+#include <vector>
 
 #include "core/desk/open_file.h"
 #include "core/desk/save_file.h"
@@ -8,6 +10,7 @@
 #include "core/project_record.h"
 #include "support/screen_support.h"
 #include "workspace/data_board_fixture.h"
+#include "workspace/option_events.h"
 
 namespace barvon {
 namespace {
@@ -57,6 +60,46 @@ TEST_F(MainProject, A_Type_Chosen_After_Close_Is_Kept_As_After_New) {
     ASSERT_TRUE(Open_Project(file, record));
     EXPECT_EQ(record.KEY4, 3) << command;
   }
+}
+
+TEST_F(MainProject, A_Users_Change_On_The_Boards_Is_Not_Saved_Yet) {
+  Show_Board_Of(2);
+  const std::vector<std::function<void()>> changes = {
+      [this] { QTest::keyClicks(c.Title_Box, "x"); },
+      [this] { c.SSOption1(0)->click(); },
+      [this] { c.SSOption2(1)->click(); },
+      [this] { c.SSOption3(0)->click(); },
+      [this] { c.SSOption3(1)->click(); },
+      [this] { c.SSOption4(1)->click(); },
+      [this] { c.Check3D1->click(); },
+      [this] { c.Option3D1(2)->click(); },
+      [this] { c.SSCheck4->click(); },
+      [this] { c.SSCheck4->click(); },
+  };
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    record.DataSaved = kTrue;
+    changes[i]();
+    EXPECT_EQ(record.DataSaved, kFalse) << i;
+  }
+}
+
+TEST_F(MainProject, Loads_And_Refreshes_And_Code_Leave_A_Saved_Project_Saved) {
+  Show_Board_Of(2);
+  QTest::keyClicks(c.Title_Box, "bay");
+  const std::string file = bench.folder / "site.DUI";
+  ASSERT_TRUE(Save_File(file, 2, record));
+  EXPECT_EQ(record.DataSaved, kTrue);
+  Show_Board_Of(3);
+  record.ProjectTitle = "another";
+  ASSERT_TRUE(Open_Project(file, record));
+  Port().board.display_data();
+  QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
+  SSOption1_Click(c, record, 2);
+  SSOption3_Click(c, record, 0);
+  Check3D1_Click(c, record, true);
+  Port().board.display_data();
+  EXPECT_EQ(c.Title_Box->text(), "bay");
+  EXPECT_EQ(record.DataSaved, kTrue);
 }
 
 }  // namespace

@@ -138,6 +138,7 @@ TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {
 
 TEST_F(MainRun, A_Key_After_Stop_Does_Not_Replace_The_Title) {
   QTest::keyClicks(bench.controls().Title_Box, "BAY");
+  Project().DataSaved = kTrue;
   Run_And([this] {
     auto* stop = bench.Child<QPushButton>("StopRun");
     stop->setFocus();
