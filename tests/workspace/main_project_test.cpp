@@ -102,5 +102,48 @@ TEST_F(MainProject, Loads_And_Refreshes_And_Code_Leave_A_Saved_Project_Saved) {
   EXPECT_EQ(record.DataSaved, kTrue);
 }
 
+TEST_F(MainProject, A_Click_On_The_Option_That_Is_Set_Does_Nothing) {
+  Show_Board_Of(2);
+  c.SSOption2(1)->click();
+  c.SSOption4(2)->click();
+  c.Option3D1(1)->click();
+  record.DataSaved = kTrue;
+  // What each click would write.
+  record.AnalysisType = record.PreviousDisposalMethod = record.KEY1 = 9;
+  record.KEY2 = 9;
+  record.VelocityProfileType = 5;
+  record.ConstantDepthFlag = 0;  // over which the two-point profile asks
+  record.KEY3 = 3;
+  Modal_Replies no_question({});
+  for (int again = 0; again < 2; ++again) {
+    c.SSOption1(1)->click();
+    c.SSOption2(1)->click();
+    c.SSOption3(1)->click();
+    c.Option3D1(1)->click();
+  }
+  EXPECT_EQ(record.AnalysisType, 9);
+  EXPECT_EQ(record.PreviousDisposalMethod, 9);
+  EXPECT_EQ(record.KEY1, 9);
+  EXPECT_EQ(record.KEY2, 9);
+  EXPECT_EQ(record.VelocityProfileType, 5);
+  EXPECT_EQ(record.DataSaved, kTrue);
+}
+
+TEST_F(MainProject, A_Click_On_The_Evaluation_That_Is_Set_Brings_A_Resting_KEY3_Up_To_Date) {
+  Show_Board_Of(3);
+  c.SSOption4(1)->click();
+  record.DataSaved = kTrue;
+  c.SSOption4(1)->click();
+  EXPECT_EQ(record.DataSaved, kTrue);  // KEY3 is its already
+  c.SSOption3(0)->click();
+  c.SSPanel5(0)->click();
+  c.SSOption3(1)->click();
+  EXPECT_EQ(record.KEY3, 0);
+  record.DataSaved = kTrue;
+  c.SSOption4(1)->click();
+  EXPECT_EQ(record.KEY3, 5);
+  EXPECT_EQ(record.DataSaved, kFalse);
+}
+
 }  // namespace
 }  // namespace barvon
