@@ -9,6 +9,7 @@
 
 #include "checks/check_data.h"
 #include "checks/remarks.h"
+#include "core/desk/analysis_keys.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
@@ -82,6 +83,8 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record, Run_Report&
 
 /// Everything before the point from which failures no longer stop the flow.
 std::optional<Run_Stage> Prepare(ProjectRecord& record, Run_Report& report) {
+  // What is run is what the boards show; a choice made on them may still wait for its refresh.
+  if (Is_Model_Project(record)) Show_Project(record);
   if (auto stage = Check_File(record)) return stage;
   if (auto stage = Offer_Findings(record, report)) return stage;
   if (record.DataSaved == kFalse && record.AlwaysSaveBeforeRun != kFalse) {

@@ -5,10 +5,10 @@
 
 namespace barvon {
 
-/// The Run command: finds the saved project, offers the findings, saves if need be, writes the
-/// model input and the marker, starts the solver, waits, keeps its outputs. Tells the user in
-/// boxes where the flow has one and in the status area how it ended. Every exit is a return to
-/// the idle workspace.
+/// The Run command: brings the record and the boards up to date, finds the saved project, offers
+/// the findings, saves if need be, writes the model input and the marker, starts the solver, waits,
+/// keeps its outputs. Tells the user in boxes where the flow has one and in the status area how it
+/// ended. Every exit is a return to the idle workspace.
 ///
 /// The outputs go to the project that was run, also when the user has opened another one or saved
 /// under another name meanwhile. When this program ends during the run, the outputs, the settings

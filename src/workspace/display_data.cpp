@@ -20,6 +20,13 @@ void Show_Line(QLabel* label, const std::optional<std::string>& text) {
   if (text) Show_Line(label, *text);
 }
 
+/// Showing it is no change: a title longer than the box stays what it is, and data stay saved.
+void Show_Title(Main_Controls& controls, const ProjectRecord& record) {
+  const QSignalBlocker quiet(controls.Title_Box);
+  controls.Title_Box->setText(QString::fromStdString(record.ProjectTitle));
+  controls.Title_Box->setCursorPosition(0);
+}
+
 void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) {
   if (const auto hint = Simulation_Hint(record.AnalysisType)) {
     controls.Label4(0)->setText(QLatin1String(*hint));
@@ -42,11 +49,7 @@ void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) 
 
 void Display_Data(Main_Controls& controls, ProjectRecord& record) {
   Refresh_Record(record);
-  {
-    const QSignalBlocker quiet(controls.Title_Box);  // a title longer than the box stays what it is
-    controls.Title_Box->setText(QString::fromStdString(record.ProjectTitle));
-    controls.Title_Box->setCursorPosition(0);
-  }
+  Show_Title(controls, record);
   Show_Type(controls, Type_Option(record.KEY4));
   Show_Method(controls, Method_Option(record.DisposalMethod));
   Set_Data_Items(controls, record);
@@ -77,7 +80,7 @@ void Forget_Choices(Main_Controls& controls) {
 }
 
 void Show_New_Project(Main_Controls& controls, ProjectRecord& record) {
-  controls.Title_Box->setText(QString::fromStdString(record.ProjectTitle));
+  Show_Title(controls, record);
   Forget_Choices(controls);
   Show_Type(controls, -1);
   Show_Method(controls, -1);

@@ -4,7 +4,9 @@
 #include <QShortcut>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
@@ -223,25 +225,43 @@ void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
 }
 
 using Option_Click_Action = void (*)(Main_Controls&, ProjectRecord&, int);
+using Option_State = bool (*)(const Main_Controls&, const ProjectRecord&);
 
+bool Always_Held(const Main_Controls&, const ProjectRecord&) { return true; }
+
+/// Binds the options to what their click does. One that is set already does nothing, as long as
+/// the record still holds it.
 void Connect_Group(Main_Controls& c, ProjectRecord& record,
-                   const ControlArray<QRadioButton>& options, Option_Click_Action click) {
+                   const ControlArray<QRadioButton>& options, Option_Click_Action click,
+                   Option_State is_held = Always_Held) {
   for (int i = options.first(); i <= options.last(); ++i) {
+    // A click on a set option is told as any other; only that it was switched on before is not.
+    const auto switched_on = std::make_shared<bool>(false);
+    QObject::connect(options(i), &QRadioButton::toggled, c.window,
+                     [switched_on](bool set) { *switched_on = set; });
     QObject::connect(options(i), &QRadioButton::clicked, c.window,
-                     [&c, &record, click, i] { click(c, record, i); });
+                     [&c, &record, click, is_held, switched_on, i] {
+                       if (!std::exchange(*switched_on, false) && is_held(c, record)) return;
+                       record.DataSaved = kFalse;
+                       click(c, record, i);
+                     });
   }
 }
 
 void Connect_Options(Main_Controls& c, ProjectRecord& record) {
-  Connect_Group(c, record, c.SSOption1, SSOption1_Click);
+  Connect_Group(c, record, c.SSOption1, SSOption1_Click, Type_Is_Held);
   Connect_Group(c, record, c.SSOption2, SSOption2_Click);
   Connect_Group(c, record, c.SSOption3, SSOption3_Click);
-  Connect_Group(c, record, c.SSOption4, SSOption4_Click);
+  Connect_Group(c, record, c.SSOption4, SSOption4_Click, Evaluation_Is_Held);
   Connect_Group(c, record, c.Option3D1, Option3D1_Click);
-  QObject::connect(c.Check3D1, &QCheckBox::clicked, c.window,
-                   [&c, &record](bool set) { Check3D1_Click(c, record, set); });
-  QObject::connect(c.SSCheck4, &QCheckBox::clicked, c.window,
-                   [&c, &record](bool set) { SSCheck4_Click(c, record, set); });
+  QObject::connect(c.Check3D1, &QCheckBox::clicked, c.window, [&c, &record](bool set) {
+    record.DataSaved = kFalse;
+    Check3D1_Click(c, record, set);
+  });
+  QObject::connect(c.SSCheck4, &QCheckBox::clicked, c.window, [&c, &record](bool set) {
+    record.DataSaved = kFalse;
+    SSCheck4_Click(c, record, set);
+  });
 }
 
 }  // namespace
@@ -249,8 +269,10 @@ void Connect_Options(Main_Controls& c, ProjectRecord& record) {
 void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
   new Early_Events(c, record);
   Connect_Menus(c, record);
-  QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window,
-                   [&record](const QString& text) { record.ProjectTitle = text.toStdString(); });
+  QObject::connect(c.Title_Box, &QLineEdit::textChanged, c.window, [&record](const QString& text) {
+    record.ProjectTitle = text.toStdString();
+    record.DataSaved = kFalse;
+  });
   Connect_Options(c, record);
   for (int i = 0; i < kCommandButtons; ++i) {
     QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,

@@ -15,8 +15,20 @@
 
 namespace barvon {
 
+bool Type_Is_Held(const Main_Controls& /*controls*/, const ProjectRecord& record) {
+  return record.FileKind != kDilutionKind;
+}
+
+bool Evaluation_Is_Held(const Main_Controls& controls, const ProjectRecord& record) {
+  return KEY3_Value(Chosen_Option(controls.SSOption3), Chosen_Option(controls.SSOption4),
+                    record.AnalysisType) == record.KEY3;
+}
+
 void SSOption1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  Choose_Analysis_Type(index, Chosen_Option(controls.SSOption2), record);
+  // A closed project shows no method, but its record has one.
+  const int method = Method_Option(record.DisposalMethod);
+  Show_Method(controls, method);
+  Choose_Analysis_Type(index, method, record);
   Show_Type(controls, index);
   controls.key3.Choice_Made();
 }

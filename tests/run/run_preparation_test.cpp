@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "run/run_driver_fixture.h"
 
 namespace barvon {
@@ -34,6 +35,12 @@ TEST_F(RunPreparation, A_Project_Without_A_File_Offers_Save_As_And_Cancel_Stops)
   Expect_One_Box("Please Specify a File Before Running Model", "BARVON Error", Icon::Critical);
   EXPECT_EQ(record.ProjectFileName, base + ".DUI");
   EXPECT_TRUE(Exists(bench / "tmpfile.duo"));
+  Expect_Nothing_Written();
+}
+
+TEST_F(RunPreparation, The_Boards_Are_Brought_Up_To_Date_Before_The_Checks) {
+  Port().board.display_data = [this] { record.MMAX0 = 0; };  // which the rules find
+  EXPECT_EQ(Run({Answer::Cancel}).stage, Run_Stage::Cancelled);
   Expect_Nothing_Written();
 }
 

@@ -235,6 +235,7 @@ TEST_F(EvaluationBoard, Every_Other_Evaluation_Opens_Its_Screen) {
 
 TEST_F(EvaluationBoard, A_Simulation_Type_Names_The_Evaluations_Of_A_Type_Chosen_Since) {
   Show_Board_Of(1);
+  c.SSOption3(0)->click();
   SSOption1_Click(c, record, 2);
   EXPECT_EQ(c.SSOption4(0)->text(), "No Diffusion of a Conservative Tracer");
   c.SSOption3(1)->click();

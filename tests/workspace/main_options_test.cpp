@@ -105,22 +105,6 @@ TEST(MainOptions, A_Type_From_Code_Opens_A_Board_That_Is_Closed) {
   EXPECT_TRUE(bench.controls().SSOption1(2)->isChecked());
 }
 
-// Only screens that accept data and saves move it.
-TEST(MainOptions, Choices_And_The_Title_Leave_DataSaved_As_It_Is) {
-  Main_Bench bench;
-  Project().DataSaved = kTrue;
-  Click(bench.controls().SSOption1(1));
-  Click(bench.controls().SSOption2(1));
-  QTest::keyClicks(bench.controls().Title_Box, "x");
-  bench.controls().SSPanel3(0)->click();
-  bench.controls().SSOption3(0)->click();
-  bench.controls().SSOption3(1)->click();
-  bench.controls().SSOption4(2)->click();
-  bench.controls().Option3D1(2)->click();
-  bench.controls().SSCheck4->click();
-  EXPECT_EQ(Project().DataSaved, kTrue);
-}
-
 TEST(MainOptions, The_Keyboard_Chooses_Too) {
   Main_Bench bench;
   Click(bench.controls().SSOption1(0));

@@ -94,6 +94,34 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
 }
 
+TEST_F(MainRun, A_Type_Chosen_Since_Is_Run_With_Its_Own_Evaluation) {
+  Main_Controls& c = bench.controls();
+  c.SSOption1(2)->click();
+  QTest::mouseClick(c.SSPanel3(0), Qt::LeftButton);
+  c.SSOption4(1)->click();
+  QTest::mouseClick(c.SSPanel3(4), Qt::LeftButton);
+  c.SSOption1(1)->click();
+  EXPECT_EQ(Project().KEY3, 5);  // it rests until it is asked for
+  Project().AlwaysSaveBeforeRun = kFalse;
+  Run_And([this] {
+    EXPECT_EQ(Project().KEY3, 2);
+    Write_Text(bench.folder / "go", "");
+  });
+}
+
+TEST_F(MainRun, A_New_Project_Is_Not_Run_Under_The_Former_Ones_Name) {
+  Write_Text(bench.folder / "bay.duo", "former result");
+  bench.Action("mnuFileItem(0)")->trigger();
+  EXPECT_EQ(Project().BaseFileName, "");
+  bench.controls().SSOption1(0)->click();
+  Modal_Replies replies({Press(QMessageBox::Ok), testing::Close_Window()});
+  QTest::mouseClick(bench.controls().SSPanel3(1), Qt::LeftButton);
+  ASSERT_FALSE(replies.seen.empty());
+  EXPECT_EQ(replies.seen[0].text, "Please Specify a File Before Running Model");
+  EXPECT_FALSE(testing::Exists(bench.folder / "solver.pid"));
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "former result");
+}
+
 TEST_F(MainRun, Run_While_A_Run_Is_Under_Way_Starts_Nothing) {
   Run_And([this] {
     const int first = Process("solver.pid");
@@ -128,6 +156,7 @@ TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {
 
 TEST_F(MainRun, A_Key_After_Stop_Does_Not_Replace_The_Title) {
   QTest::keyClicks(bench.controls().Title_Box, "BAY");
+  Project().DataSaved = kTrue;
   Run_And([this] {
     auto* stop = bench.Child<QPushButton>("StopRun");
     stop->setFocus();

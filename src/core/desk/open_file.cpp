@@ -34,7 +34,10 @@ Load_Result Load(const std::string& path, std::string_view bytes, ProjectRecord&
     return {Find_File_Kind(kDilutionLetters)->read(path, bytes, record), false, {}};
   }
   Load_Result result = Load_Project(path, bytes, record);
-  if (result.failure == Failure::None) Compute_Site_Density_From_Bulk(record);
+  if (result.failure != Failure::None) return result;
+  Compute_Site_Density_From_Bulk(record);
+  // The file has no AnalysisType of its own, and that of the project before is none of its.
+  if (Analysis_Type_Of_KEY4(record.KEY4) == kNoAnalysis) record.AnalysisType = kOpenWater;
   return result;
 }
 

@@ -11,7 +11,11 @@ bool Reset_Vars(ProjectRecord& record) {
   Port().text.clear_checks();
   Port().dilution.close();
   Port().board.set_caption(kUntitledCaption);
+  // What was said of the project before no longer holds.
+  Port().board.show_note({});
   Set_Project_Defaults(record);
+  // Outputs are named from it: a run of the new project must not find the old one's file.
+  record.BaseFileName.clear();
   record.WizardActive = record.WizardAccepted = kFalse;
   Port().board.refresh_for_new_project();
   return true;

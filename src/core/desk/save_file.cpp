@@ -94,6 +94,7 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
 }
 
 bool Write_Export(const std::string& path, ProjectRecord& record) {
+  Show_Project(record);
   record.FileTypeTag = "DUE";
   const auto first = record.SectionStatus.begin() + 1;
   const auto last = first + kTestedStatusMarks;

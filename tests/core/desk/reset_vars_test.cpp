@@ -50,7 +50,14 @@ TEST_F(ResetVars, The_Wizards_State_Is_Cleared_And_The_Users_Options_Stay) {
   EXPECT_EQ(record_.WizardHelpOn, kTrue);
   EXPECT_EQ(record_.AlwaysSaveBeforeRun, kTrue);
   EXPECT_EQ(record_.ShowMode, 1);
-  EXPECT_EQ(record_.BaseFileName, "/data/site");
+}
+
+TEST_F(ResetVars, Nothing_Of_The_Former_Project_Names_Outputs_Or_Is_Told) {
+  Scripted_Messages messages;
+  EXPECT_TRUE(Reset_Vars(record_));
+  EXPECT_EQ(record_.BaseFileName, "");
+  ASSERT_FALSE(notes_.empty());
+  EXPECT_EQ(notes_.back(), "");
 }
 
 TEST_F(ResetVars, Cancel_About_Changed_Text_Resets_Nothing) {

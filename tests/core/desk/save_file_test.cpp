@@ -213,6 +213,19 @@ TEST_F(SaveFile, An_Export_Writes_Only_The_Model_Input_And_The_Sixth_Mark_Does_N
   EXPECT_EQ(caption_, "BARVON - " + (folder_ / "site.DUI"));
 }
 
+TEST_F(SaveFile, An_Export_Brings_The_Workspace_Up_To_Date_Before_Its_Checks) {
+  Scripted_Messages messages;
+  Make_Computable();
+  record_.SectionStatus.fill('X');
+  Port().board.display_data = [this] {
+    record_.KEY3 = 2;
+    record_.SectionStatus[1] = '-';
+  };
+  EXPECT_FALSE(Save_File(folder_ / "site.DUI", 3, record_));
+  EXPECT_EQ(record_.KEY3, 2);
+  EXPECT_FALSE(Exists(folder_ / "site.DUE"));
+}
+
 TEST_F(SaveFile, An_Export_That_Can_Not_Be_Computed_Is_Told) {
   Scripted_Messages messages({Answer::Ok});
   record_.SectionStatus.fill('X');
