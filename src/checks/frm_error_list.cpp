@@ -71,9 +71,8 @@ frmErrorList::frmErrorList(QWidget* workspace)
     connect(SSCommand1(index), &QPushButton::clicked, this,
             [this, index] { SSCommand1_Click(index); });
   }
-  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, [] {
-    Show_Topic(kScreen.topic);
-  });
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [] { Show_Topic(kScreen.topic); });
   Set_Findings_Listener([this] { Fill(); });
 }
 

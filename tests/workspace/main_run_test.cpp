@@ -111,6 +111,7 @@ TEST_F(MainRun, A_Type_Chosen_Since_Is_Run_With_Its_Own_Evaluation) {
 
 TEST_F(MainRun, A_New_Project_Is_Not_Run_Under_The_Former_Ones_Name) {
   Write_Text(bench.folder / "bay.duo", "former result");
+  Write_Text(bench.folder / "go", "");  // a solver that is started all the same ends at once
   bench.Action("mnuFileItem(0)")->trigger();
   EXPECT_EQ(Project().BaseFileName, "");
   bench.controls().SSOption1(0)->click();

@@ -58,7 +58,7 @@ std::optional<Cell_Range> Parse_Range(std::string_view text) {
 }
 
 std::string Range_Text(const Cell_Range& range) {
-  const std::string first = Column_Letters(range.col1) + std::to_string(range.row1);
+  std::string first = Column_Letters(range.col1) + std::to_string(range.row1);
   if (range.rows() == 1 && range.cols() == 1) return first;
   return first + ":" + Column_Letters(range.col2) + std::to_string(range.row2);
 }

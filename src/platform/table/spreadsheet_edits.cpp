@@ -72,8 +72,8 @@ Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
       static_cast<std::size_t>(target->cols()) % cols == 0) {
     return Write(table, *target, text_of);
   }
-  const auto rows_left = static_cast<std::size_t>(table.MaxRow() - target->row1 + 1);
-  const auto cols_left = static_cast<std::size_t>(table.MaxCol() - target->col1 + 1);
+  const auto rows_left = static_cast<std::size_t>(table.MaxRow() - target->row1) + 1;
+  const auto cols_left = static_cast<std::size_t>(table.MaxCol() - target->col1) + 1;
   if (rows > rows_left || cols > cols_left) {
     return {std::nullopt, "What is to be pasted has " + Size_Text(rows, cols) +
                               ".  From the chosen cell on the table has " +
