@@ -72,8 +72,10 @@ std::unique_ptr<ProjectRecord> Open_Project(const std::string& file) {
   const Box_Collector boxes;
   const Load_Result result = Load_Project(path, bytes, *record);
   if (result.failure != Failure::None) {
-    Say_Problem(
-        file, result.told && !boxes.Texts().empty() ? boxes.Texts() : Load_Problem(result.failure));
+    std::string text =
+        result.told && !boxes.Texts().empty() ? boxes.Texts() : Load_Problem(result.failure);
+    if (!result.remark.empty()) text += ". " + result.remark;
+    Say_Problem(file, text);
     return nullptr;
   }
   if (!result.remark.empty()) Say_Warning(file, result.remark);

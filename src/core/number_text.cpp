@@ -208,7 +208,9 @@ std::string Exact_Number(double value) {
 
 bool Read_Exact_Number(std::string_view text, double& value) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc() && end == text.data() + text.size();
+  if (error != std::errc() || end != text.data() + text.size()) return false;
+  // The library reads many spellings of what is no number; only our own is a value that was kept.
+  return std::isfinite(value) || text == Name_Of_Non_Number(value);
 }
 
 double Widen(float value) {

@@ -50,6 +50,20 @@ TEST_F(BatchCheck, Nothing_Is_Written) {
   EXPECT_TRUE(Read_Text(Path("site.DUI")) == before);
 }
 
+TEST_F(BatchCheck, A_Damaged_Exact_Value_Is_Refused_With_Its_Line) {
+  Put_Sample(kHopper, "site.DUI");
+  std::string bytes = Read_Text(Path("site.DUI"));
+  const std::string damaged = "RealSlots(88) = abc; the columns give 100";
+  bytes += "Exact values of this project that the columns above this line can not hold: 1\r\n" +
+           damaged + "\r\nEnd of the exact values\r\n";
+  Write_Text(Path("site.DUI"), bytes);
+  const Program_Result result = Batch({"check", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err,
+            "site.DUI: Error Reading File:  13. What is damaged is line 3523: " + damaged + "\n");
+}
+
 TEST_F(BatchCheck, A_File_Is_Found_Without_Regard_To_Case) {
   Put_Sample(kHopper, "SITE.DUI");
   EXPECT_EQ(Batch({"check", "site.dui"}).code, 0);

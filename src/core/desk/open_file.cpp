@@ -68,6 +68,9 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
   const Load_Result result = Load(path, bytes, record);
   if (result.failure != Failure::None) {
     if (!result.told) Offer_Fresh_Start(record);
+    if (!result.remark.empty()) {
+      Port().board.show_note({Name_Of(path) + " was not loaded. " + result.remark, {}});
+    }
     return false;
   }
   // What was said of the project before no longer holds.

@@ -1,5 +1,6 @@
 #include "core/project_file/exact_values.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cstddef>
@@ -233,7 +234,13 @@ File_Parts Split_File(std::string_view bytes) {
   return {bytes.substr(0, found + 1), bytes.substr(found + 1)};
 }
 
-Failure Apply_Exact_Values(std::string_view exact, Columns_Read& columns) {
+Failure Apply_Exact_Values(const File_Parts& parts, Columns_Read& columns, std::string& damaged) {
+  std::string_view exact = parts.exact;
+  auto number = std::count(parts.columns.begin(), parts.columns.end(), '\n') + 1;
+  const auto tell = [&](std::string_view line) {
+    damaged = "line " + std::to_string(number) + ": " + std::string(line);
+    return Failure::Type_Mismatch;
+  };
   const auto head = Take_Line(exact);
   if (!head) return Failure::Input_Past_End;
   const std::string_view count_text = head->substr(kHead.size());
@@ -241,17 +248,20 @@ Failure Apply_Exact_Values(std::string_view exact, Columns_Read& columns) {
   const auto [end, error] =
       std::from_chars(count_text.data(), count_text.data() + count_text.size(), count);
   if (error != std::errc() || end != count_text.data() + count_text.size()) {
-    return Failure::Type_Mismatch;
+    return tell(*head);
   }
   Exact_Reader reader(columns);
   for (std::size_t i = 0; i < count; ++i) {
     const auto line = Take_Line(exact);
     if (!line) return Failure::Input_Past_End;
+    ++number;
     const auto entry = Parse_Line(*line);
-    if (!entry || !reader.Apply(*entry)) return Failure::Type_Mismatch;
+    if (!entry || !reader.Apply(*entry)) return tell(*line);
   }
   if (exact.substr(0, kEnd.size()) != kEnd) {
-    return exact.size() < kEnd.size() ? Failure::Input_Past_End : Failure::Type_Mismatch;
+    if (exact.size() < kEnd.size()) return Failure::Input_Past_End;
+    ++number;
+    return tell(exact.substr(0, exact.find_first_of("\r\n")));
   }
   return Front_Is_Given(columns.given) ? Failure::None : columns.failure;
 }

@@ -35,7 +35,8 @@ File_Parts Split_File(std::string_view bytes);
 
 /// Puts exact values in the place of what the columns gave. Input_Past_End when the lines are cut
 /// off, Type_Mismatch when they are damaged, and the failure of the columns when a value in front
-/// of the tail is still missing afterwards.
-Failure Apply_Exact_Values(std::string_view exact, Columns_Read& columns);
+/// of the tail is still missing afterwards. `damaged` takes the number of a damaged line of the
+/// file, from 1, and its text.
+Failure Apply_Exact_Values(const File_Parts& parts, Columns_Read& columns, std::string& damaged);
 
 }  // namespace barvon

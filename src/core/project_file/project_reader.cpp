@@ -16,11 +16,11 @@ namespace {
 constexpr std::int16_t kShortLayoutMark = 1;
 
 /// Tells a failure that is not the end of the file by its number.
-Load_Result Told(Failure failure) {
+Load_Result Told(Failure failure, const std::string& damaged = {}) {
   Message message;
   message.text = "Error Reading File:  " + std::to_string(static_cast<int>(failure));
   Show_Message(message);
-  return {failure, true, {}};
+  return {failure, true, damaged.empty() ? "" : "What is damaged is " + damaged};
 }
 
 /// Puts what was read into the record, all of it or nothing.
@@ -61,12 +61,13 @@ std::string Tail_Remark(const Columns_Read& read) {
 
 Load_Result Load_Project(const std::string& path, std::string_view bytes, ProjectRecord& record) {
   Columns_Read read;
+  std::string damaged;
   {
     Progress_Display progress("Loading " + path);
     const File_Parts parts = Split_File(bytes);
     read = Read_Columns(parts.columns, kMaxGridPoints, &progress);
     if (!parts.exact.empty()) {
-      read.failure = Apply_Exact_Values(parts.exact, read);
+      read.failure = Apply_Exact_Values(parts, read, damaged);
       if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
       // Behind the columns of such a file are its exact values, not the end.
       read.at_end = false;
@@ -74,7 +75,7 @@ Load_Result Load_Project(const std::string& path, std::string_view bytes, Projec
       return Load_Short(bytes, progress, record);
     }
   }
-  if (read.failure != Failure::None) return Told(read.failure);
+  if (read.failure != Failure::None) return Told(read.failure, damaged);
   if (const Failure failure = Take_Over(read, false, record); failure != Failure::None) {
     return Told(failure);
   }

@@ -14,7 +14,8 @@ struct Load_Result {
   Failure failure = Failure::None;
   /// The user has already been told in a message box.
   bool told = false;
-  /// What the user should know about a load that went through, for the status area; often empty.
+  /// What the user should know about a load that went through, or the line at which it failed, for
+  /// the status area; often empty.
   std::string remark;
 };
 

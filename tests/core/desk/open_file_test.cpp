@@ -271,6 +271,19 @@ TEST_F(OpenFile, What_Was_Said_Of_The_Project_Before_Is_Taken_Back) {
   EXPECT_EQ(notes_, (Lines{"site.duo kept", ""}));
 }
 
+TEST_F(OpenFile, A_Damaged_Exact_Value_Is_Refused_And_Its_Line_Shown) {
+  const std::string path = folder_ / "next.dui";
+  Write_Text(path, Project_Bytes("Next") +
+                       "Exact values of this project that the columns above this line can not "
+                       "hold: 1\r\nRealSlots(88) = 1oo; the columns give 0\r\n"
+                       "End of the exact values\r\n");
+  Scripted_Messages messages({Answer::Ok});
+  EXPECT_FALSE(Open_File(path, record_));
+  EXPECT_EQ(messages.shown.at(0).text, "Error Reading File:  13");
+  EXPECT_EQ(notes_, Lines{"next.dui was not loaded. What is damaged is line 3523: RealSlots(88) = "
+                          "1oo; the columns give 0"});
+}
+
 TEST_F(OpenFile, A_Project_Whose_KEY4_Chooses_Nothing_Has_Its_Menus_And_Its_Kind) {
   const std::string path = folder_ / "unchosen.dui";
   Write_Text(path, Project_Bytes("Unchosen"));

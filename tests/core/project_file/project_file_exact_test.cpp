@@ -170,6 +170,26 @@ TEST_F(ExactValues, Damaged_Lines_Fail) {
   }
 }
 
+TEST_F(ExactValues, What_Is_No_Number_Is_Refused_With_Its_Line_But_For_What_A_Save_Writes) {
+  record_.ALPHA3 = 1.0 / 3;
+  record_.ALPHA4 = 1.0 / 7;
+  const auto lines = Save();
+  for (const char* text :
+       {"abc", "", "0.1 0.2", "NaN", "nan(7)", "-nan", "infinity", "INF", "0x1"}) {
+    auto copy = lines;
+    copy[kFullLines + 3] = std::string("RealSlots(7) = ") + text + "; the columns give 0";
+    Scripted_Messages messages({Answer::Ok});
+    const Load_Result result = Load_Project("site.dui", Joined(copy), record_);
+    EXPECT_EQ(result.failure, Failure::Type_Mismatch) << text;
+    EXPECT_EQ(result.remark, "What is damaged is line 3524: " + copy[kFullLines + 3]) << text;
+  }
+  for (const char* text : {"nan", "inf", "-inf"}) {
+    auto copy = lines;
+    copy[kFullLines + 3] = std::string("RealSlots(7) = ") + text + "; the columns give 0";
+    EXPECT_EQ(Load(copy), Failure::None) << text;
+  }
+}
+
 TEST_F(ExactValues, Faults_Of_A_File_With_Exact_Values_Are_Told_By_Their_Number) {
   record_.ALPHA3 = 1.0 / 3;
   const auto lines = Save();
