@@ -103,7 +103,7 @@ void Hopper_Six_Openings(ProjectRecord& r) {
   Set_Solids(r, {{"Sand", 2.65, 0.12, 0.07, 0.8, 0.025, false, true},
                  {"Silt", 2.65, 0.08, 0.01, 4.5, 0.009, false, true},
                  {"Clay", 2.6, 0.05, 0.002, 7, 0.004, true, true}});
-  r.TotalVolume = 4000;
+  r.TotalVolume = 4200;
   r.MoistureContent = 1.5;
   r.SiteDensity = 1.022;
   r.XBARGE = 1800;

@@ -23,6 +23,7 @@ int Check(const Batch_Options& options) {
   for (const std::string& file : options.files) {
     const auto record = Open_Project(file);
     worst = std::max(worst, record ? Say_Findings(file, *record) : kNotDone);
+    if (record) Say_Remarks(file, *record);
   }
   return worst;
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <system_error>
 
+#include "batch/batch_findings.h"
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/target_key.h"
@@ -33,6 +34,7 @@ std::string Target_Of(const std::string& file, const std::string& output) {
 int Export(const std::string& file, const std::string& target) {
   const auto record = Open_Project(file);
   if (!record) return kNotDone;
+  Say_Remarks(file, *record);
   std::string text;
   if (const Failure failure = Make_Model_Input(*record, text); failure != Failure::None) {
     Say_Problem(file, std::string("the model input can't be written: ") + Failure_Name(failure));

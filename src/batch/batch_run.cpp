@@ -105,7 +105,9 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
 int Run(const std::string& file, const Batch_Options& options) {
   const auto record = Open_Project(file);
   if (!record) return kNotDone;
-  if (Say_Findings(file, *record) != kDone && !options.despite_errors) return kFindings;
+  const int found = Say_Findings(file, *record);
+  Say_Remarks(file, *record);
+  if (found != kDone && !options.despite_errors) return kFindings;
   std::string problem;
   const auto scratch = Scratch_Application::Make(options.solver_folder, problem);
   if (!scratch) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "checks/check_data.h"
+#include "checks/remarks.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
@@ -64,8 +65,10 @@ std::optional<Run_Stage> Check_File(ProjectRecord& record) {
   return Run_Stage::Invalid_Type;
 }
 
-std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
-  if (Check_Project(record) == kFalse) return std::nullopt;
+std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record, Run_Report& report) {
+  const Flag found = Check_Project(record);
+  report.remarks = Current_Remarks();
+  if (found == kFalse) return std::nullopt;
   switch (Ask(kErrorsDetected, Buttons::YesNoCancel)) {
     case Answer::No:
       return std::nullopt;
@@ -78,9 +81,9 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record) {
 }
 
 /// Everything before the point from which failures no longer stop the flow.
-std::optional<Run_Stage> Prepare(ProjectRecord& record) {
+std::optional<Run_Stage> Prepare(ProjectRecord& record, Run_Report& report) {
   if (auto stage = Check_File(record)) return stage;
-  if (auto stage = Offer_Findings(record)) return stage;
+  if (auto stage = Offer_Findings(record, report)) return stage;
   if (record.DataSaved == kFalse && record.AlwaysSaveBeforeRun != kFalse) {
     return Save_As(record, Run_Stage::Cancelled);
   }
@@ -177,21 +180,31 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   Write_Graph_File(project);
 }
 
+/// How the run ended, behind the number of remarks: the line may be cut at its end. The lines of
+/// the remarks come before what a solver that failed said last.
+Status_Note Note_Of(const Run_Report& report) {
+  const bool failed = report.stage == Run_Stage::Ended && !report.Succeeded();
+  const std::string last_output = failed ? report.outcome.last_output : std::string();
+  if (report.remarks.empty()) return {report.text, last_output};
+  const std::string between = last_output.empty() ? "" : "\n";
+  return {Remark_Count(report.remarks) + ". " + report.text,
+          Remark_Lines(report.remarks) + between + last_output};
+}
+
 }  // namespace
 
 Run_Report Run_Model(ProjectRecord& record) {
   Run_Report report;
   if (Run_Is_Under_Way()) {
     report.stage = Run_Stage::Refused;
-  } else if (const auto stage = Prepare(record)) {
+  } else if (const auto stage = Prepare(record, report)) {
     report.stage = *stage;
   } else {
     Run_Solver(record, report);
   }
   report.text = Status_Text(report);
   if (report.outcome.program_ends) return report;
-  const bool failed = report.stage == Run_Stage::Ended && !report.Succeeded();
-  Port().board.show_note({report.text, failed ? report.outcome.last_output : std::string()});
+  Port().board.show_note(Note_Of(report));
   return report;
 }
 

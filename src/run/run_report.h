@@ -26,6 +26,7 @@ enum class Run_Stage {
 struct Run_Report {
   Run_Stage stage = Run_Stage::No_File;
   Process_Outcome outcome;
+  std::vector<std::string> remarks;      // what is worth a look in the project
   std::string problem;                   // what the solver's input lacks and why
   std::vector<std::string> kept;         // paths of outputs copied beside the project
   std::vector<std::string> not_written;  // extensions (".duo") of outputs this run did not write

@@ -39,6 +39,15 @@ std::string BatchProgram::Put_Solver(const std::string& script) {
   return folder;
 }
 
+void BatchProgram::Put_Remarkable(const std::string& name) {
+  const auto record = std::make_unique<ProjectRecord>();
+  samples::Fill_Sample(samples::Samples()[0], *record);
+  record->TotalVolume = 4000;
+  record->NOPENS = 3;
+  Pack_Slots(*record);
+  Write_Text(Path(name), Save_Project(name, *record));
+}
+
 void BatchProgram::Put_Faulty(const std::string& name) {
   const auto record = std::make_unique<ProjectRecord>();
   samples::Fill_Sample(samples::Samples()[0], *record);

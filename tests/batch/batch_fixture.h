@@ -23,6 +23,8 @@ class BatchProgram : public ::testing::Test {
   void Put_Sample(const std::string& sample, const std::string& name);
   /// A solver that is a shell script, in a solvers' folder of its own. Returns that folder.
   std::string Put_Solver(const std::string& script);
+  /// A sound project with a remark: 4000 cu. yds. in three openings.
+  void Put_Remarkable(const std::string& name);
   /// A project that can be written as model input but has one finding.
   void Put_Faulty(const std::string& name);
 

@@ -91,6 +91,22 @@ TEST_F(RunDriver, A_Solver_That_Fails_Is_No_Success_And_Its_Outputs_Are_Kept_All
   EXPECT_EQ(bench.notes.at(0).details, "bad layer\n");
 }
 
+TEST_F(RunDriver, Remarks_Do_Not_Stop_A_Run_And_Are_Told_With_Its_End) {
+  record.LayerVolume[1] = 4000.0 / 3;
+  Install(std::string(kWritesAll) + "print:bad layer\nexit:3\n");
+  const Run_Report report = Run();
+  EXPECT_TRUE(shown.empty());
+  EXPECT_EQ(report.stage, Run_Stage::Ended);
+  EXPECT_EQ(Note(), "1 remark. " + report.text);
+  ASSERT_EQ(report.remarks.size(), 1u);
+  EXPECT_NE(report.remarks[0].find("LayerVolume(1) is 1333.33333333333"), std::string::npos);
+  EXPECT_EQ(bench.notes.back().details, report.remarks[0] + "\n\nbad layer\n");
+  record.LayerVolume[1] = 1000;
+  const Run_Report next = Run();
+  EXPECT_TRUE(next.remarks.empty());
+  EXPECT_EQ(Note(), next.text);
+}
+
 TEST_F(RunDriver, A_Solver_That_Dies_By_A_Signal_Is_No_Success) {
   Install("signal:11\n");
   EXPECT_FALSE(Run().Succeeded());

@@ -4,9 +4,12 @@
 #include <filesystem>
 #include <memory>
 #include <set>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "checks/check_data.h"
+#include "checks/remarks.h"
 #include "core/desk/analysis_keys.h"
 #include "core/model_input/model_input.h"
 #include "core/project_defaults.h"
@@ -50,6 +53,12 @@ TEST(SampleFiles, Are_What_The_Program_Makes_Byte_For_Byte) {
     // Not EXPECT_EQ: a difference would print a quarter of a megabyte.
     EXPECT_TRUE(Read_Text(Path_Of(sample)) == Save_Project(sample.file, *record))
         << sample.file << " is not what make_samples writes";
+  }
+}
+
+TEST(SampleFiles, Give_No_Cause_For_A_Remark) {
+  for (const Sample& sample : samples::Samples()) {
+    EXPECT_EQ(Remarks_On(*Loaded(sample)), std::vector<std::string>{}) << sample.file;
   }
 }
 

@@ -187,6 +187,20 @@ TEST_F(FileMenu, Save_Without_Findings_Asks_Nothing) {
   EXPECT_EQ(record_.DataSaved, kTrue);
 }
 
+TEST_F(FileMenu, A_Save_Tells_Its_Remarks_And_Asks_Nothing) {
+  Scripted_Messages messages;
+  Make_Valid();
+  record_.TotalVolume = 4000;
+  record_.NOPENS = 3;
+  Name_Project(folder_ / "site.DUI");
+  Click(kFileSave);
+  EXPECT_TRUE(Exists(folder_ / "site.DUI"));
+  EXPECT_EQ(notes_, Lines{"3 remarks"});
+  record_.NOPENS = 4;
+  Click(kFileSave);
+  EXPECT_EQ(notes_.back(), "");
+}
+
 TEST_F(FileMenu, Findings_Only_Warn_And_No_Saves) {
   Scripted_Messages messages({Answer::No});
   Name_Project(folder_ / "site.DUI");

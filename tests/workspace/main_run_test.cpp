@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 #include <csignal>
 #include <filesystem>
+#include <limits>
 
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
@@ -97,6 +102,19 @@ TEST_F(MainRun, Run_While_A_Run_Is_Under_Way_Starts_Nothing) {
     EXPECT_NE(bench.Child<QLabel>("StatusNote")->text(), "");
     Write_Text(bench.folder / "go", "");
   });
+}
+
+TEST_F(MainRun, Remarks_On_The_Project_Are_To_Be_Had_Behind_The_Runs_End) {
+  Project().SLOPEX0 = std::numeric_limits<double>::infinity();
+  Run_And([this] { Write_Text(bench.folder / "go", ""); });
+  EXPECT_TRUE(bench.Child<QLabel>("StatusNote")->text().startsWith("1 remark. "));
+  auto* details = bench.Child<QPushButton>("StatusDetails");
+  ASSERT_TRUE(details->isVisible());
+  details->click();
+  auto* dialog = bench.Child<QDialog>("StatusDetailsDialog");
+  EXPECT_TRUE(dialog->findChild<QPlainTextEdit*>("Text1")->toPlainText().contains(
+      "SLOPEX0 is infinite (inf)\n"));
+  dialog->close();
 }
 
 TEST_F(MainRun, Stop_Ends_The_Solver_And_Everything_It_Started) {

@@ -2,7 +2,6 @@
 
 #include "core/checked_entry.h"
 #include "core/keys.h"
-#include "core/model_input/model_text.h"
 #include "core/text_tools.h"
 #include "core/velocity_types.h"
 
@@ -40,7 +39,7 @@ void Put_Grid(Model_Text& lines, const ProjectRecord& record, const Grid& grid,
 
 void Put_Head(Model_Text& lines, const ProjectRecord& record) {
   lines.Right(record.FileTypeTag, 7);
-  lines.Number_Line(8, record.DisposalMethod);
+  lines.Number_Line(8, "DisposalMethod", record.DisposalMethod);
   lines.Left(Trimmed(record.ProjectTitle), kTitleLength);
   lines.End_Line();
   lines.Formatted_Line(kInteger, record.NMAX0, record.MMAX0, record.NumSolids);
@@ -141,9 +140,8 @@ void Adjust_Keys(ProjectRecord& record) {
 
 }  // namespace
 
-std::string Continuous_Section(ProjectRecord& record) {
+void Continuous_Section(ProjectRecord& record, Model_Text& lines) {
   Adjust_Keys(record);
-  Model_Text lines;
   Put_Head(lines, record);
   Put_Output(lines, record);
   Put_Depths(lines, record);
@@ -153,7 +151,6 @@ std::string Continuous_Section(ProjectRecord& record) {
   Put_Densities(lines, record);
   Put_Velocities(lines, record);
   Put_Print_Times(lines, record);
-  return lines.text();
 }
 
 }  // namespace barvon

@@ -121,29 +121,33 @@ void Prepare(ProjectRecord& record) {
   Extend_Density_Profile(record);
 }
 
-std::string Section(ProjectRecord& record) {
+void Put_Section(ProjectRecord& record, Model_Text& lines) {
   switch (record.DisposalMethod) {
     case kHopper:
-      return Hopper_Section(record);
+      return Hopper_Section(record, lines);
     case kContinuous:
-      return Continuous_Section(record);
+      return Continuous_Section(record, lines);
     case kBarge:
-      return Barge_Section(record);
+      return Barge_Section(record, lines);
     default:
-      return {};
+      return;
   }
 }
 
 }  // namespace
 
-Failure Write_Model_Input(ProjectRecord& record, std::string& text) {
+Failure Write_Model_Input(ProjectRecord& record, std::string& text,
+                          std::vector<Wide_Value>* wide_values) {
   text.clear();
+  Model_Text lines;
   try {
     Prepare(record);
-    text = To_File_Bytes(Section(record));
+    Put_Section(record, lines);
+    text = To_File_Bytes(lines.text());
   } catch (const Run_Time_Failure& stop) {
     return stop.failure;
   }
+  if (wide_values != nullptr) *wide_values = lines.wide_values();
   return Failure::None;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/failure.h"
+#include "core/model_input/model_text.h"
 #include "core/project_record.h"
 
 namespace barvon {
@@ -12,7 +14,9 @@ namespace barvon {
 /// concentration, DZ0, NROA0 and the density profile, KEY2, VelocityProfileType, SolidTracerFlag,
 /// the grid indices. A failure (a zero spacing, a count beyond an array) leaves `text` empty and
 /// in the record what had been derived before it. A method without a section gives an empty text.
-Failure Write_Model_Input(ProjectRecord& record, std::string& text);
+/// `wide_values` (may be null) takes what does not fit its columns; it is left alone on a failure.
+Failure Write_Model_Input(ProjectRecord& record, std::string& text,
+                          std::vector<Wide_Value>* wide_values = nullptr);
 
 /// The model input as export and run hand it on: under the tag "DUE", which the record keeps, and
 /// without a trace in what a person entered, also on a failure. What is derived stays.

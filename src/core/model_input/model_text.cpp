@@ -16,6 +16,13 @@ std::string Without_Controls(std::string_view text) {
   return clean;
 }
 
+std::string With_Subscripts(std::string_view field, int i, int j) {
+  std::string name(field);
+  if (i != 0) name += "(" + std::to_string(i);
+  if (j != 0) name += "," + std::to_string(j);
+  return i != 0 ? name + ")" : name;
+}
+
 }  // namespace
 
 void Model_Text::Right(std::string_view text, std::size_t width) {
@@ -26,12 +33,41 @@ void Model_Text::Left(std::string_view text, std::size_t width) {
   text_ += Left_Justified(Without_Controls(text), width);
 }
 
+void Model_Text::Named_Left(std::size_t width, std::string_view field, std::string_view text,
+                            int i) {
+  if (Character_Count(text) > width) Note_Wide(text, width, field, i, 0);
+  Left(text, width);
+}
+
 void Model_Text::Blanks(std::size_t count) { text_.append(count, ' '); }
+
+void Model_Text::Named_Formatted(std::string_view pattern, std::string_view field, double value,
+                                 int i) {
+  const std::string text = Format_Number(value, pattern);
+  if (text.size() > pattern.size()) Note_Wide(text, pattern.size(), field, i, 0);
+  text_ += text;
+}
 
 void Model_Text::Format_One(double value, std::string_view pattern) {
   text_ += Format_Number(value, pattern);
 }
 
-void Model_Text::End_Line() { text_ += "\r\n"; }
+void Model_Text::End_Line() {
+  text_ += "\r\n";
+  ++line_;
+}
+
+std::string_view Model_Text::Take_Name(std::string_view& fields) {
+  const std::size_t end = std::min(fields.find(' '), fields.size());
+  const std::string_view name = fields.substr(0, end);
+  fields.remove_prefix(std::min(end + 1, fields.size()));
+  return name;
+}
+
+void Model_Text::Note_Wide(std::string_view text, std::size_t width, std::string_view field, int i,
+                           int j) {
+  wide_values_.push_back(
+      {line_, std::string(field), With_Subscripts(field, i, j), std::string(text), width});
+}
 
 }  // namespace barvon

@@ -10,8 +10,8 @@
 namespace barvon {
 
 /// The columns of a project file can't hold every value: a wide real, a corner of 1250.5 ft, a
-/// name of 12 characters. What would not survive is written once more behind the last line, as plain
-/// text lines that older readers leave unread:
+/// name of 12 characters. What would not survive is written once more behind the last line, as
+/// plain text lines that older readers leave unread:
 ///
 ///     Exact values of this project that the columns above this line can not hold: 2
 ///     RealSlots(102) = 2.6512345678901234; the columns give 1234567
