@@ -4,7 +4,9 @@
 #include <array>
 #include <initializer_list>
 
+#include "core/keys.h"
 #include "core/project_defaults.h"
+#include "core/velocity_types.h"
 
 namespace barvon::samples {
 namespace {
@@ -80,7 +82,7 @@ void Set_Analysis(ProjectRecord& r, int key4, int key3) {
   r.KEY3 = static_cast<std::int16_t>(key3);
   r.KEY4 = static_cast<std::int16_t>(key4);
   r.AnalysisType = static_cast<std::int16_t>((key4 + 1) / 2);
-  r.DisposalMethod = key4 % 2 == 1 ? 1 : 3;
+  r.DisposalMethod = key4 % 2 == 1 ? kHopper : kBarge;
   r.PreviousDisposalMethod = r.DisposalMethod;
 }
 
@@ -94,7 +96,7 @@ void Hopper_Six_Openings(ProjectRecord& r) {
   r.RHDA0 = 0.005;
   r.SLOPEX0 = 0.2;
   Set_Water(r, {{0, 1.0212}, {30, 1.022}, {60, 1.0234}});
-  r.VelocityProfileType = 1;
+  r.VelocityProfileType = kSingleVelocity;
   r.AvgVelocityDepth = 60;
   r.AvgVelocityX = 0.5;
   r.AvgVelocityZ = -0.2;
@@ -128,7 +130,7 @@ void Barge_Four_Layers(ProjectRecord& r) {
   r.DEPC0 = 85;
   r.RHDA0 = 0.01;
   Set_Water(r, {{0, 1.021}, {40, 1.0222}, {60, 1.0241}, {85, 1.0244}});
-  r.VelocityProfileType = 1;
+  r.VelocityProfileType = kSingleVelocity;
   r.AvgVelocityDepth = 85;
   r.AvgVelocityX = 0.3;
   r.AvgVelocityZ = 0.6;
@@ -171,7 +173,7 @@ void Section_103_Water_Quality(ProjectRecord& r) {
   r.DEPC0 = 120;
   r.RHDA0 = 0.005;
   Set_Water(r, {{0, 1.0225}, {50, 1.0231}, {70, 1.0252}, {120, 1.0256}});
-  r.VelocityProfileType = 3;
+  r.VelocityProfileType = kTwoPointVelocity;
   r.VelXDepth1 = r.VelZDepth1 = 20;
   r.VelXDepth2 = r.VelZDepth2 = 100;
   r.VelX1 = 0.35;
@@ -213,7 +215,7 @@ void Section_404_Zid(ProjectRecord& r) {
   r.RHDA0 = 0.02;
   r.SLOPEX0 = 0.05;
   Set_Water(r, {{0, 0.9978}, {35, 0.9981}});
-  r.VelocityProfileType = 2;
+  r.VelocityProfileType = kLogarithmicVelocity;
   r.AvgVelocityDepth = 35;
   r.AvgVelocityX = 1.2;
   Set_Time(r, 1800, 150);
@@ -257,7 +259,7 @@ void Section_404_Sediment(ProjectRecord& r) {
   r.DEPC0 = 48;
   r.RHDA0 = 0.008;
   Set_Water(r, {{0, 0.9972}, {20, 0.9985}, {48, 0.9999}});
-  r.VelocityProfileType = 1;
+  r.VelocityProfileType = kSingleVelocity;
   r.AvgVelocityDepth = 48;
   r.AvgVelocityX = 0.15;
   r.AvgVelocityZ = 0.1;
@@ -314,7 +316,7 @@ void Variable_96_By_96(ProjectRecord& r) {
   r.RHDA0 = 0.005;
   r.SLOPEX0 = 0.34;
   Set_Water(r, {{0, 1.0218}, {35, 1.0229}, {80, 1.0247}});
-  r.VelocityProfileType = 4;
+  r.VelocityProfileType = kVelocityField;
   Set_Time(r, 3600, 200, {900, 1800, 2700, 3600});
   Set_Output_Depths(r, {10, 30, 55});
   Set_Solids(r, {{"Sand", 2.65, 0.2, 0.07, 0.8, 0.025, false, true},
@@ -341,7 +343,7 @@ void Tidal_Estuary(ProjectRecord& r) {
   r.DEPC0 = 42;
   r.RHDA0 = 0.01;
   Set_Water(r, {{0, 1.008}, {15, 1.0112}, {42, 1.0185}});
-  r.VelocityProfileType = 5;
+  r.VelocityProfileType = kUnsteadyVelocity;
   constexpr std::array<std::array<float, 2>, kTidalRows> kTide = {
       {{0.00F, -0.04F}, {0.16F, -0.07F}, {0.31F, -0.10F}, {0.43F, -0.12F}, {0.53F, -0.13F},
        {0.60F, -0.14F}, {0.63F, -0.13F}, {0.62F, -0.12F}, {0.57F, -0.10F}, {0.48F, -0.07F},
@@ -382,12 +384,12 @@ void Tidal_Estuary(ProjectRecord& r) {
 void Pipeline_Continuous(ProjectRecord& r) {
   r.ProjectTitle = "WHIMBREL SOUND - PIPELINE DISCHARGE BELOW THE SURFACE";
   r.KEY1 = 1;
-  r.DisposalMethod = r.PreviousDisposalMethod = 2;
+  r.DisposalMethod = r.PreviousDisposalMethod = kContinuous;
   Set_Grid(r, 50, 50, 30, 50);
   r.DEPC0 = 22;
   r.RHDA0 = 0.01;
   Set_Water(r, {{0, 1.0178}, {22, 1.0192}});
-  r.VelocityProfileType = 1;
+  r.VelocityProfileType = kSingleVelocity;
   r.AvgVelocityDepth = 22;
   r.AvgVelocityX = 0.4;
   r.AvgVelocityZ = 0.1;
@@ -429,7 +431,7 @@ std::span<const Sample> Samples() { return kSamples; }
 
 void Fill_Sample(const Sample& sample, ProjectRecord& record) {
   Set_Project_Defaults(record);
-  record.FileKind = 2;
+  record.FileKind = kProjectKind;
   sample.fill(record);
 }
 

@@ -16,7 +16,7 @@ namespace {
 /// A screen that is made anew at each use.
 template <class Screen>
 void Register(const Screen_Row& row, QWidget* main) {
-  Register_Screen(row.name, Fresh_Screens<Screen>(main));
+  Register_Screen(row, Fresh_Screens<Screen>(main));
 }
 
 }  // namespace

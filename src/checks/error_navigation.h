@@ -3,11 +3,13 @@
 #include <optional>
 #include <string>
 
+#include "core/desk/screen_table.h"
+
 namespace barvon {
 
 /// Where a finding's reference leads: "frmOperation!Text1(2)".
 struct Error_Target {
-  std::string screen;
+  const Screen_Row* screen;
   std::string control;  // empty where the screen is only shown
 };
 

@@ -110,7 +110,7 @@ void frmErrorList::List1_DblClick(int index) {
   const auto target = Error_Target_Of(reference->text().toStdString());
   if (!target) return;
   // Over a blocking list a screen that does not block would take no input.
-  Open_Screen_Or_Tell(target->screen, isModal() || Opens_Blocking(Project()), target->control);
+  Open_Screen_Or_Tell(*target->screen, isModal() || Opens_Blocking(Project()), target->control);
 }
 
 void frmErrorList::SSCommand1_Click(int index) {
@@ -127,9 +127,8 @@ void frmErrorList::SSCommand1_Click(int index) {
 
 void Register_frmErrorList(QWidget* workspace) {
   auto* screen = new frmErrorList(workspace);
-  Register_Screen(kScreen.name,
-                  [screen](bool blocking, const std::string&) { screen->Open(blocking); });
-  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen.name, nullptr); });
+  Register_Screen(kScreen, [screen](bool blocking, const std::string&) { screen->Open(blocking); });
+  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen, nullptr); });
 }
 
 }  // namespace barvon

@@ -42,12 +42,12 @@ struct ProjectRecord {
   // ---- The open file
   std::string ProjectFileName;  // full path
   std::string BaseFileName;     // the path without its dot and extension; outputs are named from it
-  double FileKind = 0;          // 2 model input project, 1 dilution project; Run takes 3 as 2
+  double FileKind = 0;          // see keys.h
   Flag DataSaved = kFalse;      // -1 after a load or a save; 0 after an accepted screen
   std::int16_t ShowMode = 0;    // 1 input screens open blocking, 0 non-blocking
   std::string ProjectTitle;
   std::string FileTypeTag;        // "   DUMP" project file, "DUE" model input
-  std::int16_t AnalysisType = 0;  // 1 general, 2 ocean sites (103), 3 navigable waters (404)
+  std::int16_t AnalysisType = 0;  // see keys.h
   std::int16_t OldGridFile = 0;   // 1 short 45-by-45 layout, 0 while a load runs, 99 fresh record
   Flag OldGridRetry = kFalse;     // the loader fell back to the short layout
   OneBased<Flag, 10> ScreenDataSupplied{};    // per data category; 7 material, 8 site water density
@@ -65,12 +65,13 @@ struct ProjectRecord {
   int HelpContextToShow = 0;
 
   // ---- Analysis keys
-  std::int16_t DisposalMethod = 0;  // 1 hopper, 2 continuous, 3 barge; 4 only in the solver table
+  // Numbers that stand for a choice are named in keys.h.
+  std::int16_t DisposalMethod = 0;
   std::int16_t PreviousDisposalMethod = 0;
   std::int16_t KEY1 = 0;
-  std::int16_t KEY2 = 0;  // 0 diffusion is computed, 2 descent and collapse only
-  std::int16_t KEY3 = 0;  // evaluation, 0 to 7
-  std::int16_t KEY4 = 0;  // analysis type x method, 1 to 6; 7 dilution calculator; 0 none chosen
+  std::int16_t KEY2 = 0;  // type of simulation
+  std::int16_t KEY3 = 0;  // evaluation
+  std::int16_t KEY4 = 0;  // analysis type and method in one
 
   // ---- Site and grid
   std::int16_t MMAX0 = 0;  // grid points in X, top to bottom
@@ -94,7 +95,7 @@ struct ProjectRecord {
   std::int16_t DensityComputeFlag = 0;
 
   // ---- Velocity
-  double VelocityProfileType = 0;  // 1 single, 2 logarithmic, 3 two-point, 4 field, 5 unsteady
+  double VelocityProfileType = 0;  // see velocity_types.h
   double VelXDepth1 = 0, VelXDepth2 = 0, VelX1 = 0, VelX2 = 0;
   double VelZDepth1 = 0, VelZDepth2 = 0, VelZ1 = 0, VelZ2 = 0;
   Grid VelocityFieldX{};

@@ -74,7 +74,7 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record, Run_Report&
     case Answer::No:
       return std::nullopt;
     case Answer::Yes:
-      Open_Screen("frmErrorList", Opens_Blocking(record));
+      Open_Screen(Row_Of_Screen("frmErrorList"), Opens_Blocking(record));
       return Run_Stage::Errors;
     default:
       return Run_Stage::Cancelled;

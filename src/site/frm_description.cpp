@@ -52,7 +52,7 @@ frmDescription::frmDescription(QWidget* workspace)
   column->addLayout(upper);
   column->addWidget(Density_Frame(), 1);
   column->addLayout(Make_Command1());
-  Set_Tab_Order();
+  Order_Controls();
   Connect();
 }
 
@@ -104,7 +104,7 @@ QWidget* frmDescription::Density_Frame() {
   return frame;
 }
 
-void frmDescription::Set_Tab_Order() {
+void frmDescription::Order_Controls() {
   std::vector<QWidget*> order;
   for (int i = kZPoints; i <= kXSpacing; ++i) order.push_back(Text1(i));
   order.insert(order.end(), {Text2(0), Text2(1), Text1(kConstantDepth), Check3D1(kVariableDepth),
@@ -215,7 +215,7 @@ void frmDescription::Check3D1_Click(int index) {
 
 void frmDescription::Command2_Click(int index) {
   if (index == kComputesDensity) Compute_Density_Table(F1Book1->table(), record_);
-  if (index == kVariableDepth) Open_Screen("frmGridDescrip", true);
+  if (index == kVariableDepth) Open_Screen(Row_Of_Screen("frmGridDescrip"), true);
   Show_Profile();
 }
 

@@ -33,7 +33,7 @@ class frmDescription : public Input_Screen {
   QWidget* Depth_Frames();
   QWidget* Density_Frame();
   void Connect();
-  void Set_Tab_Order();
+  void Order_Controls();
 
   void Set_Text1(int index, const std::string& text);
   void Set_Check(int index, bool checked);

@@ -118,7 +118,7 @@ void frmGridDescrip::Command1_Click(int index) {
       break;
     case kBackWithoutButton:
       Unload();
-      Open_Screen("frmDescription", Opens_Blocking(record_));
+      Open_Screen(Row_Of_Screen("frmDescription"), Opens_Blocking(record_));
       break;
     default:
       break;
@@ -174,7 +174,7 @@ void frmGridDescrip::Show_Remark() {
 
 void Register_frmGridDescrip(QWidget* workspace) {
   const auto open = Fresh_Screens<frmGridDescrip>(workspace);
-  Register_Screen(kScreen.name, [open](bool blocking, const std::string& control) {
+  Register_Screen(kScreen, [open](bool blocking, const std::string& control) {
     if (Ask_Depth_Grid_Size(Project())) open(blocking, control);
   });
 }

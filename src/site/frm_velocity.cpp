@@ -49,7 +49,7 @@ frmVelocity::frmVelocity(QWidget* workspace)
   column->addWidget(new Scrolled_Part(panels, this), 1);
   column->addLayout(Note_Row());
   column->addLayout(Make_Command1());
-  Set_Tab_Order();
+  Order_Controls();
 }
 
 QWidget* frmVelocity::Choice_Part() {
@@ -98,7 +98,7 @@ QLayout* frmVelocity::Note_Row() {
   return row;
 }
 
-void frmVelocity::Set_Tab_Order() {
+void frmVelocity::Order_Controls() {
   std::vector<QWidget*> order(Option3D1.begin(), Option3D1.end());
   for (const Velocity_Panel* panel : panels_) {
     const std::vector<QWidget*> controls = panel->Order();
@@ -142,7 +142,7 @@ void frmVelocity::Command1_Click(int index) {
       break;
     case kGridWithoutButton:
       Unload();
-      Open_Screen("frmGridDescrip", Opens_Blocking(record_));
+      Open_Screen(Row_Of_Screen("frmGridDescrip"), Opens_Blocking(record_));
       break;
     default:
       break;

@@ -29,7 +29,7 @@ class frmVelocity : public Input_Screen {
  private:
   QWidget* Choice_Part();
   QLayout* Note_Row();
-  void Set_Tab_Order();
+  void Order_Controls();
 
   void Option3D1_Click(int form);
   void Choose(Velocity_Form form);

@@ -73,7 +73,7 @@ QLayout* Option_Buttons(Main_Controls& controls) {
   auto* column = new QVBoxLayout;
   column->setContentsMargins(0, kLineGap, 0, 0);
   column->setSpacing(kLineGap);
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 0; i < kOptionButtons; ++i) {
     controls.SSPanel5(i)->setText(QLatin1String(kCaptions[i]));
     column->addWidget(controls.SSPanel5(i));
   }
@@ -121,12 +121,13 @@ QGroupBox* Material(Main_Controls& controls) {
   controls.SSCheck4->setText(QStringLiteral("Use JBFC Coefficient?"));
   for (QLabel* line : controls.Matlabel) Text(line);
   // The line of the moisture content goes with the JBFC coefficient.
-  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D11", "Material Description"),
-                       {controls.Matlabel(3), controls.Matlabel(4), controls.Matlabel(6),
-                        controls.SSCheck4, controls.Matlabel(5)},
-                       2,
-                       {Picture_Button(controls.SSRibbon1(2), "material", "Material Description"),
-                        Picture_Button(controls.SSRibbon1(5), "density", "Water Density")});
+  return With_Pictures(
+      Frame(new QGroupBox(controls.Frame3D2), "Frame3D11", "Material Description"),
+      {controls.Matlabel(3), controls.Matlabel(4), controls.Matlabel(6), controls.SSCheck4,
+       controls.Matlabel(5)},
+      2,
+      {Picture_Button(controls.SSRibbon1(kMaterialRibbon), "material", "Material Description"),
+       Picture_Button(controls.SSRibbon1(kWaterRibbon), "density", "Water Density")});
 }
 
 QGroupBox* Velocity(Main_Controls& controls) {
@@ -138,25 +139,26 @@ QGroupBox* Velocity(Main_Controls& controls) {
   }
   controls.Check3D1->setObjectName(QStringLiteral("Check3D1"));
   controls.Check3D1->setText(QStringLiteral("Use a Logarithmic Velocity Profile ?"));
-  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D14", "Velocity Data"), lines,
-                       2, {Picture_Button(controls.SSRibbon1(1), "velocity", "Velocity Data")});
+  return With_Pictures(
+      Frame(new QGroupBox(controls.Frame3D2), "Frame3D14", "Velocity Data"), lines, 2,
+      {Picture_Button(controls.SSRibbon1(kVelocityRibbon), "velocity", "Velocity Data")});
 }
 
 QGroupBox* Site(Main_Controls& controls) {
   std::vector<QWidget*> lines;
   for (QLabel* line : controls.SiteLabel) lines.push_back(Text(line));
-  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D10", "Site Description"),
-                       lines, 2,
-                       {Picture_Button(controls.SSRibbon1(0), "site", "Site Description")});
+  return With_Pictures(
+      Frame(new QGroupBox(controls.Frame3D2), "Frame3D10", "Site Description"), lines, 2,
+      {Picture_Button(controls.SSRibbon1(kSiteRibbon), "site", "Site Description")});
 }
 
 QGroupBox* Operation(Main_Controls& controls) {
   std::vector<QWidget*> lines;
   for (QLabel* line : controls.Label6) lines.push_back(Text(line));
   lines.push_back(Shown_State(controls.SSCheck3, "SSCheck3", "Specify Depression Dumping?"));
-  return With_Pictures(Frame(new QGroupBox(controls.Frame3D2), "Frame3D12", "Disposal Operation"),
-                       lines, 2,
-                       {Picture_Button(controls.SSRibbon1(3), "operation", "Disposal Operation")});
+  return With_Pictures(
+      Frame(new QGroupBox(controls.Frame3D2), "Frame3D12", "Disposal Operation"), lines, 2,
+      {Picture_Button(controls.SSRibbon1(kOperationRibbon), "operation", "Disposal Operation")});
 }
 
 }  // namespace

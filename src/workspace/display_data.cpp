@@ -35,7 +35,7 @@ void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) 
   Assign_Labels(controls, record.AnalysisType);
   const int simulation = Simulation_Option(record.KEY2);
   Show_Simulation(controls, simulation);
-  if (simulation == 1) {
+  if (simulation == kWithDiffusion) {
     Show_Evaluation(controls, Evaluation_Option(record.KEY3), record.AnalysisType);
     return;
   }

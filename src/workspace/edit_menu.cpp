@@ -25,7 +25,7 @@ const Screen_Row* Edit_Screen(int index, const ProjectRecord& record) {
 }  // namespace
 
 void Open_Edit_Screen(int index, const ProjectRecord& record) {
-  if (const Screen_Row* screen = Edit_Screen(index, record)) Show_Screen(screen->name, record);
+  if (const Screen_Row* screen = Edit_Screen(index, record)) Show_Screen(*screen, record);
 }
 
 }  // namespace barvon

@@ -55,7 +55,9 @@ void Show_Opened(ProjectRecord& record) {
 bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   if (Check_Project(record) == kFalse) return true;
   const Answer answer = Ask(kErrorsDetected, Buttons::YesNoCancel);
-  if (answer == Answer::Yes) Open_Screen("frmErrorList", Opens_Blocking(record));
+  if (answer == Answer::Yes) {
+    Open_Screen(Row_Of_Screen("frmErrorList"), Opens_Blocking(record));
+  };
   return answer == Answer::No;
 }
 

@@ -18,7 +18,7 @@
 namespace barvon {
 namespace {
 
-constexpr const char* kName = Row_Of_Screen("frmOpen").name;
+constexpr const Screen_Row& kScreen = Row_Of_Screen("frmOpen");
 constexpr char kTitle[] = "BARVON  -  Dredged Material Released Into Open Water";
 constexpr QSize kPicture{150, 200};
 
@@ -42,7 +42,7 @@ frmOpen::frmOpen(QWidget* workspace)
       Frame2(this, "Frame2", kPages),
       Option1(this, "Option1", 4),
       Command1(this, "Command1", 4) {
-  Name_Screen(*this, kName);
+  Name_Screen(*this, kScreen.name);
   setWindowTitle(QStringLiteral("BARVON"));
   Build();
   for (QRadioButton* option : Option1) {
@@ -150,8 +150,8 @@ bool frmOpen::eventFilter(QObject* watched, QEvent* event) {
 
 void Register_frmOpen(QWidget* workspace) {
   auto* screen = new frmOpen(workspace);
-  Register_Screen(kName, [screen](bool blocking, const std::string&) { screen->Open(blocking); });
-  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kName, {}); });
+  Register_Screen(kScreen, [screen](bool blocking, const std::string&) { screen->Open(blocking); });
+  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen, {}); });
 }
 
 }  // namespace barvon

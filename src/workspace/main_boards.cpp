@@ -57,21 +57,22 @@ void Order_Controls(Main_Controls& c) {
     order.insert(order.end(), controls.begin(), controls.end());
   };
   add(Let_Tab_Reach(*c.Toolbar1));
-  order.insert(order.end(), {c.Title_Box, c.SSCheck1, c.SSRibbon1(4)});
+  order.insert(order.end(), {c.Title_Box, c.SSCheck1, c.SSRibbon1(kDataBaseRibbon)});
   add(c.SSOption1);
   add(c.SSOption2);
-  order.push_back(c.SSRibbon2(3));
+  order.push_back(c.SSRibbon2(kDilutionRibbon));
   add(c.SSOption3);
   add(c.SSOption4);
   add(c.SSCheck2);
   add(c.SSPanel5);
   // The left column of the data board, then the right one.
-  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(2), c.SSRibbon1(5)});
+  order.insert(order.end(), {c.SSCheck4, c.SSRibbon1(kMaterialRibbon), c.SSRibbon1(kWaterRibbon)});
   for (int form = 0; form < kVelocityForms; ++form) {
     order.push_back(c.Option3D1(form));
     if (form == kSingleForm) order.push_back(c.Check3D1);
   }
-  order.insert(order.end(), {c.SSRibbon1(1), c.SSRibbon1(0), c.SSCheck3, c.SSRibbon1(3)});
+  order.insert(order.end(), {c.SSRibbon1(kVelocityRibbon), c.SSRibbon1(kSiteRibbon), c.SSCheck3,
+                             c.SSRibbon1(kOperationRibbon)});
   for (const Command_Button index : kReadingOrder) order.push_back(c.SSPanel3(index));
   add(c.status_area->findChildren<QPushButton*>());
   Set_Tab_Order(order);

@@ -10,6 +10,7 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
+#include "core/desk/screen_table.h"
 #include "core/desk/settings_keys.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
@@ -22,6 +23,7 @@
 #include "workspace/main_boards.h"
 #include "workspace/main_help.h"
 #include "workspace/main_menus.h"
+#include "workspace/menu_items.h"
 #include "workspace/option_events.h"
 #include "workspace/option_logic.h"
 
@@ -93,7 +95,7 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
       mnuFileItem_Click(kFileSave, record);
       break;
     case kDataWizard:
-      Open_Screen_Or_Tell("Data_Wiz", true);
+      Open_Screen_Or_Tell(Row_Of_Screen("Data_Wiz"), true);
       Display_Data(controls, record);
       break;
     case kUpdateDatabase:  // does nothing
@@ -104,31 +106,31 @@ void SSPanel3_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 
 void Edit_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Keep_Edit_Mark(controls, index);
-  if (index == 3 && Check_Eval(record)) {
+  if (index == kEditKeys && Check_Eval(record)) {
     SSPanel3_Click(controls, record, kEnterData);
-    SSPanel5_Click(controls, record, 1);
+    SSPanel5_Click(controls, record, kEnterEvaluation);
   }
   mnuEditItem_Click(controls, record, index);
 }
 
 void Mark_Toolbar(Main_Controls& controls) {
-  Action_Of(controls, "mnuViewItem", 3)->setChecked(!controls.Toolbar1->isHidden());
+  Action_Of(controls, "mnuViewItem", kViewToolbar)->setChecked(!controls.Toolbar1->isHidden());
 }
 
 void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   QAction* item = Action_Of(controls, "mnuViewItem", index);
   switch (index) {
-    case 1:
+    case kViewOutputFile:
       View_Output_Command(record);
       break;
-    case 3:
+    case kViewToolbar:
       controls.Toolbar1->setVisible(controls.Toolbar1->isHidden());
       Mark_Toolbar(controls);
       break;
-    case 4:  // The mark stays: the status bar is always in view.
+    case kViewStatusBar:  // The mark stays: the status bar is always in view.
       item->setChecked(true);
       break;
-    case 6:
+    case kViewMultiple:
       record.ShowMode = item->isChecked() ? 0 : 1;
       break;
     default:
@@ -138,7 +140,7 @@ void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 
 void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   const bool marked = Action_Of(controls, "mnuOptionItem", index)->isChecked();
-  if (index == 0) {
+  if (index == kWizardHelp) {
     record.WizardHelpOn = marked ? kTrue : kFalse;
     Write_Profile_String(Settings_Path(), kHelpStatusSection, kHelpOnKey,
                          marked ? "On  " : "Off  ");
@@ -148,33 +150,33 @@ void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 }
 
 void Tool_Click(int index) {
-  if (const char* screen = Tool_Screen(index)) Open_Screen_Or_Tell(screen, true);
+  if (const Screen_Row* screen = Tool_Screen(index)) Open_Screen_Or_Tell(*screen, true);
 }
 
 void Help_Click(int index) {
-  if (index == 0) Show_Help({Help_Command::Finder, 0, ""});
-  if (index == 1) Show_Help({Help_Command::PartialKey, 0, ""});
-  if (index == 3) Open_Screen_Or_Tell("frmAbout", true);
+  if (index == kHelpContents) Show_Help({Help_Command::Finder, 0, ""});
+  if (index == kHelpSearch) Show_Help({Help_Command::PartialKey, 0, ""});
+  if (index == kHelpAbout) Open_Screen_Or_Tell(Row_Of_Screen("frmAbout"), true);
 }
 
 void Toolbar_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   switch (index) {
-    case 1:
+    case kToolNew:
       return mnuFileItem_Click(kFileNew, record);
-    case 2:
+    case kToolOpen:
       return mnuFileItem_Click(kFileOpen, record);
-    case 3:
+    case kToolSave:
       return mnuFileItem_Click(kFileSave, record);
-    case 5:
+    case kToolPrint:
       return mnuFileItem_Click(kFilePrint, record);
-    case 6:
+    case kToolRun:
       return SSPanel3_Click(controls, record, kRunSimulation);
-    case 8:
+    case kToolGraphics:
       return Graph_Command(record, 0);
-    case 9:
-      return Edit_Click(controls, record, 8);
-    case 11:
-      return Help_Click(0);
+    case kToolCheck:
+      return Edit_Click(controls, record, kEditErrorCheck);
+    case kToolHelp:
+      return Help_Click(kHelpContents);
     default:
       return;
   }
@@ -278,14 +280,14 @@ void Connect_Main_Events(Main_Controls& c, ProjectRecord& record) {
     QObject::connect(c.SSPanel3(i), &QPushButton::clicked, c.window,
                      [&c, &record, i] { SSPanel3_Click(c, record, i); });
   }
-  for (int i = 0; i < 3; ++i) {
+  for (int i = c.SSPanel5.first(); i <= c.SSPanel5.last(); ++i) {
     QObject::connect(c.SSPanel5(i), &QPushButton::clicked, c.window,
                      [&c, &record, i] { SSPanel5_Click(c, record, i); });
   }
-  for (int i = 0; i < 6; ++i) {
+  for (int i = c.SSRibbon1.first(); i <= c.SSRibbon1.last(); ++i) {
     c.SSRibbon1(i)->When_Down([&c, &record, i] { SSRibbon1_Click(c, record, i); });
   }
-  c.SSRibbon2(3)->When_Down([&c, &record] { SSRibbon2_Click(c, record); });
+  c.SSRibbon2(kDilutionRibbon)->When_Down([&c, &record] { SSRibbon2_Click(c, record); });
   auto* help_key = new QShortcut(QKeySequence::HelpContents, c.window);
   QObject::connect(help_key, &QShortcut::activated, c.window, [&c, &record] {
     record.HelpContextToShow = Active_Topic(c, record);

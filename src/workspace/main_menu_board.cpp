@@ -58,8 +58,8 @@ QGroupBox* Database_Information(Main_Controls& controls) {
   auto* lines = Lines(frame, kLineGap);
   auto* head = new QHBoxLayout;
   head->addWidget(Shown_State(controls.SSCheck1, "SSCheck1", "DataBase Used"), 1);
-  Picture_Button(controls.SSRibbon1(4), "database", "DataBase");
-  head->addWidget(controls.SSRibbon1(4));
+  Picture_Button(controls.SSRibbon1(kDataBaseRibbon), "database", "DataBase");
+  head->addWidget(controls.SSRibbon1(kDataBaseRibbon));
   lines->addLayout(head);
   for (int i = 0; i < 4; ++i) lines->addWidget(Text(controls.Label3(i), kLines[i]));
   lines->addStretch();
@@ -96,12 +96,12 @@ QLayout* Dilution_Line(Main_Controls& controls) {
   auto* label = new QLabel(QStringLiteral("Determine Contaminant Based on Dilution Needs"),
                            controls.Frame3D1);
   label->setObjectName(QStringLiteral("Label7"));
-  Picture_Button(controls.SSRibbon2(3), "dilution", "Dilution Calculator");
-  label->setBuddy(controls.SSRibbon2(3));
+  Picture_Button(controls.SSRibbon2(kDilutionRibbon), "dilution", "Dilution Calculator");
+  label->setBuddy(controls.SSRibbon2(kDilutionRibbon));
   auto* line = new QHBoxLayout;
   line->setContentsMargins(12, 0, 12, 0);
   line->setSpacing(kGap);
-  line->addWidget(controls.SSRibbon2(3));
+  line->addWidget(controls.SSRibbon2(kDilutionRibbon));
   line->addWidget(label, 1);
   return line;
 }

@@ -151,8 +151,8 @@ void Share_Letters(Main_Controls& controls) {
 
 void Show_Tools_Menu(Main_Controls& controls) {
   bool any = false;
-  for (int i = 0; const char* screen = Tool_Screen(i); ++i) {
-    const bool known = Screen_Stands(screen);
+  for (int i = 0; const Screen_Row* screen = Tool_Screen(i); ++i) {
+    const bool known = Screen_Stands(*screen);
     Action_Of(controls, "mnuToolItem", i)->setVisible(known);
     any = any || known;
   }

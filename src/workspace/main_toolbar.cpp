@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "workspace/main_menus.h"
+#include "workspace/menu_items.h"
 
 namespace barvon {
 namespace {
@@ -20,17 +21,17 @@ struct Tool {
 
 /// Indices count the separators.
 constexpr Tool kTools[] = {
-    {1, "Create New Project", "new", "document-new"},
-    {2, "Open Existing Project", "open", "document-open"},
-    {3, "Save Current Project", "save", "document-save"},
+    {kToolNew, "Create New Project", "new", "document-new"},
+    {kToolOpen, "Open Existing Project", "open", "document-open"},
+    {kToolSave, "Save Current Project", "save", "document-save"},
     {4, "", nullptr, nullptr},
-    {5, "Print Results", "print", "document-print"},
-    {6, "Run Simulation", "run", "media-playback-start"},
+    {kToolPrint, "Print Results", "print", "document-print"},
+    {kToolRun, "Run Simulation", "run", "media-playback-start"},
     {7, "", nullptr, nullptr},
-    {8, "Generate Graphics", "graphics", "x-office-drawing"},
-    {9, "Check for Errors", "check", "tools-check-spelling"},
+    {kToolGraphics, "Generate Graphics", "graphics", "x-office-drawing"},
+    {kToolCheck, "Check for Errors", "check", "tools-check-spelling"},
     {10, "", nullptr, nullptr},
-    {11, "BARVON Help", "help", "help-contents"},
+    {kToolHelp, "BARVON Help", "help", "help-contents"},
 };
 
 constexpr int kSize = 22;

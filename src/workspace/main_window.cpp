@@ -83,7 +83,7 @@ void Main::Start_Up(const std::string& application_folder) {
   Set_Application_Folder(application_folder);
   Change_Current_Folder(application_folder);
   record.WizardHelpOn = kTrue;
-  Action_Of(controls_, "mnuOptionItem", 0)->setChecked(true);
+  Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(true);
   move(0, 0);
   Lock_Size();
   Set_Help_File(Join_Path(application_folder, kHelpFile));
@@ -95,7 +95,7 @@ void Main::Start_Up(const std::string& application_folder) {
   Reset_Vars(record);
   Display_Data(controls_, record);
   record.OutputsCopied = kFalse;
-  if (record.WizardAtStart != kFalse) Open_Screen_Or_Tell("Data_Wiz", true);
+  if (record.WizardAtStart != kFalse) Open_Screen_Or_Tell(Row_Of_Screen("Data_Wiz"), true);
   record.AlwaysSaveBeforeRun = kTrue;
   record.WizardActive = kFalse;
 }

@@ -1,5 +1,8 @@
 #include "workspace/menu_tree.h"
 
+#include "core/desk/edit_entries.h"
+#include "workspace/menu_items.h"
+
 namespace barvon {
 namespace {
 
@@ -14,8 +17,8 @@ Menu_Item Marked(int index, const char* caption, bool marked, const char* hint =
 }
 Menu_Item Hidden(int index, const char* caption) { return {index, caption, false, false}; }
 /// Shows once its screen is registered.
-Menu_Item Opens(int index, const char* caption, const char* screen) {
-  return {index, caption, true, false, Gate::None, false, false, "", screen};
+Menu_Item Opens(int index, const char* caption, const Screen_Row& screen) {
+  return {index, caption, true, false, Gate::None, false, false, "", &screen};
 }
 Menu_Item Separator(int index) { return {index}; }
 Menu_Item Hidden_Separator(int index) { return {index, "", true, false}; }
@@ -37,38 +40,38 @@ const std::vector<Menu>& Menu_Tree() {
   // clang-format off
   static const std::vector<Menu> tree = {
       {"mnuFile", "&File", "mnuFileItem", true, true, Gate::None, "File Manipulation Tools",
-       {Item(0, "&New", "Create New File"),
-        Item(1, "&Open", "Open Existing File"),
-        Gated(2, "&Close", Gate::Any, "Close Active File"),
+       {Item(kFileNew, "&New", "Create New File"),
+        Item(kFileOpen, "&Open", "Open Existing File"),
+        Gated(kFileClose, "&Close", Gate::Any, "Close Active File"),
         Separator(3),
-        Gated(4, "&Save", Gate::Any, "Save Existing File"),
-        Gated(5, "Save &As", Gate::Any, "Save New File"),
+        Gated(kFileSave, "&Save", Gate::Any, "Save Existing File"),
+        Gated(kFileSaveAs, "Save &As", Gate::Any, "Save New File"),
         Separator(6),
-        Gated(7, "&Print", Gate::Any, "Print Active File"),
-        Item(8, "P&rint Setup", "Change the Printer Setup"),
+        Gated(kFilePrint, "&Print", Gate::Any, "Print Active File"),
+        Item(kFilePrintSetup, "P&rint Setup", "Change the Printer Setup"),
         Separator(9),
-        Item(10, "E&xit")}},
+        Item(kFileExit, "E&xit")}},
       {"mnuEdit", "&Edit", "mnuEditItem", true, true, Gate::None, "Edit Input Data",
-       {Gated(0, "&Evaluation Selection and Title", Gate::Any, "Edit Title and Site Description"),
-        Gated(1, "&Site Description", Gate::Project),
-        Gated(2, "&Velocity Profile", Gate::Project),
-        Gated(3, "&Input, Execution and Output Keys", Gate::Project),
-        Gated(4, "&Material Description", Gate::Project),
-        Gated(5, "&Disposal Operation Data", Gate::Project),
-        Gated(6, "&Coefficients (Default Values)", Gate::Project),
+       {Gated(kEditEvaluationAndTitle, "&Evaluation Selection and Title", Gate::Any, "Edit Title and Site Description"),
+        Gated(kEditSite, "&Site Description", Gate::Project),
+        Gated(kEditVelocity, "&Velocity Profile", Gate::Project),
+        Gated(kEditKeys, "&Input, Execution and Output Keys", Gate::Project),
+        Gated(kEditMaterial, "&Material Description", Gate::Project),
+        Gated(kEditOperation, "&Disposal Operation Data", Gate::Project),
+        Gated(kEditCoefficients, "&Coefficients (Default Values)", Gate::Project),
         Separator(7),
-        Gated(8, "&Error Check", Gate::Project, "Checks for Errors in the Input Data"),
-        Hidden_Separator(9),
-        Hidden(10, "Time/Date"),
-        Hidden(11, "&Font")}},
+        Gated(kEditErrorCheck, "&Error Check", Gate::Project, "Checks for Errors in the Input Data"),
+        Hidden_Separator(kEditWaterDensity),
+        Hidden(kEditTimeAndDate, "Time/Date"),
+        Hidden(kEditFont, "&Font")}},
       {"mnuRun", "Ru&n", "", true, false, Gate::Project, "", {}},
       {"mnuView", "&View", "mnuViewItem", true, true, Gate::None, "Edit Environment View",
-       {Open_At_Start(Gated(1, "&Output File", Gate::Project)),
+       {Open_At_Start(Gated(kViewOutputFile, "&Output File", Gate::Project)),
         Separator(2),
-        Marked(3, "&Toolbar", true, "Display or Hide the Toolbar"),
-        Marked(4, "&Status Bar", true, "Display or Hide the Status Bar"),
+        Marked(kViewToolbar, "&Toolbar", true, "Display or Hide the Toolbar"),
+        Marked(kViewStatusBar, "&Status Bar", true, "Display or Hide the Status Bar"),
         Separator(5),
-        Marked(6, "Multiple &Input Windows", false,
+        Marked(kViewMultiple, "Multiple &Input Windows", false,
                "Allows or Disallows Multiple Input Windows to be Shown")}},
       {"mnuGraphics", "&Graphics", "mnuGraph", true, true, Gate::None, "",
        {Item(0, "Execute Graphics"),
@@ -76,34 +79,34 @@ const std::vector<Menu>& Menu_Tree() {
         Item(2, "Concentration Contours"),
         Item(3, "Deposition Thickness")}},
       {"mnuOptions", "Options", "mnuOptionItem", true, true, Gate::None, "",
-       {Marked(0, "Data Wizard Help On", true),
-        Marked(1, "Always Save Before Simulation?", true)}},
+       {Marked(kWizardHelp, "Data Wizard Help On", true),
+        Marked(kSaveBeforeRun, "Always Save Before Simulation?", true)}},
       {"mnuTools", "&Tools", "mnuToolItem", false, true, Gate::None, "",
-       {Opens(0, "&Start Dialog", "frmOpen"),
-        Opens(1, "&Database", "DataBase"),
-        Opens(2, "Dilution &Report", "Write_Dilute_Report"),
-        Opens(3, "&Graphical Site Grid", "Graphic_Data_Entry"),
-        Opens(4, "Text &Viewer", "frmNotePad"),
-        Opens(5, "&Tip of the Day", "frmTip")}},
+       {Opens(0, "&Start Dialog", Row_Of_Screen("frmOpen")),
+        Opens(1, "&Database", Row_Of_Screen("DataBase")),
+        Opens(2, "Dilution &Report", Row_Of_Screen("Write_Dilute_Report")),
+        Opens(3, "&Graphical Site Grid", Row_Of_Screen("Graphic_Data_Entry")),
+        Opens(4, "Text &Viewer", Row_Of_Screen("frmNotePad")),
+        Opens(5, "&Tip of the Day", Row_Of_Screen("frmTip"))}},
       {"mnuWindow", "&Window", "mnuWItem", false, true, Gate::None, "",
        {Item(0, "&Cascade"),
         Item(1, "Tile &Horizontal"),
         Item(2, "Tile &Vertical"),
         Item(3, "&Arrange Icons")}},
       {"mnuHelp", "&Help", "mnuHelpItem", true, true, Gate::None, "Topic Help Menu",
-       {Item(0, "&Contents", "Index of Help Topics"),
-        Item(1, "&Search For Help On"),
+       {Item(kHelpContents, "&Contents", "Index of Help Topics"),
+        Item(kHelpSearch, "&Search For Help On"),
         Separator(2),
-        Item(3, "&About")}},
+        Item(kHelpAbout, "&About")}},
   };
   // clang-format on
   return tree;
 }
 
-const char* Tool_Screen(int index) {
+const Screen_Row* Tool_Screen(int index) {
   for (const Menu& menu : Menu_Tree()) {
     for (const Menu_Item& item : menu.items) {
-      if (*item.screen != '\0' && item.index == index) return item.screen;
+      if (item.screen != nullptr && item.index == index) return item.screen;
     }
   }
   return nullptr;

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "core/desk/screen_table.h"
+
 namespace barvon {
 
 /// Which commands of the menus are there to be chosen.
@@ -32,7 +34,8 @@ struct Menu_Item {
   bool has_mark = false;
   bool marked = false;  // at start
   const char* hint = "";
-  const char* screen = "";  // what it opens; it shows as long as that screen is registered
+  const Screen_Row* screen =
+      nullptr;  // what it opens; it shows as long as that screen is registered
 };
 
 /// One menu of the menu bar, or, without items, a command that is in the menu bar itself.
@@ -49,7 +52,7 @@ struct Menu {
 };
 
 /// The screen that the entry of the Tools menu opens; none for any other index.
-const char* Tool_Screen(int index);
+const Screen_Row* Tool_Screen(int index);
 
 /// The menu bar from left to right. The recent files are in the File menu, behind its items.
 const std::vector<Menu>& Menu_Tree();

@@ -42,7 +42,7 @@ void SSOption3_Click(Main_Controls& controls, ProjectRecord& record, int index) 
   Show_Simulation(controls, index);
   Choose_Simulation_Type(index, record);
   // While there was no diffusion KEY3 may have become 0, which in the tiers is no evaluation.
-  if (index == 1) controls.key3.Choice_Made();
+  if (index == kWithDiffusion) controls.key3.Choice_Made();
   Assign_Labels(controls, record.AnalysisType);
 }
 
@@ -55,7 +55,7 @@ void Option3D1_Click(Main_Controls& controls, ProjectRecord& record, int index) 
   Show_Option(controls.Option3D1, index);
   Choose_Velocity(index, controls.Check3D1->isChecked(), record);
   if (index == kTwoPointForm && record.ConstantDepthFlag == 0 && Ask_To_Disable_Variable_Depth()) {
-    Show_Screen("frmDescription", record);
+    Show_Screen(Row_Of_Screen("frmDescription"), record);
     return;
   }
   controls.Check3D1->setEnabled(index == kSingleForm);
@@ -76,13 +76,12 @@ void SSCheck4_Click(Main_Controls& controls, ProjectRecord& record, bool set) {
 
 void SSPanel5_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   Follow_KEY3(Chosen_Option(controls.SSOption3), Chosen_Option(controls.SSOption4), record);
-  if (index == 0) Show_Screen("frmCoefficients", record);
-  if (index == 1) {
-    const auto entry = Enter_Evaluation(Chosen_Option(controls.SSOption4), record);
+  auto entry = Evaluation_Entry::Open;
+  if (index == kEnterEvaluation) {
+    entry = Enter_Evaluation(Chosen_Option(controls.SSOption4), record);
     if (entry == Evaluation_Entry::No_Evaluation) return;
-    if (entry == Evaluation_Entry::Open) Show_Screen("frmMdlkyn", record);
   }
-  if (index == 2) Show_Screen("frmSimulation", record);
+  if (entry == Evaluation_Entry::Open) Show_Screen(*kOptionScreens[index], record);
   Display_Data(controls, record);
 }
 
@@ -92,19 +91,18 @@ void mnuEditItem_Click(Main_Controls& controls, ProjectRecord& record, int index
 }
 
 void SSRibbon1_Click(Main_Controls& controls, ProjectRecord& record, int index) {
-  constexpr int kEditItems[] = {1, 2, 4, 5, 0, 9};
-  if (index == 4) {
+  if (const auto entry = kRibbonScreens[index]->edit_entry) {
+    mnuEditItem_Click(controls, record, *entry);
+  } else {
     Show_Warning("This Feature is Unavailable at This Time.");
-    return;
   }
-  mnuEditItem_Click(controls, record, kEditItems[index]);
 }
 
 void SSRibbon2_Click(Main_Controls& controls, ProjectRecord& record) {
   record.FileKind = kDilutionKind;
   record.KEY4 = kDilutionStudy;
   SetMenuAvailability(controls, Menu_Mode::Dilution);
-  Open_Screen_Or_Tell("frmDilute2", true);
+  Open_Screen_Or_Tell(Row_Of_Screen("frmDilute2"), true);
 }
 
 }  // namespace barvon

@@ -67,7 +67,7 @@ int Method_Option(std::int16_t disposal_method) {
 }
 
 std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int16_t analysis_type) {
-  if (simulation == 0) return kNoTracer;
+  if (simulation == kWithoutDiffusion) return kNoTracer;
   const int last = Evaluations_Of(analysis_type) - 1;
   return KEY3_Of(analysis_type, evaluation >= 0 && evaluation < last ? evaluation : last);
 }
@@ -79,13 +79,13 @@ void Follow_KEY3(int simulation, int evaluation, ProjectRecord& record) {
 
 void KEY3_Follower::Follow(ProjectRecord& record) {
   const int simulation = Simulation_Option(record.KEY2);
-  if (simulation != 1 || !std::exchange(due_, false)) return;
+  if (simulation != kWithDiffusion || !std::exchange(due_, false)) return;
   Follow_KEY3(simulation, Evaluation_Option(record.KEY3), record);
 }
 
 void Choose_Simulation_Type(int simulation, ProjectRecord& record) {
   record.KEY2 = kKEY2[simulation];
-  if (simulation == 0) Reset_WQParams(record);
+  if (simulation == kWithoutDiffusion) Reset_WQParams(record);
 }
 
 int Simulation_Option(std::int16_t key2) {

@@ -7,6 +7,9 @@
 
 namespace barvon {
 
+/// The options of the simulation type, SSOption3.
+enum Simulation_Choice { kWithoutDiffusion, kWithDiffusion };
+
 /// What the choices of the main screen do to the record. An index of -1 stands for a group in
 /// which nothing is chosen.
 
@@ -25,7 +28,7 @@ int Type_Option(std::int16_t key4);
 /// The option that shows DisposalMethod: 0 hopper, 1 barge, -1 for any other.
 int Method_Option(std::int16_t disposal_method);
 
-/// KEY3 for the simulation type, SSOption3(0) or (1), and the evaluation, SSOption4(0) to (2).
+/// KEY3 for the simulation type, a Simulation_Choice, and the evaluation, SSOption4(0) to (2).
 /// Without an evaluation the last one that the type offers counts. Nothing for a type that has no
 /// evaluations: KEY3 then keeps its value.
 std::optional<std::int16_t> KEY3_Value(int simulation, int evaluation, std::int16_t analysis_type);
@@ -50,7 +53,7 @@ class KEY3_Follower {
 /// A click on a simulation type: KEY2, and without diffusion there is no contaminant.
 void Choose_Simulation_Type(int simulation, ProjectRecord& record);
 
-/// The option that shows KEY2: 0 descent and collapse, 1 diffusion too, -1 for any other value.
+/// The Simulation_Choice that shows KEY2, -1 for none.
 int Simulation_Option(std::int16_t key2);
 
 /// How the evaluation group reads for a type of analysis. An option without a caption is hidden

@@ -9,7 +9,7 @@ TEST(ErrorNavigation, Leads_To_Screen_And_Control) {
   for (const char* screen : {"frmDescription", "frmOperation", "frmSimulation"}) {
     const auto target = Error_Target_Of(std::string(screen) + "!Text1(2)");
     ASSERT_TRUE(target);
-    EXPECT_EQ(target->screen, screen);
+    EXPECT_STREQ(target->screen->name, screen);
     EXPECT_EQ(target->control, "Text1(2)");
   }
   EXPECT_EQ(Error_Target_Of("frmDescription!F1Book1")->control, "F1Book1");
@@ -18,7 +18,7 @@ TEST(ErrorNavigation, Leads_To_Screen_And_Control) {
 TEST(ErrorNavigation, The_Evaluation_Screen_Is_Only_Shown) {
   const auto target = Error_Target_Of("frmMdlkyn!Text(0)");
   ASSERT_TRUE(target);
-  EXPECT_EQ(target->screen, "frmMdlkyn");
+  EXPECT_EQ(target->screen, &Row_Of_Screen("frmMdlkyn"));
   EXPECT_EQ(target->control, "");
 }
 

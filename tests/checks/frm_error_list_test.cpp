@@ -42,10 +42,11 @@ class ErrorListScreen : public ::testing::Test {
     workspace.show();
     Register_frmErrorList(&workspace);
     for (const char* screen : kScreens) {
-      Register_Screen(screen, [this, screen](bool blocking, const std::string& control) {
-        opened.push_back({screen, blocking, control});
-        if (while_open) while_open();
-      });
+      Register_Screen(*Find_Screen(screen),
+                      [this, screen](bool blocking, const std::string& control) {
+                        opened.push_back({screen, blocking, control});
+                        if (while_open) while_open();
+                      });
     }
     help = Set_Help_Presenter([this](const Help_Request& request) { asked.push_back(request); });
     Project().ShowMode = 0;
@@ -54,7 +55,7 @@ class ErrorListScreen : public ::testing::Test {
 
   ~ErrorListScreen() override {
     Set_Help_Presenter(help);
-    for (const char* screen : kScreens) Register_Screen(screen, {});
+    for (const char* screen : kScreens) Register_Screen(*Find_Screen(screen), {});
     Project().ShowMode = 0;
     Current_Errors() = {};
   }
@@ -64,7 +65,7 @@ class ErrorListScreen : public ::testing::Test {
   QListWidget& List2() { return *List().findChild<QListWidget*>("List2"); }
 
   void Open() {
-    ASSERT_TRUE(Open_Screen("frmErrorList", false));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmErrorList"), false));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&List()));
   }
 
@@ -167,7 +168,7 @@ TEST_F(ErrorListScreen, The_Evaluation_Screen_Opens_Without_A_Control) {
 
 TEST_F(ErrorListScreen, A_Screen_That_Does_Not_Stand_Is_Named_In_The_Status_Area) {
   Current_Errors().Add("one", "frmDescription!Text1(5)");
-  Register_Screen("frmDescription", {});
+  Register_Screen(Row_Of_Screen("frmDescription"), {});
   std::string noted;
   Port().board.show_note = [&noted](const Status_Note& note) { noted = note.text; };
   Open();
@@ -187,7 +188,7 @@ TEST_F(ErrorListScreen, A_List_In_View_That_Is_Asked_For_Blocking_Blocks) {
     visible = List().isVisible();
     Press_Button("SSCommand1(1)");
   });
-  ASSERT_TRUE(Open_Screen("frmErrorList", true));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmErrorList"), true));
   EXPECT_EQ(in_front, &List());
   EXPECT_TRUE(visible);
   EXPECT_FALSE(List().isVisible());
@@ -362,7 +363,7 @@ TEST_F(ErrorListScreen, Goes_With_Its_Workspace) {
   auto second = std::make_unique<QWidget>();
   Register_frmErrorList(second.get());
   second.reset();
-  EXPECT_FALSE(Open_Screen("frmErrorList", false));
+  EXPECT_FALSE(Open_Screen(Row_Of_Screen("frmErrorList"), false));
   Check_Project(Sound_Project());
 }
 
@@ -387,7 +388,7 @@ TEST_F(ErrorListScreen, A_Blocking_List_Stays_While_Its_Findings_Are_Mended_One_
     Press_Button("SSCommand1(1)");
     List().close();
   });
-  ASSERT_TRUE(Open_Screen("frmErrorList", true));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmErrorList"), true));
   EXPECT_TRUE(stood);
   EXPECT_EQ(screens_in_front, 2);
   EXPECT_FALSE(List().isVisible());

@@ -32,11 +32,12 @@ class VariableDepthJourney : public ::testing::Test {
     dialogs.open = [this](const File_Request&) { return chosen; };
     dialogs.save = [this](const File_Request&) { return chosen; };
     former_ = Set_File_Dialog_Presenter(dialogs);
-    Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
+    Register_Screen(Row_Of_Screen("frmDescription"), Fresh_Screens<frmDescription>(&bench.main()));
     Register_frmGridDescrip(&bench.main());
   }
   ~VariableDepthJourney() override {
-    for (const char* name : {"frmGridDescrip", "frmDescription"}) Register_Screen(name, {});
+    for (const char* name : {"frmGridDescrip", "frmDescription"})
+      Register_Screen(*Find_Screen(name), {});
     Set_File_Dialog_Presenter(former_);
   }
 
@@ -77,7 +78,7 @@ TEST_F(VariableDepthJourney, Depths_Pasted_Into_A_Grid_That_Is_Not_Square_Reach_
                            Press_Button(grid, "Command1(0)");
                          },
                          Press(QMessageBox::No)});
-  ASSERT_TRUE(Open_Screen("frmDescription", true));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), true));
   ASSERT_EQ(record.DepthGrid[48][32], 4832);
 
   chosen = bench.folder / "copy.DUI";

@@ -35,7 +35,7 @@ class Program_Screens {
  public:
   explicit Program_Screens(QWidget* main) { Register_Program_Screens(main); }
   ~Program_Screens() {
-    for (const Screen_Row& row : kScreens) Register_Screen(row.name, {});
+    for (const Screen_Row& row : kScreens) Register_Screen(row, {});
   }
 };
 
@@ -54,7 +54,10 @@ void Show(QWidget& window) {
 }
 
 QWidget& Opened(const char* screen) {
-  if (!Open_Screen(screen, false)) throw std::runtime_error(std::string("no screen ") + screen);
+  const Screen_Row* row = Find_Screen(screen);
+  if (row == nullptr || !Open_Screen(*row, false)) {
+    throw std::runtime_error(std::string("no screen ") + screen);
+  }
   QWidget& window = Window_Named(screen);
   Show(window);
   return window;
@@ -287,7 +290,7 @@ TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
   const Program_Screens screens(&bench.main());
   int registered = 0;
   for (const Screen_Row& row : kScreens) {
-    if (!Screen_Stands(row.name)) continue;
+    if (!Screen_Stands(row)) continue;
     EXPECT_EQ(walked.count(row.name), 1U) << row.name << " is not in Walk_All_Windows";
     ++registered;
   }

@@ -89,6 +89,12 @@ TEST(BareNumbers, A_Choice_Is_Written_By_Its_Name_Outside_Its_Home) {
       ADD_FAILURE() << file << ": " << line;
     }
   }
+  const std::string samples = std::string(BARVON_SOURCE) + "/samples";
+  for (const auto& [file, includes] : Read_Includes(samples)) {
+    for (const std::string& line : Bare_Numbers(Read_Text(samples + "/" + file))) {
+      ADD_FAILURE() << "samples/" << file << ": " << line;
+    }
+  }
 }
 
 /// The names that a text gives to numbers.

@@ -29,7 +29,7 @@ using Fields = std::vector<std::string>;
 class DensityScreen : public ::testing::Test {
  protected:
   DensityScreen() {
-    Register_Screen("frmDensity", Fresh_Screens<frmDensity>(&bench.main()));
+    Register_Screen(Row_Of_Screen("frmDensity"), Fresh_Screens<frmDensity>(&bench.main()));
     help_ = Set_Help_Presenter([this](const Help_Request& request) { helped.push_back(request); });
     record.ShowMode = 0;
     record.DataSaved = kTrue;
@@ -39,7 +39,7 @@ class DensityScreen : public ::testing::Test {
   }
   ~DensityScreen() override {
     Set_Help_Presenter(help_);
-    Register_Screen("frmDensity", {});
+    Register_Screen(Row_Of_Screen("frmDensity"), {});
   }
 
   frmDensity* Screen() {
@@ -52,7 +52,7 @@ class DensityScreen : public ::testing::Test {
 
   void Open() {
     *before = record;
-    ASSERT_TRUE(Open_Screen("frmDensity", false));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDensity"), false));
     ASSERT_TRUE(Has_Keyboard(Screen()));
   }
   /// Opens with the box set.
@@ -433,7 +433,7 @@ TEST_F(DensityScreen, The_Focus_Is_First_On_The_Box_Or_On_The_Control_Asked_For)
   Open();
   EXPECT_EQ(Screen()->focusWidget(), Check3D3());
   Click(Command1(1));
-  Open_Screen("frmDensity", false, "Text3(2)");
+  Open_Screen(Row_Of_Screen("frmDensity"), false, "Text3(2)");
   EXPECT_EQ(Screen()->focusWidget(), Text3(2));
 }
 
@@ -492,7 +492,7 @@ TEST_F(DensityScreen, Opened_Without_Blocking_Its_Ok_Refreshes_The_Board) {
 TEST_F(DensityScreen, Opened_Twice_It_Is_One_And_Keeps_What_Is_Typed) {
   Open();
   Enter(2, "1.04");
-  Open_Screen("frmDensity", false);
+  Open_Screen(Row_Of_Screen("frmDensity"), false);
   EXPECT_EQ(bench.main().findChildren<QWidget*>("frmDensity").size(), 1);
   EXPECT_EQ(Text3(2)->text(), "1.04");
 }

@@ -106,11 +106,11 @@ TEST_F(RunPreparation, An_Unknown_File_Kind_Is_An_Invalid_File_Type) {
 struct RunOfFaultyData : RunDriver {
   RunOfFaultyData() {
     record.RHDA0 = 0;  // out of bounds
-    Register_Screen("frmErrorList",
+    Register_Screen(Row_Of_Screen("frmErrorList"),
                     [this](bool blocking, const std::string&) { opened.push_back(blocking); });
     Install(kWritesAll);
   }
-  ~RunOfFaultyData() override { Register_Screen("frmErrorList", {}); }
+  ~RunOfFaultyData() override { Register_Screen(Row_Of_Screen("frmErrorList"), {}); }
   void Expect_Question() {
     ASSERT_EQ(shown.size(), 1u);
     EXPECT_EQ(shown[0].text,

@@ -31,7 +31,7 @@ using Names = std::vector<std::string>;
 class SiteScreen : public ::testing::Test {
  protected:
   SiteScreen() {
-    Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
+    Register_Screen(Row_Of_Screen("frmDescription"), Fresh_Screens<frmDescription>(&bench.main()));
     help_ = Set_Help_Presenter([this](const Help_Request& request) { helped.push_back(request); });
     record.ShowMode = 0;
     record.NMAX0 = 40;
@@ -49,7 +49,7 @@ class SiteScreen : public ::testing::Test {
   ~SiteScreen() override {
     if (Screen() != nullptr) Screen()->Unload();
     Set_Help_Presenter(help_);
-    Register_Screen("frmDescription", {});
+    Register_Screen(Row_Of_Screen("frmDescription"), {});
     Answers_Of_Wizard() = {};
   }
 
@@ -61,7 +61,7 @@ class SiteScreen : public ::testing::Test {
   }
   bool Is_Open() { return Screen() != nullptr; }
   void Open(const std::string& control = {}) {
-    ASSERT_TRUE(Open_Screen("frmDescription", false, control));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), false, control));
     ASSERT_TRUE(Has_Keyboard(Screen()));
     *before = record;
   }

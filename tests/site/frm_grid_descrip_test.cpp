@@ -28,7 +28,7 @@ using Names = std::vector<std::string>;
 class DepthScreen : public ::testing::Test {
  protected:
   DepthScreen() {
-    Register_Screen("frmDescription", Fresh_Screens<frmDescription>(&bench.main()));
+    Register_Screen(Row_Of_Screen("frmDescription"), Fresh_Screens<frmDescription>(&bench.main()));
     Register_frmGridDescrip(&bench.main());
     help_ = Set_Help_Presenter([this](const Help_Request& request) { helped.push_back(request); });
     File_Dialog_Presenter dialogs;
@@ -46,7 +46,7 @@ class DepthScreen : public ::testing::Test {
   ~DepthScreen() override {
     for (const char* name : {"frmGridDescrip", "frmDescription"}) {
       if (auto* screen = static_cast<Input_Screen*>(Window(name))) screen->Unload();
-      Register_Screen(name, {});
+      Register_Screen(*Find_Screen(name), {});
     }
     Set_Help_Presenter(help_);
     Set_File_Dialog_Presenter(dialogs_);
@@ -61,7 +61,7 @@ class DepthScreen : public ::testing::Test {
   frmGridDescrip* Screen() { return static_cast<frmGridDescrip*>(Window("frmGridDescrip")); }
   bool Is_Open() { return Screen() != nullptr; }
   void Open() {
-    ASSERT_TRUE(Open_Screen("frmGridDescrip", false));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmGridDescrip"), false));
     ASSERT_TRUE(Has_Keyboard(Screen()));
     *before = record;
   }
@@ -130,7 +130,7 @@ TEST_F(DepthScreen, Shows_The_Stored_Depths_Under_Its_Captions) {
 
 TEST_F(DepthScreen, Takes_The_Size_That_Is_Typed_On_The_Open_Site_Screen) {
   record.ShowMode = 0;
-  ASSERT_TRUE(Open_Screen("frmDescription", false));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), false));
   auto* site = Window("frmDescription");
   site->findChild<QLineEdit*>("Text1(0)")->setText("12");
   site->findChild<QLineEdit*>("Text1(1)")->setText("20");
@@ -162,11 +162,11 @@ TEST_F(DepthScreen, Stands_Over_The_Site_Screen_Whose_Cancel_Then_Restores_What_
     };
     if (mode == 0) {
       Modal_Replies replies({look});
-      ASSERT_TRUE(Open_Screen("frmDescription", false));
+      ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), false));
       define_grid();
     } else {
       Modal_Replies replies({[&](QWidget*) { define_grid(); }, look});
-      ASSERT_TRUE(Open_Screen("frmDescription", true));
+      ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), true));
     }
     EXPECT_EQ(Window("frmDescription"), nullptr);
     EXPECT_EQ(record.ConstantDepthFlag, 0) << "the box was checked when the user came back";
@@ -174,7 +174,7 @@ TEST_F(DepthScreen, Stands_Over_The_Site_Screen_Whose_Cancel_Then_Restores_What_
 }
 
 TEST_F(DepthScreen, A_Size_Beyond_The_Grid_Opens_Nothing_And_Keeps_Everything) {
-  ASSERT_TRUE(Open_Screen("frmDescription", false));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmDescription"), false));
   auto* site = Window("frmDescription");
   *before = record;
   Scripted_Messages messages({Answer::Ok, Answer::Ok});

@@ -280,7 +280,7 @@ TEST_F(VelocityScreen, Index_3_Acts_As_Ok) {
 
 TEST_F(VelocityScreen, Index_4_Shows_The_Depth_Grid_And_Closes_Without_Saving) {
   std::vector<bool> opened;
-  Register_Screen("frmGridDescrip",
+  Register_Screen(Row_Of_Screen("frmGridDescrip"),
                   [&](bool blocking, const std::string&) { opened.push_back(blocking); });
   for (const std::int16_t mode : {0, 1}) {
     record.ShowMode = mode;
@@ -291,7 +291,7 @@ TEST_F(VelocityScreen, Index_4_Shows_The_Depth_Grid_And_Closes_Without_Saving) {
     EXPECT_EQ(Changed(), Fields{});
   }
   EXPECT_EQ(opened, (std::vector<bool>{false, true}));
-  Register_Screen("frmGridDescrip", {});
+  Register_Screen(Row_Of_Screen("frmGridDescrip"), {});
 }
 
 TEST_F(VelocityScreen, Cancel_Puts_Back_The_Type_And_Closes) {

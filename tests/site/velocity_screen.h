@@ -33,7 +33,7 @@ using Fields = std::vector<std::string>;
 class VelocityScreen : public ::testing::Test {
  protected:
   VelocityScreen() {
-    Register_Screen("frmVelocity", Fresh_Screens<frmVelocity>(&bench.main()));
+    Register_Screen(Row_Of_Screen("frmVelocity"), Fresh_Screens<frmVelocity>(&bench.main()));
     help_ = Set_Help_Presenter([this](const Help_Request& request) { helped.push_back(request); });
     const auto choose = [this](const File_Request& request) {
       asked.push_back(request);
@@ -53,7 +53,7 @@ class VelocityScreen : public ::testing::Test {
     if (Is_Open()) Screen()->Unload();
     Set_Help_Presenter(help_);
     Set_File_Dialog_Presenter(dialogs_);
-    Register_Screen("frmVelocity", {});
+    Register_Screen(Row_Of_Screen("frmVelocity"), {});
     Answers_Of_Wizard() = {};
     record.WizardActive = kFalse;
   }
@@ -68,7 +68,7 @@ class VelocityScreen : public ::testing::Test {
 
   void Open(const std::string& control = {}) {
     *before = record;
-    ASSERT_TRUE(Open_Screen("frmVelocity", false, control));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmVelocity"), false, control));
     ASSERT_TRUE(Has_Keyboard(Screen()));
   }
   void Open(double type) {

@@ -34,7 +34,7 @@ class DataBoard : public ::testing::Test {
     for (const char* name :
          {"frmDescription", "frmVelocity", "frmMatHopper", "frmMatBarge", "frmOperation",
           "frmCoefficients", "frmDensity", "frmSimulation", "frmMdlkyn", "frmDilute2"}) {
-      Register_Screen(name, [this, name](bool blocking, const std::string&) {
+      Register_Screen(*Find_Screen(name), [this, name](bool blocking, const std::string&) {
         opened.push_back(name + std::string(blocking ? " blocking" : ""));
         on_open();
       });
@@ -44,7 +44,7 @@ class DataBoard : public ::testing::Test {
     Project().NumPrintTimes = 0;  // which no new project resets
   }
   ~DataBoard() override {
-    for (const std::string& name : registered) Register_Screen(name, {});
+    for (const std::string& name : registered) Register_Screen(*Find_Screen(name), {});
   }
 
   void Show_Board_Of(int type) {

@@ -17,7 +17,7 @@ class EditMenu : public ::testing::Test {
   EditMenu() {
     for (const char* name : {"frmDescription", "frmVelocity", "frmMatHopper", "frmMatBarge",
                              "frmOperation", "frmCoefficients", "frmDensity"}) {
-      Register_Screen(name, [this, name](bool blocking, const std::string&) {
+      Register_Screen(*Find_Screen(name), [this, name](bool blocking, const std::string&) {
         opened.push_back(name);
         blocked = blocking;
       });
@@ -27,7 +27,7 @@ class EditMenu : public ::testing::Test {
     record->DisposalMethod = 1;
   }
   ~EditMenu() override {
-    for (const Screen_Row& row : kScreens) Register_Screen(row.name, {});
+    for (const Screen_Row& row : kScreens) Register_Screen(row, {});
     Reset_Port();
   }
 
@@ -121,7 +121,7 @@ TEST_F(EditMenu, Only_Input_Screens_Keep_A_Screen_From_Blocking) {
 TEST_F(EditMenu, A_Screen_That_Is_Not_There_Is_Named_In_The_Status_Area) {
   std::string noted;
   Port().board.show_note = [&noted](const Status_Note& note) { noted = note.text; };
-  Register_Screen("frmDensity", {});
+  Register_Screen(Row_Of_Screen("frmDensity"), {});
   EXPECT_EQ(Opened_By(9), Names{});
   EXPECT_EQ(noted, "The screen frmDensity is not part of this version.");
 }

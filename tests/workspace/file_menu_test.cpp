@@ -224,7 +224,7 @@ TEST_F(FileMenu, Cancel_At_The_Findings_Saves_Nothing) {
 
 TEST_F(FileMenu, Yes_At_The_Findings_Opens_The_Error_List_By_ShowMode_And_Saves_Nothing) {
   Lines opened;
-  Register_Screen("frmErrorList", [&](bool blocking, const std::string&) {
+  Register_Screen(Row_Of_Screen("frmErrorList"), [&](bool blocking, const std::string&) {
     opened.push_back(blocking ? "blocking" : "free");
   });
   Scripted_Messages messages({Answer::Yes, Answer::Yes});
@@ -233,7 +233,7 @@ TEST_F(FileMenu, Yes_At_The_Findings_Opens_The_Error_List_By_ShowMode_And_Saves_
   Click(kFileSave);
   record_.ShowMode = 0;
   Click(kFileSave);
-  Register_Screen("frmErrorList", {});
+  Register_Screen(Row_Of_Screen("frmErrorList"), {});
   EXPECT_EQ(opened, (Lines{"blocking", "free"}));
   EXPECT_TRUE(Names_In(folder_.path()).empty());
   EXPECT_TRUE(notes_.empty());

@@ -34,12 +34,12 @@ class StartDialog : public ::testing::Test {
                                         {},
                                         {}});
     help_ = Set_Help_Presenter([this](const Help_Request&) { ++asked_for_help; });
-    Register_Screen("Data_Wiz", [this](bool, const std::string&) { ++wizards; });
+    Register_Screen(Row_Of_Screen("Data_Wiz"), [this](bool, const std::string&) { ++wizards; });
     Project().WizardAtStart = kFalse;
   }
 
   ~StartDialog() override {
-    Register_Screen("Data_Wiz", {});
+    Register_Screen(Row_Of_Screen("Data_Wiz"), {});
     Set_Help_Presenter(help_);
     Set_File_Dialog_Presenter(files_);
     Project().WizardAtStart = kFalse;
@@ -54,7 +54,7 @@ class StartDialog : public ::testing::Test {
   }
 
   void Open() {
-    ASSERT_TRUE(Open_Screen("frmOpen", false));
+    ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmOpen"), false));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&Dialog()));
   }
 
@@ -333,7 +333,7 @@ TEST_F(StartDialog, Blocks_When_It_Is_Told_To) {
     modal = QApplication::activeModalWidget() == &Dialog();
     Choose(0), Next();
   });
-  ASSERT_TRUE(Open_Screen("frmOpen", true));
+  ASSERT_TRUE(Open_Screen(Row_Of_Screen("frmOpen"), true));
   EXPECT_TRUE(modal);
   EXPECT_EQ(asked_to_open, 1);
 }
@@ -356,7 +356,7 @@ TEST_F(StartDialog, Goes_With_Its_Workspace) {
   auto second = std::make_unique<QWidget>();
   Register_frmOpen(second.get());
   second.reset();
-  EXPECT_FALSE(Open_Screen("frmOpen", false));
+  EXPECT_FALSE(Open_Screen(Row_Of_Screen("frmOpen"), false));
 }
 
 }  // namespace

@@ -214,12 +214,12 @@ TEST(MainMenus, View_Toggles_Toolbar_And_Show_Mode_But_Never_The_Status_Bar) {
 TEST(MainMenus, The_Wizard_Opens_Blocking_And_What_It_Did_Is_Shown) {
   Main_Bench bench;
   int opened = 0;
-  Register_Screen("Data_Wiz", [&](bool blocking, const std::string&) {
+  Register_Screen(Row_Of_Screen("Data_Wiz"), [&](bool blocking, const std::string&) {
     opened += blocking ? 1 : 100;
     Project().ProjectTitle = "by the wizard";
   });
   QTest::mouseClick(bench.controls().SSPanel3(9), Qt::LeftButton);
-  Register_Screen("Data_Wiz", {});
+  Register_Screen(Row_Of_Screen("Data_Wiz"), {});
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(bench.controls().Title_Box->text(), "by the wizard");
 }
@@ -280,7 +280,7 @@ TEST(MainMenus, Tools_Show_As_Long_As_Their_Screens_Stand) {
   Main_Bench bench;
   EXPECT_FALSE(bench.Action("mnuTools")->isVisible());
   int opened = 0;
-  Register_Screen("frmOpen",
+  Register_Screen(Row_Of_Screen("frmOpen"),
                   [&](bool blocking, const std::string&) { opened += blocking ? 1 : 9; });
   EXPECT_TRUE(bench.Action("mnuTools")->isVisible());
   EXPECT_TRUE(bench.Action("mnuToolItem(0)")->isVisible());
@@ -289,7 +289,7 @@ TEST(MainMenus, Tools_Show_As_Long_As_Their_Screens_Stand) {
   }
   bench.Action("mnuToolItem(0)")->trigger();
   EXPECT_EQ(opened, 1);
-  Register_Screen("frmOpen", {});
+  Register_Screen(Row_Of_Screen("frmOpen"), {});
   EXPECT_FALSE(bench.Action("mnuTools")->isVisible());
 }
 
@@ -297,7 +297,7 @@ TEST(MainMenus, A_Screen_In_View_Without_Blocking_Keeps_Others_From_Blocking) {
   Main_Bench bench;
   bench.controls().SSOption1(0)->click();
   int opened = 0;
-  Register_Screen("frmVelocity", [&](bool, const std::string&) { ++opened; });
+  Register_Screen(Row_Of_Screen("frmVelocity"), [&](bool, const std::string&) { ++opened; });
   QWidget screen;
   screen.setObjectName("frmVelocity");
   screen.show();
@@ -317,7 +317,7 @@ TEST(MainMenus, A_Screen_In_View_Without_Blocking_Keeps_Others_From_Blocking) {
   screen.hide();
   bench.Action("mnuEditItem(2)")->trigger();
   EXPECT_EQ(opened, 2);
-  Register_Screen("frmVelocity", {});
+  Register_Screen(Row_Of_Screen("frmVelocity"), {});
 }
 
 TEST(MainMenus, An_Entry_With_Data_Keeps_Its_Mark_When_It_Is_Chosen_Until_A_New_Project) {

@@ -198,13 +198,13 @@ TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {
   Click(bench.controls().SSOption1(1));
   Project().ShowMode = 0;  // the calculator blocks all the same
   int opened = 0;
-  Register_Screen("frmDilute2", [&](bool blocking, const std::string&) {
+  Register_Screen(Row_Of_Screen("frmDilute2"), [&](bool blocking, const std::string&) {
     opened += blocking && bench.controls().SSRibbon2(3)->isChecked() ? 1 : 100;
     EXPECT_EQ(Project().KEY4, 7);
     EXPECT_FALSE(bench.Action("mnuRun")->isEnabled());
   });
   bench.controls().SSRibbon2(3)->click();
-  Register_Screen("frmDilute2", {});
+  Register_Screen(Row_Of_Screen("frmDilute2"), {});
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(Project().FileKind, 1);
   EXPECT_EQ(Project().KEY4, 7);

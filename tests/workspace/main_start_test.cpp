@@ -55,7 +55,7 @@ TEST(MainStart, Sets_The_Program_State) {
 /// What a start with WizardAtStart makes of the wizard's screen.
 std::vector<bool> Wizards_At_Start(Flag wizard_at_start) {
   std::vector<bool> blocking_opened;
-  Register_Screen("Data_Wiz", [&](bool blocking, const std::string&) {
+  Register_Screen(Row_Of_Screen("Data_Wiz"), [&](bool blocking, const std::string&) {
     blocking_opened.push_back(blocking);
     Project().WizardActive = kTrue;  // as it leaves it
     EXPECT_EQ(Project().OutputsCopied, kFalse);
@@ -65,7 +65,7 @@ std::vector<bool> Wizards_At_Start(Flag wizard_at_start) {
   { Main_Bench bench; }
   EXPECT_EQ(Project().WizardActive, kFalse);
   Project().WizardAtStart = kFalse;
-  Register_Screen("Data_Wiz", {});
+  Register_Screen(Row_Of_Screen("Data_Wiz"), {});
   return blocking_opened;
 }
 
@@ -76,10 +76,10 @@ TEST(MainStart, The_Wizard_Opens_Blocking_As_The_Last_Step_If_It_Is_Wanted) {
 
 TEST(MainStart, Goes_Straight_To_The_Main_Window) {
   bool opened = false;
-  Register_Screen("frmOpen", [&](bool, const std::string&) { opened = true; });
+  Register_Screen(Row_Of_Screen("frmOpen"), [&](bool, const std::string&) { opened = true; });
   Main_Bench bench;
   EXPECT_FALSE(opened);
-  Register_Screen("frmOpen", {});
+  Register_Screen(Row_Of_Screen("frmOpen"), {});
 }
 
 TEST(MainStart, The_Help_File_Stands_In_The_Programs_Folder) {

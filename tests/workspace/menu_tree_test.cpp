@@ -131,7 +131,8 @@ TEST(MenuTree, Tools_Are_Hidden_Until_Their_Screens_Stand) {
                            "frmNotePad", "frmTip"};
   ASSERT_EQ(Menu_Named("mnuTools").items.size(), 6u);
   for (int i = 0; i < 6; ++i) {
-    EXPECT_STREQ(Tool_Screen(i), screens[i]);
+    ASSERT_NE(Tool_Screen(i), nullptr);
+    EXPECT_STREQ(Tool_Screen(i)->name, screens[i]);
     EXPECT_FALSE(Item_At("mnuTools", i).visible) << i;
   }
   EXPECT_EQ(Tool_Screen(6), nullptr);

@@ -26,8 +26,6 @@
 namespace barvon {
 namespace {
 
-constexpr int kExportKind = 3;
-constexpr int kTextKind = 4;
 constexpr char kUnable[] = "Unable to Save File!";
 constexpr int kTestedStatusMarks = 5;  // of the six
 

@@ -6,8 +6,12 @@
 
 namespace barvon {
 
-/// Saves by kind: 1 dilution file, 2 project and its model input export, 3 the export alone,
-/// 4 the text of the active viewer window. True when the file of that kind is on disk; then
+/// What is saved beside the kinds of files, kDilutionKind and kProjectKind.
+inline constexpr int kExportKind = 3;
+inline constexpr int kTextKind = 4;
+
+/// Saves by kind: a dilution file, a project and its model input export, the export alone, the text
+/// of the active viewer window. True when the file of that kind is on disk; then
 /// BaseFileName, DataSaved, the caption and the recent files follow. Otherwise the user has been
 /// told, but for an export of sections that are marked as empty, which is passed over in silence.
 /// The old file is whole after any failure, and BaseFileName is as it was.

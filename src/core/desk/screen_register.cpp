@@ -8,35 +8,36 @@
 namespace barvon {
 namespace {
 
-std::map<std::string, Screen_Opener>& Screens() {
-  static std::map<std::string, Screen_Opener> screens;
+std::map<const Screen_Row*, Screen_Opener>& Screens() {
+  static std::map<const Screen_Row*, Screen_Opener> screens;
   return screens;
 }
 
 }  // namespace
 
-void Register_Screen(const std::string& name, Screen_Opener opener) {
+void Register_Screen(const Screen_Row& screen, Screen_Opener opener) {
   if (opener) {
-    Screens()[name] = std::move(opener);
+    Screens()[&screen] = std::move(opener);
   } else {
-    Screens().erase(name);
+    Screens().erase(&screen);
   }
   Port().board.screens_changed();
 }
 
-bool Screen_Stands(const std::string& name) { return Screens().count(name) != 0; }
+bool Screen_Stands(const Screen_Row& screen) { return Screens().count(&screen) != 0; }
 
-bool Open_Screen(const std::string& name, bool blocking, const std::string& control) {
-  const auto found = Screens().find(name);
+bool Open_Screen(const Screen_Row& screen, bool blocking, const std::string& control) {
+  const auto found = Screens().find(&screen);
   if (found == Screens().end()) return false;
   const Screen_Opener opener = found->second;  // it may be taken out while it is open
   opener(blocking, control);
   return true;
 }
 
-void Open_Screen_Or_Tell(const std::string& name, bool blocking, const std::string& control) {
-  if (Open_Screen(name, blocking, control)) return;
-  Port().board.show_note({"The screen " + name + " is not part of this version.", ""});
+void Open_Screen_Or_Tell(const Screen_Row& screen, bool blocking, const std::string& control) {
+  if (Open_Screen(screen, blocking, control)) return;
+  Port().board.show_note(
+      {std::string("The screen ") + screen.name + " is not part of this version.", ""});
 }
 
 }  // namespace barvon

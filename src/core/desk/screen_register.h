@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "core/desk/screen_table.h"
 #include "core/project_record.h"
 
 namespace barvon {
@@ -11,20 +12,20 @@ namespace barvon {
 /// given ("Text1(0)").
 using Screen_Opener = std::function<void(bool blocking, const std::string& control)>;
 
-/// Makes a screen known by its name; an opener of the same name is replaced, an empty one takes
-/// the screen out again. The workspace hears of it.
-void Register_Screen(const std::string& name, Screen_Opener opener);
+/// Makes a screen known; its former opener is replaced, an empty one takes the screen out again.
+/// The workspace hears of it.
+void Register_Screen(const Screen_Row& screen, Screen_Opener opener);
 
-/// Whether a screen of that name is registered.
-bool Screen_Stands(const std::string& name);
+/// Whether the screen is registered.
+bool Screen_Stands(const Screen_Row& screen);
 
 /// Whether input screens open blocking, as the View menu says.
 inline bool Opens_Blocking(const ProjectRecord& record) { return record.ShowMode == 1; }
 
-/// Opens the screen. False when no screen of that name is registered.
-bool Open_Screen(const std::string& name, bool blocking, const std::string& control = {});
+/// Opens the screen. False when it is not registered.
+bool Open_Screen(const Screen_Row& screen, bool blocking, const std::string& control = {});
 
 /// Opens the screen; one that this version does not have is named in the status area.
-void Open_Screen_Or_Tell(const std::string& name, bool blocking, const std::string& control = {});
+void Open_Screen_Or_Tell(const Screen_Row& screen, bool blocking, const std::string& control = {});
 
 }  // namespace barvon

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/desk/edit_entries.h"
 #include "core/desk/help_topics.h"
 #include "core/project_record.h"
 
@@ -32,10 +33,10 @@ struct Screen_Row {
   const char* name;                   // its window's
   int topic = help_topic::kContents;  // of its help; the contents: it has no page
   Screen_Kind kind = Screen_Kind::Other;
-  std::optional<int> status_line = {};  // Text2, a data category that OK reports as supplied
-  std::optional<int> supplied = {};     // the element of ScreenDataSupplied that OK sets
-  std::optional<int> edit_mark = {};    // the entry of the Edit menu that OK marks
-  std::optional<int> edit_entry = {};   // the entry of the Edit menu that opens the screen
+  std::optional<int> status_line = {};        // Text2, a data category that OK reports as supplied
+  std::optional<int> supplied = {};           // the element of ScreenDataSupplied that OK sets
+  std::optional<Edit_Entry> edit_mark = {};   // of the Edit menu, marked by OK
+  std::optional<Edit_Entry> edit_entry = {};  // of the Edit menu, opens the screen
   Screen_Gate gate = Screen_Gate::Open;
   Error_Lead lead = Error_Lead::Nowhere;
   Vessel vessel = Vessel::Any;
@@ -53,18 +54,18 @@ consteval auto Make() {
   using enum Refresh_On_Ok;
   // clang-format off
   return std::to_array<Screen_Row>({
-      //                                        OK:  line sup mark  Edit
+      //                                     OK:  line supplied mark and entry of the Edit menu
       {"Main",            kMainWindow},
-      {"frmDescription",  kSite,           Input,  1,   2,   1,   1, Evaluation, To_Control},
-      {"frmGridDescrip",  kDepthGrid,      Other, {},   3,  {},  {}, Open, Nowhere, Any, Never},
-      {"frmVelocity",     kVelocity,       Input,  2,   4,   2,   2, Evaluation},
-      {"frmMatHopper",    kMaterialHopper, Input,  3,   7,   4,   4, Evaluation, Nowhere, Hopper},
-      {"frmMatBarge",     kMaterialBarge,  Input,  3,   7,   4,   4, Evaluation, Nowhere, Barge},
-      {"frmOperation",    kOperation,      Input,  4,   9,   5,   5, Evaluation, To_Control},
-      {"frmCoefficients", kCoefficients,   Input,  5,  10,   6,   6, Open},
-      {"frmDensity",      kWaterDensity,   Input, {},   8,  {},   9, Open, Nowhere, Any, Always},
-      {"frmSimulation",   kSimulation,     Input,  0,   6,  {},  {}, Open, To_Control},
-      {"frmMdlkyn",       kEvaluation,     Input,  0,   5,   3,  {}, Open, To_Screen},
+      {"frmDescription",  kSite,           Input,  1,   2,  kEditSite, kEditSite, Evaluation, To_Control},
+      {"frmGridDescrip",  kDepthGrid,      Other, {},   3,  {}, {}, Open, Nowhere, Any, Never},
+      {"frmVelocity",     kVelocity,       Input,  2,   4,  kEditVelocity, kEditVelocity, Evaluation},
+      {"frmMatHopper",    kMaterialHopper, Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Hopper},
+      {"frmMatBarge",     kMaterialBarge,  Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Barge},
+      {"frmOperation",    kOperation,      Input,  4,   9,  kEditOperation, kEditOperation, Evaluation, To_Control},
+      {"frmCoefficients", kCoefficients,   Input,  5,  10,  kEditCoefficients, kEditCoefficients, Open},
+      {"frmDensity",      kWaterDensity,   Input, {},   8,  {}, kEditWaterDensity, Open, Nowhere, Any, Always},
+      {"frmSimulation",   kSimulation,     Input,  0,   6,  {}, {}, Open, To_Control},
+      {"frmMdlkyn",       kEvaluation,     Input,  0,   5,  kEditKeys, {}, Open, To_Screen},
       {"frmDilute2",      kDilution},
       {"Write_Dilute_Report"},
       {"DataBase",        kDataBase},

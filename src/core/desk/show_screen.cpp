@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/desk/screen_register.h"
-#include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "platform/ask/message_box.h"
 
@@ -18,13 +17,13 @@ bool Any_Input_Screen_Is_Open() {
 
 }  // namespace
 
-void Show_Screen(const std::string& name, const ProjectRecord& record) {
+void Show_Screen(const Screen_Row& screen, const ProjectRecord& record) {
   const bool blocking = Opens_Blocking(record);
   if (blocking && Any_Input_Screen_Is_Open()) {
     Show_Critical("Cannot Display Multiple Forms.  Select 'Multiple Input Windows' From View Menu");
     return;
   }
-  Open_Screen_Or_Tell(name, blocking);
+  Open_Screen_Or_Tell(screen, blocking);
 }
 
 }  // namespace barvon

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-
+#include "core/desk/screen_table.h"
 #include "core/project_record.h"
 
 namespace barvon {
@@ -9,6 +8,6 @@ namespace barvon {
 /// Opens an input screen as ShowMode says. It tells the user and opens nothing when it would block
 /// while an input screen is open without blocking. A screen that this version does not have is
 /// named in the status area.
-void Show_Screen(const std::string& name, const ProjectRecord& record);
+void Show_Screen(const Screen_Row& screen, const ProjectRecord& record);
 
 }  // namespace barvon

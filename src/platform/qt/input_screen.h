@@ -93,7 +93,7 @@ class Input_Screen : public QDialog {
 };
 
 /// Opens a screen made anew at each use; one that is open already comes to the front. Fits the
-/// register of screens: `Register_Screen("frmOperation", Fresh_Screens<frmOperation>(&main))`.
+/// register of screens: `Register_Screen(kScreen, Fresh_Screens<frmOperation>(&main))`.
 /// `Screen` is constructed from its workspace, which must outlive the opener's last use.
 template <class Screen>
 std::function<void(bool, const std::string&)> Fresh_Screens(QWidget* workspace) {

@@ -44,7 +44,7 @@ TEST(ScreenTable, What_Ok_Does_Beyond_The_Fields_Of_Each_Screen) {
     const Screen_Row& row = *Find_Screen(told.name);
     EXPECT_EQ(row.status_line.value_or(-1), told.line) << told.name;
     EXPECT_EQ(row.supplied.value_or(-1), told.supplied) << told.name;
-    EXPECT_EQ(row.edit_mark.value_or(-1), told.mark) << told.name;
+    EXPECT_EQ((row.edit_mark ? static_cast<int>(*row.edit_mark) : -1), told.mark) << told.name;
     accepting.insert(told.name);
   }
   for (const Screen_Row& row : kScreens) {
