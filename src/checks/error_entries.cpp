@@ -1,6 +1,5 @@
 #include "checks/error_entries.h"
 
-#include <cstddef>
 #include <limits>
 #include <utility>
 

@@ -48,6 +48,11 @@ bool Is_Narrow(const Field_Row& row) {
          std::holds_alternative<Record_Element<std::int16_t>>(row.member);
 }
 
+/// Whether the record's value stays what it is: what the field shows of it may be rounded.
+bool Stays(const Field_Row& row, const Field_Texts& texts, const ProjectRecord& record) {
+  return texts.Is_Untouched(row.control) && Is_Enabled(row, record) && !row.held;
+}
+
 double Number_Of(const Field_Row& row, const std::string& text) {
   double number = Lenient_Number(text);
   // Rounding makes negative zeros.
@@ -123,7 +128,7 @@ const Field_Row* Read_Fields(Field_Table table, const Field_Texts& texts, Projec
   std::vector<const Field_Row*> rows;
   for (const Field_Row& row : table) {
     if (!Has_Member(row) || row.reads == Reads::Nothing || texts.Find(row.control) == nullptr ||
-        Find_Row(table, row.control, record) != &row) {
+        Find_Row(table, row.control, record) != &row || Stays(row, texts, record)) {
       continue;
     }
     if (!Fits(row, *texts.Find(row.control))) return &row;
@@ -132,6 +137,29 @@ const Field_Row* Read_Fields(Field_Table table, const Field_Texts& texts, Projec
   // Which rows are shown must not depend on what is being written.
   for (const Field_Row* row : rows) Store(*row, *texts.Find(row->control), record);
   return nullptr;
+}
+
+double Member_Number(const Field_Row& row, const ProjectRecord& record) {
+  double number = 0;
+  With_Member(row.member, record, [&](const auto& value) {
+    using Value = std::decay_t<decltype(value)>;
+    if constexpr (std::is_same_v<Value, float>) {
+      number = Widen(value);
+    } else if constexpr (std::is_arithmetic_v<Value>) {
+      number = value;
+    }
+  });
+  return number;
+}
+
+double Entered_Number(Field_Table table, const Control_Name& control, const Field_Texts& texts,
+                      const ProjectRecord& record) {
+  const Field_Row* row = Find_Row(table, control, record);
+  if (row != nullptr && Is_Enabled(*row, record) && texts.Is_Untouched(control)) {
+    return Member_Number(*row, record);
+  }
+  const std::string* text = texts.Find(control);
+  return text == nullptr ? 0 : Lenient_Number(*text);
 }
 
 std::string Field_Note(Reads reads, const std::string& typed) {

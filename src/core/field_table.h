@@ -69,9 +69,18 @@ std::string Field_Text(const Field_Row& row, const ProjectRecord& record);
 Field_Texts Fill_Fields(Field_Table table, const ProjectRecord& record);
 
 /// Writes the texts to the record. A field without a text, one that is not shown for the record and
-/// one without a member leave it alone. The result is the first field whose number does not fit 16
-/// bits where it has to; the record is unchanged then. Otherwise nullptr.
+/// one without a member leave it alone; so does one whose text is untouched, as long as it can be
+/// used and is no count that has to be brought in. The result is the first field whose number does
+/// not fit 16 bits where it has to; the record is unchanged then. Otherwise nullptr.
 const Field_Row* Read_Fields(Field_Table table, const Field_Texts& texts, ProjectRecord& record);
+
+/// The record's number behind a row; 0 when its member is none.
+double Member_Number(const Field_Row& row, const ProjectRecord& record);
+
+/// The number that a field stands for: the record's own while its text is untouched, else the
+/// leading number of the text. The field must have a row with a number.
+double Entered_Number(Field_Table table, const Control_Name& control, const Field_Texts& texts,
+                      const ProjectRecord& record);
 
 /// What to say about a text of the field that is not read as it is written, else "".
 std::string Field_Note(Reads reads, const std::string& typed);

@@ -74,8 +74,8 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   std::optional<int> wrong;
   std::string complaints;
   for (const Field field : {kSalinity, kTemperature}) {
-    if (const auto number = Strict_Number(entry.texts("Text3", field))) {
-      typed[field] = *number;
+    if (Strict_Number(entry.texts("Text3", field))) {
+      typed[field] = Entered_Number(kRows, {"Text3", field}, entry.texts, record);
     } else {
       complaints += Complaint(field, entry.texts("Text3", field));
       if (!wrong) wrong = field;

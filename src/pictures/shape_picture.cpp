@@ -4,7 +4,6 @@
 
 #include <QFontInfo>
 #include <functional>
-#include <utility>
 
 #include "pictures/shape_painter.h"
 #include "pictures/shapes/lettering.h"

@@ -19,9 +19,8 @@ Average_Panel::Average_Panel(ProjectRecord& record)
 }
 
 void Average_Panel::Fill(const Velocity_Entry& entry) {
-  const double values[] = {record_.AvgVelocityDepth, record_.AvgVelocityX, record_.AvgVelocityZ};
   for (std::size_t i = 0; i < filled_.size(); ++i) {
-    filled_[i].Show(Text1(static_cast<int>(i)), entry.Text1[i], values[i]);
+    filled_[i].Show(Text1(static_cast<int>(i)), entry.Text1[i]);
   }
   Check3D1->setChecked(entry.Check3D1);
 }
@@ -30,7 +29,7 @@ void Average_Panel::Left() { Check3D1->setChecked(false); }
 
 void Average_Panel::Read(Velocity_Entry& entry) const {
   for (std::size_t i = 0; i < filled_.size(); ++i) {
-    entry.Text1[i] = Text1(static_cast<int>(i))->text().toStdString();
+    entry.Text1[i] = filled_[i].Entered(Text1(static_cast<int>(i)));
   }
   entry.Check3D1 = Check3D1->isChecked();
 }

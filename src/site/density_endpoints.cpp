@@ -90,7 +90,7 @@ bool AddBottomRow(float bottom, Site_Entry& entry, Spreadsheet_Table& table) {
 
 double Bottom_Depth(const Site_Entry& entry, const ProjectRecord& record) {
   if (entry.variable_depth) return MaxGridDepth(record);
-  return Lenient_Number(entry.texts("Text1", kConstantDepth));
+  return Entered_Number(Site_Fields(), {"Text1", kConstantDepth}, entry.texts, record);
 }
 
 Density_Ends Check_Depths(const Site_Entry& entry, const Spreadsheet_Table& F1Book1,

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "core/project_record.h"
 #include "platform/table/spreadsheet_table.h"
 

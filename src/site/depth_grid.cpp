@@ -45,7 +45,7 @@ void Save_Initial_Depth(const Depth_Grid_Entry& entry, ProjectRecord& record) {
     record.DEPTHI = 0;
     return;
   }
-  const double depth = Lenient_Number(entry.Text1);
+  const double depth = entry.Text1.Number();
   if (depth > 0) record.DEPTHI = depth;
   if (depth == 0) Show_Critical("Depth Cannot Be Initialized to Zero");
 }
@@ -112,7 +112,7 @@ double MaxGridDepth(const ProjectRecord& record) {
 
 std::string Depth_Grid_Remark(const Depth_Grid_Entry& entry, const Spreadsheet_Table& F1Book1) {
   std::string remark;
-  const double depth = Lenient_Number(entry.Text1);
+  const double depth = entry.Text1.Number();
   if (entry.Check3D2 && depth > 0 && !Is_Everywhere(depth, F1Book1)) {
     remark = "While the box is checked, the next opening shows " + Format_Number(depth, kOneDepth) +
              " ft in every cell, not these depths.";

@@ -5,6 +5,7 @@
 
 #include "core/field_table.h"
 #include "core/project_record.h"
+#include "core/typed_number.h"
 #include "platform/table/spreadsheet_table.h"
 
 namespace barvon {
@@ -25,7 +26,7 @@ Field_Table Depth_Grid_Fields();
 /// What frmGridDescrip holds beside its table.
 struct Depth_Grid_Entry {
   bool Check3D2 = false;  // initialize the grid to a constant
-  std::string Text1;      // the depth (ft) for it, as typed
+  Typed_Number Text1;     // the depth (ft) for it
 };
 
 /// Lays out the table for that size and fills it: with DEPTHI when the grid is initialized to it,

@@ -4,7 +4,6 @@
 
 #include "core/book_numbers.h"
 #include "core/number_reading.h"
-#include "core/number_text.h"
 #include "platform/qt/fields/field_rows.h"
 #include "site/drawn_cells.h"
 #include "site/velocity_questions.h"
@@ -24,8 +23,6 @@ Grid_Csv_Texts Csv_Texts(int direction) {
 }
 
 std::size_t At(int direction) { return static_cast<std::size_t>(direction); }
-
-double Typed(const QLineEdit* field) { return Lenient_Number(field->text().toStdString()); }
 
 }  // namespace
 
@@ -88,13 +85,14 @@ void Field_Panel::Fill(const Velocity_Entry& entry) {
     Enable_Constant(i, field.Check3D2);
     Check3D2(i)->setChecked(field.Check3D2);
     if (field.Check3D2) {
-      filled_[At(i)].Show(Text2(i), field.Text2,
-                          Const_Velocity(record_, static_cast<Velocity_Direction>(i)));
+      filled_[At(i)].Show(Text2(i), field.Text2);
     }
     Fill_Field_Table(field.F1Book2, entry.rows, entry.columns, F1Book2(i)->table());
   }
   Draw();
 }
+
+double Field_Panel::Constant(int i) const { return filled_[At(i)].Entered(Text2(i)).Number(); }
 
 void Field_Panel::Check3D2_Click(int i) {
   const auto direction = static_cast<Velocity_Direction>(i);
@@ -106,7 +104,7 @@ void Field_Panel::Check3D2_Click(int i) {
       Text2(i)->setFocus();
     }
     Spreadsheet_Table& table = F1Book2(i)->table();
-    if (!Any_Cell_Above_0(table) || Ask_To_Overwrite()) Fill_Field_With(Typed(Text2(i)), table);
+    if (!Any_Cell_Above_0(table) || Ask_To_Overwrite()) Fill_Field_With(Constant(i), table);
   } else {
     Const_Velocity(record_, direction) = 0;
   }
@@ -115,7 +113,7 @@ void Field_Panel::Check3D2_Click(int i) {
 
 void Field_Panel::Text2_Change(int i) {
   if (Is_Filling()) return;
-  Fill_Field_With(Typed(Text2(i)), F1Book2(i)->table());
+  Fill_Field_With(Constant(i), F1Book2(i)->table());
   Draw();
 }
 
@@ -125,7 +123,7 @@ void Field_Panel::Draw() {
                  record_.DX0, record_.DZ0});
   bool covered = false;
   for (int i = 0; i < kDirections; ++i) {
-    const double constant = Typed(Text2(i));
+    const double constant = Constant(i);
     covered = covered || (Check3D2(i)->isChecked() && constant > 0 &&
                           Any_Cell_Differs(F1Book2(i)->table(), constant));
   }
@@ -140,7 +138,7 @@ void Field_Panel::Read(Velocity_Entry& entry) const {
   for (int i = 0; i < kDirections; ++i) {
     Velocity_Entry::Field& field = entry.fields[At(i)];
     field.Check3D2 = Check3D2(i)->isChecked();
-    field.Text2 = Text2(i)->text().toStdString();
+    field.Text2 = filled_[At(i)].Entered(Text2(i));
     field.F1Book2 = Read_Field_Table(F1Book2(i)->table());
   }
 }

@@ -24,6 +24,7 @@ class Field_Panel : public Velocity_Panel {
  private:
   QWidget* Build_Direction(int direction);
   void Enable_Constant(int direction, bool enabled);
+  double Constant(int direction) const;
   void Check3D2_Click(int direction);
   void Text2_Change(int direction);
   void Draw();

@@ -136,6 +136,7 @@ void frmDescription::Opening() {
   Store_Dimensions(record_);
   fields_.Follow(Faces_Of(Site_Fields(), record_));
   const Field_Texts texts = Fill_Fields(Site_Fields(), record_);
+  fields_.Set_Filled(texts);
   for (int i = 0; i < 2; ++i) Text2(i)->setText(QString::fromStdString(texts("Text2", i)));
   for (int i = kZPoints; i <= kConstantDepth; ++i) Set_Text1(i, texts("Text1", i));
   if (record_.ConstantDepthFlag == 0) Set_Check(kVariableDepth, true);
@@ -200,7 +201,7 @@ void frmDescription::Check3D1_Click(int index) {
   if (index == kVariableDepth) {
     fields_.Label({"Text1", kConstantDepth})->setEnabled(!checked);
     Text1(kConstantDepth)->setEnabled(!checked);
-    Choose_Variable_Depth(checked, record_);
+    if (!FillingForm) Choose_Variable_Depth(checked, record_);
   } else {
     record_.DensityComputeFlag = checked ? kTrue : kFalse;
     Spreadsheet_Table& table = F1Book1->table();

@@ -101,6 +101,7 @@ void frmGridDescrip::Opening() {
   {
     const QSignalBlocker quiet(Text1);
     fields_.Show(Fill_Fields(Depth_Grid_Fields(), record_));
+    filled_ = {Text1->text().toStdString(), record_.DEPTHI};
   }
   Text1_Change();
   ShowDepthGrid(size_, Check3D2->isChecked(), record_, F1Book1->table());
@@ -135,7 +136,7 @@ void frmGridDescrip::Text1_Change() {
   if (reading.differs || !reading.value) {
     Show_Message({"Entry Must Be a Number"});
   } else {
-    InitialDepth_ = *reading.value;
+    InitialDepth_ = Entry().Text1.Number();
   }
   Show_Remark();
 }
@@ -153,7 +154,7 @@ void frmGridDescrip::Save() {
 }
 
 Depth_Grid_Entry frmGridDescrip::Entry() const {
-  return {Check3D2->isChecked(), Text1->text().toStdString()};
+  return {Check3D2->isChecked(), As_Filled(Text1->text().toStdString(), filled_)};
 }
 
 void frmGridDescrip::Imported() {

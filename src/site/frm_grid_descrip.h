@@ -43,6 +43,7 @@ class frmGridDescrip : public Input_Screen {
 
   ProjectRecord& record_;
   Depth_Grid_Size size_;
+  Typed_Number filled_;      // Text1 as it was filled
   double InitialDepth_ = 0;  // the last valid number of Text1, ft
 
   QCheckBox* Check3D2;

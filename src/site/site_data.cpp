@@ -22,8 +22,8 @@ constexpr double kUsualRoughness = 0.005;
 constexpr double kLowRoughness = 0.001;
 constexpr double kHighRoughness = 0.05;
 
-double Number(const Site_Entry& entry, Site_Field field) {
-  return Lenient_Number(entry.texts("Text1", field));
+double Number(const Site_Entry& entry, Site_Field field, const ProjectRecord& record) {
+  return Entered_Number(Site_Fields(), {"Text1", field}, entry.texts, record);
 }
 
 bool Check_Grid_Count(double count) {
@@ -110,8 +110,8 @@ void Store_Dimensions(ProjectRecord& record) {
 }
 
 void Store_Dimensions(const Site_Entry& entry, ProjectRecord& record) {
-  record.DistZ = Dimension(Number(entry, kZPoints), Number(entry, kZSpacing));
-  record.DistX = Dimension(Number(entry, kXPoints), Number(entry, kXSpacing));
+  record.DistZ = Dimension(Number(entry, kZPoints, record), Number(entry, kZSpacing, record));
+  record.DistX = Dimension(Number(entry, kXPoints, record), Number(entry, kXSpacing, record));
 }
 
 void Choose_Variable_Depth(bool variable, ProjectRecord& record) {

@@ -48,11 +48,8 @@ Tidal_Panel::Tidal_Panel(ProjectRecord& record)
 }
 
 void Tidal_Panel::Fill(const Velocity_Entry& entry) {
-  const double values[] = {Widen(record_.TidalStartTime), Widen(record_.TidalDepth),
-                           Hours_Of_Simulation(record_)};
-  for (const int i : {kStart, kDepth, kDuration})
-    filled_[i].Show(Text3(i), entry.Text3[i], values[i]);
-  for (const int i : {kAverageX, kAverageZ}) Text3(i)->setText(Text(entry.Text3[i]));
+  for (const int i : {kStart, kDepth, kDuration}) filled_[i].Show(Text3(i), entry.Text3[i]);
+  for (const int i : {kAverageX, kAverageZ}) Text3(i)->setText(Text(entry.Text3[i].text));
   Fill_Tidal_Table(entry, F1Book3->table());
   Show_All_Columns(F1Book3);
   Show_Interval();
@@ -106,9 +103,7 @@ Velocity_Entry Tidal_Panel::Entry() const {
 }
 
 void Tidal_Panel::Read(Velocity_Entry& entry) const {
-  for (std::size_t i = 0; i < entry.Text3.size(); ++i) {
-    entry.Text3[i] = Text3(static_cast<int>(i))->text().toStdString();
-  }
+  for (const int i : {kStart, kDepth, kDuration}) entry.Text3[i] = filled_[i].Entered(Text3(i));
   Read_Tidal_Table(F1Book3->table(), entry);
 }
 

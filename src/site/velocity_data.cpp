@@ -50,24 +50,29 @@ float To_32_Bits(double value) {
   return static_cast<float>(std::clamp(value, -kLargest, kLargest));
 }
 
-/// The fields' texts, in the order of their rows; "" for one that the rows can't fill.
+/// The fields in the order of their rows; "" for one that the rows can't fill.
 template <std::size_t N>
-std::array<std::string, N> Texts_Of(const Field_Row (&rows)[N], const ProjectRecord& record) {
-  std::array<std::string, N> texts;
-  for (std::size_t i = 0; i < N; ++i) texts[i] = Field_Text(rows[i], record);
-  return texts;
+std::array<Typed_Number, N> Fields_Of(const Field_Row (&rows)[N], const ProjectRecord& record) {
+  std::array<Typed_Number, N> fields;
+  for (std::size_t i = 0; i < N; ++i) {
+    fields[i] = {Field_Text(rows[i], record), Member_Number(rows[i], record)};
+  }
+  return fields;
 }
 
+/// What was typed; a field that is as it was filled leaves the record alone.
 template <std::size_t N>
-void Store_Texts(const Field_Row (&rows)[N], const std::array<std::string, N>& texts,
+void Store_Typed(const Field_Row (&rows)[N], const std::array<Typed_Number, N>& fields,
                  ProjectRecord& record) {
   Field_Texts typed;
-  for (std::size_t i = 0; i < N; ++i) typed.Set(rows[i].control, texts[i]);
+  for (std::size_t i = 0; i < N; ++i) {
+    if (!fields[i].kept) typed.Set(rows[i].control, fields[i].text);
+  }
   Read_Fields(rows, typed, record);
 }
 
 void Show_Single(const ProjectRecord& record, Velocity_Entry& entry) {
-  entry.Text1 = Texts_Of(kAverageFields, record);
+  entry.Text1 = Fields_Of(kAverageFields, record);
 }
 
 void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
@@ -79,7 +84,7 @@ void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
     // A negative constant does not come back: the field that it filled does.
     field.Check3D2 = constant > 0;
     if (field.Check3D2) {
-      field.Text2 = Format_Number(constant, "#####0.0");
+      field.Text2 = {Format_Number(constant, "#####0.0"), constant};
       for (auto& row : field.F1Book2) row.fill(constant);
     } else {
       field.F1Book2 = record.*kFields[i];
@@ -88,9 +93,9 @@ void Show_Fields(const ProjectRecord& record, Velocity_Entry& entry) {
 }
 
 void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
-  entry.Text3 = Texts_Of(kUnsteadyFields, record);
-  entry.Text3[kDuration] =
-      Format_Number(Hours_Of_Simulation(record), kUnsteadyFields[kDuration].pattern);
+  entry.Text3 = Fields_Of(kUnsteadyFields, record);
+  const double hours = Hours_Of_Simulation(record);
+  entry.Text3[kDuration] = {Format_Number(hours, kUnsteadyFields[kDuration].pattern), hours};
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
     for (std::size_t i = 0; i < kDirections; ++i) {
       entry.F1Book3[row][i + 1] = Widen((record.*kTidalColumns[i])[row]);
@@ -99,14 +104,14 @@ void Show_Unsteady(const ProjectRecord& record, Velocity_Entry& entry) {
 }
 
 void Save_Single(const Velocity_Entry& entry, ProjectRecord& record) {
-  Store_Texts(kAverageFields, entry.Text1, record);
+  Store_Typed(kAverageFields, entry.Text1, record);
   if (entry.Check3D1) record.VelocityProfileType = kLogarithmicVelocity;
 }
 
 void Save_Fields(const Velocity_Entry& entry, ProjectRecord& record) {
   for (std::size_t i = 0; i < kDirections; ++i) {
     const Velocity_Entry::Field& field = entry.fields[i];
-    record.*kConstants[i] = field.Check3D2 ? Lenient_Number(field.Text2) : 0;
+    record.*kConstants[i] = field.Check3D2 ? field.Text2.Number() : 0;
     for (int row = 1; row <= entry.rows; ++row) {
       std::copy_n(field.F1Book2[row].begin() + 1, entry.columns,
                   (record.*kFields[i])[row].begin() + 1);
@@ -115,8 +120,10 @@ void Save_Fields(const Velocity_Entry& entry, ProjectRecord& record) {
 }
 
 void Save_Unsteady(const Velocity_Entry& entry, ProjectRecord& record) {
-  Store_Texts(kUnsteadyFields, entry.Text3, record);
-  record.SimulationDuration = Lenient_Number(entry.Text3[kDuration]) * kSecondsPerHour;
+  Store_Typed(kUnsteadyFields, entry.Text3, record);
+  // Hours and back would change the last digit.
+  const Typed_Number& duration = entry.Text3[kDuration];
+  if (!duration.kept) record.SimulationDuration = duration.Number() * kSecondsPerHour;
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
     for (std::size_t i = 0; i < kDirections; ++i) {
       (record.*kTidalColumns[i])[row] = To_32_Bits(entry.F1Book3[row][i + 1]);
@@ -162,8 +169,7 @@ std::string Direction_Note(double type) {
 }
 
 Tidal_Interval Interval_Of(const Velocity_Entry& entry) {
-  return {To_32_Bits(Lenient_Number(entry.Text3[kStart])),
-          To_32_Bits(Lenient_Number(entry.Text3[kDuration]))};
+  return {To_32_Bits(entry.Text3[kStart].Number()), To_32_Bits(entry.Text3[kDuration].Number())};
 }
 
 std::string Interval_Note(const Tidal_Interval& interval) {
@@ -230,11 +236,11 @@ double Hours_Of_Simulation(const ProjectRecord& record) {
   return record.SimulationDuration / kSecondsPerHour;
 }
 
-std::string Filled_Note(const std::string& typed, const std::string& filled, double value) {
-  std::string note = Real_Note(typed);
-  const double reading = Lenient_Number(typed);
-  if (!note.empty() || typed != filled || reading == value) return note;
-  return "rounded from " + Plain_Number(value) + ": OK stores " + Plain_Number(reading);
+std::string Filled_Note(const Typed_Number& entered) {
+  if (!entered.kept) return Real_Note(entered.text);
+  const double kept = *entered.kept;
+  if (Lenient_Number(entered.text) == kept) return "";
+  return "rounded from " + Plain_Number(kept) + ", which OK keeps";
 }
 
 double Type_From_Wizard(const ProjectRecord& record) {

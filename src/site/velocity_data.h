@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/project_record.h"
+#include "core/typed_number.h"
 #include "core/velocity_types.h"
 #include "site/tidal_average.h"
 
@@ -20,15 +21,15 @@ inline constexpr const char* kAxes[kDirections] = {"X", "Z"};
 struct Velocity_Entry {
   struct Field {
     bool Check3D2 = false;  // filled with the constant in Text2
-    std::string Text2;
+    Typed_Number Text2;
     Grid F1Book2{};
   };
-  std::array<std::string, 3> Text1;            // depth, X and Z velocity
+  std::array<Typed_Number, 3> Text1;           // depth, X and Z velocity
   bool Check3D1 = false;                       // logarithmic profile
   OneBased<OneBased<double, 4>, 2> F1Book1{};  // X depth and velocity, Z depth and velocity
   std::array<Field, kDirections> fields;
-  int rows = 0, columns = 0;         // of both fields
-  std::array<std::string, 5> Text3;  // start, depth, duration, X and Z average
+  int rows = 0, columns = 0;          // of both fields
+  std::array<Typed_Number, 5> Text3;  // start, depth, duration, X and Z average
   OneBased<OneBased<double, kDirections>, kTidalRows> F1Book3{};
 };
 
@@ -68,9 +69,9 @@ double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction);
 /// SimulationDuration in hours.
 double Hours_Of_Simulation(const ProjectRecord& record);
 
-/// What to say about the text of a number field: how it reads, or, while it is what the program
-/// filled in for `value`, what its few decimals leave out.
-std::string Filled_Note(const std::string& typed, const std::string& filled, double value);
+/// What to say about the text of a number field: how it reads, or, while it is as filled, what its
+/// few decimals leave out.
+std::string Filled_Note(const Typed_Number& entered);
 
 /// The type that the open wizard asks for; the record's own while there is none.
 double Type_From_Wizard(const ProjectRecord& record);

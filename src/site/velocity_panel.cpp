@@ -16,14 +16,17 @@ void Velocity_Panel::Show(const Velocity_Entry& entry) {
 }
 
 Number_Note Filled_Field::Note() const {
-  return [this](const std::string& typed) { return Filled_Note(typed, text_, value_); };
+  return [this](const std::string& typed) { return Filled_Note(As_Filled(typed, filled_)); };
 }
 
-void Filled_Field::Show(QLineEdit* field, const std::string& text, double value) {
-  text_ = text;
-  value_ = value;
+void Filled_Field::Show(QLineEdit* field, const Typed_Number& filled) {
+  filled_ = filled;
   field->clear();  // its mark hears of the value also when the text is the same
-  field->setText(QString::fromStdString(text));
+  field->setText(QString::fromStdString(filled.text));
+}
+
+Typed_Number Filled_Field::Entered(const QLineEdit* field) const {
+  return As_Filled(field->text().toStdString(), filled_);
 }
 
 std::vector<Field_Face> Faces_With_Notes(Field_Table table, std::span<const Filled_Field> filled,

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/field_table.h"
+#include "core/typed_number.h"
 #include "platform/qt/fields/number_field.h"
 #include "platform/qt/table/spreadsheet_view.h"
 #include "site/velocity_data.h"
@@ -51,17 +52,18 @@ class Velocity_Panel : public QGroupBox {
   bool filling_ = false;
 };
 
-/// A number field that shows few decimals of what it is filled with: its mark tells what they leave
-/// out for as long as the text stays.
+/// A number field that shows few decimals of what it is filled with: until its text is another one,
+/// it stands for the whole value, and its mark tells what is left out.
 class Filled_Field {
  public:
   /// Refers to this field, which must stay where it is.
   Number_Note Note() const;
-  void Show(QLineEdit* field, const std::string& text, double value);
+  void Show(QLineEdit* field, const Typed_Number& filled);
+  /// What the field stands for now.
+  Typed_Number Entered(const QLineEdit* field) const;
 
  private:
-  std::string text_;
-  double value_ = 0;
+  Typed_Number filled_;
 };
 
 /// The faces of fields, the first of which are marked by what they were filled with. Refers to

@@ -39,7 +39,7 @@ bool Check_Sizes(const Velocity_Entry& entry) {
                                     "Depth Where Velocity Profile is Applied",
                                     "Simulation Duration"};
   for (std::size_t i = 0; i < std::size(kNames); ++i) {
-    if (!Check_Size(Lenient_Number(entry.Text3[i]), kNames[i])) return false;
+    if (!Check_Size(entry.Text3[i].Number(), kNames[i])) return false;
   }
   for (std::size_t row = 1; row <= kTidalRows; ++row) {
     const std::string velocity = "-Velocity of Point " + std::to_string(row);
@@ -55,7 +55,7 @@ bool Check_Sizes(const Velocity_Entry& entry) {
 
 bool Check_Velocity(const Velocity_Entry& entry, double type) {
   if (type != kUnsteadyVelocity) return true;
-  return Check_Start(Lenient_Number(entry.Text3[0])) && Check_Duration(entry) && Check_Sizes(entry);
+  return Check_Start(entry.Text3[0].Number()) && Check_Duration(entry) && Check_Sizes(entry);
 }
 
 void Tell_Constant_Missing(Velocity_Direction direction) {

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/keys.h"
 #include "core/number_text.h"
 #include "support/record_differences.h"
 
@@ -129,6 +130,40 @@ TEST_F(FieldTable, Every_Type_Of_Member_Is_Shown_In_Its_Pattern) {
   EXPECT_EQ(texts("Text9", 1), "0.1") << "the 32-bit value's own shortest text";
   EXPECT_EQ(texts("Text9", 2), "1");
   EXPECT_EQ(texts("Text5"), "3900.00");
+}
+
+TEST_F(FieldTable, A_Text_That_Is_As_Filled_Leaves_The_Value_With_All_Its_Digits) {
+  record.DX0 = 30.666;
+  record.OutputDepths[2] = 12.504;
+  Field_Texts texts = Fill_Fields(kEach, record);
+  texts.Set_Filled({"Text1", 0}, "30.67");
+  texts.Set_Filled({"Text8", 1}, "12.50");
+  EXPECT_EQ(Entered_Number(kEach, {"Text1", 0}, texts, record), 30.666);
+  EXPECT_EQ(Read(texts), nullptr);
+  EXPECT_EQ(record.DX0, 30.666);
+  EXPECT_EQ(record.OutputDepths[2], 12.504);
+  texts("Text8", 1) = "12.5";
+  EXPECT_EQ(Entered_Number(kEach, {"Text8", 1}, texts, record), 12.5);
+  EXPECT_EQ(Read(texts), nullptr);
+  EXPECT_EQ(record.OutputDepths[2], 12.5) << "typed: what is shown counts";
+}
+
+TEST_F(FieldTable, A_Count_Out_Of_Its_Limits_Is_Brought_In_Untouched_Too) {
+  record.NumOutputDepths = 9;
+  Field_Texts texts = Fill_Fields(kEach, record);
+  texts.Set_Filled({"Text8", 5}, "9");
+  EXPECT_EQ(Read(texts), nullptr);
+  EXPECT_EQ(record.NumOutputDepths, 5);
+}
+
+TEST_F(FieldTable, A_Field_That_Cannot_Be_Used_Is_Read_As_0_Untouched_Too) {
+  record.DisposalMethod = kBarge;
+  record.SLOPEX0 = 2.5;
+  Field_Texts texts = Fill_Fields(kByMethod, record);
+  texts.Set_Filled({"Text1", 6}, "0");
+  EXPECT_EQ(Entered_Number(kByMethod, {"Text1", 6}, texts, record), 0);
+  EXPECT_EQ(Read(texts, kByMethod), nullptr);
+  EXPECT_EQ(record.SLOPEX0, 0);
 }
 
 TEST_F(FieldTable, A_Real_Is_The_Texts_Leading_Number) {

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <regex>
-#include <set>
 #include <sstream>
 
 #include "support/plain_support.h"

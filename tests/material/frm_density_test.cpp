@@ -282,15 +282,17 @@ TEST_F(DensityScreen, Return_In_A_Field_Is_Ok) {
   EXPECT_EQ(record.SiteDensity, 1.02);
 }
 
-TEST_F(DensityScreen, Ok_Stores_What_The_Boxes_Show_Even_While_They_Are_Closed_To_Typing) {
+TEST_F(DensityScreen, Ok_Keeps_The_Digits_Of_Values_That_Were_Not_Typed) {
   record.SiteSalinity = 12.345;
   record.SiteTemperature = 8.2549;
   record.SiteDensity = 1.012345;
   Open();
+  EXPECT_EQ(Text3(1)->text(), "8.25");
+  Enter(2, "1.01");
   Click(Command1(0));
-  EXPECT_EQ(record.SiteSalinity, 12.35);
-  EXPECT_EQ(record.SiteTemperature, 8.25);
-  EXPECT_EQ(record.SiteDensity, 1.0123);
+  EXPECT_EQ(record.SiteSalinity, 12.345);
+  EXPECT_EQ(record.SiteTemperature, 8.2549);
+  EXPECT_EQ(record.SiteDensity, 1.01);
 }
 
 TEST_F(DensityScreen, An_Empty_Salinity_Is_0_And_The_Density_Stays_As_Typed) {

@@ -217,6 +217,24 @@ TEST_F(SiteScreen, Dimensions_Follow_Each_Edit_And_Go_To_The_Record_At_Once) {
   EXPECT_EQ(Dimension(1), "-70.50");
 }
 
+TEST_F(SiteScreen, Ok_Keeps_The_Digits_Of_Values_That_Were_Not_Typed) {
+  record.DEPC0 = record.DensityDepths[2] = 30.664;
+  record.DX0 = 100.126;
+  record.RHDA0 = 0.0051234;
+  record.SLOPEZ0 = 0.126;
+  Open();
+  EXPECT_EQ(Shown(4), "30.7");
+  Enter(1, "11");
+  EXPECT_EQ(record.DistX, 10 * 100.126) << "by the spacing as it is, not as it is shown";
+  Enter(7, "0.14");
+  Click(Command1(0));
+  EXPECT_FALSE(Is_Open()) << "the last density point is at the bottom, so nothing is asked";
+  EXPECT_EQ(record.DEPC0, 30.664);
+  EXPECT_EQ(record.DX0, 100.126);
+  EXPECT_EQ(record.RHDA0, 0.0051234);
+  EXPECT_EQ(record.SLOPEZ0, 0.14) << "typed: what is shown counts";
+}
+
 TEST_F(SiteScreen, Typing_97_Points_Is_Told_And_Ok_Stores_96) {
   Open();
   Modal_Replies replies({Press(QMessageBox::Ok)});

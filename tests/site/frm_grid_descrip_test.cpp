@@ -105,6 +105,17 @@ class DepthScreen : public ::testing::Test {
   File_Dialog_Presenter dialogs_;
 };
 
+TEST_F(DepthScreen, The_One_Depth_Keeps_The_Digits_That_Are_Not_Shown) {
+  record.DEPTHI = 30.664;
+  Open();
+  EXPECT_EQ(Text1()->text(), "30.66");
+  Click(Command2());
+  EXPECT_EQ(Table().NumberRC(3, 7), 30.664);
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPTHI, 30.664);
+  EXPECT_EQ(record.DepthGrid[7][3], 30.664);
+}
+
 TEST_F(DepthScreen, Shows_The_Stored_Depths_Under_Its_Captions) {
   Open();
   EXPECT_EQ(Screen()->windowTitle(), "Variable Depth Grid");

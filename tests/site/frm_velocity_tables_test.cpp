@@ -142,7 +142,7 @@ TEST_F(VelocityScreen, Opening_With_A_Constant_Asks_Nothing_And_Fills_The_Table)
   record.VelocityFieldX[1][1] = 9;
   Open(4);
   EXPECT_EQ(Text2(0)->text(), "1.3");
-  EXPECT_EQ(Number_Note_Of(Text2(0)), "rounded from 1.25: OK stores 1.3");
+  EXPECT_EQ(Number_Note_Of(Text2(0)), "rounded from 1.25, which OK keeps");
   EXPECT_TRUE(All_Cells_Are(F1Book2(0), 1.25));
   EXPECT_FALSE(Text2(1)->isEnabled());
   EXPECT_EQ(Number_Note_Of(Text2(1)), "") << "an empty field that is not read is not marked";

@@ -193,7 +193,7 @@ TEST_F(VelocityScreen, A_Value_That_Is_Shown_Rounded_Is_Marked_Until_It_Is_Typed
   record.AvgVelocityX = 0.25;
   Open(1);
   EXPECT_EQ(Text1(1)->text(), "0.3");
-  EXPECT_EQ(Number_Note_Of(Text1(1)), "rounded from 0.25: OK stores 0.3");
+  EXPECT_EQ(Number_Note_Of(Text1(1)), "rounded from 0.25, which OK keeps");
   EXPECT_EQ(Number_Note_Of(Text1(0)), "");
   Enter(Text1(1), "0.25");
   EXPECT_EQ(Number_Note_Of(Text1(1)), "");

@@ -29,11 +29,18 @@ class VelocityData : public ::testing::Test {
 using Texts3 = std::array<std::string, 3>;
 using Texts5 = std::array<std::string, 5>;
 
+template <std::size_t N>
+std::array<std::string, N> Texts_Of(const std::array<Typed_Number, N>& fields) {
+  std::array<std::string, N> texts;
+  for (std::size_t i = 0; i < N; ++i) texts[i] = fields[i].text;
+  return texts;
+}
+
 TEST_F(VelocityData, A_Single_Velocity_Is_Shown_With_One_Decimal) {
   record.AvgVelocityDepth = 60;
   record.AvgVelocityX = 0.25;
   record.AvgVelocityZ = -1.04;
-  EXPECT_EQ(ShowVelocityData(record).Text1, (Texts3{"60.0", "0.3", "-1.0"}));
+  EXPECT_EQ(Texts_Of(ShowVelocityData(record).Text1), (Texts3{"60.0", "0.3", "-1.0"}));
 }
 
 TEST_F(VelocityData, The_Logarithmic_Box_Is_Set_For_Type_2_Alone) {
@@ -114,14 +121,14 @@ TEST_F(VelocityData, A_Constant_Above_0_Stands_In_For_The_Field) {
   record.VelocityFieldZ[3][3] = 9;
   const Velocity_Entry entry = ShowVelocityData(record);
   EXPECT_TRUE(entry.fields[kAlongX].Check3D2);
-  EXPECT_EQ(entry.fields[kAlongX].Text2, "1.3");
+  EXPECT_EQ(entry.fields[kAlongX].Text2.text, "1.3");
   for (int row = 1; row <= entry.rows; ++row) {
     for (int col = 1; col <= entry.columns; ++col) {
       EXPECT_EQ(entry.fields[kAlongX].F1Book2[row][col], 1.25);
     }
   }
   EXPECT_FALSE(entry.fields[kAlongZ].Check3D2);
-  EXPECT_EQ(entry.fields[kAlongZ].Text2, "");
+  EXPECT_EQ(entry.fields[kAlongZ].Text2.text, "");
   EXPECT_EQ(entry.fields[kAlongZ].F1Book2[3][3], 9);
 }
 
@@ -131,7 +138,7 @@ TEST_F(VelocityData, A_Negative_Constant_Shows_The_Stored_Field_Instead) {
   record.VelocityFieldX[2][2] = -0.5;
   const Velocity_Entry entry = ShowVelocityData(record);
   EXPECT_FALSE(entry.fields[kAlongX].Check3D2);
-  EXPECT_EQ(entry.fields[kAlongX].Text2, "");
+  EXPECT_EQ(entry.fields[kAlongX].Text2.text, "");
   EXPECT_EQ(entry.fields[kAlongX].F1Book2[2][2], -0.5);
 }
 
@@ -185,7 +192,7 @@ TEST_F(VelocityData, The_Unsteady_Profile_Is_Shown_In_Hours) {
   record.TidalVelX[1] = 0.1F;
   record.TidalVelZ[26] = -2.5F;
   const Velocity_Entry entry = ShowVelocityData(record);
-  EXPECT_EQ(entry.Text3, (Texts5{"1.01", "40.00", "1.3", "0.3", "0.0"}));
+  EXPECT_EQ(Texts_Of(entry.Text3), (Texts5{"1.01", "40.00", "1.3", "0.3", "0.0"}));
   EXPECT_EQ(entry.F1Book3[1][1], 0.1) << "not 0.100000001490116";
   EXPECT_EQ(entry.F1Book3[26][2], -2.5);
 }
@@ -264,7 +271,7 @@ TEST_F(VelocityData, A_Form_Stores_Nothing_Of_The_Others) {
   Open_And_Save(3);
   EXPECT_EQ(Differing_Fields(record, before), std::vector<std::string>{"VelocityProfileType"});
   Open_And_Save(1);
-  EXPECT_EQ(Differing_Fields(record, before), std::vector<std::string>{"AvgVelocityX"});
+  EXPECT_EQ(Differing_Fields(record, before), std::vector<std::string>{});
 }
 
 TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
@@ -287,11 +294,38 @@ TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
                                 "TidalAvgVelZ", "TidalVelX", "TidalVelZ", "SimulationDuration"}));
 }
 
+TEST_F(VelocityData, What_Is_Not_Typed_Keeps_The_Digits_That_Are_Not_Shown) {
+  record.VelocityProfileType = kSingleVelocity;
+  record.AvgVelocityDepth = 30.664;
+  record.AvgVelocityX = 0.25;
+  Velocity_Entry single = ShowVelocityData(record);
+  single.Text1[2] = "0.7";
+  SaveVelocityData(single, record);
+  EXPECT_EQ(record.AvgVelocityDepth, 30.664);
+  EXPECT_EQ(record.AvgVelocityX, 0.25);
+  EXPECT_EQ(record.AvgVelocityZ, 0.7);
+
+  record.VelocityProfileType = kUnsteadyVelocity;
+  record.TidalStartTime = 1.234f;
+  record.SimulationDuration = 5000.1;  // 1.38891... hours, shown as 1.4
+  const Velocity_Entry unsteady = ShowVelocityData(record);
+  EXPECT_EQ(Interval_Of(unsteady).duration, static_cast<float>(5000.1 / 3600));
+  SaveVelocityData(unsteady, record);
+  EXPECT_EQ(record.TidalStartTime, 1.234f);
+  EXPECT_EQ(record.SimulationDuration, 5000.1);
+
+  record.VelocityProfileType = kVelocityField;
+  record.MMAX0 = record.NMAX0 = 8;
+  record.ConstVelocityX = 1.25;
+  SaveVelocityData(ShowVelocityData(record), record);
+  EXPECT_EQ(record.ConstVelocityX, 1.25);
+}
+
 TEST_F(VelocityData, A_Filled_Text_Tells_What_Its_Decimals_Leave_Out) {
-  EXPECT_EQ(Filled_Note("0.3", "0.3", 0.25), "rounded from 0.25: OK stores 0.3");
-  EXPECT_EQ(Filled_Note("0.3", "0.3", 0.3), "");
-  EXPECT_EQ(Filled_Note("0.30", "0.3", 0.25), "") << "typed anew";
-  EXPECT_EQ(Filled_Note("0,3", "0.3", 0.25), "reads as 0");
+  EXPECT_EQ(Filled_Note({"0.3", 0.25}), "rounded from 0.25, which OK keeps");
+  EXPECT_EQ(Filled_Note({"0.3", 0.3}), "");
+  EXPECT_EQ(Filled_Note(As_Filled("0.30", {"0.3", 0.25})), "") << "typed anew";
+  EXPECT_EQ(Filled_Note("0,3"), "reads as 0");
 }
 
 TEST_F(VelocityData, The_Open_Wizard_Names_The_Type) {

@@ -1,7 +1,5 @@
 #include "workspace/file_menu.h"
 
-#include <functional>
-
 #include "checks/check_data.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"

@@ -7,7 +7,6 @@
 #include <QScreen>
 #include <QTest>
 #include <optional>
-#include <vector>
 
 #include "core/desk/screen_register.h"
 #include "core/project_record.h"

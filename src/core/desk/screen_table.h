@@ -3,7 +3,6 @@
 #include <array>
 #include <optional>
 #include <stdexcept>
-#include <string>
 #include <string_view>
 #include <vector>
 

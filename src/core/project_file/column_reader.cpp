@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "core/number_text.h"

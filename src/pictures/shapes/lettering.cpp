@@ -1,6 +1,5 @@
 #include "pictures/shapes/lettering.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <sstream>
 #include <string_view>

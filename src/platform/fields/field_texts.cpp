@@ -11,7 +11,7 @@ std::string Control_Name::Reference() const {
 }
 
 std::string& Field_Texts::operator()(std::string_view array, int index) {
-  return texts_[Control_Name{array, index}.Reference()];
+  return texts_[Control_Name{array, index}.Reference()].text;
 }
 
 const std::string& Field_Texts::operator()(std::string_view array, int index) const {
@@ -22,11 +22,20 @@ const std::string& Field_Texts::operator()(std::string_view array, int index) co
 
 const std::string* Field_Texts::Find(const Control_Name& control) const {
   const auto found = texts_.find(control.Reference());
-  return found == texts_.end() ? nullptr : &found->second;
+  return found == texts_.end() ? nullptr : &found->second.text;
 }
 
 void Field_Texts::Set(const Control_Name& control, std::string text) {
-  texts_[control.Reference()] = std::move(text);
+  texts_[control.Reference()].text = std::move(text);
+}
+
+void Field_Texts::Set_Filled(const Control_Name& control, std::string filled) {
+  texts_.at(control.Reference()).filled = std::move(filled);
+}
+
+bool Field_Texts::Is_Untouched(const Control_Name& control) const {
+  const auto found = texts_.find(control.Reference());
+  return found != texts_.end() && found->second.filled == found->second.text;
 }
 
 }  // namespace barvon

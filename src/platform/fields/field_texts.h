@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,10 +33,21 @@ class Field_Texts {
   const std::string* Find(const Control_Name& control) const;
   void Set(const Control_Name& control, std::string text);
 
+  /// What the screen filled the field with. The field must have a text.
+  void Set_Filled(const Control_Name& control, std::string filled);
+  /// Whether the text is still the one that the screen filled in. What it shows of a value may be
+  /// rounded, so the value itself counts then.
+  bool Is_Untouched(const Control_Name& control) const;
+
   bool operator==(const Field_Texts&) const = default;
 
  private:
-  std::map<std::string, std::string> texts_;  // by reference
+  struct Entry {
+    std::string text;
+    std::optional<std::string> filled = {};
+    bool operator==(const Entry&) const = default;
+  };
+  std::map<std::string, Entry> texts_;  // by reference
 };
 
 }  // namespace barvon

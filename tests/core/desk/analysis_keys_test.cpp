@@ -1,7 +1,5 @@
 #include "core/desk/analysis_keys.h"
 
-#include <memory>
-
 #include "support/recorded_workspace.h"
 
 namespace barvon {

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "core/model_input/model_examples.h"
 #include "core/model_input/model_input.h"

@@ -2,7 +2,6 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
-#include <cstdio>
 #include <memory>
 #include <set>
 #include <string>

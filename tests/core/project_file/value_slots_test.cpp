@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <map>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "core/project_defaults.h"

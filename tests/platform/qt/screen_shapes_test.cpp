@@ -7,7 +7,6 @@
 #include <QScreen>
 #include <QTest>
 #include <QVBoxLayout>
-#include <string>
 #include <vector>
 
 #include "platform/ask/help_viewer.h"

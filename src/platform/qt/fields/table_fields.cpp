@@ -44,6 +44,7 @@ QLabel* Table_Fields::Label(const Control_Name& control) const {
 }
 
 void Table_Fields::Show(const Field_Texts& texts) {
+  Set_Filled(texts);
   for (const Field& field : fields_) {
     const std::string* text = texts.Find(field.face.control);
     if (text == nullptr) continue;
@@ -52,10 +53,18 @@ void Table_Fields::Show(const Field_Texts& texts) {
   }
 }
 
+void Table_Fields::Set_Filled(const Field_Texts& texts) {
+  for (Field& field : fields_) {
+    if (const std::string* text = texts.Find(field.face.control)) field.filled = *text;
+  }
+}
+
 Field_Texts Table_Fields::Texts() const {
   Field_Texts texts;
   for (const Field& field : fields_) {
-    if (field.face.shown) texts.Set(field.face.control, field.line->text().toStdString());
+    if (!field.face.shown) continue;
+    texts.Set(field.face.control, field.line->text().toStdString());
+    if (field.filled) texts.Set_Filled(field.face.control, *field.filled);
   }
   return texts;
 }

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,9 +35,13 @@ class Table_Fields {
 
   /// The label of a field that has been laid out.
   QLabel* Label(const Control_Name& control) const;
-  /// Sets the fields that have a text. One that shows it already keeps its cursor and its history.
+  /// Fills the fields that have a text with what the record holds. One that shows it already keeps
+  /// its cursor and its history.
   void Show(const Field_Texts& texts);
-  /// The texts of all fields that the project's keys show, whether or not their tab is in front.
+  /// For a screen that fills its fields by itself: what it fills them with.
+  void Set_Filled(const Field_Texts& texts);
+  /// The texts of all fields that the project's keys show, whether or not their tab is in front,
+  /// and what they were filled with.
   Field_Texts Texts() const;
 
  private:
@@ -44,6 +49,7 @@ class Table_Fields {
     Field_Face face;
     QLineEdit* line = nullptr;
     QLabel* label = nullptr;  // once it is laid out
+    std::optional<std::string> filled = {};
   };
   static QLabel* Lay_Out(Field_Rows& rows, Field& field);
   static void Show_Or_Hide(const Field& field);

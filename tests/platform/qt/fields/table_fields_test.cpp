@@ -87,7 +87,21 @@ TEST_F(TableFields, Texts_Go_Through_The_Fields) {
   texts("Text1", 0) = "13";
   texts("Text1", 1) = "kept";
   texts("Text2") = "";
+  texts.Set_Filled({"Text1", 0}, "12");
+  texts.Set_Filled({"Text3"}, "Lead");
   EXPECT_EQ(fields.Texts(), texts);
+}
+
+TEST_F(TableFields, A_Field_Is_Untouched_While_It_Shows_What_It_Was_Filled_With) {
+  Field_Texts texts;
+  texts("Text1", 0) = "12";
+  fields.Show(texts);
+  EXPECT_TRUE(fields.Texts().Is_Untouched({"Text1", 0}));
+  EXPECT_FALSE(fields.Texts().Is_Untouched({"Text1", 1})) << "it was never filled";
+  Text1(0)->setText("12.0");
+  EXPECT_FALSE(fields.Texts().Is_Untouched({"Text1", 0}));
+  Text1(0)->setText("12");
+  EXPECT_TRUE(fields.Texts().Is_Untouched({"Text1", 0}));
 }
 
 TEST_F(TableFields, A_Text_That_Is_There_Already_Leaves_The_Cursor_Where_It_Is) {
