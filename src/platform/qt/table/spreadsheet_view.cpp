@@ -269,4 +269,6 @@ void F1Book::changeEvent(QEvent* event) {
 
 QSize F1Book::sizeHint() const { return layout_->Size_Hint(); }
 
+void F1Book::Ask_For_All_Rows() { layout_->Ask_For_All_Rows(); }
+
 }  // namespace barvon
