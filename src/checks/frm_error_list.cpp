@@ -12,6 +12,7 @@
 #include "core/desk/screen_table.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
+#include "platform/ask/message_box.h"
 #include "platform/qt/screen_window.h"
 #include "platform/qt/show_dialog.h"
 
@@ -85,6 +86,9 @@ void frmErrorList::Fill() {
     List1->addItem(QString::fromStdString(entry.message));
     List2->addItem(QString::fromStdString(entry.reference));
   }
+  // Or the first line would look chosen as soon as the list gets the focus.
+  List1->setCurrentIndex({});
+  SSCommand1(kDetails)->setEnabled(List1->count() > 0);
 }
 
 void frmErrorList::Open(bool blocking) {
@@ -98,7 +102,7 @@ void frmErrorList::Open(bool blocking) {
   Show_Dialog(*this, blocking);
 }
 
-/// The row that shows as selected, -1 for none: the list has a current row before anyone chose one.
+/// The row that shows as selected, -1 for none: a row can be the current one without that.
 int frmErrorList::Selected() const {
   const auto selected = List1->selectedItems();
   return selected.isEmpty() ? -1 : List1->row(selected.first());
@@ -119,7 +123,12 @@ void frmErrorList::SSCommand1_Click(int index) {
     return;
   }
   const int entry = Selected();
-  if (entry < 0) return;
+  if (entry < 0) {
+    Show_Information(
+        "Please choose a line of the list first: by a click, or by the arrow keys while the list "
+        "has the keyboard.");
+    return;
+  }
   const int topic = entry + 1 < kErrorHelpTopics ? Current_Errors().ErrorHelpTopics[entry + 1]
                                                  : help_topic::kContents;
   Show_Topic(topic);

@@ -48,10 +48,7 @@ void frmDensity::Activated() { copy_ = Copy_Density(record_); }
 
 void frmDensity::Check3D3_Click() {
   const bool computed = Check3D3->isChecked();
-  for (const int i : {0, 1}) {
-    fields_.Label({"Text3", i})->setEnabled(computed);
-    Text3(i)->setEnabled(computed);
-  }
+  for (const int i : {0, 1}) Text3(i)->setEnabled(computed);
   Command2->setEnabled(computed);
 }
 

@@ -9,7 +9,6 @@
 #include "platform/files/app_folder.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
-#include "platform/files/profile_settings.h"
 #include "platform/process/document_opener.h"
 #include "run/create_process.h"
 
@@ -30,8 +29,7 @@ std::optional<std::string> Find_Graphics_Program(const std::string& folder) {
 /// GraphFile and SimType: what the graphics program reads.
 bool Hand_Over(const ProjectRecord& record, int kind) {
   return Write_Graph_File(record.ProjectFileName) &&
-         Write_Profile_String(Settings_Path(), kSimulationTypeSection, kSimTypeKey,
-                              "Type " + std::to_string(kind));
+         Write_Setting(kSimulationTypeSection, kSimTypeKey, "Type " + std::to_string(kind));
 }
 
 void Tell_How_It_Ended(const Process_Outcome& outcome) {
@@ -60,12 +58,12 @@ void Graph_Command(const ProjectRecord& record, int kind) {
     Show_Critical("Please Specify a File Before Running Model", "BARVON Error");
     return;
   }
-  const bool handed_over = Hand_Over(record, kind);
   const std::string& folder = Application_Folder();
   if (!Find_Path(folder)) {
     Show_Warning("Path: " + folder + " Not Found");
     return;
   }
+  const bool handed_over = Hand_Over(record, kind);
   if (!Find_Graphics_Program(folder)) {
     Show_Warning("File: " + Join_Path(folder, kGraphicsProgram) + " Not Found");
     return;

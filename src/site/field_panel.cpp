@@ -1,5 +1,7 @@
 #include "site/field_panel.h"
 
+#include <QGridLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "core/book_numbers.h"
@@ -12,7 +14,10 @@
 namespace barvon {
 namespace {
 
-constexpr QSize kTableSize{300, 260};
+constexpr QSize kTableSize{220, 180};
+constexpr int kMapWidth = 340;  // below it headings and scale crowd the map out
+constexpr int kTablePart = 3, kMapPart = 4;
+constexpr int kBetweenEntries = 24;
 
 Grid_Csv_Texts Csv_Texts(int direction) {
   const std::string what = std::string(kAxes[direction]) + "-Direction Velocities";
@@ -30,27 +35,47 @@ Field_Panel::Field_Panel(ProjectRecord& record)
     : Velocity_Panel("Variable Velocity Field", "velocity_field", record),
       F1Book2(this, "F1Book2", kDirections, 0, kBookNumbers),
       arrows_(Named(new Velocity_Arrows(this), "VelocityArrows")) {
-  auto* row = new QHBoxLayout(this);
-  for (int i = 0; i < kDirections; ++i) row->addWidget(Build_Direction(i), 1);
-  row->addWidget(arrows_, 1);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(Constant_Rows());
+  auto* row = new QHBoxLayout;
+  for (int i = 0; i < kDirections; ++i) row->addWidget(Build_Table(i), kTablePart);
+  arrows_->setMinimumWidth(kMapWidth);
+  row->addWidget(arrows_, kMapPart);
+  column->addLayout(row, 1);
 }
 
-QWidget* Field_Panel::Build_Direction(int i) {
+/// Above the tables and not each above its own: narrow tables leave room for the map.
+QLayout* Field_Panel::Constant_Rows() {
+  auto* grid = new QGridLayout;
+  for (int i = 0; i < kDirections; ++i) {
+    Check3D2(i)->setText(QStringLiteral("Initialize the %1-Direction Velocity field to a constant?")
+                             .arg(QLatin1String(kAxes[i])));
+    auto* entry = new QWidget(this);
+    Field_Rows rows(entry);
+    rows.layout()->setContentsMargins(0, 0, 0, 0);
+    QLabel* label = rows.Number("Constant Velocity to be Used (fps)", Text2(i), Real_Note);
+    label->setObjectName(QStringLiteral("Label2"));
+    label->setWordWrap(false);
+    Enable_Constant(i, false);
+    grid->addWidget(Check3D2(i), i, 0);
+    grid->addWidget(entry, i, 1);
+    connect(Check3D2(i), &QCheckBox::clicked, this, [this, i] { Check3D2_Click(i); });
+    connect(Text2(i), &QLineEdit::textChanged, this, [this, i] { Text2_Change(i); });
+  }
+  grid->setHorizontalSpacing(kBetweenEntries);
+  grid->setColumnStretch(2, 1);
+  return grid;
+}
+
+QWidget* Field_Panel::Build_Table(int i) {
   auto* part = new QWidget(this);
   auto* column = new QVBoxLayout(part);
   column->setContentsMargins(0, 0, 0, 0);
-  const QString axis = QLatin1String(kAxes[i]);
-  auto* entries = new QWidget(part);
-  Field_Rows rows(entries);
-  rows.layout()->setContentsMargins(0, 0, 0, 0);
-  Check3D2(i)->setText(
-      QStringLiteral("Initialize the %1-Direction Velocity field to a constant?").arg(axis));
-  rows.Whole_Row(Check3D2(i));
-  rows.Number("Constant Velocity to be Used (fps)", Text2(i), Real_Note)
-      ->setObjectName(QStringLiteral("Label2"));
-  Enable_Constant(i, false);
-  column->addWidget(entries);
-  F1Book2(i)->setAccessibleName(QStringLiteral("%1-Direction velocity field").arg(axis));
+  auto* caption =
+      new QLabel(QStringLiteral("%1-Direction velocity field").arg(QLatin1String(kAxes[i])), part);
+  caption->setBuddy(F1Book2(i));
+  column->addWidget(caption);
+  F1Book2(i)->setAccessibleName(caption->text());
   F1Book2(i)->setMinimumSize(kTableSize);
   F1Book2(i)->SetFocusCell(1, 1);
   F1Book2(i)->SetNumberNote(Real_Note);
@@ -65,8 +90,6 @@ QWidget* Field_Panel::Build_Direction(int i) {
   buttons->addWidget(csv.Export);
   buttons->addStretch();
   column->addLayout(buttons);
-  connect(Check3D2(i), &QCheckBox::clicked, this, [this, i] { Check3D2_Click(i); });
-  connect(Text2(i), &QLineEdit::textChanged, this, [this, i] { Text2_Change(i); });
   connect(F1Book2(i), &F1Book::Edited, this, &Field_Panel::Draw);
   return part;
 }
@@ -145,9 +168,10 @@ void Field_Panel::Read(Velocity_Entry& entry) const {
 
 std::vector<QWidget*> Field_Panel::Order() const {
   std::vector<QWidget*> order;
+  for (int i = 0; i < kDirections; ++i) order.insert(order.end(), {Check3D2(i), Text2(i)});
   for (int i = 0; i < kDirections; ++i) {
     const Grid_Csv_Buttons& csv = csv_[At(i)];
-    order.insert(order.end(), {Check3D2(i), Text2(i), F1Book2(i), csv.Import, csv.Export});
+    order.insert(order.end(), {F1Book2(i), csv.Import, csv.Export});
   }
   order.push_back(arrows_);
   return order;

@@ -22,7 +22,8 @@ class Field_Panel : public Velocity_Panel {
   void Fill(const Velocity_Entry& entry) override;
 
  private:
-  QWidget* Build_Direction(int direction);
+  QLayout* Constant_Rows();
+  QWidget* Build_Table(int direction);
   void Enable_Constant(int direction, bool enabled);
   double Constant(int direction) const;
   void Check3D2_Click(int direction);

@@ -199,7 +199,6 @@ void frmDescription::Check3D1_Click(int index) {
   const bool checked = Check3D1(index)->isChecked();
   Command2(index)->setEnabled(checked);
   if (index == kVariableDepth) {
-    fields_.Label({"Text1", kConstantDepth})->setEnabled(!checked);
     Text1(kConstantDepth)->setEnabled(!checked);
     if (!FillingForm) Choose_Variable_Depth(checked, record_);
   } else {

@@ -61,6 +61,7 @@ QWidget* frmGridDescrip::Grid_Frame() {
   auto* frame = new QGroupBox(QStringLiteral("Depth Grid. One Value/Gridpoint (ft)"), this);
   F1Book1->setAccessibleName(frame->title());
   F1Book1->setMinimumSize(kTableSize);
+  F1Book1->Ask_For_All_Rows();
   F1Book1->SetFocusCell(1, 1);
   F1Book1->SetNumberNote(Real_Note);
   map_->setMinimumWidth(kMapWidth);

@@ -15,6 +15,9 @@
 namespace barvon {
 namespace {
 
+/// With its fields it just fits a display 768 pixels high, without a scroll bar.
+constexpr QSize kSmallestCurve{440, 190};
+
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
 }  // namespace
@@ -29,7 +32,7 @@ Tidal_Panel::Tidal_Panel(ProjectRecord& record)
   F1Book3->setAccessibleName(QStringLiteral("Unsteady velocity profile"));
   F1Book3->SetNumberNote(Real_Note);
   row->addWidget(F1Book3);
-  tide_->setMinimumSize(kSmallestVelocityPicture);
+  tide_->setMinimumSize(kSmallestCurve);
   auto* right = new QVBoxLayout;
   auto* entries = new QWidget(this);
   Field_Rows rows(entries);

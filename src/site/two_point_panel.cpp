@@ -10,6 +10,11 @@
 #include "site/velocity_tables.h"
 
 namespace barvon {
+namespace {
+
+constexpr QSize kSmallestProfile{440, 250};
+
+}  // namespace
 
 Two_Point_Panel::Two_Point_Panel(ProjectRecord& record)
     : Velocity_Panel("2-Point Profile", "velocity_two_point", record),
@@ -19,7 +24,7 @@ Two_Point_Panel::Two_Point_Panel(ProjectRecord& record)
   auto* column = new QVBoxLayout;
   row->addLayout(column);
   row->addWidget(profile_, 1);
-  profile_->setMinimumSize(kSmallestVelocityPicture);
+  profile_->setMinimumSize(kSmallestProfile);
   F1Book1->setAccessibleName(QStringLiteral("Two-point velocity profile"));
   F1Book1->SetFocusCell(1, 1);
   F1Book1->SetNumberNote(Real_Note);

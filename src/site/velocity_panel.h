@@ -41,6 +41,10 @@ class Velocity_Panel : public QGroupBox {
   /// Its controls in the order of Tab.
   virtual std::vector<QWidget*> Order() const = 0;
 
+  /// Its labels wrap, but a scroll area that asked them for the height would take the picture's
+  /// wish for its need, and scroll where there is room.
+  bool hasHeightForWidth() const override { return false; }
+
  protected:
   virtual void Fill(const Velocity_Entry& entry) = 0;
   bool Is_Filling() const { return filling_; }
@@ -70,8 +74,6 @@ class Filled_Field {
 /// `filled`.
 std::vector<Field_Face> Faces_With_Notes(Field_Table table, std::span<const Filled_Field> filled,
                                          const ProjectRecord& record);
-
-inline constexpr QSize kSmallestVelocityPicture{440, 250};
 
 /// As wide as all its columns: none is ever out of sight.
 void Show_All_Columns(F1Book* table);

@@ -14,7 +14,6 @@
 #include "core/desk/settings_keys.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
-#include "platform/files/profile_settings.h"
 #include "platform/qt/fields/option_paint.h"
 #include "run/run_driver.h"
 #include "run/view_results.h"
@@ -142,8 +141,7 @@ void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   const bool marked = Action_Of(controls, "mnuOptionItem", index)->isChecked();
   if (index == kWizardHelp) {
     record.WizardHelpOn = marked ? kTrue : kFalse;
-    Write_Profile_String(Settings_Path(), kHelpStatusSection, kHelpOnKey,
-                         marked ? "On  " : "Off  ");
+    Write_Setting(kHelpStatusSection, kHelpOnKey, marked ? "On  " : "Off  ");
   } else {
     record.AlwaysSaveBeforeRun = marked ? kTrue : kFalse;
   }

@@ -299,7 +299,7 @@ TEST_F(ErrorListScreen, Keys_Alone_Reach_The_First_Finding_And_The_Next) {
   Current_Errors().Add("two", "frmOperation!Text1(2)");
   Open();
   EXPECT_EQ(List().focusWidget(), &List1());
-  QTest::keyClick(&List1(), Qt::Key_Space);
+  QTest::keyClick(&List1(), Qt::Key_Down);
   QTest::keyClick(&List1(), Qt::Key_Return);
   QTest::keyClick(&List1(), Qt::Key_Down);
   QTest::keyClick(&List1(), Qt::Key_Return);
@@ -323,12 +323,41 @@ TEST_F(ErrorListScreen, The_Description_Opens_The_Topic_Of_The_Selected_Finding)
   for (const Help_Request& request : asked) EXPECT_EQ(request.command, Help_Command::Context);
 }
 
-TEST_F(ErrorListScreen, The_Description_Of_Nothing_Selected_Is_Not_Asked_For) {
+TEST_F(ErrorListScreen, The_Description_Of_Nothing_Selected_Says_What_To_Do) {
   Current_Errors().Add("one", "frmSimulation!Text1(0)", 3000);
   Open();
+  Scripted_Messages messages({Answer::Ok});
   Press_Button("SSCommand1(0)");
   EXPECT_TRUE(asked.empty());
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Please choose a line of the list first: by a click, or by the arrow keys while the "
+            "list has the keyboard.");
   EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(ErrorListScreen, No_Line_Looks_Chosen_Until_One_Is) {
+  Current_Errors().Add("one", "frmSimulation!Text1(0)", 3000);
+  for (int opening = 0; opening < 2; ++opening) {
+    Open();
+    ASSERT_TRUE(Has_Keyboard(&List()));
+    EXPECT_EQ(List().focusWidget(), &List1());
+    EXPECT_FALSE(List1().currentIndex().isValid());
+    EXPECT_TRUE(List1().selectedItems().isEmpty());
+    QTest::keyClick(&List1(), Qt::Key_Down);
+    EXPECT_EQ(List1().currentRow(), 0);
+    EXPECT_EQ(List1().selectedItems().size(), 1);
+    List().close();
+  }
+}
+
+TEST_F(ErrorListScreen, An_Empty_List_Has_Nothing_To_Describe) {
+  Open();
+  EXPECT_FALSE(List().findChild<QPushButton*>("SSCommand1(0)")->isEnabled());
+  ProjectRecord record = Sound_Project();
+  record.RHDA0 = 0;
+  Check_Project(record);
+  EXPECT_TRUE(List().findChild<QPushButton*>("SSCommand1(0)")->isEnabled());
 }
 
 TEST_F(ErrorListScreen, Close_Closes_And_It_Opens_Again_With_The_Latest_Findings) {

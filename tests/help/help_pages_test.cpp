@@ -104,6 +104,20 @@ TEST(HelpPages, Every_Page_Has_A_Title_And_A_Worked_Example_If_It_Is_A_Screens) 
   }
 }
 
+TEST(HelpPages, No_Title_Shows_The_Name_That_A_Screen_Has_Inside) {
+  for (const std::string& page : Help_Pages()) {
+    const std::string text = Read_Text(kHelpFolder + page);
+    for (const char* pattern : {"<title>([^<]+)</title>", "<h1[^>]*>([^<]+)</h1>"}) {
+      for (const std::string& title : All(text, pattern)) {
+        for (const Screen_Row& screen : kScreens) {
+          EXPECT_EQ(title.find("(" + std::string(screen.name) + ")"), std::string::npos) << title;
+        }
+        EXPECT_FALSE(std::regex_search(title, std::regex("\\bfrm|_"))) << title;
+      }
+    }
+  }
+}
+
 /// Pieces of the messages that the rules put together: the texts in a rule's source that hold a
 /// blank.
 std::vector<std::string> Message_Texts(const std::string& source) {

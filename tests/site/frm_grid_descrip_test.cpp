@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QGroupBox>
+#include <QScreen>
 #include <QTest>
 #include <memory>
 #include <optional>
@@ -510,6 +511,20 @@ TEST_F(DepthScreen, Tab_Walks_In_Reading_Order) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), button);
   }
+}
+
+TEST_F(DepthScreen, The_Largest_Grid_Opens_As_High_As_The_Display_Allows) {
+  Open();
+  const int small = Screen()->height();
+  Click(Command1(1));
+  record.NMAX0 = record.MMAX0 = 96;
+  Open();
+  const int display = Screen()->screen()->availableGeometry().height();
+  EXPECT_GT(Screen()->height(), small);
+  EXPECT_GE(Screen()->height(), display * 92 / 100);
+  EXPECT_LT(Screen()->height(), display);
+  EXPECT_TRUE(Screen()->rect().contains(Command1(0)->geometry()));
+  EXPECT_LE(Screen()->minimumHeight(), small) << "it can be made smaller again";
 }
 
 TEST_F(DepthScreen, The_Largest_Grid_Opens_And_Stores) {

@@ -1,5 +1,7 @@
 #include "site/frm_velocity.h"
 
+#include <QScrollBar>
+
 #include "core/desk/workspace_port.h"
 #include "pictures/two_point_profile.h"
 #include "platform/qt/fields/number_field.h"
@@ -106,6 +108,38 @@ TEST_F(VelocityScreen, Is_As_Wide_By_Its_Option_As_By_Opening) {
       Press_Command(1);
     }
   }
+}
+
+TEST_F(VelocityScreen, A_Large_Field_Is_As_Large_By_Its_Option_As_By_Opening) {
+  record.NMAX0 = record.MMAX0 = 96;
+  Open(4);
+  const QSize opened = Screen()->size();
+  Choose(0);
+  Choose(2);
+  EXPECT_EQ(Screen()->size(), opened);
+}
+
+TEST_F(VelocityScreen, No_Form_Scrolls_On_A_Display_Of_1024_By_768) {
+  record.NMAX0 = record.MMAX0 = 96;
+  Open(1);
+  for (int option = 0; option < 4; ++option) {
+    Choose(option);
+    Screen()->resize(952, 714);  // what a screen takes of such a display
+    QApplication::processEvents();
+    const auto* forms = Screen()->findChild<QScrollArea*>();
+    EXPECT_FALSE(forms->verticalScrollBar()->isVisible()) << option;
+    EXPECT_FALSE(forms->horizontalScrollBar()->isVisible()) << option;
+  }
+}
+
+TEST_F(VelocityScreen, The_Map_Of_A_Field_Has_Room_Beside_The_Tables) {
+  record.NMAX0 = record.MMAX0 = 96;
+  Open(4);
+  Screen()->resize(952, 714);
+  QApplication::processEvents();
+  const auto* map = Screen()->findChild<QWidget*>("VelocityArrows");
+  EXPECT_GE(map->width(), 340);
+  EXPECT_GE(map->height(), 240);
 }
 
 TEST_F(VelocityScreen, On_A_Small_Display_The_Forms_Scroll_And_The_Buttons_Stay_In_Reach) {

@@ -64,8 +64,9 @@ Recorded_Workspace::~Recorded_Workspace() {
 }
 
 void Recorded_Workspace::Write_Recent(int entry, const std::string& value) {
-  ASSERT_TRUE(Write_Profile_String(folder_ / "BARVON.INI", "Recent Files",
-                                   "RecentFile" + std::to_string(entry), value));
+  ASSERT_EQ(Write_Profile_String(folder_ / "BARVON.INI", "Recent Files",
+                                 "RecentFile" + std::to_string(entry), value),
+            0);
 }
 
 void Recorded_Workspace::Fill_Recent_Menu(const std::vector<std::string>& paths) {

@@ -6,7 +6,6 @@
 #include "core/desk/settings_keys.h"
 #include "core/desk/workspace_port.h"
 #include "core/text_tools.h"
-#include "platform/files/profile_settings.h"
 #include "platform/text/letter_case.h"
 
 namespace barvon {
@@ -24,12 +23,10 @@ Recent_List& Menu() {
 
 std::string Entry_Key(int i) { return kRecentFileKey + std::to_string(i); }
 
-std::string Read_Entry(int i) {
-  return Read_Profile_String(Settings_Path(), kRecentFilesSection, Entry_Key(i), kNotUsed);
-}
+std::string Read_Entry(int i) { return Read_Setting(kRecentFilesSection, Entry_Key(i), kNotUsed); }
 
 void Write_Entry(int i, const std::string& value) {
-  Write_Profile_String(Settings_Path(), kRecentFilesSection, Entry_Key(i), value);
+  Write_Setting(kRecentFilesSection, Entry_Key(i), value);
 }
 
 bool Is_File(const std::string& value) { return !value.empty() && !value.starts_with(kNotUsed); }

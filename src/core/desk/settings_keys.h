@@ -23,6 +23,15 @@ inline constexpr char kSimTypeKey[] = "SimType";
 /// BARVON.INI in the application directory, under whatever case its name has there.
 std::string Settings_Path();
 
+/// A value of BARVON.INI; `fallback` when there is none.
+std::string Read_Setting(const std::string& section, const std::string& key,
+                         const std::string& fallback);
+
+/// Sets a value in BARVON.INI. False when it is not in the file. If the file can't be written, the
+/// user is told, once for as long as the program runs; the value is kept, is read as if it were in
+/// the file, and goes there with the next one that can be written.
+bool Write_Setting(const std::string& section, const std::string& key, const std::string& value);
+
 /// Hands the project to the graphics program: GraphFile in the settings. False when it could not
 /// be written.
 bool Write_Graph_File(const std::string& project_path);

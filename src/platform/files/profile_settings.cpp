@@ -134,15 +134,15 @@ std::string Read_Profile_String(const std::string& path, const std::string& sect
   return Value_From(std::string_view(text).substr(place.value, place.value_end - place.value));
 }
 
-bool Write_Profile_String(const std::string& path, const std::string& section,
-                          const std::string& key, const std::string& value) {
-  if (!Can_Be_Written(section, key, value)) return false;
+int Write_Profile_String(const std::string& path, const std::string& section,
+                         const std::string& key, const std::string& value) {
+  if (!Can_Be_Written(section, key, value)) return EINVAL;
   std::string text;
   const int error = Read_Whole_File(path, text);
   // A file that is there but can't be read must not be replaced by one with a single key.
-  if (error != 0 && error != ENOENT) return false;
+  if (error != 0 && error != ENOENT) return error;
   const std::string changed = With_Value(text, section, key, value);
-  return (error == 0 && changed == text) || Write_Whole_File(path, changed) == 0;
+  return error == 0 && changed == text ? 0 : Write_Whole_File(path, changed);
 }
 
 }  // namespace barvon

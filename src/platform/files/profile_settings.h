@@ -15,8 +15,9 @@ std::string Read_Profile_String(const std::string& path, const std::string& sect
                                 const std::string& key, const std::string& fallback);
 
 /// Sets one key. A missing file, section or key is made; every other line keeps its text and its
-/// place. The file is replaced whole or left as it was; false when it could not be written.
-bool Write_Profile_String(const std::string& path, const std::string& section,
-                          const std::string& key, const std::string& value);
+/// place. The file is replaced whole or left as it was. 0 or an errno value: EINVAL for a text that
+/// can't stand there, one with a line break for instance.
+int Write_Profile_String(const std::string& path, const std::string& section,
+                         const std::string& key, const std::string& value);
 
 }  // namespace barvon

@@ -130,7 +130,7 @@ void Input_Screen::Fit_To_Contents() {
   const QSize room = screen()->availableSize() * kPartOfDisplay;
   resize(size.boundedTo(room).expandedTo(layout()->totalMinimumSize()));
   // A window's own minimum leaves out what labels that wrap need in height.
-  if (wraps) setMinimumSize(width(), layout()->totalHeightForWidth(width()));
+  if (wraps) setMinimumSize(width(), layout()->totalMinimumHeightForWidth(width()));
 }
 
 // Only now do the controls have their final fonts and headings.

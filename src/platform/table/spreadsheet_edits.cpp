@@ -1,5 +1,7 @@
 #include "platform/table/spreadsheet_edits.h"
 
+#include <utility>
+
 #include "platform/text/counted.h"
 
 namespace barvon {
@@ -38,6 +40,32 @@ std::optional<Cell_Range> In_Table(const Spreadsheet_Table& table, const Cell_Ra
   return Shared(range, {1, 1, table.MaxRow(), table.MaxCol()});
 }
 
+/// The cells that a paste would write, or why it can't be done.
+Edit_Outcome Paste_Target(const Spreadsheet_Table& table, const Cell_Range& range,
+                          const Text_Block& cells) {
+  const std::optional<Cell_Range> selected = In_Table(table, range);
+  const std::size_t rows = cells.size();
+  const std::size_t cols = Width_Of(cells);
+  if (!selected || cols == 0) return {};
+  if (std::string refusal = Fixed_Refusal(table, *selected); !refusal.empty()) {
+    return {std::nullopt, std::move(refusal)};
+  }
+  if (static_cast<std::size_t>(selected->rows()) % rows == 0 &&
+      static_cast<std::size_t>(selected->cols()) % cols == 0) {
+    return {selected, ""};
+  }
+  const auto rows_left = static_cast<std::size_t>(table.MaxRow() - selected->row1) + 1;
+  const auto cols_left = static_cast<std::size_t>(table.MaxCol() - selected->col1) + 1;
+  if (rows > rows_left || cols > cols_left) {
+    return {std::nullopt, "What is to be pasted has " + Size_Text(rows, cols) +
+                              ".  From the chosen cell on the table has " +
+                              Size_Text(rows_left, cols_left) + ".  Nothing was pasted."};
+  }
+  return {Cell_Range{selected->row1, selected->col1, selected->row1 + static_cast<int>(rows) - 1,
+                     selected->col1 + static_cast<int>(cols) - 1},
+          ""};
+}
+
 }  // namespace
 
 bool Can_Edit(const Spreadsheet_Table& table, int row, int col) {
@@ -56,32 +84,23 @@ Edit_Outcome Clear_Cells(Spreadsheet_Table& table, const Cell_Range& range) {
   return Write(table, *cells, [](int, int) { return std::string(); });
 }
 
+std::string Paste_Refusal(const Spreadsheet_Table& table, const Cell_Range& range,
+                          const Text_Block& cells) {
+  return Paste_Target(table, range, cells).refusal;
+}
+
 Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                          const Text_Block& cells) {
-  const std::optional<Cell_Range> target = In_Table(table, range);
+  const Edit_Outcome target = Paste_Target(table, range, cells);
+  if (!target.changed) return target;
   const std::size_t rows = cells.size();
   const std::size_t cols = Width_Of(cells);
-  if (!target || cols == 0) return {};
   const std::string empty;
-  const auto text_of = [&](int row, int col) -> const std::string& {
+  return Write(table, *target.changed, [&](int row, int col) -> const std::string& {
     const auto& texts = cells[static_cast<std::size_t>(row) % rows];
     const std::size_t at = static_cast<std::size_t>(col) % cols;
     return at < texts.size() ? texts[at] : empty;
-  };
-  if (static_cast<std::size_t>(target->rows()) % rows == 0 &&
-      static_cast<std::size_t>(target->cols()) % cols == 0) {
-    return Write(table, *target, text_of);
-  }
-  const auto rows_left = static_cast<std::size_t>(table.MaxRow() - target->row1) + 1;
-  const auto cols_left = static_cast<std::size_t>(table.MaxCol() - target->col1) + 1;
-  if (rows > rows_left || cols > cols_left) {
-    return {std::nullopt, "What is to be pasted has " + Size_Text(rows, cols) +
-                              ".  From the chosen cell on the table has " +
-                              Size_Text(rows_left, cols_left) + ".  Nothing was pasted."};
-  }
-  const Cell_Range written{target->row1, target->col1, target->row1 + static_cast<int>(rows) - 1,
-                           target->col1 + static_cast<int>(cols) - 1};
-  return Write(table, written, text_of);
+  });
 }
 
 Text_Block Copied_Cells(const Spreadsheet_Table& table, const Cell_Range& range) {

@@ -29,6 +29,10 @@ Edit_Outcome Clear_Cells(Spreadsheet_Table& table, const Cell_Range& range);
 Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                          const Text_Block& cells);
 
+/// Why Paste_Cells would refuse; "" when it would not.
+std::string Paste_Refusal(const Spreadsheet_Table& table, const Cell_Range& range,
+                          const Text_Block& cells);
+
 /// What is copied from the cells of the range that are in the table: numbers plain, at full
 /// precision as far as 15 digits go, texts as they were written.
 Text_Block Copied_Cells(const Spreadsheet_Table& table, const Cell_Range& range);

@@ -1,5 +1,10 @@
 #include "core/desk/settings_keys.h"
 
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "core/desk/recent_files.h"
 #include "support/recorded_workspace.h"
 
 namespace barvon {
@@ -22,6 +27,55 @@ TEST_F(SettingsKeys, The_Graphics_Program_Finds_The_Project_Under_GraphFile) {
   EXPECT_TRUE(Write_Graph_File("/data/a.dui"));
   EXPECT_TRUE(Write_Graph_File("/data/b.dui"));
   EXPECT_EQ(Settings(), "[Graph File]\r\nGraphFile=/data/b.dui\r\n");
+}
+
+/// A folder of the settings' name can't be written by anyone.
+class SettingsThatCanNotBeWritten : public SettingsKeys {
+ protected:
+  SettingsThatCanNotBeWritten() { std::filesystem::create_directory(path_); }
+  std::string path_ = folder_ / "BARVON.INI";
+};
+
+TEST_F(SettingsThatCanNotBeWritten, Are_Told_Once_With_Their_File) {
+  Scripted_Messages messages({Answer::Ok});
+  EXPECT_FALSE(Write_Setting("A", "k", "1"));
+  EXPECT_FALSE(Write_Graph_File("/data/a.dui"));
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Can't write the settings to " + path_ +
+                ": Path not usable.\n\nRecent files and options are kept until BARVON is closed.  "
+                "As soon as the file can be written they go there.");
+  EXPECT_EQ(messages.shown[0].icon, Icon::Warning);
+}
+
+TEST_F(SettingsThatCanNotBeWritten, Are_Kept_And_Go_To_The_File_With_The_Next_One_That_Can) {
+  Scripted_Messages messages({Answer::Ok});
+  Write_Setting("A", "k", "1");
+  Write_Setting("A", "k", "2");
+  Write_Setting("A", "other", "3");
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "2");
+  EXPECT_EQ(Read_Setting("A", "missing", "none"), "none");
+  std::filesystem::remove(path_);
+  EXPECT_TRUE(Write_Setting("A", "other", "4"));
+  EXPECT_EQ(Settings(), "[A]\r\nother=4\r\nk=2\r\n");
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "2");
+}
+
+TEST_F(SettingsThatCanNotBeWritten, Still_Show_A_File_Among_The_Recent_Ones) {
+  Scripted_Messages messages({Answer::Ok});
+  WriteRecentFiles("/data/a.dui");
+  WriteRecentFiles("/data/b.dui");
+  GetRecentFiles();
+  EXPECT_EQ(Recent_Menu()[1], "/data/b.dui");
+  EXPECT_EQ(Recent_Menu()[2], "/data/a.dui");
+  EXPECT_EQ(messages.shown.size(), 1U);
+}
+
+TEST_F(SettingsKeys, A_Text_That_Can_Not_Stand_There_Is_No_Fault_Of_The_File) {
+  Scripted_Messages messages;
+  EXPECT_FALSE(Write_Setting("A", "k", "two\nlines"));
+  EXPECT_TRUE(messages.shown.empty());
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "none");
 }
 
 }  // namespace

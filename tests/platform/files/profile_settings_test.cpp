@@ -22,7 +22,7 @@ class ProfileSettings : public ::testing::Test {
     return Read_Profile_String(path_, section, key, "fallback");
   }
   bool Write(const std::string& section, const std::string& key, const std::string& value) const {
-    return Write_Profile_String(path_, section, key, value);
+    return Write_Profile_String(path_, section, key, value) == 0;
   }
   void Hold(const std::string& text) const { Write_Text(path_, text); }
   std::string Text() const { return Read_Text(path_); }

@@ -35,5 +35,15 @@ TEST(LightPalette, Blue_And_Black_Are_Readable_Even_After_A_Dark_Desktop_Palette
   EXPECT_EQ(former.color(QPalette::Window), palette.color(QPalette::Window));
 }
 
+TEST(LightPalette, A_Disabled_Field_Differs_From_An_Enabled_One_And_Stays_Readable) {
+  const QPalette palette = QApplication::palette();
+  const QColor ground = palette.color(QPalette::Disabled, QPalette::Base);
+  EXPECT_GE(Contrast(ground, palette.color(QPalette::Active, QPalette::Base)), 1.2);
+  for (const auto role : {QPalette::Text, QPalette::WindowText}) {
+    EXPECT_GE(Contrast(palette.color(QPalette::Disabled, role), ground), 3);
+    EXPECT_GE(Contrast(palette.color(QPalette::Disabled, role), kBlack), 4.5);
+  }
+}
+
 }  // namespace
 }  // namespace barvon

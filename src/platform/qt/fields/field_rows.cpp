@@ -1,5 +1,6 @@
 #include "platform/qt/fields/field_rows.h"
 
+#include <QEvent>
 #include <utility>
 
 namespace barvon {
@@ -13,6 +14,23 @@ QString Without_Mnemonic(QString text) {
       .remove(QLatin1Char('&'))
       .replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
+
+/// Enables and disables a label with its control.
+class Label_State : public QObject {
+ public:
+  Label_State(QLabel* label, QWidget* control) : QObject(label), label_(label), control_(control) {
+    control->installEventFilter(this);
+    label->setEnabled(control->isEnabled());
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::EnabledChange) label_->setEnabled(control_->isEnabled());
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QLabel* label_;
+  QWidget* control_;
+};
 
 /// Fields of numbers are as wide as each other, typed or shown.
 void Size_For_Number(QLineEdit* field) {
@@ -67,6 +85,7 @@ QLabel* Field_Rows::Add(const QString& text, QWidget* control) {
   auto* label = new QLabel(grid_->parentWidget());
   label->setWordWrap(true);
   label->setBuddy(control);
+  new Label_State(label, control);
   Rename(label, text);
   const int row = grid_->rowCount();
   grid_->addWidget(label, row, 0);

@@ -13,7 +13,8 @@ namespace barvon {
 ///     rows.Number("Bottom Slope (deg)", Text1(6), Real_Note, "SLOPEX0");
 ///     rows.Text("Name of the Site", Text3, 20);
 ///
-/// The label names the field to assistive tools and takes its mnemonic; rows are in Tab order.
+/// The label names the field to assistive tools, takes its mnemonic and is grey while the field is
+/// disabled; rows are in Tab order.
 class Field_Rows {
  public:
   /// Lays out the frame, which must have no layout yet; the fields become its children.

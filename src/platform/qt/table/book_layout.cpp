@@ -1,6 +1,7 @@
 #include "platform/qt/table/book_layout.h"
 
 #include <QHeaderView>
+#include <QLayout>
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <algorithm>
@@ -24,7 +25,7 @@ int Digit_Pixels(const QWidget& widget) {
 }  // namespace
 
 Book_Layout::Book_Layout(QTableView& view, const Spreadsheet_Table& table)
-    : QObject(&view), view_(view), table_(table) {
+    : QObject(&view), view_(view), table_(table), largest_height_(kLargestHintHeight) {
   view_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
           [this](int col, int, int width) {
@@ -44,7 +45,18 @@ void Book_Layout::Lay_Out() {
     const auto dragged = dragged_.find(col);
     view_.setColumnWidth(col - 1, dragged == dragged_.end() ? Column_Pixels(col) : dragged->second);
   }
+  Tell_Size();
+}
+
+/// To everything around that is not in view yet: the toolkit tells it of no new hint, and a screen
+/// would open with the size of an empty table.
+void Book_Layout::Tell_Size() {
   view_.updateGeometry();
+  for (QWidget* around = view_.parentWidget(); around != nullptr && !around->isVisible();
+       around = around->parentWidget()) {
+    if (around->layout() != nullptr) around->layout()->activate();
+    around->updateGeometry();
+  }
 }
 
 void Book_Layout::Lay_Out_Later() {
@@ -84,9 +96,14 @@ QSize Book_Layout::Size_Hint() const {
   // A table that scrolls in one direction must not do so in the other for the bar's sake.
   const int bar = view_.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const QSize frame(2 * view_.frameWidth(), 2 * view_.frameWidth());
-  return QSize(std::min(width + (height > kLargestHintHeight ? bar : 0), kLargestHintWidth),
-               std::min(height + (width > kLargestHintWidth ? bar : 0), kLargestHintHeight)) +
+  return QSize(std::min(width + (height > largest_height_ ? bar : 0), kLargestHintWidth),
+               std::min(height + (width > kLargestHintWidth ? bar : 0), largest_height_)) +
          frame;
+}
+
+void Book_Layout::Ask_For_All_Rows() {
+  largest_height_ = QWIDGETSIZE_MAX;
+  Tell_Size();
 }
 
 }  // namespace barvon

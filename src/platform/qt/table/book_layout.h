@@ -21,13 +21,17 @@ class Book_Layout : public QObject {
   void Lay_Out_Later();
   /// Room for a small table as a whole; a large one scrolls.
   QSize Size_Hint() const;
+  /// From now on the hint has room for all rows, however many.
+  void Ask_For_All_Rows();
 
  private:
   int Row_Pixels() const;
   int Column_Pixels(int col) const;
+  void Tell_Size();
 
   QTableView& view_;
   const Spreadsheet_Table& table_;
+  int largest_height_;
   bool due_ = false;
   bool laying_out_ = false;
   std::map<int, int> dragged_;  // pixels, by column from 1

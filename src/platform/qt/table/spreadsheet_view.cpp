@@ -100,7 +100,13 @@ void F1Book::Cut() {
 
 void F1Book::Copy() { Set_Clipboard_Cells(Copied_Cells(table_, table_.SelectedRange())); }
 
-void F1Book::Paste() { Finish(Paste_Cells(table_, table_.SelectedRange(), Clipboard_Cells())); }
+void F1Book::Paste() {
+  Text_Block cells = Clipboard_Cells();
+  // What is refused is not asked about first.
+  const bool fits = Paste_Refusal(table_, table_.SelectedRange(), cells).empty();
+  if (fits && !Agree_On_Commas(cells)) return;
+  Finish(Paste_Cells(table_, table_.SelectedRange(), cells));
+}
 
 void F1Book::Clear() { Finish(Clear_Cells(table_, table_.SelectedRange())); }
 
@@ -262,5 +268,7 @@ void F1Book::changeEvent(QEvent* event) {
 }
 
 QSize F1Book::sizeHint() const { return layout_->Size_Hint(); }
+
+void F1Book::Ask_For_All_Rows() { layout_->Ask_For_All_Rows(); }
 
 }  // namespace barvon

@@ -73,6 +73,9 @@ class F1Book : public QTableView {
 
   /// Room for a small table as a whole; a large one scrolls.
   QSize sizeHint() const override;
+  /// For a table that is the screen's main matter: it asks for room for all its rows, and the
+  /// display is the limit.
+  void Ask_For_All_Rows();
   void keyboardSearch(const QString&) override {}
 
  signals:

@@ -150,5 +150,27 @@ TEST(FieldRows, Any_Control_Can_Have_A_Label) {
   EXPECT_EQ(box->accessibleName(), "Printed");
 }
 
+TEST_F(TableFields, A_Label_Is_Disabled_With_Its_Field) {
+  const QLabel* length = fields.Label({"Text1", 1});
+  const QLabel* width = fields.Label({"Text1", 0});
+  Text1(1)->setEnabled(false);
+  EXPECT_FALSE(length->isEnabled());
+  EXPECT_TRUE(width->isEnabled());
+  vessel->setEnabled(false);
+  EXPECT_FALSE(width->isEnabled());
+  Text1(1)->setEnabled(true);
+  vessel->setEnabled(true);
+  EXPECT_TRUE(length->isEnabled());
+  EXPECT_TRUE(width->isEnabled());
+}
+
+TEST_F(TableFields, A_Field_That_Is_Disabled_Before_It_Has_A_Label_Disables_It_Too) {
+  QWidget frame;
+  Field_Rows late(&frame);
+  auto* field = new QLineEdit;
+  field->setEnabled(false);
+  EXPECT_FALSE(late.Text("Port", field)->isEnabled());
+}
+
 }  // namespace
 }  // namespace barvon::testing

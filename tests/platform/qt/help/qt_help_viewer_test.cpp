@@ -63,7 +63,7 @@ class HelpViewer : public ::testing::Test {
 TEST_F(HelpViewer, Context_Shows_The_Page_Of_The_Topic) {
   Ask(Help_Command::Context, 2460);
   EXPECT_EQ(Shown(), "site-description.html");
-  EXPECT_EQ(Window()->windowTitle(), "Disposal Site Data (frmDescription) - BARVON Help");
+  EXPECT_EQ(Window()->windowTitle(), "Disposal Site Data - BARVON Help");
   EXPECT_TRUE(Window()->page().toPlainText().contains("Roughness Height (ft) at Bottom"));
   Ask(Help_Command::Context, 3000);
   EXPECT_EQ(Shown(), "timing.html");
@@ -134,8 +134,8 @@ TEST_F(HelpViewer, A_Keyword_Of_Several_Pages_Asks_Which) {
   Modal_Replies replies({[](QWidget* window) {
     auto* question = qobject_cast<QInputDialog*>(window);
     ASSERT_NE(question, nullptr);
-    EXPECT_TRUE(question->comboBoxItems().contains("Dredging Site Water Density (frmDensity)"));
-    question->setTextValue("Dredging Site Water Density (frmDensity)");
+    EXPECT_TRUE(question->comboBoxItems().contains("Dredging Site Water Density"));
+    question->setTextValue("Dredging Site Water Density");
     question->accept();
   }});
   QTest::keyClick(Child<QLineEdit>("HelpKey"), Qt::Key_Return);

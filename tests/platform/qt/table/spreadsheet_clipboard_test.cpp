@@ -72,6 +72,53 @@ TEST_F(SpreadsheetView, A_Paste_That_Does_Not_Fit_Is_Refused_In_Words) {
   EXPECT_TRUE(edits.empty());
 }
 
+TEST_F(SpreadsheetView, Pasted_Decimal_Commas_Become_Points_On_Yes) {
+  Scripted_Messages messages({Answer::Yes});
+  Set_Clipboard("1,5\t2\n0,25\t3\n");
+  Start_At(2, 2);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  ASSERT_EQ(messages.shown.size(), 1U) << "once for the block";
+  EXPECT_EQ(messages.shown[0].text,
+            "There are commas in the numbers to be pasted: 1,5; 0,25\n\nAre they decimal points?  "
+            "Yes pastes a point for each comma.  No pastes the numbers as they stand, and each is "
+            "read up to its comma.");
+  EXPECT_EQ(messages.shown[0].buttons, Buttons::YesNoCancel);
+  EXPECT_EQ(cells(), ",,/,1.5,2/,0.25,3/,,/");
+  EXPECT_EQ(edits, std::vector<std::string>{"B2:C3"});
+}
+
+TEST_F(SpreadsheetView, Pasted_Decimal_Commas_Stay_On_No_And_Cancel_Pastes_Nothing) {
+  Scripted_Messages messages({Answer::Cancel, Answer::No});
+  Set_Clipboard("1,5");
+  Start_At(2, 2);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(table().TextRC(2, 2), "");
+  EXPECT_TRUE(edits.empty());
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(table().TextRC(2, 2), "1,5");
+}
+
+TEST_F(SpreadsheetView, The_Question_On_Commas_Shows_The_First_Three_Numbers) {
+  Scripted_Messages messages({Answer::No, Answer::No});
+  Start_At(1, 1);
+  for (const char* copied : {"1,1\t2,2\nx\t3,3\n", "1,1\t2,2\n3,3\t4,4\n"}) {
+    Set_Clipboard(copied);
+    Key(Qt::Key_V, Qt::ControlModifier);
+  }
+  ASSERT_EQ(messages.shown.size(), 2U);
+  EXPECT_NE(messages.shown[0].text.find(": 1,1; 2,2; 3,3\n"), std::string::npos);
+  EXPECT_NE(messages.shown[1].text.find(": 1,1; 2,2; 3,3; ...\n"), std::string::npos);
+}
+
+TEST_F(SpreadsheetView, A_Paste_That_Does_Not_Fit_Is_Not_Asked_About) {
+  Scripted_Messages messages({Answer::Ok});
+  Set_Clipboard("1,5\n2,5\n");
+  Start_At(4, 2);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
+}
+
 TEST_F(SpreadsheetView, A_Clipboard_Without_Text_Pastes_Nothing) {
   table().TextRC(1, 1, "a");
   Start_At(1, 1);
