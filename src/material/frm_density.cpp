@@ -68,7 +68,7 @@ void frmDensity::Command1_Click(int index) {
     Save_Data(entry, record_);
     fields_.Show(entry.texts);
     Unload();
-    Accept_Screen(kScreen, isModal(), record_);
+    Accept_Screen(kScreen, record_);
   } else if (index == kCancel) {
     Reset_Vars(copy_, record_);
     Unload();

@@ -234,8 +234,12 @@ void frmDescription::Save() {
   if (needed != points) Set_Text1(kDensityPoints, needed);
   SaveSiteData(entry, table, record_);
   Show_Profile();
-  if (ready_to_close) Unload();
-  Accept_Screen(kScreen, isModal(), record_);
+  if (ready_to_close) {
+    Unload();
+  } else {
+    Controls_Are_Stored();
+  }
+  Accept_Screen(kScreen, record_);
 }
 
 void frmDescription::Reset() {

@@ -151,7 +151,7 @@ void frmGridDescrip::F1Book1_EndEdit() {
 void frmGridDescrip::Save() {
   SaveDepthGrid(Entry(), F1Book1->table(), record_);
   Unload();
-  Accept_Screen(kScreen, isModal(), record_);
+  Accept_Screen(kScreen, record_);
 }
 
 Depth_Grid_Entry frmGridDescrip::Entry() const {

@@ -186,7 +186,7 @@ void frmVelocity::Save() {
   SaveVelocityData(entry, record_);
   if (panel != nullptr) panel->Stored();
   Unload();
-  Accept_Screen(kScreen, isModal(), record_);
+  Accept_Screen(kScreen, record_);
 }
 
 }  // namespace barvon

@@ -31,7 +31,7 @@ void Set_Status_Lines(const char* text, Status_Colour colour) {
 }
 
 void New_Project(ProjectRecord& record) {
-  if (!Reset_Vars(record)) return;
+  if (!Port().board.close_input_screens() || !Reset_Vars(record)) return;
   Show_Project(record);
   Set_Status_Lines(kDataNotEntered, Status_Colour::Black);
 }
@@ -87,7 +87,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
       if (File_Open_Dialog(record.FileKind, record)) Show_Opened(record);
       return;
     case kFileClose:
-      if (!Text_Changed_Prompt(record)) Reset_Vars(record);
+      if (Port().board.close_input_screens() && !Text_Changed_Prompt(record)) Reset_Vars(record);
       return;
     case kFileSave:
       return Save(record);
@@ -105,15 +105,18 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
   }
 }
 
+bool Open_From_Workspace(const std::string& path, ProjectRecord& record) {
+  if (!Port().board.close_input_screens()) return true;
+  if (!Open_Project(path, record)) return false;
+  Show_Opened(record);
+  return true;
+}
+
 void mnuRecentFile_Click(int index, ProjectRecord& record) {
   if (index < 1 || index > kRecentFiles) return;
   const std::string path = Recent_Menu()[static_cast<std::size_t>(index)];
   if (path.empty()) return;
-  if (Open_Project(path, record)) {
-    Show_Opened(record);
-  } else if (!Find_Path(path)) {
-    Remove_Recent(path);
-  }
+  if (!Open_From_Workspace(path, record) && !Find_Path(path)) Remove_Recent(path);
   GetRecentFiles();
 }
 

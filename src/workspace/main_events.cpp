@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -23,7 +24,9 @@
 #include "workspace/main_help.h"
 #include "workspace/main_menus.h"
 #include "workspace/menu_items.h"
+#include "workspace/open_screens.h"
 #include "workspace/option_events.h"
+#include "workspace/option_groups.h"
 #include "workspace/option_logic.h"
 
 namespace barvon {
@@ -229,39 +232,62 @@ using Option_State = bool (*)(const Main_Controls&, const ProjectRecord&);
 
 bool Always_Held(const Main_Controls&, const ProjectRecord&) { return true; }
 
+/// What a person does to a group of options between two clicks that are answered.
+struct Group_State {
+  bool switched_on =
+      false;  // a click on a set option is told as any other: only this tells them apart
+  std::optional<int> left = {};  // the option that gave way
+};
+
 /// Binds the options to what their click does. One that is set already does nothing, as long as
-/// the record still holds it.
+/// the record still holds it. Nor does one when a person wants to keep what was typed in a screen
+/// that follows the choice: the option before is shown again.
 void Connect_Group(Main_Controls& c, ProjectRecord& record,
-                   const ControlArray<QRadioButton>& options, Option_Click_Action click,
-                   Option_State is_held = Always_Held) {
+                   const ControlArray<QRadioButton>& options, unsigned choice,
+                   Option_Click_Action click, Option_State is_held = Always_Held) {
+  const auto state = std::make_shared<Group_State>();
   for (int i = options.first(); i <= options.last(); ++i) {
-    // A click on a set option is told as any other; only that it was switched on before is not.
-    const auto switched_on = std::make_shared<bool>(false);
-    QObject::connect(options(i), &QRadioButton::toggled, c.window,
-                     [switched_on](bool set) { *switched_on = set; });
+    QObject::connect(options(i), &QRadioButton::toggled, c.window, [state, i](bool set) {
+      state->switched_on = set;
+      if (!set) state->left = i;
+    });
     QObject::connect(options(i), &QRadioButton::clicked, c.window,
-                     [&c, &record, click, is_held, switched_on, i] {
-                       if (!std::exchange(*switched_on, false) && is_held(c, record)) return;
+                     [&c, &record, &options, choice, click, is_held, state, i] {
+                       const Group_State before = std::exchange(*state, {});
+                       if (!before.switched_on && is_held(c, record)) return;
+                       if (!Close_Screens_That_Follow(choice)) {
+                         Show_Option(options, before.switched_on ? before.left.value_or(-1) : i);
+                         return;
+                       }
                        record.DataSaved = kFalse;
                        click(c, record, i);
                      });
   }
 }
 
+/// The same for a tick box.
+void Connect_Box(Main_Controls& c, ProjectRecord& record, QCheckBox* box, unsigned choice,
+                 void (*click)(Main_Controls&, ProjectRecord&, bool)) {
+  QObject::connect(box, &QCheckBox::clicked, c.window, [&c, &record, box, choice, click](bool set) {
+    if (!Close_Screens_That_Follow(choice)) {
+      Show_Box(box, !set);
+      return;
+    }
+    record.DataSaved = kFalse;
+    click(c, record, set);
+  });
+}
+
 void Connect_Options(Main_Controls& c, ProjectRecord& record) {
-  Connect_Group(c, record, c.SSOption1, SSOption1_Click, Type_Is_Held);
-  Connect_Group(c, record, c.SSOption2, SSOption2_Click);
-  Connect_Group(c, record, c.SSOption3, SSOption3_Click);
-  Connect_Group(c, record, c.SSOption4, SSOption4_Click, Evaluation_Is_Held);
-  Connect_Group(c, record, c.Option3D1, Option3D1_Click);
-  QObject::connect(c.Check3D1, &QCheckBox::clicked, c.window, [&c, &record](bool set) {
-    record.DataSaved = kFalse;
-    Check3D1_Click(c, record, set);
-  });
-  QObject::connect(c.SSCheck4, &QCheckBox::clicked, c.window, [&c, &record](bool set) {
-    record.DataSaved = kFalse;
-    SSCheck4_Click(c, record, set);
-  });
+  // A type of analysis brings its own evaluations.
+  Connect_Group(c, record, c.SSOption1, kTypeChoice | kEvaluationChoice, SSOption1_Click,
+                Type_Is_Held);
+  Connect_Group(c, record, c.SSOption2, kMethodChoice, SSOption2_Click);
+  Connect_Group(c, record, c.SSOption3, kSimulationChoice, SSOption3_Click);
+  Connect_Group(c, record, c.SSOption4, kEvaluationChoice, SSOption4_Click, Evaluation_Is_Held);
+  Connect_Group(c, record, c.Option3D1, kVelocityChoice, Option3D1_Click);
+  Connect_Box(c, record, c.Check3D1, kVelocityChoice, Check3D1_Click);
+  Connect_Box(c, record, c.SSCheck4, 0, SSCheck4_Click);
 }
 
 }  // namespace

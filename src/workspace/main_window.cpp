@@ -25,6 +25,7 @@
 #include "workspace/main_events.h"
 #include "workspace/main_menus.h"
 #include "workspace/main_toolbar.h"
+#include "workspace/open_screens.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {
@@ -122,6 +123,7 @@ void Main::Fill_Board_Port(Board_Port& board) {
     Forget_Choices(controls_);
   };
   board.screen_is_open = Is_Open_Without_Blocking;
+  board.close_input_screens = Close_Input_Screens;
   board.screens_changed = [this] { Show_Tools_Menu(controls_); };
   board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   board.show_main_board = [this] { Show_Main_Board(controls_); };

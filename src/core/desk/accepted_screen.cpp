@@ -2,14 +2,12 @@
 
 namespace barvon {
 
-void Accept_Screen(const Screen_Row& row, bool blocking, ProjectRecord& record,
-                   const Status_Words& words) {
+void Accept_Screen(const Screen_Row& row, ProjectRecord& record, const Status_Words& words) {
   const Board_Port& board = Port().board;
   if (row.status_line) board.set_status_line(*row.status_line, words.text, words.colour);
   if (row.supplied) record.ScreenDataSupplied.at(static_cast<std::size_t>(*row.supplied)) = kTrue;
   if (row.edit_mark) board.mark_edit_item(*row.edit_mark);
-  const bool opener_refreshes = blocking && row.refresh == Refresh_On_Ok::Unless_Blocking;
-  if (row.refresh != Refresh_On_Ok::Never && !opener_refreshes) board.display_data();
+  board.display_data();
 }
 
 }  // namespace barvon

@@ -14,9 +14,9 @@ struct Status_Words {
 };
 
 /// The end of OK, the same for every input screen: what the screen's row says is told to the main
-/// window and to ScreenDataSupplied. It is said once the record holds what was entered and, if the
-/// screen goes, after it has gone. `blocking` is whether the screen was opened so.
-void Accept_Screen(const Screen_Row& row, bool blocking, ProjectRecord& record,
-                   const Status_Words& words = {});
+/// window and to ScreenDataSupplied, and the main window shows the record, whoever opened the
+/// screen. It is said once the record holds what was entered and, if the screen goes, after it has
+/// gone.
+void Accept_Screen(const Screen_Row& row, ProjectRecord& record, const Status_Words& words = {});
 
 }  // namespace barvon

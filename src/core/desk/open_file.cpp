@@ -96,7 +96,7 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
 
 bool File_Open_Dialog(double kind, ProjectRecord& record) {
   const std::optional<std::string> path = Ask_File_To_Open(kind);
-  return path && Open_Project(*path, record);
+  return path && Port().board.close_input_screens() && Open_Project(*path, record);
 }
 
 }  // namespace barvon

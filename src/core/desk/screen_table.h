@@ -24,8 +24,14 @@ enum class Error_Lead { Nowhere, To_Screen, To_Control };
 /// Two screens share an entry of the Edit menu, one for each vessel.
 enum class Vessel { Any, Hopper, Barge };
 
-/// Whether OK refreshes the main window. Who opened a screen that blocks refreshes afterwards.
-enum class Refresh_On_Ok { Never, Unless_Blocking, Always };
+/// The choices of the boards that change what an open screen stands for.
+enum Board_Choice : unsigned {
+  kMethodChoice = 1,
+  kTypeChoice = 2,
+  kSimulationChoice = 4,
+  kEvaluationChoice = 8,
+  kVelocityChoice = 16
+};
 
 /// A screen of the program. An index that is not given: the screen has none.
 struct Screen_Row {
@@ -39,7 +45,7 @@ struct Screen_Row {
   Screen_Gate gate = Screen_Gate::Open;
   Error_Lead lead = Error_Lead::Nowhere;
   Vessel vessel = Vessel::Any;
-  Refresh_On_Ok refresh = Refresh_On_Ok::Unless_Blocking;
+  unsigned follows = 0;  // Board_Choice: those that close the screen, as Cancel does
 };
 
 namespace screen_table {
@@ -50,21 +56,20 @@ consteval auto Make() {
   using enum Screen_Gate;
   using enum Error_Lead;
   using enum Vessel;
-  using enum Refresh_On_Ok;
   // clang-format off
   return std::to_array<Screen_Row>({
       //                                     OK:  line supplied mark and entry of the Edit menu
       {"Main",            kMainWindow},
-      {"frmDescription",  kSite,           Input,  1,   2,  kEditSite, kEditSite, Evaluation, To_Control},
-      {"frmGridDescrip",  kDepthGrid,      Other, {},   3,  {}, {}, Open, Nowhere, Any, Never},
-      {"frmVelocity",     kVelocity,       Input,  2,   4,  kEditVelocity, kEditVelocity, Evaluation},
-      {"frmMatHopper",    kMaterialHopper, Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Hopper},
-      {"frmMatBarge",     kMaterialBarge,  Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Barge},
-      {"frmOperation",    kOperation,      Input,  4,   9,  kEditOperation, kEditOperation, Evaluation, To_Control},
-      {"frmCoefficients", kCoefficients,   Input,  5,  10,  kEditCoefficients, kEditCoefficients, Open},
-      {"frmDensity",      kWaterDensity,   Input, {},   8,  {}, kEditWaterDensity, Open, Nowhere, Any, Always},
-      {"frmSimulation",   kSimulation,     Input,  0,   6,  {}, {}, Open, To_Control},
-      {"frmMdlkyn",       kEvaluation,     Input,  0,   5,  kEditKeys, {}, Open, To_Screen},
+      {"frmDescription",  kSite,           Input,  1,   2,  kEditSite, kEditSite, Evaluation, To_Control, Any, kMethodChoice},
+      {"frmGridDescrip",  kDepthGrid,      Other, {},   3,  {}, {}},
+      {"frmVelocity",     kVelocity,       Input,  2,   4,  kEditVelocity, kEditVelocity, Evaluation, Nowhere, Any, kVelocityChoice},
+      {"frmMatHopper",    kMaterialHopper, Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Hopper, kMethodChoice},
+      {"frmMatBarge",     kMaterialBarge,  Input,  3,   7,  kEditMaterial, kEditMaterial, Evaluation, Nowhere, Barge, kMethodChoice},
+      {"frmOperation",    kOperation,      Input,  4,   9,  kEditOperation, kEditOperation, Evaluation, To_Control, Any, kMethodChoice},
+      {"frmCoefficients", kCoefficients,   Input,  5,  10,  kEditCoefficients, kEditCoefficients, Open, Nowhere, Any, kMethodChoice},
+      {"frmDensity",      kWaterDensity,   Input, {},   8,  {}, kEditWaterDensity},
+      {"frmSimulation",   kSimulation,     Input,  0,   6,  {}, {}, Open, To_Control, Any, kTypeChoice | kSimulationChoice},
+      {"frmMdlkyn",       kEvaluation,     Input,  0,   5,  kEditKeys, {}, Open, To_Screen, Any, kTypeChoice | kSimulationChoice | kEvaluationChoice},
       {"frmDilute2",      kDilution},
       {"Write_Dilute_Report"},
       {"DataBase",        kDataBase},

@@ -36,6 +36,10 @@ struct Board_Port {
   std::function<bool(const std::string& name)> screen_is_open = [](const std::string&) {
     return false;
   };
+  /// Before another project takes the place of the open one: closes every input screen as its
+  /// Cancel does. False, and none is closed, when a person does not want what was typed in them
+  /// discarded.
+  std::function<bool()> close_input_screens = [] { return true; };
   /// A screen has been registered or taken out.
   std::function<void()> screens_changed = [] {};
   std::function<void(const Status_Note&)> show_note = [](const Status_Note&) {};

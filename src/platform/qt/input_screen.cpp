@@ -1,6 +1,8 @@
 #include "platform/qt/input_screen.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
@@ -110,6 +112,7 @@ void Input_Screen::Open(bool blocking, const std::string& control) {
   FillingForm = true;
   Opening();
   FillingForm = false;
+  Controls_Are_Stored();
   Activated();
   Fit_To_Contents();
   Place();
@@ -189,6 +192,33 @@ void Input_Screen::reject() {
 QWidget* Input_Screen::Window_Below(bool blocking, QWidget* workspace) {
   auto* front = dynamic_cast<Input_Screen*>(QApplication::activeWindow());
   return blocking && front != nullptr && front->isVisible() ? front : workspace;
+}
+
+bool Input_Screen::Holds_Unsaved_Input() {
+  for (F1Book* table : findChildren<F1Book*>()) table->FinishEdit();
+  return Controls_Show() != stored_;
+}
+
+std::vector<QString> Input_Screen::Controls_Show() const {
+  std::vector<QString> shown;
+  for (const QWidget* control : findChildren<QWidget*>()) {
+    if (const auto* table = dynamic_cast<const F1Book*>(control)) {
+      const Spreadsheet_Table& cells = table->table();
+      for (int row = 1; row <= cells.MaxRow(); ++row) {
+        for (int col = 1; col <= cells.MaxCol(); ++col) {
+          shown.push_back(QString::fromStdString(cells.EntryRC(row, col)));
+        }
+      }
+    } else if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
+      if (button->isCheckable()) shown.push_back(QString::number(button->isChecked()));
+    } else if (const auto* field = qobject_cast<const QLineEdit*>(control)) {
+      // One without a reference is a part of something else: the editor of a cell, a find bar.
+      if (!field->isReadOnly() && !field->objectName().isEmpty()) shown.push_back(field->text());
+    } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
+      shown.push_back(list->currentText());
+    }
+  }
+  return shown;
 }
 
 void Input_Screen::Unload() { done(Rejected); }

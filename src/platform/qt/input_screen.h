@@ -43,6 +43,12 @@ class Input_Screen : public QDialog {
   /// Escape and the close box give the command that calls off.
   void reject() override;
 
+  /// Whether anything was typed or chosen that no OK has stored. A cell that is being typed in is
+  /// finished first.
+  bool Holds_Unsaved_Input();
+  /// Gives the command that calls off.
+  void Call_Off() { Run_Command(setup_.cancel); }
+
   /// What a screen that is opened now belongs to. One that blocks stays over the screen it is
   /// opened from, which can't go before it; any other is over the workspace.
   static QWidget* Window_Below(bool blocking, QWidget* workspace);
@@ -73,6 +79,10 @@ class Input_Screen : public QDialog {
   /// Tab goes through these controls, then the commands.
   void Tab_Through(std::vector<QWidget*> order);
 
+  /// What the controls show now is the record's. Said when the screen has opened; one that stays
+  /// open behind a save says it again.
+  void Controls_Are_Stored() { stored_ = Controls_Show(); }
+
   /// Gives the window the size that its contents ask for, as far as the display has room. Runs
   /// when the screen opens; one whose contents change runs it again.
   void Fit_To_Contents();
@@ -85,9 +95,11 @@ class Input_Screen : public QDialog {
   void Focus(const std::string& control);
   void Window_In_Focus(QWindow* window);
   void Run_Command(int index);
+  std::vector<QString> Controls_Show() const;
 
   Screen_Setup setup_;
   std::vector<QPushButton*> commands_;
+  std::vector<QString> stored_;  // what the controls showed when it was the record's
   bool running_command_ = false;
   bool was_elsewhere_ = false;  // the user is at another screen of the program
 };
