@@ -1,0 +1,16 @@
+#pragma once
+
+#include <functional>
+
+namespace barvon {
+
+/// Asks `goes_on` every tenth of a second or so, until it says no. Where an interface calls back,
+/// this returns at once and the asking goes on beside everything else; without one it is all done
+/// here, asleep between by Pump_Events.
+void Watch_Program(std::function<bool()> goes_on);
+
+using Program_Watcher = std::function<void(std::function<bool()> goes_on)>;
+/// Puts another watcher in place and returns the one that was there.
+Program_Watcher Set_Program_Watcher(Program_Watcher watcher);
+
+}  // namespace barvon
