@@ -8,6 +8,7 @@
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/batch_run.h"
+#include "batch/interrupts.h"
 #include "batch/json_record.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
@@ -21,6 +22,7 @@ namespace {
 int Check(const Batch_Options& options) {
   int worst = kDone;
   for (const std::string& file : options.files) {
+    if (Interrupt_Seen() != 0) return kNotDone;
     const auto record = Open_Project(file);
     worst = std::max(worst, record ? Say_Findings(file, *record) : kNotDone);
     if (record) Say_Remarks(file, *record);

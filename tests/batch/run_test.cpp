@@ -261,7 +261,37 @@ TEST_P(BatchInterrupt, Stops_Every_Job) {
   Expect_All_Gone();
 }
 
-INSTANTIATE_TEST_SUITE_P(BySignal, BatchInterrupt, ::testing::Values(SIGINT, SIGTERM));
+TEST_P(BatchInterrupt, Ends_A_Check_Of_Many_Projects_Between_Two_Of_Them) {
+  constexpr std::size_t kFiles = 4000;
+  Put_Faulty("site.DUI");
+  std::vector<std::string> arguments(kFiles, "site.DUI");
+  arguments.insert(arguments.begin(), "check");
+  Program_Start start = Start_Of(arguments);
+  start.out_path = Path("said");
+  const Program_Result result = Run_Program(start, [this](pid_t process) {
+    if (!Read_Text(Path("said")).empty()) kill(process, GetParam());
+  });
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_LT(Printed_Lines(Read_Text(Path("said"))).size(), kFiles);
+}
+
+TEST_P(BatchInterrupt, Ends_An_Export_Of_Many_Projects_Between_Two_Of_Them) {
+  constexpr std::size_t kFiles = 400;
+  Put_Sample(kHopper, "site.DUI");
+  std::filesystem::create_directory(Path("out"));
+  std::vector<std::string> arguments{"export", "-o", "out"};
+  for (std::size_t i = 0; i < kFiles; ++i) {
+    arguments.push_back("site" + std::to_string(i) + ".DUI");
+    std::filesystem::create_hard_link(Path("site.DUI"), Path(arguments.back()));
+  }
+  const Program_Result result = Run_Program(Start_Of(arguments), [this](pid_t process) {
+    if (!Names_In(Path("out")).empty()) kill(process, GetParam());
+  });
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_LT(Names_In(Path("out")).size(), kFiles);
+}
+
+INSTANTIATE_TEST_SUITE_P(BySignal, BatchInterrupt, ::testing::Values(SIGINT, SIGTERM, SIGHUP));
 
 }  // namespace
 }  // namespace barvon::testing
