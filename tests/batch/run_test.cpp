@@ -91,7 +91,10 @@ TEST_F(BatchRun, A_Missing_Solver_Is_Told) {
   std::filesystem::create_directory(Path("solvers"));
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: ")) << result.err;
+  EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: DOS4GW was found neither in " +
+                                     Path("solvers") + " nor on the search path"))
+      << result.err;
+  EXPECT_EQ(result.err.find("barvon-run-"), std::string::npos) << result.err;
   EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_EQ(Left_Behind(), Lines{});
 }
