@@ -10,6 +10,7 @@
 #include "batch/batch_run.h"
 #include "batch/interrupts.h"
 #include "batch/json_record.h"
+#include "batch/leftovers.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
 #include "platform/files/path_lookup.h"
@@ -62,6 +63,7 @@ int New(const Batch_Options& options) {
 }  // namespace
 
 int Do_Batch_Command(const Batch_Options& options) {
+  Clear_Leftovers(options);
   switch (options.command) {
     case Batch_Command::Check:
       return Check(options);

@@ -13,6 +13,9 @@ class Scratch_Application {
   /// Null when it could not be made; `problem` says why.
   static std::unique_ptr<Scratch_Application> Make(const std::string& solver_folder,
                                                    std::string& problem);
+  /// Removes those whose program was killed, with what still runs in them. Those of programs that
+  /// live are left alone, those of other users too.
+  static void Remove_Abandoned();
   ~Scratch_Application();
   Scratch_Application(const Scratch_Application&) = delete;
   Scratch_Application& operator=(const Scratch_Application&) = delete;
@@ -20,9 +23,10 @@ class Scratch_Application {
   const std::string& Path() const { return path_; }
 
  private:
-  explicit Scratch_Application(std::string path) : path_(std::move(path)) {}
+  explicit Scratch_Application(std::string path);
 
   std::string path_;
+  int lock_ = -1;  // held for as long as this program lives
 };
 
 }  // namespace barvon

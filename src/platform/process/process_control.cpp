@@ -30,7 +30,7 @@ constexpr milliseconds kKillTakes{5000};  // a process that hangs in the system 
 /// An environment entry that only this program's next child has.
 std::string New_Mark() {
   static unsigned number = 0;
-  return "BARVON_CHILD=" + std::to_string(::getpid()) + "." +
+  return std::string(kFamilyMark) + "=" + std::to_string(::getpid()) + "." +
          std::to_string(++number) + "." + std::to_string(Clock::now().time_since_epoch().count());
 }
 
