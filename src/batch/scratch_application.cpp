@@ -13,6 +13,7 @@
 #include <system_error>
 #include <utility>
 
+#include "batch/interrupts.h"
 #include "core/desk/settings_keys.h"
 #include "platform/files/paths.h"
 #include "platform/process/stray_processes.h"
@@ -57,15 +58,39 @@ bool Is_Made_By_A_Run(const std::string& name) {
          name == kOwnerFile;
 }
 
+std::error_code Link_Entry(const fs::directory_entry& entry, const fs::path& link);
+
+std::error_code Link_Subfolder(const fs::path& from, const fs::path& into) {
+  std::error_code error;
+  if (!fs::create_directory(into, error)) return error;
+  fs::directory_iterator entry(from, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    if (const auto failed = Link_Entry(*entry, into / entry->path().filename())) return failed;
+  }
+  return {};  // one that can't be read is none of the solver's either
+}
+
+/// A folder behind a link is handed over as the link that it is: it may lead in a circle.
+std::error_code Link_Entry(const fs::directory_entry& entry, const fs::path& link) {
+  std::error_code unknown;  // a link that leads nowhere is no file
+  std::error_code error;
+  if (entry.is_regular_file(unknown) || (entry.is_symlink() && entry.is_directory(unknown))) {
+    fs::create_symlink(entry.path(), link, error);
+    return error;
+  }
+  // The folder for scratch folders may be in the solvers' own, which would have no end.
+  const bool is_scratch = link.filename().string().starts_with(kFolderName);
+  if (!entry.is_directory(unknown) || is_scratch || Interrupt_Seen() != 0) return {};
+  return Link_Subfolder(entry.path(), link);
+}
+
 std::error_code Link_Files(const fs::path& from, const fs::path& into) {
   std::error_code error;
   fs::directory_iterator entry(from, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
     const fs::path name = entry->path().filename();
-    std::error_code unknown;  // a link that leads nowhere is no file
-    if (!entry->is_regular_file(unknown) || Is_Made_By_A_Run(name.string())) continue;
-    fs::create_symlink(entry->path(), into / name, error);
-    if (error) break;
+    if (Is_Made_By_A_Run(name.string())) continue;
+    if (const auto failed = Link_Entry(*entry, into / name)) return failed;
   }
   return error;
 }

@@ -7,7 +7,9 @@ namespace barvon {
 
 /// An application directory for one run, so that runs at the same time don't share their
 /// "Tmpfile.*": a new folder under TMPDIR with links to the files of the solvers' folder, but for
-/// what a run makes itself. It is removed with everything in it when this goes out of scope.
+/// what a run makes itself. Subfolders are made anew with links to their files, so that what a
+/// solver adds to them stays here too. It is removed with everything in it when this goes out of
+/// scope.
 class Scratch_Application {
  public:
   /// Null when it could not be made; `problem` says why.

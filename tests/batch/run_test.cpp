@@ -63,6 +63,37 @@ TEST_F(BatchRun, Runs_Without_Touching_The_Callers_Or_The_Solvers_Folder) {
             (Lines{"KOLBREE.TMP", "Tmpfile.Due", "listing.txt", "merak32", "table.dat"}));
 }
 
+TEST_F(BatchRun, A_Solver_Finds_The_Subfolders_Of_Its_Folder) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(std::string("cat tables/deep/one.dat linked/two.dat > ") + Path("seen") +
+             "\necho mine > tables/deep/made\n" + kAllOutputsScript);
+  std::filesystem::create_directories(Path("solvers/tables/deep"));
+  Write_Text(Path("solvers/tables/deep/one.dat"), "one\n");
+  Write_Text(Path("solvers/tables/Tmpfile.dat"), "no run makes this\n");
+  std::filesystem::create_directory(Path("elsewhere"));
+  Write_Text(Path("elsewhere/two.dat"), "two\n");
+  std::filesystem::create_directory_symlink(Path("elsewhere"), Path("solvers/linked"));
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Read_Text(Path("seen")), "one\ntwo\n");
+  EXPECT_EQ(Names_In(Path("solvers/tables/deep")), Lines{"one.dat"});
+  EXPECT_EQ(Names_In(Path("elsewhere")), Lines{"two.dat"});
+  EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, Scratch_Folders_In_The_Solvers_Own_Folder_Are_Not_Handed_Over) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(std::string("ls tmp > ") + Path("seen") + "\n" + kAllOutputsScript);
+  std::filesystem::create_directory(Path("solvers/tmp"));
+  Write_Text(Path("solvers/tmp/table.dat"), "x");
+  Program_Start start = Start_Of({"run", "--solver-dir", "solvers", "site.DUI"});
+  start.environment = {"TMPDIR=" + Path("solvers/tmp")};
+  const Program_Result result = Run_Program(start);
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Read_Text(Path("seen")), "table.dat\n");
+  EXPECT_EQ(Names_In(Path("solvers/tmp")), Lines{"table.dat"});
+}
+
 TEST_F(BatchRun, A_Solver_That_Fails_Could_Not_Be_Done_And_Its_Last_Lines_Are_Told) {
   Put_Sample(kHopper, "site.DUI");
   Put_Solver("echo reading; echo 'grid too coarse' >&2; exit 3\n");
