@@ -1,14 +1,11 @@
 #include "platform/process/program_watch.h"
 
-#include <chrono>
 #include <utility>
 
 #include "platform/process/event_pump.h"
 
 namespace barvon {
 namespace {
-
-constexpr std::chrono::milliseconds kAskEvery{100};
 
 Program_Watcher& Watcher() {
   static Program_Watcher watcher;
@@ -22,7 +19,7 @@ void Watch_Program(std::function<bool()> goes_on) {
     Watcher()(std::move(goes_on));
     return;
   }
-  while (goes_on()) Pump_Events(kAskEvery);
+  while (goes_on()) Pump_Events(kWatchEvery);
 }
 
 Program_Watcher Set_Program_Watcher(Program_Watcher watcher) {

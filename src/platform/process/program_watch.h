@@ -1,10 +1,14 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 namespace barvon {
 
-/// Asks `goes_on` every tenth of a second or so, until it says no. Where an interface calls back,
+/// How often a watched program is asked about: nobody waits for its end to the moment.
+inline constexpr std::chrono::milliseconds kWatchEvery{100};
+
+/// Asks `goes_on` every kWatchEvery until it says no. Where an interface calls back,
 /// this returns at once and the asking goes on beside everything else; without one it is all done
 /// here, asleep between by Pump_Events.
 void Watch_Program(std::function<bool()> goes_on);

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QTimer>
-#include <chrono>
 #include <functional>
 #include <utility>
 
@@ -23,17 +22,16 @@ void Show_Wait_Cursor(bool waiting) {
 }
 
 void Watch_By_Timer(std::function<bool()> goes_on) {
-  constexpr std::chrono::milliseconds kAskEvery{100};
   auto* timer = new QTimer(qApp);
   timer->setSingleShot(true);
   QObject::connect(timer, &QTimer::timeout, timer, [timer, goes_on = std::move(goes_on)] {
     if (goes_on()) {
-      timer->start(kAskEvery);
+      timer->start(kWatchEvery);
     } else {
       timer->deleteLater();
     }
   });
-  timer->start(kAskEvery);
+  timer->start(kWatchEvery);
 }
 
 }  // namespace
