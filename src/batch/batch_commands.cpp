@@ -8,7 +8,9 @@
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/batch_run.h"
+#include "batch/interrupts.h"
 #include "batch/json_record.h"
+#include "batch/leftovers.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
 #include "platform/files/path_lookup.h"
@@ -21,6 +23,7 @@ namespace {
 int Check(const Batch_Options& options) {
   int worst = kDone;
   for (const std::string& file : options.files) {
+    if (Interrupt_Seen() != 0) return kNotDone;
     const auto record = Open_Project(file);
     worst = std::max(worst, record ? Say_Findings(file, *record) : kNotDone);
     if (record) Say_Remarks(file, *record);
@@ -60,6 +63,7 @@ int New(const Batch_Options& options) {
 }  // namespace
 
 int Do_Batch_Command(const Batch_Options& options) {
+  Clear_Leftovers(options);
   switch (options.command) {
     case Batch_Command::Check:
       return Check(options);

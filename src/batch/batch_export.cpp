@@ -9,6 +9,7 @@
 #include "batch/batch_findings.h"
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
+#include "batch/interrupts.h"
 #include "batch/target_key.h"
 #include "core/failure.h"
 #include "core/model_input/model_input.h"
@@ -63,6 +64,7 @@ int Export_Projects(const Batch_Options& options) {
   int worst = kDone;
   std::map<std::string, std::string> sources;  // by what they write
   for (const std::string& file : options.files) {
+    if (Interrupt_Seen() != 0) return kNotDone;
     const std::string target = Target_Of(file, options.output);
     const auto [other, first] = sources.emplace(Target_Key(target), file);
     if (!first && Target_Key(Project_Path(other->second)) == Target_Key(Project_Path(file))) {

@@ -47,8 +47,8 @@ void Wait_Or_Stop(std::chrono::milliseconds longest) {
 /// time anybody reads of it.
 std::string With_Lasting_Paths(std::string text, const std::string& scratch,
                                const std::string& solvers) {
-  for (auto at = text.find(scratch + "/"); at != std::string::npos;
-       at = text.find(scratch + "/", at + solvers.size())) {
+  for (auto at = text.find(scratch); at != std::string::npos;
+       at = text.find(scratch, at + solvers.size())) {
     text.replace(at, scratch.size(), solvers);
   }
   return text;

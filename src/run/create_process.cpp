@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cstdlib>
 #include <system_error>
+#include <utility>
 
 #include "core/desk/workspace_port.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
 #include "platform/files/text_encoding.h"
 #include "platform/process/event_pump.h"
+#include "platform/process/viewer_program.h"
 #include "run/scratch_names.h"
 #include "run/solver_command.h"
 
@@ -36,31 +38,42 @@ std::string Shown_Lines(const std::string& output) {
   return text;
 }
 
+/// The command to start, and the program's name in the outcome; why there is none, too.
+Solver_Command Found_Command(const std::string& command_line, const std::string& folder,
+                             Process_Outcome& outcome) {
+  Solver_Command found = Find_Solver_Command(command_line, folder);
+  outcome.program = found.command.empty() ? command_line : found.command[0];
+  outcome.problem = found.problem;
+  return found;
+}
+
+void Note_Start(int error, Process_Outcome& outcome) {
+  outcome.started = error == 0;
+  if (error == 0) return;
+  outcome.problem = outcome.program + ": " + std::generic_category().message(error);
+}
+
 }  // namespace
 
 Process_Outcome Create_Process_Code(const std::string& command_line) {
   Process_Outcome outcome;
-  outcome.program = command_line;
   if (Run_Is_Under_Way()) {
+    outcome.program = command_line;
     outcome.problem = "another program is still at work";
     return outcome;
   }
   Process_Start start;
   start.folder = Absolute_Path(Application_Folder());
-  Solver_Command found = Find_Solver_Command(command_line, start.folder);
-  outcome.problem = found.problem;
+  Solver_Command found = Found_Command(command_line, start.folder, outcome);
   if (found.command.empty()) return outcome;
 
   Run run;
   start.command = std::move(found.command);
   start.environment = std::move(found.environment);
   start.output_file = Join_Path(start.folder, kPrintedFile);
-  outcome.program = run.program = start.command[0];
-  if (const int error = run.process.Start(start); error != 0) {
-    outcome.problem = run.program + ": " + std::generic_category().message(error);
-    return outcome;
-  }
-  outcome.started = true;
+  run.program = outcome.program;
+  Note_Start(run.process.Start(start), outcome);
+  if (!outcome.started) return outcome;
   Current_Run() = &run;
   Port().run.state(true, run.program);
   while (run.process.Poll()) Pump_Events(kPollEvery);
@@ -73,6 +86,26 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   outcome.program_ends = run.program_ends;
   if (!run.program_ends) Port().run.state(false, run.program);
   return outcome;
+}
+
+void Create_Viewer_Process(const std::string& command_line,
+                           const std::function<void(const Process_Outcome&)>& when_over) {
+  Process_Outcome outcome;
+  const std::string folder = Absolute_Path(Application_Folder());
+  // What the command wants in its environment hides its window; a viewer is to be seen.
+  const std::vector<std::string> command = Found_Command(command_line, folder, outcome).command;
+  if (!command.empty()) {
+    outcome.started = true;
+    const int error = Start_Viewer(
+        command, folder,
+        [outcome, when_over](const Process_End& end, const std::string& last_output) mutable {
+          outcome.end = end;
+          outcome.last_output = Shown_Lines(last_output);
+          when_over(outcome);
+        });
+    Note_Start(error, outcome);
+  }
+  if (!outcome.started) when_over(outcome);
 }
 
 bool Run_Is_Under_Way() { return Current_Run() != nullptr; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,15 +21,21 @@ struct Process_Outcome {
   bool program_ends = false;  // Stop_Run_And_Wait was called: this program is on its way out
 };
 
-/// Starts a command line by the rules of Find_Solver_Command, in the application directory, and
-/// waits for its end with the interface alive and the processor next to idle. Only one program
-/// runs at a time; while one does, another call starts nothing and says so. The workspace hears of
-/// start and end through run_state.
+/// Starts a solver's command line by the rules of Find_Solver_Command, in the application
+/// directory, and waits for its end with the interface alive and the processor next to idle. Only
+/// one solver runs at a time; while one does, another call starts nothing and says so. The
+/// workspace hears of start and end through run_state.
 Process_Outcome Create_Process_Code(const std::string& command_line);
 
-/// True from the start of a program until its wait is over.
+/// Starts a program that shows results by the same rules, beside a run and beside other viewers.
+/// It is the user's: no call here ends it, and it lives on when this program ends. `when_over` is
+/// told the outcome once, at once when it could not be started, otherwise when it has ended.
+void Create_Viewer_Process(const std::string& command_line,
+                           const std::function<void(const Process_Outcome&)>& when_over);
+
+/// True from the start of a solver until its wait is over.
 bool Run_Is_Under_Way();
-/// Ends the program that runs and everything that it started, first politely, then by force.
+/// Ends the solver that runs and everything that it started, first politely, then by force.
 /// Does nothing when none runs.
 void Stop_Run();
 /// The same before this program ends: does not return before they are gone. Whoever waits for the

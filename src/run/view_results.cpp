@@ -33,14 +33,13 @@ bool Hand_Over(const ProjectRecord& record, int kind) {
 }
 
 void Tell_How_It_Ended(const Process_Outcome& outcome) {
-  if (outcome.program_ends) return;
   if (!outcome.started) {
     Port().board.show_note({"The graphics program was not started: " + outcome.problem + ".", {}});
-  } else if (outcome.end.signal != 0 && !outcome.end.stopped) {
+  } else if (outcome.end.signal != 0) {
     Port().board.show_note(
         {outcome.program + " was ended by signal " + std::to_string(outcome.end.signal) + ".",
          outcome.last_output});
-  } else if (outcome.end.exit_code != 0 && !outcome.end.stopped) {
+  } else if (outcome.end.exit_code > 0) {
     Port().board.show_note(
         {outcome.program + " ended with code " + std::to_string(outcome.end.exit_code) + ".",
          outcome.last_output});
@@ -75,7 +74,7 @@ void Graph_Command(const ProjectRecord& record, int kind) {
          {}});
     return;
   }
-  Tell_How_It_Ended(Create_Process_Code(kGraphicsProgram));
+  Create_Viewer_Process(kGraphicsProgram, Tell_How_It_Ended);
 }
 
 void View_Output_Command(const ProjectRecord& record) {

@@ -63,6 +63,37 @@ TEST_F(BatchRun, Runs_Without_Touching_The_Callers_Or_The_Solvers_Folder) {
             (Lines{"KOLBREE.TMP", "Tmpfile.Due", "listing.txt", "merak32", "table.dat"}));
 }
 
+TEST_F(BatchRun, A_Solver_Finds_The_Subfolders_Of_Its_Folder) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(std::string("cat tables/deep/one.dat linked/two.dat > ") + Path("seen") +
+             "\necho mine > tables/deep/made\n" + kAllOutputsScript);
+  std::filesystem::create_directories(Path("solvers/tables/deep"));
+  Write_Text(Path("solvers/tables/deep/one.dat"), "one\n");
+  Write_Text(Path("solvers/tables/Tmpfile.dat"), "no run makes this\n");
+  std::filesystem::create_directory(Path("elsewhere"));
+  Write_Text(Path("elsewhere/two.dat"), "two\n");
+  std::filesystem::create_directory_symlink(Path("elsewhere"), Path("solvers/linked"));
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Read_Text(Path("seen")), "one\ntwo\n");
+  EXPECT_EQ(Names_In(Path("solvers/tables/deep")), Lines{"one.dat"});
+  EXPECT_EQ(Names_In(Path("elsewhere")), Lines{"two.dat"});
+  EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, Scratch_Folders_In_The_Solvers_Own_Folder_Are_Not_Handed_Over) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(std::string("ls tmp > ") + Path("seen") + "\n" + kAllOutputsScript);
+  std::filesystem::create_directory(Path("solvers/tmp"));
+  Write_Text(Path("solvers/tmp/table.dat"), "x");
+  Program_Start start = Start_Of({"run", "--solver-dir", "solvers", "site.DUI"});
+  start.environment = {"TMPDIR=" + Path("solvers/tmp")};
+  const Program_Result result = Run_Program(start);
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Read_Text(Path("seen")), "table.dat\n");
+  EXPECT_EQ(Names_In(Path("solvers/tmp")), Lines{"table.dat"});
+}
+
 TEST_F(BatchRun, A_Solver_That_Fails_Could_Not_Be_Done_And_Its_Last_Lines_Are_Told) {
   Put_Sample(kHopper, "site.DUI");
   Put_Solver("echo reading; echo 'grid too coarse' >&2; exit 3\n");
@@ -91,7 +122,10 @@ TEST_F(BatchRun, A_Missing_Solver_Is_Told) {
   std::filesystem::create_directory(Path("solvers"));
   const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: ")) << result.err;
+  EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: DOS4GW was found neither in " +
+                                     Path("solvers") + " nor on the search path"))
+      << result.err;
+  EXPECT_EQ(result.err.find("barvon-run-"), std::string::npos) << result.err;
   EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
   EXPECT_EQ(Left_Behind(), Lines{});
 }
@@ -261,7 +295,37 @@ TEST_P(BatchInterrupt, Stops_Every_Job) {
   Expect_All_Gone();
 }
 
-INSTANTIATE_TEST_SUITE_P(BySignal, BatchInterrupt, ::testing::Values(SIGINT, SIGTERM));
+TEST_P(BatchInterrupt, Ends_A_Check_Of_Many_Projects_Between_Two_Of_Them) {
+  constexpr std::size_t kFiles = 4000;
+  Put_Faulty("site.DUI");
+  std::vector<std::string> arguments(kFiles, "site.DUI");
+  arguments.insert(arguments.begin(), "check");
+  Program_Start start = Start_Of(arguments);
+  start.out_path = Path("said");
+  const Program_Result result = Run_Program(start, [this](pid_t process) {
+    if (!Read_Text(Path("said")).empty()) kill(process, GetParam());
+  });
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_LT(Printed_Lines(Read_Text(Path("said"))).size(), kFiles);
+}
+
+TEST_P(BatchInterrupt, Ends_An_Export_Of_Many_Projects_Between_Two_Of_Them) {
+  constexpr std::size_t kFiles = 400;
+  Put_Sample(kHopper, "site.DUI");
+  std::filesystem::create_directory(Path("out"));
+  std::vector<std::string> arguments{"export", "-o", "out"};
+  for (std::size_t i = 0; i < kFiles; ++i) {
+    arguments.push_back("site" + std::to_string(i) + ".DUI");
+    std::filesystem::create_hard_link(Path("site.DUI"), Path(arguments.back()));
+  }
+  const Program_Result result = Run_Program(Start_Of(arguments), [this](pid_t process) {
+    if (!Names_In(Path("out")).empty()) kill(process, GetParam());
+  });
+  EXPECT_EQ(result.signal, GetParam());
+  EXPECT_LT(Names_In(Path("out")).size(), kFiles);
+}
+
+INSTANTIATE_TEST_SUITE_P(BySignal, BatchInterrupt, ::testing::Values(SIGINT, SIGTERM, SIGHUP));
 
 }  // namespace
 }  // namespace barvon::testing

@@ -4,6 +4,7 @@
 #include <signal.h>
 
 #include <chrono>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -16,6 +17,7 @@
 #include "platform/files/app_folder.h"
 #include "platform/files/safe_file.h"
 #include "platform/process/event_pump.h"
+#include "platform/process/program_watch.h"
 #include "support/plain_support.h"
 
 namespace barvon::testing {
@@ -61,6 +63,28 @@ class Changed_Variable {
   std::string name_, former_;
 };
 
+/// Watches programs as an interface does: their start returns at once, and how they get on is asked
+/// when the test wants it.
+class Watched_Programs {
+ public:
+  Watched_Programs()
+      : former_(Set_Program_Watcher(
+            [this](std::function<bool()> goes_on) { watched_.push_back(std::move(goes_on)); })) {}
+  ~Watched_Programs() { Set_Program_Watcher(std::move(former_)); }
+  Watched_Programs(const Watched_Programs&) = delete;
+  Watched_Programs& operator=(const Watched_Programs&) = delete;
+
+  /// How many are open.
+  std::size_t Open() {
+    std::erase_if(watched_, [](const std::function<bool()>& goes_on) { return !goes_on(); });
+    return watched_.size();
+  }
+
+ private:
+  std::vector<std::function<bool()>> watched_;
+  Program_Watcher former_;
+};
+
 /// An application directory with a stand-in solver in it, and a workspace that listens.
 class Solver_Bench {
  public:
@@ -90,6 +114,24 @@ class Solver_Bench {
   void Install(const std::string& name, const std::string& steps) {
     std::filesystem::copy_file(BARVON_TEST_CHILD, *this / name);
     Write_Text(*this / "test_child.steps", steps);
+  }
+  /// Puts a graphics program there. Each start of it writes a file of its process number in "open"
+  /// and stays until there is a file "close"; then it prints, writes "closed" and ends.
+  void Install_Viewer() {
+    std::filesystem::create_directory(*this / "open");
+    Write_Text(*this / "kv_graph",
+               "#!/bin/sh\n: > open/$$\nwhile [ ! -e close ]; do sleep 0.02; done\n"
+               "echo 'nobody may read this'\n: > closed\n");
+    std::filesystem::permissions(*this / "kv_graph", std::filesystem::perms::owner_all);
+  }
+  /// The viewers that have been opened, once there are as many.
+  std::vector<pid_t> Viewers(std::size_t count) {
+    EXPECT_TRUE(Comes_True([&] { return Names_In(*this / "open").size() >= count; }));
+    std::vector<pid_t> viewers;
+    for (const std::string& name : Names_In(*this / "open")) {
+      viewers.push_back(static_cast<pid_t>(std::atol(name.c_str())));
+    }
+    return viewers;
   }
   /// Calls back each time the wait for a program lets the interface live.
   void While_Waiting(std::function<void()> event) {

@@ -7,6 +7,7 @@
 #include "platform/files/app_folder.h"
 #include "platform/files/folder_lock.h"
 #include "run/run_driver_fixture.h"
+#include "run/view_results.h"
 
 namespace barvon {
 namespace {
@@ -42,6 +43,34 @@ TEST_F(RunWaiting, Run_During_A_Run_Starts_Nothing_And_Says_So) {
   EXPECT_EQ(bench.states.size(), 2u);
   ASSERT_EQ(bench.notes.size(), 2u);
   EXPECT_EQ(bench.notes[0].text, "Not run: another run is under way.");
+}
+
+TEST_F(RunWaiting, A_Viewer_That_Stays_Open_Does_Not_Keep_A_Run_From_Starting) {
+  Install(kWritesAll);
+  bench.Install_Viewer();
+  Watched_Programs watched;
+  Graph_Command(record, 0);
+  bench.Viewers(1);
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(watched.Open(), 1u);
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([&] { return watched.Open() == 0; }));
+}
+
+TEST_F(RunWaiting, A_Viewer_Opened_During_A_Run_Does_Not_Hold_Up_The_Runs_End) {
+  Install(std::string("await:go\n") + kWritesAll);
+  bench.Install_Viewer();
+  Watched_Programs watched;
+  bench.While_Waiting([this] {
+    if (bench.pumped > 1) return;
+    Graph_Command(record, 0);
+    bench.Viewers(1);
+    Write_Text(bench / "go", "");
+  });
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(watched.Open(), 1u);
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([&] { return watched.Open() == 0; }));
 }
 
 TEST_F(RunWaiting, A_Run_Of_Another_Program_In_The_Same_Folder_Is_Not_Disturbed) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "platform/files/profile_settings.h"
 #include "platform/process/document_opener.h"
 #include "run/child_support.h"
+#include "run/create_process.h"
 
 namespace barvon {
 namespace {
@@ -70,7 +72,74 @@ TEST_F(ViewResults, Each_Entry_Hands_Over_The_Project_And_Its_Type) {
     EXPECT_EQ(Setting("Simulation Type", "SimType"), "Type " + std::to_string(kind));
   }
   EXPECT_TRUE(Exists(bench / "seen.txt"));
-  EXPECT_EQ(bench.states.size(), 8u);
+}
+
+TEST_F(ViewResults, A_Viewer_Is_Not_Shown_As_A_Run) {
+  Save_Project();
+  bench.Install_Viewer();
+  Watched_Programs watched;
+  Graph_Command(record, 0);
+  EXPECT_FALSE(Run_Is_Under_Way());
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([&] { return watched.Open() == 0; }));
+  EXPECT_TRUE(bench.states.empty());
+  EXPECT_TRUE(bench.notes.empty());
+}
+
+TEST_F(ViewResults, The_Same_Viewer_May_Be_Open_Twice) {
+  Save_Project();
+  bench.Install_Viewer();
+  Watched_Programs watched;
+  Graph_Command(record, 0);
+  Graph_Command(record, 1);
+  EXPECT_EQ(bench.Viewers(2).size(), 2u);
+  EXPECT_EQ(watched.Open(), 2u);
+  EXPECT_TRUE(bench.notes.empty());
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([&] { return watched.Open() == 0; }));
+}
+
+TEST_F(ViewResults, A_Dos_Graphics_Program_Is_Started_With_A_Window_To_Be_Seen) {
+  Save_Project();
+  Write_Text(bench / "kv_graph.exe", "MZ program");
+  std::filesystem::create_directory(bench.folder / "bin");
+  Write_Text(bench.folder / "bin/dosbox", "#!/bin/sh\necho ${SDL_VIDEODRIVER-a window} > seen\n");
+  std::filesystem::permissions(bench.folder / "bin/dosbox", std::filesystem::perms::owner_all);
+  const Changed_Variable path("PATH", bench.folder / "bin");
+  ::unsetenv("SDL_VIDEODRIVER");
+  Graph_Command(record, 0);
+  EXPECT_EQ(Read_Text(bench / "seen"), "a window\n");
+}
+
+TEST_F(ViewResults, What_Stops_A_Run_Leaves_Viewers_Open) {
+  Save_Project();
+  bench.Install_Viewer();
+  Watched_Programs watched;
+  Graph_Command(record, 0);
+  const pid_t viewer = bench.Viewers(1).at(0);
+  Stop_Run();
+  Stop_Run_And_Wait();
+  EXPECT_EQ(watched.Open(), 1u);
+  EXPECT_TRUE(Is_Alive(viewer));
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([&] { return watched.Open() == 0; }));
+}
+
+TEST_F(ViewResults, A_Viewer_Outlives_The_Program_That_Opened_It) {
+  Save_Project();
+  bench.Install_Viewer();
+  EXPECT_EXIT(
+      {
+        Watched_Programs watched;
+        Stop_Run_At_Exit();
+        Graph_Command(record, 0);
+        bench.Viewers(1);
+        std::exit(7);
+      },
+      ::testing::ExitedWithCode(7), "");
+  EXPECT_TRUE(Is_Alive(bench.Viewers(1).at(0)));
+  Write_Text(bench / "close", "");
+  EXPECT_TRUE(Comes_True([this] { return Exists(bench / "closed"); }));
 }
 
 TEST_F(ViewResults, A_Native_Program_Of_The_Name_Without_Extension_Is_Found) {
@@ -110,11 +179,12 @@ TEST_F(ViewResults, A_Missing_Application_Directory_Is_Told_With_Its_Path) {
 
 TEST_F(ViewResults, A_Graphics_Program_That_Fails_Is_Not_Passed_Over_In_Silence) {
   Save_Project();
-  bench.Install("kv_graph", "exit:3\n");
+  bench.Install("kv_graph", "error:no such library\nexit:3\n");
   Scripted_Messages messages;
   Graph_Command(record, 0);
   ASSERT_EQ(bench.notes.size(), 1u);
   EXPECT_EQ(bench.notes[0].text, (bench / "kv_graph") + " ended with code 3.");
+  EXPECT_EQ(bench.notes[0].details, "no such library\n");
 }
 
 TEST_F(ViewResults, A_Graphics_Program_That_Can_Not_Be_Started_Is_Told) {

@@ -58,6 +58,23 @@ class MainRun : public ::testing::Test {
     return testing::Exists(path) ? std::atoi(Read_Text(path).c_str()) : 0;
   }
 
+  /// Opens graphics that stay until they are told to close. Returns their process.
+  int Open_Graphics() {
+    const std::string viewer = bench.folder / "kv_graph";
+    Write_Text(viewer,
+               "#!/bin/sh\necho $$ > part\nmv part viewer.pid\n"
+               "while [ ! -e close ]; do sleep 0.05; done\n");
+    std::filesystem::permissions(viewer, std::filesystem::perms::owner_all);
+    bench.Action("Toolbar1(8)")->trigger();
+    EXPECT_TRUE(testing::Wait_Until([this] { return Process("viewer.pid") != 0; }));
+    return Process("viewer.pid");
+  }
+  void Close_Graphics() {
+    EXPECT_TRUE(Is_Alive(Process("viewer.pid")));
+    Write_Text(bench.folder / "close", "");
+    EXPECT_TRUE(testing::Wait_Until([this] { return !Is_Alive(Process("viewer.pid")); }));
+  }
+
   /// Presses Run, and once the solver works does what the test is about.
   void Run_And(const std::function<void()>& meanwhile, std::vector<Reply> more = {}) {
     QTimer watch;
@@ -92,6 +109,43 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_FALSE(bench.Child<QPushButton>("StopRun")->isVisible());
   EXPECT_FALSE(bench.Child<QLabel>("StatusProgram")->isVisible());
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+}
+
+TEST_F(MainRun, Graphics_That_Stay_Open_Are_No_Run_And_Keep_None_From_Starting) {
+  Open_Graphics();
+  EXPECT_FALSE(bench.Child<QPushButton>("StopRun")->isVisible());
+  EXPECT_FALSE(bench.Child<QLabel>("StatusProgram")->isVisible());
+  Run_And([this] {
+    EXPECT_EQ(bench.Child<QLabel>("StatusProgram")->text(), "Running merak32");
+    Write_Text(bench.folder / "go", "");
+  });
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+  Close_Graphics();
+}
+
+TEST_F(MainRun, Graphics_Opened_During_A_Run_Neither_Hold_Up_Its_End_Nor_Are_Stopped_With_It) {
+  Run_And([this] {
+    Open_Graphics();
+    QTest::mouseClick(bench.Child<QPushButton>("StopRun"), Qt::LeftButton);
+  });
+  EXPECT_FALSE(Run_Is_Under_Way());
+  Close_Graphics();
+}
+
+TEST_F(MainRun, Quitting_Leaves_Graphics_Open) {
+  Open_Graphics();
+  Modal_Replies replies({Press(QMessageBox::Yes)});
+  bench.main().close();
+  EXPECT_EQ(bench.ended, 1);
+  Close_Graphics();
+}
+
+TEST_F(MainRun, Graphics_That_Fail_Later_Are_Told_In_The_Status_Area) {
+  Open_Graphics();
+  kill(Process("viewer.pid"), SIGSEGV);
+  auto* note = bench.Child<QLabel>("StatusNote");
+  EXPECT_TRUE(testing::Wait_Until(
+      [note] { return note->text().endsWith("kv_graph was ended by signal 11."); }));
 }
 
 TEST_F(MainRun, A_Type_Chosen_Since_Is_Run_With_Its_Own_Evaluation) {

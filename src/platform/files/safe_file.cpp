@@ -87,20 +87,16 @@ int Sync_Folder(const std::string& folder) {
   return error;
 }
 
-/// A working file belongs to a living writer as long as that writer holds its lock.
-bool Is_Abandoned(const std::string& path) {
-  const int descriptor = ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
-  if (descriptor < 0) return false;
-  const bool free = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
-  ::close(descriptor);
-  return free;
-}
-
+/// A working file belongs to a living writer as long as that writer holds its lock. It is held
+/// here until the file is gone: a writer that has just made it would lock it in between.
 void Remove_If_Abandoned(const std::string& path, std::vector<std::string>& removed) {
-  if (Is_Marked_Name(Name_Of(path), kWorkingEnding) && Is_Abandoned(path) &&
-      ::unlink(path.c_str()) == 0) {
+  if (!Is_Marked_Name(Name_Of(path), kWorkingEnding)) return;
+  const int descriptor = ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+  if (descriptor < 0) return;
+  if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::unlink(path.c_str()) == 0) {
     removed.push_back(path);
   }
+  ::close(descriptor);
 }
 
 std::vector<std::string> Names_In(const std::string& folder) {
@@ -135,6 +131,29 @@ void Safe_File::Discard() {
   }
 }
 
+int Safe_File::Make_Working_File(mode_t mode) {
+  const std::string mark = Random_Mark();
+  std::string name = Name_Of(target_);
+  const std::string ending = "." + mark + std::string(kWorkingEnding);
+  name.resize(std::min(name.size(), static_cast<std::size_t>(NAME_MAX) - ending.size()));
+  working_ = Join_Path(Folder_Of(target_), name + ending);
+  if (!Notes_Folder().empty()) {
+    const std::string note = Join_Path(Notes_Folder(), mark + std::string(kNoteEnding));
+    if (Write_Exclusive_File(note, Absolute_Path(working_)) == 0) note_ = note;
+  }
+  descriptor_ =
+      ::open(working_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
+  return descriptor_ < 0 ? errno : 0;
+}
+
+/// Locks the working file. False when a program that clears what killed ones left has come between
+/// its making and the lock, and has taken it for abandoned.
+bool Safe_File::Is_Own_Still() {
+  while (::flock(descriptor_, LOCK_EX) != 0 && errno == EINTR) {
+  }
+  return ::access(working_.c_str(), F_OK) == 0;
+}
+
 int Safe_File::Open(const std::string& path) {
   int error = path.empty() ? EINVAL : 0;
   target_ = Follow_Links(path, error);
@@ -147,19 +166,11 @@ int Safe_File::Open(const std::string& path) {
   // Renaming would put a new file over one that its owner has locked against writing.
   if (exists && ::access(target_.c_str(), W_OK) != 0) return Fail(errno);
 
-  const std::string mark = Random_Mark();
-  std::string name = Name_Of(target_);
-  const std::string ending = "." + mark + std::string(kWorkingEnding);
-  name.resize(std::min(name.size(), static_cast<std::size_t>(NAME_MAX) - ending.size()));
-  working_ = Join_Path(Folder_Of(target_), name + ending);
-  if (!Notes_Folder().empty()) {
-    const std::string note = Join_Path(Notes_Folder(), mark + std::string(kNoteEnding));
-    if (Write_Exclusive_File(note, Absolute_Path(working_)) == 0) note_ = note;
-  }
-  descriptor_ = ::open(working_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                       exists ? 0600 : 0666);
-  if (descriptor_ < 0) return Fail(errno);
-  ::flock(descriptor_, LOCK_EX | LOCK_NB);
+  do {
+    Discard();
+    error = Make_Working_File(exists ? 0600 : 0666);
+    if (error != 0) return Fail(error);
+  } while (!Is_Own_Still());
   if (exists && ::fchmod(descriptor_, old.st_mode & 07777) != 0) return Fail(errno);
   pending_.reserve(kWriteBuffer);
   return 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +30,8 @@ class Safe_File {
   int Commit();
 
  private:
+  int Make_Working_File(mode_t mode);
+  bool Is_Own_Still();
   int Fail(int error);
   void Discard();
 

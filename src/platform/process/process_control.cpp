@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <signal.h>
-#include <spawn.h>
 #include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,12 +10,12 @@
 #include <array>
 #include <cerrno>
 #include <optional>
-#include <string_view>
 #include <thread>
 #include <utility>
 
 #include "platform/process/bounded_output.h"
 #include "platform/process/process_family.h"
+#include "platform/process/spawn_program.h"
 
 namespace barvon {
 namespace {
@@ -31,71 +30,8 @@ constexpr milliseconds kKillTakes{5000};  // a process that hangs in the system 
 /// An environment entry that only this program's next child has.
 std::string New_Mark() {
   static unsigned number = 0;
-  return "BARVON_CHILD=" + std::to_string(::getpid()) + "." + std::to_string(++number) + "." +
-         std::to_string(Clock::now().time_since_epoch().count());
-}
-
-std::string_view Name_Of_Entry(std::string_view entry) { return entry.substr(0, entry.find('=')); }
-
-std::vector<std::string> Environment_With(std::vector<std::string> added) {
-  std::vector<std::string> all = std::move(added);
-  const auto own = all.size();
-  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
-    const bool replaced = std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(own),
-                                      [entry](const std::string& other) {
-                                        return Name_Of_Entry(other) == Name_Of_Entry(*entry);
-                                      });
-    if (!replaced) all.emplace_back(*entry);
-  }
-  return all;
-}
-
-std::vector<char*> Pointers(std::vector<std::string>& texts) {
-  std::vector<char*> pointers;
-  for (std::string& text : texts) pointers.push_back(text.data());
-  pointers.push_back(nullptr);
-  return pointers;
-}
-
-/// Starts a program in a group of its own with default signal handling. `output` becomes its
-/// standard output and error, the null device when it is -1. 0 or an errno value.
-int Spawn(const Process_Start& start, std::vector<std::string> environment, int output,
-          pid_t& pid) {
-  std::vector<std::string> command = start.command;
-  posix_spawn_file_actions_t actions;
-  posix_spawnattr_t attributes;
-  if (const int error = posix_spawn_file_actions_init(&actions); error != 0) return error;
-  if (const int error = posix_spawnattr_init(&attributes); error != 0) {
-    posix_spawn_file_actions_destroy(&actions);
-    return error;
-  }
-  // Output comes first: its descriptor may be the very one that becomes the standard input.
-  int error = 0;
-  const auto add = [&error](int result) { error = error == 0 ? result : error; };
-  for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
-    add(output >= 0 ? posix_spawn_file_actions_adddup2(&actions, output, stream)
-                    : posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0));
-  }
-  add(posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-  add(posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1));
-  if (!start.folder.empty()) {
-    add(posix_spawn_file_actions_addchdir_np(&actions, start.folder.c_str()));
-  }
-  sigset_t all, none;
-  sigfillset(&all);
-  sigemptyset(&none);
-  add(posix_spawnattr_setpgroup(&attributes, 0));
-  add(posix_spawnattr_setsigdefault(&attributes, &all));
-  add(posix_spawnattr_setsigmask(&attributes, &none));
-  add(posix_spawnattr_setflags(
-      &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK));
-  if (error == 0) {
-    error = posix_spawn(&pid, command[0].c_str(), &actions, &attributes, Pointers(command).data(),
-                        Pointers(environment).data());
-  }
-  posix_spawnattr_destroy(&attributes);
-  posix_spawn_file_actions_destroy(&actions);
-  return error;
+  return std::string(kFamilyMark) + "=" + std::to_string(::getpid()) + "." +
+         std::to_string(++number) + "." + std::to_string(Clock::now().time_since_epoch().count());
 }
 
 }  // namespace
@@ -192,7 +128,8 @@ int External_Process::Start(const Process_Start& start) {
   const std::string mark = New_Mark();
   environment.push_back(mark);
   pid_t pid = -1;
-  const int error = Spawn(start, Environment_With(std::move(environment)), pipe[1], pid);
+  const int error = Spawn_Program(
+      {start.command, std::move(environment), start.folder, pipe[1], Bond::Group}, pid);
   if (pipe[1] >= 0) ::close(pipe[1]);
   if (error != 0) return error;
   state.pid = pid;

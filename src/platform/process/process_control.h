@@ -25,9 +25,10 @@ struct Process_End {
 };
 
 /// One external program in a process group of its own, with nothing to read on its standard input
-/// and none of this program's open files. Its output is taken from a pipe while Poll is called, and
-/// goes to a file that never grows past its limit: when there is more, the middle is left out and
-/// the file says so. The file is made anew with the first output.
+/// and none of this program's open files. It is killed when this program dies, however that dies;
+/// what it started by itself is not, then. Its output is taken from a pipe while Poll is called,
+/// and goes to a file that never grows past its limit: when there is more, the middle is left out
+/// and the file says so. The file is made anew with the first output.
 ///
 /// The program has ended when its own process has. What it leaves running is left alone, unless it
 /// was stopped: then the end is the end of everything that it started.

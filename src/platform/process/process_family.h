@@ -8,6 +8,9 @@
 
 namespace barvon {
 
+/// The name of the environment's entry that marks a family.
+inline constexpr char kFamilyMark[] = "BARVON_CHILD";
+
 /// A program and everything that it started: the processes of its group, those that descend from
 /// it, also in sessions and groups of their own, and those that carry its mark in their
 /// environment, so that one whose parents are gone is still found. A process that was seen once

@@ -1,12 +1,11 @@
 #include "platform/qt/qt_document_opener.h"
 
-#include <unistd.h>
-
-#include <QApplication>
 #include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
+#include <string>
 
+#include "platform/process/viewer_program.h"
 #include "platform/qt/ask/qt_message_box.h"
 #include "platform/qt/text_window.h"
 
@@ -42,20 +41,10 @@ bool Open_By_Desktop(const QString& path) {
   if (opener.isEmpty() || query.isEmpty()) return false;
   const QString kind = QMimeDatabase().mimeTypeForFile(path).name();
   if (!Has_Program_For(query, kind) && !Has_Program_For(query, "text/plain")) return false;
-  auto* process = new QProcess(qApp);
-  process->setStandardInputFile(QProcess::nullDevice());
-  process->setStandardOutputFile(QProcess::nullDevice());
-  process->setStandardErrorFile(QProcess::nullDevice());
-  process->setChildProcessModifier([] { ::setsid(); });
-  QObject::connect(process, &QProcess::finished, qApp,
-                   [process, path](int code, QProcess::ExitStatus status) {
-                     if (code != 0 || status != QProcess::NormalExit) Open_In_Own_Window(path);
-                     process->deleteLater();
-                   });
-  process->start(opener, {path});
-  if (process->waitForStarted()) return true;
-  delete process;
-  return false;
+  const auto when_over = [path](const Process_End& end, const std::string&) {
+    if (end.exit_code > 0 || end.signal != 0) Open_In_Own_Window(path);
+  };
+  return Start_Viewer({opener.toStdString(), path.toStdString()}, {}, when_over) == 0;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <functional>
 #include <utility>
 
 #include "platform/qt/ask/qt_file_dialog.h"
@@ -18,6 +19,19 @@ void Show_Wait_Cursor(bool waiting) {
   } else {
     QApplication::restoreOverrideCursor();
   }
+}
+
+void Watch_By_Timer(std::function<bool()> goes_on) {
+  auto* timer = new QTimer(qApp);
+  timer->setSingleShot(true);
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, goes_on = std::move(goes_on)] {
+    if (goes_on()) {
+      timer->start(kWatchEvery);
+    } else {
+      timer->deleteLater();
+    }
+  });
+  timer->start(kWatchEvery);
 }
 
 }  // namespace
@@ -51,6 +65,7 @@ Qt_Services::Qt_Services() {
   });
   cursor_ = Set_Cursor_Presenter(Show_Wait_Cursor);
   pump_ = Set_Event_Pump(Pump_Qt_Events);
+  watcher_ = Set_Program_Watcher(Watch_By_Timer);
   help_ = Set_Help_Presenter(Show_Qt_Help);
   documents_ = Set_Document_Opener(Open_Qt_Document);
 }
@@ -63,6 +78,7 @@ Qt_Services::~Qt_Services() {
   Set_Progress_Presenter(std::move(progress_displays_));
   Set_Cursor_Presenter(std::move(cursor_));
   Set_Event_Pump(std::move(pump_));
+  Set_Program_Watcher(std::move(watcher_));
   Set_Help_Presenter(std::move(help_));
   Set_Document_Opener(std::move(documents_));
 }

@@ -9,6 +9,7 @@
 #include "platform/ask/progress_display.h"
 #include "platform/process/document_opener.h"
 #include "platform/process/event_pump.h"
+#include "platform/process/program_watch.h"
 #include "platform/qt/ask/frm_progress_bar.h"
 
 namespace barvon {
@@ -29,6 +30,7 @@ class Qt_Services {
   Progress_Presenter progress_displays_;
   Cursor_Presenter cursor_;
   Event_Pump pump_;
+  Program_Watcher watcher_;
   Help_Presenter help_;
   Document_Opener documents_;
 };

@@ -8,8 +8,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <string>
+#include <thread>
 
 #include "support/plain_support.h"
 
@@ -162,6 +164,22 @@ TEST_F(SafeFile, A_Save_Under_Way_And_Foreign_Files_Are_Left_Alone) {
   ASSERT_EQ(file.Write("new"), 0);
   ASSERT_EQ(file.Commit(), 0);
   EXPECT_EQ(Names_In(folder_.path()), (std::vector<std::string>{"a.dui", "mine.barvon-save"}));
+}
+
+TEST_F(SafeFile, A_Save_That_Has_Just_Begun_Is_Not_Taken_For_A_Leftover) {
+  std::atomic<bool> over{false};
+  std::thread clearing([&] {
+    while (!over) Remove_Leftover_Saves({folder_.path()});
+  });
+  int lost = 0;
+  for (int save = 0; save < 2000; ++save) {
+    Safe_File file;
+    EXPECT_EQ(file.Open(folder_ / "a.dui"), 0);
+    if (Names_In(folder_.path()).empty()) ++lost;
+  }
+  over = true;
+  clearing.join();
+  EXPECT_EQ(lost, 0);
 }
 
 TEST_F(SafeFile, A_Note_Never_Removes_What_Is_No_Working_File) {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -270,6 +271,24 @@ TEST_F(ProcessControl, The_End_Of_The_Object_Is_The_End_Of_The_Program) {
   EXPECT_FALSE(Is_Alive(Pid_In(folder / "self")));
   EXPECT_FALSE(Is_Alive(Pid_In(folder / "session")));
   EXPECT_FALSE(Is_Alive(Pid_In(folder / "child")));
+}
+
+TEST_F(ProcessControl, A_Program_Dies_With_Its_Starter_However_That_Dies) {
+  const pid_t starter = fork();
+  ASSERT_GE(starter, 0);
+  if (starter == 0) {
+    External_Process other;
+    Process_Start it;
+    it.command = {BARVON_TEST_CHILD, "ignore-term", "pid:self", "await:never"};
+    it.folder = folder.path();
+    if (other.Start(it) == 0) pause();
+    _exit(1);
+  }
+  ASSERT_TRUE(Comes_True([this] { return Exists(folder / "self"); }));
+  EXPECT_TRUE(Is_Alive(Pid_In(folder / "self")));
+  ::kill(starter, SIGKILL);
+  ::waitpid(starter, nullptr, 0);
+  EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(folder / "self")); }));
 }
 
 TEST_F(ProcessControl, Stop_After_The_End_Changes_Nothing) {

@@ -8,8 +8,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <algorithm>
 #include <filesystem>
+#include <string>
+#include <vector>
 
+#include "platform/qt/qt_services.h"
 #include "support/screen_support.h"
 
 namespace barvon {
@@ -55,6 +59,24 @@ TEST_F(DocumentOpener, Goes_To_The_Desktops_Program_For_Text) {
   Install("xdg-open", "echo \"$1\" > '" + (folder_ / "opened") + "'\n");
   EXPECT_TRUE(Open_Qt_Document(output_));
   EXPECT_TRUE(Wait_Until([this] { return Read_Text(folder_ / "opened") == output_ + "\n"; }));
+  EXPECT_EQ(Text_Window_In_Front(), nullptr);
+}
+
+TEST_F(DocumentOpener, An_Editor_That_Stays_Open_Is_Not_Waited_For_And_May_Be_Open_Twice) {
+  const Qt_Services services;
+  Install("xdg-mime", "echo editor.desktop\n");
+  Install("xdg-open", ": > '" + (folder_ / "open-") + "'$$\nwhile [ ! -e '" + (folder_ / "close") +
+                          "' ]; do /bin/sleep 0.02; done\n: > '" + (folder_ / "closed-") + "'$$\n");
+  const auto count = [this](const char* start) {
+    const std::vector<std::string> names = Names_In(folder_.path());
+    return std::count_if(names.begin(), names.end(),
+                         [start](const std::string& name) { return name.starts_with(start); });
+  };
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  EXPECT_TRUE(Open_Qt_Document(output_));
+  EXPECT_TRUE(Wait_Until([&] { return count("open-") == 2; }));
+  Write_Text(folder_ / "close", "");
+  EXPECT_TRUE(Wait_Until([&] { return count("closed-") == 2; }));
   EXPECT_EQ(Text_Window_In_Front(), nullptr);
 }
 
