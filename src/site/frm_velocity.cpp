@@ -151,6 +151,8 @@ void frmVelocity::Command1_Click(int index) {
 
 void frmVelocity::Option3D1_Click(int index) {
   const auto form = static_cast<Velocity_Form>(index);
+  // Filling the form that stands would throw away what was typed in it.
+  if (form == Form_Of_Type(record_.VelocityProfileType)) return;
   record_.VelocityProfileType = Type_Of_Form(form);
   Choose(form);
 }

@@ -21,6 +21,7 @@ QLayout* Title_Line(Main_Controls& controls) {
   title->setObjectName(QStringLiteral("Title_Box"));
   title->setAccessibleName(label->text());
   title->setMaxLength(kTitleLength);
+  title->setAcceptDrops(false);  // or the name of a project dropped here would become its title
   title->setValidator(new Encoding_Validator(title));
   label->setBuddy(title);
   auto* line = new QHBoxLayout;

@@ -30,6 +30,7 @@ void Add_Item(Main_Controls& controls, QMenu* menu, const char* array, const Men
   action->setCheckable(item.has_mark);
   action->setChecked(item.marked);
   action->setStatusTip(QLatin1String(item.hint));
+  action->setShortcut(QKeySequence(QLatin1String(item.key)));
 }
 
 void Add_Recent_Files(Main_Controls& controls, QMenu* menu) {
@@ -57,6 +58,8 @@ void Add_Menu(Main_Controls& controls, const Menu& entry) {
   if (entry.items.empty()) {
     QAction* command = bar->addAction(QLatin1String(entry.caption));
     Named(controls, command, QLatin1String(entry.name))->setEnabled(entry.enabled);
+    command->setShortcut(QKeySequence(QLatin1String(entry.key)));
+    command->setStatusTip(QLatin1String(entry.hint));
     return;
   }
   QMenu* menu = bar->addMenu(QLatin1String(entry.caption));

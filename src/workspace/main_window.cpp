@@ -26,6 +26,7 @@
 #include "workspace/main_menus.h"
 #include "workspace/main_toolbar.h"
 #include "workspace/open_screens.h"
+#include "workspace/project_drops.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {
@@ -64,6 +65,7 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
   Build_Boards(controls_);
   Share_Letters(controls_);
   Connect_Main_Events(controls_, Project());
+  Take_Project_Drops(*this, Project());
   Fill_Port();
   Set_Program_End([this] {
     Show_Help({Help_Command::Quit, 0, ""});
@@ -147,10 +149,14 @@ void Main::Set_Caption(const std::string& caption) {
       QString::fromStdString(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
-void Main::Lock_Size() { setFixedSize(kMainSize); }
+void Main::Lock_Size() {
+  setFixedSize(kMainSize);
+  resize(kMainSize);  // a size that is fixed already is not set again
+}
 
 void Main::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
+  // A window manager keeps to the limits; without one, or by another program, it still happens.
   if (!isMinimized() && size() != kMainSize) Lock_Size();
 }
 

@@ -18,10 +18,15 @@ Menu_Item Marked(int index, const char* caption, bool marked, const char* hint =
 Menu_Item Hidden(int index, const char* caption) { return {index, caption, false, false}; }
 /// Shows once its screen is registered.
 Menu_Item Opens(int index, const char* caption, const Screen_Row& screen) {
-  return {index, caption, true, false, Gate::None, false, false, "", &screen};
+  return {index, caption, true, false, Gate::None, false, false, "", "", &screen};
 }
 Menu_Item Separator(int index) { return {index}; }
 Menu_Item Hidden_Separator(int index) { return {index, "", true, false}; }
+
+Menu_Item With_Key(const char* key, Menu_Item item) {
+  item.key = key;
+  return item;
+}
 
 /// Open from the start, although the gate moves it afterwards.
 Menu_Item Open_At_Start(Menu_Item item) {
@@ -40,17 +45,17 @@ const std::vector<Menu>& Menu_Tree() {
   // clang-format off
   static const std::vector<Menu> tree = {
       {"mnuFile", "&File", "mnuFileItem", true, true, Gate::None, "File Manipulation Tools",
-       {Item(kFileNew, "&New", "Create New File"),
-        Item(kFileOpen, "&Open", "Open Existing File"),
+       {With_Key("Ctrl+N", Item(kFileNew, "&New", "Create New File")),
+        With_Key("Ctrl+O", Item(kFileOpen, "&Open", "Open Existing File")),
         Gated(kFileClose, "&Close", Gate::Any, "Close Active File"),
         Separator(3),
-        Gated(kFileSave, "&Save", Gate::Any, "Save Existing File"),
-        Gated(kFileSaveAs, "Save &As", Gate::Any, "Save New File"),
+        With_Key("Ctrl+S", Gated(kFileSave, "&Save", Gate::Any, "Save Existing File")),
+        With_Key("Ctrl+Shift+S", Gated(kFileSaveAs, "Save &As", Gate::Any, "Save New File")),
         Separator(6),
-        Gated(kFilePrint, "&Print", Gate::Any, "Print Active File"),
+        With_Key("Ctrl+P", Gated(kFilePrint, "&Print", Gate::Any, "Print Active File")),
         Item(kFilePrintSetup, "P&rint Setup", "Change the Printer Setup"),
         Separator(9),
-        Item(kFileExit, "E&xit")}},
+        With_Key("Ctrl+Q", Item(kFileExit, "E&xit"))}},
       {"mnuEdit", "&Edit", "mnuEditItem", true, true, Gate::None, "Edit Input Data",
        {Gated(kEditEvaluationAndTitle, "&Evaluation Selection and Title", Gate::Any, "Edit Title and Site Description"),
         Gated(kEditSite, "&Site Description", Gate::Project),
@@ -64,7 +69,7 @@ const std::vector<Menu>& Menu_Tree() {
         Hidden_Separator(kEditWaterDensity),
         Hidden(kEditTimeAndDate, "Time/Date"),
         Hidden(kEditFont, "&Font")}},
-      {"mnuRun", "Ru&n", "", true, false, Gate::Project, "", {}},
+      {"mnuRun", "Ru&n", "", true, false, Gate::Project, "Run Simulation (F5)", {}, "F5"},
       {"mnuView", "&View", "mnuViewItem", true, true, Gate::None, "Edit Environment View",
        {Open_At_Start(Gated(kViewOutputFile, "&Output File", Gate::Project)),
         Separator(2),

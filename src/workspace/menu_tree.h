@@ -34,6 +34,7 @@ struct Menu_Item {
   bool has_mark = false;
   bool marked = false;  // at start
   const char* hint = "";
+  const char* key = "";  // keys for the same, shown beside the caption
   const Screen_Row* screen =
       nullptr;  // what it opens; it shows as long as that screen is registered
 };
@@ -49,6 +50,7 @@ struct Menu {
   Gate gate = Gate::None;
   const char* hint = "";
   std::vector<Menu_Item> items;
+  const char* key = "";  // of a command
 };
 
 /// The screen that the entry of the Tools menu opens; none for any other index.

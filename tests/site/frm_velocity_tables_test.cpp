@@ -289,6 +289,7 @@ TEST_F(VelocityScreen, Opening_Without_A_Duration_Tells_Once_And_Shows_The_Store
   Expect_Box(replies.seen[0], "Please Provide a Value for Simulation Duration.", Box::Information);
   EXPECT_EQ(Text3(3)->text(), "0.3");
   EXPECT_EQ(Text3(4)->text(), "0.0");
+  Choose(2);
   Choose(3);
   EXPECT_EQ(replies.seen.size(), 2U) << "each filling tells";
 }

@@ -184,15 +184,11 @@ TEST_F(VelocityScreen, The_Logarithmic_Box_Changes_The_Type_At_Once) {
   EXPECT_EQ(record.VelocityProfileType, 1);
 }
 
-TEST_F(VelocityScreen, Another_Option_Or_The_Same_Again_Clears_The_Logarithmic_Box) {
+TEST_F(VelocityScreen, Another_Option_Clears_The_Logarithmic_Box) {
   Open(2);
   Choose(1);
   EXPECT_EQ(record.VelocityProfileType, 3);
   EXPECT_FALSE(Check3D1()->isChecked());
-  Choose(0);
-  EXPECT_EQ(record.VelocityProfileType, 1);
-  EXPECT_FALSE(Check3D1()->isChecked());
-  Tick(Check3D1());
   Choose(0);
   EXPECT_EQ(record.VelocityProfileType, 1);
   EXPECT_FALSE(Check3D1()->isChecked());
@@ -405,6 +401,16 @@ TEST_F(VelocityScreen, Tab_Walks_The_Fields_In_Reading_Order) {
     QTest::keyClick(Screen()->focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(Screen()->focusWidget(), order[i]) << i;
   }
+}
+
+TEST_F(VelocityScreen, A_Click_On_The_Option_That_Is_Set_Keeps_What_Was_Typed) {
+  Open(1);
+  Enter(Text1(1), "7");
+  Choose(0);
+  EXPECT_EQ(Text1(1)->text(), "7");
+  Open(2);
+  Choose(0);
+  EXPECT_EQ(record.VelocityProfileType, 2) << "the logarithmic profile stays too";
 }
 
 TEST_F(VelocityScreen, The_Open_Wizard_Chooses_The_Option_And_The_Duration) {

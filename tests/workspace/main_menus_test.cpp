@@ -7,9 +7,11 @@
 #include <functional>
 
 #include "core/desk/recent_files.h"
+#include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/settings_keys.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "core/project_record.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
@@ -65,6 +67,50 @@ TEST(MainMenus, Every_Item_Stands_In_The_Bar_As_The_Menu_Tree_Has_It) {
       EXPECT_TRUE(bench.Action(menu.name)->menu()->actions().contains(action));
     }
   }
+}
+
+TEST(MainMenus, The_Usual_Keys_Give_The_File_Commands_And_The_Run) {
+  Main_Bench bench;
+  const std::pair<const char*, const char*> keys[] = {{"mnuFileItem(0)", "Ctrl+N"},
+                                                      {"mnuFileItem(1)", "Ctrl+O"},
+                                                      {"mnuFileItem(4)", "Ctrl+S"},
+                                                      {"mnuFileItem(5)", "Ctrl+Shift+S"},
+                                                      {"mnuFileItem(7)", "Ctrl+P"},
+                                                      {"mnuFileItem(10)", "Ctrl+Q"},
+                                                      {"mnuRun", "F5"}};
+  bench.controls().SSOption1(0)->click();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  for (const auto& [name, key] : keys) {
+    QAction* action = bench.Action(name);
+    EXPECT_EQ(action->shortcut(), QKeySequence(key)) << name;
+    int chosen = 0;
+    QObject::connect(action, &QAction::triggered, &bench.main(), [&chosen] { ++chosen; });
+    // What the command itself asks is another test's matter.
+    const auto messages =
+        Set_Message_Presenter([](const Message& m) { return Answer_On_Close(m); });
+    const auto none = [](const File_Request&) { return std::nullopt; };
+    const auto files = Set_File_Dialog_Presenter({none, none, [] {}});
+    QTest::keySequence(&bench.main(), QKeySequence(key));
+    EXPECT_EQ(chosen, 1) << name;
+    Set_Message_Presenter(messages);
+    Set_File_Dialog_Presenter(files);
+    bench.controls().SSOption1(0)->click();
+  }
+}
+
+TEST(MainMenus, A_Recent_File_Opens_By_Its_Digit_In_The_File_Menu) {
+  Main_Bench bench;
+  const std::string file = bench.folder / "bay.DUI";
+  ASSERT_TRUE(Save_File(file, kProjectKind, Project()));
+  GetRecentFiles();
+  Project().ProjectFileName.clear();
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  QTest::keyClick(&bench.main(), Qt::Key_F, Qt::AltModifier);
+  QMenu* menu = bench.Action("mnuFile")->menu();
+  ASSERT_TRUE(Wait_Until([menu] { return menu->isVisible(); }));
+  QTest::keyClick(menu, Qt::Key_1);
+  EXPECT_EQ(Project().ProjectFileName, file);
 }
 
 TEST(MainMenus, The_Commands_Have_Their_Captions) {
