@@ -34,8 +34,10 @@ std::string Titles_With_Input(const Screens& screens) {
 
 bool Close(const Screens& screens) {
   const std::string titles = Titles_With_Input(screens);
-  if (!titles.empty() && Ask("Discard what was typed in " + titles + "?", Buttons::YesNo,
-                             Icon::Question) != Answer::Yes) {
+  // Return must not discard anything.
+  if (!titles.empty() &&
+      Show_Message({"Discard what was typed in " + titles + "?", kMessageTitle, Buttons::YesNo,
+                    Icon::Question, Answer::No}) != Answer::Yes) {
     return false;
   }
   for (const auto& screen : screens) {

@@ -15,6 +15,8 @@
 namespace barvon {
 namespace {
 
+static_assert(kVelocityTypes.size() == 5, "each type of velocity has its lines below");
+
 constexpr std::size_t kNameWidth = 8;
 constexpr char kInteger[] = "#####";
 constexpr char kLength[] = "#######.##";  // lengths, times, speeds

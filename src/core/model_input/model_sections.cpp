@@ -12,6 +12,8 @@
 namespace barvon {
 namespace {
 
+static_assert(kVelocityTypes.size() == 5, "each type of velocity has its lines below");
+
 constexpr std::size_t kIntegerWidth = 5;
 constexpr std::size_t kRealWidth = 10;
 constexpr std::size_t kDepthWidth = 7;
