@@ -91,7 +91,7 @@ std::string Paste_Refusal(const Spreadsheet_Table& table, const Cell_Range& rang
 
 Edit_Outcome Paste_Cells(Spreadsheet_Table& table, const Cell_Range& range,
                          const Text_Block& cells) {
-  const Edit_Outcome target = Paste_Target(table, range, cells);
+  Edit_Outcome target = Paste_Target(table, range, cells);
   if (!target.changed) return target;
   const std::size_t rows = cells.size();
   const std::size_t cols = Width_Of(cells);
