@@ -180,7 +180,8 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   report.stage = report.outcome.started ? Run_Stage::Ended : Run_Stage::Not_Started;
   // Outputs that are there without a run are another one's, and older ones stay as they are.
   if (report.outcome.started) report.Add_Outputs(outputs.Keep(base_name));
-  Write_Graph_File(project);
+  // The graphics are of the open project, which may be another one by now.
+  if (record.ProjectFileName == project) Write_Graph_File(project);
 }
 
 /// How the run ended, behind the number of remarks: the line may be cut at its end. The lines of

@@ -131,12 +131,12 @@ void frmDescription::Connect() {
 }
 
 void frmDescription::Opening() {
-  Store_Site_Defaults(record_);
+  Store_Wizard_Depth(record_);
   Lay_Out_Density_Table(false, F1Book1->table());
   Store_Dimensions(record_);
   fields_.Follow(Faces_Of(Site_Fields(), record_));
-  const Field_Texts texts = Fill_Fields(Site_Fields(), record_);
-  fields_.Set_Filled(texts);
+  const Field_Texts texts = Opening_Texts(record_);
+  fields_.Set_Filled(Fill_Fields(Site_Fields(), record_));
   for (int i = 0; i < 2; ++i) Text2(i)->setText(QString::fromStdString(texts("Text2", i)));
   for (int i = kZPoints; i <= kConstantDepth; ++i) Set_Text1(i, texts("Text1", i));
   if (record_.ConstantDepthFlag == 0) Set_Check(kVariableDepth, true);
@@ -145,12 +145,15 @@ void frmDescription::Opening() {
   Store_Wizard_Densities(record_);
   const bool computed = record_.DensityComputeFlag != kFalse;
   if (computed) Set_Check(kComputesDensity, true);
-  Fill_Density_Table(record_, record_.NROA0, computed, F1Book1->table());
+  Fill_Density_Table(record_, Density_Points(record_), computed, F1Book1->table());
   F1Book1->table().SetActiveCell(1, 1);
   Show_Profile();
+  opening_copy_ = Copy_Site(Entry(), record_);
 }
 
 void frmDescription::Activated() { copy_ = Copy_Site(Entry(), record_); }
+
+void frmDescription::Discarding() { copy_ = opening_copy_; }
 
 void frmDescription::Command1_Click(int index) {
   switch (index) {
@@ -202,7 +205,7 @@ void frmDescription::Check3D1_Click(int index) {
     Text1(kConstantDepth)->setEnabled(!checked);
     if (!FillingForm) Choose_Variable_Depth(checked, record_);
   } else {
-    record_.DensityComputeFlag = checked ? kTrue : kFalse;
+    if (!FillingForm) record_.DensityComputeFlag = checked ? kTrue : kFalse;
     Spreadsheet_Table& table = F1Book1->table();
     Lay_Out_Density_Table(checked, table);
     // Rows that a count outside its limits left standing are filled too: a salinity must not turn
@@ -237,6 +240,8 @@ void frmDescription::Save() {
   if (ready_to_close) {
     Unload();
   } else {
+    fields_.Set_Filled(fields_.Texts());
+    opening_copy_ = Copy_Site(Entry(), record_);
     Controls_Are_Stored();
   }
   Accept_Screen(kScreen, record_);

@@ -27,6 +27,7 @@ class frmDescription : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
+  void Discarding() override;
 
  private:
   QWidget* Grid_Frames();
@@ -50,7 +51,7 @@ class frmDescription : public Input_Screen {
   void Tell_Boxes();
 
   ProjectRecord& record_;
-  Site_Copy copy_;
+  Site_Copy copy_, opening_copy_;
   bool boxes_are_told_ = false;
 
   ControlArray<QLineEdit> Text1{this, "Text1", kSiteFields};

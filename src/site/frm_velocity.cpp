@@ -117,6 +117,7 @@ Velocity_Panel* frmVelocity::Panel() const {
 }
 
 void frmVelocity::Opening() {
+  opening_copy_ = Copy_Velocity(record_);
   record_.VelocityProfileType = Type_From_Wizard(record_);
   const Velocity_Form form = Form_Of_Type(record_.VelocityProfileType);
   if (form == kNoForm) {

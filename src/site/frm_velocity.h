@@ -25,6 +25,7 @@ class frmVelocity : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
+  void Discarding() override { copy_ = opening_copy_; }
 
  private:
   QWidget* Choice_Part();
@@ -40,7 +41,7 @@ class frmVelocity : public Input_Screen {
   Velocity_Panel* Panel() const;
 
   ProjectRecord& record_;
-  Velocity_Copy copy_;
+  Velocity_Copy copy_, opening_copy_;
   std::vector<Velocity_Panel*> panels_;  // by Velocity_Form
 
   ControlArray<QRadioButton> Option3D1{this, "Option3D1", kVelocityForms};

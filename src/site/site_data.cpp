@@ -52,12 +52,23 @@ double Dimension(double count, double spacing) { return (count - 1) * spacing + 
 
 }  // namespace
 
-void Store_Site_Defaults(ProjectRecord& record) {
-  if (record.WizardActive != kFalse) {
-    record.DEPC0 = Lenient_Number(Answers_Of_Wizard().water_depth);
+Field_Texts Opening_Texts(const ProjectRecord& record) {
+  Field_Texts texts = Fill_Fields(Site_Fields(), record);
+  if (record.RHDA0 == 0) {
+    const Field_Row* row = Find_Row(Site_Fields(), {"Text1", kRoughness}, record);
+    texts("Text1", kRoughness) = Format_Number(kUsualRoughness, row->pattern);
   }
-  if (record.RHDA0 == 0) record.RHDA0 = kUsualRoughness;
-  record.NROA0 = std::clamp<std::int16_t>(record.NROA0, kLeastDensityPoints, kMaxDensityPoints);
+  texts("Text1", kDensityPoints) = Plain_Number(Density_Points(record));
+  return texts;
+}
+
+int Density_Points(const ProjectRecord& record) {
+  return std::clamp<int>(record.NROA0, kLeastDensityPoints, kMaxDensityPoints);
+}
+
+void Store_Wizard_Depth(ProjectRecord& record) {
+  if (record.WizardActive == kFalse) return;
+  record.DEPC0 = Lenient_Number(Answers_Of_Wizard().water_depth);
 }
 
 void Store_Wizard_Densities(ProjectRecord& record) {

@@ -16,9 +16,15 @@ struct Site_Entry {
   bool variable_depth = false;    // Check3D1(1)
 };
 
-/// What the opening screen changes in the record: a roughness height of 0 becomes 0.005, the count
-/// of density points is brought to 2 to 5, and with the wizard open the water depth is its own.
-void Store_Site_Defaults(ProjectRecord& record);
+/// What the opening screen shows: a roughness height of 0 as 0.005, the count of density points
+/// brought to 2 to 5. Neither is in the record before OK.
+Field_Texts Opening_Texts(const ProjectRecord& record);
+
+/// The rows of the density table for the record's count of points, 2 to 5.
+int Density_Points(const ProjectRecord& record);
+
+/// With the wizard open, the water depth is its own.
+void Store_Wizard_Depth(ProjectRecord& record);
 
 /// With the wizard open, the profile becomes its water at the surface and at the bottom. Water
 /// without a finite density is told and keeps the densities as they were.

@@ -106,7 +106,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
 }
 
 bool Open_From_Workspace(const std::string& path, ProjectRecord& record) {
-  if (!Port().board.close_input_screens()) return true;
+  if (Find_Path(path) && !Port().board.close_input_screens()) return true;
   if (!Open_Project(path, record)) return false;
   Show_Opened(record);
   return true;

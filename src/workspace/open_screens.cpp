@@ -49,7 +49,12 @@ bool Close(const Screens& screens) {
 }  // namespace
 
 bool Close_Input_Screens() {
-  return Close(Open_Screens([](const Input_Screen&) { return true; }));
+  if (!Close(Open_Screens([](const Input_Screen&) { return true; }))) return false;
+  const QLatin1String error_list(Row_Of_Screen("frmErrorList").name);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == error_list) window->close();
+  }
+  return true;
 }
 
 bool Close_Screens_That_Follow(unsigned choices) {

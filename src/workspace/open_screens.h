@@ -9,6 +9,7 @@ namespace barvon {
 // its Cancel does. What was typed and not accepted is asked about once; after a No nothing is
 // closed and the result is false.
 
+/// The error list goes too: its findings are of the project that was checked.
 bool Close_Input_Screens();
 
 /// Those that follow one of the choices, a sum of Board_Choice.

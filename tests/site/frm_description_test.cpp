@@ -167,6 +167,8 @@ TEST_F(SiteScreen, A_Roughness_Of_0_Opens_As_0_005_Without_A_Word) {
   const Scripted_Messages none;
   Open();
   EXPECT_EQ(Shown(5), "0.00500");
+  EXPECT_EQ(record.RHDA0, 0) << "only OK stores it";
+  Click(Command1(0));
   EXPECT_EQ(record.RHDA0, 0.005);
 }
 
@@ -233,6 +235,29 @@ TEST_F(SiteScreen, Ok_Keeps_The_Digits_Of_Values_That_Were_Not_Typed) {
   EXPECT_EQ(record.DX0, 100.126);
   EXPECT_EQ(record.RHDA0, 0.0051234);
   EXPECT_EQ(record.SLOPEZ0, 0.14) << "typed: what is shown counts";
+}
+
+TEST_F(SiteScreen, A_Value_Typed_Back_After_A_Save_That_Stayed_Is_Stored) {
+  record.DEPC0 = record.DensityDepths[2] = 35;
+  Open();
+  Enter(4, "50");
+  {
+    Scripted_Messages yes({Answer::Yes});
+    Click(Command1(0));
+  }
+  ASSERT_TRUE(Is_Open()) << "a row was added";
+  EXPECT_EQ(record.DEPC0, 50);
+  Enter(4, "35.0");
+  Click(Command1(0));
+  EXPECT_EQ(record.DEPC0, 35);
+}
+
+TEST_F(SiteScreen, Opening_Leaves_A_Two_Point_Profile_Over_A_Variable_Depth) {
+  record.ConstantDepthFlag = 0;
+  record.VelocityProfileType = 3;
+  Open();
+  EXPECT_EQ(record.VelocityProfileType, 3);
+  EXPECT_EQ(record.ConstantDepthFlag, 0);
 }
 
 TEST_F(SiteScreen, Typing_97_Points_Is_Told_And_Ok_Stores_96) {

@@ -240,19 +240,21 @@ TEST_F(SiteData, Other_Velocity_Profiles_Stay_Whatever_The_Depth) {
   EXPECT_EQ(painted_, Names{});
 }
 
-TEST_F(SiteData, Opening_Brings_Roughness_And_Density_Points_In) {
+TEST_F(SiteData, Opening_Shows_Roughness_And_Density_Points_Brought_In_And_Stores_Nothing) {
   const std::pair<int, int> counts[] = {{0, 2}, {1, 2}, {2, 2}, {5, 5}, {6, 5}, {-7, 2}};
   for (const auto& [stored, held] : counts) {
     record_.NROA0 = static_cast<std::int16_t>(stored);
-    Store_Site_Defaults(record_);
-    EXPECT_EQ(record_.NROA0, held);
+    EXPECT_EQ(Opening_Texts(record_)("Text1", kDensityPoints), std::to_string(held));
+    EXPECT_EQ(Density_Points(record_), held);
+    EXPECT_EQ(record_.NROA0, stored);
   }
-  EXPECT_EQ(record_.RHDA0, 0.005);
+  EXPECT_EQ(Opening_Texts(record_)("Text1", kRoughness), "0.00500");
+  EXPECT_EQ(record_.RHDA0, 0);
   record_.RHDA0 = 0.0002;
+  EXPECT_EQ(Opening_Texts(record_)("Text1", kRoughness), "0.00020");
   record_.DEPC0 = 12;
   Answers_Of_Wizard().water_depth = "60";
-  Store_Site_Defaults(record_);
-  EXPECT_EQ(record_.RHDA0, 0.0002);
+  Store_Wizard_Depth(record_);
   EXPECT_EQ(record_.DEPC0, 12) << "the wizard is not open";
 }
 
@@ -271,7 +273,7 @@ TEST_F(SiteData, The_Wizards_Water_Becomes_A_Profile_Of_Two_Points_Its_Degrees_T
   record_.WizardActive = kTrue;
   record_.NROA0 = 4;
   Answers_Of_Wizard() = {"2400", "1000", "10", "35", 0};
-  Store_Site_Defaults(record_);
+  Store_Wizard_Depth(record_);
   EXPECT_EQ(record_.DEPC0, 1000);
   Store_Wizard_Densities(record_);
   EXPECT_EQ(record_.NROA0, 2);

@@ -209,6 +209,32 @@ TEST_F(OpenScreens, No_Brings_The_Former_Choice_Back) {
   EXPECT_EQ(Screen(kVelocity), nullptr);
 }
 
+TEST_F(OpenScreens, A_Discard_Goes_Back_To_The_Opening_Wherever_The_User_Was_Meanwhile) {
+  record.ConstantDepthFlag = 1;
+  Open_Screen(kSite, false);
+  Screen(kSite)->findChild<QCheckBox*>(QStringLiteral("Check3D1(1)"))->click();
+  EXPECT_EQ(record.ConstantDepthFlag, 0) << "written at once";
+  Open_Screen(kVelocity, false);
+  Screen(kVelocity)->findChild<QRadioButton*>(QStringLiteral("Option3D1(3)"))->click();
+  ASSERT_TRUE(testing::Has_Keyboard(Screen(kVelocity)));
+  for (const Screen_Row* row : {&kSite, &kVelocity, &kSite}) {
+    Screen(*row)->activateWindow();
+    ASSERT_TRUE(testing::Has_Keyboard(Screen(*row)));
+  }
+  bench.main().activateWindow();
+  EXPECT_TRUE(Close_Input_Screens());
+  EXPECT_EQ(record.ConstantDepthFlag, 1);
+  EXPECT_EQ(record.VelocityProfileType, kSingleVelocity);
+}
+
+TEST_F(OpenScreens, A_File_That_Is_Gone_Discards_Nothing) {
+  Open_Screen(kSite, false);
+  Type_Into(kSite, "Text1(4)", "31");
+  EXPECT_FALSE(Open_From_Workspace(bench.folder / "gone.DUI", record));
+  EXPECT_NE(Screen(kSite), nullptr);
+  EXPECT_EQ(asked.size(), 1u) << "only that it can't be opened";
+}
+
 TEST_F(OpenScreens, A_Screen_That_The_Error_List_Opened_Refreshes_The_Boards) {
   for (const bool blocking : {false, true}) {
     c.SiteLabel(0)->setText("not refreshed");

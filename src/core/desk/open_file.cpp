@@ -96,7 +96,10 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
 
 bool File_Open_Dialog(double kind, ProjectRecord& record) {
   const std::optional<std::string> path = Ask_File_To_Open(kind);
-  return path && Port().board.close_input_screens() && Open_Project(*path, record);
+  if (!path) return false;
+  // For a file that is not there nothing needs to be discarded.
+  if (Find_Path(*path) && !Port().board.close_input_screens()) return false;
+  return Open_Project(*path, record);
 }
 
 }  // namespace barvon

@@ -189,6 +189,11 @@ void Input_Screen::reject() {
   }
 }
 
+void Input_Screen::Call_Off() {
+  Discarding();
+  Run_Command(setup_.cancel);
+}
+
 QWidget* Input_Screen::Window_Below(bool blocking, QWidget* workspace) {
   auto* front = dynamic_cast<Input_Screen*>(QApplication::activeWindow());
   return blocking && front != nullptr && front->isVisible() ? front : workspace;

@@ -46,8 +46,8 @@ class Input_Screen : public QDialog {
   /// Whether anything was typed or chosen that no OK has stored. A cell that is being typed in is
   /// finished first.
   bool Holds_Unsaved_Input();
-  /// Gives the command that calls off.
-  void Call_Off() { Run_Command(setup_.cancel); }
+  /// Gives the command that calls off, for everything since the screen opened.
+  void Call_Off();
 
   /// What a screen that is opened now belongs to. One that blocks stays over the screen it is
   /// opened from, which can't go before it; any other is over the workspace.
@@ -64,6 +64,9 @@ class Input_Screen : public QDialog {
   /// After Opening, and whenever the user comes back to the screen from another of the program's
   /// screens; not when a message box, a file dialog or the help is closed.
   virtual void Activated() {}
+  /// The command that calls off is to follow, and what it restores is to be as it was when the
+  /// screen opened, not when the user last came back to it.
+  virtual void Discarding() {}
   /// A command was given, by its button or its key. Help does not come here when it has a page.
   virtual void Command1_Click(int index) = 0;
   void showEvent(QShowEvent* event) override;
