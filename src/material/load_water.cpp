@@ -15,19 +15,19 @@ namespace barvon {
 namespace {
 
 constexpr Field_Row kRows[] = {
-    {.control = {"Text3", kWaterDensity},
+    {.control = {"Text3", kLoadDensity},
      .label = "Density (g/cc)",
      .unit = "g/cc",
      .pattern = "#.0000",
      .member = &ProjectRecord::SiteDensity,
      .frame = kWaterFrame},
-    {.control = {"Text3", kWaterSalinity},
+    {.control = {"Text3", kLoadSalinity},
      .label = "Salinity (ppt)",
      .unit = "ppt",
      .pattern = "#.00",
      .member = &ProjectRecord::SiteSalinity,
      .frame = kWaterFrame},
-    {.control = {"Text3", kWaterTemperature},
+    {.control = {"Text3", kLoadTemperature},
      .label = "Temperature (Deg C)",
      .unit = "deg C",
      .pattern = "#.00",
@@ -48,8 +48,8 @@ double Narrow_Number(const std::string& text) {
 Field_Table Water_Fields() { return kRows; }
 
 bool Type_Water(const Field_Texts& texts, bool held, ProjectRecord& record) {
-  const double salinity = Narrow_Number(texts("Text3", kWaterSalinity));
-  const double temperature = Narrow_Number(texts("Text3", kWaterTemperature));
+  const double salinity = Narrow_Number(texts("Text3", kLoadSalinity));
+  const double temperature = Narrow_Number(texts("Text3", kLoadTemperature));
   const bool computed = salinity > 0 && temperature > 0;
   if (computed) record.SiteDensity = AMDEN(salinity, temperature, 0).value_or(record.SiteDensity);
   if (held) record.SiteDensity = Held_Site_Density(record.SiteDensity);
@@ -79,12 +79,12 @@ void Compute_Density(ProjectRecord& record) {
 
 Field_Texts Computed_Density_Text(const ProjectRecord& record) {
   Field_Texts texts;
-  texts.Set({"Text3", kWaterDensity}, Format_Number(record.SiteDensity, kComputedPattern));
+  texts.Set({"Text3", kLoadDensity}, Format_Number(record.SiteDensity, kComputedPattern));
   return texts;
 }
 
 bool Water_Density_Fits(const Field_Texts& texts, const ProjectRecord& record) {
-  const double density = Entered_Number(kRows, {"Text3", kWaterDensity}, texts, record);
+  const double density = Entered_Number(kRows, {"Text3", kLoadDensity}, texts, record);
   if (density < kLeastSiteDensity) {
     Show_Message({"Minimum Allowable Dredging Site Water Density is 0.972 g/cc.  Please Correct."});
     return false;

@@ -9,7 +9,7 @@ namespace barvon {
 // Text3(2) of both material screens.
 
 inline constexpr char kWaterFrame[] = "Dredging Site Water Density";
-enum Water_Field { kWaterDensity = 0, kWaterSalinity, kWaterTemperature, kWaterFields };
+enum Water_Field { kLoadDensity = 0, kLoadSalinity, kLoadTemperature, kLoadWaterFields };
 
 Field_Table Water_Fields();
 
