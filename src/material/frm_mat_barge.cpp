@@ -6,6 +6,7 @@
 #include "core/book_numbers.h"
 #include "core/desk/accepted_screen.h"
 #include "core/number_reading.h"
+#include "material/load_stack.h"
 #include "material/note_box.h"
 #include "material/solids_doubts.h"
 #include "platform/qt/fields/field_rows.h"
@@ -31,6 +32,7 @@ frmMatBarge::frmMatBarge(QWidget* workspace)
       Text4_1(Make_Note_Box("Text4(1)", QStringLiteral("What to enter"), kPromptLines, this)),
       F1Book1_0(Named(new F1Book(kBookNumbers, this), "F1Book1(0)")),
       F1Book1_1(Named(new F1Book(kBookNumbers, this), "F1Book1(1)")),
+      stack_(Named(new Bar_Picture("Composition of the load", "load", this), "LoadStack")),
       fields_(this, Faces_Of(Barge_Fields(), record_)),
       water_(new Water_Panel(QStringLiteral("Compute Dredging Site Water Density From Salinity and "
                                             "Temperature?  Otherwise Specify Density Directly."),
@@ -104,7 +106,7 @@ QWidget* frmMatBarge::Composition_Page() {
   fields_.Add(rows, {"Text2"});
   rows.Whole_Row(Text4_1);
   column->addWidget(frame);
-  column->addStretch();
+  column->addWidget(stack_, 1);
   return page;
 }
 
@@ -130,7 +132,8 @@ void frmMatBarge::Order_Controls() {
                                  solids_->Book(),
                                  F1Book1_1,
                                  Text2,
-                                 Text4_1};
+                                 Text4_1,
+                                 stack_};
   for (QWidget* control : water_->Order()) order.push_back(control);
   Tab_Through(order);
 }
@@ -143,6 +146,7 @@ void frmMatBarge::Connect() {
   connect(tabs_, &Tab_Pages::Left, this, [this](int page) { Tab_Left(page); });
   connect(F1Book1_1, &F1Book::Edited, this, [this] {
     Read_Composition(F1Book1_1->table(), record_.JBFCFlag == 1, solids_->state(), moisture_);
+    Show_Stack();
   });
 }
 
@@ -212,6 +216,11 @@ void frmMatBarge::Tab_Left(int page) {
 void frmMatBarge::Define_Composition() {
   Define_Book_1(Layers(), record_.JBFCFlag == 1, solids_->state(), moisture_, solids_->table(),
                 F1Book1_1->table());
+  Show_Stack();
+}
+
+void frmMatBarge::Show_Stack() {
+  stack_->Show(Load_Stack(Layers(), F1Book1_0->table(), solids_->state(), solids_->table()));
 }
 
 void frmMatBarge::Show_Composition(bool shown) {

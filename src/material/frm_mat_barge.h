@@ -9,6 +9,7 @@
 #include "material/material_copy.h"
 #include "material/solids_panel.h"
 #include "material/water_panel.h"
+#include "pictures/bar_picture.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -39,6 +40,7 @@ class frmMatBarge : public Input_Screen {
   void SSCheck1_Click(int index);
   void Tab_Left(int page);
   void Define_Composition();
+  void Show_Stack();
   void Show_Composition(bool shown);
   void Enable_Composition();
   int Layers() const;
@@ -56,6 +58,7 @@ class frmMatBarge : public Input_Screen {
   QPlainTextEdit* Text4_1;
   F1Book* F1Book1_0;  // layers
   F1Book* F1Book1_1;  // composition
+  Bar_Picture* stack_;
   Table_Fields fields_;
   Water_Panel* water_;
   Solids_Panel* solids_;  // with F1Book1(2)

@@ -239,6 +239,21 @@ TEST_F(BargeScreen, Typed_Values_Stand_Again_After_The_Tab_Was_Left) {
   EXPECT_EQ(Composition().TextRC(1, 2), "0.125");
 }
 
+TEST_F(BargeScreen, The_Picture_Of_The_Load_Follows_What_Is_Typed) {
+  Set_Solids(record, 1);
+  record.SeparationFlag = 1;
+  Open();
+  Go_To(2);
+  auto* picture = Child<Bar_Picture>("LoadStack");
+  Type_Into_Cell(*Book("F1Book1(1)"), 1, 2, "0.25");
+  EXPECT_EQ(Bar_Words(picture->Drawn().chart.bars.at(1)), "Layer 2: Sand1 0.25, water 0.25 to 1");
+  const Modal_Replies none({});
+  Type_Into_Cell(*Book("F1Book1(1)"), 1, 2, "1.5");
+  EXPECT_TRUE(picture->Drawn().chart.bars.at(1).warned);
+  Accept();
+  EXPECT_EQ(record.LayerSolidFraction[1][2], 1.5);
+}
+
 TEST_F(BargeScreen, Salinity_And_Temperature_Move_The_Density_Within_Its_Limits) {
   Open();
   Go_To(3);
