@@ -18,10 +18,7 @@ Solids_Panel::Solids_Panel(const char* book)
   List1->setAccessibleName(QStringLiteral("Material library"));
   F1Book1->setAccessibleName(QStringLiteral("Solids fractions"));
   connect(List1, &Tick_List::Ticked, this, &Solids_Panel::List1_Click);
-  connect(F1Book1, &F1Book::Edited, this, [this] {
-    Clean_Solids_Names(table());
-    emit Changed();
-  });
+  connect(F1Book1, &F1Book::Edited, this, [this] { Clean_Solids_Names(table()); });
 }
 
 void Solids_Panel::Open(const std::string& section, Solids_Layout layout,
@@ -45,7 +42,6 @@ void Solids_Panel::List1_Click(int line, bool on) {
   } else if (!Tick_Material(line, state_, table())) {
     List1->Tick(line, false);
   }
-  emit Changed();
 }
 
 void Solids_Panel::Set_Notes() {

@@ -11,8 +11,6 @@ namespace barvon {
 
 /// The library and the solids table of both material screens.
 class Solids_Panel : public QWidget {
-  Q_OBJECT
-
  public:
   /// `book`: the table's reference.
   explicit Solids_Panel(const char* book);
@@ -26,10 +24,6 @@ class Solids_Panel : public QWidget {
   F1Book* Book() const { return F1Book1; }
   Spreadsheet_Table& table() { return F1Book1->table(); }
   const Spreadsheet_Table& table() const { return F1Book1->table(); }
-
- signals:
-  /// A row has another name or another number.
-  void Changed();
 
  private:
   void List1_Click(int line, bool on);
