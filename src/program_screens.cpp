@@ -4,6 +4,8 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "material/frm_density.h"
+#include "material/frm_mat_barge.h"
+#include "material/frm_mat_hopper.h"
 #include "platform/qt/input_screen.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
@@ -27,6 +29,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmDescription>(Row_Of_Screen("frmDescription"), main);
   Register_frmGridDescrip(main);
   Register<frmVelocity>(Row_Of_Screen("frmVelocity"), main);
+  Register<frmMatHopper>(Row_Of_Screen("frmMatHopper"), main);
+  Register<frmMatBarge>(Row_Of_Screen("frmMatBarge"), main);
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
 }
 

@@ -90,9 +90,7 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   if (entry.Check3D3) {
     const auto computed = AMDEN(salinity, temperature, 0);
     if (!computed) {
-      Show_Warning("The formula has no result for a salinity of " + Plain_Number(salinity) +
-                   " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n" +
-                   kNothingComputed);
+      Tell_No_Water_Density(salinity, temperature);
       // Where fresh water of that temperature has a density, the salinity is at fault.
       return AMDEN(0, temperature, 0) ? kSalinity : kTemperature;
     }
@@ -103,6 +101,12 @@ std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& re
   record.SiteDensity = Held_Site_Density(density);
   Show_Density(record, entry);
   return std::nullopt;
+}
+
+void Tell_No_Water_Density(double salinity, double temperature) {
+  Show_Warning("The formula has no result for a salinity of " + Plain_Number(salinity) +
+               " ppt and a temperature of " + Plain_Number(temperature) + " deg C.\n" +
+               kNothingComputed);
 }
 
 void Save_Data(Density_Entry& entry, ProjectRecord& record) {

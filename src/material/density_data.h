@@ -28,6 +28,9 @@ Density_Entry Open_Density(ProjectRecord& record);
 /// Otherwise the result is nothing.
 std::optional<int> Compute_Water_Density(Density_Entry& entry, ProjectRecord& record);
 
+/// Tells that the formula has no density for such water.
+void Tell_No_Water_Density(double salinity, double temperature);
+
 /// OK: all three values become what is typed, by the lenient parse. A density outside the limits is
 /// told and becomes the limit; the save goes on. The entry shows the density that is stored.
 void Save_Data(Density_Entry& entry, ProjectRecord& record);

@@ -138,6 +138,18 @@ void Look_At_Input_Screen(const char* name, const Look& look) {
   Unload(screen);
 }
 
+void Look_At_Material(const Look& look) {
+  Project().LAYERS = 6;
+  Project().NumSolids = 4;
+  for (const char* screen : {"frmMatHopper", "frmMatBarge"}) {
+    for (const std::int16_t on : {0, 1}) {
+      Project().SeparationFlag = on;
+      Project().JBFCFlag = 1;
+      Look_At_Input_Screen(screen, look);
+    }
+  }
+}
+
 void Look_At_Help(const Look& look) {
   Set_Help_File(BARVON_HELP_FILE);
   Show_Help({Help_Command::Index, 0, ""});
@@ -227,6 +239,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Error_List(settled);
   Look_At_Input_Screen("frmDensity", settled);
   Look_At_Velocity(settled);
+  Look_At_Material(settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Site(settled);

@@ -10,15 +10,26 @@
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/profile_settings.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {
+
+using Setting = std::pair<std::string, std::string>;  // section and key
+
+/// Sections and keys are found without regard to case, in the file as here.
+struct Ignoring_Case {
+  bool operator()(const Setting& a, const Setting& b) const {
+    return std::pair(Upper_Case(a.first), Upper_Case(a.second)) <
+           std::pair(Upper_Case(b.first), Upper_Case(b.second));
+  }
+};
 
 /// What a settings file could not take.
 struct Unwritten {
   std::string path;
   bool told = false;
-  std::map<std::pair<std::string, std::string>, std::string> values;  // by section and key
+  std::map<Setting, std::string, Ignoring_Case> values;
 };
 
 /// That of the settings file in use.

@@ -15,6 +15,7 @@ Message_Presenter& Presenter() {
 Answer Answer_On_Close(const Message& message) {
   if (message.on_close) return *message.on_close;
   switch (message.buttons) {
+    case Buttons::OkCancel:
     case Buttons::YesNoCancel:
       return Answer::Cancel;
     case Buttons::YesNo:

@@ -6,7 +6,7 @@
 
 namespace barvon {
 
-enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Icon { None, Critical, Question, Warning, Information };
 enum class Answer { Ok, Cancel, Yes, No };
 

@@ -44,6 +44,13 @@ TEST_F(AcceptedScreen, A_Screen_May_Have_Words_Of_Its_Own) {
       (Log{"status 5 Default Coefficients black", "mark 6", "display"}));
 }
 
+TEST_F(AcceptedScreen, Data_That_Is_Only_Supplied_Has_No_Mark_And_No_Refresh) {
+  log_.clear();
+  Supply_Screen(Row_Of_Screen("frmMatBarge"), record_);
+  EXPECT_EQ(log_, Log{"status 3 Data Supplied blue"});
+  EXPECT_EQ(Supplied(), std::vector<int>{7});
+}
+
 TEST_F(AcceptedScreen, Every_Screen_That_Reports_Data_Has_Its_Element) {
   for (const Screen_Row& row : kScreens) {
     record_.ScreenDataSupplied.fill(kFalse);

@@ -61,6 +61,12 @@ TEST_F(SettingsThatCanNotBeWritten, Are_Kept_And_Go_To_The_File_With_The_Next_On
   EXPECT_EQ(Read_Setting("A", "k", "none"), "2");
 }
 
+TEST_F(SettingsThatCanNotBeWritten, Are_Found_In_Any_Case) {
+  Scripted_Messages messages({Answer::Ok});
+  Write_Setting("A", "Listsize", "1");
+  EXPECT_EQ(Read_Setting("a", "ListSize", "none"), "1");
+}
+
 TEST_F(SettingsThatCanNotBeWritten, Still_Show_A_File_Among_The_Recent_Ones) {
   Scripted_Messages messages({Answer::Ok});
   WriteRecentFiles("/data/a.dui");

@@ -47,6 +47,7 @@ TEST(MessageBox, A_Question_Brings_The_Answer) {
 TEST(MessageBox, A_Question_That_Nobody_Shows_Is_Closed_Without_A_Choice) {
   Message_Presenter former = Set_Message_Presenter({});
   EXPECT_EQ(Ask("Now?", Buttons::YesNoCancel), Answer::Cancel);
+  EXPECT_EQ(Ask("Now?", Buttons::OkCancel), Answer::Cancel);
   EXPECT_EQ(Ask("Now?", Buttons::YesNo), Answer::No);
   Set_Message_Presenter(std::move(former));
 }

@@ -25,6 +25,8 @@ QMessageBox::Icon Box_Icon(Icon icon) {
 
 std::vector<Answer> Answers_Of(Buttons buttons) {
   switch (buttons) {
+    case Buttons::OkCancel:
+      return {Answer::Ok, Answer::Cancel};
     case Buttons::YesNo:
       return {Answer::Yes, Answer::No};
     case Buttons::YesNoCancel:

@@ -52,6 +52,9 @@ TEST_F(MessageBox, Every_Button_Brings_Its_Answer_And_The_First_One_Is_The_Defau
   };
   const Case cases[] = {
       {Buttons::Ok, QMessageBox::Ok, {{QMessageBox::Ok, Answer::Ok}}},
+      {Buttons::OkCancel,
+       QMessageBox::Ok | QMessageBox::Cancel,
+       {{QMessageBox::Ok, Answer::Ok}, {QMessageBox::Cancel, Answer::Cancel}}},
       {Buttons::YesNo,
        QMessageBox::Yes | QMessageBox::No,
        {{QMessageBox::Yes, Answer::Yes}, {QMessageBox::No, Answer::No}}},
@@ -73,6 +76,7 @@ TEST_F(MessageBox, Every_Button_Brings_Its_Answer_And_The_First_One_Is_The_Defau
 
 TEST_F(MessageBox, Escape_And_The_Close_Box_Are_Cancel_Or_No_Or_Ok) {
   const std::pair<Buttons, Answer> cases[] = {{Buttons::Ok, Answer::Ok},
+                                              {Buttons::OkCancel, Answer::Cancel},
                                               {Buttons::YesNo, Answer::No},
                                               {Buttons::YesNoCancel, Answer::Cancel}};
   for (const auto& [buttons, answer] : cases) {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/field_table.h"
+#include "core/project_record.h"
+#include "material/solids_table.h"
+
+namespace barvon {
+
+/// The fields of frmMatHopper apart from its water: Text2(0) and Text2(1), volume and number of
+/// fractions, and Text1, the moisture content.
+Field_Table Hopper_Fields();
+
+/// What frmMatHopper holds besides its solids table.
+struct Hopper_Entry {
+  Field_Texts texts;      // of Hopper_Fields(), as typed
+  Field_Texts water;      // of Water_Fields()
+  bool SSCheck1 = false;  // the JBFC coefficient is used
+};
+
+/// What the screen shows when it opens. NumSolids is brought to 1 to 4 first. A hopper without a
+/// volume is offered that of a barge's first layer.
+Hopper_Entry Open_Hopper(ProjectRecord& record);
+
+/// What Text1 shows of the record's moisture content.
+Field_Texts Moisture_Text(const ProjectRecord& record);
+
+/// A number of fractions was typed, which only is checked.
+void Check_Hopper_Solids(const std::string& text);
+
+/// OK. False, and told, when the density is outside its limits; nothing is stored then. New
+/// fractions go to the library.
+bool Save_Data(const Hopper_Entry& entry, Solids_State& state, const Spreadsheet_Table& solids,
+               ProjectRecord& record);
+
+}  // namespace barvon

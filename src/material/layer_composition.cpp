@@ -1,0 +1,91 @@
+#include "material/layer_composition.h"
+
+#include <algorithm>
+
+#include "core/format_pattern.h"
+#include "core/number_text.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kRowHeadingWidth = 4000;
+constexpr Cell_Range kCentred{1, 1, 7, kMaxLayers};
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+std::string Row_Heading(int row, const Spreadsheet_Table& solids) {
+  const std::string name = solids.TextRC(kRowBase + row, 1);
+  return name.empty() ? "Param " + Format_Number(row, "##") : name;
+}
+
+void Store_Text(const std::string& text, double& value) {
+  if (text != Plain_Number(value)) value = Lenient_Number(text);
+}
+
+}  // namespace
+
+void Open_Composition(const ProjectRecord& record, Solids_State& state, Layer_Moisture& moisture) {
+  const int layers = std::clamp<int>(record.LAYERS, 1, kMaxLayers);
+  const int solids = std::clamp<int>(record.NumSolids, 1, kMaxSolids);
+  for (int layer = 1; layer <= layers; ++layer) {
+    for (int i = 1; i <= solids; ++i) {
+      state.Row(kRowBase + i).layers[At(layer)] =
+          Plain_Number(record.LayerSolidFraction[At(i)][At(layer)]);
+    }
+    moisture[At(layer)] = Plain_Number(record.LayerMoisture[At(layer)]);
+  }
+  if (record.SeparationFlag == 0) moisture[1] = Plain_Number(record.MoistureContent);
+}
+
+int Composition_Rows(const Solids_State& state, const Spreadsheet_Table& solids) {
+  return std::clamp(std::max(state.SelectedCount, Filled_Solids(solids)), 1, kMaxSolids);
+}
+
+void Define_Book_1(int layers, bool with_moisture, const Solids_State& state,
+                   const Layer_Moisture& moisture, const Spreadsheet_Table& solids,
+                   Spreadsheet_Table& table) {
+  const Table_Fill fill(table);
+  const int rows = Composition_Rows(state, solids);
+  table.MaxCol(layers);
+  table.MaxRow(with_moisture ? rows + 1 : rows);
+  table.RowHeadingWidth(kRowHeadingWidth);
+  for (int layer = 1; layer <= layers; ++layer) {
+    table.ColText(layer, "Layer " + Format_Number(layer, "##"));
+    for (int row = 1; row <= rows; ++row) {
+      table.RowText(row, Row_Heading(row, solids));
+      table.TextRC(row, layer, state.Row(kRowBase + row).layers[At(layer)]);
+    }
+    if (with_moisture) table.TextRC(rows + 1, layer, moisture[At(layer)]);
+  }
+  if (with_moisture) table.RowText(rows + 1, kMoistureRow);
+  table.Centred(kCentred, true);
+  table.AutoColWidth();
+  table.SetActiveCell(1, 1);
+  table.ForgetEdits();
+}
+
+void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids_State& state,
+                      Layer_Moisture& moisture) {
+  for (int row = 1; row <= table.MaxRow(); ++row) {
+    const bool is_moisture = with_moisture && row == table.MaxRow();
+    // A fifth row of fractions has no place.
+    if (!is_moisture && row > kMaxSolids) continue;
+    Layer_Moisture& texts = is_moisture ? moisture : state.Row(kRowBase + row).layers;
+    for (int layer = 1; layer <= std::min(table.MaxCol(), kMaxLayers); ++layer) {
+      texts[At(layer)] = table.TextRC(row, layer);
+    }
+  }
+}
+
+void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,
+                       ProjectRecord& record) {
+  for (int layer = 1; layer <= std::min<int>(record.LAYERS, kMaxLayers); ++layer) {
+    for (int i = 1; i <= std::min<int>(record.NumSolids, kMaxSolids); ++i) {
+      Store_Text(state.Row(kRowBase + i).layers[At(layer)],
+                 record.LayerSolidFraction[At(i)][At(layer)]);
+    }
+    Store_Text(moisture[At(layer)], record.LayerMoisture[At(layer)]);
+  }
+}
+
+}  // namespace barvon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include "core/project_record.h"
+#include "material/solids_table.h"
+#include "platform/table/spreadsheet_table.h"
+
+namespace barvon {
+
+// The composition table of frmMatBarge: a row for each fraction, a column for each layer and, with
+// the JBFC coefficient, a last row of moisture contents. It shows texts that are kept beside the
+// solids table, so that they stay while it is built anew.
+
+inline constexpr char kMoistureRow[] = "Moisture Content";
+
+/// The moisture contents of the layers, as text. Those of the fractions are in Solids_Row.
+using Layer_Moisture = OneBased<std::string, kMaxLayers>;
+
+/// Opening: the texts of the record's fractions and layers. Without separation the load's moisture
+/// content is that of layer 1.
+void Open_Composition(const ProjectRecord& record, Solids_State& state, Layer_Moisture& moisture);
+
+/// Rows of fractions that the table has: the lines that are ticked or the rows that are filled,
+/// whichever are more, 1 to 4.
+int Composition_Rows(const Solids_State& state, const Spreadsheet_Table& solids);
+
+/// Builds the table for so many layers.
+void Define_Book_1(int layers, bool with_moisture, const Solids_State& state,
+                   const Layer_Moisture& moisture, const Spreadsheet_Table& solids,
+                   Spreadsheet_Table& table);
+
+/// Takes the cells of a table with or without a row of moisture contents into the texts.
+void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids_State& state,
+                      Layer_Moisture& moisture);
+
+/// OK: the texts become the record's, for its NumSolids and LAYERS. A text that is the record's own
+/// value leaves it alone.
+void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,
+                       ProjectRecord& record);
+
+}  // namespace barvon

@@ -1,0 +1,68 @@
+#include "material/solids_doubts.h"
+
+#include <algorithm>
+
+#include "core/number_reading.h"
+#include "core/text_tools.h"
+#include "material/material_library.h"
+#include "material/solids_table.h"
+#include "platform/ask/message_box.h"
+
+namespace barvon {
+namespace {
+
+constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted
+
+std::string In_One_Line(std::string heading) {
+  std::ranges::replace(heading, '\n', ' ');
+  return heading;
+}
+
+std::string Quoted(const std::string& text) {
+  const std::string shown = First_Characters(text, kShownCharacters);
+  return "\"" + (shown.size() < text.size() ? shown + "..." : shown) + "\"";
+}
+
+}  // namespace
+
+std::string Number_Doubts(const Spreadsheet_Table& table, const Cell_Range& range,
+                          const std::string& row_name, int rows_above) {
+  std::string doubts;
+  for (int row = range.row1; row <= range.row2; ++row) {
+    for (int col = range.col1; col <= range.col2; ++col) {
+      if (table.IsEmptyRC(row, col) || table.IsNumberRC(row, col)) continue;
+      const std::string text = table.TextRC(row, col);
+      const std::string note = Real_Note(text);
+      if (note.empty()) continue;
+      doubts += row_name.empty() ? In_One_Line(table.RowText(row))
+                                 : row_name + std::to_string(row - rows_above);
+      doubts += ", " + In_One_Line(table.ColText(col)) + ": " + Quoted(text) + " " + note + ".\n";
+    }
+  }
+  return doubts;
+}
+
+std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table) {
+  const int last = kRowBase + Filled_Solids(table);
+  std::string doubts;
+  for (int row = kRowBase + 1; row <= kSolidsRows; ++row) {
+    const std::string name = Trimmed(table.TextRC(row, 1));
+    if (name.empty()) continue;
+    const std::string called = "Fraction " + std::to_string(row - kRowBase) + ", " + Quoted(name);
+    const std::string note = Material_Name_Note(name);
+    if (!note.empty()) doubts += called + ": the name " + note + ".\n";
+    if (row > last) doubts += called + ": is lost, because a row above it has no name.\n";
+  }
+  return doubts + Number_Doubts(table,
+                                {kRowBase + 1, Column_Of(Solids_Field::Gravity, layout), last,
+                                 Column_Of(Solids_Field::Shear, layout)},
+                                "Fraction ", kRowBase);
+}
+
+bool Accept_Doubts(const std::string& doubts) {
+  if (doubts.empty()) return true;
+  return Ask(doubts + "\nOK Stores the Material All the Same.", Buttons::OkCancel, Icon::Warning) ==
+         Answer::Ok;
+}
+
+}  // namespace barvon
