@@ -401,6 +401,15 @@ TEST_F(BargeScreen, Names_Numbers_And_Compositions_Stay_Together) {
   EXPECT_GE(accepted, 5);
 }
 
+TEST_F(BargeScreen, Looking_Through_The_Tabs_Is_No_Unsaved_Input) {
+  Fill(6, true, true);
+  Open();
+  for (const int page : {1, 2, 3, 0}) Go_To(page);
+  EXPECT_FALSE(Screen()->Holds_Unsaved_Input());
+  Type_Into_Cell(*Book("F1Book1(0)"), 1, 1, "7");
+  EXPECT_TRUE(Screen()->Holds_Unsaved_Input());
+}
+
 TEST_F(BargeScreen, The_Focus_Goes_To_The_First_Cell_Of_A_Table) {
   Set_Solids(record, 1);
   Open();
