@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/format_pattern.h"
+#include "core/keys.h"
 #include "core/number_text.h"
 #include "material/load_water.h"
 #include "platform/ask/message_box.h"
@@ -40,6 +41,15 @@ constexpr Field_Row kRows[] = {
 double Offered_Volume(const ProjectRecord& record) {
   const bool offers = record.TotalVolume == 0 && record.LayerVolume[1] > 0;
   return offers ? record.LayerVolume[1] : record.TotalVolume;
+}
+
+/// Without the coefficient there is no moisture content. A hopper that had neither the coefficient
+/// nor another number typed keeps its own, a pipeline does not.
+double Stored_Moisture(const Hopper_Entry& entry, const ProjectRecord& record) {
+  if (entry.SSCheck1) return Entered_Number(kRows, kMoisture, entry.texts, record);
+  const bool untouched = record.JBFCFlag != 1 && record.DisposalMethod != kContinuous &&
+                         entry.texts.Is_Untouched(kMoisture);
+  return untouched ? record.MoistureContent : 0;
 }
 
 }  // namespace
@@ -80,8 +90,7 @@ bool Save_Data(const Hopper_Entry& entry, Solids_State& state, const Spreadsheet
   record.TotalVolume = entry.texts.Is_Untouched(kVolume)
                            ? Offered_Volume(record)
                            : Lenient_Number(entry.texts(kVolume.array, kVolume.index));
-  record.MoistureContent =
-      entry.SSCheck1 ? Entered_Number(kRows, kMoisture, entry.texts, record) : 0;
+  record.MoistureContent = Stored_Moisture(entry, record);
   record.JBFCFlag = entry.SSCheck1 ? 1 : 0;
   Read_Fields(Water_Fields(), entry.water, record);
   Store_Solids(state, solids, record);

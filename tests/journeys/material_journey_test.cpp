@@ -106,6 +106,24 @@ class BargeJourney : public Material_Journey<frmMatBarge> {
   BargeJourney() : Material_Journey("frmMatBarge", "Barge_Four_Layers.DUI") {}
 };
 
+TEST_F(HopperJourney, A_Sample_That_Is_Accepted_Untouched_Keeps_Its_Material) {
+  Open();
+  Accept();
+  ASSERT_FALSE(Is_Open());
+  for (const std::string& field : Changed()) {
+    EXPECT_EQ(std::ranges::count(kMaterial, field), 0) << field;
+  }
+}
+
+TEST_F(BargeJourney, A_Sample_That_Is_Accepted_Untouched_Keeps_Its_Material) {
+  Open();
+  Accept();
+  ASSERT_FALSE(Is_Open());
+  for (const std::string& field : Changed()) {
+    EXPECT_EQ(std::ranges::count(kMaterial, field), 0) << field;
+  }
+}
+
 TEST_F(HopperJourney, Four_Fractions_Entered_From_Nothing_Are_Saved_Loaded_And_Run) {
   Empty_Material();
   Open();

@@ -1,5 +1,9 @@
 #include "material/frm_mat_barge.h"
 
+#include <random>
+#include <string>
+#include <tuple>
+
 #include "core/keys.h"
 #include "material/material_screen.h"
 #include "material/open_hopper_boxes.h"
@@ -343,6 +347,67 @@ TEST_F(BargeScreen, An_Untick_With_Separation_Takes_The_Fractions_Own_Row) {
   Accept();
   EXPECT_EQ(record.NumSolids, 3);
   EXPECT_EQ(record.LayerSolidFraction[1][2], before->LayerSolidFraction[2][2]);
+}
+
+// Whatever is ticked, typed and chosen, a row keeps its name, its numbers and its composition
+// together: each fraction's number is in all of them.
+TEST_F(BargeScreen, Names_Numbers_And_Compositions_Stay_Together) {
+  const Message_Presenter former =
+      Set_Message_Presenter([](const Message& message) { return Answer_On_Close(message); });
+  std::string library = "Listsize=8\r\n";
+  for (int i = 1; i <= 8; ++i) {
+    const std::string n = std::to_string(i);
+    library += "Fraction" + n + "=Sand" + n + " 2.6" + n + " .0" + n + "0 .0" + n + "0 " + n +
+               ".7000 .00" + n + "0 N Y\r\n";
+  }
+  int accepted = 0;
+  std::mt19937 random(7);
+  const auto any = [&](unsigned count) { return static_cast<int>(random() % count); };
+  for (int round = 0; round < 20; ++round) {
+    Library(kBargeLibrary, library);
+    Fill(3, round % 2 == 0, round % 3 == 0);
+    for (std::size_t i = 1; i <= kMaxSolids; ++i) {
+      record.SolidSG[i] = 2.6 + static_cast<double>(i) / 100;
+      record.LayerSolidFraction[i][1] = static_cast<double>(i) / 100;
+    }
+    Open();
+    for (int step = 0; step < 25; ++step) {
+      const int line = any(8);
+      if (any(2) == 0) Tick(line, !List()->Is_Ticked(line));
+      if (any(4) == 0) Box(any(2) == 0 ? "SSCheck1(0)" : "SSCheck1(1)")->setChecked(any(2) == 0);
+      const int page = any(4);
+      if (Tabs()->isTabEnabled(page)) Go_To(page);
+      if (any(8) == 0) Enter("Text1(0)", QString::number(1 + any(6)));
+    }
+    Solids().SetActiveCell(9, 1);
+    const bool too_many = !Solids().IsEmptyRC(13, 1);
+    Accept();
+    if (too_many) {
+      EXPECT_TRUE(Is_Open());
+      Press("Command1(1)");
+      continue;
+    }
+    ASSERT_FALSE(Is_Open());
+    ++accepted;
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(record.NumSolids); ++i) {
+      const int number = record.SolidNames[i].back() - '0';
+      EXPECT_EQ(record.SolidNames[i], "Sand" + std::to_string(number));
+      EXPECT_EQ(record.SolidSG[i], 2.6 + number / 100.0);
+      const double part = record.LayerSolidFraction[i][1];
+      EXPECT_TRUE(part == 0 || part == number / 100.0) << part;
+    }
+  }
+  Set_Message_Presenter(former);
+  EXPECT_GE(accepted, 5);
+}
+
+TEST_F(BargeScreen, Looking_Through_The_Tabs_Is_No_Unsaved_Input) {
+  Fill(6, true, true);
+  Open();
+  for (const int page : {1, 2, 3, 0}) Go_To(page);
+  EXPECT_FALSE(Screen()->Holds_Unsaved_Input());
+  Type_Into_Cell(*Book("F1Book1(0)"), 1, 1, "7");
+  EXPECT_TRUE(Screen()->Holds_Unsaved_Input());
 }
 
 TEST_F(BargeScreen, The_Focus_Goes_To_The_First_Cell_Of_A_Table) {

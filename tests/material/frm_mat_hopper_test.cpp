@@ -72,6 +72,17 @@ TEST_F(HopperScreen, Without_The_Coefficient_The_Moisture_Is_Cleared) {
   EXPECT_EQ(record.JBFCFlag, 0);
 }
 
+TEST_F(HopperScreen, Never_Ticked_The_Moisture_Stays_Unless_It_Is_Typed) {
+  record.MoistureContent = 2.56789;
+  Open();
+  Accept();
+  EXPECT_EQ(record.MoistureContent, 2.56789);
+  Open();
+  Enter("Text1", "3");
+  Accept();
+  EXPECT_EQ(record.MoistureContent, 0);
+}
+
 TEST_F(HopperScreen, Ticking_The_Coefficient_Shows_The_Stored_Moisture) {
   record.MoistureContent = 2.56789;
   Open();

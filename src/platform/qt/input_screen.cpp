@@ -207,22 +207,29 @@ bool Input_Screen::Holds_Unsaved_Input() {
 std::vector<QString> Input_Screen::Controls_Show() const {
   std::vector<QString> shown;
   for (const QWidget* control : findChildren<QWidget*>()) {
+    const auto add = [&](const QString& text) {
+      shown.push_back(control->objectName() + QLatin1Char('\n') + text);
+    };
     if (const auto* table = dynamic_cast<const F1Book*>(control)) {
       const Spreadsheet_Table& cells = table->table();
+      QString texts;
       for (int row = 1; row <= cells.MaxRow(); ++row) {
         for (int col = 1; col <= cells.MaxCol(); ++col) {
-          shown.push_back(QString::fromStdString(cells.EntryRC(row, col)));
+          texts += QString::fromStdString(cells.EntryRC(row, col)) + QLatin1Char('\n');
         }
       }
+      add(texts);
     } else if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
-      if (button->isCheckable()) shown.push_back(QString::number(button->isChecked()));
+      if (button->isCheckable()) add(QString::number(button->isChecked()));
     } else if (const auto* field = qobject_cast<const QLineEdit*>(control)) {
       // One without a reference is a part of something else: the editor of a cell, a find bar.
-      if (!field->isReadOnly() && !field->objectName().isEmpty()) shown.push_back(field->text());
+      if (!field->isReadOnly() && !field->objectName().isEmpty()) add(field->text());
     } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
-      shown.push_back(list->currentText());
+      add(list->currentText());
     }
   }
+  // The order of the controls is none: a tab that comes to the front goes behind the others in it.
+  std::ranges::sort(shown);
   return shown;
 }
 
