@@ -50,8 +50,10 @@ std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table) 
     if (name.empty()) continue;
     const std::string called = "Fraction " + std::to_string(row - kRowBase) + ", " + Quoted(name);
     const std::string note = Material_Name_Note(name);
-    if (!note.empty()) doubts += called + ": the name " + note + ".\n";
-    if (row > last) doubts += called + ": is lost, because a row above it has no name.\n";
+    if (!note.empty()) doubts.append(called).append(": the name ").append(note).append(".\n");
+    if (row > last) {
+      doubts.append(called).append(": is lost, because a row above it has no name.\n");
+    }
   }
   return doubts + Number_Doubts(table,
                                 {kRowBase + 1, Column_Of(Solids_Field::Gravity, layout), last,

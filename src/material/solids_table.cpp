@@ -179,9 +179,11 @@ bool Check_Solids_Table(Spreadsheet_Table& table) {
     if (Name_In(table, kRowBase + i).empty()) return true;
     if (i <= kMaxSolids) continue;
     const std::string most = Format_Number(kMaxSolids, "##");
-    return Ask("More Than " + most +
-                   " Solids Fractions Specified.  Do You Wish to Only Select The First " + most +
-                   "?",
+    return Ask(std::string("More Than ")
+                   .append(most)
+                   .append(" Solids Fractions Specified.  Do You Wish to Only Select The First ")
+                   .append(most)
+                   .append("?"),
                Buttons::OkCancel) == Answer::Ok;
   }
   return true;
