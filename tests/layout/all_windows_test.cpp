@@ -125,6 +125,18 @@ void Look_At_Velocity(const Look& look) {
   }
 }
 
+void Look_At_Simulation(const Look& look) {
+  Project().NumPrintTimes = 0;
+  QWidget& screen = Opened("frmSimulation");
+  look(screen, "printed quarterly");
+  screen.findChild<QCheckBox*>("SSCheck2(2)")->click();
+  screen.findChild<QLineEdit*>("Text2")->setText("12");
+  look(screen, "with own print times");
+  screen.findChild<QLineEdit*>("Text1(1)")->setFocus();
+  look(screen, "with the advice on the time step");
+  Unload(screen);
+}
+
 /// An input screen with each of its tabs in front.
 void Look_At_Input_Screen(const char* name, const Look& look) {
   QWidget& screen = Opened(name);
@@ -226,6 +238,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
   Look_At_Input_Screen("frmDensity", settled);
+  Look_At_Simulation(settled);
   Look_At_Velocity(settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
