@@ -4,6 +4,7 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "material/frm_density.h"
+#include "params/frm_coefficients.h"
 #include "params/frm_simulation.h"
 #include "platform/qt/input_screen.h"
 #include "site/frm_description.h"
@@ -29,6 +30,7 @@ void Register_Program_Screens(QWidget* main) {
   Register_frmGridDescrip(main);
   Register<frmVelocity>(Row_Of_Screen("frmVelocity"), main);
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
+  Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
 }
 

@@ -108,6 +108,17 @@ void frmSimulation::Opening() {
   Set_Check(kOwnPrintTimes, record_.NumPrintTimes > 0);
 }
 
+// The velocity screen stores a duration too.
+void frmSimulation::Activated() {
+  const Control_Name duration{"Text1", kDuration};
+  if (!fields_.Texts().Is_Untouched(duration)) return;
+  const bool unsaved = Holds_Unsaved_Input();
+  Field_Texts stored;
+  stored.Set(duration, Field_Text(*Find_Row(Simulation_Fields(), duration, record_), record_));
+  fields_.Show(stored);
+  if (!unsaved) Controls_Are_Stored();
+}
+
 void frmSimulation::Command1_Click(int index) {
   if (index == kOk) {
     Save_Simulation(Entry(), F1Book1->table(), record_);

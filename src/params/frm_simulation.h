@@ -22,6 +22,7 @@ class frmSimulation : public Input_Screen {
 
  protected:
   void Opening() override;
+  void Activated() override;
   void Command1_Click(int index) override;
 
  private:

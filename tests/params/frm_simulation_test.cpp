@@ -222,6 +222,23 @@ TEST_F(SimulationScreen, A_Duration_That_Was_Stored_Meanwhile_Stays) {
   EXPECT_EQ(record.SimulationDuration, 9500);
 }
 
+TEST_F(SimulationScreen, Shows_A_Duration_That_Was_Stored_Meanwhile_Unless_One_Is_Typed) {
+  Open();
+  const auto come_back = [this](double stored) {
+    bench.main().activateWindow();
+    ASSERT_TRUE(Has_Keyboard(&bench.main()));
+    record.SimulationDuration = stored;
+    Screen()->activateWindow();
+    ASSERT_TRUE(Has_Keyboard(Screen()));
+  };
+  come_back(9000);
+  EXPECT_EQ(Text1(0)->text(), "9000.");
+  EXPECT_FALSE(Screen()->Holds_Unsaved_Input());
+  Enter(Text1(0), "7200");
+  come_back(8000);
+  EXPECT_EQ(Text1(0)->text(), "7200");
+}
+
 TEST_F(SimulationScreen, OK_Stores_What_Is_Typed_And_Reports_It) {
   Open();
   Enter(Text1(1), "200");
