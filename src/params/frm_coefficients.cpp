@@ -1,5 +1,6 @@
 #include "params/frm_coefficients.h"
 
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 #include "core/book_numbers.h"
@@ -46,6 +47,9 @@ frmCoefficients::frmCoefficients(QWidget* workspace)
 void frmCoefficients::Opening() {
   UsingDefaults = false;
   Fill_Coefficients(record_, F1Book1->table());
+  // A description is not read when it is scrolled out on the way to its value.
+  F1Book1->setMinimumWidth(F1Book1->verticalHeader()->sizeHint().width() +
+                           F1Book1->horizontalHeader()->length() + 4 * F1Book1->frameWidth());
   Check3D1->setChecked(record_.PritchardFlag == 1);
 }
 

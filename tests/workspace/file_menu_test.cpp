@@ -2,8 +2,10 @@
 
 #include "checks/check_data.h"
 #include "core/desk/recent_files.h"
+#include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "support/recorded_workspace.h"
 #include "workspace/quit_rules.h"
 
@@ -97,8 +99,9 @@ TEST_F(FileMenu, Open_Goes_Through_Its_Steps_In_Order) {
 
 TEST_F(FileMenu, Open_Says_Whether_The_Coefficients_Are_The_Defaults) {
   Scripted_Messages messages;
+  const std::string path = folder_ / "site.DUI";
   record_.CD = 0.7;
-  const std::string path = Make_Project("site.dui");
+  ASSERT_TRUE(Save_File(path, kProjectKind, record_));
   record_.ScreenDataSupplied[10] = kTrue;  // of the project before
   chosen_ = path;
   Click(kFileOpen);
