@@ -6,6 +6,8 @@
 #include "material/frm_density.h"
 #include "material/frm_mat_barge.h"
 #include "material/frm_mat_hopper.h"
+#include "params/frm_coefficients.h"
+#include "params/frm_simulation.h"
 #include "platform/qt/input_screen.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
@@ -32,6 +34,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmMatHopper>(Row_Of_Screen("frmMatHopper"), main);
   Register<frmMatBarge>(Row_Of_Screen("frmMatBarge"), main);
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
+  Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
+  Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
 }
 
 }  // namespace barvon

@@ -48,6 +48,7 @@ void Set_Velocity_Defaults(ProjectRecord& record) {
 void Set_Output_And_Evaluation_Defaults(ProjectRecord& record) {
   record.SimulationDuration = record.LongTermTimeStep = 0;
   record.PrintConvectiveDescent = record.PrintCollapse = 0;
+  record.NumPrintTimes = 0;
   record.PrintTimes = {};
   record.TracerConcentration = record.BackgroundConcentration = 0;
   record.CriterionConcentration = record.SedimentConcentration = 0;

@@ -9,8 +9,8 @@ namespace barvon {
 /// does that around it.
 ///
 /// Left as they stand, as no default is told for them: BaseFileName, FileKind, ShowMode,
-/// FileTypeTag, DistX, DistZ, NumPrintTimes, TidalStartTime, the tidal table, SiteSalinity,
-/// SiteTemperature, FluidComputedConcentration, the cell texts, DiluteRowCount and remarks.
+/// FileTypeTag, DistX, DistZ, TidalStartTime, the tidal table, SiteSalinity, SiteTemperature,
+/// FluidComputedConcentration, the cell texts, DiluteRowCount and remarks.
 void Set_Project_Defaults(ProjectRecord& record);
 
 /// The bulk density rule. With NumSolids above 0, a stored bulk density overrides the stored

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 
 #include "core/desk/analysis_keys.h"
+#include "core/desk/coefficient_words.h"
 #include "core/keys.h"
 #include "platform/qt/fields/option_paint.h"
 #include "workspace/option_groups.h"
@@ -86,7 +87,7 @@ void Show_New_Project(Main_Controls& controls, ProjectRecord& record) {
   Show_Method(controls, -1);
   controls.MethodFrame->setEnabled(false);
   for (int i = 0; i < 5; ++i) Show_Status_Line(controls, i, kDataNotEntered, Status_Colour::Black);
-  Show_Status_Line(controls, 5, "Default Coefficients Used", Status_Colour::Black);
+  Show_Status_Line(controls, 5, kDefaultCoefficientsUsed, Status_Colour::Black);
   Set_Data_Items(controls, record);
 }
 

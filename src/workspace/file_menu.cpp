@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "checks/check_data.h"
+#include "core/coefficients.h"
 #include "core/desk/analysis_keys.h"
+#include "core/desk/coefficient_words.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/open_file.h"
 #include "core/desk/recent_files.h"
@@ -36,6 +38,15 @@ void New_Project(ProjectRecord& record) {
   Set_Status_Lines(kDataNotEntered, Status_Colour::Black);
 }
 
+/// The file's coefficients are nobody's but its own: what was accepted was another project's.
+void Show_Opened_Coefficients(ProjectRecord& record) {
+  constexpr const Screen_Row& kCoefficientScreen = Row_Of_Screen("frmCoefficients");
+  record.ScreenDataSupplied[*kCoefficientScreen.supplied] = kFalse;
+  const Status_Words words =
+      Coefficient_Words(Has_Default_Coefficients(record), kDefaultCoefficientsUsed);
+  Port().board.set_status_line(*kCoefficientScreen.status_line, words.text, words.colour);
+}
+
 void Show_Opened(ProjectRecord& record) {
   // What comes from a file counts as accepted data.
   record.WizardAccepted = kTrue;
@@ -49,6 +60,7 @@ void Show_Opened(ProjectRecord& record) {
          {}});
   }
   Set_Status_Lines(kDataSupplied, Status_Colour::Blue);
+  Show_Opened_Coefficients(record);
   Port().board.show_main_board();
 }
 

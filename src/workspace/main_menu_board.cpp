@@ -1,6 +1,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 
+#include "core/desk/coefficient_words.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
 #include "platform/qt/fields/encoding_validator.h"
@@ -43,7 +44,7 @@ QGroupBox* Data_Categories(Main_Controls& controls) {
   for (int i = 0; i < 6; ++i) {
     Text(controls.Label2(i), kCategories[i]);
     Text(controls.Text2(i));
-    Show_Status_Line(controls, i, i == 5 ? "Default Coefficients Used" : kDataNotEntered,
+    Show_Status_Line(controls, i, i == 5 ? kDefaultCoefficientsUsed : kDataNotEntered,
                      Status_Colour::Black);
     grid->addWidget(controls.Label2(i), i, 0);
     grid->addWidget(controls.Text2(i), i, 1);

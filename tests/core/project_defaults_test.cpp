@@ -93,7 +93,6 @@ TEST_F(ProjectDefaults, A_Used_Record_Is_Brought_Back) {
 TEST_F(ProjectDefaults, Fields_Without_A_Default_Keep_The_Value_Of_The_Earlier_Project) {
   record_.BaseFileName = "/sites/a";
   record_.FileKind = 2;
-  record_.NumPrintTimes = 4;
   record_.TidalStartTime = 1.5F;
   record_.TidalVelX[26] = 0.5F;
   record_.SiteSalinity = 30;
@@ -102,12 +101,17 @@ TEST_F(ProjectDefaults, Fields_Without_A_Default_Keep_The_Value_Of_The_Earlier_P
   Set_Project_Defaults(record_);
   EXPECT_EQ(record_.BaseFileName, "/sites/a");
   EXPECT_EQ(record_.FileKind, 2);
-  EXPECT_EQ(record_.NumPrintTimes, 4);
   EXPECT_EQ(record_.TidalStartTime, 1.5F);
   EXPECT_EQ(record_.TidalVelX[26], 0.5F);
   EXPECT_EQ(record_.SiteSalinity, 30);
   EXPECT_EQ(record_.DiluteRowCount, 3);
   EXPECT_EQ(record_.TidalDepth, 0);
+}
+
+TEST_F(ProjectDefaults, A_New_Project_Has_No_Print_Times) {
+  record_.NumPrintTimes = 4;
+  Set_Project_Defaults(record_);
+  EXPECT_EQ(record_.NumPrintTimes, 0);
 }
 
 TEST_F(ProjectDefaults, Zero_Volumes_And_Bulk_Density_Leave_The_Site_Density_At_1) {

@@ -62,7 +62,6 @@ TEST(RecordLists, Every_Field_Has_A_Default_But_For_Those_That_Outlive_A_Project
                          "TidalStartTime",
                          "TidalVelX",
                          "TidalVelZ",
-                         "NumPrintTimes",
                          "FluidComputedConcentration",
                          "SolidCohesiveText",
                          "SolidStrippedText",

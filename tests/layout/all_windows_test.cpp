@@ -125,6 +125,28 @@ void Look_At_Velocity(const Look& look) {
   }
 }
 
+void Look_At_Simulation(const Look& look) {
+  Project().NumPrintTimes = 0;
+  QWidget& screen = Opened("frmSimulation");
+  look(screen, "printed quarterly");
+  screen.findChild<QCheckBox*>("SSCheck2(2)")->click();
+  screen.findChild<QLineEdit*>("Text2")->setText("12");
+  look(screen, "with own print times");
+  screen.findChild<QLineEdit*>("Text1(1)")->setFocus();
+  look(screen, "with the advice on the time step");
+  Unload(screen);
+}
+
+void Look_At_Coefficients(const Look& look) {
+  for (const std::int16_t method : {1, 2}) {
+    Project().DisposalMethod = method;
+    QWidget& screen = Opened("frmCoefficients");
+    screen.findChild<F1Book*>("F1Book1")->table().TextRC(3, 4, "-0.5 or so");
+    look(screen, "method " + std::to_string(method));
+    Unload(screen);
+  }
+}
+
 /// An input screen with each of its tabs in front.
 void Look_At_Input_Screen(const char* name, const Look& look) {
   QWidget& screen = Opened(name);
@@ -238,6 +260,8 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Start_Dialog(settled);
   Look_At_Error_List(settled);
   Look_At_Input_Screen("frmDensity", settled);
+  Look_At_Simulation(settled);
+  Look_At_Coefficients(settled);
   Look_At_Velocity(settled);
   Look_At_Material(settled);
   Look_At_Help(settled);

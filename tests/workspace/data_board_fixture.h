@@ -41,7 +41,6 @@ class DataBoard : public ::testing::Test {
       registered.push_back(name);
     }
     Project().ConstantDepthFlag = 1;
-    Project().NumPrintTimes = 0;  // which no new project resets
   }
   ~DataBoard() override {
     for (const std::string& name : registered) Register_Screen(*Find_Screen(name), {});

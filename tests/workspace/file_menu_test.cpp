@@ -2,8 +2,10 @@
 
 #include "checks/check_data.h"
 #include "core/desk/recent_files.h"
+#include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "support/recorded_workspace.h"
 #include "workspace/quit_rules.h"
 
@@ -89,9 +91,22 @@ TEST_F(FileMenu, Open_Goes_Through_Its_Steps_In_Order) {
   EXPECT_EQ(log_, (Lines{"caption BARVON - " + path, "recent menu", "display",
                          "status 0 Data Supplied blue", "status 1 Data Supplied blue",
                          "status 2 Data Supplied blue", "status 3 Data Supplied blue",
-                         "status 4 Data Supplied blue", "main board"}));
+                         "status 4 Data Supplied blue", "status 5 Default Coefficients Used black",
+                         "main board"}));
   EXPECT_EQ(Settings(), "[Recent Files]\r\nRecentFile1=" + path +
                             "\r\n[Graph File]\r\nGraphFile=" + path + "\r\n");
+}
+
+TEST_F(FileMenu, Open_Says_Whether_The_Coefficients_Are_The_Defaults) {
+  Scripted_Messages messages;
+  const std::string path = folder_ / "site.DUI";
+  record_.CD = 0.7;
+  ASSERT_TRUE(Save_File(path, kProjectKind, record_));
+  record_.ScreenDataSupplied[10] = kTrue;  // of the project before
+  chosen_ = path;
+  Click(kFileOpen);
+  EXPECT_EQ(std::count(log_.begin(), log_.end(), "status 5 User-Defined Coefficients blue"), 1);
+  EXPECT_EQ(record_.ScreenDataSupplied[10], kFalse);
 }
 
 TEST_F(FileMenu, Open_Shows_The_Dialog_Of_The_Kind_Of_File) {

@@ -13,9 +13,17 @@ std::string Size_Text(std::size_t rows, std::size_t cols) {
 
 /// Why the range can't be written to; "" when it can.
 std::string Fixed_Refusal(const Spreadsheet_Table& table, const Cell_Range& range) {
-  if (range.row1 > table.FixedRows()) return "";
-  if (table.FixedRows() == 1) return "The first row of the table can't be changed.";
-  return "The first " + std::to_string(table.FixedRows()) + " rows of the table can't be changed.";
+  if (range.row1 <= table.FixedRows()) {
+    if (table.FixedRows() == 1) return "The first row of the table can't be changed.";
+    return "The first " + std::to_string(table.FixedRows()) +
+           " rows of the table can't be changed.";
+  }
+  if (range.col1 <= table.FixedCols()) {
+    if (table.FixedCols() == 1) return "The first column of the table can't be changed.";
+    return "The first " + std::to_string(table.FixedCols()) +
+           " columns of the table can't be changed.";
+  }
+  return "";
 }
 
 /// Writes a text into every cell of the range; `text_of` gets row and column within it.
@@ -69,7 +77,8 @@ Edit_Outcome Paste_Target(const Spreadsheet_Table& table, const Cell_Range& rang
 }  // namespace
 
 bool Can_Edit(const Spreadsheet_Table& table, int row, int col) {
-  return row > table.FixedRows() && In_Table(table, {row, col, row, col}).has_value();
+  return row > table.FixedRows() && col > table.FixedCols() &&
+         In_Table(table, {row, col, row, col}).has_value();
 }
 
 Edit_Outcome Type_Cell(Spreadsheet_Table& table, int row, int col, const std::string& text) {

@@ -31,6 +31,11 @@ void Spreadsheet_Table::FixedRows(int rows) {
   Tell_Shape();
 }
 
+void Spreadsheet_Table::FixedCols(int cols) {
+  fixed_cols_ = std::clamp(cols, 0, kSheetCols);
+  Tell_Shape();
+}
+
 Cell_Range Spreadsheet_Table::TableRange() const {
   return {1, 1, std::max(max_row_, 1), std::max(max_col_, 1)};
 }

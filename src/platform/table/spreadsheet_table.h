@@ -76,6 +76,9 @@ class Spreadsheet_Table {
   /// The first rows that the user can't change; code can. 0 at first.
   int FixedRows() const { return fixed_rows_; }
   void FixedRows(int rows);
+  /// The same for the first columns.
+  int FixedCols() const { return fixed_cols_; }
+  void FixedCols(int cols);
 
   // Cells.
   /// A number in its cell's format; a text as it was written, whatever the format; "" when empty.
@@ -211,7 +214,7 @@ class Spreadsheet_Table {
   void Tell_Cursor();
 
   Cell_Numbers numbers_;
-  int max_row_ = 1, max_col_ = 1, fixed_rows_ = 0;
+  int max_row_ = 1, max_col_ = 1, fixed_rows_ = 0, fixed_cols_ = 0;
   int row_ = 1, col_ = 1;
   Cell_Range selection_;
   std::vector<std::vector<Cell>> rows_;  // as far as something was written, from index 0

@@ -59,6 +59,20 @@ TEST_F(SpreadsheetEdits, The_Same_Text_Again_Is_No_Edit) {
   EXPECT_FALSE(table.CanUndo());
 }
 
+TEST_F(SpreadsheetEdits, Fixed_Columns_Refuse_Every_Edit_And_Keep_Everything) {
+  table.FixedCols(2);
+  table.TextRC(1, 3, "mine");
+  const std::string words = "The first 2 columns of the table can't be changed.";
+  EXPECT_EQ(Type_Cell(table, 1, 2, "x").refusal, words);
+  EXPECT_EQ(Clear_Cells(table, {1, 2, 1, 3}).refusal, words);
+  EXPECT_EQ(Paste_Cells(table, {1, 2, 1, 2}, {{"x", "y"}}).refusal, words);
+  EXPECT_EQ(table.TextRC(1, 3), "mine") << "all or nothing";
+  EXPECT_FALSE(Can_Edit(table, 1, 2));
+  EXPECT_TRUE(Can_Edit(table, 1, 3));
+  table.FixedCols(1);
+  EXPECT_EQ(Type_Cell(table, 1, 1, "x").refusal, "The first column of the table can't be changed.");
+}
+
 TEST_F(SpreadsheetEdits, Fixed_Rows_Refuse_Every_Edit_And_Keep_Everything) {
   table.FixedRows(2);
   table.TextRC(2, 1, "Gravel");

@@ -1,6 +1,7 @@
 #include "platform/qt/table/book_model.h"
 
 #include <QApplication>
+#include <QColor>
 #include <QFont>
 #include <QFontDatabase>
 #include <QPalette>
@@ -11,6 +12,9 @@
 namespace barvon {
 namespace {
 
+// Told apart by lightness too, for those who see no red.
+constexpr QColor kWarnLetters{176, 42, 32}, kWarnGround{250, 228, 224};
+
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 /// A heading for the ear: one line.
@@ -18,11 +22,12 @@ QString Spoken(const std::string& heading) { return Q(heading).simplified(); }
 
 /// A font that the desktop does not have is left to the table's own, at the size asked for. None
 /// is smaller than the table's own: who has set a large one needs it.
-QVariant Cell_Font(const Cell_Style& style) {
-  if (style.font.empty() && style.font_size == 0) return {};
+QVariant Cell_Font(const Cell_Style& style, bool bold) {
+  if (style.font.empty() && style.font_size == 0 && !bold) return {};
   QFont font = QApplication::font("QTableView");
   if (QFontDatabase::hasFamily(Q(style.font))) font.setFamily(Q(style.font));
   if (style.font_size > font.pointSize()) font.setPointSize(style.font_size);
+  if (bold) font.setBold(true);
   return font;
 }
 
@@ -49,9 +54,24 @@ const Number_Note& Book_Model::Note_Of(int col) const {
 
 QString Book_Model::NumberNoteOf(int row, int col) const {
   const Number_Note& note = Note_Of(col);
-  if (!note || row <= table_.FixedRows()) return {};
+  if (!note || row <= table_.FixedRows() || col <= table_.FixedCols()) return {};
   const auto* text = std::get_if<std::string>(&table_.ValueRC(row, col));
   return text == nullptr ? QString() : Q(note(*text));
+}
+
+void Book_Model::SetCellLook(Look_Of_Cell look) {
+  look_ = std::move(look);
+  Cells_Changed(table_.TableRange());
+}
+
+Cell_Look Book_Model::Look_Of(int row, int col) const {
+  return look_ ? look_(row, col) : Cell_Look();
+}
+
+QString Book_Model::Remark_On(int row, int col) const {
+  QStringList parts = {NumberNoteOf(row, col), Q(Look_Of(row, col).tip)};
+  parts.removeAll(QString());
+  return parts.join(QStringLiteral("; "));
 }
 
 int Book_Model::rowCount(const QModelIndex& parent) const {
@@ -74,18 +94,21 @@ QVariant Book_Model::data(const QModelIndex& index, int role) const {
       if (table_.StyleRC(row, col).centred) return int(Qt::AlignCenter);
       return int((table_.IsNumberRC(row, col) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::FontRole:
-      return Cell_Font(table_.StyleRC(row, col));
+      return Cell_Font(table_.StyleRC(row, col), Look_Of(row, col).bold);
+    case Qt::ForegroundRole:
+      return Look_Of(row, col).warned ? QVariant(kWarnLetters) : QVariant();
     case Qt::BackgroundRole:
-      if (row > table_.FixedRows()) return {};
+      if (Look_Of(row, col).warned) return kWarnGround;
+      if (row > table_.FixedRows() && col > table_.FixedCols()) return {};
       return QApplication::palette().brush(QPalette::Button);
     case Qt::ToolTipRole: {
-      const QString note = NumberNoteOf(row, col);
-      return note.isEmpty() ? QVariant() : note;
+      const QString remark = Remark_On(row, col);
+      return remark.isEmpty() ? QVariant() : remark;
     }
     case Qt::AccessibleDescriptionRole: {
       const QString headings = Spoken(table_.RowText(row)) + ", " + Spoken(table_.ColText(col));
-      const QString note = NumberNoteOf(row, col);
-      return note.isEmpty() ? headings : headings + "; " + note;
+      const QString remark = Remark_On(row, col);
+      return remark.isEmpty() ? headings : headings + "; " + remark;
     }
     default:
       return {};

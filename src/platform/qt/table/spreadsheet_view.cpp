@@ -66,6 +66,10 @@ void F1Book::SetNumberNote(int col, Number_Note note) {
   model_->SetNumberNote(col, std::move(note));
 }
 
+void F1Book::SetCellLook(std::function<Cell_Look(int row, int col)> look) {
+  model_->SetCellLook(std::move(look));
+}
+
 QString F1Book::NumberNoteOf(int row, int col) const { return model_->NumberNoteOf(row, col); }
 
 // Commands

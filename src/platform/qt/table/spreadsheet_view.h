@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QTableView>
+#include <functional>
 #include <optional>
 
 #include "platform/qt/fields/number_field.h"
+#include "platform/table/cell_look.h"
 #include "platform/table/spreadsheet_edits.h"
 #include "platform/table/spreadsheet_table.h"
 
@@ -59,6 +61,10 @@ class F1Book : public QTableView {
   void SetNumberNote(int col, Number_Note note);
   /// What the cell's mark says now; "" while it has none.
   QString NumberNoteOf(int row, int col) const;
+
+  /// Asked whenever a cell is shown: what it says may hang on other cells. Of the number note and a
+  /// tip the cell shows both. An empty function takes it away.
+  void SetCellLook(std::function<Cell_Look(int row, int col)> look);
 
   // The commands of the menu and the keys, as the user's own: a refusal is told in a message box.
   void Cut();

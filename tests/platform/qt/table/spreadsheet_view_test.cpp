@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QFont>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -41,6 +42,36 @@ TEST_F(SpreadsheetView, A_Cell_That_Reads_As_Another_Number_Is_Marked) {
   EXPECT_EQ(Data(2, 2, Qt::AccessibleDescriptionRole), "2, B; reads as 62");
   table().FixedRows(2);
   EXPECT_EQ(book->NumberNoteOf(2, 2), "");
+}
+
+TEST_F(SpreadsheetView, A_Cell_Stands_Out_As_It_Is_Told_And_Says_Why) {
+  book->SetNumberNote(Real_Note);
+  book->SetCellLook([this](int row, int col) {
+    const bool negative = table().NumberRC(row, col) < 0;
+    return negative ? Cell_Look{true, true, "negative"} : Cell_Look();
+  });
+  table().TextRC(2, 2, "-2,5");
+  EXPECT_TRUE(Data(2, 2, Qt::FontRole).value<QFont>().bold());
+  EXPECT_TRUE(Data(2, 2, Qt::ForegroundRole).isValid());
+  EXPECT_TRUE(Data(2, 2, Qt::BackgroundRole).isValid());
+  EXPECT_EQ(Data(2, 2, Qt::ToolTipRole), "reads as -2; negative");
+  EXPECT_EQ(Data(2, 2, Qt::AccessibleDescriptionRole), "2, B; reads as -2; negative");
+  EXPECT_FALSE(Data(2, 3, Qt::FontRole).isValid());
+  EXPECT_FALSE(Data(2, 3, Qt::BackgroundRole).isValid());
+  table().TextRC(2, 2, "2");
+  EXPECT_FALSE(Data(2, 2, Qt::ForegroundRole).isValid());
+  book->SetCellLook({});
+  table().TextRC(2, 2, "-2");
+  EXPECT_FALSE(Data(2, 2, Qt::ToolTipRole).isValid());
+}
+
+TEST_F(SpreadsheetView, Fixed_Columns_Are_On_Another_Ground_And_Without_A_Mark) {
+  book->SetNumberNote(Real_Note);
+  table().TextRC(1, 1, "2,5");
+  table().FixedCols(1);
+  EXPECT_TRUE(Data(1, 1, Qt::BackgroundRole).isValid());
+  EXPECT_FALSE(Data(1, 2, Qt::BackgroundRole).isValid());
+  EXPECT_EQ(book->NumberNoteOf(1, 1), "");
 }
 
 TEST_F(SpreadsheetView, The_Mark_Is_Seen_In_The_Cell_And_While_It_Is_Typed) {
