@@ -49,6 +49,11 @@ constexpr char kMoisturePrompt[] =
     "liquid limit is 60% and the moisture content is 150%, then the mulitple that should be "
     "supplied is 2.5.";
 
+bool Can_Be_Layers(const std::string& text) {
+  const double layers = Lenient_Number(text);
+  return layers > 0 && layers <= kMaxLayers;
+}
+
 }  // namespace
 
 Field_Table Barge_Fields() { return kRows; }
@@ -87,9 +92,14 @@ int Layers_Of(const std::string& text) {
   return static_cast<int>(std::clamp<double>(Round_Half_Even(Lenient_Number(text)), 1, kMaxLayers));
 }
 
+std::string Layers_Doubt(const std::string& text) {
+  if (Can_Be_Layers(text)) return "";
+  return "Number of layers: \"" + text + "\" is stored as " + std::to_string(Layers_Of(text)) +
+         ".\n";
+}
+
 bool Check_Barge_Layers(const std::string& text) {
-  const double layers = Lenient_Number(text);
-  if (layers > 0 && layers <= kMaxLayers) return true;
+  if (Can_Be_Layers(text)) return true;
   Show_Message({"Number of Layers Must Be Between 1 and 6"});
   return false;
 }

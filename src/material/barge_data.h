@@ -32,6 +32,8 @@ void Define_Layer_Table(int layers, Spreadsheet_Table& table);
 
 /// The layers that a text stands for, 1 to 6.
 int Layers_Of(const std::string& text);
+/// What to say of a number of layers that OK brings into 1 to 6, in a line; "" for one within.
+std::string Layers_Doubt(const std::string& text);
 /// A number of layers or of fractions was typed. False, and told, when there can't be so many.
 bool Check_Barge_Layers(const std::string& text);
 bool Check_Barge_Solids(const std::string& text);

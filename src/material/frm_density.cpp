@@ -44,7 +44,7 @@ void frmDensity::Opening() {
   fields_.Show(Open_Density(record_).texts);
 }
 
-void frmDensity::Activated() { copy_ = Copy_Density(record_); }
+void frmDensity::Activated() { copy_.Take(Copy_Density(record_)); }
 
 void frmDensity::Check3D3_Click() {
   const bool computed = Check3D3->isChecked();
@@ -70,7 +70,7 @@ void frmDensity::Command1_Click(int index) {
     Unload();
     Accept_Screen(kScreen, record_);
   } else if (index == kCancel) {
-    Reset_Vars(copy_, record_);
+    Reset_Vars(*copy_, record_);
     Unload();
   }
 }

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "material/density_data.h"
+#include "platform/fields/cancel_copy.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -19,6 +20,7 @@ class frmDensity : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
+  void Discarding() override { copy_.Go_Back_To_Opening(); }
   void Command1_Click(int index) override;
 
  private:
@@ -31,7 +33,7 @@ class frmDensity : public Input_Screen {
   ControlArray<QLineEdit> Text3;  // salinity, temperature, density
   Table_Fields fields_;
   QPushButton* Command2;
-  Density_Copy copy_;  // for Cancel
+  Cancel_Copy<Density_Copy> copy_;
 };
 
 }  // namespace barvon

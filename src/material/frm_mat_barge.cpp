@@ -7,9 +7,9 @@
 #include "core/desk/accepted_screen.h"
 #include "core/number_reading.h"
 #include "material/load_stack.h"
-#include "material/note_box.h"
 #include "material/solids_doubts.h"
 #include "platform/qt/fields/field_rows.h"
+#include "platform/qt/fields/note_box.h"
 
 namespace barvon {
 namespace {
@@ -18,7 +18,7 @@ constexpr const Screen_Row& kScreen = Row_Of_Screen("frmMatBarge");
 enum Page { kLayersPage = 0, kMaterialPage, kCompositionPage, kWaterPage };
 enum Option { kSeparation = 0, kJbfc };            // SSCheck1
 constexpr int kLayersField = 0, kSolidsField = 1;  // Text1
-constexpr int kNoteLines = 6, kPromptLines = 5;
+constexpr int kNoteLines = 7, kPromptLines = 6;
 constexpr char kLimitHeading[] = "Liquid Limit";
 
 }  // namespace
@@ -168,13 +168,13 @@ void frmMatBarge::Opening() {
   if (!entry.separated) F1Book1_1->table().ColText(record_.NumSolids + 1, kLimitHeading);
 }
 
-void frmMatBarge::Activated() { copy_ = Copy_Material(record_); }
+void frmMatBarge::Activated() { copy_.Take(Copy_Material(record_)); }
 
 void frmMatBarge::Command1_Click(int index) {
   if (index == kOk) {
     Save();
   } else if (index == kCancel) {
-    Reset_Vars(copy_, record_);
+    Reset_Vars(*copy_, record_);
     Unload();
   }
 }
@@ -237,7 +237,8 @@ void frmMatBarge::Enable_Composition() {
 int frmMatBarge::Layers() const { return Layers_Of(Text1(kLayersField)->text().toStdString()); }
 
 std::string frmMatBarge::Doubts() const {
-  std::string doubts = Number_Doubts(F1Book1_0->table(), {1, 1, Layers(), 3}) +
+  std::string doubts = Layers_Doubt(Text1(kLayersField)->text().toStdString()) +
+                       Number_Doubts(F1Book1_0->table(), {1, 1, Layers(), 3}) +
                        Solids_Doubts(solids_->state().layout, solids_->table());
   if (tabs_->isTabEnabled(kCompositionPage)) {
     doubts += Number_Doubts(F1Book1_1->table(), F1Book1_1->table().TableRange());

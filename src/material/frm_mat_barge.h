@@ -10,6 +10,7 @@
 #include "material/solids_panel.h"
 #include "material/water_panel.h"
 #include "pictures/bar_picture.h"
+#include "platform/fields/cancel_copy.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -26,6 +27,7 @@ class frmMatBarge : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
+  void Discarding() override { copy_.Go_Back_To_Opening(); }
   void Command1_Click(int index) override;
 
  private:
@@ -48,7 +50,7 @@ class frmMatBarge : public Input_Screen {
   void Save();
 
   ProjectRecord& record_;
-  Material_Copy copy_;
+  Cancel_Copy<Material_Copy> copy_;
   Layer_Moisture moisture_;
 
   ControlArray<QLineEdit> Text1{this, "Text1", 2};  // numbers of layers and of fractions

@@ -5,16 +5,16 @@
 
 #include "core/desk/accepted_screen.h"
 #include "core/keys.h"
-#include "material/note_box.h"
 #include "material/open_hopper_boxes.h"
 #include "material/solids_doubts.h"
 #include "platform/qt/fields/field_rows.h"
+#include "platform/qt/fields/note_box.h"
 
 namespace barvon {
 namespace {
 
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmMatHopper");
-constexpr int kNoteLines = 4;
+constexpr int kNoteLines = 5;
 
 }  // namespace
 
@@ -119,13 +119,13 @@ void frmMatHopper::Show_Moisture(bool shown) {
   Text1->setVisible(shown);
 }
 
-void frmMatHopper::Activated() { copy_ = Copy_Material(record_); }
+void frmMatHopper::Activated() { copy_.Take(Copy_Material(record_)); }
 
 void frmMatHopper::Command1_Click(int index) {
   if (index == kOk) {
     Save();
   } else if (index == kCancel) {
-    Reset_Vars(copy_, record_);
+    Reset_Vars(*copy_, record_);
     Unload();
   }
 }

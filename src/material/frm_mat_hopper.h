@@ -8,6 +8,7 @@
 #include "material/material_copy.h"
 #include "material/solids_panel.h"
 #include "material/water_panel.h"
+#include "platform/fields/cancel_copy.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -25,6 +26,7 @@ class frmMatHopper : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
+  void Discarding() override { copy_.Go_Back_To_Opening(); }
   void Command1_Click(int index) override;
 
  private:
@@ -38,7 +40,7 @@ class frmMatHopper : public Input_Screen {
   void Save();
 
   ProjectRecord& record_;
-  Material_Copy copy_;
+  Cancel_Copy<Material_Copy> copy_;
   bool boxes_are_told_ = false;
 
   QLineEdit* Text1;

@@ -23,6 +23,13 @@ std::string Quoted(const std::string& text) {
   return "\"" + (shown.size() < text.size() ? shown + "..." : shown) + "\"";
 }
 
+bool Holds_Values(const Spreadsheet_Table& table, int row) {
+  for (int col = 2; col <= table.MaxCol(); ++col) {
+    if (!table.IsEmptyRC(row, col)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string Number_Doubts(const Spreadsheet_Table& table, const Cell_Range& range,
@@ -47,8 +54,14 @@ std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table) 
   std::string doubts;
   for (int row = kRowBase + 1; row <= kSolidsRows; ++row) {
     const std::string name = Trimmed(table.TextRC(row, 1));
-    if (name.empty()) continue;
-    const std::string called = "Fraction " + std::to_string(row - kRowBase) + ", " + Quoted(name);
+    const std::string number = "Fraction " + std::to_string(row - kRowBase);
+    if (name.empty()) {
+      if (row > last && Holds_Values(table, row)) {
+        doubts.append(number).append(": is lost, because it has no name.\n");
+      }
+      continue;
+    }
+    const std::string called = number + ", " + Quoted(name);
     const std::string note = Material_Name_Note(name);
     if (!note.empty()) doubts.append(called).append(": the name ").append(note).append(".\n");
     if (row > last) {

@@ -15,7 +15,7 @@ std::string Number_Doubts(const Spreadsheet_Table& table, const Cell_Range& rang
                           const std::string& row_name = {}, int rows_above = 0);
 
 /// The same for the rows of the project, with names that the files can't keep and fractions that
-/// are lost below an empty row.
+/// are lost, for want of a name or below an empty row.
 std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table);
 
 /// Whether OK may go on: nothing is doubtful, or the user has seen it.

@@ -51,7 +51,8 @@ int Find_Row(int rows, Condition condition) {
 }
 
 /// The record's fractions in the order of the rows, of which so many are the project's now. A new
-/// one begins with zeros, not with what an earlier fraction left there.
+/// one begins with zeros, not with what an earlier fraction left there, and one that went leaves
+/// nothing behind, or the next opening would show it again.
 void Arrange_Solids(const Solids_State& state, int count, ProjectRecord& record) {
   const auto arrange = [&](auto& values) {
     const auto former = values;
@@ -59,8 +60,9 @@ void Arrange_Solids(const Solids_State& state, int count, ProjectRecord& record)
       const int solid = state.Row(kRowBase + i).solid;
       const auto at = static_cast<std::size_t>(i);
       const bool is_new = solid == 0 || (i <= count && solid > record.NumSolids);
-      values[at] = is_new ? typename std::decay_t<decltype(values)>::value_type{}
-                          : former[static_cast<std::size_t>(solid)];
+      const bool is_gone = i > count && i <= record.NumSolids;
+      values[at] = is_new || is_gone ? typename std::decay_t<decltype(values)>::value_type{}
+                                     : former[static_cast<std::size_t>(solid)];
     }
   };
   arrange(record.SolidNames);
@@ -90,9 +92,9 @@ std::vector<int> Open_Solids(const std::string& section, Solids_Layout layout,
     const auto at = static_cast<std::size_t>(i);
     Solids_Row& row = state.Row(kRowBase + i);
     row.solid = i;
-    row.saved_volume = record.SolidVolFraction[at];
     const std::string& name = record.SolidNames[at];
     if (i > record.NumSolids || name.empty()) continue;
+    row.saved_volume = record.SolidVolFraction[at];
     Solids_Columns(layout).Fill_Row(record, i, kRowBase + i, table);
     const auto line = std::ranges::find_if(state.lines, [&](const std::string& text) {
       return !text.empty() && Same_Material(name, text);

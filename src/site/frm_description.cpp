@@ -148,12 +148,9 @@ void frmDescription::Opening() {
   Fill_Density_Table(record_, Density_Points(record_), computed, F1Book1->table());
   F1Book1->table().SetActiveCell(1, 1);
   Show_Profile();
-  opening_copy_ = Copy_Site(Entry(), record_);
 }
 
-void frmDescription::Activated() { copy_ = Copy_Site(Entry(), record_); }
-
-void frmDescription::Discarding() { copy_ = opening_copy_; }
+void frmDescription::Activated() { copy_.Take(Copy_Site(Entry(), record_)); }
 
 void frmDescription::Command1_Click(int index) {
   switch (index) {
@@ -241,16 +238,16 @@ void frmDescription::Save() {
     Unload();
   } else {
     fields_.Set_Filled(fields_.Texts());
-    opening_copy_ = Copy_Site(Entry(), record_);
+    copy_.Saved(Copy_Site(Entry(), record_));
     Controls_Are_Stored();
   }
   Accept_Screen(kScreen, record_);
 }
 
 void frmDescription::Reset() {
-  Reset_Vars(copy_, record_);
-  Set_Check(kComputesDensity, copy_.computes_density);
-  Set_Check(kVariableDepth, copy_.variable_depth);
+  Reset_Vars(*copy_, record_);
+  Set_Check(kComputesDensity, copy_->computes_density);
+  Set_Check(kVariableDepth, copy_->variable_depth);
 }
 
 Site_Entry frmDescription::Entry() const {

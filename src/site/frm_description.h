@@ -7,6 +7,7 @@
 
 #include "core/project_record.h"
 #include "pictures/density_profile.h"
+#include "platform/fields/cancel_copy.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -27,7 +28,7 @@ class frmDescription : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
-  void Discarding() override;
+  void Discarding() override { copy_.Go_Back_To_Opening(); }
 
  private:
   QWidget* Grid_Frames();
@@ -51,7 +52,7 @@ class frmDescription : public Input_Screen {
   void Tell_Boxes();
 
   ProjectRecord& record_;
-  Site_Copy copy_, opening_copy_;
+  Cancel_Copy<Site_Copy> copy_;
   bool boxes_are_told_ = false;
 
   ControlArray<QLineEdit> Text1{this, "Text1", kSiteFields};

@@ -2,11 +2,10 @@
 
 #include <QIcon>
 #include <QVBoxLayout>
-#include <cmath>
 
 #include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
-#include "platform/qt/fields/field_rows.h"
+#include "platform/qt/fields/note_box.h"
 #include "platform/qt/fields/option_paint.h"
 #include "site/average_panel.h"
 #include "site/field_panel.h"
@@ -20,7 +19,6 @@ namespace {
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmVelocity");
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
 constexpr QSize kIllustration{220, 160};
-constexpr int kNoteLines = 4;
 
 }  // namespace
 
@@ -30,7 +28,8 @@ frmVelocity::frmVelocity(QWidget* workspace)
       panels_{new Average_Panel(record_), new Two_Point_Panel(record_), new Field_Panel(record_),
               new Tidal_Panel(record_)},
       Label5(Named(new QLabel(this), "Label5")),
-      Text4_0(Named(new QPlainTextEdit(this), "Text4(0)")) {
+      Text4_0(Make_Note_Box("Text4(0)", QStringLiteral("Note on directions"), kVelocityNoteLines,
+                            this)) {
   setWindowTitle(QStringLiteral("Velocity Profile Data"));
   auto* column = new QVBoxLayout(this);
   auto* panels = new QWidget;
@@ -79,21 +78,11 @@ QWidget* frmVelocity::Choice_Part() {
 
 QLayout* frmVelocity::Note_Row() {
   auto* row = new QHBoxLayout;
-  Text4_0->setAccessibleName(QStringLiteral("Note on directions"));
   row->addWidget(Text4_0, 3);
-  std::vector<QPlainTextEdit*> notes = {Text4_0};
   for (const Velocity_Panel* panel : panels_) {
     if (panel->Note() == nullptr) continue;
     panel->Note()->hide();
     row->addWidget(panel->Note(), 1);
-    notes.push_back(panel->Note());
-  }
-  for (QPlainTextEdit* note : notes) {
-    note->setReadOnly(true);
-    note->setTabChangesFocus(true);
-    const double room = 2 * (note->document()->documentMargin() + note->frameWidth());
-    note->setFixedHeight(note->fontMetrics().lineSpacing() * kNoteLines +
-                         static_cast<int>(std::ceil(room)));
   }
   return row;
 }
@@ -117,7 +106,6 @@ Velocity_Panel* frmVelocity::Panel() const {
 }
 
 void frmVelocity::Opening() {
-  opening_copy_ = Copy_Velocity(record_);
   record_.VelocityProfileType = Type_From_Wizard(record_);
   const Velocity_Form form = Form_Of_Type(record_.VelocityProfileType);
   if (form == kNoForm) {
@@ -129,7 +117,7 @@ void frmVelocity::Opening() {
   for (Velocity_Panel* panel : panels_) panel->Show_Wizard();
 }
 
-void frmVelocity::Activated() { copy_ = Copy_Velocity(record_); }
+void frmVelocity::Activated() { copy_.Take(Copy_Velocity(record_)); }
 
 void frmVelocity::Command1_Click(int index) {
   switch (index) {
@@ -138,7 +126,7 @@ void frmVelocity::Command1_Click(int index) {
       Save();
       break;
     case kCancel:
-      Reset_Vars(copy_, record_);
+      Reset_Vars(*copy_, record_);
       Unload();
       break;
     case kGridWithoutButton:

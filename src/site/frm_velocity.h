@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/project_record.h"
+#include "platform/fields/cancel_copy.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/scrolled_part.h"
@@ -25,7 +26,7 @@ class frmVelocity : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override;
-  void Discarding() override { copy_ = opening_copy_; }
+  void Discarding() override { copy_.Go_Back_To_Opening(); }
 
  private:
   QWidget* Choice_Part();
@@ -41,7 +42,7 @@ class frmVelocity : public Input_Screen {
   Velocity_Panel* Panel() const;
 
   ProjectRecord& record_;
-  Velocity_Copy copy_, opening_copy_;
+  Cancel_Copy<Velocity_Copy> copy_;
   std::vector<Velocity_Panel*> panels_;  // by Velocity_Form
 
   ControlArray<QRadioButton> Option3D1{this, "Option3D1", kVelocityForms};

@@ -7,6 +7,7 @@
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
+#include "platform/qt/fields/note_box.h"
 #include "site/drawn_cells.h"
 #include "site/velocity_fields.h"
 #include "site/velocity_questions.h"
@@ -25,7 +26,8 @@ QString Text(const std::string& text) { return QString::fromStdString(text); }
 Tidal_Panel::Tidal_Panel(ProjectRecord& record)
     : Velocity_Panel("Unsteady Velocity Profile", "velocity_tidal", record),
       F1Book3(Named(new F1Book(kBookNumbers, this), "F1Book3")),
-      Text4_1(Named(new QPlainTextEdit(this), "Text4(1)")),
+      Text4_1(Make_Note_Box("Text4(1)", QStringLiteral("Simulated interval in hours"),
+                            kVelocityNoteLines, this)),
       tide_(Named(new Tidal_Curve(this), "TidalCurve")),
       fields_(this, Faces_With_Notes(kUnsteadyFields, filled_, record)) {
   auto* row = new QHBoxLayout(this);
@@ -43,7 +45,6 @@ Tidal_Panel::Tidal_Panel(ProjectRecord& record)
   right->addWidget(entries);
   right->addWidget(tide_, 1);
   row->addLayout(right, 1);
-  Text4_1->setAccessibleName(QStringLiteral("Simulated interval in hours"));
   connect(F1Book3, &F1Book::Edited, this, &Tidal_Panel::Draw);
   for (QLineEdit* field : Text3) {
     connect(field, &QLineEdit::textChanged, this, &Tidal_Panel::Show_Interval);

@@ -15,6 +15,9 @@
 
 namespace barvon {
 
+/// Lines of the notes below the forms.
+inline constexpr int kVelocityNoteLines = 4;
+
 /// A form of frmVelocity: the fields, the table and the picture of one way to tell the current.
 class Velocity_Panel : public QGroupBox {
  public:

@@ -69,7 +69,7 @@ bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   const Answer answer = Ask(kErrorsDetected, Buttons::YesNoCancel);
   if (answer == Answer::Yes) {
     Open_Screen(Row_Of_Screen("frmErrorList"), Opens_Blocking(record));
-  };
+  }
   return answer == Answer::No;
 }
 

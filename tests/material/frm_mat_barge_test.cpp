@@ -258,6 +258,52 @@ TEST_F(BargeScreen, The_Picture_Of_The_Load_Follows_What_Is_Typed) {
   EXPECT_EQ(record.LayerSolidFraction[1][2], 1.5);
 }
 
+TEST_F(BargeScreen, A_Fraction_Cleared_By_Hand_Does_Not_Come_Back) {
+  Set_Solids(record, 1);
+  Open();
+  Go_To(1);
+  Solids().SelectRange({9, 1, 9, 8});
+  Book("F1Book1(2)")->Clear();
+  Accept();
+  ASSERT_FALSE(Is_Open());
+  EXPECT_EQ(record.NumSolids, 0);
+  Open();
+  EXPECT_EQ(Solids().TextRC(9, 1), "");
+  Press("Command1(1)");
+  EXPECT_EQ(record.SolidNames[1], "");
+}
+
+TEST_F(BargeScreen, A_Refused_Number_Of_Layers_Is_Shown_Before_OK_Brings_It_In) {
+  Set_Solids(record, 1);
+  record.LAYERS = 4;
+  Open();
+  Modal_Replies replies({Ok(), barvon::testing::Press(QMessageBox::Cancel), Ok()});
+  Enter("Text1(0)", "7");
+  Accept();
+  EXPECT_TRUE(Is_Open());
+  EXPECT_EQ(record.LAYERS, 4);
+  ASSERT_EQ(replies.seen.size(), 2U);
+  EXPECT_TRUE(replies.seen[1].text.contains("Number of layers: \"7\" is stored as 6."));
+  Accept();
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(record.LAYERS, 6);
+}
+
+TEST_F(BargeScreen, A_Discard_Goes_Back_To_The_Opening_Wherever_The_User_Was_Meanwhile) {
+  Set_Solids(record, 1);
+  Open();
+  Box("SSCheck1(1)")->click();
+  EXPECT_EQ(record.JBFCFlag, 1) << "written at once";
+  bench.main().activateWindow();
+  ASSERT_TRUE(Has_Keyboard(&bench.main()));
+  Screen()->activateWindow();
+  ASSERT_TRUE(Has_Keyboard(Screen()));
+  Modal_Replies yes({barvon::testing::Press(QMessageBox::Yes)});
+  EXPECT_TRUE(Port().board.close_input_screens());
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(record.JBFCFlag, 0);
+}
+
 TEST_F(BargeScreen, Salinity_And_Temperature_Move_The_Density_Within_Its_Limits) {
   Open();
   Go_To(3);

@@ -271,6 +271,42 @@ TEST_F(SolidsTable, A_Gap_Loses_The_Last_Fraction_And_Is_Told_Before) {
   EXPECT_EQ(record_.SolidNames[2], "");
 }
 
+TEST_F(SolidsTable, A_Row_Of_Values_Without_A_Name_Is_Told_Before_It_Is_Lost) {
+  Set_Solids(record_, 1);
+  Open(kWholeLoad);
+  table_.TextRC(11, 2, "2.65");
+  EXPECT_EQ(Solids_Doubts(kWholeLoad, table_), "Fraction 3: is lost, because it has no name.\n");
+}
+
+TEST_F(SolidsTable, A_Fraction_That_Is_Cleared_Leaves_Nothing_That_Could_Come_Back) {
+  Set_Solids(record_, 3);
+  record_.LayerSolidFraction[3][1] = 0.25;
+  Open(kWholeLoad);
+  table_.ClearRange({11, 1, 11, 8});
+  Store();
+  EXPECT_EQ(record_.NumSolids, 2);
+  EXPECT_EQ(record_.SolidNames[3], "");
+  EXPECT_EQ(record_.SolidSG[3], 0);
+  EXPECT_EQ(record_.LayerSolidFraction[3][1], 0);
+  EXPECT_EQ(record_.SolidSG[2], before_->SolidSG[2]);
+  record_.NumSolids = 1;
+  Set_Solids(*before_, 1);
+  Open(kWholeLoad);
+  table_.ClearRange({9, 1, 9, 8});
+  Store();
+  Open(kWholeLoad);
+  EXPECT_EQ(table_.TextRC(9, 1), "");
+}
+
+TEST_F(SolidsTable, What_The_File_Holds_Behind_Its_Fractions_Stays_And_Is_Nobodys) {
+  Set_Solids(record_, 3);
+  record_.NumSolids = 2;
+  Open(kSeparatedLoad);
+  EXPECT_EQ(state_.Row(11).saved_volume, 0) << "a row typed there has no volume of another";
+  Store();
+  EXPECT_EQ(record_.SolidNames[3], "Sand3");
+}
+
 TEST_F(SolidsTable, Text_In_A_Number_And_A_Name_That_Is_Not_Kept_Are_Told) {
   Set_Solids(record_, 1);
   Open(kWholeLoad);

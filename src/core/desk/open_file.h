@@ -18,8 +18,7 @@ bool Open_File(const std::string& path, ProjectRecord& record);
 bool Open_Project(const std::string& path, ProjectRecord& record);
 
 /// Shows the open dialog, has the input screens closed and opens what was chosen, once. False on
-/// Cancel, when a person wants to keep what was typed in a screen, and when nothing was
-/// loaded.
+/// Cancel, when a person wants to keep what was typed in a screen, and when nothing was loaded.
 bool File_Open_Dialog(double kind, ProjectRecord& record);
 
 }  // namespace barvon

@@ -1,4 +1,4 @@
-#include "material/note_box.h"
+#include "platform/qt/fields/note_box.h"
 
 #include <cmath>
 
@@ -12,7 +12,7 @@ QPlainTextEdit* Make_Note_Box(const char* reference, const QString& spoken_name,
   note->setReadOnly(true);
   note->setTabChangesFocus(true);
   const double room = 2 * (note->document()->documentMargin() + note->frameWidth());
-  note->setFixedHeight(note->fontMetrics().lineSpacing() * (lines + 1) +
+  note->setFixedHeight(note->fontMetrics().lineSpacing() * lines +
                        static_cast<int>(std::ceil(room)));
   return note;
 }
