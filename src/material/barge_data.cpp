@@ -72,8 +72,15 @@ Barge_Entry Open_Barge(ProjectRecord& record) {
 
 void Fill_Layer_Table(const ProjectRecord& record, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
-  Shown_Columns(kLayerColumns).Lay_Out(1, kMaxLayers, table);
-  Shown_Columns(kLayerColumns).Fill(record, record.LAYERS, table);
+  const Shown_Columns columns(kLayerColumns);
+  columns.Lay_Out(1, kMaxLayers, table);
+  for (int layer = 1; layer <= kMaxLayers; ++layer) {
+    // Layers beyond the project's show what they held before there were fewer.
+    const auto at = static_cast<std::size_t>(layer);
+    const bool once_held =
+        record.LayerVolume[at] != 0 || record.LayerVelX[at] != 0 || record.LayerVelZ[at] != 0;
+    if (layer <= record.LAYERS || once_held) columns.Fill_Row(record, layer, layer, table);
+  }
   if (record.LayerVolume[1] == 0 && record.TotalVolume > 0) {
     table.NumberRC(1, 1, record.TotalVolume);
   }
@@ -130,7 +137,7 @@ bool Save_Barge_Data(const Barge_Entry& entry, const Spreadsheet_Table& layers,
   Store_Solids(state, solids, record);
   Save_New_Materials(record, state.lines, state.library);
   record.JBFCFlag = entry.with_jbfc ? 1 : 0;
-  Store_Composition(state, moisture, record);
+  Store_Composition(state, moisture, entry.separated && entry.with_jbfc, record);
   Read_Fields(Water_Fields(), entry.water, record);
   return true;
 }

@@ -161,6 +161,7 @@ void frmMatBarge::Opening() {
   SSCheck1(kJbfc)->setChecked(entry.with_jbfc);
   Enable_Composition();
   Show_Composition(entry.separated);
+  Show_Prompt();
   solids_->Open(kBargeLibrary, entry.separated ? kSeparatedLoad : kWholeLoad, record_);
   Open_Composition(record_, solids_->state(), moisture_);
   Define_Composition();
@@ -207,10 +208,12 @@ void frmMatBarge::Tab_Left(int page) {
     Define_Composition();
     Show_Composition(record_.SeparationFlag != 0 || record_.JBFCFlag != 1);
   }
-  if (page == kMaterialPage) {
-    Text4_1->setPlainText(QString::fromStdString(
-        Composition_Prompt(SSCheck1(kSeparation)->isChecked(), SSCheck1(kJbfc)->isChecked())));
-  }
+  if (page == kMaterialPage) Show_Prompt();
+}
+
+void frmMatBarge::Show_Prompt() {
+  Text4_1->setPlainText(QString::fromStdString(
+      Composition_Prompt(SSCheck1(kSeparation)->isChecked(), SSCheck1(kJbfc)->isChecked())));
 }
 
 void frmMatBarge::Define_Composition() {
@@ -239,7 +242,8 @@ int frmMatBarge::Layers() const { return Layers_Of(Text1(kLayersField)->text().t
 std::string frmMatBarge::Doubts() const {
   std::string doubts = Layers_Doubt(Text1(kLayersField)->text().toStdString()) +
                        Number_Doubts(F1Book1_0->table(), {1, 1, Layers(), 3}) +
-                       Solids_Doubts(solids_->state().layout, solids_->table());
+                       Solids_Doubts(solids_->state().layout, solids_->table()) +
+                       Volume_Doubts(solids_->state(), solids_->table(), record_);
   if (tabs_->isTabEnabled(kCompositionPage)) {
     doubts += Number_Doubts(F1Book1_1->table(), F1Book1_1->table().TableRange());
   }

@@ -41,6 +41,7 @@ class frmMatBarge : public Input_Screen {
   void Text1_Change(int index);
   void SSCheck1_Click(int index);
   void Tab_Left(int page);
+  void Show_Prompt();
   void Define_Composition();
   void Show_Stack();
   void Show_Composition(bool shown);

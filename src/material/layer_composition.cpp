@@ -18,6 +18,13 @@ std::string Row_Heading(int row, const Spreadsheet_Table& solids) {
   return name.empty() ? "Param " + Format_Number(row, "##") : name;
 }
 
+using Layer_Texts = OneBased<std::string, kMaxLayers>;
+
+/// A layer that the project does not have shows only what it once held.
+std::string Layer_Text(double value, int layer, int layers) {
+  return layer > layers && value == 0 ? "" : Plain_Number(value);
+}
+
 void Store_Text(const std::string& text, double& value) {
   if (text != Plain_Number(value)) value = Lenient_Number(text);
 }
@@ -27,14 +34,17 @@ void Store_Text(const std::string& text, double& value) {
 void Open_Composition(const ProjectRecord& record, Solids_State& state, Layer_Moisture& moisture) {
   const int layers = std::clamp<int>(record.LAYERS, 1, kMaxLayers);
   const int solids = std::clamp<int>(record.NumSolids, 1, kMaxSolids);
-  for (int layer = 1; layer <= layers; ++layer) {
+  moisture = {};
+  for (int layer = 1; layer <= kMaxLayers; ++layer) {
     for (int i = 1; i <= solids; ++i) {
       state.Row(kRowBase + i).layers[At(layer)] =
-          Plain_Number(record.LayerSolidFraction[At(i)][At(layer)]);
+          Layer_Text(record.LayerSolidFraction[At(i)][At(layer)], layer, layers);
     }
-    moisture[At(layer)] = Plain_Number(record.LayerMoisture[At(layer)]);
+    moisture.texts[At(layer)] = Layer_Text(record.LayerMoisture[At(layer)], layer, layers);
   }
-  if (record.SeparationFlag == 0) moisture[1] = Plain_Number(record.MoistureContent);
+  if (record.SeparationFlag == 0) {
+    moisture.offered = moisture.texts[1] = Plain_Number(record.MoistureContent);
+  }
 }
 
 int Composition_Rows(const Solids_State& state, const Spreadsheet_Table& solids) {
@@ -55,7 +65,7 @@ void Define_Book_1(int layers, bool with_moisture, const Solids_State& state,
       table.RowText(row, Row_Heading(row, solids));
       table.TextRC(row, layer, state.Row(kRowBase + row).layers[At(layer)]);
     }
-    if (with_moisture) table.TextRC(rows + 1, layer, moisture[At(layer)]);
+    if (with_moisture) table.TextRC(rows + 1, layer, moisture.texts[At(layer)]);
   }
   if (with_moisture) table.RowText(rows + 1, kMoistureRow);
   table.Centred(kCentred, true);
@@ -70,7 +80,7 @@ void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids
     const bool is_moisture = with_moisture && row == table.MaxRow();
     // A fifth row of fractions has no place.
     if (!is_moisture && row > kMaxSolids) continue;
-    Layer_Moisture& texts = is_moisture ? moisture : state.Row(kRowBase + row).layers;
+    Layer_Texts& texts = is_moisture ? moisture.texts : state.Row(kRowBase + row).layers;
     for (int layer = 1; layer <= std::min(table.MaxCol(), kMaxLayers); ++layer) {
       texts[At(layer)] = table.TextRC(row, layer);
     }
@@ -78,13 +88,15 @@ void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids
 }
 
 void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,
-                       ProjectRecord& record) {
+                       bool moisture_shown, ProjectRecord& record) {
   for (int layer = 1; layer <= std::min<int>(record.LAYERS, kMaxLayers); ++layer) {
     for (int i = 1; i <= std::min<int>(record.NumSolids, kMaxSolids); ++i) {
       Store_Text(state.Row(kRowBase + i).layers[At(layer)],
                  record.LayerSolidFraction[At(i)][At(layer)]);
     }
-    Store_Text(moisture[At(layer)], record.LayerMoisture[At(layer)]);
+    const std::string& text = moisture.texts[At(layer)];
+    if (layer == 1 && !moisture_shown && text == moisture.offered) continue;
+    Store_Text(text, record.LayerMoisture[At(layer)]);
   }
 }
 

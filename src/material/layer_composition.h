@@ -14,11 +14,15 @@ namespace barvon {
 
 inline constexpr char kMoistureRow[] = "Moisture Content";
 
-/// The moisture contents of the layers, as text. Those of the fractions are in Solids_Row.
-using Layer_Moisture = OneBased<std::string, kMaxLayers>;
+/// The moisture contents of the layers, as text. The fractions of the layers are in Solids_Row.
+struct Layer_Moisture {
+  OneBased<std::string, kMaxLayers> texts{};
+  std::string offered = {};  // for layer 1, when it opened with the load's and not with its own
+};
 
 /// Opening: the texts of the record's fractions and layers. Without separation the load's moisture
-/// content is that of layer 1.
+/// content is offered for layer 1. Layers beyond the project's keep what they held before there
+/// were fewer.
 void Open_Composition(const ProjectRecord& record, Solids_State& state, Layer_Moisture& moisture);
 
 /// Rows of fractions that the table has: the lines that are ticked or the rows that are filled,
@@ -35,8 +39,8 @@ void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids
                       Layer_Moisture& moisture);
 
 /// OK: the texts become the record's, for its NumSolids and LAYERS. A text that is the record's own
-/// value leaves it alone.
+/// value leaves it alone, and so does an offered one where no layer's moisture content is shown.
 void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,
-                       ProjectRecord& record);
+                       bool moisture_shown, ProjectRecord& record);
 
 }  // namespace barvon

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "core/number_reading.h"
+#include "core/number_text.h"
 #include "core/text_tools.h"
 #include "material/material_library.h"
-#include "material/solids_table.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {
@@ -72,6 +72,22 @@ std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table) 
                                 {kRowBase + 1, Column_Of(Solids_Field::Gravity, layout), last,
                                  Column_Of(Solids_Field::Shear, layout)},
                                 "Fraction ", kRowBase);
+}
+
+std::string Volume_Doubts(const Solids_State& state, const Spreadsheet_Table& table,
+                          const ProjectRecord& record) {
+  std::string doubts;
+  if (state.layout != kSeparatedLoad) return doubts;
+  for (int i = 1; i <= Filled_Solids(table); ++i) {
+    const Solids_Row& row = state.Row(kRowBase + i);
+    const bool is_new = row.solid == 0 || row.solid > record.NumSolids;
+    const double stored = is_new ? 0 : record.SolidVolFraction[static_cast<std::size_t>(row.solid)];
+    if (!row.volume_was_shown || row.saved_volume == stored) continue;
+    doubts.append("Fraction " + std::to_string(i) + ", Volumetric Fraction: ")
+        .append(Plain_Number(row.saved_volume))
+        .append(" is not stored, because each layer has its own.\n");
+  }
+  return doubts;
 }
 
 bool Accept_Doubts(const std::string& doubts) {

@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "material/solids_layout.h"
+#include "core/project_record.h"
+#include "material/solids_table.h"
 #include "platform/table/spreadsheet_table.h"
 
 namespace barvon {
@@ -17,6 +18,11 @@ std::string Number_Doubts(const Spreadsheet_Table& table, const Cell_Range& rang
 /// The same for the rows of the project, with names that the files can't keep and fractions that
 /// are lost, for want of a name or below an empty row.
 std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table);
+
+/// With separation, the volumetric fractions that were typed before their column went: OK does not
+/// store them.
+std::string Volume_Doubts(const Solids_State& state, const Spreadsheet_Table& table,
+                          const ProjectRecord& record);
 
 /// Whether OK may go on: nothing is doubtful, or the user has seen it.
 bool Accept_Doubts(const std::string& doubts);

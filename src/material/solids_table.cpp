@@ -144,6 +144,7 @@ void Separate_Solids(bool separated, Solids_State& state, Spreadsheet_Table& tab
   if (separated) {
     for (int row = kFirstRow; row < kFirstRow + kMostSolidsRows; ++row) {
       state.Row(row).saved_volume = table.NumberRC(row, kVolumeColumn);
+      state.Row(row).volume_was_shown = true;
     }
     table.DeleteShiftLeft(column);
   } else {

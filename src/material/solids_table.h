@@ -13,8 +13,9 @@ namespace barvon {
 
 /// What belongs to a row of the project and is not in its cells. It moves with the row.
 struct Solids_Row {
-  int solid = 0;            // of the record, that the row came from; 0 for a new fraction
-  double saved_volume = 0;  // the volumetric fraction while its column is out of the table
+  int solid = 0;                  // of the record, that the row came from; 0 for a new fraction
+  double saved_volume = 0;        // the volumetric fraction while its column is out of the table
+  bool volume_was_shown = false;  // before the column went
   OneBased<std::string, kMaxLayers> layers{};  // the fraction of each layer, as text
 };
 

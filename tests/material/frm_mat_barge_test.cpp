@@ -194,6 +194,63 @@ TEST_F(BargeScreen, A_Number_Of_Layers_Shapes_The_Table_And_Gates_Separation) {
   EXPECT_EQ(replies.seen.at(1).text, "Number of Solids Fractions Must Be Between 1 and 4");
 }
 
+TEST_F(BargeScreen, Fewer_Layers_And_More_Again_At_A_Later_Opening_Lose_Nothing) {
+  Fill(6, true, true);
+  Open();
+  Enter("Text1(0)", "2");
+  Accept();
+  ASSERT_FALSE(Is_Open());
+  EXPECT_EQ(record.LAYERS, 2);
+  const auto first = std::make_unique<ProjectRecord>(*before);
+  Open();
+  EXPECT_EQ(Layers().MaxRow(), 2);
+  Enter("Text1(0)", "6");
+  Go_To(2);
+  Accept();
+  for (const std::string& field : Differing_Fields(*first, record)) {
+    EXPECT_TRUE(field == "DataSaved" || field == "ScreenDataSupplied") << field;
+  }
+}
+
+TEST_F(BargeScreen, A_Layer_That_Never_Held_Anything_Is_Empty) {
+  Open();
+  Enter("Text1(0)", "4");
+  EXPECT_TRUE(Layers().IsEmptyRC(3, 1));
+  EXPECT_EQ(Layers().NumberRC(1, 1), 100);
+}
+
+TEST_F(BargeScreen, Without_Separation_An_Untouched_OK_Keeps_The_Moisture_Of_Layer_1) {
+  Fill(6, false, true);
+  record.LayerMoisture[1] = 5;
+  Open();
+  Go_To(2);
+  Accept();
+  EXPECT_EQ(Changed(), kOfEveryOK);
+}
+
+TEST_F(BargeScreen, Volumes_That_Separation_Hides_Are_Told_Before_OK_Leaves_Them_Out) {
+  Fill(2, false, false);
+  Open();
+  Go_To(1);
+  Type_Into_Cell(*Book("F1Book1(2)"), 9, 3, "0.5");
+  Box("SSCheck1(0)")->click();
+  Modal_Replies replies({barvon::testing::Press(QMessageBox::Cancel)});
+  Accept();
+  EXPECT_TRUE(Is_Open());
+  EXPECT_TRUE(replies.seen.at(0).text.startsWith(
+      "Fraction 1, Volumetric Fraction: 0.5 is not stored, because each layer has its own."));
+  Box("SSCheck1(0)")->click();
+  Accept();
+  EXPECT_EQ(record.SolidVolFraction[1], 0.5);
+}
+
+TEST_F(BargeScreen, The_Prompt_Stands_There_From_The_Opening) {
+  Fill(2, true, false);
+  Open();
+  Go_To(2);
+  EXPECT_TRUE(Child<QPlainTextEdit>("Text4(1)")->toPlainText().startsWith("Enter the volumetric"));
+}
+
 TEST_F(BargeScreen, The_Prompt_Says_What_The_Boxes_Ask_For) {
   Open();
   Go_To(1);
@@ -398,8 +455,11 @@ TEST_F(BargeScreen, An_Untick_With_Separation_Takes_The_Fractions_Own_Row) {
 // Whatever is ticked, typed and chosen, a row keeps its name, its numbers and its composition
 // together: each fraction's number is in all of them.
 TEST_F(BargeScreen, Names_Numbers_And_Compositions_Stay_Together) {
-  const Message_Presenter former =
-      Set_Message_Presenter([](const Message& message) { return Answer_On_Close(message); });
+  const Message_Presenter former = Set_Message_Presenter([](const Message& message) {
+    const bool of_volumes =
+        message.text.find("because each layer has its own") != std::string::npos;
+    return of_volumes ? Answer::Ok : Answer_On_Close(message);
+  });
   std::string library = "Listsize=8\r\n";
   for (int i = 1; i <= 8; ++i) {
     const std::string n = std::to_string(i);

@@ -1,5 +1,7 @@
 #include "material/frm_mat_hopper.h"
 
+#include <tuple>
+
 #include "core/keys.h"
 #include "material/material_screen.h"
 #include "material/open_hopper_boxes.h"
@@ -48,6 +50,65 @@ TEST_F(HopperScreen, Opened_And_Accepted_Untouched_Every_Value_Stays) {
   EXPECT_EQ(Changed(),
             (Fields{"DataSaved", "ScreenDataSupplied", "SolidCohesiveText", "SolidStrippedText"}));
   EXPECT_EQ(marks, std::vector<int>{4});
+}
+
+/// For each number of fractions, with and without the coefficient.
+class HopperCombinations : public HopperScreen,
+                           public ::testing::WithParamInterface<std::tuple<int, bool>> {
+ protected:
+  HopperCombinations() {
+    Set_Solids(record, solids);
+    record.TotalVolume = 4000.256;
+    record.JBFCFlag = with_jbfc ? 1 : 0;
+    record.MoistureContent = with_jbfc ? 2.0 / 3 : 0;
+    record.SolidCohesiveText = record.SolidStrippedText = {};
+  }
+  const int solids = std::get<0>(GetParam());
+  const bool with_jbfc = std::get<1>(GetParam());
+};
+
+INSTANTIATE_TEST_SUITE_P(All, HopperCombinations,
+                         ::testing::Combine(::testing::Range(1, 5), ::testing::Bool()));
+
+TEST_P(HopperCombinations, What_Is_Edited_Is_Stored_And_The_Rest_Stays) {
+  Open();
+  EXPECT_EQ(Box("SSCheck1")->isChecked(), with_jbfc);
+  EXPECT_TRUE(Line("Text1")->isVisible()) << "a click on the box hides it, not the opening";
+  Enter("Text2(0)", "1234.5");
+  if (with_jbfc) Enter("Text1", "3.25");
+  Go_To(1);
+  Type_Into_Cell(*Book("F1Book1"), 8 + solids, 6, "0.00126");
+  Type_Into_Cell(*Book("F1Book1"), 8 + solids, 7, solids % 2 == 0 ? "y" : "N");
+  Accept();
+  ASSERT_FALSE(Is_Open());
+  const auto last = static_cast<std::size_t>(solids);
+  EXPECT_EQ(record.NumSolids, solids);
+  EXPECT_EQ(record.TotalVolume, 1234.5);
+  EXPECT_EQ(record.MoistureContent, with_jbfc ? 3.25 : 0);
+  EXPECT_EQ(record.SolidCriticalShear[last], 0.0013) << "four decimals";
+  EXPECT_EQ(record.SolidCohesive[last], solids % 2 == 0 ? 1 : 0);
+  EXPECT_EQ(record.SolidCohesiveText[last], solids % 2 == 0 ? "y" : "N");
+  record.TotalVolume = before->TotalVolume;
+  record.MoistureContent = before->MoistureContent;
+  record.SolidCriticalShear[last] = before->SolidCriticalShear[last];
+  record.SolidCohesive[last] = before->SolidCohesive[last];
+  EXPECT_EQ(Changed(),
+            (Fields{"DataSaved", "ScreenDataSupplied", "SolidCohesiveText", "SolidStrippedText"}));
+}
+
+TEST_P(HopperCombinations, Cancel_Brings_Everything_Back) {
+  Open();
+  Enter("Text2(0)", "7");
+  Box("SSCheck1")->click();
+  Box("SSCheck2")->click();
+  Enter("Text3(1)", "35");
+  Enter("Text3(2)", "20");
+  EXPECT_NEAR(record.SiteDensity, 1.02506, 5e-6) << "written at once";
+  Go_To(1);
+  Type_Into_Cell(*Book("F1Book1"), 9, 1, "Other");
+  Press("Command1(1)");
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(Changed(), Fields{});
 }
 
 TEST_F(HopperScreen, A_Barges_First_Layer_Is_Offered_And_Stored) {

@@ -34,7 +34,9 @@ class LayerComposition : public Recorded_Workspace {
   void Define(int layers, bool with_moisture) {
     Define_Book_1(layers, with_moisture, state_, moisture_, solids_, table_);
   }
-  void Store() { Store_Composition(state_, moisture_, record_); }
+  void Store(bool moisture_shown = true) {
+    Store_Composition(state_, moisture_, moisture_shown, record_);
+  }
 
   std::unique_ptr<ProjectRecord> before_ = std::make_unique<ProjectRecord>();
   Solids_State state_;
@@ -128,14 +130,35 @@ TEST_F(LayerComposition, An_Untick_Takes_The_Fractions_Own_Row_And_A_Tick_Adds_A
   EXPECT_EQ(record_.LayerSolidFraction[4][1], 0);
 }
 
-TEST_F(LayerComposition, Without_Separation_Layer_1_Has_The_Loads_Moisture) {
+TEST_F(LayerComposition, Without_Separation_Layer_1_Is_Offered_The_Loads_Moisture) {
   record_.SeparationFlag = 0;
   record_.MoistureContent = 2.5;
   Open();
-  EXPECT_EQ(moisture_[1], "2.5");
-  EXPECT_EQ(record_.LayerMoisture[1], before_->LayerMoisture[1]);
-  Store();
+  EXPECT_EQ(moisture_.texts[1], "2.5");
+  Store(false);
+  EXPECT_EQ(Differing_Fields(*before_, record_), Fields{}) << "nobody has seen it";
+  Store(true);
   EXPECT_EQ(record_.LayerMoisture[1], 2.5);
+  record_.LayerMoisture[1] = 1;
+  Open();
+  moisture_.texts[1] = "3";
+  Store(false);
+  EXPECT_EQ(record_.LayerMoisture[1], 3) << "typed before the table was hidden";
+}
+
+TEST_F(LayerComposition, Fewer_Layers_Keep_What_The_Others_Held_For_The_Time_They_Are_Back) {
+  record_.LAYERS = 2;
+  record_.LayerSolidFraction[3][6] = record_.LayerMoisture[6] = 0;
+  Open();
+  Define(6, true);
+  EXPECT_EQ(table_.TextRC(1, 5), "0.02");
+  EXPECT_EQ(table_.TextRC(5, 3), "1");
+  EXPECT_EQ(table_.TextRC(3, 6), "") << "never held anything";
+  Read_Composition(table_, true, state_, moisture_);
+  record_.LAYERS = 6;
+  Store();
+  record_.LAYERS = 2;
+  EXPECT_EQ(Differing_Fields(*before_, record_), Fields{});
 }
 
 }  // namespace

@@ -246,6 +246,24 @@ TEST_F(SolidsTable, A_Separated_Project_Gets_Its_Volumes_Back_From_The_Record) {
   EXPECT_EQ(record_.SolidVolFraction[1], before_->SolidVolFraction[2]);
 }
 
+TEST_F(SolidsTable, Volumes_Typed_Before_Their_Column_Goes_Are_Told_Before_They_Are_Lost) {
+  Set_Solids(record_, 2);
+  Open(kWholeLoad);
+  table_.TextRC(10, 3, "0.25");
+  table_.TextRC(11, 1, "New");
+  table_.TextRC(11, 3, "0.125");
+  EXPECT_EQ(Volume_Doubts(state_, table_, record_), "");
+  Separate_Solids(true, state_, table_);
+  EXPECT_EQ(Volume_Doubts(state_, table_, record_),
+            "Fraction 2, Volumetric Fraction: 0.25 is not stored, because each layer has its own.\n"
+            "Fraction 3, Volumetric Fraction: 0.125 is not stored, because each layer has its "
+            "own.\n");
+  Store();
+  EXPECT_EQ(record_.SolidVolFraction[2], before_->SolidVolFraction[2]);
+  Open(kSeparatedLoad);
+  EXPECT_EQ(Volume_Doubts(state_, table_, record_), "") << "they were never in the table";
+}
+
 TEST_F(SolidsTable, The_Row_Under_The_Cursor_Is_The_One_That_Is_Checked) {
   Open(kWholeLoad);
   table_.TextRC(9, 2, "2.65");
