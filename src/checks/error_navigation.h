@@ -18,18 +18,4 @@ struct Error_Target {
 /// screens that no longer exist.
 std::optional<Error_Target> Error_Target_Of(const std::string& reference);
 
-/// While it is there the error list leads to that screen: one that shows more to who comes from a
-/// finding than to who comes from a board asks for it when it opens.
-class Lead_To_Screen {
- public:
-  explicit Lead_To_Screen(const Screen_Row& screen);
-  ~Lead_To_Screen();
-  Lead_To_Screen(const Lead_To_Screen&) = delete;
-  Lead_To_Screen& operator=(const Lead_To_Screen&) = delete;
-
- private:
-  const Screen_Row* former_;
-};
-bool Is_Led_To(const Screen_Row& screen);
-
 }  // namespace barvon

@@ -3,8 +3,8 @@
 #include <QVBoxLayout>
 #include <vector>
 
-#include "checks/error_navigation.h"
 #include "core/desk/accepted_screen.h"
+#include "core/desk/screen_register.h"
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
 #include "platform/qt/fields/note_box.h"
@@ -151,7 +151,7 @@ QWidget* frmMdlkyn::Output_Tab() {
 }
 
 void frmMdlkyn::Order_Controls() {
-  std::vector<QWidget*> order = {SSTab1, Text4(kTracerName), Text4(kTracerConcentration),
+  std::vector<QWidget*> order = {SSTab1->tabBar(), Text4(kTracerName), Text4(kTracerConcentration),
                                  Text4(kTracerBackground)};
   order.insert(order.end(), Text.begin(), Text.end());
   order.insert(order.end(), {Text1(kLimit), Text1(kContaminantName), Text1(kInSediment), Text2,

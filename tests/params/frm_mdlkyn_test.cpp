@@ -1,0 +1,1 @@
+#include "params/frm_mdlkyn.h"
