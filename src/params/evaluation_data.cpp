@@ -7,6 +7,7 @@
 #include "core/keys.h"
 #include "core/number_text.h"
 #include "core/wizard_answers.h"
+#include "params/site_plan.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {
@@ -260,6 +261,18 @@ double Count_At_OK(const std::string& typed) {
   return count < 0 ? 1 : std::min<double>(count, kMaxOutputDepths);
 }
 
+/// The area between the corners of Text or Text5.
+std::optional<Feet_Area> Entered_Area(std::string_view array, const Field_Texts& texts,
+                                      const ProjectRecord& record) {
+  const auto corner = [&](int index) {
+    return Entered_Number(kAllRows, {array, index}, texts, record);
+  };
+  const Feet_Area area = {corner(kCornerTop), corner(kCornerLeft), corner(kCornerBottom),
+                          corner(kCornerRight)};
+  const bool given = area.top != 0 || area.left != 0 || area.bottom != 0 || area.right != 0;
+  return given ? std::optional(area) : std::nullopt;
+}
+
 std::string Caption_Of(const ProjectRecord& record) {
   if (Has_Tracer(record)) return "Water Quality Analysis for General Open Water Disposal";
   if (Speaks_Of_Disposal_Site(record)) {
@@ -382,6 +395,29 @@ void Save_Evaluation(const Evaluation_Input& input, bool boundary, ProjectRecord
   }
   if (Offers_Zid(record)) record.ZidFlag = Flag_Of(input.Check3D1);
   record.NumOutputDepths = Count_At_OK(input.texts("Text8", kOutputCount));
+}
+
+Site_Plan Entered_Site(const Evaluation_Input& input, bool boundary, const ProjectRecord& record) {
+  Site_Plan site = Plan_Of_Site(record);
+  site.boundary = site.zid = std::nullopt;
+  if (boundary) site.boundary = Entered_Area("Text", input.texts, record);
+  if (Offers_Zid(record) && input.Check3D1) {
+    site.zid = Entered_Area("Text5", input.texts, record);
+  }
+  return site;
+}
+
+Plan_Corner Corner_Of(const Control_Name& field) {
+  const bool upper = field.index == kCornerTop || field.index == kCornerLeft;
+  return {{field.array, upper ? kCornerTop : kCornerBottom},
+          {field.array, upper ? kCornerLeft : kCornerRight}};
+}
+
+std::string Words_Of(const Plan_Corner& corner, const ProjectRecord& record) {
+  const std::string which = corner.top.index == kCornerTop ? "the upper left corner of the "
+                                                           : "the lower right corner of the ";
+  if (corner.top.array == "Text5") return which + "ZID";
+  return which + (Speaks_Of_Disposal_Site(record) ? "disposal site" : "mixing zone");
 }
 
 }  // namespace barvon

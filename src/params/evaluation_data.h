@@ -7,6 +7,7 @@
 
 #include "core/field_table.h"
 #include "core/project_record.h"
+#include "pictures/drawings/site_plan_drawing.h"
 
 namespace barvon {
 
@@ -84,5 +85,21 @@ std::string Derived_Concentration(const ProjectRecord& record);
 /// "FLUID", 100 mg/l over 0. A number of output depths above kMaxOutputDepths counts as that, a
 /// negative one as 1; 0 is stored.
 void Save_Evaluation(const Evaluation_Input& input, bool boundary, ProjectRecord& record);
+
+/// The site with boundary and Zone of Initial Dilution as they are typed, for the picture. Corners
+/// that are all 0 are for the solver to find: they are not drawn.
+Site_Plan Entered_Site(const Evaluation_Input& input, bool boundary, const ProjectRecord& record);
+
+/// A corner that the plan can put somewhere: the fields of its distances from the top and from the
+/// left.
+struct Plan_Corner {
+  Control_Name top{"Text", kCornerTop}, left{"Text", kCornerLeft};
+
+  bool operator==(const Plan_Corner&) const = default;
+};
+/// The corner that a field of Text or Text5 belongs to.
+Plan_Corner Corner_Of(const Control_Name& field);
+/// "the upper left corner of the mixing zone".
+std::string Words_Of(const Plan_Corner& corner, const ProjectRecord& record);
 
 }  // namespace barvon

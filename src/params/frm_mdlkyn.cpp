@@ -1,10 +1,14 @@
 #include "params/frm_mdlkyn.h"
 
+#include <QTabBar>
 #include <QVBoxLayout>
+#include <utility>
 #include <vector>
 
 #include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
+#include "core/number_text.h"
+#include "params/site_plan.h"
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
 #include "platform/qt/fields/note_box.h"
@@ -51,6 +55,7 @@ frmMdlkyn::frmMdlkyn(QWidget* workspace)
       Text6(Named(new QLineEdit(this), "Text6")),
       Check3D1(Named(new QCheckBox(this), "Check3D1")),
       SSTab1(Named(new QTabWidget(this), "SSTab1")),
+      plan_(Named(new Plan_Picture(kSitePlanName, kSitePlanFile, this), "SitePlan")),
       fields_(this, Faces_Of(Evaluation_Fields(shape_.boundary), record_)) {
   setWindowTitle(QString::fromStdString(shape_.caption));
   SSTab1->addTab(Description_Tab(), QStringLiteral("Description"));
@@ -68,7 +73,10 @@ frmMdlkyn::frmMdlkyn(QWidget* workspace)
             "SSFrame1");
   SSFrame1->setVisible(shape_.size_note);
   auto* column = new QVBoxLayout(this);
-  column->addWidget(SSTab1, 1);
+  auto* upper = new QHBoxLayout;
+  upper->addWidget(SSTab1, 3);
+  upper->addWidget(plan_, 2);
+  column->addLayout(upper, 1);
   column->addWidget(SSFrame1);
   column->addLayout(Make_Command1({QStringLiteral("OK"), QStringLiteral("C&ancel"),
                                    QStringLiteral("&Help"), QStringLiteral("&Reset")}));
@@ -159,6 +167,7 @@ void frmMdlkyn::Order_Controls() {
   order.insert(order.end(), Text5.begin(), Text5.end());
   order.insert(order.end(), {Text6, Text8(kOutputCount)});
   for (int i = 0; i < kMaxOutputDepths; ++i) order.push_back(Text8(i));
+  order.push_back(plan_);
   Tab_Through(order);
 }
 
@@ -166,6 +175,16 @@ void frmMdlkyn::Connect() {
   connect(Check3D1, &QCheckBox::clicked, this, [this] { Check3D1_Click(); });
   for (int i = 0; i < kOutputFields; ++i) {
     connect(Text8(i), &QLineEdit::textChanged, this, [this, i] { Text8_Change(i); });
+  }
+  for (int i = 0; i < kCornerFields; ++i) {
+    for (const auto& [array, field] : {std::pair{"Text", Text(i)}, {"Text5", Text5(i)}}) {
+      connect(field, &QLineEdit::textChanged, this, [this] { Show_Site(); });
+      When_Focused(field, [this, corner = Corner_Of({array, i})] { Choose_Corner(corner); });
+    }
+  }
+  if (shape_.boundary) {
+    plan_->Set_Takes(Plan_Picture::Takes::points);
+    connect(plan_, &Plan_Picture::Point_Chosen, this, &frmMdlkyn::Plan_Clicked);
   }
   When_Left(Text8(kOutputCount), {Command1(kOk), Command1(kCancel), Command1(kHelp)}, [this] {
     if (!Entered_Output_Count(Text8(kOutputCount)->text().toStdString())) Tell_Count();
@@ -182,6 +201,7 @@ void frmMdlkyn::Opening() {
   fields_.Show(texts);
   Check3D1->setChecked(record_.ZidFlag == 1);
   Check3D1_Click();
+  Choose_Corner({});
 }
 
 void frmMdlkyn::Command1_Click(int index) {
@@ -204,6 +224,9 @@ void frmMdlkyn::Check3D1_Click() {
   if (!FillingForm) Choose_Zid(wanted, copy_, record_);
   for (QLineEdit* corner : Text5) corner->setEnabled(wanted);
   Text6->setEnabled(wanted);
+  // Its corners have no fields to go to any more.
+  if (!wanted && corner_.top.array == "Text5") Choose_Corner({});
+  Show_Site();
 }
 
 void frmMdlkyn::Text8_Change(int index) {
@@ -226,6 +249,24 @@ void frmMdlkyn::Lock_Depths() {
     if (locked) look.setColor(QPalette::Base, look.color(QPalette::Window));
     Text8(i)->setPalette(look);
   }
+}
+
+void frmMdlkyn::Choose_Corner(const Plan_Corner& corner) {
+  corner_ = corner;
+  if (!shape_.boundary) return;
+  plan_->Set_Caption(
+      QStringLiteral("A click puts %1.").arg(QString::fromStdString(Words_Of(corner, record_))));
+}
+
+void frmMdlkyn::Plan_Clicked(const Feet_Point& point) {
+  if (!Agrees_To_Put(Words_Of(corner_, record_), point)) return;
+  const ControlArray<QLineEdit>& lines = corner_.top.array == "Text5" ? Text5 : Text;
+  Enter_Text(lines(corner_.top.index), QString::fromStdString(Plain_Number(point.x)));
+  Enter_Text(lines(corner_.left.index), QString::fromStdString(Plain_Number(point.z)));
+}
+
+void frmMdlkyn::Show_Site() {
+  plan_->Show(Draw_Site(Entered_Site(Input(), shape_.boundary, record_)));
 }
 
 /// Whether OK may take the number of depths. One out of range is told first; given once more as it

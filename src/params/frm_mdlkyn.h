@@ -11,6 +11,7 @@
 
 #include "core/project_record.h"
 #include "params/evaluation_data.h"
+#include "pictures/plan_picture.h"
 #include "platform/qt/fields/control_array.h"
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
@@ -25,6 +26,7 @@ class frmMdlkyn : public Input_Screen {
 
  protected:
   void Opening() override;
+  void Activated() override { Show_Site(); }
   void Command1_Click(int index) override;
 
  private:
@@ -37,6 +39,9 @@ class frmMdlkyn : public Input_Screen {
   void Check3D1_Click();
   void Text8_Change(int index);
   void Lock_Depths();
+  void Choose_Corner(const Plan_Corner& corner);
+  void Plan_Clicked(const Feet_Point& point);
+  void Show_Site();
   bool Accepts_Count();
   void Tell_Count();
   void Save();
@@ -58,6 +63,8 @@ class frmMdlkyn : public Input_Screen {
   ControlArray<QLineEdit> Text8{this, "Text8", kOutputFields};
   QCheckBox* Check3D1;
   QTabWidget* SSTab1;
+  Plan_Picture* plan_;
+  Plan_Corner corner_;  // that a click on the plan puts somewhere
   Table_Fields fields_;
 };
 
