@@ -2,6 +2,7 @@
 
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -29,10 +30,10 @@ QLabel* Wrapping_Label(const QString& text, QWidget* parent) {
 
 /// The two corners of a rectangle, each below its heading.
 void Add_Corners(Field_Rows& rows, Table_Fields& fields, const char* array,
-                 const ControlArray<QLineEdit>& lines, QLabel* upper_left, QLabel* lower_right) {
-  rows.Whole_Row(upper_left);
+                 const ControlArray<QLineEdit>& lines, const std::array<QLabel*, 2>& headings) {
+  rows.Whole_Row(headings[0]);
   for (const int i : {kCornerTop, kCornerLeft}) fields.Add(rows, {array, i});
-  rows.Whole_Row(lower_right);
+  rows.Whole_Row(headings[1]);
   for (const int i : {kCornerBottom, kCornerRight}) fields.Add(rows, {array, i});
   // The labels of both corners are the same.
   for (QLineEdit* line : lines) {
@@ -58,6 +59,7 @@ frmMdlkyn::frmMdlkyn(QWidget* workspace)
       plan_(Named(new Plan_Picture(kSitePlanName, kSitePlanFile, this), "SitePlan")),
       fields_(this, Faces_Of(Evaluation_Fields(shape_.boundary), record_)) {
   setWindowTitle(QString::fromStdString(shape_.caption));
+  SSTab1->setUsesScrollButtons(false);  // all three have room
   SSTab1->addTab(Description_Tab(), QStringLiteral("Description"));
   SSTab1->addTab(Zid_Tab(), QStringLiteral("Zone of Initial Dilution"));
   SSTab1->addTab(Output_Tab(), QStringLiteral("Transport-Diffusion Output"));
@@ -104,8 +106,10 @@ QWidget* frmMdlkyn::Description_Tab() {
     const auto heading = [&](const char* name, const std::string& text) {
       return Named(Wrapping_Label(QString::fromStdString(text), mixzone), name);
     };
-    Add_Corners(rows, fields_, "Text", Text, heading("Label(0)", shape_.upper_left),
-                heading("Label(3)", shape_.lower_right));
+    Add_Corners(rows, fields_, "Text", Text,
+                {heading("Label(0)", shape_.upper_left), heading("Label(3)", shape_.lower_right)});
+  } else {
+    for (QLineEdit* corner : Text) corner->hide();
   }
   for (const int i : {kLimit, kContaminantName}) fields_.Add(rows, {"Text1", i});
   // The labels of both are Label1(2), of which the evaluation shows one at most.
@@ -130,12 +134,10 @@ QWidget* frmMdlkyn::Zid_Tab() {
   Field_Rows rows(SSFrame2);
   Check3D1->setText(QStringLiteral("Do you want to evaluate a Zone of Initial Dilution (ZID)?"));
   rows.Whole_Row(Check3D1);
-  Add_Corners(
-      rows, fields_, "Text5", Text5,
-      Wrapping_Label(QStringLiteral("Specify Location of Upper Left Corner of ZID on Grid"),
-                     SSFrame2),
-      Wrapping_Label(QStringLiteral("Specify Location of Lower Right Corner of ZID on Grid"),
-                     SSFrame2));
+  const auto heading = [SSFrame2](const QString& text) { return Wrapping_Label(text, SSFrame2); };
+  Add_Corners(rows, fields_, "Text5", Text5,
+              {heading(QStringLiteral("Specify Location of Upper Left Corner of ZID on Grid")),
+               heading(QStringLiteral("Specify Location of Lower Right Corner of ZID on Grid"))});
   fields_.Add(rows, {"Text6"});
   SSFrame2->setVisible(shape_.zid);
   column->addWidget(SSFrame2);

@@ -235,9 +235,9 @@ TEST_F(EvaluationData, The_Error_List_Sees_The_Boundary_Of_A_Tracer_Too) {
 
 TEST_F(EvaluationData, Untouched_Fields_Leave_The_Record_Alone) {
   for (const std::int16_t key3 : {0, 1, 2, 5}) {
+    record_.DataSaved = kTrue;
     Evaluate(key3);
     const bool boundary = Shape().boundary;
-    record_.DataSaved = kTrue;
     Save_Evaluation(Filled(boundary), boundary, record_);
     EXPECT_EQ(Changed(), Names{"DataSaved"}) << key3;
   }

@@ -14,6 +14,7 @@
 #include "core/desk/screen_register.h"
 #include "core/keys.h"
 #include "core/wizard_answers.h"
+#include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/number_field.h"
 #include "support/record_differences.h"
 #include "support/screen_support.h"
@@ -32,6 +33,7 @@ class EvaluationScreen : public ::testing::Test {
  protected:
   EvaluationScreen() {
     Register_Screen(kRow, Fresh_Screens<frmMdlkyn>(&bench.main()));
+    help_ = Set_Help_Presenter([this](const Help_Request& request) { asked.push_back(request); });
     record.ShowMode = 0;
     record.DataSaved = kTrue;
     record.MMAX0 = 31, record.NMAX0 = 41;
@@ -53,6 +55,7 @@ class EvaluationScreen : public ::testing::Test {
   }
   ~EvaluationScreen() override {
     if (Is_Open()) Screen()->Unload();
+    Set_Help_Presenter(help_);
     Register_Screen(kRow, {});
     Answers_Of_Wizard() = {};
     record.WizardActive = kFalse;
@@ -102,6 +105,12 @@ class EvaluationScreen : public ::testing::Test {
     Type(field, text);
   }
   void Enter(const char* field, const QString& text) { Enter(Field(field), text); }
+  /// Whether the field has the focus of its window, which may still be behind a box.
+  bool Is_In(const QWidget* field) { return Screen()->focusWidget() == field; }
+  void Back_At_The_Screen() {
+    Screen()->activateWindow();
+    ASSERT_TRUE(Has_Keyboard(Screen()));
+  }
   void Point_At(const Feet_Point& point) {
     auto* plan = Child<Plan_Picture>("SitePlan");
     emit plan->Point_Chosen(point);
@@ -128,6 +137,10 @@ class EvaluationScreen : public ::testing::Test {
   Main_Bench bench;
   ProjectRecord& record = Project();
   std::unique_ptr<ProjectRecord> before = std::make_unique<ProjectRecord>();
+  std::vector<Help_Request> asked;
+
+ private:
+  Help_Presenter help_;
 };
 
 TEST_F(EvaluationScreen, A_Tracer) {
@@ -401,6 +414,8 @@ TEST_F(EvaluationScreen, Cancel_And_Help_Say_Nothing_Of_The_Number) {
   Command(2);
   QCoreApplication::processEvents();
   EXPECT_TRUE(Is_Open());
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].topic, 2540);
   Command(1);
   QCoreApplication::processEvents();
   EXPECT_FALSE(Is_Open());
@@ -427,10 +442,11 @@ TEST_F(EvaluationScreen, Leaving_The_Field_With_A_Number_Out_Of_Range_Leads_Back
     Modal_Replies replies({Press(QMessageBox::Ok)});
     Enter(Count(), typed);
     QTest::keyClick(Count(), Qt::Key_Tab);
-    ASSERT_TRUE(Wait_Until([&] { return replies.windows == 1 && Count()->hasFocus(); })) << typed;
+    ASSERT_TRUE(Wait_Until([&] { return replies.windows == 1 && Is_In(Count()); })) << typed;
     EXPECT_EQ(replies.seen.at(0).text, kCountBox);
     EXPECT_EQ(replies.seen.at(0).title, "BARVON");
     EXPECT_EQ(replies.seen.at(0).icon, QMessageBox::NoIcon);
+    Back_At_The_Screen();
   }
   EXPECT_EQ(Changed(), Fields{});
 }
@@ -441,7 +457,7 @@ TEST_F(EvaluationScreen, Leaving_By_Another_Tab_Leads_Back_Too) {
   Modal_Replies replies({Press(QMessageBox::Ok)});
   Enter(Count(), "7");
   QTest::mouseClick(Tabs()->tabBar(), Qt::LeftButton, {}, Tabs()->tabBar()->tabRect(0).center());
-  ASSERT_TRUE(Wait_Until([&] { return replies.windows == 1 && Count()->hasFocus(); }));
+  ASSERT_TRUE(Wait_Until([&] { return replies.windows == 1 && Is_In(Count()); }));
   EXPECT_EQ(Tabs()->currentIndex(), 2);
 }
 
@@ -452,7 +468,7 @@ TEST_F(EvaluationScreen, A_Number_In_Range_May_Be_Left) {
   Enter(Count(), "4");
   QTest::keyClick(Count(), Qt::Key_Tab);
   QCoreApplication::processEvents();
-  EXPECT_FALSE(Count()->hasFocus());
+  EXPECT_FALSE(Is_In(Count()));
   EXPECT_EQ(none.windows, 0);
 }
 
@@ -466,7 +482,7 @@ TEST_F(EvaluationScreen, OK_Tells_A_Number_Out_Of_Range_And_Takes_It_When_Confir
     Command(0);
     ASSERT_TRUE(Is_Open());
     EXPECT_EQ(replies.seen.at(0).text, kCountBox);
-    EXPECT_TRUE(Count()->hasFocus());
+    EXPECT_TRUE(Is_In(Count()));
     EXPECT_NE(record.NumOutputDepths, 6);
     Command(0);
     EXPECT_FALSE(Is_Open());
@@ -517,7 +533,6 @@ TEST_F(EvaluationScreen, All_Depths_Are_Filled_And_Those_Beyond_The_Number_Locke
   Enter(Count(), "4");
   EXPECT_FALSE(Depth(3)->isReadOnly());
   EXPECT_EQ(Depth(3)->text(), "40.50");
-  Modal_Replies replies({Press(QMessageBox::Ok)});
   Enter(Count(), "6");
   EXPECT_FALSE(Depth(3)->isReadOnly());
   EXPECT_TRUE(Depth(4)->isReadOnly());
@@ -580,7 +595,7 @@ TEST_F(EvaluationScreen, The_Error_List_Leads_To_The_Corners_Of_Any_Evaluation) 
     EXPECT_EQ(Child<QWidget>("fraGeneral")->isVisible(), key3 == 1);
     EXPECT_EQ(Field("Text(0)")->text(), "-5");
     EXPECT_EQ(Field("Text(3)")->text(), "1900");
-    EXPECT_FALSE(Field("Text(0)")->hasFocus());
+    EXPECT_FALSE(Is_In(Field("Text(0)")));
     Enter("Text(0)", "250");
     Command(0);
     EXPECT_EQ(Changed(), (Fields{"DataSaved", "ScreenDataSupplied", "SiteTop"})) << key3;
@@ -615,6 +630,7 @@ TEST_F(EvaluationScreen, A_Point_Of_The_Plan_Goes_To_The_Corner_Whose_Field_Was_
   const auto point_at = [&](const Feet_Point& point) {
     Modal_Replies replies({Press(QMessageBox::Yes)});
     Point_At(point);
+    Back_At_The_Screen();
     return replies.seen.at(0).text.toStdString();
   };
   EXPECT_EQ(point_at({1200, 800}),
