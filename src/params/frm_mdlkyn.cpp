@@ -56,8 +56,9 @@ frmMdlkyn::frmMdlkyn(QWidget* workspace)
       Text6(Named(new QLineEdit(this), "Text6")),
       Check3D1(Named(new QCheckBox(this), "Check3D1")),
       SSTab1(Named(new QTabWidget(this), "SSTab1")),
+      mixzone(Named(new QGroupBox(this), "mixzone")),
       plan_(Named(new Plan_Picture(kSitePlanName, kSitePlanFile, this), "SitePlan")),
-      fields_(this, Faces_Of(Evaluation_Fields(shape_.boundary), record_)) {
+      fields_(this, Faces_Of(Evaluation_Fields(true), record_)) {
   setWindowTitle(QString::fromStdString(shape_.caption));
   SSTab1->setUsesScrollButtons(false);  // all three have room
   SSTab1->addTab(Description_Tab(), QStringLiteral("Description"));
@@ -99,18 +100,13 @@ QWidget* frmMdlkyn::Description_Tab() {
   fraGeneral->setVisible(shape_.tracer);
   column->addWidget(fraGeneral);
 
-  auto* mixzone =
-      Named(new QGroupBox(QString::fromStdString(shape_.boundary_caption), page), "mixzone");
+  mixzone->setTitle(QString::fromStdString(shape_.boundary_caption));
   Field_Rows rows(mixzone);
-  if (shape_.boundary) {
-    const auto heading = [&](const char* name, const std::string& text) {
-      return Named(Wrapping_Label(QString::fromStdString(text), mixzone), name);
-    };
-    Add_Corners(rows, fields_, "Text", Text,
-                {heading("Label(0)", shape_.upper_left), heading("Label(3)", shape_.lower_right)});
-  } else {
-    for (QLineEdit* corner : Text) corner->hide();
-  }
+  const auto heading = [this](const char* name, const std::string& text) {
+    return Named(Wrapping_Label(QString::fromStdString(text), mixzone), name);
+  };
+  Add_Corners(rows, fields_, "Text", Text,
+              {heading("Label(0)", shape_.upper_left), heading("Label(3)", shape_.lower_right)});
   for (const int i : {kLimit, kContaminantName}) fields_.Add(rows, {"Text1", i});
   // The labels of both are Label1(2), of which the evaluation shows one at most.
   for (const Control_Name& control : {Control_Name{"Text1", kInSediment}, Control_Name{"Text2"}}) {
@@ -118,7 +114,6 @@ QWidget* frmMdlkyn::Description_Tab() {
     if (label->isHidden()) label->setObjectName(QString());
   }
   fields_.Add(rows, {"Text1", kBackground});
-  mixzone->setVisible(shape_.boundary);
   column->addWidget(mixzone);
   column->addStretch();
   return page;
@@ -184,10 +179,7 @@ void frmMdlkyn::Connect() {
       When_Focused(field, [this, corner = Corner_Of({array, i})] { Choose_Corner(corner); });
     }
   }
-  if (shape_.boundary) {
-    plan_->Set_Takes(Plan_Picture::Takes::points);
-    connect(plan_, &Plan_Picture::Point_Chosen, this, &frmMdlkyn::Plan_Clicked);
-  }
+  connect(plan_, &Plan_Picture::Point_Chosen, this, &frmMdlkyn::Plan_Clicked);
   When_Left(Text8(kOutputCount), {Command1(kOk), Command1(kCancel), Command1(kHelp)}, [this] {
     if (!Entered_Output_Count(Text8(kOutputCount)->text().toStdString())) Tell_Count();
   });
@@ -198,12 +190,28 @@ void frmMdlkyn::Opening() {
   copy_ = {};
   told_count_.reset();
   SSTab1->setCurrentIndex(kDescriptionTab);
-  Field_Texts texts = Fill_Fields(Evaluation_Fields(shape_.boundary), record_);
+  Field_Texts texts = Fill_Fields(Evaluation_Fields(true), record_);
   texts("Text8", kOutputCount) = Output_Count_Text(record_);
   fields_.Show(texts);
   Check3D1->setChecked(record_.ZidFlag == 1);
   Check3D1_Click();
+  Show_Or_Hide_Boundary();
+}
+
+void frmMdlkyn::Opened_Again() {
+  if (!Is_Led_To(kScreen)) return;
+  SSTab1->setCurrentIndex(kDescriptionTab);
+  if (shape_.boundary) return;
+  shape_.boundary = true;
+  Show_Or_Hide_Boundary();
+  Fit_To_Contents();
+}
+
+void frmMdlkyn::Show_Or_Hide_Boundary() {
+  mixzone->setVisible(shape_.boundary);
+  plan_->Set_Takes(shape_.boundary ? Plan_Picture::Takes::points : Plan_Picture::Takes::nothing);
   Choose_Corner({});
+  Show_Site();
 }
 
 void frmMdlkyn::Command1_Click(int index) {

@@ -27,6 +27,7 @@ class frmMdlkyn : public Input_Screen {
  protected:
   void Opening() override;
   void Activated() override { Show_Site(); }
+  void Opened_Again() override;
   void Command1_Click(int index) override;
 
  private:
@@ -36,6 +37,7 @@ class frmMdlkyn : public Input_Screen {
   void Order_Controls();
   void Connect();
 
+  void Show_Or_Hide_Boundary();
   void Check3D1_Click();
   void Text8_Change(int index);
   void Lock_Depths();
@@ -49,7 +51,7 @@ class frmMdlkyn : public Input_Screen {
   Evaluation_Input Input() const;
 
   ProjectRecord& record_;
-  const Evaluation_Shape shape_;
+  Evaluation_Shape shape_;
   Evaluation_Copy copy_;                   // for Cancel
   std::optional<std::string> told_count_;  // the number that the box was last shown for
 
@@ -63,6 +65,7 @@ class frmMdlkyn : public Input_Screen {
   ControlArray<QLineEdit> Text8{this, "Text8", kOutputFields};
   QCheckBox* Check3D1;
   QTabWidget* SSTab1;
+  QGroupBox* mixzone;
   Plan_Picture* plan_;
   Plan_Corner corner_;  // that a click on the plan puts somewhere
   Table_Fields fields_;

@@ -112,8 +112,7 @@ class EvaluationScreen : public ::testing::Test {
     ASSERT_TRUE(Has_Keyboard(Screen()));
   }
   void Point_At(const Feet_Point& point) {
-    auto* plan = Child<Plan_Picture>("SitePlan");
-    emit plan->Point_Chosen(point);
+    emit Child<Plan_Picture>("SitePlan")->Point_Chosen(point);
   }
   /// "label: text" of the fields that show in the frame, in the order of the layout's labels.
   Fields Shown_In(const char* frame) {
@@ -607,6 +606,32 @@ TEST_F(EvaluationScreen, The_Error_List_Leads_To_The_Corners_Of_Any_Evaluation) 
   Current_Errors() = {};
 }
 
+TEST_F(EvaluationScreen, The_Error_List_Shows_The_Corners_On_A_Screen_That_Is_Open) {
+  Open(1);
+  Enter("Text4(0)", "99");
+  Show_Tab(2);
+  {
+    const Lead_To_Screen lead(kRow);
+    ASSERT_TRUE(Open_Screen(kRow, false));
+  }
+  EXPECT_EQ(Tabs()->currentIndex(), 0);
+  EXPECT_TRUE(Child<QWidget>("mixzone")->isVisible());
+  EXPECT_EQ(Field("Text(0)")->text(), "400");
+  EXPECT_EQ(Field("Text4(0)")->text(), "99");
+  Enter("Text(0)", "250");
+  Command(0);
+  EXPECT_EQ(Changed(),
+            (Fields{"DataSaved", "ScreenDataSupplied", "TracerConcentration", "SiteTop"}));
+}
+
+TEST_F(EvaluationScreen, The_Board_Shows_No_Corners_Of_A_Tracer_However_Often_It_Opens) {
+  Open(1);
+  ASSERT_TRUE(Open_Screen(kRow, false));
+  EXPECT_TRUE(Child<QWidget>("mixzone")->isHidden());
+  Command(0);
+  EXPECT_EQ(Changed(), (Fields{"DataSaved", "ScreenDataSupplied"}));
+}
+
 TEST_F(EvaluationScreen, The_Plan_Follows_What_Is_Typed) {
   Open(5);
   auto* plan = Child<Plan_Picture>("SitePlan");
@@ -660,6 +685,18 @@ TEST_F(EvaluationScreen, A_Point_Of_The_Plan_Goes_To_The_Corner_Whose_Field_Was_
   EXPECT_EQ(Field("Text(0)")->text(), "1200");
 }
 
+TEST_F(EvaluationScreen, A_Click_On_The_Plan_Is_A_Point_In_Feet) {
+  Open(5);
+  QCoreApplication::processEvents();
+  auto* plan = Child<Plan_Picture>("SitePlan");
+  Modal_Replies replies({Press(QMessageBox::Yes)});
+  QTest::mouseClick(plan, Qt::LeftButton, {}, plan->Place_Of({1500, 1000}).toPoint());
+  ASSERT_EQ(replies.windows, 1);
+  // A pixel is some ten feet.
+  EXPECT_NEAR(Field("Text(0)")->text().toDouble(), 1500, 20);
+  EXPECT_NEAR(Field("Text(1)")->text().toDouble(), 1000, 20);
+}
+
 TEST_F(EvaluationScreen, No_Leaves_The_Corner) {
   Open(2);
   Modal_Replies replies({Press(QMessageBox::No)});
@@ -672,9 +709,10 @@ TEST_F(EvaluationScreen, No_Leaves_The_Corner) {
 TEST_F(EvaluationScreen, The_Plan_Of_A_Tracer_Takes_No_Points) {
   Open(1);
   const Modal_Replies none({});
-  Point_At({100, 200});
+  auto* plan = Child<Plan_Picture>("SitePlan");
+  QTest::mouseClick(plan, Qt::LeftButton, {}, plan->Place_Of({100, 200}).toPoint());
   EXPECT_EQ(none.windows, 0);
-  EXPECT_TRUE(Child<Plan_Picture>("SitePlan")->isVisible());
+  EXPECT_TRUE(plan->isVisible());
 }
 
 TEST_F(EvaluationScreen, Numbers_Read_As_Others_Are_Marked) {
