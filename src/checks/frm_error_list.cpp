@@ -113,6 +113,7 @@ void frmErrorList::List1_DblClick(int index) {
   if (reference == nullptr) return;
   const auto target = Error_Target_Of(reference->text().toStdString());
   if (!target) return;
+  const Lead_To_Screen lead(*target->screen);
   // Over a blocking list a screen that does not block would take no input.
   Open_Screen_Or_Tell(*target->screen, isModal() || Opens_Blocking(Project()), target->control);
 }

@@ -45,6 +45,14 @@ bool Speaks_Of_Disposal_Site(const ProjectRecord& record) {
   return record.KEY3 >= kOceanWaterQuality && record.KEY3 <= kOceanFurtherTesting;
 }
 
+bool Offers_Zid(const ProjectRecord& record) {
+  return record.KEY3 >= kNavigableWaterQuality && record.KEY3 <= kNavigableFurtherTesting;
+}
+
+bool Compares_Toxicity(const ProjectRecord& record) {
+  return record.KEY3 == kOceanToxicity || record.KEY3 == kNavigableToxicity;
+}
+
 bool Has_Zid(const ProjectRecord& record) {
   return record.KEY3 > kOceanFurtherTesting && record.ZidFlag == 1;
 }

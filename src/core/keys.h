@@ -66,6 +66,10 @@ bool Is_Regulatory(const ProjectRecord& record);
 /// Of the evaluations with a boundary, those of ocean sites speak of a disposal site, the others
 /// of a mixing zone.
 bool Speaks_Of_Disposal_Site(const ProjectRecord& record);
+/// Whether the evaluation can have a Zone of Initial Dilution: those of navigable waters.
+bool Offers_Zid(const ProjectRecord& record);
+/// What is compared is the dilution of a toxic load, not a concentration.
+bool Compares_Toxicity(const ProjectRecord& record);
 /// A Zone of Initial Dilution is evaluated. Only navigable waters have one, whatever ZidFlag says.
 bool Has_Zid(const ProjectRecord& record);
 /// The contaminant is given in the sediment, and the concentration in the fluid follows from it.

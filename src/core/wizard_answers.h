@@ -13,6 +13,7 @@ struct Wizard_Answers {
   std::string water_temperature;  // "Average Water Temperature (deg F)"
   std::string water_salinity;     // "Average Water Salinity (ppt)"
   int velocity_option = -1;       // 0 single depth, 1 two-point, 2 field, 3 unsteady; -1 none
+  int analysis_option = -1;       // 0 open water, 1 ocean sites, 2 navigable waters; -1 none
 };
 
 /// The answers of the one wizard of the program.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/desk/screen_register.h"
+
 namespace barvon {
 namespace {
 
@@ -20,6 +22,22 @@ TEST(ErrorNavigation, The_Evaluation_Screen_Is_Only_Shown) {
   ASSERT_TRUE(target);
   EXPECT_EQ(target->screen, &Row_Of_Screen("frmMdlkyn"));
   EXPECT_EQ(target->control, "");
+}
+
+TEST(ErrorNavigation, A_Screen_Knows_Whether_A_Finding_Leads_To_It) {
+  const Screen_Row& screen = Row_Of_Screen("frmMdlkyn");
+  EXPECT_FALSE(Is_Led_To(screen));
+  {
+    const Lead_To_Screen lead(screen);
+    EXPECT_TRUE(Is_Led_To(screen));
+    EXPECT_FALSE(Is_Led_To(Row_Of_Screen("frmSimulation")));
+    {
+      const Lead_To_Screen other(Row_Of_Screen("frmSimulation"));
+      EXPECT_FALSE(Is_Led_To(screen));
+    }
+    EXPECT_TRUE(Is_Led_To(screen));
+  }
+  EXPECT_FALSE(Is_Led_To(screen));
 }
 
 TEST(ErrorNavigation, Material_References_And_Screens_That_No_Longer_Stand_Lead_Nowhere) {

@@ -37,6 +37,8 @@ TEST(Keys, Each_Question_Of_KEY3_Has_Its_Evaluations) {
   EXPECT_EQ(Yes_For(&ProjectRecord::KEY3, Is_Regulatory), (Numbers{2, 3, 4, 5, 6, 7, 8}));
   EXPECT_EQ(Yes_For(&ProjectRecord::KEY3, Speaks_Of_Disposal_Site), (Numbers{2, 3, 4}));
   EXPECT_EQ(Yes_For(&ProjectRecord::KEY3, Contaminant_Is_In_The_Sediment), (Numbers{4, 7}));
+  EXPECT_EQ(Yes_For(&ProjectRecord::KEY3, Offers_Zid), (Numbers{5, 6, 7}));
+  EXPECT_EQ(Yes_For(&ProjectRecord::KEY3, Compares_Toxicity), (Numbers{3, 6}));
 }
 
 TEST(Keys, Only_Navigable_Waters_With_The_Flag_Have_A_Zid) {

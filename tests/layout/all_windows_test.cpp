@@ -13,6 +13,7 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "core/project_record.h"
 #include "platform/qt/ask/frm_progress_bar.h"
 #include "platform/qt/ask/qt_file_dialog.h"
@@ -134,6 +135,27 @@ void Look_At_Simulation(const Look& look) {
   look(screen, "with own print times");
   screen.findChild<QLineEdit*>("Text1(1)")->setFocus();
   look(screen, "with the advice on the time step");
+  Unload(screen);
+}
+
+void Look_At_Evaluation(const Look& look) {
+  for (std::int16_t key3 = 0; key3 <= 7; ++key3) {
+    Project().KEY3 = key3;
+    Project().AnalysisType = Analysis_Type_Of_KEY3(key3);
+    Project().ZidFlag = 1;
+    QWidget& screen = Opened("frmMdlkyn");
+    auto* tabs = screen.findChild<QTabWidget*>();
+    for (int page = 0; page < tabs->count(); ++page) {
+      if (!tabs->isTabEnabled(page)) continue;
+      tabs->setCurrentIndex(page);
+      look(screen, "evaluation " + std::to_string(key3) + ", " + tabs->tabText(page).toStdString());
+    }
+    Unload(screen);
+  }
+  const Lead_To_Screen lead(Row_Of_Screen("frmMdlkyn"));
+  Project().KEY3 = kTracer;
+  QWidget& screen = Opened("frmMdlkyn");
+  look(screen, "a tracer's boundary");
   Unload(screen);
 }
 
@@ -262,6 +284,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Input_Screen("frmDensity", settled);
   Look_At_Simulation(settled);
   Look_At_Coefficients(settled);
+  Look_At_Evaluation(settled);
   Look_At_Velocity(settled);
   Look_At_Material(settled);
   Look_At_Help(settled);

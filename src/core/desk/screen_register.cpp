@@ -13,6 +13,11 @@ std::map<const Screen_Row*, Screen_Opener>& Screens() {
   return screens;
 }
 
+const Screen_Row*& Led_To() {
+  static const Screen_Row* screen = nullptr;
+  return screen;
+}
+
 }  // namespace
 
 void Register_Screen(const Screen_Row& screen, Screen_Opener opener) {
@@ -39,5 +44,12 @@ void Open_Screen_Or_Tell(const Screen_Row& screen, bool blocking, const std::str
   Port().board.show_note(
       {std::string("The screen ") + screen.name + " is not part of this version.", ""});
 }
+
+Lead_To_Screen::Lead_To_Screen(const Screen_Row& screen)
+    : former_(std::exchange(Led_To(), &screen)) {}
+
+Lead_To_Screen::~Lead_To_Screen() { Led_To() = former_; }
+
+bool Is_Led_To(const Screen_Row& screen) { return Led_To() == &screen; }
 
 }  // namespace barvon

@@ -28,4 +28,18 @@ bool Open_Screen(const Screen_Row& screen, bool blocking, const std::string& con
 /// Opens the screen; one that this version does not have is named in the status area.
 void Open_Screen_Or_Tell(const Screen_Row& screen, bool blocking, const std::string& control = {});
 
+/// While it is there the error list leads to that screen: one that shows more to who comes from a
+/// finding than to who comes from a board asks for it when it opens.
+class Lead_To_Screen {
+ public:
+  explicit Lead_To_Screen(const Screen_Row& screen);
+  ~Lead_To_Screen();
+  Lead_To_Screen(const Lead_To_Screen&) = delete;
+  Lead_To_Screen& operator=(const Lead_To_Screen&) = delete;
+
+ private:
+  const Screen_Row* former_;
+};
+bool Is_Led_To(const Screen_Row& screen);
+
 }  // namespace barvon

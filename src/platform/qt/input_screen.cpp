@@ -103,6 +103,7 @@ void Input_Screen::Tab_Through(std::vector<QWidget*> order) {
 
 void Input_Screen::Open(bool blocking, const std::string& control) {
   if (isVisible()) {
+    Opened_Again();
     Focus(control);
     raise();
     activateWindow();

@@ -64,6 +64,8 @@ class Input_Screen : public QDialog {
   /// After Opening, and whenever the user comes back to the screen from another of the program's
   /// screens; not when a message box, a file dialog or the help is closed.
   virtual void Activated() {}
+  /// It was opened while it is open: it comes to the front as it stands.
+  virtual void Opened_Again() {}
   /// The command that calls off is to follow, and what it restores is to be as it was when the
   /// screen opened, not when the user last came back to it.
   virtual void Discarding() {}

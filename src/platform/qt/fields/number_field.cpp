@@ -84,6 +84,11 @@ QString Number_Note_Of(const QLineEdit* field) {
   return mark == nullptr ? QString() : mark->note();
 }
 
+void Enter_Text(QLineEdit* field, const QString& text) {
+  field->selectAll();
+  field->insert(text);
+}
+
 void Make_Text_Field(QLineEdit* field, int max_length) {
   field->setValidator(new Encoding_Validator(field));
   if (max_length > 0) field->setMaxLength(max_length);

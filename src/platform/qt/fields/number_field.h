@@ -18,6 +18,9 @@ void Make_Number_Field(QLineEdit* field, Number_Note note);
 /// What the field's mark says now; "" while it has none or is no numeric field.
 QString Number_Note_Of(const QLineEdit* field);
 
+/// Puts a text in the place of the field's own as typing does: the field's undo takes it back.
+void Enter_Text(QLineEdit* field, const QString& text);
+
 /// Makes a line of text a field for texts that end up in files: what the files' encoding does not
 /// hold stays out, and no more than `max_length` characters go in (0: no limit).
 /// A longer text that is set from code is cut, so the limit must not be below what a file holds.

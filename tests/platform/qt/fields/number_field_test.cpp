@@ -216,6 +216,14 @@ TEST(FieldRows, A_Line_Gives_Label_Field_Reference_And_Tag) {
   EXPECT_EQ(Text3->maxLength(), 20);
 }
 
+TEST_F(NumberField, A_Text_That_Is_Entered_Is_Undone_As_A_Typed_One) {
+  Type(&field, "5");
+  Enter_Text(&field, "1200");
+  EXPECT_EQ(field.text(), "1200");
+  field.undo();
+  EXPECT_EQ(field.text(), "15");
+}
+
 TEST(FieldRows, Tab_Goes_Down_The_Rows_In_Whatever_Order_The_Fields_Were_Made) {
   QWidget frame;
   ControlArray<QLineEdit> Text1(&frame, "Text1", 3);

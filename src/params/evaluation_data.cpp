@@ -1,0 +1,423 @@
+#include "params/evaluation_data.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/format_pattern.h"
+#include "core/keys.h"
+#include "core/number_text.h"
+#include "core/wizard_answers.h"
+#include "params/site_plan.h"
+#include "platform/ask/message_box.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kSixDecimals[] = "####0.000000";
+constexpr char kFiveDecimals[] = "#0.00000";
+constexpr char kWholeFeet[] = "###########0";
+constexpr char kWholeFeetOfLeft[] = "##########0";
+constexpr char kFromTop[] = "Distance from Top Edge of Grid (ft)";
+constexpr char kFromLeft[] = "Distance from Left Edge of Grid (ft)";
+
+constexpr double kToxicTracer = 100, kToxicBackground = 0;  // mg/l: the results are per cent
+constexpr char kToxicName[] = "FLUID";
+
+/// The type of analysis that the captions go by: the wizard's while it is at work.
+std::int16_t Type_In_Question(const ProjectRecord& record) {
+  if (record.WizardActive == kFalse) return record.AnalysisType;
+  return static_cast<std::int16_t>(Answers_Of_Wizard().analysis_option + kOpenWater);
+}
+
+bool Has_Tracer(const ProjectRecord& record) { return record.KEY3 == kTracer; }
+
+bool Has_Contaminant(const ProjectRecord& record) {
+  return (Speaks_Of_Disposal_Site(record) || Offers_Zid(record)) && !Compares_Toxicity(record);
+}
+bool Has_Ocean_Contaminant(const ProjectRecord& record) {
+  return Has_Contaminant(record) && Speaks_Of_Disposal_Site(record);
+}
+bool Has_Navigable_Contaminant(const ProjectRecord& record) {
+  return Has_Contaminant(record) && Offers_Zid(record);
+}
+bool Has_Fluid_Concentration(const ProjectRecord& record) {
+  return Has_Contaminant(record) && !Contaminant_Is_In_The_Sediment(record);
+}
+
+bool Meets_Toxicity_Standard(const ProjectRecord& record) {
+  if (!Compares_Toxicity(record)) return false;
+  const std::int16_t type = Type_In_Question(record);
+  if (type == kOceanSites) return false;
+  return type == kNavigableWaters || Offers_Zid(record);
+}
+bool Meets_Toxicity_Criteria(const ProjectRecord& record) {
+  return Compares_Toxicity(record) && !Meets_Toxicity_Standard(record);
+}
+
+bool Compares_Toxicity_Of_Zid(const ProjectRecord& record) {
+  return Offers_Zid(record) && Compares_Toxicity(record);
+}
+bool Compares_Concentration_Of_Zid(const ProjectRecord& record) {
+  return Offers_Zid(record) && !Compares_Toxicity(record);
+}
+
+// Those of the boundary come last.
+constexpr Field_Row kRows[] = {
+    {.control = {"Text4", kTracerName},
+     .label = "Description of Conservative Tracer",
+     .pattern = "@@@@@@@",
+     .reads = Reads::Text,
+     .member = Element<&ProjectRecord::SolidNames, kSolidEntries>(),
+     .label_name = {"Label4", 0},
+     .shown_for = Has_Tracer},
+    {.control = {"Text4", kTracerConcentration},
+     .label = "Tracer Concentration in Dredged Material",
+     .unit = "mg/l",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::TracerConcentration,
+     .label_name = {"Label4", 1},
+     .shown_for = Has_Tracer},
+    {.control = {"Text4", kTracerBackground},
+     .label = "Background Concentration at Disposal Site",
+     .unit = "mg/l",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::BackgroundConcentration,
+     .label_name = {"Label4", 2},
+     .shown_for = Has_Tracer},
+
+    {.control = {"Text1", kLimit},
+     .label = "Water Quality Criteria for Contaminant (mg/l)",
+     .unit = "mg/l",
+     .pattern = kFiveDecimals,
+     .member = &ProjectRecord::CriterionConcentration,
+     .label_name = {"Label1", 0},
+     .shown_for = Has_Ocean_Contaminant},
+    {.control = {"Text1", kLimit},
+     .label = "Water Quality Standard at Border of Mixing Zone for Contaminant of Concern (mg/l)",
+     .unit = "mg/l",
+     .pattern = kFiveDecimals,
+     .member = &ProjectRecord::CriterionConcentration,
+     .label_name = {"Label1", 0},
+     .shown_for = Has_Navigable_Contaminant},
+    {.control = {"Text1", kLimit},
+     .label = "Enter Dilution Required to Meet Toxicity Criteria (%) (Typically, 1% of LC50)",
+     .unit = "%",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::ToxicityDilution,
+     .label_name = {"Label1", 0},
+     .shown_for = Meets_Toxicity_Criteria},
+    {.control = {"Text1", kLimit},
+     .label = "Enter Dilution Required to Meet Toxicity Standard (%) (Typically, 1% of LC50)",
+     .unit = "%",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::ToxicityDilution,
+     .label_name = {"Label1", 0},
+     .shown_for = Meets_Toxicity_Standard},
+    {.control = {"Text1", kContaminantName},
+     .label = "Description of Contaminant",
+     .reads = Reads::Text,
+     .member = Element<&ProjectRecord::SolidNames, kSolidEntries>(),
+     .label_name = {"Label1", 1},
+     .shown_for = Has_Ocean_Contaminant},
+    {.control = {"Text1", kContaminantName},
+     .label = "Contaminant of Concern",
+     .reads = Reads::Text,
+     .member = Element<&ProjectRecord::SolidNames, kSolidEntries>(),
+     .label_name = {"Label1", 1},
+     .shown_for = Has_Navigable_Contaminant},
+    {.control = {"Text1", kInSediment},
+     .label = "Contaminant Concentration in Sediment (mg/kg)",
+     .unit = "mg/kg",
+     .pattern = kFiveDecimals,
+     .member = &ProjectRecord::SedimentConcentration,
+     .label_name = {"Label1", 2},
+     .shown_for = Contaminant_Is_In_The_Sediment},
+    {.control = {"Text2"},
+     .label = "Predicted Initial Concentration in Fluid Fraction (mg/l)",
+     .unit = "mg/l",
+     .pattern = kFiveDecimals,
+     .member = &ProjectRecord::TracerConcentration,
+     .label_name = {"Label1", 2},
+     .shown_for = Has_Fluid_Concentration},
+    {.control = {"Text1", kBackground},
+     .label = "Background Concentration at Disposal Site (mg/l)",
+     .unit = "mg/l",
+     .pattern = kFiveDecimals,
+     .member = &ProjectRecord::BackgroundConcentration,
+     .label_name = {"Label1", 3},
+     .shown_for = Has_Contaminant},
+
+    {.control = {"Text5", kCornerTop},
+     .label = kFromTop,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::ZidTop,
+     .shown_for = Offers_Zid},
+    {.control = {"Text5", kCornerLeft},
+     .label = kFromLeft,
+     .unit = "ft",
+     .pattern = kWholeFeetOfLeft,
+     .member = &ProjectRecord::ZidLeft,
+     .shown_for = Offers_Zid},
+    {.control = {"Text5", kCornerBottom},
+     .label = kFromTop,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::ZidBottom,
+     .shown_for = Offers_Zid},
+    {.control = {"Text5", kCornerRight},
+     .label = kFromLeft,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::ZidRight,
+     .shown_for = Offers_Zid},
+    {.control = {"Text6"},
+     .label = "Dilution required to meet Toxicity Standard at Border of ZID (%)",
+     .unit = "%",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::ZidToxicityDilution,
+     .label_name = {"Label6"},
+     .shown_for = Compares_Toxicity_Of_Zid},
+    {.control = {"Text6"},
+     .label = "Water Quality Standard at Border of ZID (mg/l)",
+     .unit = "mg/l",
+     .pattern = kSixDecimals,
+     .member = &ProjectRecord::ZCRIT,
+     .label_name = {"Label6"},
+     .shown_for = Compares_Concentration_Of_Zid},
+
+    {.control = {"Text8", kOutputCount},
+     .label =
+         "Number of Depths for which Output is Desired. Minimum of 2 Recommended, Maximum of 5 "
+         "Allowed.",
+     .pattern = "#######0",
+     .reads = Reads::Whole},
+    {.control = {"Text8", 0},
+     .label = "Depth 1",
+     .unit = "ft",
+     .pattern = "##0.00",
+     .member = Element<&ProjectRecord::OutputDepths, 1>()},
+    {.control = {"Text8", 1},
+     .label = "Depth 2",
+     .unit = "ft",
+     .pattern = "##0.00",
+     .member = Element<&ProjectRecord::OutputDepths, 2>()},
+    {.control = {"Text8", 2},
+     .label = "Depth 3",
+     .unit = "ft",
+     .pattern = "##0.00",
+     .member = Element<&ProjectRecord::OutputDepths, 3>()},
+    {.control = {"Text8", 3},
+     .label = "Depth 4",
+     .unit = "ft",
+     .pattern = "##0.00",
+     .member = Element<&ProjectRecord::OutputDepths, 4>()},
+    {.control = {"Text8", 4},
+     .label = "Depth 5",
+     .unit = "ft",
+     .pattern = "##0.00",
+     .member = Element<&ProjectRecord::OutputDepths, 5>()},
+
+    {.control = {"Text", kCornerTop},
+     .label = kFromTop,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::SiteTop},
+    {.control = {"Text", kCornerLeft},
+     .label = kFromLeft,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::SiteLeft},
+    {.control = {"Text", kCornerBottom},
+     .label = kFromTop,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::SiteBottom},
+    {.control = {"Text", kCornerRight},
+     .label = kFromLeft,
+     .unit = "ft",
+     .pattern = kWholeFeet,
+     .member = &ProjectRecord::SiteRight},
+};
+constexpr Field_Table kAllRows = kRows;
+constexpr Field_Table kRowsWithoutBoundary = kAllRows.first(kAllRows.size() - kCornerFields);
+
+std::int16_t Flag_Of(bool wanted) { return wanted ? 1 : 0; }
+
+/// Writes a value that Cancel has to bring back.
+template <class Value>
+void Write(Value value, std::optional<Value>& former, Value& field) {
+  if (!former) former = field;
+  field = value;
+}
+
+/// The number of output depths that is typed, whole but within no limits.
+double Typed_Count(const std::string& typed) {
+  return Round_Half_Even(Lenient_Number(typed)) + 0.0;  // rounding makes negative zeros
+}
+
+double Count_At_OK(const std::string& typed) {
+  const double count = Typed_Count(typed);
+  return count < 0 ? 1 : std::min<double>(count, kMaxOutputDepths);
+}
+
+/// The area between the corners of Text or Text5.
+std::optional<Feet_Area> Entered_Area(std::string_view array, const Field_Texts& texts,
+                                      const ProjectRecord& record) {
+  const auto corner = [&](int index) {
+    return Entered_Number(kAllRows, {array, index}, texts, record);
+  };
+  const Feet_Area area = {corner(kCornerTop), corner(kCornerLeft), corner(kCornerBottom),
+                          corner(kCornerRight)};
+  const bool given = area.top != 0 || area.left != 0 || area.bottom != 0 || area.right != 0;
+  return given ? std::optional(area) : std::nullopt;
+}
+
+std::string Caption_Of(const ProjectRecord& record) {
+  if (Has_Tracer(record)) return "Water Quality Analysis for General Open Water Disposal";
+  if (Speaks_Of_Disposal_Site(record)) {
+    return "Water Quality Analysis for Section 103 Regulatory Analysis";
+  }
+  if (Offers_Zid(record)) {
+    return "Water Quality Analysis for Section 404(b)(1) Regulatory Analysis";
+  }
+  return Type_In_Question(record) == kOceanSites ? "Disposal Site Data" : "Mixing Zone Data";
+}
+
+}  // namespace
+
+Evaluation_Shape Shape_Of_Evaluation(const ProjectRecord& record, bool led) {
+  Evaluation_Shape shape;
+  shape.caption = Caption_Of(record);
+  shape.tracer = Has_Tracer(record);
+  shape.boundary = !shape.tracer || led;
+  shape.zid = Offers_Zid(record);
+  shape.size_note = !Speaks_Of_Disposal_Site(record);
+  shape.boundary_caption = "Mixing Zone";
+  shape.upper_left = "Specify Location of Upper Left Corner of Mixing Zone on Grid";
+  shape.lower_right = "Specify Location of Lower Right Corner of Mixing Zone on Grid";
+  if (Speaks_Of_Disposal_Site(record)) {
+    shape.boundary_caption = "Description of Disposal Site";
+    shape.upper_left = "Specify Location of Upper Left Corner of Disposal Site on Grid";
+    shape.lower_right = "Specify Location of Lower Right Corner of  Disposal Site on Grid";
+  } else if (shape.zid) {
+    shape.boundary_caption = "Description of Mixing Zone";
+    for (std::string* label : {&shape.upper_left, &shape.lower_right}) {
+      *label += ". Enter Zeroes if You Want BARVON to Compute a Mixing Zone.";
+    }
+  }
+  shape.zid_note =
+      shape.zid
+          ? "Some states may employ a zone of initial dilution (ZID) as part of its CWA 401 water "
+            "quality certification. A ZID is a second mixing zone where an acute toxicity criteria "
+            "can be exceeded.\nEnter zeros if you want BARVON to calcualte the size of the ZID for "
+            "you."
+          : "A Zone of Initial Dilution (ZID) can only be specified under the Clean Water Act "
+            "Section 404 Analysis";
+  return shape;
+}
+
+Field_Table Evaluation_Fields(bool boundary) { return boundary ? kAllRows : kRowsWithoutBoundary; }
+
+void Reset_Vars(const Evaluation_Copy& copy, ProjectRecord& record) {
+  if (copy.ZidFlag) record.ZidFlag = *copy.ZidFlag;
+  if (copy.NumOutputDepths) record.NumOutputDepths = *copy.NumOutputDepths;
+  for (int i = 1; i <= kMaxOutputDepths; ++i) {
+    if (copy.OutputDepths[i]) record.OutputDepths[i] = *copy.OutputDepths[i];
+  }
+}
+
+void Hold_Output_Count(ProjectRecord& record) {
+  double& count = record.NumOutputDepths;
+  // Written this way round, no number at all becomes 1 too.
+  count = count > 0 ? Round_Half_Even(std::min<double>(count, kMaxOutputDepths)) : 1;
+  count = std::max<double>(count, 1);
+}
+
+std::string Output_Count_Text(const ProjectRecord& record) {
+  return Format_Number(record.NumOutputDepths,
+                       Find_Row(kAllRows, {"Text8", kOutputCount}, record)->pattern);
+}
+
+std::optional<int> Entered_Output_Count(const std::string& typed) {
+  const double count = Typed_Count(typed);
+  if (count < 1 || count > kMaxOutputDepths) return std::nullopt;
+  return static_cast<int>(count);
+}
+
+void Tell_Output_Count() {
+  Show_Message({"Number of Depths Is Less Than 1 or Greater Than 5.  Please Supply Valid Entry"});
+}
+
+void Choose_Zid(bool wanted, Evaluation_Copy& copy, ProjectRecord& record) {
+  Write(Flag_Of(wanted), copy.ZidFlag, record.ZidFlag);
+}
+
+void Take_Output_Count(const std::string& typed, Evaluation_Copy& copy, ProjectRecord& record) {
+  const auto count = Entered_Output_Count(typed);
+  if (count) Write<double>(*count, copy.NumOutputDepths, record.NumOutputDepths);
+}
+
+void Take_Output_Depth(int index, const Field_Texts& texts, Evaluation_Copy& copy,
+                       ProjectRecord& record) {
+  const Control_Name control{"Text8", index};
+  const int depth = index + 1;
+  std::optional<double>& former = copy.OutputDepths[depth];
+  if (texts.Is_Untouched(control)) {
+    if (former) record.OutputDepths[depth] = *former;
+  } else {
+    Write(Lenient_Number(texts("Text8", index)), former, record.OutputDepths[depth]);
+  }
+}
+
+std::string Derived_Concentration(const ProjectRecord& record) {
+  constexpr double kLargest = std::numeric_limits<float>::max();
+  const int solids = std::min<int>(record.NumSolids, kMaxSolids);
+  float sum = 0;
+  for (int i = 1; i <= solids; ++i) {
+    const double part =
+        record.SolidSG[i] * record.SedimentConcentration * record.SolidVolFraction[i];
+    sum = static_cast<float>(std::clamp(sum + part, -kLargest, kLargest));
+  }
+  return Format_Number(Widen(sum), kSixDecimals);
+}
+
+void Save_Evaluation(const Evaluation_Input& input, bool boundary, ProjectRecord& record) {
+  record.DataSaved = kFalse;
+  Read_Fields(Evaluation_Fields(boundary), input.texts, record);
+  if (Compares_Toxicity(record)) {
+    record.TracerConcentration = kToxicTracer;
+    record.BackgroundConcentration = kToxicBackground;
+    record.TracerName() = kToxicName;
+  }
+  if (Contaminant_Is_In_The_Sediment(record)) {
+    record.TracerConcentration = Lenient_Number(Derived_Concentration(record));
+  }
+  if (Offers_Zid(record)) record.ZidFlag = Flag_Of(input.Check3D1);
+  record.NumOutputDepths = Count_At_OK(input.texts("Text8", kOutputCount));
+}
+
+Site_Plan Entered_Site(const Evaluation_Input& input, bool boundary, const ProjectRecord& record) {
+  Site_Plan site = Plan_Of_Site(record);
+  site.boundary = site.zid = std::nullopt;
+  if (boundary) site.boundary = Entered_Area("Text", input.texts, record);
+  if (Offers_Zid(record) && input.Check3D1) {
+    site.zid = Entered_Area("Text5", input.texts, record);
+  }
+  return site;
+}
+
+Plan_Corner Corner_Of(const Control_Name& field) {
+  const bool upper = field.index == kCornerTop || field.index == kCornerLeft;
+  return {{field.array, upper ? kCornerTop : kCornerBottom},
+          {field.array, upper ? kCornerLeft : kCornerRight}};
+}
+
+std::string Words_Of(const Plan_Corner& corner, const ProjectRecord& record) {
+  const std::string which = corner.top.index == kCornerTop ? "the upper left corner of the "
+                                                           : "the lower right corner of the ";
+  if (corner.top.array == "Text5") return which + "ZID";
+  return which + (Speaks_Of_Disposal_Site(record) ? "disposal site" : "mixing zone");
+}
+
+}  // namespace barvon
