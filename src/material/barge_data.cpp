@@ -100,7 +100,7 @@ int Layers_Of(const std::string& text) {
 }
 
 std::string Layers_Doubt(const std::string& text) {
-  if (Can_Be_Layers(text)) return "";
+  if (Lenient_Number(text) == Layers_Of(text)) return "";
   return "Number of layers: \"" + text + "\" is stored as " + std::to_string(Layers_Of(text)) +
          ".\n";
 }

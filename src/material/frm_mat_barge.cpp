@@ -19,6 +19,7 @@ enum Page { kLayersPage = 0, kMaterialPage, kCompositionPage, kWaterPage };
 enum Option { kSeparation = 0, kJbfc };            // SSCheck1
 constexpr int kLayersField = 0, kSolidsField = 1;  // Text1
 constexpr int kNoteLines = 7, kPromptLines = 6;
+constexpr int kStackLines = 14;  // so that each of six layers has a label
 constexpr char kLimitHeading[] = "Liquid Limit";
 
 }  // namespace
@@ -102,10 +103,12 @@ QWidget* frmMatBarge::Composition_Page() {
   F1Book1_1->setAccessibleName(QStringLiteral("Composition of the layers"));
   F1Book1_1->SetNumberNote(Real_Note);
   F1Book1_1->SetFocusCell(1);
+  F1Book1_1->Ask_For_All_Rows();
   rows.Whole_Row(F1Book1_1);
   fields_.Add(rows, {"Text2"});
   rows.Whole_Row(Text4_1);
   column->addWidget(frame);
+  stack_->setMinimumHeight(kStackLines * fontMetrics().lineSpacing());
   column->addWidget(stack_, 1);
   return page;
 }
@@ -201,6 +204,9 @@ void frmMatBarge::SSCheck1_Click(int index) {
     record_.JBFCFlag = on ? 1 : 0;
   }
   Enable_Composition();
+  // The tables lay themselves out for their new columns and rows first.
+  QMetaObject::invokeMethod(
+      this, [this] { Fit_To_Contents(); }, Qt::QueuedConnection);
 }
 
 void frmMatBarge::Tab_Left(int page) {
@@ -240,14 +246,10 @@ void frmMatBarge::Enable_Composition() {
 int frmMatBarge::Layers() const { return Layers_Of(Text1(kLayersField)->text().toStdString()); }
 
 std::string frmMatBarge::Doubts() const {
-  std::string doubts = Layers_Doubt(Text1(kLayersField)->text().toStdString()) +
-                       Number_Doubts(F1Book1_0->table(), {1, 1, Layers(), 3}) +
-                       Solids_Doubts(solids_->state().layout, solids_->table()) +
-                       Volume_Doubts(solids_->state(), solids_->table(), record_);
-  if (tabs_->isTabEnabled(kCompositionPage)) {
-    doubts += Number_Doubts(F1Book1_1->table(), F1Book1_1->table().TableRange());
-  }
-  return doubts;
+  return Layers_Doubt(Text1(kLayersField)->text().toStdString()) +
+         Number_Doubts(F1Book1_0->table(), {1, 1, Layers(), 3}) + solids_->Doubts() +
+         Volume_Doubts(solids_->state(), solids_->table(), record_) +
+         Composition_Doubts(Layers(), solids_->state(), moisture_, solids_->table());
 }
 
 void frmMatBarge::Save() {

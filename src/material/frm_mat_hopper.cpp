@@ -149,8 +149,8 @@ void frmMatHopper::Tell_Boxes() {
 
 void frmMatHopper::Save() {
   if (!Check_Solids_Table(solids_->table())) return;
-  if (!Accept_Doubts(Solids_Doubts(kHopperLoad, solids_->table()))) return;
   const Hopper_Entry entry{fields_.Texts(), water_->Texts(), SSCheck1->isChecked()};
+  if (!Accept_Doubts(Moisture_Doubt(entry, record_) + solids_->Doubts())) return;
   if (!Save_Data(entry, solids_->state(), solids_->table(), record_)) {
     // The data count as supplied although the screen stays.
     Supply_Screen(kScreen, record_);

@@ -83,6 +83,16 @@ void Check_Hopper_Solids(const std::string& text) {
   }
 }
 
+std::string Moisture_Doubt(const Hopper_Entry& entry, const ProjectRecord& record) {
+  const std::string& typed = entry.texts(kMoisture.array, kMoisture.index);
+  if (entry.SSCheck1 || entry.texts.Is_Untouched(kMoisture) || Lenient_Number(typed) == 0 ||
+      record.DisposalMethod == kContinuous) {
+    return "";
+  }
+  return "Moisture content: \"" + typed +
+         "\" is stored as 0, because the coefficient is not used.\n";
+}
+
 bool Save_Data(const Hopper_Entry& entry, Solids_State& state, const Spreadsheet_Table& solids,
                ProjectRecord& record) {
   if (!Water_Density_Fits(entry.water, record)) return false;

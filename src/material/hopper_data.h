@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/field_table.h"
 #include "core/project_record.h"
 #include "material/solids_table.h"
@@ -26,6 +28,10 @@ Field_Texts Moisture_Text(const ProjectRecord& record);
 
 /// A number of fractions was typed, which only is checked.
 void Check_Hopper_Solids(const std::string& text);
+
+/// What to say of a moisture content that was typed and is not stored without the coefficient, in a
+/// line; "" for none.
+std::string Moisture_Doubt(const Hopper_Entry& entry, const ProjectRecord& record);
 
 /// OK. False, and told, when the density is outside its limits; nothing is stored then. New
 /// fractions go to the library.

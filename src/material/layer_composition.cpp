@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "core/book_numbers.h"
 #include "core/format_pattern.h"
 #include "core/number_text.h"
+#include "material/solids_doubts.h"
 
 namespace barvon {
 namespace {
@@ -85,6 +87,13 @@ void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids
       texts[At(layer)] = table.TextRC(row, layer);
     }
   }
+}
+
+std::string Composition_Doubts(int layers, const Solids_State& state,
+                               const Layer_Moisture& moisture, const Spreadsheet_Table& solids) {
+  Spreadsheet_Table all(kBookNumbers);
+  Define_Book_1(layers, true, state, moisture, solids, all);
+  return Number_Doubts(all, all.TableRange());
 }
 
 void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,

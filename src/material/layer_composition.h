@@ -38,6 +38,11 @@ void Define_Book_1(int layers, bool with_moisture, const Solids_State& state,
 void Read_Composition(const Spreadsheet_Table& table, bool with_moisture, Solids_State& state,
                       Layer_Moisture& moisture);
 
+/// What to say of texts that are read as other numbers, also of a moisture content or a composition
+/// that is not shown: OK stores them all.
+std::string Composition_Doubts(int layers, const Solids_State& state,
+                               const Layer_Moisture& moisture, const Spreadsheet_Table& solids);
+
 /// OK: the texts become the record's, for its NumSolids and LAYERS. A text that is the record's own
 /// value leaves it alone, and so does an offered one where no layer's moisture content is shown.
 void Store_Composition(const Solids_State& state, const Layer_Moisture& moisture,

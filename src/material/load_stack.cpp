@@ -15,7 +15,8 @@ namespace {
 constexpr std::array<Colour, kMaxSolids> kGrains = {
     {{232, 196, 120}, {176, 128, 62}, {112, 78, 44}, {58, 48, 44}}};
 constexpr Colour kWaterFill{186, 217, 240};
-constexpr double kRounding = 1e-9;  // of a sum of fractions that make up a whole
+constexpr double kThinnestPart = 0.1;  // of the load, so that a thin layer can be read
+constexpr double kRounding = 1e-9;     // of a sum of fractions that make up a whole
 
 std::string Fraction_Name(int solid, const Spreadsheet_Table& solids) {
   const std::string name = solids.TextRC(kRowBase + solid, 1);
@@ -40,9 +41,12 @@ Bar_Chart Load_Stack(int layers, const Spreadsheet_Table& volumes, const Solids_
   chart.value_label = "part of the layer's volume";
   const int count = Filled_Solids(solids);
   bool all_have_volumes = true;
+  double load = 0;
   for (int layer = 1; layer <= layers; ++layer) {
     all_have_volumes = all_have_volumes && volumes.NumberRC(layer, 1) > 0;
+    load += volumes.NumberRC(layer, 1);
   }
+  const double thinnest = kThinnestPart * load;
   for (int layer = 1; layer <= layers; ++layer) {
     std::vector<Bar_Amount> amounts;
     double sum = 0;
@@ -56,7 +60,7 @@ Bar_Chart Load_Stack(int layers, const Spreadsheet_Table& volumes, const Solids_
     Bar bar = Stacked_Bar("Layer " + std::to_string(layer), amounts);
     bar.warned = sum > 1 + kRounding;
     if (bar.warned) bar.remark = "more than the whole";
-    if (all_have_volumes) bar.weight = volumes.NumberRC(layer, 1);
+    if (all_have_volumes) bar.weight = std::max(volumes.NumberRC(layer, 1), thinnest);
     chart.bars.push_back(bar);
   }
   for (int solid = 1; solid <= count; ++solid) {

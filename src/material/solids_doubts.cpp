@@ -11,6 +11,7 @@
 namespace barvon {
 namespace {
 
+constexpr int kShownDoubts = 15;              // lines of a question
 constexpr std::size_t kShownCharacters = 40;  // of a text that is quoted
 
 std::string In_One_Line(std::string heading) {
@@ -21,6 +22,24 @@ std::string In_One_Line(std::string heading) {
 std::string Quoted(const std::string& text) {
   const std::string shown = First_Characters(text, kShownCharacters);
   return "\"" + (shown.size() < text.size() ? shown + "..." : shown) + "\"";
+}
+
+std::string Text_Of(const Cell_Value& value) {
+  const auto* text = std::get_if<std::string>(&value);
+  if (text != nullptr) return Real_Note(*text).empty() ? *text : Quoted(*text);
+  const auto* number = std::get_if<double>(&value);
+  return number == nullptr ? "\"\"" : Plain_Number(*number);
+}
+
+/// As many lines as a box on a small display has room for.
+std::string First_Lines(const std::string& doubts) {
+  std::size_t end = 0;
+  for (int line = 0; line < kShownDoubts && end < doubts.size(); ++line) {
+    end = doubts.find('\n', end) + 1;
+  }
+  const auto more =
+      std::count(doubts.begin() + static_cast<std::ptrdiff_t>(end), doubts.end(), '\n');
+  return more == 0 ? doubts : doubts.substr(0, end) + "And " + std::to_string(more) + " more.\n";
 }
 
 bool Holds_Values(const Spreadsheet_Table& table, int row) {
@@ -56,7 +75,9 @@ std::string Solids_Doubts(Solids_Layout layout, const Spreadsheet_Table& table) 
     const std::string name = Trimmed(table.TextRC(row, 1));
     const std::string number = "Fraction " + std::to_string(row - kRowBase);
     if (name.empty()) {
-      if (row > last && Holds_Values(table, row)) {
+      if (row <= last) {
+        doubts.append(number).append(": is stored without a name.\n");
+      } else if (Holds_Values(table, row)) {
         doubts.append(number).append(": is lost, because it has no name.\n");
       }
       continue;
@@ -82,9 +103,10 @@ std::string Volume_Doubts(const Solids_State& state, const Spreadsheet_Table& ta
     const Solids_Row& row = state.Row(kRowBase + i);
     const bool is_new = row.solid == 0 || row.solid > record.NumSolids;
     const double stored = is_new ? 0 : record.SolidVolFraction[static_cast<std::size_t>(row.solid)];
-    if (!row.volume_was_shown || row.saved_volume == stored) continue;
+    const bool is_none = row.saved_volume == Cell_Value() && stored == 0;
+    if (!row.volume_was_shown || is_none || row.saved_volume == Cell_Of(stored)) continue;
     doubts.append("Fraction " + std::to_string(i) + ", Volumetric Fraction: ")
-        .append(Plain_Number(row.saved_volume))
+        .append(Text_Of(row.saved_volume))
         .append(" is not stored, because each layer has its own.\n");
   }
   return doubts;
@@ -92,8 +114,8 @@ std::string Volume_Doubts(const Solids_State& state, const Spreadsheet_Table& ta
 
 bool Accept_Doubts(const std::string& doubts) {
   if (doubts.empty()) return true;
-  return Ask(doubts + "\nOK Stores the Material All the Same.", Buttons::OkCancel, Icon::Warning) ==
-         Answer::Ok;
+  return Ask(First_Lines(doubts) + "\nOK Stores the Material All the Same.", Buttons::OkCancel,
+             Icon::Warning) == Answer::Ok;
 }
 
 }  // namespace barvon

@@ -84,7 +84,7 @@ constexpr char kCohesiveHeading[] = "Cohesive?\nY or N";
 constexpr char kStrippedHeading[] = "Stripped\nDuring Descent?\nY or N";
 
 constexpr Table_Column<ProjectRecord> kColumns[] = {
-    {"Solids\nFraction", kAuto, kNumberPattern, kName},
+    {"Solids\nFraction", kAuto, "", kName},
     {"Specific\nGravity", kAuto, kNumberPattern, kNumber<&ProjectRecord::SolidSG>},
     {kVolumeHeading, kAuto, kNumberPattern, kVolume, kWithVolume},
     {"Fall\nVelocity \n(Ft/Sec)", kAuto, kNumberPattern, kFall, kWholeLoad},
@@ -94,18 +94,12 @@ constexpr Table_Column<ProjectRecord> kColumns[] = {
     {"Deposition\nVoid Ratio", kAuto, kNumberPattern, kVoid, kHopperLoad},
     {"Critical\nShear Stress\nLbs/Ft^2", kAuto, kNumberPattern,
      kNumber<&ProjectRecord::SolidCriticalShear>},
-    {kCohesiveHeading, kAuto, kNumberPattern, kWholeFlag<&ProjectRecord::SolidCohesive>,
-     kWholeLoad},
-    {kCohesiveHeading, kAuto, kNumberPattern, kSeparatedFlag<&ProjectRecord::SolidCohesive>,
-     kSeparatedLoad},
-    {kCohesiveHeading, kAuto, kNumberPattern, kHopperFlag<&ProjectRecord::SolidCohesive>,
-     kHopperLoad},
-    {kStrippedHeading, kAuto, kNumberPattern, kWholeFlag<&ProjectRecord::SolidStripped>,
-     kWholeLoad},
-    {kStrippedHeading, kAuto, kNumberPattern, kSeparatedFlag<&ProjectRecord::SolidStripped>,
-     kSeparatedLoad},
-    {kStrippedHeading, kAuto, kNumberPattern, kHopperFlag<&ProjectRecord::SolidStripped>,
-     kHopperLoad},
+    {kCohesiveHeading, kAuto, "", kWholeFlag<&ProjectRecord::SolidCohesive>, kWholeLoad},
+    {kCohesiveHeading, kAuto, "", kSeparatedFlag<&ProjectRecord::SolidCohesive>, kSeparatedLoad},
+    {kCohesiveHeading, kAuto, "", kHopperFlag<&ProjectRecord::SolidCohesive>, kHopperLoad},
+    {kStrippedHeading, kAuto, "", kWholeFlag<&ProjectRecord::SolidStripped>, kWholeLoad},
+    {kStrippedHeading, kAuto, "", kSeparatedFlag<&ProjectRecord::SolidStripped>, kSeparatedLoad},
+    {kStrippedHeading, kAuto, "", kHopperFlag<&ProjectRecord::SolidStripped>, kHopperLoad},
 };
 
 /// Typical values, by Solids_Field; the volumetric fraction has none.
@@ -169,9 +163,10 @@ void Define_Solids_Table(Solids_Layout layout, Spreadsheet_Table& table) {
 }
 
 void Format_Solids_Rows(Spreadsheet_Table& table) {
-  const Cell_Range rows{kRowBase + 1, 1, kRowBase + kMostSolidsRows, 8};
-  table.NumberFormat(rows, kNumberPattern);
-  table.Centred(rows, true);
+  constexpr int kLast = kRowBase + kMostSolidsRows, kMostColumns = 8;
+  table.Centred({kRowBase + 1, 1, kLast, kMostColumns}, true);
+  // A fraction that is named "100" is no number.
+  table.NumberFormat({kRowBase + 1, 2, kLast, kMostColumns}, kNumberPattern);
 }
 
 }  // namespace barvon

@@ -4,6 +4,7 @@
 
 #include "core/book_numbers.h"
 #include "core/number_reading.h"
+#include "material/solids_doubts.h"
 #include "platform/qt/fields/field_rows.h"
 
 namespace barvon {
@@ -17,6 +18,7 @@ Solids_Panel::Solids_Panel(const char* book)
   row->addWidget(F1Book1, 5);
   List1->setAccessibleName(QStringLiteral("Material library"));
   F1Book1->setAccessibleName(QStringLiteral("Solids fractions"));
+  F1Book1->Ask_For_All_Rows();
   connect(List1, &Tick_List::Ticked, this, &Solids_Panel::List1_Click);
   connect(F1Book1, &F1Book::Edited, this, [this] { Clean_Solids_Names(table()); });
 }
@@ -36,6 +38,10 @@ void Solids_Panel::Separate(bool separated) {
   Set_Notes();
 }
 
+std::string Solids_Panel::Doubts() const {
+  return Are_Solids_Untouched(state_, table()) ? "" : Solids_Doubts(state_.layout, table());
+}
+
 void Solids_Panel::List1_Click(int line, bool on) {
   if (!on) {
     Untick_Material(line, state_, table());
@@ -47,6 +53,9 @@ void Solids_Panel::List1_Click(int line, bool on) {
 void Solids_Panel::Set_Notes() {
   F1Book1->SetNumberNote(Real_Note);
   F1Book1->SetNumberNote(1, Material_Name_Note);
+  // On the hopper screen an empty cell counts as well.
+  F1Book1->SetCellLook(
+      [this](int row, int col) { return Look_Of_Letter(state_.layout, table(), row, col); });
   const auto letter = [layout = state_.layout](const std::string& typed) {
     return Letter_Note(layout, typed);
   };

@@ -18,6 +18,9 @@ class Solids_Panel : public QWidget {
   void Open(const std::string& section, Solids_Layout layout, const ProjectRecord& record);
   void Separate(bool separated);
 
+  /// What to say before OK stores the fractions; nothing of untouched ones.
+  std::string Doubts() const;
+
   Solids_State& state() { return state_; }
   const Solids_State& state() const { return state_; }
   Tick_List* List() const { return List1; }

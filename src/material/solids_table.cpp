@@ -41,6 +41,23 @@ void Fill_Solids_Row(const Material_Record& material, int row, Solids_Layout lay
   if (!material.stripped.empty()) put(Stripped, material.stripped);
 }
 
+/// A fraction without a name that has values all the same.
+bool Is_Nameless(const ProjectRecord& record, int solid) {
+  const auto i = static_cast<std::size_t>(solid);
+  return Trimmed(record.SolidNames[i]).empty() &&
+         (record.SolidSG[i] != 0 || record.SolidVolFraction[i] != 0 ||
+          record.SolidFallVelocity[i] != 0 || record.SolidVoidRatio[i] != 0 ||
+          record.SolidCriticalShear[i] != 0);
+}
+
+std::vector<Cell_Value> Project_Cells(const Spreadsheet_Table& table) {
+  std::vector<Cell_Value> cells;
+  for (int row = kFirstRow; row < kFirstRow + kMostSolidsRows; ++row) {
+    for (int col = 1; col <= table.MaxCol(); ++col) cells.push_back(table.ValueRC(row, col));
+  }
+  return cells;
+}
+
 /// The first row of the project for which the condition holds; 0 for none.
 template <class Condition>
 int Find_Row(int rows, Condition condition) {
@@ -93,9 +110,10 @@ std::vector<int> Open_Solids(const std::string& section, Solids_Layout layout,
     Solids_Row& row = state.Row(kRowBase + i);
     row.solid = i;
     const std::string& name = record.SolidNames[at];
-    if (i > record.NumSolids || name.empty()) continue;
-    row.saved_volume = record.SolidVolFraction[at];
+    if (i > record.NumSolids || (name.empty() && !Is_Nameless(record, i))) continue;
+    row.saved_volume = Cell_Of(record.SolidVolFraction[at]);
     Solids_Columns(layout).Fill_Row(record, i, kRowBase + i, table);
+    if (name.empty()) continue;
     const auto line = std::ranges::find_if(state.lines, [&](const std::string& text) {
       return !text.empty() && Same_Material(name, text);
     });
@@ -103,6 +121,7 @@ std::vector<int> Open_Solids(const std::string& section, Solids_Layout layout,
     ticked.push_back(static_cast<int>(std::distance(state.lines.begin(), line)));
     ++state.SelectedCount;
   }
+  state.opened = Project_Cells(table);
   table.ForgetEdits();
   return ticked;
 }
@@ -120,7 +139,7 @@ bool Tick_Material(int line, Solids_State& state, Spreadsheet_Table& table) {
   table.ForgetEdits();
   Fill_Solids_Row(material, row, state.layout, table);
   Format_Solids_Rows(table);
-  state.Row(row) = {0, Widen(material.volume_fraction)};
+  state.Row(row) = {0, Cell_Of(material.volume_fraction)};
   ++state.SelectedCount;
   return true;
 }
@@ -143,7 +162,7 @@ void Separate_Solids(bool separated, Solids_State& state, Spreadsheet_Table& tab
   table.MaxCol(Solids_Column_Count(separated ? kSeparatedLoad : kWholeLoad));
   if (separated) {
     for (int row = kFirstRow; row < kFirstRow + kMostSolidsRows; ++row) {
-      state.Row(row).saved_volume = table.NumberRC(row, kVolumeColumn);
+      state.Row(row).saved_volume = table.ValueRC(row, kVolumeColumn);
       state.Row(row).volume_was_shown = true;
     }
     table.DeleteShiftLeft(column);
@@ -153,8 +172,7 @@ void Separate_Solids(bool separated, Solids_State& state, Spreadsheet_Table& tab
     table.ColWidth(kVolumeColumn, kVolumeWidth);
     Format_Solids_Rows(table);
     for (int row = kFirstRow; row < kFirstRow + kMostSolidsRows; ++row) {
-      if (Name_In(table, row).empty()) continue;
-      table.NumberRC(row, kVolumeColumn, state.Row(row).saved_volume);
+      table.ValueRC(row, kVolumeColumn, state.Row(row).saved_volume);
     }
   }
   state.layout = separated ? kSeparatedLoad : kWholeLoad;
@@ -192,8 +210,20 @@ bool Check_Solids_Table(Spreadsheet_Table& table) {
   return true;
 }
 
+bool Are_Solids_Untouched(const Solids_State& state, const Spreadsheet_Table& table) {
+  for (int i = 1; i <= kMaxSolids; ++i) {
+    if (state.Row(kRowBase + i).solid != i) return false;
+  }
+  return Project_Cells(table) == state.opened;
+}
+
 void Store_Solids(const Solids_State& state, const Spreadsheet_Table& table,
                   ProjectRecord& record) {
+  bool nameless = false;
+  for (int i = 1; i <= std::min<int>(record.NumSolids, kMaxSolids); ++i) {
+    nameless = nameless || Is_Nameless(record, i);
+  }
+  if (nameless && Are_Solids_Untouched(state, table)) return;
   const int count = Filled_Solids(table);
   Arrange_Solids(state, count, record);
   record.NumSolids = static_cast<std::int16_t>(count);
@@ -216,6 +246,17 @@ void Clean_Solids_Names(Spreadsheet_Table& table) {
     const std::string clean = Material_Name(name);
     if (clean != name) table.TextRC(row, kNameColumn, clean);
   }
+}
+
+Cell_Look Look_Of_Letter(Solids_Layout layout, const Spreadsheet_Table& table, int row, int col) {
+  const bool is_letter = col == Column_Of(Solids_Field::Cohesive, layout) ||
+                         col == Column_Of(Solids_Field::Stripped, layout);
+  const bool of_project = row >= kFirstRow && row <= kSolidsRows;
+  if (layout != kHopperLoad || !is_letter || !of_project || Name_In(table, row).empty() ||
+      !table.TextRC(row, col).empty()) {
+    return {};
+  }
+  return {.warned = true, .tip = "empty " + Letter_Note(layout, "")};
 }
 
 std::string Letter_Note(Solids_Layout layout, const std::string& typed) {

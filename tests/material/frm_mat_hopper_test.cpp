@@ -296,6 +296,20 @@ TEST_F(HopperScreen, A_Doubtful_Cell_Is_Shown_Before_OK_Accepts_It) {
   EXPECT_EQ(record.SolidSG[1], 2);
 }
 
+TEST_F(HopperScreen, A_Moisture_Typed_Without_The_Coefficient_Is_Shown_Before_OK_Drops_It) {
+  Set_Solids(record, 1);
+  Open();
+  Enter("Text1", "2.5");
+  Modal_Replies replies({barvon::testing::Press(QMessageBox::Cancel)});
+  Accept();
+  EXPECT_TRUE(Is_Open());
+  EXPECT_TRUE(replies.seen.at(0).text.startsWith(
+      "Moisture content: \"2.5\" is stored as 0, because the coefficient is not used."));
+  Box("SSCheck1")->click();
+  Accept();
+  EXPECT_EQ(record.MoistureContent, 2.5);
+}
+
 TEST_F(HopperScreen, Cancel_Restores_What_Was_Typed) {
   Set_Solids(record, 2);
   Open();

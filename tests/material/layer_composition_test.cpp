@@ -146,6 +146,18 @@ TEST_F(LayerComposition, Without_Separation_Layer_1_Is_Offered_The_Loads_Moistur
   EXPECT_EQ(record_.LayerMoisture[1], 3) << "typed before the table was hidden";
 }
 
+TEST_F(LayerComposition, Text_In_A_Composition_That_Is_Not_Shown_Is_Doubtful_All_The_Same) {
+  Open();
+  EXPECT_EQ(Composition_Doubts(6, state_, moisture_, solids_), "");
+  state_.Row(10).layers[3] = "0,5";
+  moisture_.texts[2] = "1,5";
+  EXPECT_EQ(Composition_Doubts(6, state_, moisture_, solids_),
+            "Sand2, Layer 3: \"0,5\" reads as 0.\nMoisture Content, Layer 2: \"1,5\" reads as "
+            "1.\n");
+  EXPECT_EQ(Composition_Doubts(1, state_, moisture_, solids_), "")
+      << "layers that OK does not store";
+}
+
 TEST_F(LayerComposition, Fewer_Layers_Keep_What_The_Others_Held_For_The_Time_They_Are_Back) {
   record_.LAYERS = 2;
   record_.LayerSolidFraction[3][6] = record_.LayerMoisture[6] = 0;

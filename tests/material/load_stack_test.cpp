@@ -59,6 +59,14 @@ TEST_F(LoadStack, Layers_Are_As_High_As_Their_Volumes_While_Each_Has_One) {
   EXPECT_EQ(Stack(true).bars[1].weight, 300);
 }
 
+TEST_F(LoadStack, A_Thin_Layer_Is_High_Enough_To_Be_Read) {
+  volumes_.NumberRC(1, 1, 10);
+  volumes_.NumberRC(2, 1, 990);
+  const Bar_Chart chart = Stack(true);
+  EXPECT_DOUBLE_EQ(chart.bars.at(0).weight, 100);
+  EXPECT_DOUBLE_EQ(chart.bars.at(1).weight, 990);
+}
+
 TEST_F(LoadStack, Fractions_That_Make_Up_The_Whole_Are_No_Warning) {
   for (std::size_t i = 1; i <= 2; ++i) record_.LayerSolidFraction[i][1] = 0.5;
   record_.LayerSolidFraction[1][1] = 0.1 + 0.2 + 0.2;

@@ -246,6 +246,64 @@ TEST_F(SolidsTable, A_Separated_Project_Gets_Its_Volumes_Back_From_The_Record) {
   EXPECT_EQ(record_.SolidVolFraction[1], before_->SolidVolFraction[2]);
 }
 
+TEST_F(SolidsTable,
+       A_Fraction_With_Values_And_No_Name_Is_Shown_And_Stays_While_Nothing_Is_Touched) {
+  Set_Solids(record_, 3);
+  record_.SolidNames[2] = "";
+  Open(kWholeLoad);
+  EXPECT_EQ(table_.TextRC(10, 1), "");
+  EXPECT_EQ(table_.NumberRC(10, 2), record_.SolidSG[2]);
+  EXPECT_TRUE(Are_Solids_Untouched(state_, table_));
+  Store();
+  EXPECT_EQ(Changed(), Fields{});
+  table_.TextRC(9, 2, "2.5");
+  EXPECT_FALSE(Are_Solids_Untouched(state_, table_));
+  EXPECT_EQ(Solids_Doubts(kWholeLoad, table_),
+            "Fraction 2: is stored without a name.\n"
+            "Fraction 3, \"Sand3\": is lost, because a row above it has no name.\n");
+}
+
+TEST_F(SolidsTable, A_Text_That_Is_No_Number_Survives_Separation_And_Back) {
+  Set_Solids(record_, 1);
+  Open(kWholeLoad);
+  table_.TextRC(9, 3, "0,3");
+  Separate_Solids(true, state_, table_);
+  EXPECT_EQ(Volume_Doubts(state_, table_, record_),
+            "Fraction 1, Volumetric Fraction: \"0,3\" is not stored, because each layer has its "
+            "own.\n");
+  Separate_Solids(false, state_, table_);
+  EXPECT_EQ(table_.TextRC(9, 3), "0,3");
+}
+
+TEST_F(SolidsTable, A_Question_Names_As_Many_Doubts_As_A_Small_Display_Has_Room_For) {
+  Scripted_Messages messages({Answer::Ok, Answer::Ok});
+  std::string doubts;
+  for (int i = 1; i <= 15; ++i) doubts += "Line " + std::to_string(i) + "\n";
+  Accept_Doubts(doubts);
+  EXPECT_EQ(messages.shown.at(0).text, doubts + "\nOK Stores the Material All the Same.");
+  Accept_Doubts(doubts + "Line 16\nLine 17\n");
+  EXPECT_EQ(messages.shown.at(1).text,
+            doubts + "And 2 more.\n\nOK Stores the Material All the Same.");
+}
+
+TEST_F(SolidsTable, A_Name_Of_Figures_Is_Shown_As_It_Is) {
+  Set_Solids(record_, 1);
+  record_.SolidNames[1] = "100";
+  Open(kHopperLoad);
+  EXPECT_EQ(table_.ShownRC(9, 1), "100");
+}
+
+TEST_F(SolidsTable, On_The_Hopper_An_Empty_Letter_Stands_Out_Because_It_Counts_As_Y) {
+  Set_Solids(record_, 1);
+  Open(kHopperLoad);
+  table_.TextRC(9, 8, "");
+  EXPECT_EQ(Look_Of_Letter(kHopperLoad, table_, 9, 8).tip, "empty counts as Y");
+  EXPECT_TRUE(Look_Of_Letter(kHopperLoad, table_, 9, 8).warned);
+  EXPECT_FALSE(Look_Of_Letter(kHopperLoad, table_, 9, 7).warned);
+  EXPECT_FALSE(Look_Of_Letter(kHopperLoad, table_, 10, 8).warned) << "no fraction";
+  EXPECT_FALSE(Look_Of_Letter(kWholeLoad, table_, 9, 8).warned);
+}
+
 TEST_F(SolidsTable, Volumes_Typed_Before_Their_Column_Goes_Are_Told_Before_They_Are_Lost) {
   Set_Solids(record_, 2);
   Open(kWholeLoad);
@@ -283,6 +341,7 @@ TEST_F(SolidsTable, A_Gap_Loses_The_Last_Fraction_And_Is_Told_Before) {
   Open(kWholeLoad);
   table_.TextRC(10, 1, "");
   EXPECT_EQ(Solids_Doubts(kWholeLoad, table_),
+            "Fraction 2: is stored without a name.\n"
             "Fraction 3, \"Sand3\": is lost, because a row above it has no name.\n");
   Store();
   EXPECT_EQ(record_.NumSolids, 2);
@@ -320,7 +379,8 @@ TEST_F(SolidsTable, What_The_File_Holds_Behind_Its_Fractions_Stays_And_Is_Nobody
   Set_Solids(record_, 3);
   record_.NumSolids = 2;
   Open(kSeparatedLoad);
-  EXPECT_EQ(state_.Row(11).saved_volume, 0) << "a row typed there has no volume of another";
+  EXPECT_EQ(state_.Row(11).saved_volume, Cell_Value())
+      << "a row typed there has no volume of another";
   Store();
   EXPECT_EQ(record_.SolidNames[3], "Sand3");
 }
