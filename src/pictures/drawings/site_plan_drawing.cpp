@@ -40,9 +40,14 @@ std::vector<Place> Outline(const Feet_Area& area) {
   return Rectangle(On_Plan({area.top, area.left}), On_Plan({area.bottom, area.right}));
 }
 
+/// To a hundredth of the speed: it is a mean.
+std::string Speed_Text(double speed) {
+  const double grain = Round_Value_Below(speed / 100);
+  return Short_Text(grain > 0 ? std::round(speed / grain) * grain : speed) + " ft/s";
+}
+
 std::string Current_Text(const Mean_Current& current) {
-  return Short_Text(std::hypot(current.x, current.z)) + " ft/s " +
-         Heading_Text(current.x, current.z);
+  return Speed_Text(std::hypot(current.x, current.z)) + " " + Heading_Text(current.x, current.z);
 }
 
 /// Puts the plan together, thing by thing.
@@ -81,9 +86,10 @@ class Drawn_Site {
             std::max(area.bottom, point.x), std::max(area.right, point.z)};
   }
 
-  /// Draws an area as far as it is shown. Tells one that has no extent or leaves the grid.
+  /// Draws an area as far as it is shown, its name in a lower corner or beside that. Tells one that
+  /// has no extent or leaves the grid.
   void Add_Area(const Feet_Area& area, const std::string& name, const std::string& label,
-                const Polygon_Shape& look, Anchor anchor) {
+                const Polygon_Shape& look, Anchor anchor, bool beside = false) {
     if (!Has_Place({area.top, area.left}) || !Has_Place({area.bottom, area.right})) {
       return Note(name + " has no place.");
     }
@@ -102,7 +108,7 @@ class Drawn_Site {
     polygon.points = Outline(shown);
     const Colour ink = look.stroke->colour;
     plan_.shapes.push_back(std::move(polygon));
-    const double side = anchor == Anchor::start ? shown.left : shown.right;
+    const double side = (anchor == Anchor::start) != beside ? shown.left : shown.right;
     plan_.shapes.push_back(
         Text_Shape{On_Plan({shown.bottom, side}), " " + name + " ", 1, ink, anchor});
   }
@@ -127,7 +133,9 @@ class Drawn_Site {
     const Feet_Point at = *site_.disposal_point;
     const double down = site_.hole_x / 2, right = site_.hole_z / 2;
     Add_Area({at.x - down, at.z - right, at.x + down, at.z + right}, "Depression", "depression",
-             {{}, kGroundFill, Stroke{kGroundInk, 1.5}}, Anchor::start);
+             {{}, kGroundFill, Stroke{kGroundInk, 1.5}},
+             // Beside it: a hole is small.
+             at.z > grid_.right / 2 ? Anchor::end : Anchor::start, true);
   }
 
   /// Where the vessel heads to, as a direction of length 1: along its first leg that moves, else
@@ -221,9 +229,8 @@ class Drawn_Site {
         {{at.x - down, at.z - right}, {at.x + down, at.z + right}, {kWaterInk, 2}});
     const bool at_left = at.z < grid_.right / 2;
     const double beside = at_left ? at.z + half : at.z - half;
-    plan_.marks.push_back(Text_Shape{On_Plan({at.x, beside}),
-                                     " Current " + Short_Text(speed) + " ft/s ", 1, kWaterInk,
-                                     at_left ? Anchor::start : Anchor::end});
+    plan_.marks.push_back(Text_Shape{On_Plan({at.x, beside}), " Current " + Speed_Text(speed) + " ",
+                                     1, kWaterInk, at_left ? Anchor::start : Anchor::end});
   }
 
   const Site_Plan& site_;
