@@ -14,7 +14,9 @@ namespace {
 constexpr double kMargin = 0.5;        // of the larger side, around the grid
 constexpr double kCurrentPart = 0.16;  // of the smaller side: the current's arrow is not to scale
 constexpr double kCurrentInset = 0.04;
-constexpr double kPointRadius = 4;  // pixels
+constexpr double kNarrow = 0.5;      // across by down: less leaves no room for words
+constexpr double kNameRise = 0.015;  // of the larger side, above the edge
+constexpr double kPointRadius = 4;   // pixels
 constexpr Colour kVesselInk{64, 64, 64}, kVesselFill{206, 210, 216};
 constexpr Colour kBoundaryInk{0, 112, 74}, kZidInk{134, 38, 140};
 
@@ -109,8 +111,9 @@ class Drawn_Site {
     const Colour ink = look.stroke->colour;
     plan_.shapes.push_back(std::move(polygon));
     const double side = (anchor == Anchor::start) != beside ? shown.left : shown.right;
+    const double rise = kNameRise * std::max(grid_.bottom, grid_.right);
     plan_.shapes.push_back(
-        Text_Shape{On_Plan({shown.bottom, side}), " " + name + " ", 1, ink, anchor});
+        Text_Shape{On_Plan({shown.bottom - rise, side}), " " + name + " ", 1, ink, anchor});
   }
 
   void Add_Boundaries() {
@@ -228,9 +231,12 @@ class Drawn_Site {
     plan_.arrows.push_back(
         {{at.x - down, at.z - right}, {at.x + down, at.z + right}, {kWaterInk, 2}});
     const bool at_left = at.z < grid_.right / 2;
-    const double beside = at_left ? at.z + half : at.z - half;
+    const bool outside = grid_.right < kNarrow * grid_.bottom;
+    double beside = at_left ? at.z + half : at.z - half;
+    if (outside) beside = grid_.right;
     plan_.marks.push_back(Text_Shape{On_Plan({at.x, beside}), " Current " + Speed_Text(speed) + " ",
-                                     1, kWaterInk, at_left ? Anchor::start : Anchor::end});
+                                     1, kWaterInk,
+                                     at_left || outside ? Anchor::start : Anchor::end});
   }
 
   const Site_Plan& site_;
