@@ -8,6 +8,7 @@
 #include "material/frm_mat_hopper.h"
 #include "params/frm_coefficients.h"
 #include "params/frm_mdlkyn.h"
+#include "params/frm_operation.h"
 #include "params/frm_simulation.h"
 #include "platform/qt/input_screen.h"
 #include "site/frm_description.h"
@@ -35,6 +36,7 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmMatHopper>(Row_Of_Screen("frmMatHopper"), main);
   Register<frmMatBarge>(Row_Of_Screen("frmMatBarge"), main);
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
+  Register<frmOperation>(Row_Of_Screen("frmOperation"), main);
   Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
   Register<frmMdlkyn>(Row_Of_Screen("frmMdlkyn"), main);
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);

@@ -114,6 +114,8 @@ void Main::Fill_Board_Port(Board_Port& board) {
   board.paint_velocity_option = [this](int index, Status_Colour colour) {
     Paint_Velocity_Option(controls_, index, colour);
   };
+  board.depression_box = [this] { return controls_.SSCheck3->isChecked(); };
+  board.show_depression_box = [this](bool set) { controls_.SSCheck3->setChecked(set); };
   board.refresh_for_new_project = [this] {
     Clear_Edit_Marks(controls_);
     Show_New_Project(controls_, Project());

@@ -169,6 +169,23 @@ void Look_At_Coefficients(const Look& look) {
   }
 }
 
+void Look_At_Operation(const Look& look) {
+  ProjectRecord& record = Project();
+  record.MMAX0 = record.NMAX0 = 45;
+  record.DX0 = record.DZ0 = 100;
+  record.XBARGE = 9000;
+  record.NOPENS = 6;
+  for (const std::int16_t method : {0, 1, 2, 3}) {
+    record.DisposalMethod = method;
+    QWidget& screen = Opened("frmOperation");
+    look(screen, "method " + std::to_string(method));
+    if (method == 1 || method == 3) screen.findChild<QCheckBox*>("Check3D1")->click();
+    screen.findChild<QLineEdit*>("Text2")->clear();
+    look(screen, "method " + std::to_string(method) + ", over a depression, without openings");
+    Unload(screen);
+  }
+}
+
 /// An input screen with each of its tabs in front.
 void Look_At_Input_Screen(const char* name, const Look& look) {
   QWidget& screen = Opened(name);
@@ -285,6 +302,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Simulation(settled);
   Look_At_Coefficients(settled);
   Look_At_Evaluation(settled);
+  Look_At_Operation(settled);
   Look_At_Velocity(settled);
   Look_At_Material(settled);
   Look_At_Help(settled);

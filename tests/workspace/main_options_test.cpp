@@ -193,6 +193,16 @@ TEST(MainOptions, A_Velocity_Option_Can_Be_Painted_Without_Being_Chosen) {
   Port().board.paint_velocity_option(-1, Status_Colour::Blue);
 }
 
+TEST(MainOptions, The_Box_Of_The_Depression_Is_Shown_And_Read_By_Others) {
+  Main_Bench bench;
+  EXPECT_FALSE(Port().board.depression_box());
+  Port().board.show_depression_box(true);
+  EXPECT_TRUE(bench.controls().SSCheck3->isChecked());
+  EXPECT_TRUE(Port().board.depression_box());
+  Port().board.show_depression_box(false);
+  EXPECT_FALSE(bench.controls().SSCheck3->isChecked());
+}
+
 TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {
   Main_Bench bench;
   Click(bench.controls().SSOption1(1));

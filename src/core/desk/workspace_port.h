@@ -26,6 +26,10 @@ struct Board_Port {
   /// Paints the text of the velocity option of that index, 0 to 3, without choosing it.
   std::function<void(int index, Status_Colour colour)> paint_velocity_option = [](int,
                                                                                   Status_Colour) {};
+  /// The data board's box for dumping over a depression: whether it is set, and setting it. It only
+  /// shows.
+  std::function<bool()> depression_box = [] { return false; };
+  std::function<void(bool set)> show_depression_box = [](bool) {};
   /// New project: menus, marks and panels as for a fresh record.
   std::function<void()> refresh_for_new_project = [] {};
   /// A project has been opened: its menus become available, whatever its keys say.

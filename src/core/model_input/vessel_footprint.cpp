@@ -26,13 +26,17 @@ constexpr std::array<Bin_Pattern, 9> kBinPatterns = {{
 
 }  // namespace
 
-Footprint Vessel_Footprint(const ProjectRecord& record) {
-  const bool known = record.NBINS >= 1 && record.NBINS < static_cast<int>(kBinPatterns.size());
-  const Bin_Pattern& bins = kBinPatterns[known ? static_cast<std::size_t>(record.NBINS) : 1];
-  Footprint footprint{bins.lengths * record.BINL, bins.widths * record.BINW};
-  if (bins.gaps_along > 0) footprint.length += bins.gaps_along * record.DBINS;
-  if (bins.gaps_across > 0) footprint.width += bins.gaps_across * record.DBINS;
+Footprint Vessel_Footprint(int bins, const Bin_Size& bin) {
+  const bool known = bins >= 1 && bins < static_cast<int>(kBinPatterns.size());
+  const Bin_Pattern& pattern = kBinPatterns[known ? static_cast<std::size_t>(bins) : 1];
+  Footprint footprint{pattern.lengths * bin.length, pattern.widths * bin.width};
+  if (pattern.gaps_along > 0) footprint.length += pattern.gaps_along * bin.gap;
+  if (pattern.gaps_across > 0) footprint.width += pattern.gaps_across * bin.gap;
   return footprint;
+}
+
+Footprint Vessel_Footprint(const ProjectRecord& record) {
+  return Vessel_Footprint(record.NBINS, {record.BINL, record.BINW, record.DBINS});
 }
 
 }  // namespace barvon

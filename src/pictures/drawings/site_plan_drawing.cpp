@@ -14,7 +14,9 @@ namespace {
 constexpr double kMargin = 0.5;        // of the larger side, around the grid
 constexpr double kCurrentPart = 0.16;  // of the smaller side: the current's arrow is not to scale
 constexpr double kCurrentInset = 0.04;
-constexpr double kPointRadius = 4;  // pixels
+constexpr double kNarrow = 0.5;      // across by down: less leaves no room for words
+constexpr double kNameRise = 0.015;  // of the larger side, above the edge
+constexpr double kPointRadius = 4;   // pixels
 constexpr Colour kVesselInk{64, 64, 64}, kVesselFill{206, 210, 216};
 constexpr Colour kBoundaryInk{0, 112, 74}, kZidInk{134, 38, 140};
 
@@ -40,9 +42,14 @@ std::vector<Place> Outline(const Feet_Area& area) {
   return Rectangle(On_Plan({area.top, area.left}), On_Plan({area.bottom, area.right}));
 }
 
+/// To a hundredth of the speed: it is a mean.
+std::string Speed_Text(double speed) {
+  const double grain = Round_Value_Below(speed / 100);
+  return Short_Text(grain > 0 ? std::round(speed / grain) * grain : speed) + " ft/s";
+}
+
 std::string Current_Text(const Mean_Current& current) {
-  return Short_Text(std::hypot(current.x, current.z)) + " ft/s " +
-         Heading_Text(current.x, current.z);
+  return Speed_Text(std::hypot(current.x, current.z)) + " " + Heading_Text(current.x, current.z);
 }
 
 /// Puts the plan together, thing by thing.
@@ -81,9 +88,10 @@ class Drawn_Site {
             std::max(area.bottom, point.x), std::max(area.right, point.z)};
   }
 
-  /// Draws an area as far as it is shown. Tells one that has no extent or leaves the grid.
+  /// Draws an area as far as it is shown, its name in a lower corner or beside that. Tells one that
+  /// has no extent or leaves the grid.
   void Add_Area(const Feet_Area& area, const std::string& name, const std::string& label,
-                const Polygon_Shape& look, Anchor anchor) {
+                const Polygon_Shape& look, Anchor anchor, bool beside = false) {
     if (!Has_Place({area.top, area.left}) || !Has_Place({area.bottom, area.right})) {
       return Note(name + " has no place.");
     }
@@ -102,9 +110,10 @@ class Drawn_Site {
     polygon.points = Outline(shown);
     const Colour ink = look.stroke->colour;
     plan_.shapes.push_back(std::move(polygon));
-    const double side = anchor == Anchor::start ? shown.left : shown.right;
+    const double side = (anchor == Anchor::start) != beside ? shown.left : shown.right;
+    const double rise = kNameRise * std::max(grid_.bottom, grid_.right);
     plan_.shapes.push_back(
-        Text_Shape{On_Plan({shown.bottom, side}), " " + name + " ", 1, ink, anchor});
+        Text_Shape{On_Plan({shown.bottom - rise, side}), " " + name + " ", 1, ink, anchor});
   }
 
   void Add_Boundaries() {
@@ -127,7 +136,9 @@ class Drawn_Site {
     const Feet_Point at = *site_.disposal_point;
     const double down = site_.hole_x / 2, right = site_.hole_z / 2;
     Add_Area({at.x - down, at.z - right, at.x + down, at.z + right}, "Depression", "depression",
-             {{}, kGroundFill, Stroke{kGroundInk, 1.5}}, Anchor::start);
+             {{}, kGroundFill, Stroke{kGroundInk, 1.5}},
+             // Beside it: a hole is small.
+             at.z > grid_.right / 2 ? Anchor::end : Anchor::start, true);
   }
 
   /// Where the vessel heads to, as a direction of length 1: along its first leg that moves, else
@@ -220,10 +231,12 @@ class Drawn_Site {
     plan_.arrows.push_back(
         {{at.x - down, at.z - right}, {at.x + down, at.z + right}, {kWaterInk, 2}});
     const bool at_left = at.z < grid_.right / 2;
-    const double beside = at_left ? at.z + half : at.z - half;
-    plan_.marks.push_back(Text_Shape{On_Plan({at.x, beside}),
-                                     " Current " + Short_Text(speed) + " ft/s ", 1, kWaterInk,
-                                     at_left ? Anchor::start : Anchor::end});
+    const bool outside = grid_.right < kNarrow * grid_.bottom;
+    double beside = at_left ? at.z + half : at.z - half;
+    if (outside) beside = grid_.right;
+    plan_.marks.push_back(Text_Shape{On_Plan({at.x, beside}), " Current " + Speed_Text(speed) + " ",
+                                     1, kWaterInk,
+                                     at_left || outside ? Anchor::start : Anchor::end});
   }
 
   const Site_Plan& site_;

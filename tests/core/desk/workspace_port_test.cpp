@@ -13,6 +13,8 @@ void Call_Every_Entry() {
   port.board.set_status_line(0, "x", Status_Colour::Blue);
   port.board.mark_edit_item(1);
   port.board.paint_velocity_option(1, Status_Colour::Black);
+  EXPECT_FALSE(port.board.depression_box());
+  port.board.show_depression_box(true);
   port.board.refresh_for_new_project();
   port.board.open_menus();
   port.board.show_recent_menu();

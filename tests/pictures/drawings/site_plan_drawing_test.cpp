@@ -178,6 +178,21 @@ TEST(SitePlanDrawing, The_Mean_Current_Has_An_Arrow_Far_From_The_Vessel) {
   EXPECT_EQ(Draw_Site(site).note, "The mean current cannot be drawn.");
 }
 
+TEST(SitePlanDrawing, On_A_Narrow_Grid_The_Current_Is_Named_Beside_It) {
+  Site_Plan site = Site();
+  site.current = Mean_Current{0.3, 0.4};
+  const auto named_at = [&] {
+    for (const Shape& mark : Draw_Site(site).marks) {
+      const auto* text = std::get_if<Text_Shape>(&mark);
+      if (text != nullptr && text->anchor == Anchor::start) return text->place.x;
+    }
+    return 0.0;  // to the left of the arrow
+  };
+  EXPECT_EQ(named_at(), 0);
+  site.length_z = 900;
+  EXPECT_EQ(named_at(), 900);
+}
+
 TEST(SitePlanDrawing, Values_Without_A_Place_Do_No_Harm) {
   for (const double value : {kNan, 1e300, -1e300, 0.0, -1.0}) {
     Site_Plan site = Site();
