@@ -129,7 +129,7 @@ void frmDilute2::Add_Row_Commands(Dilution_Tab tab) {
       [this](const Cell_Range& rows) { Insert_Dilute_Rows(rows, grids_, record_); });
   add("Delete_Rows", QStringLiteral("&Delete Rows"), Qt::ALT | Qt::Key_Delete,
       [this](const Cell_Range& rows) { Delete_Dilute_Rows(rows, grids_, record_); });
-  add("Move_Rows_Up", QStringLiteral("Move Rows U&p"), Qt::ALT | Qt::Key_Up,
+  add("Move_Rows_Up", QStringLiteral("&Move Rows Up"), Qt::ALT | Qt::Key_Up,
       [this, select](const Cell_Range& rows) {
         if (Move_Dilute_Rows(rows, true, grids_, record_)) select(rows, -1);
       });
