@@ -109,7 +109,7 @@ bool Grids_Are_Empty(const Dilution_Grids& grids) {
 }
 
 void Forget_Rows(Dilution_Grids& grids) {
-  for (const Dilution_Tab tab : {kBulkTab, kElutriateTab}) {
+  for (const Dilution_Tab tab : kTabs) {
     grids.by_name[tab].clear();
     grids.put_aside[tab].clear();
     grids.computed[tab] = {};
@@ -168,7 +168,7 @@ void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record) {
     if (Grids_Are_Empty(grids)) Initalize_Dilute_Info(grids, record);
     return;
   }
-  for (const Dilution_Tab tab : {kBulkTab, kElutriateTab}) {
+  for (const Dilution_Tab tab : kTabs) {
     Spreadsheet_Table& table = grids(tab);
     const Table_Fill fill(table);
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
@@ -210,7 +210,7 @@ void Show_Read_List(Dilution_Grids& grids, ProjectRecord& record) {
 }
 
 void Show_Dilutions(const Dilution_Grids& grids, const ProjectRecord& record) {
-  for (const Dilution_Tab tab : {kBulkTab, kElutriateTab}) {
+  for (const Dilution_Tab tab : kTabs) {
     const Table_Fill fill(grids(tab));
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
       grids(tab).TextRC(row, kDilutionColumn,

@@ -15,6 +15,7 @@ namespace barvon {
 /// common to both; only the concentration and the result differ.
 enum Dilution_Tab { kBulkTab = 0, kElutriateTab = 1 };
 inline constexpr std::size_t kDilutionTabs = 2;
+inline constexpr Dilution_Tab kTabs[] = {kBulkTab, kElutriateTab};
 constexpr Dilution_Tab Other_Tab(Dilution_Tab tab) {
   return tab == kBulkTab ? kElutriateTab : kBulkTab;
 }

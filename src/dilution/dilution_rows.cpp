@@ -61,7 +61,7 @@ void Arrange_Record(ProjectRecord& record, const Row_Order& order) {
 }
 
 void Arrange_Rows(const Row_Order& order, Dilution_Grids& grids, ProjectRecord& record) {
-  for (const Dilution_Tab tab : {kBulkTab, kElutriateTab}) {
+  for (const Dilution_Tab tab : kTabs) {
     Arrange_Table(grids(tab), order);
     Arrange(grids.computed[tab], order);
     std::set<int> by_name;
