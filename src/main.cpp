@@ -2,6 +2,7 @@
 #include <QIcon>
 #include <clocale>
 
+#include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
@@ -21,6 +22,7 @@ int main(int, char** arguments) {
   barvon::Apply_Light_Palette(application);
   const barvon::Qt_Services services;
   barvon::Stop_Run_At_Exit();
+  barvon::Register_Dilution_File();
   const barvon::End_Signals end_signals(barvon::End_Program);
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_Program_Screens(&main);

@@ -3,6 +3,8 @@
 #include "checks/frm_error_list.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
+#include "dilution/dilution_report.h"
+#include "dilution/frm_dilute2.h"
 #include "material/frm_density.h"
 #include "material/frm_mat_barge.h"
 #include "material/frm_mat_hopper.h"
@@ -40,6 +42,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
   Register<frmMdlkyn>(Row_Of_Screen("frmMdlkyn"), main);
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
+  Register<frmDilute2>(Row_Of_Screen("frmDilute2"), main);
+  Register_Dilute_Report();
 }
 
 }  // namespace barvon

@@ -51,7 +51,8 @@ void Show_Program_Options(Main_Controls& controls, const ProjectRecord& record) 
 void Display_Data(Main_Controls& controls, ProjectRecord& record) {
   Refresh_Record(record);
   Show_Title(controls, record);
-  Show_Type(controls, Type_Option(record.KEY4));
+  // In the dilution mode the choice of the project stands, for the day on which it is taken up.
+  if (record.FileKind != kDilutionKind) Show_Type(controls, Type_Option(record.KEY4));
   Show_Method(controls, Method_Option(record.DisposalMethod));
   Set_Data_Items(controls, record);
 }

@@ -9,6 +9,7 @@
 #include "core/desk/analysis_keys.h"
 #include "core/desk/coefficient_words.h"
 #include "core/desk/file_dialogs.h"
+#include "core/desk/file_kinds.h"
 #include "core/desk/open_file.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
@@ -21,6 +22,7 @@
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"
+#include "platform/text/counted.h"
 #include "workspace/quit_rules.h"
 
 namespace barvon {
@@ -47,7 +49,22 @@ void Show_Opened_Coefficients(ProjectRecord& record) {
   Port().board.set_status_line(*kCoefficientScreen.status_line, words.text, words.colour);
 }
 
+/// A list of dilutions supplies no data of the project and has nothing to be drawn by the graphics
+/// program.
+void Show_Opened_Dilutions(ProjectRecord& record) {
+  Update_Recent_Files(record.ProjectFileName);
+  Show_Project(record);
+  Port().board.show_note({Counted(static_cast<std::size_t>(record.DiluteRowCount), "parameter") +
+                              " read; the dilution button shows them",
+                          {}});
+  Port().board.show_main_board();
+}
+
 void Show_Opened(ProjectRecord& record) {
+  if (Last_Three_Letters(record.ProjectFileName) == kDilutionLetters) {
+    Show_Opened_Dilutions(record);
+    return;
+  }
   // What comes from a file counts as accepted data.
   record.WizardAccepted = kTrue;
   Update_Recent_Files(record.ProjectFileName);
@@ -110,7 +127,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
     case kFilePrintSetup:
       return Show_Printer_Setup();
     case kFileExit:
-      if (Ask_On_Exit()) End_Program();
+      if (Ask_On_Exit() && Port().dilution.leave()) End_Program();
       return;
     default:
       return;

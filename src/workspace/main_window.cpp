@@ -11,11 +11,13 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/qt/fields/option_paint.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/screen_window.h"
 #include "run/create_process.h"
@@ -26,6 +28,7 @@
 #include "workspace/main_menus.h"
 #include "workspace/main_toolbar.h"
 #include "workspace/open_screens.h"
+#include "workspace/option_logic.h"
 #include "workspace/project_drops.h"
 #include "workspace/quit_rules.h"
 
@@ -128,6 +131,10 @@ void Main::Fill_Board_Port(Board_Port& board) {
   };
   board.screen_is_open = Is_Open_Without_Blocking;
   board.close_input_screens = Close_Input_Screens;
+  board.chosen_key4 = [this] {
+    return KEY4_Value(Chosen_Option(controls_.SSOption1), Chosen_Option(controls_.SSOption2))
+        .value_or(kNoStudy);
+  };
   board.screens_changed = [this] { Show_Tools_Menu(controls_); };
   board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   board.show_main_board = [this] { Show_Main_Board(controls_); };
@@ -166,6 +173,10 @@ void Main::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (asking_to_close_) return;
   asking_to_close_ = true;
+  if (!Port().dilution.leave()) {
+    asking_to_close_ = false;
+    return;
+  }
   Close_Action action = Ask_On_Close(caption_, Project().DataSaved);
   if (action == Close_Action::Save_And_Close) {
     mnuFileItem_Click(kFileSave, Project());

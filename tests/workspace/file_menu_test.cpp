@@ -1,6 +1,7 @@
 #include "workspace/file_menu.h"
 
 #include "checks/check_data.h"
+#include "core/desk/file_kinds.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
@@ -48,6 +49,26 @@ void FileMenu::Make_Valid() {
   record_.XBARGE = record_.ZBARGE = 1500;
   record_.SimulationDuration = 3600;
   record_.LongTermTimeStep = 300;
+}
+
+TEST_F(FileMenu, A_Dilution_File_Sets_No_Status_Line_And_No_Graph_File) {
+  Scripted_Messages messages;
+  File_Kind kind;
+  kind.read = [](const std::string&, std::string_view, ProjectRecord& record) {
+    record.DiluteRowCount = 12;
+    return Failure::None;
+  };
+  Register_File_Kind("DUD", kind);
+  chosen_ = folder_ / "list.dud";
+  Write_Text(*chosen_, "12 of them");
+  record_.ScreenDataSupplied[10] = kTrue;
+  Click(kFileOpen);
+  EXPECT_EQ(notes_.back(), "12 parameters read; the dilution button shows them");
+  EXPECT_EQ(log_, (Lines{"caption BARVON - " + *chosen_, "display", "main board"}));
+  EXPECT_EQ(Settings().find("GraphFile"), std::string::npos);
+  EXPECT_EQ(Listed().at(0), *chosen_);
+  EXPECT_EQ(record_.ScreenDataSupplied[10], kTrue);
+  EXPECT_EQ(record_.ProjectFileName, *chosen_);
 }
 
 TEST_F(FileMenu, Separators_And_Other_Indices_Do_Nothing) {

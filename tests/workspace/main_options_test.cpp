@@ -230,6 +230,22 @@ TEST(MainOptions, The_Dilution_Button_Leaves_Only_Files_And_The_Title) {
   EXPECT_EQ(Project().KEY4, 3);
 }
 
+TEST(MainOptions, In_The_Dilution_Mode_The_Boards_Keep_The_Choice_Of_The_Project) {
+  Main_Bench bench;
+  EXPECT_EQ(Port().board.chosen_key4(), 0);
+  Click(bench.controls().SSOption1(1));
+  Click(bench.controls().SSOption2(1));
+  bench.controls().SSRibbon2(3)->click();
+  EXPECT_EQ(Port().board.chosen_key4(), 4);
+  Port().board.display_data();
+  EXPECT_TRUE(bench.controls().SSOption1(1)->isChecked());
+  EXPECT_EQ(Port().board.chosen_key4(), 4);
+  EXPECT_FALSE(bench.Action("mnuRun")->isEnabled());
+  Click(bench.controls().SSOption1(1));
+  EXPECT_EQ(Project().KEY4, 4);
+  EXPECT_TRUE(bench.Action("mnuRun")->isEnabled());
+}
+
 TEST(MainOptions, The_Database_Picture_Always_Answers_With_The_Unavailable_Box) {
   Main_Bench bench;
   Modal_Replies replies({Press(QMessageBox::Ok)});

@@ -4,6 +4,7 @@
 #include "core/keys.h"
 #include "core/text_tools.h"
 #include "platform/ask/file_dialog.h"
+#include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 
 namespace barvon {
@@ -13,13 +14,21 @@ bool Is_Dilution_Name(const std::string& name) {
   return Last_Three_Letters(name) == kDilutionLetters;
 }
 
+/// The name that a file of the kind has beside that of another one.
+std::string Name_Of_Kind(const std::string& name, int kind) {
+  if (name.empty() || Is_Dilution_Name(name) == (kind == kDilutionKind)) return name;
+  return With_Extension(name, kind == kDilutionKind ? kDilutionLetters : kProjectLetters);
+}
+
 }  // namespace
 
-std::optional<std::string> Ask_File_To_Open(double kind) {
+std::optional<std::string> Ask_File_To_Open(double kind, const std::string& name) {
   File_Request request;
   request.title = "Open";
   if (kind == kDilutionKind) {
     request.filters = {{"Dilution Files (*.DUD)", "*.DUD"}};
+    const std::string beside = Name_Of_Kind(name, kDilutionKind);
+    request.name = Find_Path(beside).value_or(name.empty() ? "" : Folder_Of(name));
   } else {
     request.filters = {{"BARVON Data Files (*.DUI)", "*.DUI"},
                        {"BARVON Output FIles (*.DUO)", "*.DUO"}};
@@ -35,9 +44,7 @@ std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind)
   } else {
     request.filters = {{"BARVON Data File (*.DUI)", "*.DUI"}};
   }
-  request.name = kind != kDilutionKind && Is_Dilution_Name(name)
-                     ? With_Extension(name, kProjectLetters)
-                     : name;
+  request.name = Name_Of_Kind(name, kind);
   request.complete = [kind](const std::string& chosen) {
     return With_Default_Extension(chosen, kind);
   };

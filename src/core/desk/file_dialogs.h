@@ -8,10 +8,11 @@
 namespace barvon {
 
 /// Shows the open dialog: dilution files for kDilutionKind, projects and outputs otherwise. Nothing
-/// on Cancel.
-std::optional<std::string> Ask_File_To_Open(double kind);
+/// on Cancel. Of dilution files the one beside `name` is offered when it is there.
+std::optional<std::string> Ask_File_To_Open(double kind, const std::string& name = "");
 
-/// Shows the save dialog with `name` offered; a project is never offered a dilution file's name.
+/// Shows the save dialog with `name` offered; neither is a project offered a dilution file's name
+/// nor the other way round.
 /// A name whose fourth character from its end is not a dot gets ".DUD" (kDilutionKind) or ".DUI"
 /// added. Nothing on Cancel.
 std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind);

@@ -19,13 +19,20 @@
 namespace barvon {
 namespace {
 
-/// Tells that data is missing and offers a new project in the place of the one that is open.
-void Offer_Fresh_Start(ProjectRecord& record) {
+/// Tells that data is missing and offers a new project in the place of the one that is open, of a
+/// dilution file an empty list: the project around it is sound.
+void Offer_Fresh_Start(const std::string& path, ProjectRecord& record) {
   Show_Message({"Error in Data File. Some of the Data is missing."});
   const Answer answer = Ask("Initialize data and continue?", Buttons::YesNoCancel, Icon::Warning);
   record.OldGridFile = 0;
   record.OldGridRetry = kFalse;
-  if (answer == Answer::Yes && Reset_Vars(record)) Show_Project(record);
+  if (answer != Answer::Yes) return;
+  if (Last_Three_Letters(path) == kDilutionLetters) {
+    Set_Dilution_Defaults(record);
+    Port().dilution.clear();
+  } else if (Reset_Vars(record)) {
+    Show_Project(record);
+  }
 }
 
 Load_Result Load(const std::string& path, std::string_view bytes, ProjectRecord& record) {
@@ -70,7 +77,7 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
   }
   const Load_Result result = Load(path, bytes, record);
   if (result.failure != Failure::None) {
-    if (!result.told) Offer_Fresh_Start(record);
+    if (!result.told) Offer_Fresh_Start(path, record);
     if (!result.remark.empty()) {
       Port().board.show_note({Name_Of(path) + " was not loaded. " + result.remark, {}});
     }

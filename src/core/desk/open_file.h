@@ -9,7 +9,8 @@ namespace barvon {
 /// Opens a file by its extension: a .DUI project, a .DUD dilution file; nothing is loaded from
 /// anything else. After a .DUI the bulk density rule runs. True when something was loaded.
 /// Otherwise the user has been told; the record is as it was before, or reset when the user
-/// agreed to start afresh, but for the two grid markers, which are 0.
+/// agreed to start afresh, after a .DUD only its dilution data, but for the two grid markers, which
+/// are 0.
 bool Open_File(const std::string& path, ProjectRecord& record);
 
 /// Open_File, and on success ProjectFileName, BaseFileName and the caption follow. They stay as

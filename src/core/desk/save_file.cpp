@@ -1,6 +1,7 @@
 #include "core/desk/save_file.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <system_error>
@@ -67,11 +68,18 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
   Failure model_failure = Failure::None;
   const bool written = Write_File(path, kProjectKind, [&] {
     Show_Project(record);
+    // The dilution mode is the program's, not the project's: the file gets what the boards show.
+    const std::int16_t key4 = record.KEY4;
+    if (key4 == kDilutionStudy && record.FileKind == kDilutionKind) {
+      record.KEY4 = Port().board.chosen_key4();
+    }
     // The model input comes first: what it derives belongs into the file, so that the next save of
     // an unchanged project gives the same one.
     model_failure = Make_Model_Input(record, model_input);
     Pack_Slots(record);
-    return Save_Project(path, record);
+    std::string bytes = Save_Project(path, record);
+    record.KEY4 = key4;
+    return bytes;
   });
   if (!written) return false;
   record.FileTypeTag = "DUE";
@@ -140,12 +148,14 @@ bool Write_By_Kind(const std::string& path, int kind, ProjectRecord& record) {
 
 bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   if (!Write_By_Kind(path, kind, record)) return false;
-  // Outputs are named from what was saved last, a text of the viewer included.
-  record.BaseFileName = Base_Name(path);
-  if (kind != kTextKind) {
-    record.DataSaved = kTrue;
-    Port().board.set_caption("BARVON - " + path);
+  // A list of dilutions says nothing of the project: it is as unsaved as before, and no output is
+  // named from the list.
+  if (kind != kDilutionKind) {
+    // Outputs are named from what was saved last, a text of the viewer included.
+    record.BaseFileName = Base_Name(path);
+    if (kind != kTextKind) record.DataSaved = kTrue;
   }
+  if (kind != kTextKind) Port().board.set_caption("BARVON - " + path);
   Update_Recent_Files(path);
   return true;
 }

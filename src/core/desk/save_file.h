@@ -11,10 +11,11 @@ inline constexpr int kExportKind = 3;
 inline constexpr int kTextKind = 4;
 
 /// Saves by kind: a dilution file, a project and its model input export, the export alone, the text
-/// of the active viewer window. True when the file of that kind is on disk; then
-/// BaseFileName, DataSaved, the caption and the recent files follow. Otherwise the user has been
-/// told, but for an export of sections that are marked as empty, which is passed over in silence.
-/// The old file is whole after any failure, and BaseFileName is as it was.
+/// of the active viewer window. True when the file of that kind is on disk; then BaseFileName and
+/// DataSaved follow, which a dilution file leaves alone, the caption and the recent files.
+/// Otherwise the user has been told, but for an export of sections that are marked as empty, which
+/// is passed over in silence. The old file is whole after any failure, and BaseFileName is as it
+/// was.
 ///
 /// A project counts as saved when its export could not be written; a note says so.
 bool Save_File(const std::string& path, int kind, ProjectRecord& record);

@@ -12,8 +12,9 @@
 
 namespace barvon {
 
-/// Input screens work on the project: while one is open without blocking, none comes up blocking.
-enum class Screen_Kind { Input, Other };
+/// Input screens work on the project: while one is open without blocking, none comes up blocking. A
+/// command is opened as a screen is and has no window.
+enum class Screen_Kind { Input, Other, Command };
 
 /// What the Edit menu asks before it opens the screen: Check_Eval, or nothing.
 enum class Screen_Gate { Open, Evaluation };
@@ -71,7 +72,7 @@ consteval auto Make() {
       {"frmSimulation",   kSimulation,     Input,  0,   6,  {}, {}, Open, To_Control, Any, kTypeChoice | kSimulationChoice},
       {"frmMdlkyn",       kEvaluation,     Input,  0,   5,  kEditKeys, {}, Open, To_Screen, Any, kTypeChoice | kSimulationChoice | kEvaluationChoice},
       {"frmDilute2",      kDilution},
-      {"Write_Dilute_Report"},
+      {"Write_Dilute_Report", kContents, Command},
       {"DataBase",        kDataBase},
       {"Data_Wiz"},  // its help follows the steps
       {"Graphic_Data_Entry"},

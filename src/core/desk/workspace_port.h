@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -44,6 +45,8 @@ struct Board_Port {
   /// Cancel does. False, and none is closed, when a person does not want what was typed in them
   /// discarded.
   std::function<bool()> close_input_screens = [] { return true; };
+  /// KEY4 of the type and the method that the boards show; 0 while one of them is not chosen.
+  std::function<std::int16_t()> chosen_key4 = [] { return std::int16_t{0}; };
   /// A screen has been registered or taken out.
   std::function<void()> screens_changed = [] {};
   std::function<void(const Status_Note&)> show_note = [](const Status_Note&) {};
@@ -71,7 +74,13 @@ struct Run_Port {
 
 /// The dilution calculator.
 struct Dilution_Port {
+  /// Its data and the project around it are those of a new project.
   std::function<void()> close = [] {};
+  /// Its data alone are at their defaults.
+  std::function<void()> clear = [] {};
+  /// Before the program ends: closes the calculator and gives the project its name back. False when
+  /// a person wants to stay with what was typed.
+  std::function<bool()> leave = [] { return true; };
 };
 
 /// What the floors below may ask of the windows above them. The owner of a group fills it; every

@@ -44,8 +44,8 @@ class Input_Screen : public QDialog {
   void reject() override;
 
   /// Whether anything was typed or chosen that no OK has stored. A cell that is being typed in is
-  /// finished first.
-  bool Holds_Unsaved_Input();
+  /// finished first. A screen whose tables can hold what no command takes tells it by itself.
+  virtual bool Holds_Unsaved_Input();
   /// Gives the command that calls off, for everything since the screen opened.
   void Call_Off();
 

@@ -9,6 +9,7 @@ struct Cell_Look {
   bool bold = false;
   bool warned = false;   // in the colours of a warning
   std::string tip = {};  // what is said of it, to a pointer and to assistive tools
+  bool grey = false;     // what it shows does not hold at present
 
   bool operator==(const Cell_Look&) const = default;
 };

@@ -23,6 +23,9 @@ std::string Fixed_Refusal(const Spreadsheet_Table& table, const Cell_Range& rang
     return "The first " + std::to_string(table.FixedCols()) +
            " columns of the table can't be changed.";
   }
+  if (range.cols() == 1 && table.IsLockedCol(range.col1)) {
+    return "This column of the table can't be changed.";
+  }
   return "";
 }
 
@@ -36,7 +39,7 @@ Edit_Outcome Write(Spreadsheet_Table& table, const Cell_Range& range, Text_Of te
   for (int row = range.row1; row <= range.row2; ++row) {
     for (int col = range.col1; col <= range.col2; ++col) {
       const std::string& text = text_of(row - range.row1, col - range.col1);
-      if (text == table.EntryRC(row, col)) continue;
+      if (table.IsLockedCol(col) || text == table.EntryRC(row, col)) continue;
       table.TextRC(row, col, text);
       outcome.changed = range;
     }
@@ -77,7 +80,7 @@ Edit_Outcome Paste_Target(const Spreadsheet_Table& table, const Cell_Range& rang
 }  // namespace
 
 bool Can_Edit(const Spreadsheet_Table& table, int row, int col) {
-  return row > table.FixedRows() && col > table.FixedCols() &&
+  return row > table.FixedRows() && col > table.FixedCols() && !table.IsLockedCol(col) &&
          In_Table(table, {row, col, row, col}).has_value();
 }
 

@@ -15,7 +15,8 @@ struct Edit_Outcome {
   std::string refusal;                // words for the user; "" when it was done
 };
 
-/// Whether the user may write into the cell: it is in the table and in no fixed row.
+/// Whether the user may write into the cell: it is in the table, in no fixed row and in no locked
+/// column.
 bool Can_Edit(const Spreadsheet_Table& table, int row, int col);
 
 /// The cell takes the text as it was typed.

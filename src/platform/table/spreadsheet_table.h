@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -79,6 +80,10 @@ class Spreadsheet_Table {
   /// The same for the first columns.
   int FixedCols() const { return fixed_cols_; }
   void FixedCols(int cols);
+  /// A column that only code changes, wherever it is: what the user does to a range that holds it
+  /// leaves its cells alone. None at first.
+  bool IsLockedCol(int col) const { return locked_cols_.contains(col); }
+  void LockCol(int col) { locked_cols_.insert(col); }
 
   // Cells.
   /// A number in its cell's format; a text as it was written, whatever the format; "" when empty.
@@ -215,6 +220,7 @@ class Spreadsheet_Table {
 
   Cell_Numbers numbers_;
   int max_row_ = 1, max_col_ = 1, fixed_rows_ = 0, fixed_cols_ = 0;
+  std::set<int> locked_cols_;
   int row_ = 1, col_ = 1;
   Cell_Range selection_;
   std::vector<std::vector<Cell>> rows_;  // as far as something was written, from index 0

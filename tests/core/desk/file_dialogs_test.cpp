@@ -45,6 +45,23 @@ TEST_F(FileDialogs, The_Save_Dialog_Offers_The_Name_And_One_Filter_By_Kind) {
   Expect_Filter(save_asked_[1].filters[0], "Dilution File(*.DUD)", "*.DUD");
 }
 
+TEST_F(FileDialogs, A_Dilution_File_Is_Never_Offered_The_Name_Of_The_Project) {
+  File_SaveAs_Dialog("/data/site.DUI", kDilutionKind);
+  EXPECT_EQ(save_asked_.at(0).name, "/data/site.DUD");
+  File_SaveAs_Dialog("/data/site", kDilutionKind);
+  EXPECT_EQ(save_asked_.at(1).name, "/data/site.DUD");
+  File_SaveAs_Dialog("", kDilutionKind);
+  EXPECT_EQ(save_asked_.at(2).name, "");
+}
+
+TEST_F(FileDialogs, The_Dilution_File_Beside_The_Project_Is_Offered_When_It_Is_There) {
+  Ask_File_To_Open(kDilutionKind, folder_ / "site.DUI");
+  EXPECT_EQ(open_asked_.at(0).name, folder_.path());
+  Write_Text(folder_ / "site.dud", "");
+  Ask_File_To_Open(kDilutionKind, folder_ / "site.DUI");
+  EXPECT_EQ(open_asked_.at(1).name, folder_ / "site.dud");
+}
+
 TEST_F(FileDialogs, Cancel_Gives_Nothing) {
   EXPECT_EQ(File_SaveAs_Dialog("/data/a.DUI", kProjectKind), std::nullopt);
   chosen_ = "";

@@ -263,6 +263,21 @@ TEST_F(OpenFile, A_Faulty_Dilution_File_Offers_A_Fresh_Start) {
   Expect_Former_Project();
 }
 
+TEST_F(OpenFile, A_Fresh_Start_After_A_Dilution_File_Leaves_The_Project) {
+  Scripted_Messages messages({Answer::Ok, Answer::Yes});
+  Register_Dilution();
+  int cleared = 0;
+  Port().dilution.clear = [&cleared] { ++cleared; };
+  record_.DiluteParameterNames[1] = "Copper";
+  record_.DiluteSolidsConc = 50;
+  Write_Text(folder_ / "a.dud", "bad");
+  EXPECT_FALSE(Open_Project(folder_ / "a.dud", record_));
+  EXPECT_EQ(record_.DiluteParameterNames[1], "");
+  EXPECT_EQ(record_.DiluteSolidsConc, 0);
+  EXPECT_EQ(cleared, 1);
+  Expect_Former_Project();
+}
+
 TEST_F(OpenFile, What_Was_Said_Of_The_Project_Before_Is_Taken_Back) {
   const std::string path = folder_ / "next.dui";
   Write_Text(path, Project_Bytes("Next"));

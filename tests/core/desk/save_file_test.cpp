@@ -9,6 +9,7 @@
 #include "core/desk/file_kinds.h"
 #include "core/desk/open_file.h"
 #include "core/desk/workspace_port.h"
+#include "core/project_file/project_reader.h"
 #include "support/project_text.h"
 #include "support/recorded_workspace.h"
 
@@ -147,14 +148,43 @@ TEST_F(SaveFile, An_Existing_File_Is_Replaced_Under_The_Case_Of_Its_Name) {
   EXPECT_EQ(Lines_Of(Read_Text(folder_ / "SITE.dui")).at(1), "   DUMP    1");
 }
 
+TEST_F(SaveFile, A_Project_That_Is_Saved_In_The_Dilution_Mode_Has_The_KEY4_Of_The_Boards) {
+  Scripted_Messages messages;
+  Make_Computable();
+  Port().board.chosen_key4 = [] { return std::int16_t{4}; };
+  record_.FileKind = 1;
+  record_.KEY4 = 7;
+  EXPECT_TRUE(Save_File(folder_ / "site.DUI", 2, record_));
+  EXPECT_EQ(record_.KEY4, 7);
+  EXPECT_EQ(record_.FileKind, 1);
+  ASSERT_EQ(Load_Project("site.DUI", Read_Text(folder_ / "site.DUI"), record_).failure,
+            Failure::None);
+  EXPECT_EQ(record_.KEY4, 4);
+}
+
+TEST_F(SaveFile, A_KEY4_Of_7_Outside_The_Dilution_Mode_Stays) {
+  Scripted_Messages messages;
+  Make_Computable();
+  record_.FileKind = 2;
+  record_.KEY4 = 7;
+  EXPECT_TRUE(Save_File(folder_ / "site.DUI", 2, record_));
+  record_.KEY4 = 0;
+  ASSERT_EQ(Load_Project("site.DUI", Read_Text(folder_ / "site.DUI"), record_).failure,
+            Failure::None);
+  EXPECT_EQ(record_.KEY4, 7);
+}
+
 TEST_F(SaveFile, A_Dilution_File_Is_Written_By_Who_Registered_For_It) {
   Scripted_Messages messages;
   File_Kind kind;
   kind.write = [](const ProjectRecord& record) { return "dilutions of " + record.ProjectTitle; };
   Register_File_Kind("DUD", kind);
+  record_.DataSaved = kFalse;
+  record_.BaseFileName = "/data/site";
   EXPECT_TRUE(Save_File(folder_ / "a.DUD", 1, record_));
   EXPECT_EQ(Read_Text(folder_ / "a.DUD"), "dilutions of Saved");
-  EXPECT_EQ(record_.DataSaved, kTrue);
+  EXPECT_EQ(record_.DataSaved, kFalse);
+  EXPECT_EQ(record_.BaseFileName, "/data/site");
   EXPECT_EQ(log_, Lines{"caption BARVON - " + (folder_ / "a.DUD")});
   EXPECT_EQ(Listed().at(0), folder_ / "a.DUD");
 }

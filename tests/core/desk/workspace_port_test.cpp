@@ -30,6 +30,9 @@ void Call_Every_Entry() {
   port.text.print();
   port.run.state(true, "x");
   port.dilution.close();
+  port.dilution.clear();
+  EXPECT_TRUE(port.dilution.leave());
+  EXPECT_EQ(port.board.chosen_key4(), 0);
 }
 
 TEST(WorkspacePort, Every_Entry_Is_Callable_And_Silent_Until_It_Is_Filled) {

@@ -73,6 +73,21 @@ TEST_F(SpreadsheetEdits, Fixed_Columns_Refuse_Every_Edit_And_Keep_Everything) {
   EXPECT_EQ(Type_Cell(table, 1, 1, "x").refusal, "The first column of the table can't be changed.");
 }
 
+TEST_F(SpreadsheetEdits, A_Locked_Column_Keeps_What_It_Holds_And_Its_Neighbours_Are_Edited) {
+  table.LockCol(2);
+  table.TextRC(1, 2, "result");
+  EXPECT_FALSE(Can_Edit(table, 1, 2));
+  EXPECT_TRUE(Can_Edit(table, 1, 3));
+  EXPECT_EQ(Paste_Cells(table, {1, 1, 1, 1}, {{"a", "b", "c"}}).refusal, "");
+  EXPECT_EQ(table.TextRC(1, 1) + table.TextRC(1, 2) + table.TextRC(1, 3), "aresultc");
+  EXPECT_EQ(Clear_Cells(table, {1, 1, 4, 3}).refusal, "");
+  EXPECT_EQ(table.TextRC(1, 1) + table.TextRC(1, 2) + table.TextRC(1, 3), "result");
+  const std::string words = "This column of the table can't be changed.";
+  EXPECT_EQ(Type_Cell(table, 1, 2, "x").refusal, words);
+  EXPECT_EQ(Paste_Cells(table, {1, 2, 1, 2}, {{"x"}}).refusal, words);
+  EXPECT_EQ(Clear_Cells(table, {1, 2, 4, 2}).refusal, words);
+}
+
 TEST_F(SpreadsheetEdits, Fixed_Rows_Refuse_Every_Edit_And_Keep_Everything) {
   table.FixedRows(2);
   table.TextRC(2, 1, "Gravel");

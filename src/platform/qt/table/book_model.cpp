@@ -14,11 +14,17 @@ namespace {
 
 // Told apart by lightness too, for those who see no red.
 constexpr QColor kWarnLetters{176, 42, 32}, kWarnGround{250, 228, 224};
+constexpr QColor kGreyLetters{112, 112, 112};
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 /// A heading for the ear: one line.
 QString Spoken(const std::string& heading) { return Q(heading).simplified(); }
+
+QVariant Letters_Of(const Cell_Look& look) {
+  if (look.warned) return kWarnLetters;
+  return look.grey ? QVariant(kGreyLetters) : QVariant();
+}
 
 /// A font that the desktop does not have is left to the table's own, at the size asked for. None
 /// is smaller than the table's own: who has set a large one needs it.
@@ -96,7 +102,7 @@ QVariant Book_Model::data(const QModelIndex& index, int role) const {
     case Qt::FontRole:
       return Cell_Font(table_.StyleRC(row, col), Look_Of(row, col).bold);
     case Qt::ForegroundRole:
-      return Look_Of(row, col).warned ? QVariant(kWarnLetters) : QVariant();
+      return Letters_Of(Look_Of(row, col));
     case Qt::BackgroundRole:
       if (Look_Of(row, col).warned) return kWarnGround;
       if (row > table_.FixedRows() && col > table_.FixedCols()) return {};

@@ -133,6 +133,10 @@ void F1Book::Tell_Edit() {
 
 void F1Book::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* menu = Make_Book_Menu(table_, this, [this](Book_Command command) { Run(command); });
+  if (!actions().isEmpty()) {
+    menu->addSeparator();
+    menu->addActions(actions());
+  }
   const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
   menu->popup(by_mouse ? event->globalPos()
                        : viewport()->mapToGlobal(visualRect(currentIndex()).center()));

@@ -35,7 +35,8 @@ enum class Book_Move;
 /// the first; Ctrl+Tab and Ctrl+Shift+Tab lead out from anywhere. Ctrl and an arrow go to the edge
 /// of the filled block, and with Shift select as far. Ctrl+X, C, V, A, Delete, Ctrl+Z,
 /// Ctrl+Y and Ctrl+Shift+Z are what they are everywhere, and are in the context menu. Cells go to
-/// and come from the clipboard as tab-separated text.
+/// and come from the clipboard as tab-separated text. Actions that a screen adds are in the menu
+/// too.
 class F1Book : public QTableView {
   Q_OBJECT
 

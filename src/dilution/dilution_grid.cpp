@@ -1,0 +1,264 @@
+#include "dilution/dilution_grid.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "core/format_pattern.h"
+#include "core/project_defaults.h"
+#include "platform/ask/message_box.h"
+
+namespace barvon {
+namespace {
+
+constexpr int kHeadingHeight = 1000;  // twips
+constexpr std::array<int, kLastColumn> kWidths = {2960, 4280, 3700, 3920, 4130, 1280, 1280};
+constexpr std::array<std::array<const char*, kDilutionColumn>, kDilutionTabs> kHeadings = {
+    {{"Parameter", "Concentration in\nBulk Sediment (ug/kg)", "Water Quality\nCriteria (ug/l)",
+      "Background\n Concentration (ug/l)", "Bulk Sediment\nDilution Req'd"},
+     {"Parameter", "Concentration in\nElutriate (ug/l)", "Water Quality\nCriteria (ug/l)",
+      "Background\n Concentration (ug/l)", "Elutriate\nDilution Req'd"}}};
+constexpr char kFilledPattern[] = "#.00";
+constexpr char kComputedPattern[] = "#######.00";
+
+std::size_t At(int row) { return static_cast<std::size_t>(row); }
+
+template <class Record>
+auto& Concentrations(Dilution_Tab tab, Record& record) {
+  return tab == kBulkTab ? record.DiluteBulk : record.DiluteElutriate;
+}
+
+const OneBased<double, kMaxDilutionRows>& Dilutions(Dilution_Tab tab, const ProjectRecord& record) {
+  return tab == kBulkTab ? record.DiluteBulkDilution : record.DiluteElutDilution;
+}
+
+/// The former rows by their names, each to be taken once.
+class Former_Rows {
+ public:
+  explicit Former_Rows(const OneBased<std::string, kMaxDilutionRows>& names) {
+    for (int row = 1; row <= kMaxDilutionRows; ++row) {
+      if (!names[At(row)].empty()) rows_.emplace(names[At(row)], row);
+    }
+  }
+  std::optional<int> Take(const std::string& name) {
+    const auto found = rows_.lower_bound(name);
+    if (found == rows_.end() || found->first != name) return std::nullopt;
+    const int row = found->second;
+    rows_.erase(found);
+    return row;
+  }
+  void Take_Row(const std::string& name, int row) {
+    const auto [first, last] = rows_.equal_range(name);
+    const auto found = std::find_if(first, last, [&](const auto& at) { return at.second == row; });
+    if (found != last) rows_.erase(found);
+  }
+  const std::multimap<std::string, int>& left() const { return rows_; }
+
+ private:
+  std::multimap<std::string, int> rows_;
+};
+
+/// The concentrations of the other tab go to the rows that their names have now.
+void Arrange_By_Name(Dilution_Tab tab, int count, Dilution_Grids& grids, ProjectRecord& record) {
+  const std::set<int> by_name = std::exchange(grids.by_name[tab], {});
+  if (by_name.empty()) return;
+  const Spreadsheet_Table& table = grids(tab);
+  auto& values = Concentrations(Other_Tab(tab), record);
+  auto& put_aside = grids.put_aside[Other_Tab(tab)];
+  const auto former = values;
+  Former_Rows former_rows(record.DiluteParameterNames);
+  const auto stays = [&](int row) {
+    return !by_name.contains(row) ||
+           table.TextRC(row, kNameColumn) == record.DiluteParameterNames[At(row)];
+  };
+  for (int row = 1; row <= count; ++row) {
+    if (stays(row)) former_rows.Take_Row(record.DiluteParameterNames[At(row)], row);
+  }
+  for (int row = 1; row <= count; ++row) {
+    if (stays(row)) continue;
+    const std::string name = table.TextRC(row, kNameColumn);
+    if (const std::optional<int> from = former_rows.Take(name)) {
+      values[At(row)] = former[At(*from)];
+    } else {
+      const auto aside = put_aside.find(name);
+      values[At(row)] = aside == put_aside.end() ? 0 : aside->second;
+    }
+  }
+  for (const auto& [name, row] : former_rows.left()) put_aside[name] = former[At(row)];
+  grids(Other_Tab(tab)).ForgetEdits();
+}
+
+void Show_Number(double value, int row, int col, Spreadsheet_Table& table) {
+  if (table.IsEmptyRC(row, col) || table.NumberRC(row, col) != value) {
+    table.NumberRC(row, col, value);
+  }
+}
+
+bool Is_Empty(const Spreadsheet_Table& table, const Cell_Range& range) {
+  for (int row = range.row1; row <= range.row2; ++row) {
+    for (int col = range.col1; col <= range.col2; ++col) {
+      if (!table.IsEmptyRC(row, col)) return false;
+    }
+  }
+  return true;
+}
+
+bool Grids_Are_Empty(const Dilution_Grids& grids) {
+  return std::ranges::all_of(
+      grids.tables, [](const Spreadsheet_Table* table) { return Is_Empty(*table, kDiluteCells); });
+}
+
+void Forget_Rows(Dilution_Grids& grids) {
+  for (const Dilution_Tab tab : kTabs) {
+    grids.by_name[tab].clear();
+    grids.put_aside[tab].clear();
+    grids.computed[tab] = {};
+    grids(tab).ForgetEdits();
+  }
+}
+
+}  // namespace
+
+void Define_Dilute_Grid(Dilution_Tab tab, Spreadsheet_Table& table) {
+  const Table_Fill fill(table);
+  table.MaxRow(kMaxDilutionRows);
+  table.MaxCol(kLastColumn);
+  table.LockCol(kDilutionColumn);
+  for (int col = 1; col <= kDilutionColumn; ++col) {
+    table.ColText(col, kHeadings[tab][At(col - 1)]);
+  }
+  for (int col = 1; col <= kLastColumn; ++col) table.ColWidth(col, kWidths[At(col - 1)]);
+  table.ColHeadingHeight(kHeadingHeight);
+}
+
+int Dilute_Rows(const Spreadsheet_Table& table) {
+  int rows = 0;
+  while (rows < kMaxDilutionRows && !table.IsEmptyRC(rows + 1, kNameColumn)) ++rows;
+  return rows;
+}
+
+bool Row_Is_Filled(const Spreadsheet_Table& table, int row) {
+  return !Is_Empty(table, {row, kNameColumn, row, kBackgroundColumn});
+}
+
+bool Holds_Rows_Below_List(const Spreadsheet_Table& table) {
+  for (int row = Dilute_Rows(table) + 1; row <= kMaxDilutionRows; ++row) {
+    if (Row_Is_Filled(table, row)) return true;
+  }
+  return false;
+}
+
+void Read_Dilute_Grid(Dilution_Tab tab, Dilution_Grids& grids, ProjectRecord& record) {
+  Spreadsheet_Table& table = grids(tab);
+  const int count = Dilute_Rows(table);
+  record.DiluteRowCount = static_cast<std::int16_t>(count);
+  if (count == 0) return;
+  Arrange_By_Name(tab, count, grids, record);
+  for (int row = 1; row <= count; ++row) {
+    record.DiluteParameterNames[At(row)] = table.TextRC(row, kNameColumn);
+    Concentrations(tab, record)[At(row)] = table.NumberRC(row, kConcentrationColumn);
+    record.DiluteCriteria[At(row)] = table.NumberRC(row, kCriteriaColumn);
+    record.DiluteBackground[At(row)] = table.NumberRC(row, kBackgroundColumn);
+  }
+  table.Selection("A1");
+}
+
+void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record) {
+  if (record.DiluteParameterNames[1].empty()) {
+    if (Grids_Are_Empty(grids)) Initalize_Dilute_Info(grids, record);
+    return;
+  }
+  for (const Dilution_Tab tab : kTabs) {
+    Spreadsheet_Table& table = grids(tab);
+    const Table_Fill fill(table);
+    for (int row = 1; row <= record.DiluteRowCount; ++row) {
+      table.TextRC(row, kNameColumn, record.DiluteParameterNames[At(row)]);
+      Show_Number(Concentrations(tab, record)[At(row)], row, kConcentrationColumn, table);
+      Show_Number(record.DiluteCriteria[At(row)], row, kCriteriaColumn, table);
+      Show_Number(record.DiluteBackground[At(row)], row, kBackgroundColumn, table);
+      table.TextRC(row, kDilutionColumn,
+                   Format_Number(Dilutions(tab, record)[At(row)], kFilledPattern));
+    }
+    table.Centred(kDiluteCells, true);
+  }
+}
+
+void Clear_Dilute_Grids(Dilution_Grids& grids) {
+  for (Spreadsheet_Table* table : grids.tables) {
+    const Table_Fill fill(*table);
+    table->ClearRange(kDiluteCells);
+  }
+  Forget_Rows(grids);
+}
+
+void Initalize_Dilute_Info(Dilution_Grids& grids, ProjectRecord& record) {
+  Set_Dilution_Defaults(record);
+  Clear_Dilute_Grids(grids);
+}
+
+void Show_Read_List(Dilution_Grids& grids, ProjectRecord& record) {
+  if (record.DiluteRowCount > 0) {
+    for (Spreadsheet_Table* table : grids.tables) {
+      const Table_Fill fill(*table);
+      // What reads as its value would else stand as it was typed for another list.
+      table->ClearRange({1, 1, record.DiluteRowCount, kDilutionColumn});
+      table->ClearRange({record.DiluteRowCount + 1, 1, kMaxDilutionRows, kLastColumn});
+    }
+    Forget_Rows(grids);
+  }
+  Fill_Dilute_Grids(grids, record);
+}
+
+void Show_Dilutions(const Dilution_Grids& grids, const ProjectRecord& record) {
+  for (const Dilution_Tab tab : kTabs) {
+    const Table_Fill fill(grids(tab));
+    for (int row = 1; row <= record.DiluteRowCount; ++row) {
+      grids(tab).TextRC(row, kDilutionColumn,
+                        Format_Number(Dilutions(tab, record)[At(row)], kComputedPattern));
+    }
+  }
+}
+
+void Leave_Dilute_Tab(Dilution_Tab left, Dilution_Grids& grids, ProjectRecord& record) {
+  Read_Dilute_Grid(left, grids, record);
+  if (record.DiluteRowCount > 0) {
+    Fill_Dilute_Grids(grids, record);
+  } else if (Grids_Are_Empty(grids)) {
+    Initalize_Dilute_Info(grids, record);
+  } else {
+    Show_Warning(kNameMissing);
+  }
+}
+
+void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  Spreadsheet_Table& other = grids(Other_Tab(tab));
+  // One cell is typed: the parameter is called something else now.
+  const bool other_names = range.col1 == kNameColumn && range.rows() * range.cols() > 1;
+  for (int row = range.row1; row <= std::min(range.row2, kMaxDilutionRows); ++row) {
+    const bool emptied = !Row_Is_Filled(table, row);
+    if (emptied || other_names) grids.by_name[tab].insert(row);
+    if (!emptied) continue;
+    table.ValueRC(row, kDilutionColumn, {});
+    other.ClearRange({row, kNameColumn, row, kDilutionColumn});
+    other.ForgetEdits();
+  }
+}
+
+bool Holds_Untaken_Values(Dilution_Tab tab, const Dilution_Grids& grids,
+                          const ProjectRecord& record) {
+  const Spreadsheet_Table& table = grids(tab);
+  const int count = Dilute_Rows(table);
+  if (count != record.DiluteRowCount || Holds_Rows_Below_List(table)) return true;
+  for (int row = 1; row <= count; ++row) {
+    if (table.TextRC(row, kNameColumn) != record.DiluteParameterNames[At(row)] ||
+        table.NumberRC(row, kConcentrationColumn) != Concentrations(tab, record)[At(row)] ||
+        table.NumberRC(row, kCriteriaColumn) != record.DiluteCriteria[At(row)] ||
+        table.NumberRC(row, kBackgroundColumn) != record.DiluteBackground[At(row)]) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace barvon

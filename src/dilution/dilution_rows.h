@@ -1,0 +1,20 @@
+#pragma once
+
+#include "dilution/dilution_grid.h"
+
+namespace barvon {
+
+// Whole rows, in both tables and in the record at once: what is known of a parameter stays
+// together. The tables' history of edits ends.
+
+/// Empty rows in front of the first row of the range, as many as it has. False, and the user is
+/// told, when filled rows would be pushed out of the table.
+bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids, ProjectRecord& record);
+
+void Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids, ProjectRecord& record);
+
+/// The rows of the range change places with the row above, or below. False at the table's edge.
+bool Move_Dilute_Rows(const Cell_Range& range, bool up, Dilution_Grids& grids,
+                      ProjectRecord& record);
+
+}  // namespace barvon

@@ -1,0 +1,192 @@
+#include <string>
+
+#include "core/desk/file_dialogs.h"
+#include "core/desk/file_kinds.h"
+#include "core/desk/open_file.h"
+#include "core/desk/save_file.h"
+#include "core/desk/workspace_port.h"
+#include "core/keys.h"
+#include "core/project_defaults.h"
+#include "dilution/dilution_file.h"
+#include "dilution/dilution_marks.h"
+#include "dilution/dilution_rules.h"
+#include "dilution/frm_dilute2.h"
+#include "platform/ask/message_box.h"
+#include "platform/text/counted.h"
+
+namespace barvon {
+namespace {
+
+enum Button { kCompute = 0, kClose = 1, kRead = 3, kSave, kClear };  // Command1
+constexpr char kReadPattern[] = "###.00";
+
+bool Is_Project_Name(const std::string& path) {
+  return Last_Three_Letters(path) == kProjectLetters;
+}
+
+}  // namespace
+
+void frmDilute2::Command1_Click(int index) {
+  switch (index) {
+    case kCompute:
+      return Compute();
+    case kClose:
+      return Close();
+    case kRead:
+      return Read_File();
+    case kSave:
+      return Save_File();
+    case kClear:
+      return Clear_All();
+    default:
+      return;
+  }
+}
+
+void frmDilute2::Compute() {
+  // Always the first tab: what is typed on the other one is taken when that is left.
+  Read_Dilute_Grid(kBulkTab, grids_, record_);
+  edited_[kBulkTab] = edited_[kBulkTab] && Holds_Rows_Below_List(grids_(kBulkTab));
+  Compute_List();
+}
+
+void frmDilute2::Compute_List() {
+  const bool computed = Compute_Dilutions(Solids(), record_);
+  Solids_Are_Taken();
+  if (computed) {
+    Keep_Computed(grids_, record_);
+    Show_Dilutions(grids_, record_);
+  }
+  Follow_Rows();
+}
+
+void frmDilute2::Clear_All() {
+  if (Ask("Clearing All Will Erase ALL Data.  Do You Wish to Continue?", Buttons::YesNo,
+          Icon::Warning) != Answer::Yes) {
+    return;
+  }
+  Set_Dilution_Defaults(record_);
+  Clear_Screen();
+}
+
+void frmDilute2::Clear_Screen() {
+  Clear_Dilute_Grids(grids_);
+  filled_solids_ = 0;
+  shown_solids_.clear();
+  Text1->clear();
+  grids_.solids = 0;
+  edited_ = {};
+  Follow_Rows();
+}
+
+void frmDilute2::Save_File() {
+  if (!Settle_Typed()) return;
+  const std::optional<std::string> path = File_SaveAs_Dialog(list_file_, kDilutionKind);
+  if (path && Is_Project_Name(*path)) {
+    Show_Warning(
+        "A Dilution File Can't Have the Extension of a Project, .DUI.  Nothing Was Saved.");
+    return;
+  }
+  project_is_changed_ = true;
+  record_.ProjectFileName = path.value_or("");
+  if (!path || !barvon::Save_File(*path, kDilutionKind, record_)) return;
+  list_file_ = *path;
+  const int cut = Names_To_Be_Cut(record_);
+  if (cut == 0) return;
+  const std::string note = Counted(static_cast<std::size_t>(cut), "name") +
+                           " of more than 20 letters: the first 20 are read back";
+  Port().board.show_note({note, {}});
+  Show_Hint(note);
+}
+
+void frmDilute2::Read_File() {
+  if (!Settle_Typed()) return;
+  const std::optional<std::string> path = Ask_File_To_Open(kDilutionKind, list_file_);
+  if (!path) return;
+  if (Is_Project_Name(*path)) {
+    Show_Warning("That Is a Project, Not a Dilution File.  Nothing Was Read.");
+    return;
+  }
+  if (!Open_File(*path, record_)) return;
+  project_is_changed_ = true;
+  Show_File(*path);
+  Compute_List();
+}
+
+void frmDilute2::Show_File(const std::string& path) {
+  list_file_ = record_.ProjectFileName = path;
+  Port().board.set_caption("BARVON - " + path);
+  Show_Solids(record_.DiluteSolidsConc, kReadPattern);
+  for (const Dilution_Tab tab : kTabs) grids_(tab).NumberFormat(kReadPattern);
+  Show_Read_List(grids_, record_);
+  edited_ = {};
+  setWindowTitle(QString::fromStdString("Dilute - " + path));
+  for (const Dilution_Tab tab : kTabs) {
+    grids_(tab).Centred(kDiluteCells, true);
+    grids_(tab).SetActiveCell(1, 1);
+  }
+}
+
+// Leaving
+
+void frmDilute2::Close() {
+  if (discarding_ || Settle_Typed()) Unload();
+}
+
+bool frmDilute2::Leave() {
+  for (F1Book* book : F1Book2) book->FinishEdit();
+  if (!Settle_Typed()) return false;
+  Unload();
+  return true;
+}
+
+void frmDilute2::Give_Project_Back() {
+  if (!project_is_changed_) return;
+  project_is_changed_ = false;
+  record_.ProjectFileName = project_.file;
+  record_.ProjectTitle = project_.title;
+  Port().board.set_caption(project_.caption);
+}
+
+bool frmDilute2::Holds_Unsaved_Input() {
+  for (F1Book* book : F1Book2) book->FinishEdit();
+  return Holds_Untaken();
+}
+
+bool frmDilute2::Holds_Untaken() const {
+  if (Text1->text() != shown_solids_ && Solids() != record_.DiluteSolidsConc) return true;
+  for (const Dilution_Tab tab : kTabs) {
+    if (edited_[tab] && Holds_Untaken_Values(tab, grids_, record_)) return true;
+  }
+  return false;
+}
+
+bool frmDilute2::Settle_Typed() {
+  if (!Holds_Untaken()) return true;
+  switch (Ask("Values typed since the last Compute are not taken. Take them?", Buttons::YesNoCancel,
+              Icon::Question)) {
+    case Answer::Yes:
+      return Take_Typed();
+    case Answer::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool frmDilute2::Take_Typed() {
+  record_.DiluteSolidsConc = Solids();
+  Solids_Are_Taken();
+  Read_Dilute_Grid(Front(), grids_, record_);
+  Fill_Dilute_Grids(grids_, record_);
+  bool taken = true;
+  for (const Dilution_Tab tab : kTabs) {
+    edited_[tab] = edited_[tab] && Holds_Rows_Below_List(grids_(tab));
+    taken = taken && !edited_[tab];
+  }
+  Follow_Rows();
+  if (!taken) Show_Warning(kNameMissing);
+  return taken;
+}
+
+}  // namespace barvon
