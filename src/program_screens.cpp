@@ -3,6 +3,8 @@
 #include "checks/frm_error_list.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
+#include "database/data_base.h"
+#include "database/frm_database_check.h"
 #include "material/frm_density.h"
 #include "material/frm_mat_barge.h"
 #include "material/frm_mat_hopper.h"
@@ -36,6 +38,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
   Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
+  Register_DataBase(main);
+  Register<frmDatabaseCheck>(Row_Of_Screen("frmDatabaseCheck"), main);
 }
 
 }  // namespace barvon

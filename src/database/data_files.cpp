@@ -8,25 +8,16 @@
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "core/velocity_types.h"
+#include "database/data_columns.h"
 #include "platform/files/paths.h"
 #include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {
 
+using namespace data_columns;
 using Whole = std::int16_t ProjectRecord::*;
 using Real = double ProjectRecord::*;
-
-constexpr Line_Columns kPoints{6, 6}, kSolids{41, 42};
-constexpr Line_Columns kGridZ{1, 3}, kGridX{4, 6}, kSpacingZ{1, 6}, kSpacingX{7, 12};
-constexpr Line_Columns kSlopeX{1, 4}, kSlopeZ{6, 9};
-constexpr Line_Columns kProfileDepth{1, 6}, kProfileDensity{7, 12};
-constexpr Line_Columns kMonth{1, 3}, kXDepth{1, 8}, kXSpeed{9, 16}, kZDepth{24, 30},
-    kZSpeed{32, 38};
-constexpr Line_Columns kVolume{1, 9}, kName{4, 11}, kGravity{19, 22}, kFraction{25, 30},
-    kFall{32, 37}, kVoid{39, 44}, kShear{46, 51}, kCohesive{53, 53}, kStripped{55, 55};
-constexpr Line_Columns kIsGiven{1, 1}, kMoisture{4, 10}, kDensity{4, 9};
-constexpr Line_Columns kField{1, 6}, kOpeningX{1, 6}, kOpeningZ{7, 14};
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 

@@ -24,8 +24,6 @@ inline constexpr char kVelocityFile[] = "veldb.dat";
 inline constexpr char kMaterialFile[] = "matdb.dat";
 inline constexpr char kVesselFile[] = "vesdb.dat";
 
-inline constexpr Line_Columns kCode{1, 4};
-
 /// Lines of a record behind its first line, which tells the count where there is one.
 int Site_Lines_Behind(int points);
 inline constexpr int kVelocityLinesBehind = 36;

@@ -10,7 +10,7 @@ namespace barvon::testing {
 /// A site with two points: 32 by 36, spacings 100 and 200, the depth as given.
 inline std::string Site_Record(const std::string& code, const std::string& depth) {
   return code + " 2\r\n 32 36\r\n   100   200\r\n" + depth +
-         "\r\n  .005\r\n0\r\n 0.5  0.25\r\n0\r\n     01.0010\r\n    501.0020\r\n" + depth + "\r\n";
+         "\r\n  .005\r\n0\r\n 0.5 0.25\r\n0\r\n     01.0010\r\n    501.0020\r\n" + depth + "\r\n";
 }
 
 /// Twelve months; the upper X velocity is the month with the code's first digit behind the point.

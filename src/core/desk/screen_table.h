@@ -73,6 +73,7 @@ consteval auto Make() {
       {"frmDilute2",      kDilution},
       {"Write_Dilute_Report"},
       {"DataBase",        kDataBase},
+      {"frmDatabaseCheck", kDataBase},
       {"Data_Wiz"},  // its help follows the steps
       {"Graphic_Data_Entry"},
       {"frmErrorList",    kErrorList},
