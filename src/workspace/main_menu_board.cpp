@@ -116,8 +116,8 @@ void Build_Main_Menu_Board(Main_Controls& controls) {
   board->addLayout(Title_Line(controls));
   auto* state = new QHBoxLayout;
   state->setSpacing(kGap);
-  state->addWidget(Data_Categories(controls), 3);
-  state->addWidget(Database_Information(controls), 2);
+  state->addWidget(Data_Categories(controls), 1);
+  state->addWidget(Database_Information(controls), 1);
   board->addLayout(state);
   board->addWidget(Analysis_Types(controls));
   board->addWidget(Disposal_Methods(controls));

@@ -33,7 +33,7 @@ TEST_F(BatchDatabase, Each_Fault_Is_A_Line_Of_File_Line_And_Text) {
   EXPECT_EQ(Printed_Lines(result.out),
             (Lines{"matdb.dat\t51\ta line is missing behind the last record, which the walk does "
                    "not find",
-                   "sites.dat\t23\t\"Heron Lock Forebay\", code 800: the material is not found in "
+                   "sites.dat\t23\t\"Heron Forebay\", code 800: the material is not found in "
                    "matdb.dat",
                    kRemark}));
   EXPECT_EQ(Names_In(Path("db")).size(), 7U) << "nothing is written";

@@ -1,6 +1,8 @@
 #include "database/database_check.h"
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
 
 #include <memory>
 
@@ -9,6 +11,7 @@
 #include "database/database_files.h"
 #include "database/save_site.h"
 #include "support/plain_support.h"
+#include "support/record_differences.h"
 
 namespace barvon::testing {
 namespace {
@@ -216,6 +219,54 @@ TEST_F(DatabaseCheck, A_Check_Changes_No_File) {
   Check_Database(folder.path());
   EXPECT_EQ(Names_In(folder.path()), before);
   EXPECT_EQ(Read_Text(folder / "dispdb.dat"), kNorth + kSouth);
+}
+
+/// A value of so many tenths, which any of the columns holds.
+double Tenths(int least, int most) { return *rc::gen::inRange(least, most) / 10.0; }
+
+TEST(DatabaseMending, Any_Site_That_Was_Added_Is_Found_After_Mending) {
+  rc::check([] {
+    const Scratch_Folder folder;
+    const auto record = std::make_unique<ProjectRecord>();
+    Set_Project_Defaults(*record);
+    record->NMAX0 = *rc::gen::inRange<std::int16_t>(0, 97);
+    record->MMAX0 = *rc::gen::inRange<std::int16_t>(0, 97);
+    record->DX0 = Tenths(0, 99999);
+    record->DZ0 = Tenths(0, 99999);
+    record->DEPC0 = Tenths(0, 9999);
+    record->RHDA0 = Tenths(0, 99);
+    record->SLOPEX0 = Tenths(-49, 50);
+    record->SLOPEZ0 = Tenths(-49, 50);
+    record->NROA0 = *rc::gen::inRange<std::int16_t>(0, kMaxDensityPoints + 1);
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(record->NROA0); ++i) {
+      record->DensityDepths[i] = Tenths(0, 9999);
+      record->Densities[i] = Tenths(10, 20);
+    }
+    record->DEPTHI = Tenths(0, 9999);
+    const int place = *rc::gen::inRange(0, kMostEntries);
+    std::string list;
+    for (int i = 0; i < place; ++i) list += "0\r\nname\r\n\r\n";
+    Write_Text(folder / "dspsites.dat", list);
+    RC_ASSERT(Save_Site(folder.path(), place, "East", *record).error == 0);
+    Mend_Database(folder.path(), Check_Database(folder.path()));
+    const auto found = std::make_unique<ProjectRecord>();
+    Set_Project_Defaults(*found);
+    found->SelectedSiteCode = Code_Of_Place(place);
+    RC_ASSERT(Find_Site(folder.path(), *found));
+    found->SelectedSiteCode = 0;
+    RC_ASSERT(Differing_Fields(*record, *found).empty());
+  });
+}
+
+TEST(DatabaseMending, No_Bytes_Make_A_Check_Fail) {
+  rc::check([](const std::string& bytes) {
+    const Scratch_Folder folder;
+    for (const char* file : {"dispdb.dat", "veldb.dat", "matdb.dat", "vesdb.dat"}) {
+      Write_Text(folder / file, " 100 1\r\n" + bytes + "\r\n 200  3 \r\n" + bytes);
+    }
+    Mend_Database(folder.path(), Check_Database(folder.path()));
+    Check_Database(folder.path());
+  });
 }
 
 }  // namespace

@@ -227,6 +227,7 @@ void Look_At_Database(Main_Bench& bench, const Look& look) {
   for (auto* list : screen.findChildren<QComboBox*>()) list->setCurrentIndex(list->count() - 1);
   screen.findChild<QPushButton*>("SSPanel1(0)")->click();
   look(screen, "with choices");
+  bench.controls().SSPanel3(4)->click();
   look(bench.main(), "with what was chosen");
   Unload(screen);
   Write_Text(bench.folder / "dispdb.dat", "no record\n");
