@@ -178,9 +178,8 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
   }
   Port().board.set_database_line(kSites, kLists[kSites].prefix + wanted);
   Port().board.show_note(
-      {"The site was added in a free layout. It is found again after \"Check Database Files...\" "
-       "under Tools has put it into the columns.",
-       {}});
+      {"The site was added in a free layout, in which it is not found again.",
+       "\"Check Database Files...\" under Tools puts it into the columns; then it is found."});
   return true;
 }
 

@@ -264,6 +264,10 @@ TEST(DatabaseMending, No_Bytes_Make_A_Check_Fail) {
     for (const char* file : {"dispdb.dat", "veldb.dat", "matdb.dat", "vesdb.dat"}) {
       Write_Text(folder / file, " 100 1\r\n" + bytes + "\r\n 200  3 \r\n" + bytes);
     }
+    Write_Text(folder / "dspsites.dat", bytes);
+    for (const char* list : {"sites.dat", "vessels.dat"}) {
+      Write_Text(folder / list, "1\r\na\r\n2\r\nb\r\n3\r\nc\r\n");
+    }
     Mend_Database(folder.path(), Check_Database(folder.path()));
     Check_Database(folder.path());
   });

@@ -91,6 +91,22 @@ TEST_F(DatabaseJourney, A_Project_Is_Filled_From_The_Database_Saved_And_Run) {
   EXPECT_EQ(Project().SiteDensity, 1.0167) << "as stored, not computed from a bulk density";
 }
 
+// What an open screen shows would be another project's after Accept.
+TEST_F(DatabaseJourney, Open_Screens_Close_Before_The_Database_Opens) {
+  QWidget& times = Opened("frmSimulation");
+  Type(times.findChild<QLineEdit*>(QStringLiteral("Text1(0)")), QStringLiteral("7200"));
+  {
+    Modal_Replies reply({Press(QMessageBox::No)});
+    Open_Screen(Row_Of_Screen("DataBase"), false);
+    EXPECT_EQ(reply.seen.at(0).text, "Discard what was typed in Time Step and Print Options?");
+  }
+  EXPECT_TRUE(times.isVisible());
+  EXPECT_EQ(bench.main().findChild<QWidget*>(QStringLiteral("DataBase")), nullptr);
+  Modal_Replies reply({Press(QMessageBox::Yes)});
+  Opened("DataBase");
+  EXPECT_EQ(Project().SimulationDuration, 0);
+}
+
 TEST_F(DatabaseJourney, Every_Site_Material_And_Vessel_Makes_A_Project_Without_Findings) {
   bench.controls().SSOption1(0)->click();
   bench.controls().SSOption2(0)->click();
