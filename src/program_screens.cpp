@@ -3,6 +3,8 @@
 #include "checks/frm_error_list.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
+#include "database/data_base.h"
+#include "database/frm_database_check.h"
 #include "dilution/dilution_report.h"
 #include "dilution/frm_dilute2.h"
 #include "material/frm_density.h"
@@ -44,6 +46,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
   Register<frmDilute2>(Row_Of_Screen("frmDilute2"), main);
   Register_Dilute_Report();
+  Register_DataBase(main);
+  Register<frmDatabaseCheck>(Row_Of_Screen("frmDatabaseCheck"), main);
 }
 
 }  // namespace barvon

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "batch/batch_database.h"
 #include "batch/batch_export.h"
 #include "batch/batch_findings.h"
 #include "batch/batch_output.h"
@@ -73,6 +74,8 @@ int Do_Batch_Command(const Batch_Options& options) {
       return Run_Projects(options);
     case Batch_Command::Show:
       return Show(options);
+    case Batch_Command::Check_Database:
+      return Check_Database_Files(options);
     case Batch_Command::New:
       break;
   }

@@ -51,11 +51,20 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
   fresh->add_option("FILE", options.files, "project file (.DUI)")->required()->expected(1);
   fresh->add_flag("--force", options.force, "replace a file that exists");
 
+  CLI::App* database = app.add_subcommand("database", "look after the files of the database");
+  database->require_subcommand(1);
+  CLI::App* check_database = database->add_subcommand(
+      "check", "tell where the files fall out of step: a line each, file TAB line TAB text");
+  check_database->add_option("DIR", options.folder, "folder with the seven files")->required();
+  check_database->add_flag("--mend", options.mend,
+                           "put records into their columns; copies are kept as .bak");
+
   check->callback([&] { options.command = Batch_Command::Check; });
   model->callback([&] { options.command = Batch_Command::Export; });
   run->callback([&] { options.command = Batch_Command::Run; });
   show->callback([&] { options.command = Batch_Command::Show; });
   fresh->callback([&] { options.command = Batch_Command::New; });
+  check_database->callback([&] { options.command = Batch_Command::Check_Database; });
 
   try {
     app.parse(argc, argv);

@@ -10,7 +10,7 @@ inline constexpr int kDone = 0;      // everything was done
 inline constexpr int kFindings = 1;  // projects have errors
 inline constexpr int kNotDone = 2;   // something could not be done
 
-enum class Batch_Command { Check, Export, Run, Show, New };
+enum class Batch_Command { Check, Export, Run, Show, New, Check_Database };
 
 /// The command line of barvon-run.
 struct Batch_Options {
@@ -22,6 +22,8 @@ struct Batch_Options {
   bool despite_errors = false;     // run
   bool json = false;               // show
   bool force = false;              // new
+  std::string folder;              // database check
+  bool mend = false;               // database check
 };
 
 /// Reads the command line. Nothing when there is nothing left to do: help or version have been

@@ -32,6 +32,7 @@ void Clear_Leftovers(const Batch_Options& options) {
     folders.insert(Working_Folder(file));
   }
   if (!options.output.empty()) folders.insert(Working_Folder(options.output));
+  if (!options.folder.empty()) folders.insert(Working_Folder(options.folder));
   Remove_Leftover_Saves({folders.begin(), folders.end()});
 }
 

@@ -151,6 +151,13 @@ void Set_Dilution_Defaults(ProjectRecord& record) {
   record.DiluteSolidsConc = 0;
 }
 
+void Forget_Database(ProjectRecord& record) {
+  record.SelectedSiteCode = record.SelectedMonth = 0;
+  record.SelectedMaterialCode = record.SelectedVesselCode = 0;
+  record.SiteFound = record.MaterialFound = record.VesselFound = kFalse;
+  record.ActiveDatabaseList = 0;
+}
+
 void Set_Project_Defaults(ProjectRecord& record) {
   record.ProjectFileName.clear();
   record.ProjectTitle.clear();
@@ -165,6 +172,7 @@ void Set_Project_Defaults(ProjectRecord& record) {
   Set_Operation_Defaults(record);
   Set_Coefficient_Defaults(record);
   Set_Dilution_Defaults(record);
+  Forget_Database(record);
   Compute_Site_Density_From_Bulk(record);
   record.DataSaved = kFalse;
   record.ScreenDataSupplied = {};

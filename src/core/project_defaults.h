@@ -20,6 +20,9 @@ void Set_Project_Defaults(ProjectRecord& record);
 /// SiteDensity as it was before it is held. Solids beyond the record's entries are not counted.
 void Compute_Site_Density_From_Bulk(ProjectRecord& record);
 
+/// Nothing has been chosen from the database for the project yet.
+void Forget_Database(ProjectRecord& record);
+
 /// Every value of the dilution tables to its default; the row count and the remarks stay.
 void Set_Dilution_Defaults(ProjectRecord& record);
 

@@ -203,6 +203,14 @@ struct ProjectRecord {
   double CSTRIP = 0;               // stripping factor
   std::int16_t PritchardFlag = 0;  // AKY0 by the Pritchard expression
 
+  // ---- Database: what was chosen last, not stored in the project file
+  double SelectedSiteCode = 0;      // a code is (place in its list, from 1) x 100; 0: none
+  double SelectedMonth = 0;         // 1 to 12; 0: none
+  double SelectedMaterialCode = 0;  // as SelectedSiteCode
+  double SelectedVesselCode = 0;
+  Flag SiteFound = kFalse, MaterialFound = kFalse, VesselFound = kFalse;
+  std::int16_t ActiveDatabaseList = 0;  // the list used last, 0 to 3
+
   // ---- Kept through the file, shown nowhere
   double SpareReal21 = 0, SpareReal61 = 0, SpareReal68 = 0;
 

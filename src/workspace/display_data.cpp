@@ -76,7 +76,20 @@ void Set_Data_Items(Main_Controls& controls, ProjectRecord& record) {
   controls.SSCheck3->setChecked(lines.SSCheck3);
 }
 
+void Show_Database_Line(Main_Controls& controls, int index, const std::string& text) {
+  if (index < controls.Label3.first() || index > controls.Label3.last()) return;
+  Show_Line(controls.Label3(index), text);
+}
+
+void Show_No_Database(Main_Controls& controls) {
+  static constexpr const char* kLines[] = {"Site: NONE", "Month: NONE", "Material Location: NONE",
+                                           "Disposal Vessel: NONE"};
+  controls.SSCheck1->setChecked(false);
+  for (int i = 0; i < 4; ++i) Show_Database_Line(controls, i, kLines[i]);
+}
+
 void Forget_Choices(Main_Controls& controls) {
+  Show_No_Database(controls);
   controls.key3.Forget();
   Show_Option(controls.SSOption4, -1);
 }

@@ -19,6 +19,11 @@ void Set_Data_Items(Main_Controls& controls, ProjectRecord& record);
 /// nothing.
 inline void View_Data_Summary() {}
 
+/// What was chosen from a list of the database, 0 to 3.
+void Show_Database_Line(Main_Controls& controls, int index, const std::string& text);
+/// Nothing has been chosen from the database.
+void Show_No_Database(Main_Controls& controls);
+
 /// Another project takes the place of the one shown: what was chosen for that one is forgotten.
 void Forget_Choices(Main_Controls& controls);
 

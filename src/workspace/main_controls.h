@@ -106,7 +106,7 @@ struct Main_Controls {
   ControlArray<QRadioButton> SSOption1, SSOption2;  // type of analysis, method of disposal
   ControlArray<Latching_Button> SSRibbon2;          // the dilution calculator
   QCheckBox* SSCheck1;
-  ControlArray<QLabel> Label3;
+  ControlArray<Elided_Label> Label3;  // what was chosen from the database
   ControlArray<Latching_Button>
       SSRibbon1;  // by Ribbon; one is here, the others are on the data board
 

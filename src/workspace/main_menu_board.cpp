@@ -54,8 +54,6 @@ QGroupBox* Data_Categories(Main_Controls& controls) {
 }
 
 QGroupBox* Database_Information(Main_Controls& controls) {
-  static constexpr const char* kLines[] = {"Site: NONE", "Month: NONE", "Material Location: NONE",
-                                           "Disposal Vessel: NONE"};
   auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D4", "DataBase Information");
   auto* lines = Lines(frame, kLineGap);
   auto* head = new QHBoxLayout;
@@ -63,7 +61,8 @@ QGroupBox* Database_Information(Main_Controls& controls) {
   Picture_Button(controls.SSRibbon1(kDataBaseRibbon), "database", "DataBase");
   head->addWidget(controls.SSRibbon1(kDataBaseRibbon));
   lines->addLayout(head);
-  for (int i = 0; i < 4; ++i) lines->addWidget(Text(controls.Label3(i), kLines[i]));
+  for (QLabel* line : controls.Label3) lines->addWidget(Text(line));
+  Show_No_Database(controls);
   lines->addStretch();
   return frame;
 }
@@ -117,8 +116,8 @@ void Build_Main_Menu_Board(Main_Controls& controls) {
   board->addLayout(Title_Line(controls));
   auto* state = new QHBoxLayout;
   state->setSpacing(kGap);
-  state->addWidget(Data_Categories(controls), 3);
-  state->addWidget(Database_Information(controls), 2);
+  state->addWidget(Data_Categories(controls), 1);
+  state->addWidget(Database_Information(controls), 1);
   board->addLayout(state);
   board->addWidget(Analysis_Types(controls));
   board->addWidget(Disposal_Methods(controls));

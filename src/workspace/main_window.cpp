@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "checks/check_data.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
 #include "core/desk/screen_register.h"
@@ -138,6 +139,11 @@ void Main::Fill_Board_Port(Board_Port& board) {
   board.screens_changed = [this] { Show_Tools_Menu(controls_); };
   board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   board.show_main_board = [this] { Show_Main_Board(controls_); };
+  board.set_database_used = [this] { controls_.SSCheck1->setChecked(true); };
+  board.set_database_line = [this](int index, const std::string& text) {
+    Show_Database_Line(controls_, index, text);
+  };
+  board.count_findings = [] { return static_cast<int>(Check_Data(Project()).entries.size()); };
   board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
 }
 

@@ -8,7 +8,8 @@ using CommandLine = BatchProgram;
 TEST_F(CommandLine, Help_Names_Every_Command_And_The_Exit_Codes) {
   const Program_Result result = Batch({"--help"});
   EXPECT_EQ(result.code, 0);
-  for (const char* word : {"check", "export", "run", "show", "new", "--version", "Exit codes"}) {
+  for (const char* word :
+       {"check", "export", "run", "show", "new", "database", "--version", "Exit codes"}) {
     EXPECT_NE(result.out.find(word), std::string::npos) << word;
   }
   EXPECT_EQ(result.err, "");

@@ -2,10 +2,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <filesystem>
 #include <functional>
 #include <set>
 
@@ -273,6 +275,24 @@ void Look_At_Site(const Look& look) {
   Unload(site);
 }
 
+void Look_At_Database(Main_Bench& bench, const Look& look) {
+  for (const auto& file : std::filesystem::directory_iterator(BARVON_SAMPLES "/database")) {
+    std::filesystem::copy_file(file.path(), bench.folder / file.path().filename().string());
+  }
+  QWidget& screen = Opened("DataBase");
+  look(screen, "as it opens");
+  for (auto* list : screen.findChildren<QComboBox*>()) list->setCurrentIndex(list->count() - 1);
+  screen.findChild<QPushButton*>("SSPanel1(0)")->click();
+  look(screen, "with choices");
+  bench.controls().SSPanel3(4)->click();
+  look(bench.main(), "with what was chosen");
+  Unload(screen);
+  Write_Text(bench.folder / "dispdb.dat", "no record\n");
+  QWidget& check = Opened("frmDatabaseCheck");
+  look(check, "with faults");
+  Unload(check);
+}
+
 void Look_At_Progress(const Look& look) {
   frmProgress_Bar progress(nullptr);
   progress.Open("Reading Velocity Data...");
@@ -327,6 +347,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Site(settled);
+  Look_At_Database(bench, settled);
   Look_At_Progress(settled);
   Look_At_File_Dialogs(settled);
 }

@@ -53,7 +53,9 @@ const std::map<std::string, Room_Rule>& Table() {
          "checks/error_entries"},
         {"platform/qt"}}},
       {"batch",
-       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks", "run"}, {}}},
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks", "run",
+         "database/database_check", "database/database_finding"},
+        {}}},
       {"batch_main.cpp", {{"batch", "core", "platform", "checks", "run"}, {}}},
   };
   return table;

@@ -140,6 +140,7 @@ TEST_F(HopperScreen, Never_Ticked_The_Moisture_Stays_Unless_It_Is_Typed) {
   EXPECT_EQ(record.MoistureContent, 2.56789);
   Open();
   Enter("Text1", "3");
+  Modal_Replies replies({barvon::testing::Press(QMessageBox::Ok)});
   Accept();
   EXPECT_EQ(record.MoistureContent, 0);
 }

@@ -330,7 +330,7 @@ TEST(MainMenus, Tools_Show_As_Long_As_Their_Screens_Stand) {
                   [&](bool blocking, const std::string&) { opened += blocking ? 1 : 9; });
   EXPECT_TRUE(bench.Action("mnuTools")->isVisible());
   EXPECT_TRUE(bench.Action("mnuToolItem(0)")->isVisible());
-  for (int i = 1; i <= 5; ++i) {
+  for (int i = 1; i <= 8; ++i) {
     EXPECT_FALSE(bench.Action(qPrintable(QString("mnuToolItem(%1)").arg(i)))->isVisible()) << i;
   }
   bench.Action("mnuToolItem(0)")->trigger();

@@ -42,6 +42,7 @@ Load_Result Load(const std::string& path, std::string_view bytes, ProjectRecord&
   }
   Load_Result result = Load_Project(path, bytes, record);
   if (result.failure != Failure::None) return result;
+  Forget_Database(record);
   Compute_Site_Density_From_Bulk(record);
   // The file has no AnalysisType of its own, and that of the project before is none of its.
   if (Analysis_Type_Of_KEY4(record.KEY4) == kNoAnalysis) record.AnalysisType = kOpenWater;

@@ -50,6 +50,12 @@ struct Board_Port {
   /// A screen has been registered or taken out.
   std::function<void()> screens_changed = [] {};
   std::function<void(const Status_Note&)> show_note = [](const Status_Note&) {};
+  /// The database has been used for the project; the line of a list, 0 to 3, names what was chosen.
+  std::function<void()> set_database_used = [] {};
+  std::function<void(int index, const std::string& text)> set_database_line =
+      [](int, const std::string&) {};
+  /// How many findings a check of the project has now; the list of the last check stays.
+  std::function<int()> count_findings = [] { return 0; };
 };
 
 /// The text viewer and its documents.

@@ -19,7 +19,8 @@ struct Message {
   std::string title = kMessageTitle;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::None;
-  std::optional<Answer> on_close = {};  // what closing the box counts as, where not as below
+  std::optional<Answer> on_close = {};   // what closing the box counts as, where not as below
+  std::optional<Answer> on_return = {};  // what Return presses, where not the first button
 };
 
 /// What shows a message and brings the user's answer. Closing the box without a choice counts as

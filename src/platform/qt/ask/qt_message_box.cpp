@@ -70,7 +70,7 @@ Answer Show_Qt_Message(const Message& message) {
   box.setIcon(Box_Icon(message.icon));
   const std::vector<Answer> answers = Answers_Of(message.buttons);
   for (const Answer answer : answers) box.addButton(Box_Button(answer));
-  box.setDefaultButton(Box_Button(answers.front()));
+  box.setDefaultButton(Box_Button(message.on_return.value_or(answers.front())));
   box.setEscapeButton(Box_Button(Answer_On_Close(message)));
 
   // A question that comes up in the middle of a long action is not waiting any more.

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "database/line_walk.h"
+
+namespace barvon {
+
+/// The numbers that a line begins with, by the blanks between them, at most so many.
+std::vector<double> Leading_Numbers(const std::string& line, std::size_t most);
+
+/// Whether the columns read what a person reads who goes by the blanks. Where there are fewer
+/// numbers than columns, because some are blank or two stand close together, each of the columns
+/// must hold one whole number or nothing.
+bool Is_In_Columns(const std::string& line, std::span<const Line_Columns> columns);
+
+/// A number that goes on behind its columns, where no other columns begin.
+bool Runs_Out_Of_Columns(const std::string& line, std::span<const Line_Columns> columns);
+
+/// A line with its numbers moved into the columns, and whether one lost digits there.
+struct Columned_Line {
+  std::string line;
+  bool rounded = false;
+};
+
+/// Nothing when the line has too few numbers, or one that no rounding makes fit.
+std::optional<Columned_Line> Into_Columns(const std::string& line,
+                                          std::span<const Line_Columns> columns);
+
+}  // namespace barvon

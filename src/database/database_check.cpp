@@ -1,0 +1,196 @@
+#include "database/database_check.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+#include "core/project_defaults.h"
+#include "database/data_columns.h"
+#include "database/data_files.h"
+#include "database/record_scan.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/text_encoding.h"
+#include "platform/text/counted.h"
+
+namespace barvon {
+namespace {
+
+using Names = std::optional<std::vector<std::string>>;
+
+struct Lines_Of_File {
+  std::vector<std::string> lines;
+  const char* line_end = "\n";
+};
+
+std::optional<Lines_Of_File> Read_Lines(const std::string& path) {
+  Line_Walk walk(path);
+  if (!walk.Opened()) return std::nullopt;
+  Lines_Of_File file;
+  while (walk.Next_Or_Last()) file.lines.push_back(walk.Line());
+  std::string bytes;
+  if (Read_Whole_File(*Find_Path(path), bytes) == 0 && bytes.find('\r') != bytes.npos) {
+    file.line_end = "\r\n";
+  }
+  return file;
+}
+
+/// A check of one folder, file by file.
+class Database_Checker {
+ public:
+  explicit Database_Checker(const std::string& folder) : folder_(folder) {
+    Set_Project_Defaults(*record_);
+    const Names sites = Site_Names(folder), materials = Material_Names(folder),
+                vessels = Vessel_Names(folder);
+    Check_List(kSiteList, sites);
+    Check_Data(kSiteLayout, sites, 3, [this](double code) { return Finds_Site(code); });
+    Check_Data(kVelocityLayout, sites, 3, [this](double code) { return Finds_Months(code); });
+    Check_List(kMaterialList, materials);
+    Check_Data(kMaterialLayout, materials, 3, [this](double code) { return Finds_Material(code); });
+    Check_List(kVesselList, vessels);
+    Check_Data(kVesselLayout, vessels, 2, [this](double code) { return Finds_Vessel(code); });
+  }
+
+  Database_Report report;
+
+ private:
+  void Find(const char* file, std::size_t line, const std::string& text, bool remark = false) {
+    report.findings.push_back({file, static_cast<int>(line), text, remark});
+  }
+
+  void Check_List(const char* file, const Names& names) {
+    if (!names) {
+      Find(file, 0, "can't be read");
+    } else if (names->size() > kMostEntries) {
+      Find(file, 0, "has more than " + std::to_string(kMostEntries) + " entries");
+    }
+  }
+
+  template <class Finds>
+  void Check_Data(const Data_Layout& layout, const Names& names, std::size_t lines_of_entry,
+                  Finds finds) {
+    const auto file = Read_Lines(Join_Path(folder_, layout.file));
+    if (!file) {
+      Find(layout.file, 0, "can't be read");
+      return;
+    }
+    // Without its list a file may hold any code.
+    const std::size_t entries = names ? names->size() : kMostEntries;
+    Record_Scan scan(layout, file->lines, static_cast<int>(entries));
+    report.findings.insert(report.findings.end(), scan.findings.begin(), scan.findings.end());
+    if (&layout == &kVesselLayout) Compare_Openings(file->lines, scan);
+    if (scan.mended != file->lines) {
+      std::string bytes;
+      for (const std::string& line : scan.mended) bytes += To_File_Bytes(line) + file->line_end;
+      report.mends.push_back({layout.file, bytes});
+    }
+    for (std::size_t i = 0; names && i < names->size(); ++i) {
+      const std::string missing = finds(Code_Of_Place(static_cast<int>(i)));
+      if (missing.empty()) continue;
+      // A site that was added on the screen has no currents.
+      const bool never_there =
+          &layout == &kVelocityLayout && !scan.first_lines.contains(static_cast<int>(i));
+      Find(layout.list, i * lines_of_entry + 2,
+           "\"" + (*names)[i] + "\", code " +
+               std::to_string((i + 1) * static_cast<std::size_t>(kCodeStep)) + ": " + missing +
+               " in " + layout.file,
+           never_there);
+    }
+  }
+
+  /// The walk to a vessel passes those before it by the project's openings, not by their own.
+  void Compare_Openings(const std::vector<std::string>& lines, const Record_Scan& scan) {
+    std::vector<std::pair<std::size_t, double>> counts;
+    for (const auto& [place, first] : scan.first_lines) {
+      const std::size_t at = first + 8;
+      if (at < lines.size()) counts.emplace_back(at, Number_In(lines[at], data_columns::kField));
+    }
+    if (counts.empty()) return;
+    std::ranges::sort(counts);
+    const double first = counts.front().second;
+    record_->NOPENS = static_cast<std::int16_t>(std::clamp(first, 0.0, double{kMaxLayers}));
+    const std::string openings = Counted(static_cast<std::size_t>(record_->NOPENS), "opening");
+    bool same = true;
+    for (const auto& [at, count] : counts) {
+      if (count == first) continue;
+      same = false;
+      Find(kVesselFile, at + 1,
+           "the first vessel has " + openings +
+               ", this one another number: no project finds all vessels");
+    }
+    if (same && counts.size() > 1) {
+      Find(kVesselFile, counts.front().first + 1,
+           "a project finds the vessels behind the first one only while it has " + openings +
+               " itself",
+           true);
+    }
+  }
+
+  // What is missing of a code in words; nothing when the walk finds it.
+  std::string Finds_Site(double code) {
+    record_->SelectedSiteCode = code;
+    return Find_Site(folder_, *record_) ? "" : "the site is not found";
+  }
+  std::string Finds_Months(double code) {
+    record_->SelectedSiteCode = code;
+    std::size_t missing = 0;
+    for (int month = 1; month <= kMonths; ++month) {
+      record_->SelectedMonth = month;
+      if (!Find_Velocity(folder_, *record_)) ++missing;
+    }
+    if (missing == 0) return "";
+    return Counted(missing, "month") + (missing == 1 ? " is" : " are") + " not found";
+  }
+  std::string Finds_Material(double code) {
+    record_->SelectedMaterialCode = code;
+    return Find_Material(folder_, *record_) ? "" : "the material is not found";
+  }
+  std::string Finds_Vessel(double code) {
+    record_->SelectedVesselCode = code;
+    const std::int16_t openings = record_->NOPENS;
+    const bool found = Find_Vessel(folder_, *record_);
+    record_->NOPENS = openings;
+    return found ? "" : "the vessel is not found";
+  }
+
+  const std::string folder_;
+  std::unique_ptr<ProjectRecord> record_ = std::make_unique<ProjectRecord>();
+};
+
+}  // namespace
+
+int Database_Report::Faults() const {
+  return static_cast<int>(std::ranges::count(findings, false, &Database_Finding::remark));
+}
+
+Database_Report Check_Database(const std::string& folder) {
+  return Database_Checker(folder).report;
+}
+
+std::string Kept_Copy_Of(const std::string& file) {
+  std::string copy = file + ".bak";
+  for (int number = 2; Find_Path(copy); ++number) copy = file + ".bak" + std::to_string(number);
+  return copy;
+}
+
+Database_Mended Mend_Database(const std::string& folder, const Database_Report& report) {
+  Database_Mended mended;
+  for (const Database_Mend& mend : report.mends) {
+    const std::string path = Path_To_Write(Join_Path(folder, mend.file));
+    const std::string copy = Kept_Copy_Of(path);
+    std::string bytes;
+    int error = Read_Whole_File(path, bytes);
+    if (error == 0) error = Write_Whole_File(copy, bytes);
+    if (error == 0) error = Write_Whole_File(path, mend.bytes);
+    if (error != 0) {
+      mended.error = error;
+      mended.failed = mend.file;
+      return mended;
+    }
+    mended.files.push_back(mend.file);
+  }
+  return mended;
+}
+
+}  // namespace barvon

@@ -1,0 +1,204 @@
+#include "database/database_data.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "core/desk/accepted_screen.h"
+#include "core/desk/workspace_port.h"
+#include "core/keys.h"
+#include "core/text_tools.h"
+#include "database/data_files.h"
+#include "database/save_site.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/app_folder.h"
+#include "platform/text/counted.h"
+#include "platform/text/letter_case.h"
+
+namespace barvon {
+namespace {
+
+constexpr const Screen_Row& kScreen = Row_Of_Screen("DataBase");
+constexpr char kWarning[] = "Warning";
+
+/// The category's line among the states of the main window.
+void Show_Supplied(const Screen_Row& screen) {
+  Port().board.set_status_line(*screen.status_line, kDataSupplied, Status_Colour::Blue);
+}
+
+/// A list of the screen: what it is called where nothing is chosen, where its choice goes, and what
+/// the main window says of it.
+struct List_Row {
+  const char* name;
+  double ProjectRecord::*key;
+  double step;  // of the key from place to place
+  bool (*assign)(ProjectRecord&);
+  const char* prefix;
+};
+
+constexpr List_Row kLists[kDatabaseLists] = {
+    {" Site Data", &ProjectRecord::SelectedSiteCode, kCodeStep, Assign_Site, "Site: "},
+    {" Velocity Data", &ProjectRecord::SelectedMonth, 1, Assign_Velocity, "Month: "},
+    {" Material Data", &ProjectRecord::SelectedMaterialCode, kCodeStep, Assign_Material,
+     "Material Location: "},
+    {" Disposal Operations Data", &ProjectRecord::SelectedVesselCode, kCodeStep, Assign_Disposal,
+     "Disposal Vessel: "}};
+
+/// What there is to know about the vessel that was looked for.
+std::string Vessel_Words(int place, bool found, int openings, const ProjectRecord& record) {
+  std::string words;
+  if (place > 0) {
+    words += " The vessels before it were passed by " +
+             Counted(static_cast<std::size_t>(std::max(openings, 0)), "opening") + " each.";
+  }
+  if (found && record.DisposalMethod == kBarge) {
+    words += " The vessel is a hopper dredge's, and the project empties a barge.";
+  }
+  return words;
+}
+
+}  // namespace
+
+Database_Lists Load_Lists(ProjectRecord& record) {
+  const std::string& folder = Application_Folder();
+  Database_Lists lists = {Load_Site(folder, record), Load_Velocity(record),
+                          Load_Material(folder, record), Load_Disposal(folder, record)};
+  std::string missing;
+  for (const List_Contents& list : lists) {
+    if (!list.missing_file.empty()) missing += "\n" + list.missing_file;
+  }
+  if (!missing.empty()) {
+    Show_Warning("These files of the database can't be read in the program's folder:" + missing,
+                 "BARVON DataBase");
+  }
+  return lists;
+}
+
+bool Assign_Site(ProjectRecord& record) {
+  const bool found = Find_Site(Application_Folder(), record);
+  if (found) {
+    record.SiteFound = kTrue;
+    Show_Supplied(Row_Of_Screen("frmDescription"));
+  } else {
+    Show_Warning("Site Selected Is Not In Database", kWarning);
+  }
+  return found;
+}
+
+bool Assign_Velocity(ProjectRecord& record) {
+  const bool found = Find_Velocity(Application_Folder(), record);
+  if (found) Show_Supplied(Row_Of_Screen("frmVelocity"));
+  return found;
+}
+
+bool Assign_Material(ProjectRecord& record) {
+  const bool found = Find_Material(Application_Folder(), record);
+  if (found) {
+    record.MaterialFound = kTrue;
+    Show_Supplied(Row_Of_Screen("frmMatHopper"));
+  } else {
+    Show_Warning("Site for Material Selection Not In Database", kWarning);
+  }
+  return found;
+}
+
+bool Assign_Disposal(ProjectRecord& record) {
+  const bool found = Find_Vessel(Application_Folder(), record);
+  if (found) {
+    record.VesselFound = kTrue;
+    Show_Supplied(Row_Of_Screen("frmOperation"));
+  } else {
+    Show_Warning("Vessel Type Not In Database", kWarning);
+  }
+  return found;
+}
+
+void Accept_Selection(const Database_Choices& choices, ProjectRecord& record) {
+  const Board_Port& board = Port().board;
+  board.set_database_used();
+  std::string message = "No Selection Made For:\n";
+  std::string remarks;
+  bool AllChosen = true, applied = false;
+  for (std::size_t i = 0; i < kDatabaseLists; ++i) {
+    const List_Row& list = kLists[i];
+    if (choices[i].text.empty()) {
+      AllChosen = false;
+      message += std::string(list.name) + "\n";
+      continue;
+    }
+    const int openings = record.NOPENS;
+    record.*list.key = (choices[i].place + 1) * list.step;
+    const bool found = list.assign(record);
+    applied = applied || found;
+    board.set_database_line(static_cast<int>(i), list.prefix + choices[i].text);
+    if (i == kVelocities && !found) remarks += " The velocity stays as it was.";
+    if (i == kVessels) remarks += Vessel_Words(choices[i].place, found, openings, record);
+  }
+  if (!AllChosen) Show_Critical(message, "BARVON DataBase");
+  if (applied) {
+    record.DataSaved = kFalse;
+    Accept_Screen(kScreen, record);
+  }
+  const int findings = board.count_findings();
+  board.show_note({"The project has " +
+                       (findings == 0 ? "no findings"
+                                      : Counted(static_cast<std::size_t>(findings), "finding")) +
+                       "." + remarks,
+                   {}});
+}
+
+bool Update_Database(const std::string& name, ProjectRecord& record) {
+  const Answer answer = Show_Message(
+      {"Selecting OK Will Automatically Update DataBase With Data That Has Been Provided in the "
+       "Main Form.  Do you Want to Continue?",
+       kMessageTitle, Buttons::YesNo, Icon::Critical, Answer::No, Answer::No});
+  if (answer != Answer::Yes || record.ActiveDatabaseList != kSites) return false;
+  const std::string& folder = Application_Folder();
+  const std::string wanted = Trimmed(name);
+  const std::vector<std::string> names = Site_Names(folder).value_or(std::vector<std::string>());
+  const auto is_wanted = [&](const std::string& taken) {
+    return Equal_Ignoring_Case(Trimmed(taken), wanted);
+  };
+  if (wanted.empty()) {
+    Show_Warning("Please type the name of the new site into \"Site Data\" first.");
+    return false;
+  }
+  if (std::ranges::any_of(names, is_wanted)) {
+    Show_Warning("There is a site of this name in the database already. Please type another one.");
+    return false;
+  }
+  if (names.size() >= kMostEntries) {
+    Show_Warning("The database holds 99 sites, and there is no code for another one.");
+    return false;
+  }
+  const int place = static_cast<int>(names.size());
+  if (const Site_Saved saved = Save_Site(folder, place, wanted, record); saved.error != 0) {
+    Show_Critical("The site was not added: can't write the file " + saved.file + ". " +
+                  std::strerror(saved.error));
+    return false;
+  }
+  Port().board.set_database_line(kSites, kLists[kSites].prefix + wanted);
+  Port().board.show_note(
+      {"The site was added in a free layout, in which it is not found again.",
+       "\"Check Database Files...\" under Tools puts it into the columns; then it is found."});
+  return true;
+}
+
+bool Mend_Database_Files(const Database_Report& report) {
+  if (Show_Message({"Put these files into the columns of the walk? Copies of them are kept beside "
+                    "them, with .bak behind their names.",
+                    kMessageTitle, Buttons::YesNo, Icon::Question, Answer::No, Answer::No}) !=
+      Answer::Yes) {
+    return false;
+  }
+  const Database_Mended mended = Mend_Database(Application_Folder(), report);
+  if (mended.error != 0) {
+    Show_Critical("Can't mend the file " + mended.failed + ". " + std::strerror(mended.error));
+  }
+  if (mended.files.empty()) return false;
+  std::string files;
+  for (const std::string& file : mended.files) files += (files.empty() ? "" : ", ") + file;
+  Port().board.show_note({"Mended: " + files + ". The files as they were are kept as .bak.", {}});
+  return true;
+}
+
+}  // namespace barvon

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "database/database_finding.h"
+#include "database/record_layout.h"
+
+namespace barvon {
+
+/// Goes over the lines of a data file from record to record, as they are meant to be: a record in a
+/// free layout is passed by its own count, and after a break the next record is looked for.
+class Record_Scan {
+ public:
+  /// `entries`: how many codes the list has.
+  Record_Scan(const Data_Layout& layout, std::vector<std::string> lines, int entries);
+
+  std::vector<Database_Finding> findings;  // in the order of the lines
+  /// The lines as they should be; the same where nothing can be mended.
+  std::vector<std::string> mended;
+  /// The first line of each code's record, from 0.
+  std::map<int, std::size_t> first_lines;
+
+ private:
+  void Scan();
+  void Take_Record(int place);
+  void Take_Line(std::size_t at, std::span<const Line_Columns> columns);
+  void Look_For_A_Record();
+  bool Begins_Free(std::size_t at) const;
+  bool Only_Blank_From(std::size_t at) const;
+  int Place_At(std::size_t at) const;
+  void Find(std::size_t at, const std::string& text, bool remark = false);
+
+  const Data_Layout& layout_;
+  const std::vector<std::string> lines_;
+  const int entries_;
+  const bool is_site_;
+  std::size_t at_ = 0;
+};
+
+}  // namespace barvon

@@ -1,0 +1,107 @@
+#include "database/save_site.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <initializer_list>
+#include <optional>
+
+#include "core/number_text.h"
+#include "database/data_files.h"
+#include "database/index_files.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/text_encoding.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kLineEnd[] = "\r\n";
+
+std::string Printed_Line(std::initializer_list<double> numbers) {
+  std::string line;
+  for (const double number : numbers) {
+    const std::string text = Plain_Number(number);
+    line += (text.starts_with('-') ? "" : " ") + text + " ";
+  }
+  return line + kLineEnd;
+}
+
+/// A file before and after lines were appended to it.
+struct Appended {
+  std::string path;
+  std::optional<std::string> before;  // nothing: there was none
+  std::string after;
+};
+
+/// Reads what is to be appended to and ends its last line. 0 or an errno value.
+int Read_For_Appending(const std::string& path, Appended& file) {
+  file.path = Path_To_Write(path);
+  if (Find_Path(path)) {
+    std::string bytes;
+    if (const int error = Read_Whole_File(file.path, bytes); error != 0) return error;
+    file.before = bytes;
+  }
+  file.after = file.before.value_or("");
+  if (!file.after.empty() && file.after.back() != '\n' && file.after.back() != '\r') {
+    file.after += kLineEnd;
+  }
+  return 0;
+}
+
+/// A list that ends inside its last entry would take the next one's code for a part of it.
+std::string Up_To_A_Whole_Entry(const std::string& list) {
+  constexpr std::size_t kLinesOfEntry = 3;
+  const auto lines = static_cast<std::size_t>(std::ranges::count(list, '\n'));
+  return lines % kLinesOfEntry == kLinesOfEntry - 1 ? kLineEnd : "";
+}
+
+void Put_Back(const Appended& file) {
+  if (file.before) {
+    Write_Whole_File(file.path, *file.before);
+  } else {
+    std::remove(file.path.c_str());
+  }
+}
+
+}  // namespace
+
+std::string Site_List_Lines(double code, const std::string& name) {
+  return Printed_Line({code}) + To_File_Bytes(name) + kLineEnd + kLineEnd;
+}
+
+std::string Site_Data_Lines(double code, const ProjectRecord& record) {
+  const int points = std::clamp<int>(record.NROA0, 0, kMaxDensityPoints);
+  std::string lines =
+      Printed_Line({code, static_cast<double>(points)}) +
+      Printed_Line({static_cast<double>(record.NMAX0), static_cast<double>(record.MMAX0)}) +
+      Printed_Line({record.DZ0, record.DX0}) + Printed_Line({record.DEPC0}) +
+      Printed_Line({record.RHDA0}) + kLineEnd + Printed_Line({record.SLOPEX0, record.SLOPEZ0}) +
+      kLineEnd;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(points); ++i) {
+    lines += Printed_Line({record.DensityDepths[i], record.Densities[i]});
+  }
+  return lines + Printed_Line({record.DEPTHI});
+}
+
+Site_Saved Save_Site(const std::string& folder, int place, const std::string& name,
+                     const ProjectRecord& record) {
+  const double code = Code_Of_Place(place);
+  Appended list, data;
+  if (const int error = Read_For_Appending(Join_Path(folder, kSiteList), list)) {
+    return {error, kSiteList};
+  }
+  if (const int error = Read_For_Appending(Join_Path(folder, kSiteFile), data)) {
+    return {error, kSiteFile};
+  }
+  list.after += Up_To_A_Whole_Entry(list.after) + Site_List_Lines(code, name);
+  data.after += Site_Data_Lines(code, record);
+  if (const int error = Write_Whole_File(list.path, list.after)) return {error, kSiteList};
+  if (const int error = Write_Whole_File(data.path, data.after)) {
+    Put_Back(list);
+    return {error, kSiteFile};
+  }
+  return {};
+}
+
+}  // namespace barvon

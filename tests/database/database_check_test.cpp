@@ -1,0 +1,277 @@
+#include "database/database_check.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <memory>
+
+#include "core/project_defaults.h"
+#include "database/data_files.h"
+#include "database/database_files.h"
+#include "database/save_site.h"
+#include "support/plain_support.h"
+#include "support/record_differences.h"
+
+namespace barvon::testing {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// Two sites, materials and vessels, with nothing wrong.
+class DatabaseCheck : public ::testing::Test {
+ protected:
+  DatabaseCheck() {
+    Write("dspsites.dat", "100\r\nNorth\r\n\r\n200\r\nSouth\r\n\r\n");
+    Write("sites.dat", "100\r\nBar\r\n\r\n200\r\nSlip\r\n\r\n");
+    Write("vessels.dat", "100\r\nAuk\r\n200\r\nBittern\r\n");
+    Write("dispdb.dat", kNorth + kSouth + "\r\n");
+    Write("veldb.dat", Velocity_Block(" 100") + Velocity_Block(" 200") + "\r\n");
+    Write("matdb.dat", Material_Record(" 100", "Sand") + Material_Record(" 200", "Silt") + "\r\n");
+    Write("vesdb.dat", Vessel_Record(" 100", "10", 1) + Vessel_Record(" 200", "20", 1) + "\r\n");
+  }
+  void Write(const char* file, const std::string& text) { Write_Text(folder / file, text); }
+  /// The findings of a file as texts.
+  Lines Found(const std::string& file) {
+    Lines found;
+    for (const Database_Finding& finding : Check_Database(folder.path()).findings) {
+      if (finding.file == file) found.push_back(Finding_Text(finding));
+    }
+    return found;
+  }
+
+  const std::string kNorth = Site_Record(" 100", "    10");
+  const std::string kSouth = Site_Record(" 200", "    20");
+  Scratch_Folder folder;
+};
+
+TEST_F(DatabaseCheck, Sound_Files_Have_No_Faults) {
+  const Database_Report report = Check_Database(folder.path());
+  EXPECT_EQ(report.Faults(), 0);
+  EXPECT_TRUE(report.mends.empty());
+  ASSERT_EQ(report.findings.size(), 1U);
+  EXPECT_EQ(Finding_Text(report.findings[0]),
+            "vesdb.dat, line 9: remark: a project finds the vessels behind the first one only "
+            "while it has 1 opening itself");
+}
+
+TEST_F(DatabaseCheck, Missing_Files_Are_Named) {
+  const Scratch_Folder empty;
+  Lines names;
+  for (const Database_Finding& finding : Check_Database(empty.path()).findings) {
+    EXPECT_EQ(finding.text, "can't be read");
+    names.push_back(finding.file);
+  }
+  EXPECT_EQ(names, (Lines{"dspsites.dat", "dispdb.dat", "veldb.dat", "sites.dat", "matdb.dat",
+                          "vessels.dat", "vesdb.dat"}));
+}
+
+TEST_F(DatabaseCheck, A_Line_That_Is_Missing_Behind_The_Last_Record) {
+  Write("dispdb.dat", kNorth + kSouth);
+  EXPECT_EQ(Found("dispdb.dat"),
+            Lines{"dispdb.dat, line 22: a line is missing behind the last record, which the walk "
+                  "does not find"});
+  EXPECT_EQ(Found("dspsites.dat"),
+            Lines{"dspsites.dat, line 5: \"South\", code 200: the site is not found in "
+                  "dispdb.dat"});
+  Mend_Database(folder.path(), Check_Database(folder.path()));
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat"), kNorth + kSouth + "\r\n");
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat.bak"), kNorth + kSouth);
+}
+
+TEST_F(DatabaseCheck, A_Block_Of_Months_That_Is_Two_Lines_Short) {
+  std::string shorter = Velocity_Block(" 100");
+  for (int i = 0; i < 2; ++i) shorter.erase(shorter.rfind("\r\n", shorter.size() - 3) + 2);
+  Write("veldb.dat", shorter + Velocity_Block(" 200") + "\r\n");
+  EXPECT_EQ(Found("veldb.dat"),
+            Lines{"veldb.dat, line 36: another record begins inside the one of code 100"});
+  EXPECT_EQ(Found("dspsites.dat").size(), 1U) << "the first one reads its neighbour's lines";
+}
+
+TEST_F(DatabaseCheck, A_Block_Of_Months_With_A_Line_Too_Many) {
+  std::string longer = Velocity_Block(" 100");
+  longer.insert(longer.find("\r\n3\r\n") + 2, "comment\r\n");
+  Write("veldb.dat", longer + Velocity_Block(" 200") + "\r\n");
+  EXPECT_EQ(Found("veldb.dat"),
+            Lines{"veldb.dat, line 8: the number of a month should stand here, in columns 1 to "
+                  "3"});
+  EXPECT_EQ(Found("dspsites.dat").size(), 2U);
+}
+
+TEST_F(DatabaseCheck, An_Empty_Line_Between_Records_Goes) {
+  Write("matdb.dat",
+        Material_Record(" 100", "Sand") + "\r\n" + Material_Record(" 200", "Silt") + "\r\n");
+  EXPECT_EQ(Found("matdb.dat"),
+            Lines{"matdb.dat, line 6: an empty line stands where a record begins"});
+  Mend_Database(folder.path(), Check_Database(folder.path()));
+  EXPECT_EQ(Found("matdb.dat"), Lines{});
+}
+
+TEST_F(DatabaseCheck, A_Record_With_A_Line_Too_Many_And_One_With_A_Line_Too_Few) {
+  Write("dispdb.dat", kNorth + "comment\r\n" + kSouth + "\r\n");
+  EXPECT_EQ(Found("dispdb.dat"), Lines{"dispdb.dat, line 12: a record should begin here, but "
+                                       "columns 1 to 4 hold no code"});
+  EXPECT_EQ(Found("dspsites.dat").size(), 1U);
+  const std::string short_one = kNorth.substr(0, kNorth.rfind("    10"));
+  Write("dispdb.dat", short_one + kSouth + "\r\n");
+  EXPECT_EQ(Found("dispdb.dat"),
+            Lines{"dispdb.dat, line 11: another record begins inside the one of code 100"});
+}
+
+TEST_F(DatabaseCheck, Codes_That_Come_Twice_Or_Have_No_Entry) {
+  Write("dispdb.dat", kNorth + kNorth + Site_Record(" 900", "    20") + kSouth + "\r\n");
+  EXPECT_EQ(Found("dispdb.dat"),
+            (Lines{"dispdb.dat, line 12: code 100 stands a second time; the walk takes line 1",
+                   "dispdb.dat, line 23: remark: code 900 has no entry in dspsites.dat"}));
+}
+
+TEST_F(DatabaseCheck, Counts_That_A_Project_Can_Not_Hold) {
+  std::string material = Material_Record(" 100", "Sand");
+  material[41] = '5';
+  Write("matdb.dat", material + Material_Record(" 200", "Silt") + "\r\n");
+  EXPECT_EQ(Found("matdb.dat"),
+            Lines{"matdb.dat, line 1: the record's count is more than a project can hold"});
+  EXPECT_EQ(Found("sites.dat").size(), 2U);
+}
+
+TEST_F(DatabaseCheck, A_Data_Line_That_Reads_As_A_Code) {
+  Write("dispdb.dat", Site_Record(" 100", " 200  ") + kSouth + "\r\n");
+  EXPECT_EQ(Found("dispdb.dat"), (Lines{"dispdb.dat, line 4: remark: the line also reads as code "
+                                        "200",
+                                        "dispdb.dat, line 11: remark: the line also reads as code "
+                                        "200"}));
+}
+
+TEST_F(DatabaseCheck, Vessels_With_Other_Openings_Than_The_First) {
+  Write("vesdb.dat", Vessel_Record(" 100", "10", 1) + Vessel_Record(" 200", "20", 3) +
+                         Vessel_Record(" 300", "30", 1) + "\r\n");
+  Write("vessels.dat", "1\nAuk\n2\nBittern\n3\nCurlew\n");
+  EXPECT_EQ(Found("vesdb.dat"),
+            Lines{"vesdb.dat, line 23: the first vessel has 1 opening, this one another number: "
+                  "no project finds all vessels"});
+  EXPECT_EQ(Found("vessels.dat"),
+            Lines{"vessels.dat, line 6: \"Curlew\", code 300: the vessel is not found in "
+                  "vesdb.dat"});
+}
+
+TEST_F(DatabaseCheck, A_Number_That_Runs_Out_Of_Its_Columns) {
+  std::string vessel = Vessel_Record(" 100", "1234567", 1);
+  Write("vesdb.dat", vessel + Vessel_Record(" 200", "20", 1) + "\r\n");
+  EXPECT_EQ(Found("vesdb.dat").front(), "vesdb.dat, line 2: a number runs out of its columns");
+}
+
+TEST_F(DatabaseCheck, A_Site_In_A_Free_Layout_Is_Put_Into_The_Columns) {
+  const auto record = std::make_unique<ProjectRecord>();
+  Set_Project_Defaults(*record);
+  record->DX0 = 250.5;
+  record->DZ0 = 1234.5678;
+  record->DEPC0 = record->DEPTHI = 100;
+  record->RHDA0 = 0.005;
+  record->SLOPEX0 = -0.25;
+  record->NROA0 = 2;
+  record->DensityDepths[2] = 100;
+  record->Densities[1] = 1.0012;
+  record->Densities[2] = 1;
+  ASSERT_EQ(Save_Site(folder.path(), 2, "East", *record).error, 0);
+  EXPECT_EQ(Found("dispdb.dat"),
+            (Lines{"dispdb.dat, line 23: an empty line stands where a record begins",
+                   "dispdb.dat, line 24: the site is in a free layout, which the walk can't read",
+                   "dispdb.dat, line 24: the numbers are not in their columns",
+                   "dispdb.dat, line 25: the numbers are not in their columns",
+                   "dispdb.dat, line 26: the numbers are not in their columns, and must be rounded "
+                   "to fit: 1234.6 250.5",
+                   "dispdb.dat, line 27: remark: the line also reads as code 100",
+                   "dispdb.dat, line 30: the numbers are not in their columns",
+                   "dispdb.dat, line 32: the numbers are not in their columns",
+                   "dispdb.dat, line 33: remark: the line also reads as code 100",
+                   "dispdb.dat, line 34: remark: the line also reads as code 100",
+                   "dispdb.dat, line 34: a line is missing behind the last record, which the walk "
+                   "does not find"}));
+  const Database_Mended mended = Mend_Database(folder.path(), Check_Database(folder.path()));
+  EXPECT_EQ(mended.files, Lines{"dispdb.dat"});
+  EXPECT_EQ(Check_Database(folder.path()).Faults(), 0);
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat"),
+            kNorth + kSouth +
+                " 300 2\r\n 32 32\r\n1234.6 250.5\r\n 100 \r\n 0.005 \r\n\r\n-.25    0\r\n\r\n"
+                "     01.0012\r\n 100  1 \r\n 100 \r\n\r\n");
+  EXPECT_EQ(Found("dspsites.dat"),
+            Lines{"dspsites.dat, line 8: remark: \"East\", code 300: 12 months are not found in "
+                  "veldb.dat"});
+  const auto found = std::make_unique<ProjectRecord>();
+  found->SelectedSiteCode = 300;
+  ASSERT_TRUE(Find_Site(folder.path(), *found));
+  EXPECT_EQ(found->DX0, 250.5);
+  EXPECT_EQ(found->Densities[1], 1.0012);
+  EXPECT_EQ(found->DEPTHI, 100);
+}
+
+TEST_F(DatabaseCheck, A_Former_Copy_Is_Not_Replaced) {
+  Write("dispdb.dat", kNorth + kSouth);
+  Write("dispdb.dat.bak", "former");
+  Mend_Database(folder.path(), Check_Database(folder.path()));
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat.bak"), "former");
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat.bak2"), kNorth + kSouth);
+}
+
+TEST_F(DatabaseCheck, A_Check_Changes_No_File) {
+  Write("dispdb.dat", kNorth + kSouth);
+  const Lines before = Names_In(folder.path());
+  Check_Database(folder.path());
+  EXPECT_EQ(Names_In(folder.path()), before);
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat"), kNorth + kSouth);
+}
+
+/// A value of so many tenths, which any of the columns holds.
+double Tenths(int least, int most) { return *rc::gen::inRange(least, most) / 10.0; }
+
+TEST(DatabaseMending, Any_Site_That_Was_Added_Is_Found_After_Mending) {
+  rc::check([] {
+    const Scratch_Folder folder;
+    const auto record = std::make_unique<ProjectRecord>();
+    Set_Project_Defaults(*record);
+    record->NMAX0 = *rc::gen::inRange<std::int16_t>(0, 97);
+    record->MMAX0 = *rc::gen::inRange<std::int16_t>(0, 97);
+    record->DX0 = Tenths(0, 99999);
+    record->DZ0 = Tenths(0, 99999);
+    record->DEPC0 = Tenths(0, 9999);
+    record->RHDA0 = Tenths(0, 99);
+    record->SLOPEX0 = Tenths(-49, 50);
+    record->SLOPEZ0 = Tenths(-49, 50);
+    record->NROA0 = *rc::gen::inRange<std::int16_t>(0, kMaxDensityPoints + 1);
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(record->NROA0); ++i) {
+      record->DensityDepths[i] = Tenths(0, 9999);
+      record->Densities[i] = Tenths(10, 20);
+    }
+    record->DEPTHI = Tenths(0, 9999);
+    const int place = *rc::gen::inRange(0, kMostEntries);
+    std::string list;
+    for (int i = 0; i < place; ++i) list += "0\r\nname\r\n\r\n";
+    Write_Text(folder / "dspsites.dat", list);
+    RC_ASSERT(Save_Site(folder.path(), place, "East", *record).error == 0);
+    Mend_Database(folder.path(), Check_Database(folder.path()));
+    const auto found = std::make_unique<ProjectRecord>();
+    Set_Project_Defaults(*found);
+    found->SelectedSiteCode = Code_Of_Place(place);
+    RC_ASSERT(Find_Site(folder.path(), *found));
+    found->SelectedSiteCode = 0;
+    RC_ASSERT(Differing_Fields(*record, *found).empty());
+  });
+}
+
+TEST(DatabaseMending, No_Bytes_Make_A_Check_Fail) {
+  rc::check([](const std::string& bytes) {
+    const Scratch_Folder folder;
+    for (const char* file : {"dispdb.dat", "veldb.dat", "matdb.dat", "vesdb.dat"}) {
+      Write_Text(folder / file, " 100 1\r\n" + bytes + "\r\n 200  3 \r\n" + bytes);
+    }
+    Write_Text(folder / "dspsites.dat", bytes);
+    for (const char* list : {"sites.dat", "vessels.dat"}) {
+      Write_Text(folder / list, "1\r\na\r\n2\r\nb\r\n3\r\nc\r\n");
+    }
+    Mend_Database(folder.path(), Check_Database(folder.path()));
+    Check_Database(folder.path());
+  });
+}
+
+}  // namespace
+}  // namespace barvon::testing
