@@ -64,6 +64,8 @@ void frmCoefficients::Command1_Click(int index) {
     case kDefault:
       UsingDefaults = true;
       Fill_Defaults(record_, F1Book1->table());
+      // Where Ctrl+Z takes it back.
+      F1Book1->setFocus();
       break;
     default:
       break;

@@ -127,15 +127,16 @@ TEST(MenuTree, What_Stands_Behind_Which_Gate) {
 
 TEST(MenuTree, Tools_Are_Hidden_Until_Their_Screens_Stand) {
   EXPECT_FALSE(Menu_Named("mnuTools").visible);
-  const char* screens[] = {"frmOpen",    "DataBase", "Write_Dilute_Report", "Graphic_Data_Entry",
-                           "frmNotePad", "frmTip",   "frmDatabaseCheck"};
-  ASSERT_EQ(Menu_Named("mnuTools").items.size(), 7u);
-  for (int i = 0; i < 7; ++i) {
+  const char* screens[] = {
+      "frmOpen", "DataBase",       "Write_Dilute_Report", "Graphic_Data_Entry", "frmNotePad",
+      "frmTip",  "Open_Text_File", "Project_Report",      "frmDatabaseCheck"};
+  ASSERT_EQ(Menu_Named("mnuTools").items.size(), std::size(screens));
+  for (int i = 0; i < static_cast<int>(std::size(screens)); ++i) {
     ASSERT_NE(Tool_Screen(i), nullptr);
     EXPECT_STREQ(Tool_Screen(i)->name, screens[i]);
     EXPECT_FALSE(Item_At("mnuTools", i).visible) << i;
   }
-  EXPECT_EQ(Tool_Screen(7), nullptr);
+  EXPECT_EQ(Tool_Screen(9), nullptr);
   EXPECT_EQ(Tool_Screen(-1), nullptr);
 }
 

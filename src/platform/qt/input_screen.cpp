@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QShowEvent>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QWindow>
 #include <algorithm>
@@ -52,6 +53,8 @@ bool Is_Passed_By(const QWidget* control) {
 
 QWidget* First_Control(QWidget* screen) {
   for (QWidget* at = screen->nextInFocusChain(); at != screen; at = at->nextInFocusChain()) {
+    // A row of tabs is reached by Shift+Tab; a person comes to fill in its first page.
+    if (qobject_cast<QTabBar*>(at) != nullptr) continue;
     const bool takes_tab = (at->focusPolicy() & Qt::TabFocus) != 0;
     if (takes_tab && !Is_Passed_By(at) && screen->isAncestorOf(at) && at->isVisibleTo(screen) &&
         at->isEnabled()) {
