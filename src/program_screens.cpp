@@ -12,6 +12,8 @@
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
 #include "site/frm_velocity.h"
+#include "wizard/data_wiz.h"
+#include "wizard/graphic_data_entry.h"
 #include "workspace/frm_open.h"
 
 namespace barvon {
@@ -36,6 +38,8 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmDensity>(Row_Of_Screen("frmDensity"), main);
   Register<frmCoefficients>(Row_Of_Screen("frmCoefficients"), main);
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
+  Register_Data_Wiz(main);
+  Register<Graphic_Data_Entry>(Row_Of_Screen("Graphic_Data_Entry"), main);
 }
 
 }  // namespace barvon

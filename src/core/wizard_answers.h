@@ -12,7 +12,9 @@ struct Wizard_Answers {
   std::string water_depth;        // "Average Water Depth (ft)"
   std::string water_temperature;  // "Average Water Temperature (deg F)"
   std::string water_salinity;     // "Average Water Salinity (ppt)"
+  int method_option = -1;         // 0 hopper, 1 barge or scow; -1 none
   int velocity_option = -1;       // 0 single depth, 1 two-point, 2 field, 3 unsteady; -1 none
+  int analysis_option = -1;       // 0 open water, 1 ocean sites, 2 navigable waters; -1 none
 };
 
 /// The answers of the one wizard of the program.

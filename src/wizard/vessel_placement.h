@@ -4,14 +4,6 @@
 
 namespace barvon {
 
-/// The room that the bins of a hopper take that open together, ft.
-struct Vessel_Footprint {
-  double FootprintLength = 0, FootprintWidth = 0;
-};
-
-/// From length, width and distance of the bins by NBINS, 1 to 8; any other number is one bin.
-Vessel_Footprint VesselFootprint(const ProjectRecord& record);
-
 /// Typical velocities of the wizard, ft/s; only their signs count here.
 struct Typical_Velocity {
   float TypicalVelX = 0, TypicalVelZ = 0;

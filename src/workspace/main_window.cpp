@@ -10,6 +10,7 @@
 #include "core/desk/reset_vars.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
+#include "core/desk/wizard_help.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
 #include "platform/ask/help_viewer.h"
@@ -86,7 +87,7 @@ void Main::Start_Up(const std::string& application_folder) {
   Set_Application_Folder(application_folder);
   Change_Current_Folder(application_folder);
   record.WizardHelpOn = kTrue;
-  Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(true);
+  Read_Wizard_Help(record);
   move(0, 0);
   Lock_Size();
   Set_Help_File(Join_Path(application_folder, kHelpFile));
@@ -113,6 +114,9 @@ void Main::Fill_Board_Port(Board_Port& board) {
   board.mark_edit_item = [this](int index) { Mark_Edit_Item(controls_, index); };
   board.paint_velocity_option = [this](int index, Status_Colour colour) {
     Paint_Velocity_Option(controls_, index, colour);
+  };
+  board.show_wizard_help = [this](bool on) {
+    Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(on);
   };
   board.refresh_for_new_project = [this] {
     Clear_Edit_Marks(controls_);

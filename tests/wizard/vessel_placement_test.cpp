@@ -21,29 +21,6 @@ class VesselPlacement : public ::testing::Test {
   std::unique_ptr<ProjectRecord> record = std::make_unique<ProjectRecord>();
 };
 
-struct Footprint_Row {
-  std::int16_t bins;
-  double length, width;
-};
-
-TEST_F(VesselPlacement, The_Footprint_Follows_The_Bins_That_Open_Together) {
-  const Footprint_Row rows[] = {{1, 40, 10},  {2, 40, 23},  {3, 126, 10}, {4, 83, 23},
-                                {5, 212, 10}, {6, 126, 23}, {8, 169, 23}, {0, 40, 10},
-                                {9, 40, 10},  {-1, 40, 10}};
-  for (const Footprint_Row& row : rows) {
-    record->NBINS = row.bins;
-    const Vessel_Footprint footprint = VesselFootprint(*record);
-    EXPECT_EQ(footprint.FootprintLength, row.length) << row.bins;
-    EXPECT_EQ(footprint.FootprintWidth, row.width) << row.bins;
-  }
-}
-
-TEST_F(VesselPlacement, Seven_Bins_Are_Six_Lengths) {
-  record->NBINS = 7;
-  EXPECT_EQ(VesselFootprint(*record).FootprintLength, 6 * 40 + 5 * 3);
-  EXPECT_EQ(VesselFootprint(*record).FootprintWidth, 10);
-}
-
 TEST_F(VesselPlacement, The_Vessel_Lies_Upstream_Of_The_Middle) {
   PlaceVesselFromTypicalVelocity({1, 0}, *record);
   EXPECT_DOUBLE_EQ(record->XBARGE, 200);

@@ -5,6 +5,8 @@
 
 namespace barvon {
 
+struct Screen_Row;
+
 enum class Status_Colour { Black, Blue };
 
 /// A remark for the status area at the window's bottom. Details are lines to be had on demand.
@@ -26,6 +28,8 @@ struct Board_Port {
   /// Paints the text of the velocity option of that index, 0 to 3, without choosing it.
   std::function<void(int index, Status_Colour colour)> paint_velocity_option = [](int,
                                                                                   Status_Colour) {};
+  /// The Options menu's mark for the wizard's help.
+  std::function<void(bool on)> show_wizard_help = [](bool) {};
   /// New project: menus, marks and panels as for a fresh record.
   std::function<void()> refresh_for_new_project = [] {};
   /// A project has been opened: its menus become available, whatever its keys say.
@@ -65,6 +69,12 @@ struct Run_Port {
                                                                            const std::string&) {};
 };
 
+/// The data wizard, which leads through other screens.
+struct Wizard_Port {
+  /// OK of a screen has stored what was entered.
+  std::function<void(const Screen_Row& screen)> screen_accepted = [](const Screen_Row&) {};
+};
+
 /// The dilution calculator.
 struct Dilution_Port {
   std::function<void()> close = [] {};
@@ -76,6 +86,7 @@ struct Workspace_Port {
   Board_Port board;
   Text_Port text;
   Run_Port run;
+  Wizard_Port wizard;
   Dilution_Port dilution;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/desk/screen_table.h"
+
 namespace barvon {
 namespace {
 
@@ -13,6 +15,7 @@ void Call_Every_Entry() {
   port.board.set_status_line(0, "x", Status_Colour::Blue);
   port.board.mark_edit_item(1);
   port.board.paint_velocity_option(1, Status_Colour::Black);
+  port.board.show_wizard_help(true);
   port.board.refresh_for_new_project();
   port.board.open_menus();
   port.board.show_recent_menu();
@@ -27,6 +30,7 @@ void Call_Every_Entry() {
   port.text.set_caption("x");
   port.text.print();
   port.run.state(true, "x");
+  port.wizard.screen_accepted(Row_Of_Screen("frmVelocity"));
   port.dilution.close();
 }
 
