@@ -157,6 +157,7 @@ QWidget* Data_Wiz::Analysis_Part() {
   rows.layout()->setContentsMargins(0, 0, 0, 0);
   fields_.Add(rows, {"Text1"});
   Text1->setPlaceholderText(QLatin1String(kDescriptionHint));
+  Text1->setMinimumWidth(kTitleLength * Text1->fontMetrics().averageCharWidth());
   column->addWidget(description);
   Write_Captions(SSOption3, kMethodCaptions);
   column->addWidget(Option_Frame("Method of Disposal", SSOption3, part));
@@ -417,9 +418,10 @@ void Data_Wiz::ShowStep() {
   }
   // In a window title this sequence is a place holder; doubled it is itself.
   setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-  if (record_.WizardHelpOn != kFalse) {
-    Show_Topic(kWizardTopics.at(static_cast<std::size_t>(pages_->currentIndex())));
-  }
+  if (record_.WizardHelpOn == kFalse) return;
+  Show_Topic(kWizardTopics.at(static_cast<std::size_t>(pages_->currentIndex())));
+  // The page comes forward by itself, but who works by keys is still here.
+  if (isVisible()) activateWindow();
 }
 
 void Data_Wiz::Fill_Page() {

@@ -57,7 +57,9 @@ constexpr Field_Row kRows[] = {
 constexpr double kUsualExtent = 10000;  // ft, of a picture with nothing on it
 constexpr double kRoom = 1.5;           // times the extent of the project's grid
 constexpr double kMargin = 0.03;        // part of the extent
-constexpr double kPointPixels = 1.5, kSitePixels = 2.5, kVesselPixels = 5;
+// Radii of points while none is chosen: fewer points have room for larger ones.
+constexpr double kLeastPixels = 0.6, kMostPixels = 2.5, kPixelsOfAll = 60;
+constexpr double kSiteMore = 1, kVesselPixels = 5;
 constexpr Colour kPointInk{0, 0, 255}, kSiteInk{0, 0, 0}, kVesselInk{255, 0, 0};
 
 double Typed(const Field_Texts& texts, Drawn_Rectangle field) {
@@ -258,11 +260,13 @@ Plan Draw_Page(const Field_Texts& texts, const Graphic_Page& page, const Project
   if (!page.grid) return Outline(texts, plan);
   const Constructed_Grid& grid = *page.grid;
   const double radius = record.GridPointRadius;
+  const double pixels =
+      std::clamp(kPixelsOfAll / std::max(grid.points_x, grid.points_z), kLeastPixels, kMostPixels);
   Add_Lines(grid, plan);
   for (int column = 1; column <= grid.points_z; ++column) {
     for (int row = 1; row <= grid.points_x; ++row) {
       const bool in_site = Is_In_Site(page, {column, row});
-      Add_Point(Place_Of(grid, {column, row}), radius, in_site ? kSitePixels : kPointPixels,
+      Add_Point(Place_Of(grid, {column, row}), radius, pixels + (in_site ? kSiteMore : 0),
                 in_site ? kSiteInk : kPointInk, plan);
     }
   }

@@ -16,6 +16,7 @@ namespace barvon {
 namespace {
 
 constexpr const Screen_Row& kScreen = Row_Of_Screen("Graphic_Data_Entry");
+constexpr QSize kLeastPicture{480, 360};
 constexpr char kPictureNote[] =
     "Drag a rectangle or type its corner and size, then construct the grid.";
 constexpr char kPictureNoteOfGrid[] = "Click on two opposite corners of the disposal site.";
@@ -51,8 +52,8 @@ Graphic_Data_Entry::Graphic_Data_Entry(QWidget* workspace)
       fields_(this, Faces_Of(Graphic_Fields(), record_)) {
   setWindowTitle(frame_->title());
   auto* halves = new QHBoxLayout(frame_);
-  halves->addWidget(Grid_Part());
-  halves->addWidget(Site_Part(), 1);
+  halves->addWidget(Grid_Part(), 2);
+  halves->addWidget(Site_Part(), 3);
   auto* column = new QVBoxLayout(this);
   column->addWidget(frame_, 1);
   column->addLayout(Make_Command1({QStringLiteral("OK"), QStringLiteral("C&ancel")}));
@@ -84,6 +85,7 @@ QWidget* Graphic_Data_Entry::Site_Part() {
   auto* part = new QWidget(frame_);
   auto* column = new QVBoxLayout(part);
   column->setContentsMargins(0, 0, 0, 0);
+  Picture1->setMinimumSize(kLeastPicture);
   column->addWidget(Picture1, 1);
   column->addWidget(Label6);
   auto* site = new QGroupBox(QLatin1String(kDrawnSiteFrame), part);

@@ -130,7 +130,7 @@ TEST_F(WizardEntry, The_Temperatures_Mark_Says_That_It_Is_Read_As_Celsius) {
     EXPECT_EQ(face.label, "Average Water Temperature (deg F)");
     EXPECT_EQ(face.note("18"), "reads as 18 degrees Celsius");
     EXPECT_EQ(face.note("64,5"), "reads as 64 degrees Celsius");
-    EXPECT_EQ(face.note(""), "");
+    EXPECT_EQ(face.note(""), "reads as 0 degrees Celsius");
     return;
   }
   FAIL() << "no temperature";
