@@ -66,6 +66,8 @@ double Typed(const Field_Texts& texts, Drawn_Rectangle field) {
   return Lenient_Number(texts("Text6", field));
 }
 
+double Grid_Extent(int points, double spacing) { return (points - 1) * spacing; }
+
 /// The typed rectangle, its size put right.
 struct Typed_Rectangle {
   Picture_Point upper_left;
@@ -85,9 +87,21 @@ void Set_Rectangle(const Typed_Rectangle& rectangle, Field_Texts& texts) {
 
 Place On_Plan(const Picture_Point& point) { return {point.x, point.y}; }
 
-Plan Outline(const Field_Texts& texts, Plan plan) {
+/// The project's grid, in quiet dashes, to draw beside or over.
+void Add_Project_Grid(const ProjectRecord& record, Plan& plan) {
+  const double width = Grid_Extent(record.NMAX0, record.DZ0);
+  const double height = Grid_Extent(record.MMAX0, record.DX0);
+  if (!(width > 0) || !(height > 0)) return;
+  plan.shapes.push_back(Polygon_Shape{Rectangle(On_Plan(Picture_Point{}), On_Plan({width, height})),
+                                      {},
+                                      Stroke{kAxisInk, 1, Dash::dashed}});
+  plan.description = "Dashes show the project's grid. ";
+}
+
+Plan Outline(const Field_Texts& texts, const ProjectRecord& record, Plan plan) {
+  Add_Project_Grid(record, plan);
+  plan.description += "No grid is constructed yet.";
   const auto [corner, width, height] = Rectangle_Of(texts);
-  plan.description = "No grid is constructed yet.";
   if (width == 0 || height == 0) return plan;
   plan.shapes.push_back(
       Polygon_Shape{Rectangle(On_Plan(corner), On_Plan({corner.x + width, corner.y + height})),
@@ -149,8 +163,6 @@ std::string Described(const Graphic_Page& page) {
   if (page.vessel) words += " The vessel is at " + Words_Of(*page.vessel) + ".";
   return words;
 }
-
-double Grid_Extent(int points, double spacing) { return (points - 1) * spacing; }
 
 /// What a person may want to draw on beside a grid of the project.
 double Room_For(int points, double spacing) {
@@ -257,7 +269,7 @@ Plan Draw_Page(const Field_Texts& texts, const Graphic_Page& page, const Project
   Plan plan;
   plan.area = Area_Of_Page(texts, page, record);
   plan.title = "Graphical site grid";
-  if (!page.grid) return Outline(texts, plan);
+  if (!page.grid) return Outline(texts, record, plan);
   const Constructed_Grid& grid = *page.grid;
   const double radius = record.GridPointRadius;
   const double pixels =

@@ -46,7 +46,6 @@ constexpr Field_Row kRows[] = {
 
 /// The label asks for Fahrenheit, but the formula of the density takes the number as Celsius.
 std::string Temperature_Note(const std::string& typed) {
-  if (typed.find_first_not_of(" \t") == std::string::npos) return "";
   return "reads as " + Plain_Number(Lenient_Number(typed)) + " degrees Celsius";
 }
 

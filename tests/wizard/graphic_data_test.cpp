@@ -199,6 +199,20 @@ TEST_F(GraphicData, The_Picture_Draws_Lines_Points_Site_And_Vessel) {
   EXPECT_EQ(black, 5 * 21);
 }
 
+TEST_F(GraphicData, Before_A_Grid_Is_Constructed_The_Projects_Own_Is_Dashed) {
+  record.DX0 = 100;
+  record.DZ0 = 50;
+  Plan plan = Draw_Page(texts, page, record);
+  ASSERT_EQ(plan.shapes.size(), 2U);
+  const auto& grid = std::get<Polygon_Shape>(plan.shapes.at(0));
+  EXPECT_EQ(grid.stroke->dash, Dash::dashed);
+  EXPECT_EQ(grid.points.at(2), (Place{1550, 3100}));
+  EXPECT_EQ(plan.description, "Dashes show the project's grid. No grid is constructed yet.");
+  Construct();
+  plan = Draw_Page(texts, page, record);
+  EXPECT_EQ(plan.shapes.size(), 16U + 43U);
+}
+
 TEST_F(GraphicData, The_Picture_Has_Room_For_The_Projects_Grid_And_More) {
   Type("", "", "0", "0");
   Feet_Area area = Area_Of_Page(texts, page, record);
