@@ -115,9 +115,6 @@ void Main::Fill_Board_Port(Board_Port& board) {
   board.paint_velocity_option = [this](int index, Status_Colour colour) {
     Paint_Velocity_Option(controls_, index, colour);
   };
-  board.show_wizard_help = [this](bool on) {
-    Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(on);
-  };
   board.refresh_for_new_project = [this] {
     Clear_Edit_Marks(controls_);
     Show_New_Project(controls_, Project());
@@ -133,6 +130,9 @@ void Main::Fill_Board_Port(Board_Port& board) {
   board.screens_changed = [this] { Show_Tools_Menu(controls_); };
   board.show_recent_menu = [this] { Show_Recent_Menu(controls_); };
   board.show_main_board = [this] { Show_Main_Board(controls_); };
+  board.show_wizard_help = [this](bool on) {
+    Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(on);
+  };
   board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
 }
 

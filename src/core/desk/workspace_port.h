@@ -28,14 +28,14 @@ struct Board_Port {
   /// Paints the text of the velocity option of that index, 0 to 3, without choosing it.
   std::function<void(int index, Status_Colour colour)> paint_velocity_option = [](int,
                                                                                   Status_Colour) {};
-  /// The Options menu's mark for the wizard's help.
-  std::function<void(bool on)> show_wizard_help = [](bool) {};
   /// New project: menus, marks and panels as for a fresh record.
   std::function<void()> refresh_for_new_project = [] {};
   /// A project has been opened: its menus become available, whatever its keys say.
   std::function<void()> open_menus = [] {};
   std::function<void()> show_recent_menu = [] {};
   std::function<void()> show_main_board = [] {};
+  /// The Options menu's mark for the wizard's help.
+  std::function<void(bool on)> show_wizard_help = [](bool) {};
   /// Whether the screen of that name is in view without blocking.
   std::function<bool(const std::string& name)> screen_is_open = [](const std::string&) {
     return false;

@@ -15,11 +15,11 @@ void Call_Every_Entry() {
   port.board.set_status_line(0, "x", Status_Colour::Blue);
   port.board.mark_edit_item(1);
   port.board.paint_velocity_option(1, Status_Colour::Black);
-  port.board.show_wizard_help(true);
   port.board.refresh_for_new_project();
   port.board.open_menus();
   port.board.show_recent_menu();
   port.board.show_main_board();
+  port.board.show_wizard_help(true);
   EXPECT_FALSE(port.board.screen_is_open("x"));
   port.board.screens_changed();
   port.board.show_note({"x", ""});
