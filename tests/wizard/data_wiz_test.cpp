@@ -255,6 +255,17 @@ TEST_F(DataWizard, A_Click_On_A_Picture_Chooses_Its_Velocity) {
   }
 }
 
+TEST_F(DataWizard, Arrow_Keys_Go_Through_The_Velocities_Across_Their_Boxes) {
+  Open();
+  Go_To(4);
+  Child<QRadioButton>("SSOption5(0)")->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_TRUE(Is_Set("SSOption5(1)"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_TRUE(Is_Set("SSOption5(3)"));
+  EXPECT_EQ(Answers_Of_Wizard().velocity_option, 3);
+}
+
 TEST_F(DataWizard, The_Grids_Picture_Is_The_Analysis_Own) {
   for (int analysis = 0; analysis < 3; ++analysis) {
     Open();
