@@ -6,9 +6,13 @@
 #include <QTest>
 #include <memory>
 
+#include "checks/check_data.h"
+#include "checks/sound_project.h"
+#include "core/desk/accepted_screen.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
+#include "core/keys.h"
 #include "core/project_defaults.h"
 #include "core/velocity_types.h"
 #include "program_screens.h"
@@ -108,6 +112,61 @@ TEST_F(WizardJourney, The_Site_And_The_Velocity_Are_Filled_From_The_Typical_Valu
   EXPECT_EQ(record.NMAX0, 65) << "accepted";
   EXPECT_EQ(record.VelocityProfileType, kTwoPointVelocity);
   EXPECT_EQ(record.DisposalMethod, before->DisposalMethod);
+}
+
+/// Says OK to a screen on which what belongs to it is entered as in a sound project.
+void Enter_Soundly(const Screen_Row& row, const std::function<void(ProjectRecord&)>& enter) {
+  Register_Screen(row, [&row, enter](bool, const std::string&) {
+    enter(Project());
+    Accept_Screen(row, Project());
+  });
+}
+
+TEST_F(WizardJourney, A_Walk_Ends_In_A_Project_Without_A_Fault) {
+  const auto sound = std::make_unique<ProjectRecord>(Sound_Project());
+  Enter_Soundly(Row_Of_Screen("frmMatBarge"), [&](ProjectRecord& project) {
+    project.SolidNames[1] = sound->SolidNames[1];
+    project.SolidVolFraction = sound->SolidVolFraction;
+  });
+  Enter_Soundly(Row_Of_Screen("frmOperation"), [&](ProjectRecord& project) {
+    project.BargeLength = project.BargeWidth = sound->BargeLength;
+  });
+  Enter_Soundly(Row_Of_Screen("frmMdlkyn"), [](ProjectRecord& project) {
+    // 64 intervals of 125 ft each way, the vessel at a fifth, two barges of 30 ft before it.
+    EXPECT_DOUBLE_EQ(project.SiteTop, 1600 - 60);
+    EXPECT_DOUBLE_EQ(project.SiteLeft, 1600 - 60);
+    project.SiteBottom = project.SiteRight = 5000;
+    project.TracerName() = "copper";
+    project.CriterionConcentration = 0.5;
+    project.TracerConcentration = 2;
+    project.BackgroundConcentration = 0.1;
+  });
+  Choose("SSOption3(1)");
+  Choose("SSOption2(2)");
+  Next();
+  Choose("SSOption4(1)");
+  Choose("SSOption1(1)");
+  Next();
+  Next();
+  Enter_Typical_Values();
+  Child<QLineEdit>("Text7(3)")->setText("1");
+  Next({Press(QMessageBox::Yes), Command_Of_Screen("frmDescription", "Command1(0)")});
+  Next({Command_Of_Screen("frmVelocity", "Command1(0)", [](QWidget* velocity) {
+    const char* const values[] = {"50", "1", "0.1"};
+    for (int i = 0; i < 3; ++i) {
+      velocity->findChild<QLineEdit*>(QStringLiteral("Text1(%1)").arg(i))->setText(values[i]);
+    }
+  })});
+  Next();
+  Next();
+  Next();
+  Command(2);
+  record.LongTermTimeStep = 100;  // on the screen of time steps, afterwards
+  Names faults;
+  for (const auto& entry : Check_Data(record).entries) faults.push_back(entry.message);
+  EXPECT_EQ(faults, Names{});
+  EXPECT_EQ(record.KEY3, kNavigableWaterQuality);
+  EXPECT_EQ(record.TracerName(), "copper");
 }
 
 TEST_F(WizardJourney, Screens_That_Are_Called_Off_Leave_No_Trace) {
