@@ -18,6 +18,8 @@
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
 #include "site/frm_velocity.h"
+#include "wizard/data_wiz.h"
+#include "wizard/graphic_data_entry.h"
 #include "workspace/frm_open.h"
 
 namespace barvon {
@@ -48,6 +50,8 @@ void Register_Program_Screens(QWidget* main) {
   Register_Dilute_Report();
   Register_DataBase(main);
   Register<frmDatabaseCheck>(Row_Of_Screen("frmDatabaseCheck"), main);
+  Register_Data_Wiz(main);
+  Register<Graphic_Data_Entry>(Row_Of_Screen("Graphic_Data_Entry"), main);
 }
 
 }  // namespace barvon

@@ -63,6 +63,7 @@ struct ProjectRecord {
   Flag WizardAccepted = kFalse;
   Flag OutputsCopied = kFalse;
   int HelpContextToShow = 0;
+  std::int16_t GridPointRadius = 0;  // of the graphical site grid, ft; 0: none is chosen
 
   // ---- Analysis keys
   // Numbers that stand for a choice are named in keys.h.

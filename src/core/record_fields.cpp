@@ -109,6 +109,7 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::WizardAccepted>("WizardAccepted"),
     Field_Of<&ProjectRecord::OutputsCopied>("OutputsCopied"),
     Field_Of<&ProjectRecord::HelpContextToShow>("HelpContextToShow"),
+    Field_Of<&ProjectRecord::GridPointRadius>("GridPointRadius"),
     Field_Of<&ProjectRecord::DisposalMethod>("DisposalMethod"),
     Field_Of<&ProjectRecord::PreviousDisposalMethod>("PreviousDisposalMethod"),
     Field_Of<&ProjectRecord::KEY1>("KEY1"),

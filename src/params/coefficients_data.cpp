@@ -63,7 +63,7 @@ Cell_Look Look_Of_Coefficient(const Spreadsheet_Table& F1Book1, const ProjectRec
   const Coefficient& one = coefficients[static_cast<std::size_t>(row - 1)];
   const double value = F1Book1.NumberRC(row, col);
   Cell_Look look;
-  if (F1Book1.IsEmptyRC(row, col)) return {.warned = true, .tip = "Empty, stored as 0"};
+  if (F1Book1.IsEmptyRC(row, col)) return {true, true, "Empty, stored as 0"};
   if (value != one.default_value) {
     look.bold = true;
     look.tip = Plain_Number(value) + " is not the default, " + Plain_Number(one.default_value);

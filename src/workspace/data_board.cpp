@@ -2,6 +2,7 @@
 #include <QHBoxLayout>
 #include <vector>
 
+#include "core/desk/analysis_choices.h"
 #include "core/velocity_types.h"
 #include "workspace/board_parts.h"
 #include "workspace/main_controls.h"
@@ -32,9 +33,8 @@ QGroupBox* Options(const char* name, const char* caption, const ControlArray<QRa
 }
 
 QGroupBox* Simulation_Type(Main_Controls& controls, QWidget* parent) {
-  static constexpr const char* kTypes[] = {"Descent and Collapse",
-                                           "Descent, Collapse and Diffusion"};
-  auto* frame = Options("Frame3D8", "Simulation Type", controls.SSOption3, kTypes, parent);
+  auto* frame = Options("Frame3D8", "Simulation Type", controls.SSOption3,
+                        kSimulationCaptions.data(), parent);
   frame->layout()->addWidget(Hint(controls.Label4(0), 3));
   return frame;
 }

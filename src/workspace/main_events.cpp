@@ -12,7 +12,7 @@
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
-#include "core/desk/settings_keys.h"
+#include "core/desk/wizard_help.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/option_paint.h"
@@ -143,8 +143,7 @@ void View_Click(Main_Controls& controls, ProjectRecord& record, int index) {
 void Option_Click(Main_Controls& controls, ProjectRecord& record, int index) {
   const bool marked = Action_Of(controls, "mnuOptionItem", index)->isChecked();
   if (index == kWizardHelp) {
-    record.WizardHelpOn = marked ? kTrue : kFalse;
-    Write_Setting(kHelpStatusSection, kHelpOnKey, marked ? "On  " : "Off  ");
+    Choose_Wizard_Help(marked, record);
   } else {
     record.AlwaysSaveBeforeRun = marked ? kTrue : kFalse;
   }

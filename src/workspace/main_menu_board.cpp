@@ -1,6 +1,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 
+#include "core/desk/analysis_choices.h"
 #include "core/desk/coefficient_words.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
@@ -68,25 +69,20 @@ QGroupBox* Database_Information(Main_Controls& controls) {
 }
 
 QGroupBox* Analysis_Types(Main_Controls& controls) {
-  static constexpr const char* kTypes[] = {
-      "General Open Water Disposal Analysis", "Section 103 Regulatory Analysis for Ocean Sites",
-      "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"};
   auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D5", "Type of Analysis");
   auto* lines = Lines(frame, kLineGap);
   for (int i = 0; i < 3; ++i) {
-    controls.SSOption1(i)->setText(QLatin1String(kTypes[i]));
+    controls.SSOption1(i)->setText(QLatin1String(kAnalysisCaptions[static_cast<std::size_t>(i)]));
     lines->addWidget(controls.SSOption1(i));
   }
   return frame;
 }
 
 QGroupBox* Disposal_Methods(Main_Controls& controls) {
-  static constexpr const char* kMethods[] = {"Disposal from a Multiple Bin Hopper Dredge",
-                                             "Disposal from a Split-Hull Barge or Scow"};
   auto* frame = Frame(controls.MethodFrame, "Frame3D6", "Method of Disposal");
   auto* lines = Lines(frame, kLineGap);
   for (int i = 0; i < 2; ++i) {
-    controls.SSOption2(i)->setText(QLatin1String(kMethods[i]));
+    controls.SSOption2(i)->setText(QLatin1String(kMethodCaptions[static_cast<std::size_t>(i)]));
     lines->addWidget(controls.SSOption2(i));
   }
   frame->setEnabled(false);

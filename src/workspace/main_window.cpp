@@ -11,6 +11,7 @@
 #include "core/desk/reset_vars.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/screen_table.h"
+#include "core/desk/wizard_help.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "core/project_record.h"
@@ -90,7 +91,7 @@ void Main::Start_Up(const std::string& application_folder) {
   Set_Application_Folder(application_folder);
   Change_Current_Folder(application_folder);
   record.WizardHelpOn = kTrue;
-  Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(true);
+  Read_Wizard_Help(record);
   move(0, 0);
   Lock_Size();
   Set_Help_File(Join_Path(application_folder, kHelpFile));
@@ -144,6 +145,9 @@ void Main::Fill_Board_Port(Board_Port& board) {
     Show_Database_Line(controls_, index, text);
   };
   board.count_findings = [] { return static_cast<int>(Check_Data(Project()).entries.size()); };
+  board.show_wizard_help = [this](bool on) {
+    Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(on);
+  };
   board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
 }
 

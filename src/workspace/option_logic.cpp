@@ -17,11 +17,6 @@ constexpr int kSimulations = 2;
 constexpr std::int16_t kKEY2[kSimulations] = {kDescentAndCollapse, kDiffusion};
 constexpr int kEvaluations = 3;
 
-constexpr Evaluation_Captions kGeneralCaptions = {
-    "No Diffusion of a Conservative Tracer", "Long-Term Diffusion of Conservative Tracer", nullptr};
-constexpr Evaluation_Captions kTierCaptions = {"Tier II, Determine Need for Further Testing",
-                                               "Tier II, Compare Water Quality",
-                                               " Tier III, Compare Toxicity Results"};
 constexpr const char* kSimulationHints[kAnalysisTypes] = {
     "Choose Diffusion Option for Transport of Solids Or Tracer in the Water Column",
     "Choose Diffusion Option for Initial Mixing Calculations for MPRSA 103 Water Column "
@@ -95,10 +90,6 @@ int Simulation_Option(std::int16_t key2) {
   return -1;
 }
 
-const Evaluation_Captions& Evaluation_Captions_Of(std::int16_t analysis_type) {
-  return analysis_type == kOpenWater ? kGeneralCaptions : kTierCaptions;
-}
-
 std::optional<const char*> Simulation_Hint(std::int16_t analysis_type) {
   if (!Is_Analysis_Type(analysis_type)) return std::nullopt;
   return kSimulationHints[analysis_type - 1];
@@ -121,12 +112,6 @@ void Choose_Logarithmic(bool logarithmic, ProjectRecord& record) {
 
 Velocity_Choice Velocity_Choice_Of(double velocity_profile_type) {
   return {Form_Of_Type(velocity_profile_type), velocity_profile_type == kLogarithmicVelocity};
-}
-
-bool Ask_To_Disable_Variable_Depth() {
-  return Ask("To Use Two-Point Velocity Profile Variable Depth Must Be Disabled. Do You Wish To "
-             "Disable Variable Depth Specification Now?",
-             Buttons::YesNoCancel) == Answer::Yes;
 }
 
 Evaluation_Entry Enter_Evaluation(int evaluation, const ProjectRecord& record) {

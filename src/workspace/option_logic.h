@@ -1,14 +1,11 @@
 #pragma once
 
-#include <array>
 #include <optional>
 
+#include "core/desk/analysis_choices.h"
 #include "core/project_record.h"
 
 namespace barvon {
-
-/// The options of the simulation type, SSOption3.
-enum Simulation_Choice { kWithoutDiffusion, kWithDiffusion };
 
 /// What the choices of the main screen do to the record. An index of -1 stands for a group in
 /// which nothing is chosen.
@@ -56,11 +53,6 @@ void Choose_Simulation_Type(int simulation, ProjectRecord& record);
 /// The Simulation_Choice that shows KEY2, -1 for none.
 int Simulation_Option(std::int16_t key2);
 
-/// How the evaluation group reads for a type of analysis. An option without a caption is hidden
-/// and keeps the one that it has.
-using Evaluation_Captions = std::array<const char*, 3>;
-const Evaluation_Captions& Evaluation_Captions_Of(std::int16_t analysis_type);
-
 /// The hint of the simulation frame, Label4(0); nothing for a type without one.
 std::optional<const char*> Simulation_Hint(std::int16_t analysis_type);
 /// The hint that an evaluation puts into Label4(1); empty for one that the type does not offer.
@@ -77,9 +69,6 @@ struct Velocity_Choice {
   bool logarithmic = false;
 };
 Velocity_Choice Velocity_Choice_Of(double velocity_profile_type);
-
-/// Asks whether variable depth is to go for the sake of a two-point profile. True for Yes.
-bool Ask_To_Disable_Variable_Depth();
 
 /// What keeps "Enter/Edit Evaluation" from its screen.
 enum class Evaluation_Entry {

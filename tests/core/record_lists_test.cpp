@@ -52,7 +52,7 @@ TEST(RecordLists, Every_Field_Has_A_Default_But_For_Those_That_Outlive_A_Project
   // What belongs to the program, and what no default is told for.
   const Names kProgram = {"WizardHelpOn",  "AlwaysSaveBeforeRun", "WizardAtStart",
                           "WizardActive",  "LegacyKeyRebuild",    "WizardAccepted",
-                          "OutputsCopied", "HelpContextToShow"};
+                          "OutputsCopied", "HelpContextToShow",   "GridPointRadius"};
   const Names kUntold = {"BaseFileName",
                          "FileKind",
                          "ShowMode",
@@ -119,6 +119,7 @@ TEST(RecordLists, Every_Field_Is_In_The_File_But_For_Those_That_Are_Not_Of_It) {
                                "WizardAccepted",
                                "OutputsCopied",
                                "HelpContextToShow",
+                               "GridPointRadius",
                                "PreviousDisposalMethod",
                                "DistX",
                                "DistZ",

@@ -231,6 +231,43 @@ void Look_At_Dilution(const Look& look) {
   Unload(screen);
 }
 
+/// Each page of the wizard. It comes last: the screens that it leads to open no more.
+void Look_At_Wizard(const Look& look) {
+  for (const Screen_Row& row : kScreens) {
+    if (row.kind == Screen_Kind::Input) Register_Screen(row, [](bool, const std::string&) {});
+  }
+  for (int analysis = 0; analysis < 3; ++analysis) {
+    Project().WizardHelpOn = kFalse;
+    QWidget& wizard = Opened("Data_Wiz");
+    const auto control = [&wizard](const std::string& name) {
+      return wizard.findChild<QAbstractButton*>(QString::fromStdString(name));
+    };
+    control("SSOption2(" + std::to_string(analysis) + ")")->click();
+    control("SSOption4(1)")->click();
+    control("SSOption1(1)")->click();
+    for (const int field : {0, 2, 4, 5}) {
+      wizard.findChild<QLineEdit*>(QStringLiteral("Text7(%1)").arg(field))->setText("64,5");
+    }
+    const Scripted_Messages messages({Answer::No});
+    for (int page = 0; page < 8; ++page) {
+      look(wizard, "analysis " + std::to_string(analysis) + ", page " + std::to_string(page));
+      if (page < 7) control("Command1(1)")->click();
+    }
+    Unload(wizard);
+  }
+}
+
+void Look_At_Graphical_Page(const Look& look) {
+  QWidget& page = Opened("Graphic_Data_Entry");
+  look(page, "empty");
+  page.findChild<QLineEdit*>("Text6(0)")->setText("-100,5");
+  page.findChild<QLineEdit*>("Text6(4)")->setText("30000");
+  page.findChild<QLineEdit*>("Text6(5)")->setText("15000");
+  page.findChild<QPushButton*>("Command3")->click();
+  look(page, "with a grid");
+  Unload(page);
+}
+
 void Look_At_Help(const Look& look) {
   Set_Help_File(BARVON_HELP_FILE);
   Show_Help({Help_Command::Index, 0, ""});
@@ -344,12 +381,14 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Velocity(settled);
   Look_At_Material(settled);
   Look_At_Dilution(settled);
+  Look_At_Graphical_Page(settled);
   Look_At_Help(settled);
   Look_At_Text(settled);
   Look_At_Site(settled);
   Look_At_Database(bench, settled);
   Look_At_Progress(settled);
   Look_At_File_Dialogs(settled);
+  Look_At_Wizard(settled);
 }
 
 std::string Where(const QWidget& window, const std::string& state) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -59,6 +60,19 @@ TEST_F(WindowWalk, A_Sound_Window_Gives_No_Complaint) {
   EXPECT_EQ(Listed(Clashing_Keys(window)), "");
   EXPECT_EQ(Listed(Unreached_Controls(window)), "");
   EXPECT_EQ(Listed(Unnamed_Controls(window)), "");
+}
+
+TEST_F(WindowWalk, Options_In_Several_Frames_Are_One_Group_When_They_Are_Told_To_Be) {
+  auto* group = new QButtonGroup(&window);
+  for (const int x : {10, 200}) {
+    auto* frame = Put(new QFrame, x, 40);
+    auto* option = new QRadioButton("an option", frame);
+    group->addButton(option);
+    frame->resize(option->sizeHint());
+  }
+  group->buttons().first()->setChecked(true);
+  Show();
+  EXPECT_EQ(Listed(Unreached_Controls(window)), "");
 }
 
 TEST_F(WindowWalk, Finds_A_Text_Without_Its_Room) {

@@ -126,6 +126,8 @@ TEST_F(CoefficientsData, An_Empty_Cell_Is_0) {
   Fill();
   table_.TextRC(3, kCurrentColumn, "");
   EXPECT_TRUE(Look(3).bold);
+  EXPECT_TRUE(Look(3).warned);
+  EXPECT_EQ(Look(3).tip, "Empty, stored as 0");
   Save_Data(table_, record_);
   EXPECT_EQ(record_.CD, 0);
 }

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -229,6 +230,13 @@ bool Is_Worked_With(const QWidget* control) {
 }
 
 bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>& reached) {
+  // A group that is told to be one may be spread over several frames.
+  if (option->group() != nullptr) {
+    for (const QAbstractButton* other : option->group()->buttons()) {
+      if (reached.count(other) != 0) return true;
+    }
+    return false;
+  }
   for (const auto* other : option->parentWidget()->findChildren<QRadioButton*>()) {
     if (other->parentWidget() == option->parentWidget() && reached.count(other) != 0) return true;
   }

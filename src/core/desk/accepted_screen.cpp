@@ -12,6 +12,7 @@ void Supply_Screen(const Screen_Row& row, ProjectRecord& record, const Status_Wo
 void Accept_Screen(const Screen_Row& row, ProjectRecord& record, const Status_Words& words) {
   const Board_Port& board = Port().board;
   Supply_Screen(row, record, words);
+  Port().wizard.screen_accepted(row);
   if (row.edit_mark) board.mark_edit_item(*row.edit_mark);
   board.display_data();
 }

@@ -6,6 +6,8 @@
 
 namespace barvon {
 
+struct Screen_Row;
+
 enum class Status_Colour { Black, Blue };
 
 /// A remark for the status area at the window's bottom. Details are lines to be had on demand.
@@ -37,6 +39,8 @@ struct Board_Port {
   std::function<void()> open_menus = [] {};
   std::function<void()> show_recent_menu = [] {};
   std::function<void()> show_main_board = [] {};
+  /// The Options menu's mark for the wizard's help.
+  std::function<void(bool on)> show_wizard_help = [](bool) {};
   /// Whether the screen of that name is in view without blocking.
   std::function<bool(const std::string& name)> screen_is_open = [](const std::string&) {
     return false;
@@ -78,6 +82,12 @@ struct Run_Port {
                                                                            const std::string&) {};
 };
 
+/// The data wizard, which leads through other screens.
+struct Wizard_Port {
+  /// OK of a screen has stored what was entered.
+  std::function<void(const Screen_Row& screen)> screen_accepted = [](const Screen_Row&) {};
+};
+
 /// The dilution calculator.
 struct Dilution_Port {
   /// Its data and the project around it are those of a new project.
@@ -95,6 +105,7 @@ struct Workspace_Port {
   Board_Port board;
   Text_Port text;
   Run_Port run;
+  Wizard_Port wizard;
   Dilution_Port dilution;
 };
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/desk/screen_table.h"
+
 namespace barvon {
 namespace {
 
@@ -19,6 +21,7 @@ void Call_Every_Entry() {
   port.board.open_menus();
   port.board.show_recent_menu();
   port.board.show_main_board();
+  port.board.show_wizard_help(true);
   EXPECT_FALSE(port.board.screen_is_open("x"));
   port.board.screens_changed();
   port.board.show_note({"x", ""});
@@ -29,6 +32,7 @@ void Call_Every_Entry() {
   port.text.set_caption("x");
   port.text.print();
   port.run.state(true, "x");
+  port.wizard.screen_accepted(Row_Of_Screen("frmVelocity"));
   port.dilution.close();
   port.dilution.clear();
   EXPECT_TRUE(port.dilution.leave());

@@ -1,0 +1,128 @@
+#include "wizard/wizard_apply.h"
+
+#include <tuple>
+
+#include "core/desk/analysis_choices.h"
+#include "core/desk/workspace_port.h"
+#include "core/keys.h"
+#include "core/velocity_types.h"
+
+namespace barvon {
+namespace {
+
+template <class Record>
+auto Choices_Of(Record& r) {
+  return std::tie(r.AnalysisType, r.FileKind, r.DisposalMethod, r.PreviousDisposalMethod, r.KEY1,
+                  r.KEY2, r.KEY3, r.KEY4);
+}
+
+template <class Record>
+auto Contaminant_Of(Record& r) {
+  return std::tie(r.TracerName(), r.TracerConcentration, r.BackgroundConcentration,
+                  r.CriterionConcentration, r.SedimentConcentration, r.ZidTop, r.ZidLeft,
+                  r.ZidBottom, r.ZidRight);
+}
+
+template <class Record>
+auto Site_Of(Record& r) {
+  return std::tie(r.WizardAccepted, r.NMAX0, r.MMAX0, r.DX0, r.DZ0, r.DistX, r.DistZ, r.DEPC0,
+                  r.NROA0, r.DensityComputeFlag, r.DensityDepths, r.Densities, r.DensitySalinities,
+                  r.DensityTemperatures);
+}
+
+template <class Record>
+auto Velocity_Of(Record& r) {
+  return std::tie(r.VelocityProfileType, r.SimulationDuration);
+}
+
+template <class Record>
+auto Vessel_Of(Record& r) {
+  return std::tie(r.XBARGE, r.ZBARGE);
+}
+
+template <class Record>
+auto Boundary_Of(Record& r) {
+  return std::tie(r.SiteTop, r.SiteLeft, r.SiteBottom, r.SiteRight, r.ZidFlag);
+}
+
+void Write_Velocity_Type(int form, ProjectRecord& record) {
+  if (Form_Of_Type(record.VelocityProfileType) == form) return;  // with its logarithm
+  record.VelocityProfileType = Type_Of_Form(static_cast<Velocity_Form>(form));
+}
+
+}  // namespace
+
+Wizard_Copy::Wizard_Copy(const ProjectRecord& record)
+    : former_(std::make_unique<ProjectRecord>(record)) {}
+
+void Wizard_Copy::Bring_Back(ProjectRecord& record) const {
+  const ProjectRecord& former = *former_;
+  Choices_Of(record) = Choices_Of(former);
+  Contaminant_Of(record) = Contaminant_Of(former);
+  Site_Of(record) = Site_Of(former);
+  Velocity_Of(record) = Velocity_Of(former);
+  Vessel_Of(record) = Vessel_Of(former);
+  Boundary_Of(record) = Boundary_Of(former);
+}
+
+void Wizard_Copy::Bring_Back_Contaminant(ProjectRecord& record) const {
+  const ProjectRecord& former = *former_;
+  Contaminant_Of(record) = Contaminant_Of(former);
+}
+
+void Wizard_Copy::Keep_Accepted(const Screen_Row& screen, const ProjectRecord& record) {
+  ProjectRecord& former = *former_;
+  const bool drawn = &screen == &Row_Of_Screen("Graphic_Data_Entry");
+  if (&screen == &Row_Of_Screen("frmDescription")) {
+    Site_Of(former) = Site_Of(record);
+    // Variable depth displaces a two-point profile.
+    former.VelocityProfileType = record.VelocityProfileType;
+  }
+  if (&screen == &Row_Of_Screen("frmVelocity")) Velocity_Of(former) = Velocity_Of(record);
+  if (&screen == &Row_Of_Screen("frmOperation")) Vessel_Of(former) = Vessel_Of(record);
+  if (&screen == &Row_Of_Screen("frmMdlkyn")) {
+    Boundary_Of(former) = Boundary_Of(record);
+    Contaminant_Of(former) = Contaminant_Of(record);
+  }
+  if (drawn) {
+    Site_Of(former) = Site_Of(record);
+    Vessel_Of(former) = Vessel_Of(record);
+    Boundary_Of(former) = Boundary_Of(record);
+  }
+}
+
+void Write_Choices(const Wizard_Entry& entry, ProjectRecord& record) {
+  record.AnalysisType = Analysis_Type_Of(entry);
+  record.FileKind = kProjectKind;
+  record.DisposalMethod = record.PreviousDisposalMethod = Disposal_Method_Of(entry);
+  record.KEY1 = 1;
+  record.KEY2 = entry.simulation == kWithoutDiffusion ? kDescentAndCollapse : kDiffusion;
+  record.KEY3 = KEY3_Of(record.AnalysisType, Offered_Evaluation(entry)).value_or(record.KEY3);
+  record.KEY4 = KEY4_Of(record.AnalysisType, record.DisposalMethod).value_or(record.KEY4);
+}
+
+void ApplyWizardToProject(const Wizard_Entry& entry, const Accepted_Data& accepted,
+                          ProjectRecord& record) {
+  Write_Choices(entry, record);
+  if (!accepted.velocity) Write_Velocity_Type(entry.velocity, record);
+  const double depth = Water_Depth_Of(entry);
+  if (!accepted.depth && depth > 0 && record.ConstantDepthFlag != 0) record.DEPC0 = depth;
+  if (!accepted.duration) record.SimulationDuration = Duration_Of(entry, record);
+  if (!entry.texts.Is_Untouched({"Text1"})) {
+    const Field_Row* title = Find_Row(Wizard_Fields(), {"Text1"}, record);
+    Field_Texts texts;
+    texts.Set(title->control, entry.texts("Text1"));
+    Read_Fields(Wizard_Fields(), texts, record);
+  }
+  record.DataSaved = kFalse;
+  record.WizardAccepted = kTrue;
+  record.WizardActive = kFalse;
+  Port().board.display_data();
+}
+
+bool Ask_About_Two_Points(const ProjectRecord& record) {
+  return record.VelocityProfileType == kTwoPointVelocity && record.ConstantDepthFlag == 0 &&
+         Ask_To_Disable_Variable_Depth();
+}
+
+}  // namespace barvon
