@@ -44,16 +44,16 @@ constexpr List_Row kLists[kDatabaseLists] = {
      "Disposal Vessel: "}};
 
 /// What there is to know about the vessel that was looked for.
-std::string Vessel_Words(int place, bool found, int openings, const ProjectRecord& record) {
-  std::string words;
-  if (place > 0) {
-    words += " The vessels before it were passed by " +
-             Counted(static_cast<std::size_t>(std::max(openings, 0)), "opening") + " each.";
-  }
-  if (found && record.DisposalMethod == kBarge) {
-    words += " The vessel is a hopper dredge's, and the project empties a barge.";
-  }
-  return words;
+std::string Vessel_Words(bool found, const ProjectRecord& record) {
+  if (!found || record.DisposalMethod != kBarge) return "";
+  return " The vessel is a hopper's, the project a barge's.";
+}
+
+/// How the walk went past the vessels before the one that was looked for.
+std::string Passed_Words(int place, int openings) {
+  if (place <= 0) return "";
+  return "The vessels before the chosen one were passed by " +
+         Counted(static_cast<std::size_t>(std::max(openings, 0)), "opening") + " each.";
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ void Accept_Selection(const Database_Choices& choices, ProjectRecord& record) {
   const Board_Port& board = Port().board;
   board.set_database_used();
   std::string message = "No Selection Made For:\n";
-  std::string remarks;
+  std::string remarks, details;
   bool AllChosen = true, applied = false;
   for (std::size_t i = 0; i < kDatabaseLists; ++i) {
     const List_Row& list = kLists[i];
@@ -131,7 +131,10 @@ void Accept_Selection(const Database_Choices& choices, ProjectRecord& record) {
     applied = applied || found;
     board.set_database_line(static_cast<int>(i), list.prefix + choices[i].text);
     if (i == kVelocities && !found) remarks += " The velocity stays as it was.";
-    if (i == kVessels) remarks += Vessel_Words(choices[i].place, found, openings, record);
+    if (i == kVessels) {
+      remarks += Vessel_Words(found, record);
+      details += Passed_Words(choices[i].place, openings);
+    }
   }
   if (!AllChosen) Show_Critical(message, "BARVON DataBase");
   if (applied) {
@@ -143,7 +146,7 @@ void Accept_Selection(const Database_Choices& choices, ProjectRecord& record) {
                        (findings == 0 ? "no findings"
                                       : Counted(static_cast<std::size_t>(findings), "finding")) +
                        "." + remarks,
-                   {}});
+                   details});
 }
 
 bool Update_Database(const std::string& name, ProjectRecord& record) {

@@ -58,8 +58,8 @@ TEST_F(DatabaseData, Accept_Applies_All_Four) {
   EXPECT_EQ(record_.BINL, 20);
   EXPECT_EQ(record_.DataSaved, kFalse);
   EXPECT_EQ(record_.ScreenDataSupplied, (OneBased<Flag, 10>{}));
-  EXPECT_EQ(notes_, Lines{"The project has no findings. The vessels before it were passed by 1 "
-                          "opening each."});
+  EXPECT_EQ(notes_, Lines{"The project has no findings. [The vessels before the chosen one were "
+                          "passed by 1 opening each.]"});
 }
 
 TEST_F(DatabaseData, Accept_With_Only_A_Site_Names_The_Other_Three_A_Line_Each) {
@@ -119,8 +119,8 @@ TEST_F(DatabaseData, A_Hoppers_Vessel_In_A_Barge_Project_Is_Said) {
   record_.DisposalMethod = 3;
   findings_ = 1;
   Accept_Selection({{kNone, kNone, kNone, {"Auk", 0}}}, record_);
-  EXPECT_EQ(notes_, Lines{"The project has 1 finding. The vessel is a hopper dredge's, and the "
-                          "project empties a barge."});
+  EXPECT_EQ(notes_, Lines{"The project has 1 finding. The vessel is a hopper's, the project a "
+                          "barge's."});
 }
 
 TEST_F(DatabaseData, Missing_Lists_Are_Told_Once_With_All_Names) {

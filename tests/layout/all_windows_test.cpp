@@ -316,6 +316,7 @@ void Look_At_Database(Main_Bench& bench, const Look& look) {
   for (const auto& file : std::filesystem::directory_iterator(BARVON_SAMPLES "/database")) {
     std::filesystem::copy_file(file.path(), bench.folder / file.path().filename().string());
   }
+  Project().NOPENS = 1;  // by which the walk passes the vessels
   QWidget& screen = Opened("DataBase");
   look(screen, "as it opens");
   for (auto* list : screen.findChildren<QComboBox*>()) list->setCurrentIndex(list->count() - 1);

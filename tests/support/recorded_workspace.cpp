@@ -39,7 +39,9 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
   port.dilution.close = [this] { log_.push_back("close dilution"); };
   port.board.show_recent_menu = [this] { log_.push_back("recent menu"); };
   port.board.show_main_board = [this] { log_.push_back("main board"); };
-  port.board.show_note = [this](const Status_Note& note) { notes_.push_back(note.text); };
+  port.board.show_note = [this](const Status_Note& note) {
+    notes_.push_back(note.text + (note.details.empty() ? "" : " [" + note.details + "]"));
+  };
   port.text.has_changed = [this] { return text_has_changed_; };
   port.text.caption = [] { return std::string("Untitled"); };
   port.text.print = [this] { log_.push_back("print"); };
