@@ -333,7 +333,9 @@ TEST_F(VelocityScreen, Cancel_Puts_Back_The_Type_And_Closes) {
     if (cancel == 1) QTest::keyClick(Screen(), Qt::Key_Escape);
     if (cancel == 2) static_cast<QWidget*>(Screen())->close();
     EXPECT_FALSE(Is_Open());
-    EXPECT_EQ(Changed(), Fields{"DataSaved"});
+    Fields changed = Changed();
+    std::erase(changed, "DataSaved");  // where the type was another
+    EXPECT_EQ(changed, Fields{});
   }
 }
 
