@@ -6,6 +6,7 @@
 #include "core/density_limits.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/text_tools.h"
 #include "material/amden.h"
 #include "platform/ask/message_box.h"
@@ -125,7 +126,7 @@ void Save_Data(Density_Entry& entry, ProjectRecord& record) {
 Density_Copy Copy_Density(const ProjectRecord& record) { return {record.SiteDensity}; }
 
 void Reset_Vars(const Density_Copy& copy, ProjectRecord& record) {
-  record.SiteDensity = copy.SiteDensity;
+  Put_Back(copy.SiteDensity, record.SiteDensity, record);
 }
 
 }  // namespace barvon

@@ -37,6 +37,10 @@ Material_Copy Copy_Material(const ProjectRecord& record) {
   return copy;
 }
 
-void Reset_Vars(const Material_Copy& copy, ProjectRecord& record) { Copy_Parts(copy, record); }
+void Reset_Vars(const Material_Copy& copy, ProjectRecord& record) {
+  if (Copy_Material(record) == copy) return;
+  Copy_Parts(copy, record);
+  record.DataSaved = kFalse;
+}
 
 }  // namespace barvon

@@ -17,9 +17,12 @@ struct Material_Copy {
   OneBased<double, kSolidEntries> SolidSG{}, SolidFallVelocity{}, SolidVoidRatio{},
       SolidCriticalShear{};
   OneBased<std::int16_t, kSolidEntries> SolidCohesive{}, SolidStripped{};
+
+  bool operator==(const Material_Copy&) const = default;
 };
 
 Material_Copy Copy_Material(const ProjectRecord& record);
+/// The project may have been saved meanwhile: a record that changes has to be saved again.
 void Reset_Vars(const Material_Copy& copy, ProjectRecord& record);
 
 }  // namespace barvon

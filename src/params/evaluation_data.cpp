@@ -6,6 +6,7 @@
 #include "core/format_pattern.h"
 #include "core/keys.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/wizard_answers.h"
 #include "params/site_plan.h"
 #include "platform/ask/message_box.h"
@@ -320,10 +321,10 @@ Evaluation_Shape Shape_Of_Evaluation(const ProjectRecord& record, bool led) {
 Field_Table Evaluation_Fields(bool boundary) { return boundary ? kAllRows : kRowsWithoutBoundary; }
 
 void Reset_Vars(const Evaluation_Copy& copy, ProjectRecord& record) {
-  if (copy.ZidFlag) record.ZidFlag = *copy.ZidFlag;
-  if (copy.NumOutputDepths) record.NumOutputDepths = *copy.NumOutputDepths;
+  if (copy.ZidFlag) Put_Back(*copy.ZidFlag, record.ZidFlag, record);
+  if (copy.NumOutputDepths) Put_Back(*copy.NumOutputDepths, record.NumOutputDepths, record);
   for (int i = 1; i <= kMaxOutputDepths; ++i) {
-    if (copy.OutputDepths[i]) record.OutputDepths[i] = *copy.OutputDepths[i];
+    if (copy.OutputDepths[i]) Put_Back(*copy.OutputDepths[i], record.OutputDepths[i], record);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <array>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -179,6 +180,7 @@ void frmMdlkyn::Connect() {
       When_Focused(field, [this, corner = Corner_Of({array, i})] { Choose_Corner(corner); });
     }
   }
+  connect(SSTab1, &QTabWidget::currentChanged, this, &frmMdlkyn::Choose_Corner_Of_Tab);
   connect(plan_, &Plan_Picture::Point_Chosen, this, &frmMdlkyn::Plan_Clicked);
   When_Left(Text8(kOutputCount), {Command1(kOk), Command1(kCancel), Command1(kHelp)}, [this] {
     if (!Entered_Output_Count(Text8(kOutputCount)->text().toStdString())) Tell_Count();
@@ -188,7 +190,7 @@ void frmMdlkyn::Connect() {
 void frmMdlkyn::Opening() {
   Hold_Output_Count(record_);
   copy_ = {};
-  told_count_.reset();
+  told_count_ = false;
   SSTab1->setCurrentIndex(kDescriptionTab);
   Field_Texts texts = Fill_Fields(Evaluation_Fields(true), record_);
   texts("Text8", kOutputCount) = Output_Count_Text(record_);
@@ -236,11 +238,15 @@ void frmMdlkyn::Check3D1_Click() {
   Text6->setEnabled(wanted);
   // Its corners have no fields to go to any more.
   if (!wanted && corner_.top.array == "Text5") Choose_Corner({});
+  Choose_Corner_Of_Tab();
   Show_Site();
 }
 
 void frmMdlkyn::Text8_Change(int index) {
-  if (index == kOutputCount) Lock_Depths();
+  if (index == kOutputCount) {
+    told_count_ = false;
+    Lock_Depths();
+  }
   if (FillingForm) return;
   if (index == kOutputCount) {
     Take_Output_Count(Text8(kOutputCount)->text().toStdString(), copy_, record_);
@@ -268,6 +274,15 @@ void frmMdlkyn::Choose_Corner(const Plan_Corner& corner) {
       QStringLiteral("A click puts %1.").arg(QString::fromStdString(Words_Of(corner, record_))));
 }
 
+/// The plan offers a corner of the rectangle whose tab is in front; of the rectangle that it offers
+/// already the corner stays.
+void frmMdlkyn::Choose_Corner_Of_Tab() {
+  std::string_view array = corner_.top.array;
+  if (SSTab1->currentIndex() == kDescriptionTab) array = "Text";
+  if (SSTab1->currentIndex() == kZidTab && Check3D1->isChecked()) array = "Text5";
+  if (corner_.top.array != array) Choose_Corner(Corner_Of({array, kCornerTop}));
+}
+
 void frmMdlkyn::Plan_Clicked(const Feet_Point& point) {
   if (!Agrees_To_Put(Words_Of(corner_, record_), point)) return;
   const ControlArray<QLineEdit>& lines = corner_.top.array == "Text5" ? Text5 : Text;
@@ -279,17 +294,16 @@ void frmMdlkyn::Show_Site() {
   plan_->Show(Draw_Site(Entered_Site(Input(), shape_.boundary, record_)));
 }
 
-/// Whether OK may take the number of depths. One out of range is told first; given once more as it
-/// stands, it is meant.
+/// Whether OK may take the number of depths. One out of range is told first, also when leaving the
+/// field has told it; given once more as it stands, it is meant.
 bool frmMdlkyn::Accepts_Count() {
-  const std::string typed = Text8(kOutputCount)->text().toStdString();
-  if (Entered_Output_Count(typed) || told_count_ == typed) return true;
+  if (told_count_ || Entered_Output_Count(Text8(kOutputCount)->text().toStdString())) return true;
+  told_count_ = true;
   Tell_Count();
   return false;
 }
 
 void frmMdlkyn::Tell_Count() {
-  told_count_ = Text8(kOutputCount)->text().toStdString();
   Tell_Output_Count();
   SSTab1->setCurrentIndex(kOutputTab);
   Text8(kOutputCount)->setFocus(Qt::OtherFocusReason);

@@ -6,8 +6,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabWidget>
-#include <optional>
-#include <string>
 
 #include "core/project_record.h"
 #include "params/evaluation_data.h"
@@ -42,6 +40,7 @@ class frmMdlkyn : public Input_Screen {
   void Text8_Change(int index);
   void Lock_Depths();
   void Choose_Corner(const Plan_Corner& corner);
+  void Choose_Corner_Of_Tab();
   void Plan_Clicked(const Feet_Point& point);
   void Show_Site();
   bool Accepts_Count();
@@ -52,8 +51,8 @@ class frmMdlkyn : public Input_Screen {
 
   ProjectRecord& record_;
   Evaluation_Shape shape_;
-  Evaluation_Copy copy_;                   // for Cancel
-  std::optional<std::string> told_count_;  // the number that the box was last shown for
+  Evaluation_Copy copy_;     // for Cancel
+  bool told_count_ = false;  // an OK has told of the number that stands there
 
   ControlArray<QLineEdit> Text{this, "Text", kCornerFields};
   ControlArray<QLineEdit> Text1{this, "Text1", kLimitFields};

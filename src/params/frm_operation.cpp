@@ -69,6 +69,7 @@ QWidget* frmOperation::Fields() {
 void frmOperation::Fill_Frames() {
   F1Book1->setAccessibleName(Frame3D1->title());
   F1Book1->SetNumberNote(Real_Note);
+  F1Book1->Ask_For_Rows(kMaxLayers);
   (new QVBoxLayout(Frame3D1))->addWidget(F1Book1);
   Check3D1->setText(QStringLiteral("Dumping over a Depression?"));
   Field_Rows rows(Frame3D2);

@@ -7,6 +7,7 @@
 #include "core/keys.h"
 #include "core/model_input/vessel_footprint.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/record_columns.h"
 #include "core/wizard_answers.h"
 #include "platform/ask/message_box.h"
@@ -69,6 +70,28 @@ void Keep_Former(const std::vector<double>& former, const ProjectRecord& record,
   copy.after = Values_Of(record);
 }
 
+constexpr double ProjectRecord::*kHole[kDepressionFields] = {
+    &ProjectRecord::XHOLE, &ProjectRecord::ZHOLE, &ProjectRecord::DHOLE};
+
+/// The depression goes out of the record; its fields go on showing it.
+Dropped_Depression Drop_Depression(const Field_Texts& texts, ProjectRecord& record) {
+  Dropped_Depression dropped;
+  for (std::size_t i = 0; i < kDepressionFields; ++i) {
+    dropped[i] = {texts("Text3", static_cast<int>(i)), record.*kHole[i]};
+    record.*kHole[i] = 0;
+  }
+  return dropped;
+}
+
+/// Fields that show what they showed when the depression was dropped stand for its values: the
+/// texts may be rounded.
+void Declare_Again(const Dropped_Depression& dropped, const Field_Texts& texts,
+                   ProjectRecord& record) {
+  for (std::size_t i = 0; i < kDepressionFields; ++i) {
+    if (texts("Text3", static_cast<int>(i)) == dropped[i].text) record.*kHole[i] = dropped[i].feet;
+  }
+}
+
 void Stop_Vessel(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
   for (int i = 1; i <= record.NOPENS; ++i) {
     for (const int column : {kXColumn, kZColumn}) F1Book1.NumberRC(i, column, 0);
@@ -76,9 +99,22 @@ void Stop_Vessel(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
   }
 }
 
+/// All velocities from a row on become 0, in one step of the history.
+void Wipe_Rows(int first, Spreadsheet_Table& F1Book1) {
+  const Edit_Step step(F1Book1);
+  for (int row = first; row <= kMaxLayers; ++row) {
+    for (const int column : {kXColumn, kZColumn}) F1Book1.NumberRC(row, column, 0);
+  }
+}
+
 void Store_Openings(Spreadsheet_Table& F1Book1, ProjectRecord& record) {
-  // A number that was brought in can ask for rows that are not shown.
-  if (record.NOPENS > F1Book1.MaxRow()) F1Book1.MaxRow(record.NOPENS);
+  // A number that was brought in can ask for rows that are not shown: what they hold was never
+  // seen, so it does not count.
+  const int shown = F1Book1.MaxRow();
+  if (record.NOPENS > shown) {
+    F1Book1.MaxRow(record.NOPENS);
+    Wipe_Rows(shown + 1, F1Book1);
+  }
   Shown_Columns(kVelocityColumns).Store(F1Book1, record.NOPENS, record);
 }
 
@@ -88,7 +124,8 @@ void Reset_Vars(const Operation_Copy& copy, ProjectRecord& record) {
   if (copy.before.empty()) return;
   std::size_t i = 0;
   For_Each_Value(record, [&](auto& value) {
-    if (value == copy.after[i]) value = static_cast<std::decay_t<decltype(value)>>(copy.before[i]);
+    using Value = std::decay_t<decltype(value)>;
+    if (value == copy.after[i]) Put_Back(static_cast<Value>(copy.before[i]), value, record);
     ++i;
   });
 }
@@ -137,10 +174,8 @@ std::string Take_Openings(const std::string& typed, Spreadsheet_Table& F1Book1) 
   const int rows = static_cast<int>(openings);
   if (rows != F1Book1.MaxRow()) {
     F1Book1.MaxRow(rows);
-    const Edit_Step step(F1Book1);
-    for (int row = 1; row <= rows; ++row) {
-      for (const int column : {kXColumn, kZColumn}) F1Book1.NumberRC(row, column, 0);
-    }
+    // The rows behind too: a later number must not bring up velocities that nobody sees now.
+    Wipe_Rows(1, F1Book1);
   }
   return Format_Number(openings, kOpeningsPattern);
 }
@@ -158,13 +193,17 @@ Operation_Result Save_Operation(const Operation_Entry& entry, Operation_Copy& co
     return {false, entry.Check3D1, refused->control};
   }
   record.DataSaved = kFalse;
+  if (copy.dropped && entry.Check3D1) Declare_Again(*copy.dropped, entry.texts, record);
   if (Has_Openings(record)) Store_Openings(F1Book1, record);
   Operation_Result result{true, entry.Check3D1};
   if (Is_Hopper(record) && entry.Check3D1) {
     const Answer answer = Ask(kMustLieStill, Buttons::YesNoCancel);
     result.CanClose = answer == Answer::Yes;
     if (answer == Answer::Yes) Stop_Vessel(F1Book1, record);
-    if (answer == Answer::No) result.Check3D1 = false;
+    if (answer == Answer::No) {
+      copy.dropped = Drop_Depression(entry.texts, record);
+      result.Check3D1 = false;
+    }
   }
   // A pipeline's screen does not show the depression.
   if (Has_Vessel(record) && !result.Check3D1) record.XHOLE = record.ZHOLE = record.DHOLE = 0;

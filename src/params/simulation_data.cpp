@@ -6,6 +6,7 @@
 #include "core/format_pattern.h"
 #include "core/keys.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/record_columns.h"
 #include "platform/ask/message_box.h"
 #include "platform/table/table_width.h"
@@ -84,9 +85,12 @@ double Drawn_Time(const Spreadsheet_Table& F1Book1, int row) {
 Field_Table Simulation_Fields() { return kRows; }
 
 void Reset_Vars(const Simulation_Copy& copy, ProjectRecord& record) {
-  if (copy.PrintConvectiveDescent) record.PrintConvectiveDescent = *copy.PrintConvectiveDescent;
-  if (copy.PrintCollapse) record.PrintCollapse = *copy.PrintCollapse;
-  if (copy.NumPrintTimes) record.NumPrintTimes = *copy.NumPrintTimes;
+  const auto put_back = [&](const std::optional<std::int16_t>& former, std::int16_t& field) {
+    if (former) Put_Back(*former, field, record);
+  };
+  put_back(copy.PrintConvectiveDescent, record.PrintConvectiveDescent);
+  put_back(copy.PrintCollapse, record.PrintCollapse);
+  put_back(copy.NumPrintTimes, record.NumPrintTimes);
 }
 
 void Hold_Print_Count(ProjectRecord& record) {

@@ -7,6 +7,7 @@
 #include "core/format_pattern.h"
 #include "core/keys.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/velocity_types.h"
 #include "core/wizard_answers.h"
 #include "material/amden.h"
@@ -152,15 +153,15 @@ Site_Copy Copy_Site(const Site_Entry& entry, const ProjectRecord& record) {
 }
 
 void Reset_Vars(const Site_Copy& copy, ProjectRecord& record) {
-  record.NMAX0 = copy.NMAX0;
-  record.MMAX0 = copy.MMAX0;
-  record.NROA0 = copy.NROA0;
-  record.DZ0 = copy.DZ0;
-  record.DX0 = copy.DX0;
-  record.RHDA0 = copy.RHDA0;
-  record.SLOPEX0 = copy.SLOPEX0;
-  record.SLOPEZ0 = copy.SLOPEZ0;
-  record.DEPC0 = copy.DEPC0;
+  Put_Back(copy.NMAX0, record.NMAX0, record);
+  Put_Back(copy.MMAX0, record.MMAX0, record);
+  Put_Back(copy.NROA0, record.NROA0, record);
+  Put_Back(copy.DZ0, record.DZ0, record);
+  Put_Back(copy.DX0, record.DX0, record);
+  Put_Back(copy.RHDA0, record.RHDA0, record);
+  Put_Back(copy.SLOPEX0, record.SLOPEX0, record);
+  Put_Back(copy.SLOPEZ0, record.SLOPEZ0, record);
+  Put_Back(copy.DEPC0, record.DEPC0, record);
 }
 
 }  // namespace barvon

@@ -6,6 +6,7 @@
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
+#include "core/put_back.h"
 #include "core/wizard_answers.h"
 #include "site/velocity_fields.h"
 
@@ -221,11 +222,13 @@ Velocity_Copy Copy_Velocity(const ProjectRecord& record) {
 }
 
 void Reset_Vars(const Velocity_Copy& copy, ProjectRecord& record) {
-  record.VelocityProfileType = copy.VelocityProfileType;
-  record.AvgVelocityDepth = copy.AvgVelocityDepth;
-  record.AvgVelocityX = copy.AvgVelocityX;
-  record.AvgVelocityZ = copy.AvgVelocityZ;
+  Put_Back(copy.VelocityProfileType, record.VelocityProfileType, record);
+  Put_Back(copy.AvgVelocityDepth, record.AvgVelocityDepth, record);
+  Put_Back(copy.AvgVelocityX, record.AvgVelocityX, record);
+  Put_Back(copy.AvgVelocityZ, record.AvgVelocityZ, record);
+  if (Two_Points(record) == copy.two_points) return;
   Store_Two_Points(copy.two_points, record);
+  record.DataSaved = kFalse;
 }
 
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction) {

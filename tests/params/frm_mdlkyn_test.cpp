@@ -377,7 +377,7 @@ TEST_F(EvaluationScreen, Cancel_Takes_Back_The_Zid) {
   Click(Child<QCheckBox>("Check3D1"));
   Command(1);
   EXPECT_FALSE(Is_Open());
-  EXPECT_EQ(Changed(), Fields{});
+  EXPECT_EQ(Changed(), Fields{"DataSaved"});
 }
 
 TEST_F(EvaluationScreen, Cancel_Takes_Back_Depths_And_Their_Number) {
@@ -391,7 +391,7 @@ TEST_F(EvaluationScreen, Cancel_Takes_Back_Depths_And_Their_Number) {
   EXPECT_EQ(record.NumOutputDepths, 5);
   EXPECT_EQ(record.OutputDepths[5], 55);
   Command(1);
-  EXPECT_EQ(Changed(), Fields{});
+  EXPECT_EQ(Changed(), Fields{"DataSaved"});
 }
 
 TEST_F(EvaluationScreen, Escape_Is_Cancel_And_Says_Nothing_Of_The_Number) {
@@ -491,6 +491,28 @@ TEST_F(EvaluationScreen, OK_Tells_A_Number_Out_Of_Range_And_Takes_It_When_Confir
     EXPECT_EQ(Count()->text(), QString::number(std::max(stored, 1)));
     Command(1);
   }
+}
+
+TEST_F(EvaluationScreen, The_First_OK_Tells_The_Number_Again_That_Leaving_Its_Field_Told) {
+  Open(1);
+  Show_Tab(2);
+  Modal_Replies replies({Press(QMessageBox::Ok), Press(QMessageBox::Ok), Press(QMessageBox::Ok)});
+  Enter(Count(), "6");
+  QTest::keyClick(Count(), Qt::Key_Tab);
+  ASSERT_TRUE(Wait_Until([&] { return replies.windows == 1 && Is_In(Count()); }));
+  Back_At_The_Screen();
+  Command(0);
+  EXPECT_EQ(replies.windows, 2);
+  ASSERT_TRUE(Is_Open());
+  // Another number and the same again: that is a new one.
+  Enter(Count(), "4");
+  Enter(Count(), "6");
+  Command(0);
+  EXPECT_EQ(replies.windows, 3);
+  ASSERT_TRUE(Is_Open());
+  Command(0);
+  EXPECT_FALSE(Is_Open());
+  EXPECT_EQ(record.NumOutputDepths, 5);
 }
 
 TEST_F(EvaluationScreen, A_Refused_OK_Stores_Nothing) {
@@ -683,6 +705,29 @@ TEST_F(EvaluationScreen, A_Point_Of_The_Plan_Goes_To_The_Corner_Whose_Field_Was_
   EXPECT_EQ(Changed(), Fields{});
   Field("Text(0)")->undo();
   EXPECT_EQ(Field("Text(0)")->text(), "1200");
+}
+
+TEST_F(EvaluationScreen, The_Plan_Offers_A_Corner_Of_The_Rectangle_In_Front) {
+  Open(5);
+  const auto offered = [&] {
+    Modal_Replies replies({Press(QMessageBox::No)});
+    Point_At({100, 200});
+    Back_At_The_Screen();
+    const std::string text = replies.seen.at(0).text.toStdString();
+    return text.substr(0, text.find(" at X"));
+  };
+  Show_Tab(1);
+  EXPECT_EQ(offered(), "Put the upper left corner of the mixing zone");  // there is no ZID yet
+  Click(Child<QCheckBox>("Check3D1"));
+  EXPECT_EQ(offered(), "Put the upper left corner of the ZID");
+  Show_Tab(0);
+  EXPECT_EQ(offered(), "Put the upper left corner of the mixing zone");
+  Show_Tab(1);
+  EXPECT_EQ(offered(), "Put the upper left corner of the ZID");
+  Field("Text5(2)")->setFocus();
+  EXPECT_EQ(offered(), "Put the lower right corner of the ZID");
+  Show_Tab(2);
+  EXPECT_EQ(offered(), "Put the lower right corner of the ZID");
 }
 
 TEST_F(EvaluationScreen, A_Click_On_The_Plan_Is_A_Point_In_Feet) {

@@ -171,6 +171,26 @@ TEST_F(OperationScreen, A_Seventh_Opening_Is_Told_At_The_Keystroke_And_Is_6_At_O
   EXPECT_EQ(record.NOPENS, 6);
 }
 
+TEST_F(OperationScreen, Typing_10_Over_6_Stores_No_Velocity_That_Was_Not_Seen) {
+  record.NOPENS = 6;
+  Open();
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  Enter(Text2(), "10");
+  EXPECT_EQ(replies.windows, 1);
+  Command(0);
+  EXPECT_EQ(record.NOPENS, 6);
+  for (int i = 1; i <= kMaxLayers; ++i) EXPECT_EQ(record.LayerVelX[i], 0) << i;
+}
+
+TEST_F(OperationScreen, The_Table_Has_Room_For_All_Rows_Before_They_Come) {
+  Open();
+  const QSize before_rows = Book().sizeHint();
+  Enter(Text2(), "6");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Book().sizeHint().height(), before_rows.height());
+  EXPECT_GE(Book().viewport()->height(), 6 * Book().rowHeight(0));
+}
+
 TEST_F(OperationScreen, A_Number_From_A_File_Is_Brought_In_Without_A_Box) {
   record.NOPENS = 40;
   Open();
@@ -291,7 +311,7 @@ TEST_F(OperationScreen, No_To_The_Question_Switches_The_Depression_Off_Here_And_
 }
 
 TEST_F(OperationScreen, A_Depression_That_Was_Dropped_Can_Be_Declared_Again) {
-  record.XHOLE = 500;
+  record.XHOLE = 500.4;
   record.ZHOLE = 400;
   Open();
   Modal_Replies replies({Press(QMessageBox::No), Press(QMessageBox::Yes)});
@@ -299,7 +319,7 @@ TEST_F(OperationScreen, A_Depression_That_Was_Dropped_Can_Be_Declared_Again) {
   Click(Check3D1());
   Command(0);
   EXPECT_FALSE(Is_Open());
-  EXPECT_EQ(record.XHOLE, 500);
+  EXPECT_EQ(record.XHOLE, 500.4);
   EXPECT_EQ(record.ZHOLE, 400);
 }
 

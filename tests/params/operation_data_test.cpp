@@ -190,6 +190,42 @@ TEST_F(OperationData, Another_Number_Of_Openings_Wipes_The_Velocities) {
   EXPECT_EQ(Rows(), "Set 1: 1 -1, Set 2: 2 -2, Set 3: 3 -3");
 }
 
+TEST_F(OperationData, Rows_That_Are_Not_Shown_Are_Wiped_Too_And_Come_Back_With_One_Undo) {
+  record_.NOPENS = 6;
+  Fill();
+  Take_Openings("1", table_);
+  table_.MaxRow(6);
+  EXPECT_EQ(Rows(), "Set 1: 0 0, Set 2: 0 0, Set 3: 0 0, Set 4: 0 0, Set 5: 0 0, Set 6: 0 0");
+  table_.Undo();
+  EXPECT_EQ(Rows(), "Set 1: 1 -1, Set 2: 2 -2, Set 3: 3 -3, Set 4: 4 -4, Set 5: 5 -5, Set 6: 6 -6");
+}
+
+TEST_F(OperationData, Velocities_That_Were_Not_Shown_Are_Stored_As_0) {
+  // 10 typed over 6: the 1 on the way leaves one row.
+  record_.NOPENS = 6;
+  Fill();
+  Take_Openings("1", table_);
+  {
+    const Scripted_Messages messages({Answer::Ok});
+    Take_Openings("10", table_);
+  }
+  entry_.texts("Text2") = "10";
+  EXPECT_TRUE(Save().CanClose);
+  EXPECT_EQ(record_.NOPENS, 6);
+  for (int i = 1; i <= kMaxLayers; ++i) EXPECT_EQ(record_.LayerVelX[i], 0) << i;
+  // 7 typed over 2: the two rows that show stay.
+  record_.NOPENS = 2;
+  for (int i = 1; i <= kMaxLayers; ++i) record_.LayerVelZ[i] = -i;
+  Fill();
+  {
+    const Scripted_Messages messages({Answer::Ok});
+    Take_Openings("7", table_);
+  }
+  entry_.texts("Text2") = "7";
+  EXPECT_TRUE(Save().CanClose);
+  for (int i = 1; i <= kMaxLayers; ++i) EXPECT_EQ(record_.LayerVelZ[i], i <= 2 ? -i : 0) << i;
+}
+
 TEST_F(OperationData, The_Number_Of_The_Rows_Shown_Wipes_Nothing) {
   EXPECT_EQ(Take_Openings("", table_), "");
   EXPECT_EQ(Take_Openings("2", table_), "2");
@@ -411,6 +447,31 @@ TEST_F(OverADepression, Cancel_Of_The_Screen_Brings_Back_What_A_Refused_OK_Store
     EXPECT_EQ(Changed(), Names{"DataSaved"});
     record_.DataSaved = kTrue;
   }
+}
+
+TEST_F(OverADepression, Dropped_And_Declared_Again_It_Has_All_Its_Digits) {
+  record_.XHOLE = 200.4, record_.ZHOLE = 150.3, record_.DHOLE = 12.34;
+  Fill();
+  EXPECT_FALSE(Save({Answer::No}).CanClose);
+  EXPECT_EQ(record_.XHOLE, 0);
+  EXPECT_EQ(record_.DHOLE, 0);
+  // The screen's fields are filled anew, with the 0 that the record has; their texts stand.
+  for (int i = 0; i < kDepressionFields; ++i) entry_.texts.Set_Filled({"Text3", i}, "0");
+  entry_.texts("Text3", 1) = "160";
+  EXPECT_TRUE(Save({Answer::Yes}).CanClose);
+  EXPECT_EQ(record_.XHOLE, 200.4);
+  EXPECT_EQ(record_.ZHOLE, 160);
+  EXPECT_EQ(record_.DHOLE, 12.34);
+}
+
+TEST_F(OverADepression, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  entry_.Check3D1 = true;
+  entry_.texts("Text1", 0) = "77";
+  Save({Answer::Cancel});
+  record_.DataSaved = kTrue;
+  Reset_Vars(copy_, record_);
+  EXPECT_EQ(record_.XBARGE, 1200.126);
+  EXPECT_EQ(record_.DataSaved, kFalse);
 }
 
 TEST_F(OverADepression, Cancel_After_Two_Refused_OKs_Goes_Back_To_The_Opening) {

@@ -226,6 +226,14 @@ TEST_F(SimulationData, Cancel_Restores_What_The_Screen_Wrote_And_Nothing_Else) {
   EXPECT_EQ(Changed(), Names{});
 }
 
+TEST_F(SimulationData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  Fill(4);
+  Choose_Printing(kPrintsDescent, record_.PrintConvectiveDescent == 0, copy_, record_);
+  record_.DataSaved = kTrue;
+  Reset_Vars(copy_, record_);
+  EXPECT_EQ(record_.DataSaved, kFalse);
+}
+
 TEST_F(SimulationData, Each_Box_Is_In_The_Record_At_Once_And_Cancel_Takes_It_Back) {
   Fill(4);
   Choose_Printing(kPrintsDescent, true, copy_, record_);

@@ -321,6 +321,16 @@ TEST_F(SiteData, Cancel_Restores_Its_Nine_Fields_And_No_Others) {
             (Names{"DistX", "DistZ", "ConstantDepthFlag", "DensityDepths", "Densities"}));
 }
 
+TEST_F(SiteData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  const Site_Copy copy = Copy_Site(Entry(), record_);
+  record_.DataSaved = kTrue;
+  Reset_Vars(copy, record_);
+  EXPECT_EQ(record_.DataSaved, kTrue);
+  record_.DX0 += 1;
+  Reset_Vars(copy, record_);
+  EXPECT_EQ(record_.DataSaved, kFalse);
+}
+
 RC_GTEST_PROP(SiteDataProperty, A_Saved_Site_Is_Always_Within_Its_Limits, ()) {
   const auto record = std::make_unique<ProjectRecord>();
   const auto table = Typed_Profile({{0, 1}, {1, 1}});

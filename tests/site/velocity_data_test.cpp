@@ -294,6 +294,18 @@ TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
                                 "TidalAvgVelZ", "TidalVelX", "TidalVelZ", "SimulationDuration"}));
 }
 
+TEST_F(VelocityData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  for (double ProjectRecord::*field : {&ProjectRecord::AvgVelocityX, &ProjectRecord::VelZ2}) {
+    const Velocity_Copy saved = Copy_Velocity(record);
+    record.DataSaved = kTrue;
+    Reset_Vars(saved, record);
+    EXPECT_EQ(record.DataSaved, kTrue);
+    record.*field += 1;
+    Reset_Vars(saved, record);
+    EXPECT_EQ(record.DataSaved, kFalse);
+  }
+}
+
 TEST_F(VelocityData, What_Is_Not_Typed_Keeps_The_Digits_That_Are_Not_Shown) {
   record.VelocityProfileType = kSingleVelocity;
   record.AvgVelocityDepth = 30.664;

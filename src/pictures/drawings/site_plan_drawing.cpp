@@ -187,18 +187,22 @@ class Drawn_Site {
   void Add_Course() {
     if (!Has_Point() || !Holds(limit_, *site_.disposal_point)) return;
     Feet_Point at = *site_.disposal_point;
+    Plan_Arrow course{at, at, {kVesselInk, 1.5}};
     bool leaves_grid = false;
     for (const Vessel_Leg& leg : site_.course) {
       const Feet_Point to = {at.x + leg.x * leg.seconds, at.z + leg.z * leg.seconds};
       if (!(leg.seconds > 0) || !Has_Place(to) || to == at) continue;
       const Feet_Point shown = Cut(at, to);
       Take_In(shown);
-      plan_.arrows.push_back({at, shown, {kVesselInk, 1.5}});
+      if (!(course.tip == course.tail) || !course.bends.empty()) course.bends.push_back(course.tip);
+      course.tip = shown;
       leaves_grid = leaves_grid || !Holds(grid_, to);
       at = to;
       if (!(shown == to)) break;
     }
-    if (!plan_.arrows.empty()) Say("While it empties, the vessel moves to " + Words_Of(at) + ".");
+    if (at == *site_.disposal_point && course.bends.empty()) return;
+    plan_.arrows.push_back(std::move(course));
+    Say("While it empties, the vessel moves to " + Words_Of(at) + ".");
     if (leaves_grid && Holds(grid_, *site_.disposal_point))
       Note("The vessel's course leaves the grid.");
   }

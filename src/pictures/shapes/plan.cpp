@@ -50,17 +50,28 @@ Shape Placed(const Plan_Frame& frame, Shape shape, double scale, double text_siz
   return shape;
 }
 
-void Add_Arrow(Shape_List& picture, const Place& tail, const Place& tip, const Stroke& stroke) {
-  const double length = std::hypot(tip.x - tail.x, tip.y - tail.y);
+double Distance(const Place& from, const Place& to) {
+  return std::hypot(to.x - from.x, to.y - from.y);
+}
+
+void Add_Arrow(Shape_List& picture, const Plan_Frame& frame, const Plan_Arrow& arrow) {
+  std::vector<Place> way = {frame.At(arrow.tail)};
+  for (const Feet_Point& bend : arrow.bends) way.push_back(frame.At(bend));
+  const Place tip = frame.At(arrow.tip), last = way.back();
+  double length = Distance(last, tip);
   if (!(length > 0)) return;
+  const Place along{(tip.x - last.x) / length, (tip.y - last.y) / length};
+  const double last_part = length;
+  for (std::size_t i = 1; i < way.size(); ++i) length += Distance(way[i - 1], way[i]);
+  // By the whole way: a last part may be short.
   const double head = std::min(kLargestHead, kHeadPart * length);
-  const Place along{(tip.x - tail.x) / length, (tip.y - tail.y) / length};
   const Place neck{tip.x - along.x * head, tip.y - along.y * head};
   const Place across{-along.y * head * kWide, along.x * head * kWide};
-  picture.shapes.push_back(Line_Shape{{tail, neck}, stroke});
+  if (last_part > head) way.push_back(neck);
+  if (way.size() > 1) picture.shapes.push_back(Line_Shape{way, arrow.stroke});
   picture.shapes.push_back(Polygon_Shape{
       {tip, {neck.x + across.x, neck.y + across.y}, {neck.x - across.x, neck.y - across.y}},
-      stroke.colour,
+      arrow.stroke.colour,
       {}});
 }
 
@@ -107,9 +118,7 @@ Shape_List Plan_Shapes(const Plan& plan, const Canvas& canvas) {
   for (const Shape& shape : plan.shapes) {
     picture.shapes.push_back(Placed(frame, shape, frame.Pixels_Per_Foot(), canvas.text_size));
   }
-  for (const Plan_Arrow& arrow : plan.arrows) {
-    Add_Arrow(picture, frame.At(arrow.tail), frame.At(arrow.tip), arrow.stroke);
-  }
+  for (const Plan_Arrow& arrow : plan.arrows) Add_Arrow(picture, frame, arrow);
   for (const Shape& shape : plan.marks) {
     picture.shapes.push_back(Placed(frame, shape, 1, canvas.text_size));
   }

@@ -24,10 +24,11 @@ struct Feet_Area {
 /// The point as a shape of a plan has it.
 inline Place On_Plan(const Feet_Point& point) { return {point.z, point.x}; }
 
-/// An arrow between two points, its head in pixels.
+/// An arrow between two points, past the bends in between. It has one head, in pixels, at its tip.
 struct Plan_Arrow {
   Feet_Point tail, tip;
   Stroke stroke;
+  std::vector<Feet_Point> bends = {};
 };
 
 /// A picture of a part of the site, to scale. The places of its shapes are in feet (`On_Plan`),

@@ -42,6 +42,8 @@ void Apply_Light_Palette(QApplication& application) {
     palette.setColor(QPalette::Disabled, role, faint);
   }
   palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(200, 203, 208));
+  // What is selected in a table that cannot be used is still to be read.
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(72, 76, 82));
   // An empty field has no text that could be grey.
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(226, 228, 232));
   application.setStyle(new House_Style);

@@ -87,5 +87,23 @@ TEST(Plan, Shapes_In_Feet_Come_To_Their_Places) {
   EXPECT_TRUE(head);
 }
 
+TEST(Plan, An_Arrow_With_Bends_Has_One_Head_By_The_Length_Of_The_Whole_Way) {
+  Plan plan;
+  plan.area = kSite;
+  plan.arrows.push_back({{1000, 1000}, {1500, 2010}, {}, {{1000, 2000}, {1500, 2000}}});
+  const Plan_Frame frame(plan.area, kCanvas);
+  const Shape_List picture = Plan_Shapes(plan, kCanvas);
+  int heads = 0;
+  for (const Shape& shape : picture.shapes) {
+    const auto* polygon = std::get_if<Polygon_Shape>(&shape);
+    if (polygon == nullptr || polygon->points.size() != 3) continue;
+    ++heads;
+    EXPECT_EQ(polygon->points[0], frame.At({1500, 2010}));
+    // 9 pixels: the way has some hundred, its last part one or two.
+    EXPECT_NEAR(polygon->points[0].x - polygon->points[1].x, 9, 1e-9);
+  }
+  EXPECT_EQ(heads, 1);
+}
+
 }  // namespace
 }  // namespace barvon

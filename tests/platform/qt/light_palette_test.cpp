@@ -43,6 +43,9 @@ TEST(LightPalette, A_Disabled_Field_Differs_From_An_Enabled_One_And_Stays_Readab
     EXPECT_GE(Contrast(palette.color(QPalette::Disabled, role), ground), 3);
     EXPECT_GE(Contrast(palette.color(QPalette::Disabled, role), kBlack), 4.5);
   }
+  EXPECT_GE(Contrast(palette.color(QPalette::Disabled, QPalette::HighlightedText),
+                     palette.color(QPalette::Disabled, QPalette::Highlight)),
+            4.5);
 }
 
 }  // namespace

@@ -92,13 +92,19 @@ QSize Book_Layout::Size_Hint() const {
   const QHeaderView& rows = *view_.verticalHeader();
   const QHeaderView& cols = *view_.horizontalHeader();
   const int width = rows.sizeHint().width() + cols.length();
-  const int height = cols.sizeHint().height() + rows.length();
+  const int height =
+      cols.sizeHint().height() + std::max(rows.length(), asked_rows_ * rows.defaultSectionSize());
   // A table that scrolls in one direction must not do so in the other for the bar's sake.
   const int bar = view_.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const QSize frame(2 * view_.frameWidth(), 2 * view_.frameWidth());
   return QSize(std::min(width + (height > largest_height_ ? bar : 0), kLargestHintWidth),
                std::min(height + (width > kLargestHintWidth ? bar : 0), largest_height_)) +
          frame;
+}
+
+void Book_Layout::Ask_For_Rows(int rows) {
+  asked_rows_ = rows;
+  Tell_Size();
 }
 
 void Book_Layout::Ask_For_All_Rows() {

@@ -21,6 +21,8 @@ class Book_Layout : public QObject {
   void Lay_Out_Later();
   /// Room for a small table as a whole; a large one scrolls.
   QSize Size_Hint() const;
+  /// From now on the hint has room for that many rows, also while there are fewer.
+  void Ask_For_Rows(int rows);
   /// From now on the hint has room for all rows, however many.
   void Ask_For_All_Rows();
 
@@ -32,6 +34,7 @@ class Book_Layout : public QObject {
   QTableView& view_;
   const Spreadsheet_Table& table_;
   int largest_height_;
+  int asked_rows_ = 0;
   bool due_ = false;
   bool laying_out_ = false;
   std::map<int, int> dragged_;  // pixels, by column from 1

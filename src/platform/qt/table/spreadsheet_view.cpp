@@ -277,6 +277,8 @@ void F1Book::changeEvent(QEvent* event) {
 
 QSize F1Book::sizeHint() const { return layout_->Size_Hint(); }
 
+void F1Book::Ask_For_Rows(int rows) { layout_->Ask_For_Rows(rows); }
+
 void F1Book::Ask_For_All_Rows() { layout_->Ask_For_All_Rows(); }
 
 }  // namespace barvon

@@ -80,6 +80,9 @@ class F1Book : public QTableView {
 
   /// Room for a small table as a whole; a large one scrolls.
   QSize sizeHint() const override;
+  /// For a table whose number of rows changes on the screen: it asks for room for that many, so
+  /// that nothing moves when they come.
+  void Ask_For_Rows(int rows);
   /// For a table that is the screen's main matter: it asks for room for all its rows, and the
   /// display is the limit.
   void Ask_For_All_Rows();
