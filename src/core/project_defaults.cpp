@@ -174,7 +174,7 @@ void Set_Project_Defaults(ProjectRecord& record) {
   Set_Dilution_Defaults(record);
   Forget_Database(record);
   Compute_Site_Density_From_Bulk(record);
-  record.DataSaved = kFalse;
+  record.DataSaved = record.SavedUnderScreens = kFalse;
   record.ScreenDataSupplied = {};
 }
 

@@ -44,7 +44,9 @@ struct ProjectRecord {
   std::string BaseFileName;     // the path without its dot and extension; outputs are named from it
   double FileKind = 0;          // see keys.h
   Flag DataSaved = kFalse;      // -1 after a load or a save; 0 after an accepted screen
-  std::int16_t ShowMode = 0;    // 1 input screens open blocking, 0 non-blocking
+  // The last save took what an open input screen had written at once; its Cancel goes behind it.
+  Flag SavedUnderScreens = kFalse;
+  std::int16_t ShowMode = 0;  // 1 input screens open blocking, 0 non-blocking
   std::string ProjectTitle;
   std::string FileTypeTag;        // "   DUMP" project file, "DUE" model input
   std::int16_t AnalysisType = 0;  // see keys.h

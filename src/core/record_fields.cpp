@@ -92,6 +92,7 @@ constexpr std::array kFields = {
     Field_Of<&ProjectRecord::BaseFileName>("BaseFileName"),
     Field_Of<&ProjectRecord::FileKind>("FileKind"),
     Field_Of<&ProjectRecord::DataSaved>("DataSaved"),
+    Field_Of<&ProjectRecord::SavedUnderScreens>("SavedUnderScreens"),
     Field_Of<&ProjectRecord::ShowMode>("ShowMode"),
     Field_Of<&ProjectRecord::ProjectTitle>("ProjectTitle"),
     Field_Of<&ProjectRecord::FileTypeTag>("FileTypeTag"),

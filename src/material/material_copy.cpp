@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/put_back.h"
+
 namespace barvon {
 namespace {
 
@@ -40,7 +42,7 @@ Material_Copy Copy_Material(const ProjectRecord& record) {
 void Reset_Vars(const Material_Copy& copy, ProjectRecord& record) {
   if (Copy_Material(record) == copy) return;
   Copy_Parts(copy, record);
-  record.DataSaved = kFalse;
+  Left_Behind_The_File(record);
 }
 
 }  // namespace barvon

@@ -22,7 +22,6 @@ struct Material_Copy {
 };
 
 Material_Copy Copy_Material(const ProjectRecord& record);
-/// The project may have been saved meanwhile: a record that changes has to be saved again.
 void Reset_Vars(const Material_Copy& copy, ProjectRecord& record);
 
 }  // namespace barvon

@@ -228,7 +228,7 @@ void Reset_Vars(const Velocity_Copy& copy, ProjectRecord& record) {
   Put_Back(copy.AvgVelocityZ, record.AvgVelocityZ, record);
   if (Two_Points(record) == copy.two_points) return;
   Store_Two_Points(copy.two_points, record);
-  record.DataSaved = kFalse;
+  Left_Behind_The_File(record);
 }
 
 double& Const_Velocity(ProjectRecord& record, Velocity_Direction direction) {

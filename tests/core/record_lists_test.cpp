@@ -105,6 +105,7 @@ TEST(RecordLists, Every_Field_Is_In_The_File_But_For_Those_That_Are_Not_Of_It) {
                                "BaseFileName",
                                "FileKind",
                                "DataSaved",
+                               "SavedUnderScreens",
                                "ShowMode",
                                "FileTypeTag",
                                "AnalysisType",

@@ -58,8 +58,9 @@ TEST_F(DatabaseData, Accept_Applies_All_Four) {
   EXPECT_EQ(record_.BINL, 20);
   EXPECT_EQ(record_.DataSaved, kFalse);
   EXPECT_EQ(record_.ScreenDataSupplied, (OneBased<Flag, 10>{}));
-  EXPECT_EQ(notes_, Lines{"The project has no findings. [The vessels before the chosen one were "
-                          "passed by 1 opening each.]"});
+  EXPECT_EQ(notes_, Lines{"The project has no findings."});
+  EXPECT_EQ(note_details_,
+            Lines{"The vessels before the chosen one were passed by 1 opening each."});
 }
 
 TEST_F(DatabaseData, Accept_With_Only_A_Site_Names_The_Other_Three_A_Line_Each) {

@@ -314,7 +314,7 @@ TEST_F(DensityData, Cancel_Brings_Back_The_Density_Alone) {
   const Density_Copy copy = Copy_Density(record);
   Compute("35", "20");
   Reset_Vars(copy, record);
-  EXPECT_EQ(Changed(), (Fields{"DataSaved", "SiteSalinity", "SiteTemperature"}));
+  EXPECT_EQ(Changed(), (Fields{"SiteSalinity", "SiteTemperature"}));
   EXPECT_EQ(record.SiteSalinity, 35);
   EXPECT_EQ(record.SiteTemperature, 20);
 }

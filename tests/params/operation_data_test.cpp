@@ -468,7 +468,7 @@ TEST_F(OverADepression, Cancel_After_A_Save_Leaves_Something_To_Save) {
   entry_.Check3D1 = true;
   entry_.texts("Text1", 0) = "77";
   Save({Answer::Cancel});
-  record_.DataSaved = kTrue;
+  record_.DataSaved = record_.SavedUnderScreens = kTrue;
   Reset_Vars(copy_, record_);
   EXPECT_EQ(record_.XBARGE, 1200.126);
   EXPECT_EQ(record_.DataSaved, kFalse);

@@ -227,6 +227,7 @@ TEST_F(SimulationData, Cancel_Restores_What_The_Screen_Wrote_And_Nothing_Else) {
 }
 
 TEST_F(SimulationData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  record_.SavedUnderScreens = kTrue;
   Fill(4);
   Choose_Printing(kPrintsDescent, record_.PrintConvectiveDescent == 0, copy_, record_);
   record_.DataSaved = kTrue;

@@ -322,6 +322,7 @@ TEST_F(SiteData, Cancel_Restores_Its_Nine_Fields_And_No_Others) {
 }
 
 TEST_F(SiteData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  record_.SavedUnderScreens = kTrue;
   const Site_Copy copy = Copy_Site(Entry(), record_);
   record_.DataSaved = kTrue;
   Reset_Vars(copy, record_);

@@ -295,6 +295,7 @@ TEST_F(VelocityData, Cancel_Puts_Back_The_Type_And_Eleven_Fields_And_No_More) {
 }
 
 TEST_F(VelocityData, Cancel_After_A_Save_Leaves_Something_To_Save) {
+  record.SavedUnderScreens = kTrue;
   for (double ProjectRecord::*field : {&ProjectRecord::AvgVelocityX, &ProjectRecord::VelZ2}) {
     const Velocity_Copy saved = Copy_Velocity(record);
     record.DataSaved = kTrue;

@@ -40,7 +40,8 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
   port.board.show_recent_menu = [this] { log_.push_back("recent menu"); };
   port.board.show_main_board = [this] { log_.push_back("main board"); };
   port.board.show_note = [this](const Status_Note& note) {
-    notes_.push_back(note.text + (note.details.empty() ? "" : " [" + note.details + "]"));
+    notes_.push_back(note.text);
+    note_details_.push_back(note.details);
   };
   port.text.has_changed = [this] { return text_has_changed_; };
   port.text.caption = [] { return std::string("Untitled"); };

@@ -36,7 +36,7 @@ class Recorded_Workspace : public ::testing::Test {
   ProjectRecord& record_ = *record_owner_;
   std::vector<std::string> log_;
   std::string caption_;
-  std::vector<std::string> notes_;
+  std::vector<std::string> notes_, note_details_;
   bool text_has_changed_ = false;
   std::optional<std::string> chosen_;     // the answer of the next file dialogs
   std::vector<File_Request> open_asked_;  // what the open dialog was shown with

@@ -10,6 +10,7 @@
 #include "core/desk/file_dialogs.h"
 #include "core/desk/file_kinds.h"
 #include "core/desk/recent_files.h"
+#include "core/desk/show_screen.h"
 #include "core/desk/workspace_port.h"
 #include "core/failure.h"
 #include "core/keys.h"
@@ -153,7 +154,10 @@ bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   if (kind != kDilutionKind) {
     // Outputs are named from what was saved last, a text of the viewer included.
     record.BaseFileName = Base_Name(path);
-    if (kind != kTextKind) record.DataSaved = kTrue;
+    if (kind != kTextKind) {
+      record.DataSaved = kTrue;
+      record.SavedUnderScreens = Any_Input_Screen_Is_Open() ? kTrue : kFalse;
+    }
   }
   if (kind != kTextKind) Port().board.set_caption("BARVON - " + path);
   Update_Recent_Files(path);

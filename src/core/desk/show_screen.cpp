@@ -7,15 +7,12 @@
 #include "platform/ask/message_box.h"
 
 namespace barvon {
-namespace {
 
 bool Any_Input_Screen_Is_Open() {
   return std::any_of(kScreens.begin(), kScreens.end(), [](const Screen_Row& row) {
     return row.kind == Screen_Kind::Input && Port().board.screen_is_open(row.name);
   });
 }
-
-}  // namespace
 
 void Show_Screen(const Screen_Row& screen, const ProjectRecord& record) {
   const bool blocking = Opens_Blocking(record);
