@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "core/desk/file_dialogs.h"
@@ -119,7 +120,8 @@ void frmDilute2::Show_File(const std::string& path) {
   Show_Solids(record_.DiluteSolidsConc, kReadPattern);
   for (const Dilution_Tab tab : kTabs) grids_(tab).NumberFormat(kReadPattern);
   Show_Read_List(grids_, record_);
-  edited_ = {};
+  // A file with an empty list leaves rows that the record's list no longer has.
+  edited_.fill(record_.DiluteRowCount == 0);
   setWindowTitle(QString::fromStdString("Dilute - " + path));
   for (const Dilution_Tab tab : kTabs) {
     grids_(tab).Centred(kDiluteCells, true);
@@ -155,10 +157,13 @@ bool frmDilute2::Holds_Unsaved_Input() {
 
 bool frmDilute2::Holds_Untaken() const {
   if (Text1->text() != shown_solids_ && Solids() != record_.DiluteSolidsConc) return true;
-  for (const Dilution_Tab tab : kTabs) {
-    if (edited_[tab] && Holds_Untaken_Values(tab, grids_, record_)) return true;
-  }
-  return false;
+  return std::ranges::any_of(kTabs, [this](Dilution_Tab tab) { return Is_Untaken(tab); });
+}
+
+/// Rows below the end of the list are never taken, whoever has filled them.
+bool frmDilute2::Is_Untaken(Dilution_Tab tab) const {
+  return Holds_Rows_Below_List(grids_(tab)) ||
+         (edited_[tab] && Holds_Untaken_Values(tab, grids_, record_));
 }
 
 bool frmDilute2::Settle_Typed() {
@@ -174,19 +179,23 @@ bool frmDilute2::Settle_Typed() {
   }
 }
 
+/// The tab in front first, as a change of tab would. A list that is cut off by an empty name is not
+/// taken: the record would lose what is below.
 bool frmDilute2::Take_Typed() {
+  for (const Dilution_Tab tab : {Front(), Other_Tab(Front())}) {
+    if (Holds_Rows_Below_List(grids_(tab))) {
+      Show_Warning(kNameMissing);
+      return false;
+    }
+    if (tab != Front() && !Is_Untaken(tab)) continue;
+    Read_Dilute_Grid(tab, grids_, record_);
+    Fill_Dilute_Grids(grids_, record_, tab);
+    edited_[tab] = false;
+  }
   record_.DiluteSolidsConc = Solids();
   Solids_Are_Taken();
-  Read_Dilute_Grid(Front(), grids_, record_);
-  Fill_Dilute_Grids(grids_, record_);
-  bool taken = true;
-  for (const Dilution_Tab tab : kTabs) {
-    edited_[tab] = edited_[tab] && Holds_Rows_Below_List(grids_(tab));
-    taken = taken && !edited_[tab];
-  }
   Follow_Rows();
-  if (!taken) Show_Warning(kNameMissing);
-  return taken;
+  return true;
 }
 
 }  // namespace barvon

@@ -587,6 +587,126 @@ TEST_F(DiluteScreen, Rows_Are_Inserted_Deleted_And_Moved_By_Keys) {
   EXPECT_EQ(Bars().Drawn().chart.bars.at(0).label, "Lead");
 }
 
+TEST_F(DiluteScreen, An_Inserted_First_Row_Loses_Nothing_In_Memory_Or_On_Disk) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(1, 1);
+  QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
+  {
+    Scripted_Messages messages({Answer::Ok, Answer::No});
+    Go_To(1);
+    EXPECT_EQ(messages.shown.at(0).text, kNameMissing);
+    const std::string saved = Read_Text(Save_List("list.DUD"));
+    EXPECT_EQ(messages.shown.at(1).text, kTakeThem);
+    EXPECT_NE(saved.find("\r\n    2             50\r\nCopper\r\n"), std::string::npos);
+  }
+  Scripted_Messages messages({Answer::Yes, Answer::Ok, Answer::No});
+  Click(Button(1));
+  ASSERT_NE(Screen(), nullptr);
+  EXPECT_EQ(Cell(0, 3, 1), "Lead");
+  Click(Button(1));
+  Open();
+  EXPECT_EQ(Cell(0, 1, 1) + Cell(1, 2, 1) + Cell(1, 2, 2), "CopperLead34");
+}
+
+TEST_F(DiluteScreen, Deleted_Rows_Are_Asked_For_And_Taken) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(1, 1);
+  QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_EQ(record.DiluteRowCount, 1);
+  EXPECT_EQ(record.DiluteParameterNames[1], "Lead");
+  EXPECT_EQ(record.DiluteElutriate[1], 34);
+}
+
+TEST_F(DiluteScreen, Rows_Below_An_Empty_One_Are_Asked_For_After_A_Compute) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+    Book(0).setFocus();
+    Book(0).table().SetActiveCell(2, 1);
+    QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
+    Click(Button(0));
+  }
+  Scripted_Messages messages({Answer::Cancel, Answer::Yes, Answer::Ok, Answer::No});
+  Save_List("list.DUD");
+  EXPECT_FALSE(Exists(bench.folder / "list.DUD"));
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(2).text, kNameMissing);
+  ASSERT_NE(Screen(), nullptr);
+  Click(Button(1));
+  EXPECT_EQ(Screen(), nullptr);
+}
+
+TEST_F(DiluteScreen, Rows_Below_An_Empty_Name_Of_A_File_Are_Asked_For) {
+  Open();
+  chosen = bench.folder / "other.DUD";
+  Write_Text(*chosen, "t\nt\n    3             50\nZinc\n  1000\n\n  2000\nTin\n  3000\n");
+  {
+    Scripted_Messages messages;
+    Click(Button(3));
+  }
+  Scripted_Messages messages({Answer::Cancel});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_NE(Screen(), nullptr);
+}
+
+TEST_F(DiluteScreen, Rows_That_A_File_With_An_Empty_List_Leaves_Are_Asked_For) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+    chosen = bench.folder / "empty.DUD";
+    Write_Text(*chosen, "t\nt\n    0             50\n");
+    Click(Button(3));
+    EXPECT_EQ(Cell(0, 2, 1), "Lead");
+  }
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_EQ(record.DiluteRowCount, 2);
+  EXPECT_EQ(record.DiluteElutriate[2], 34);
+}
+
+TEST_F(DiluteScreen, Values_Typed_Before_Their_Name_On_Both_Tabs_Are_Taken_On_Closing) {
+  Open();
+  {
+    Scripted_Messages messages({Answer::Ok});
+    Go_To(1);
+    Type_Into_Cell(Book(1), 1, 2, "55");
+    Go_To(0);
+  }
+  Paste(0, 1, 1, "Copper\t1000\t10\t2\n");
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(Screen(), nullptr);
+  EXPECT_EQ(record.DiluteBulk[1], 1000);
+  EXPECT_EQ(record.DiluteElutriate[1], 55);
+}
+
+TEST_F(DiluteScreen, The_Misread_Mark_Goes_Across_With_The_Tab) {
+  Open();
+  {
+    Scripted_Messages messages({Answer::No});
+    Paste(0, 1, 1, "Copper\t<0.5\tND\t1,200\n");
+  }
+  Go_To(1);
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 3), "reads as 0");
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 4), "reads as 1");
+  Go_To(0);
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 2), "reads as 0");
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 4), "reads as 1");
+}
+
 TEST_F(DiluteScreen, A_Change_Of_Tab_Without_A_Name_Tells_It_And_Keeps_The_Values) {
   Open();
   Type_Into_Cell(Book(0), 1, 2, "1500");
