@@ -172,12 +172,30 @@ bool Grids_Are_Empty(const Dilution_Grids& grids) {
   });
 }
 
+void Empty_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  const std::string result = table.TextRC(row, kDilutionColumn);
+  if (result.empty()) return;
+  grids.emptied[tab][row] = {grids(Other_Tab(tab)).TextRC(row, kNameColumn), result};
+  table.ValueRC(row, kDilutionColumn, {});
+}
+
+void Restore_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  const auto former = grids.emptied[tab].find(row);
+  if (former == grids.emptied[tab].end()) return;
+  if (former->second.name != table.TextRC(row, kNameColumn)) return;
+  table.TextRC(row, kDilutionColumn, former->second.result);
+  grids.emptied[tab].erase(former);
+}
+
 void Forget_Rows(Dilution_Grids& grids) {
   for (const Dilution_Tab tab : kTabs) {
     grids.by_name[tab].clear();
     grids.put_aside[tab].clear();
     grids.computed[tab] = {};
     grids.unread[tab] = {};
+    grids.emptied[tab].clear();
     grids(tab).ForgetEdits();
   }
   grids.record_rows = Same_Order();
@@ -234,6 +252,7 @@ void Read_Dilute_Grid(Dilution_Tab tab, Dilution_Grids& grids, ProjectRecord& re
     record.DiluteBackground[At(row)] = table.NumberRC(row, kBackgroundColumn);
     grids.unread[tab][At(row)] = {};
   }
+  grids.emptied[tab].clear();
   table.Selection("A1");
 }
 
@@ -321,8 +340,11 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
     }
     const bool emptied = !Row_Is_Filled(table, row);
     if (emptied || other_names) grids.by_name[tab].insert(row);
-    if (!emptied) continue;
-    table.ValueRC(row, kDilutionColumn, {});
+    if (!emptied) {
+      Restore_Result(tab, row, grids);
+      continue;
+    }
+    Empty_Result(tab, row, grids);
     if (Is_Apart(Other_Tab(tab), row, grids)) continue;
     other.ClearRange({row, kNameColumn, row, kDilutionColumn});
     other.ForgetEdits();

@@ -56,6 +56,11 @@ void Arrange(Array& values, const Row_Order& order) {
 /// By column: what the user has changed since the tab was read.
 using Unread_Cells = std::array<bool, kBackgroundColumn + 1>;
 
+/// What stood in a row's result before the row was emptied, and the list's name for it.
+struct Emptied_Result {
+  std::string name, result;
+};
+
 /// The two tables, and what the calculator keeps beside them while it is open.
 struct Dilution_Grids {
   Dilution_Grids(Spreadsheet_Table& bulk, Spreadsheet_Table& elutriate)
@@ -70,6 +75,8 @@ struct Dilution_Grids {
   /// Concentrations of the tab whose names left the list that way. They come back with the name.
   std::array<std::map<std::string, double>, kDilutionTabs> put_aside;
   std::array<OneBased<Unread_Cells, kMaxDilutionRows>, kDilutionTabs> unread{};
+  /// By row: an undo of the emptying brings the result back.
+  std::array<std::map<int, Emptied_Result>, kDilutionTabs> emptied;
   /// Where the record has the rows of the tables: it follows their commands when a tab is read.
   Row_Order record_rows = Same_Order();
 

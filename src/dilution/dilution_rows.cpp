@@ -26,6 +26,7 @@ void Arrange_Rows(const Row_Order& order, Dilution_Grids& grids) {
     Arrange_Table(grids(tab), order);
     Arrange(grids.computed[tab], order);
     Arrange(grids.unread[tab], order);
+    grids.emptied[tab].clear();
     std::set<int> by_name;
     for (int row = 1; row <= kMaxDilutionRows; ++row) {
       if (grids.by_name[tab].contains(order[At(row)])) by_name.insert(row);

@@ -11,6 +11,7 @@
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
+#include "dilution/dilution_file.h"
 #include "dilution/dilution_hints.h"
 #include "dilution/dilution_marks.h"
 #include "dilution/dilution_rows.h"
@@ -73,6 +74,7 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   F1Book* book = F1Book2(tab);
   book->setAccessibleName(tab == kBulkTab ? QStringLiteral("Parameters in bulk sediment")
                                           : QStringLiteral("Parameters in elutriate"));
+  book->SetNumberNote(kNameColumn, Dilution_Name_Note);
   for (const int col : {kConcentrationColumn, kCriteriaColumn, kBackgroundColumn}) {
     book->SetNumberNote(col, Real_Note);
   }

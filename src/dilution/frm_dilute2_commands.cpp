@@ -13,13 +13,14 @@
 #include "dilution/dilution_rules.h"
 #include "dilution/frm_dilute2.h"
 #include "platform/ask/message_box.h"
-#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
 
 enum Button { kCompute = 0, kClose = 1, kRead = 3, kSave, kClear };  // Command1
 constexpr char kReadPattern[] = "###.00";
+// A name that is a number, such as a registry's, is not one that is counted in.
+constexpr Cell_Range kNumberCells{1, kConcentrationColumn, kMaxDilutionRows, kLastColumn};
 
 bool Is_Project_Name(const std::string& path) {
   return Last_Three_Letters(path) == kProjectLetters;
@@ -92,10 +93,9 @@ void frmDilute2::Save_File() {
   record_.ProjectFileName = path.value_or("");
   if (!path || !barvon::Save_File(*path, kDilutionKind, record_)) return;
   list_file_ = *path;
-  const int cut = Names_To_Be_Cut(record_);
-  if (cut == 0) return;
-  const std::string note = Counted(static_cast<std::size_t>(cut), "name") +
-                           " of more than 20 letters: the first 20 are read back";
+  setWindowTitle(QString::fromStdString("Dilute - " + *path));
+  const std::string note = Lost_Letters_Note(record_);
+  if (note.empty()) return;
   Port().board.show_note({note, {}});
   Show_Hint(note);
 }
@@ -118,7 +118,10 @@ void frmDilute2::Show_File(const std::string& path) {
   list_file_ = record_.ProjectFileName = path;
   Port().board.set_caption("BARVON - " + path);
   Show_Solids(record_.DiluteSolidsConc, kReadPattern);
-  for (const Dilution_Tab tab : kTabs) grids_(tab).NumberFormat(kReadPattern);
+  for (const Dilution_Tab tab : kTabs) {
+    const auto numbers = Shared(grids_(tab).SelectedRange(), kNumberCells);
+    if (numbers) grids_(tab).NumberFormat(*numbers, kReadPattern);
+  }
   Show_Read_List(grids_, record_);
   // A file with an empty list leaves rows that the record's list no longer has.
   edited_.fill(record_.DiluteRowCount == 0);

@@ -245,6 +245,25 @@ TEST_F(DilutionGrid, An_Undo_Of_The_Emptying_Brings_Both_Back) {
   EXPECT_EQ(Column(kElutriateTab, 2, 3), (Names{"11", "12", "13"}));
 }
 
+TEST_F(DilutionGrid, An_Undo_Of_The_Emptying_Brings_The_Result_Back) {
+  Enter_Three();
+  Compute();
+  Clear(kBulkTab, {2, 1, 2, 7});
+  EXPECT_EQ(bulk.TextRC(2, 5), "");
+  const auto undone = bulk.Undo();
+  ASSERT_TRUE(undone);
+  Follow_Dilute_Edit(kBulkTab, *undone, grids);
+  EXPECT_EQ(bulk.TextRC(2, 5), "11.25");  // (100 - 10) / 8
+}
+
+TEST_F(DilutionGrid, The_Result_Of_An_Emptied_Row_Is_Not_That_Of_Another_Parameter) {
+  Enter_Three();
+  Compute();
+  Clear(kBulkTab, {2, 1, 2, 7});
+  Enter(kBulkTab, 2, 1, {{"Tin", "5"}});
+  EXPECT_EQ(bulk.TextRC(2, 5), "");
+}
+
 TEST_F(DilutionGrid, Another_Parameter_In_An_Emptied_Row_Has_No_Concentration_Of_The_Former) {
   Enter_Three();
   Clear(kBulkTab, {2, 1, 2, 4});

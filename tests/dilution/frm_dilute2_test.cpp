@@ -282,6 +282,7 @@ TEST_F(DiluteScreen, Saves_What_Was_Taken_And_Gives_The_Project_Back) {
                 "           2000             34             10              2\r\n");
   EXPECT_EQ(record.ProjectFileName, path);
   EXPECT_EQ(Port().board.caption(), "BARVON - " + path);
+  EXPECT_EQ(Screen()->windowTitle().toStdString(), "Dilute - " + path);
   EXPECT_EQ(record.DataSaved, kFalse);
   EXPECT_EQ(record.BaseFileName, "/data/site");
   Click(Button(1));
@@ -343,13 +344,24 @@ TEST_F(DiluteScreen, Reading_Shows_Computes_And_Tells_The_Name) {
   EXPECT_EQ(Cell(0, 1, 1), "Zinc");
   EXPECT_EQ(Cell(0, 1, 5), "5.03");  // (50.25 - 10) / 8 = 5.03125
   EXPECT_EQ(Cell(1, 1, 5), "2.00");
-  EXPECT_EQ(Book(0).table().StyleRC(1, 1).format, "###.00");
+  EXPECT_EQ(Book(0).table().StyleRC(1, 1).format, "") << "a name is no number";
   EXPECT_EQ(record.ProjectTitle, "Other");
   EXPECT_EQ(record.DataSaved, kFalse);
   Click(Button(4));
   EXPECT_EQ(offered, *chosen);
   Click(Button(1));
   Expect_Project_Is_Back();
+}
+
+TEST_F(DiluteScreen, Reading_Formats_The_Numbers_Of_The_Selection) {
+  Scripted_Messages messages;
+  Open();
+  chosen = bench.folder / "other.DUD";
+  Write_Text(*chosen, "t\nt\n    1             50\n7440508\n           1000\n");
+  Book(0).table().Selection("A1:B1");
+  Click(Button(3));
+  EXPECT_EQ(Book(0).table().ShownRC(1, 1), "7440508");
+  EXPECT_EQ(Book(0).table().ShownRC(1, 2), "1000.00");
 }
 
 TEST_F(DiluteScreen, Reading_A_File_Without_Solids_Tells_It) {
@@ -549,7 +561,7 @@ TEST_F(DiluteScreen, Another_Project_Closes_It_And_Keeps_Its_Own_Name) {
   {
     Scripted_Messages messages({Answer::No});
     Open_From_Workspace(sample, record);
-    EXPECT_EQ(messages.shown.at(0).text, "Discard what was typed in Dilute?");
+    EXPECT_EQ(messages.shown.at(0).text, "Discard what was typed in Dilute - " + *chosen + "?");
     ASSERT_NE(Screen(), nullptr);
   }
   Scripted_Messages messages({Answer::Yes});
