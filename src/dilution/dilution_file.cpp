@@ -11,6 +11,7 @@
 #include "core/number_text.h"
 #include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
+#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
@@ -173,12 +174,24 @@ void Register_Dilution_File() {
                       Write_Dilution_File});
 }
 
-int Names_To_Be_Cut(const ProjectRecord& record) {
-  const auto first = record.DiluteParameterNames.begin() + 1;
-  return static_cast<int>(
-      std::count_if(first, first + record.DiluteRowCount, [](const std::string& name) {
-        return Character_Count(name) > static_cast<std::size_t>(kDilutionNameLength);
-      }));
+std::string Dilution_Name_Note(const std::string& typed) {
+  return Fits_File_Encoding(typed) ? "" : "has a character that the dilution file can't keep";
+}
+
+std::string Lost_Letters_Note(const ProjectRecord& record) {
+  std::size_t cut = 0, foreign = 0;
+  for (std::size_t i = 1; static_cast<int>(i) <= record.DiluteRowCount; ++i) {
+    const std::string& name = record.DiluteParameterNames[i];
+    if (Character_Count(name) > static_cast<std::size_t>(kDilutionNameLength)) ++cut;
+    if (!Dilution_Name_Note(name).empty()) ++foreign;
+  }
+  std::string note;
+  if (cut > 0) note = Counted(cut, "name") + " of more than 20 letters: the first 20 are read back";
+  if (foreign > 0) {
+    if (!note.empty()) note += "; ";
+    note += Counted(foreign, "name") + " with letters that the file can't keep: saved as ?";
+  }
+  return note;
 }
 
 }  // namespace barvon

@@ -41,7 +41,10 @@ void Register_Dilution_File();
 /// closest one that fits, plain or with an exponent.
 std::string Number_To_Fit(double value, std::size_t width);
 
-/// How many names of the list are cut when the file is read.
-int Names_To_Be_Cut(const ProjectRecord& record);
+/// Why the file can't keep a name as it is typed; "" when it can, apart from its length.
+std::string Dilution_Name_Note(const std::string& typed);
+
+/// How many names of the list are not read back as they are, and why; "" when all are.
+std::string Lost_Letters_Note(const ProjectRecord& record);
 
 }  // namespace barvon

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <numeric>
 #include <utility>
 
 #include "core/format_pattern.h"
@@ -88,10 +89,70 @@ void Arrange_By_Name(Dilution_Tab tab, int count, Dilution_Grids& grids, Project
   grids(Other_Tab(tab)).ForgetEdits();
 }
 
+void Arrange_Record(Dilution_Grids& grids, ProjectRecord& record) {
+  const Row_Order order = std::exchange(grids.record_rows, Same_Order());
+  if (order == grids.record_rows) return;
+  Arrange(record.DiluteParameterNames, order);
+  Arrange(record.DiluteBulk, order);
+  Arrange(record.DiluteElutriate, order);
+  Arrange(record.DiluteCriteria, order);
+  Arrange(record.DiluteBackground, order);
+  Arrange(record.DiluteBulkWaterConc, order);
+  Arrange(record.DiluteBulkDilution, order);
+  Arrange(record.DiluteElutDilution, order);
+  Arrange(record.DiluteBulkRemark, order);
+  Arrange(record.DiluteElutRemark, order);
+}
+
 void Show_Number(double value, int row, int col, Spreadsheet_Table& table) {
   if (table.IsEmptyRC(row, col) || table.NumberRC(row, col) != value) {
     table.NumberRC(row, col, value);
   }
+}
+
+bool Is_Unread(Dilution_Tab tab, int row, int col, const Dilution_Grids& grids) {
+  return grids.unread[tab][At(row)][At(col)] && !grids(tab).IsEmptyRC(row, col);
+}
+
+/// Whether the row holds what was never read and had no name in the list.
+bool Is_Apart(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
+  if (!grids(tab).IsEmptyRC(row, kNameColumn) && !Is_Unread(tab, row, kNameColumn, grids)) {
+    return false;
+  }
+  for (int col = kNameColumn; col <= kBackgroundColumn; ++col) {
+    if (Is_Unread(tab, row, col, grids)) return true;
+  }
+  return false;
+}
+
+void Show_Name(Dilution_Tab tab, int row, const std::string& name, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  const std::string former = table.TextRC(row, kNameColumn);
+  if (!former.empty() && former != name) {
+    if (Is_Unread(tab, row, kConcentrationColumn, grids)) {
+      grids.put_aside[tab][former] = table.NumberRC(row, kConcentrationColumn);
+    }
+    grids.unread[tab][At(row)] = {};
+  }
+  table.TextRC(row, kNameColumn, name);
+}
+
+/// Criteria and background. What is typed in the tab that was read counts for both as it stands,
+/// with its mark.
+void Show_Common(double value, int row, int col, Dilution_Tab tab, std::optional<Dilution_Tab> read,
+                 Dilution_Grids& grids) {
+  if (value == 0 && Is_Unread(tab, row, col, grids)) return;
+  Spreadsheet_Table& table = grids(tab);
+  if (read && *read != tab) {
+    const Spreadsheet_Table& source = grids(*read);
+    const bool is_text = !source.IsEmptyRC(row, col) && !source.IsNumberRC(row, col);
+    if (is_text && source.NumberRC(row, col) == value) {
+      table.ValueRC(row, col, source.ValueRC(row, col));
+      return;
+    }
+    if (!table.IsNumberRC(row, col)) table.NumberRC(row, col, value);
+  }
+  Show_Number(value, row, col, table);
 }
 
 bool Is_Empty(const Spreadsheet_Table& table, const Cell_Range& range) {
@@ -103,9 +164,29 @@ bool Is_Empty(const Spreadsheet_Table& table, const Cell_Range& range) {
   return true;
 }
 
+/// A result alone is nothing that anybody entered.
 bool Grids_Are_Empty(const Dilution_Grids& grids) {
-  return std::ranges::all_of(
-      grids.tables, [](const Spreadsheet_Table* table) { return Is_Empty(*table, kDiluteCells); });
+  return std::ranges::all_of(grids.tables, [](const Spreadsheet_Table* table) {
+    return Is_Empty(*table, {1, kNameColumn, kMaxDilutionRows, kBackgroundColumn}) &&
+           Is_Empty(*table, {1, kDilutionColumn + 1, kMaxDilutionRows, kLastColumn});
+  });
+}
+
+void Empty_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  const std::string result = table.TextRC(row, kDilutionColumn);
+  if (result.empty()) return;
+  grids.emptied[tab][row] = {grids(Other_Tab(tab)).TextRC(row, kNameColumn), result};
+  table.ValueRC(row, kDilutionColumn, {});
+}
+
+void Restore_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  const auto former = grids.emptied[tab].find(row);
+  if (former == grids.emptied[tab].end()) return;
+  if (former->second.name != table.TextRC(row, kNameColumn)) return;
+  table.TextRC(row, kDilutionColumn, former->second.result);
+  grids.emptied[tab].erase(former);
 }
 
 void Forget_Rows(Dilution_Grids& grids) {
@@ -113,11 +194,20 @@ void Forget_Rows(Dilution_Grids& grids) {
     grids.by_name[tab].clear();
     grids.put_aside[tab].clear();
     grids.computed[tab] = {};
+    grids.unread[tab] = {};
+    grids.emptied[tab].clear();
     grids(tab).ForgetEdits();
   }
+  grids.record_rows = Same_Order();
 }
 
 }  // namespace
+
+Row_Order Same_Order() {
+  Row_Order order{};
+  std::iota(order.begin(), order.end(), 0);
+  return order;
+}
 
 void Define_Dilute_Grid(Dilution_Tab tab, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
@@ -153,17 +243,21 @@ void Read_Dilute_Grid(Dilution_Tab tab, Dilution_Grids& grids, ProjectRecord& re
   const int count = Dilute_Rows(table);
   record.DiluteRowCount = static_cast<std::int16_t>(count);
   if (count == 0) return;
+  Arrange_Record(grids, record);
   Arrange_By_Name(tab, count, grids, record);
   for (int row = 1; row <= count; ++row) {
     record.DiluteParameterNames[At(row)] = table.TextRC(row, kNameColumn);
     Concentrations(tab, record)[At(row)] = table.NumberRC(row, kConcentrationColumn);
     record.DiluteCriteria[At(row)] = table.NumberRC(row, kCriteriaColumn);
     record.DiluteBackground[At(row)] = table.NumberRC(row, kBackgroundColumn);
+    grids.unread[tab][At(row)] = {};
   }
+  grids.emptied[tab].clear();
   table.Selection("A1");
 }
 
-void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record) {
+void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record,
+                       std::optional<Dilution_Tab> read) {
   if (record.DiluteParameterNames[1].empty()) {
     if (Grids_Are_Empty(grids)) Initalize_Dilute_Info(grids, record);
     return;
@@ -172,10 +266,12 @@ void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record) {
     Spreadsheet_Table& table = grids(tab);
     const Table_Fill fill(table);
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
-      table.TextRC(row, kNameColumn, record.DiluteParameterNames[At(row)]);
-      Show_Number(Concentrations(tab, record)[At(row)], row, kConcentrationColumn, table);
-      Show_Number(record.DiluteCriteria[At(row)], row, kCriteriaColumn, table);
-      Show_Number(record.DiluteBackground[At(row)], row, kBackgroundColumn, table);
+      Show_Name(tab, row, record.DiluteParameterNames[At(row)], grids);
+      if (!Is_Unread(tab, row, kConcentrationColumn, grids)) {
+        Show_Number(Concentrations(tab, record)[At(row)], row, kConcentrationColumn, table);
+      }
+      Show_Common(record.DiluteCriteria[At(row)], row, kCriteriaColumn, tab, read, grids);
+      Show_Common(record.DiluteBackground[At(row)], row, kBackgroundColumn, tab, read, grids);
       table.TextRC(row, kDilutionColumn,
                    Format_Number(Dilutions(tab, record)[At(row)], kFilledPattern));
     }
@@ -220,13 +316,16 @@ void Show_Dilutions(const Dilution_Grids& grids, const ProjectRecord& record) {
 }
 
 void Leave_Dilute_Tab(Dilution_Tab left, Dilution_Grids& grids, ProjectRecord& record) {
-  Read_Dilute_Grid(left, grids, record);
-  if (record.DiluteRowCount > 0) {
-    Fill_Dilute_Grids(grids, record);
-  } else if (Grids_Are_Empty(grids)) {
-    Initalize_Dilute_Info(grids, record);
-  } else {
+  const bool holds_list = Dilute_Rows(grids(left)) > 0;
+  if (!holds_list && !Grids_Are_Empty(grids)) {
     Show_Warning(kNameMissing);
+    return;
+  }
+  Read_Dilute_Grid(left, grids, record);
+  if (holds_list) {
+    Fill_Dilute_Grids(grids, record, left);
+  } else {
+    Initalize_Dilute_Info(grids, record);
   }
 }
 
@@ -236,10 +335,17 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
   // One cell is typed: the parameter is called something else now.
   const bool other_names = range.col1 == kNameColumn && range.rows() * range.cols() > 1;
   for (int row = range.row1; row <= std::min(range.row2, kMaxDilutionRows); ++row) {
+    for (int col = range.col1; col <= std::min<int>(range.col2, kBackgroundColumn); ++col) {
+      grids.unread[tab][At(row)][At(col)] = true;
+    }
     const bool emptied = !Row_Is_Filled(table, row);
     if (emptied || other_names) grids.by_name[tab].insert(row);
-    if (!emptied) continue;
-    table.ValueRC(row, kDilutionColumn, {});
+    if (!emptied) {
+      Restore_Result(tab, row, grids);
+      continue;
+    }
+    Empty_Result(tab, row, grids);
+    if (Is_Apart(Other_Tab(tab), row, grids)) continue;
     other.ClearRange({row, kNameColumn, row, kDilutionColumn});
     other.ForgetEdits();
   }

@@ -1,5 +1,7 @@
 #include "dilution/dilution_marks.h"
 
+#include <cmath>
+
 #include "dilution/dilution_rules.h"
 #include "pictures/shapes/inks.h"
 #include "platform/text/counted.h"
@@ -24,6 +26,9 @@ Bar Bar_Of(const Computed_Row& row, Colour fill) {
   if (row.dilution == kCannotBeMet) {
     bar.endless = true;
     bar.remark = "cannot be met";
+  } else if (!std::isfinite(row.dilution)) {
+    bar.endless = true;
+    bar.remark = "beyond every number";
   } else if (row.dilution == 0) {
     bar.remark = "met undiluted";
   } else {

@@ -1,5 +1,6 @@
 #include "dilution/dilution_report.h"
 
+#include <cmath>
 #include <filesystem>
 #include <system_error>
 
@@ -18,6 +19,7 @@ namespace barvon {
 namespace {
 
 constexpr char kFormFeed[] = "\f";
+constexpr char kBeyondNumbers[] = "too large";  // no double holds it
 constexpr std::size_t kTitleColumn = 22;
 
 /// A line that is printed at columns, which count from 1.
@@ -35,6 +37,10 @@ class Print_Line {
     text_ += text;
   }
   void At(std::size_t column, double number) {
+    if (!std::isfinite(number)) {
+      At(column, " " + std::string(kBeyondNumbers) + " ");
+      return;
+    }
     // In free form a number has room for its sign in front and a blank behind it.
     const std::string text = Plain_Number(number);
     At(column, (text.starts_with('-') ? "" : " ") + text + " ");

@@ -4,17 +4,17 @@
 
 namespace barvon {
 
-// Whole rows, in both tables and in the record at once: what is known of a parameter stays
-// together. The tables' history of edits ends.
+// Whole rows, in both tables at once: what is known of a parameter stays together. The record
+// follows when a tab is read, so that an empty row never gets into its list. The tables' history of
+// edits ends.
 
 /// Empty rows in front of the first row of the range, as many as it has. False, and the user is
 /// told, when filled rows would be pushed out of the table.
-bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids, ProjectRecord& record);
+bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids);
 
-void Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids, ProjectRecord& record);
+void Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids);
 
 /// The rows of the range change places with the row above, or below. False at the table's edge.
-bool Move_Dilute_Rows(const Cell_Range& range, bool up, Dilution_Grids& grids,
-                      ProjectRecord& record);
+bool Move_Dilute_Rows(const Cell_Range& range, bool up, Dilution_Grids& grids);
 
 }  // namespace barvon

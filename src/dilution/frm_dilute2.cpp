@@ -11,6 +11,7 @@
 #include "core/format_pattern.h"
 #include "core/number_reading.h"
 #include "core/number_text.h"
+#include "dilution/dilution_file.h"
 #include "dilution/dilution_hints.h"
 #include "dilution/dilution_marks.h"
 #include "dilution/dilution_rows.h"
@@ -73,6 +74,8 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   F1Book* book = F1Book2(tab);
   book->setAccessibleName(tab == kBulkTab ? QStringLiteral("Parameters in bulk sediment")
                                           : QStringLiteral("Parameters in elutriate"));
+  book->KeepAnyLetters();
+  book->SetNumberNote(kNameColumn, Dilution_Name_Note);
   for (const int col : {kConcentrationColumn, kCriteriaColumn, kBackgroundColumn}) {
     book->SetNumberNote(col, Real_Note);
   }
@@ -95,11 +98,12 @@ void frmDilute2::Add_Row_Commands(Dilution_Tab tab) {
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     action->setShortcutVisibleInContextMenu(true);
-    connect(action, &QAction::triggered, this, [this, book, act] {
+    connect(action, &QAction::triggered, this, [this, tab, book, act] {
       book->FinishEdit();
       const auto rows = Shared(book->table().SelectedRange(), kDiluteCells);
       if (!rows) return;
       act(*rows);
+      edited_[tab] = true;
       Follow_Rows();
     });
     book->addAction(action);
@@ -109,16 +113,16 @@ void frmDilute2::Add_Row_Commands(Dilution_Tab tab) {
     book->table().SelectRange({rows.row1 + by, rows.col1, rows.row2 + by, rows.col2});
   };
   add("Insert_Rows", QStringLiteral("&Insert Rows"), Qt::ALT | Qt::Key_Insert,
-      [this](const Cell_Range& rows) { Insert_Dilute_Rows(rows, grids_, record_); });
+      [this](const Cell_Range& rows) { Insert_Dilute_Rows(rows, grids_); });
   add("Delete_Rows", QStringLiteral("&Delete Rows"), Qt::ALT | Qt::Key_Delete,
-      [this](const Cell_Range& rows) { Delete_Dilute_Rows(rows, grids_, record_); });
+      [this](const Cell_Range& rows) { Delete_Dilute_Rows(rows, grids_); });
   add("Move_Rows_Up", QStringLiteral("&Move Rows Up"), Qt::ALT | Qt::Key_Up,
       [this, select](const Cell_Range& rows) {
-        if (Move_Dilute_Rows(rows, true, grids_, record_)) select(rows, -1);
+        if (Move_Dilute_Rows(rows, true, grids_)) select(rows, -1);
       });
   add("Move_Rows_Down", QStringLiteral("Move Rows D&own"), Qt::ALT | Qt::Key_Down,
       [this, select](const Cell_Range& rows) {
-        if (Move_Dilute_Rows(rows, false, grids_, record_)) select(rows, 1);
+        if (Move_Dilute_Rows(rows, false, grids_)) select(rows, 1);
       });
 }
 

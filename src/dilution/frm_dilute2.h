@@ -65,6 +65,7 @@ class frmDilute2 : public Input_Screen {
   bool Leave();
 
   bool Holds_Untaken() const;
+  bool Is_Untaken(Dilution_Tab tab) const;
   /// Asks about what was typed and not taken. False: the person wants to stay with it.
   bool Settle_Typed();
   bool Take_Typed();

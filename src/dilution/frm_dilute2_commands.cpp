@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "core/desk/file_dialogs.h"
@@ -12,13 +13,14 @@
 #include "dilution/dilution_rules.h"
 #include "dilution/frm_dilute2.h"
 #include "platform/ask/message_box.h"
-#include "platform/text/counted.h"
 
 namespace barvon {
 namespace {
 
 enum Button { kCompute = 0, kClose = 1, kRead = 3, kSave, kClear };  // Command1
 constexpr char kReadPattern[] = "###.00";
+// A name that is a number, such as a registry's, is not one that is counted in.
+constexpr Cell_Range kNumberCells{1, kConcentrationColumn, kMaxDilutionRows, kLastColumn};
 
 bool Is_Project_Name(const std::string& path) {
   return Last_Three_Letters(path) == kProjectLetters;
@@ -91,10 +93,9 @@ void frmDilute2::Save_File() {
   record_.ProjectFileName = path.value_or("");
   if (!path || !barvon::Save_File(*path, kDilutionKind, record_)) return;
   list_file_ = *path;
-  const int cut = Names_To_Be_Cut(record_);
-  if (cut == 0) return;
-  const std::string note = Counted(static_cast<std::size_t>(cut), "name") +
-                           " of more than 20 letters: the first 20 are read back";
+  setWindowTitle(QString::fromStdString("Dilute - " + *path));
+  const std::string note = Lost_Letters_Note(record_);
+  if (note.empty()) return;
   Port().board.show_note({note, {}});
   Show_Hint(note);
 }
@@ -117,9 +118,13 @@ void frmDilute2::Show_File(const std::string& path) {
   list_file_ = record_.ProjectFileName = path;
   Port().board.set_caption("BARVON - " + path);
   Show_Solids(record_.DiluteSolidsConc, kReadPattern);
-  for (const Dilution_Tab tab : kTabs) grids_(tab).NumberFormat(kReadPattern);
+  for (const Dilution_Tab tab : kTabs) {
+    const auto numbers = Shared(grids_(tab).SelectedRange(), kNumberCells);
+    if (numbers) grids_(tab).NumberFormat(*numbers, kReadPattern);
+  }
   Show_Read_List(grids_, record_);
-  edited_ = {};
+  // A file with an empty list leaves rows that the record's list no longer has.
+  edited_.fill(record_.DiluteRowCount == 0);
   setWindowTitle(QString::fromStdString("Dilute - " + path));
   for (const Dilution_Tab tab : kTabs) {
     grids_(tab).Centred(kDiluteCells, true);
@@ -155,10 +160,13 @@ bool frmDilute2::Holds_Unsaved_Input() {
 
 bool frmDilute2::Holds_Untaken() const {
   if (Text1->text() != shown_solids_ && Solids() != record_.DiluteSolidsConc) return true;
-  for (const Dilution_Tab tab : kTabs) {
-    if (edited_[tab] && Holds_Untaken_Values(tab, grids_, record_)) return true;
-  }
-  return false;
+  return std::ranges::any_of(kTabs, [this](Dilution_Tab tab) { return Is_Untaken(tab); });
+}
+
+/// Rows below the end of the list are never taken, whoever has filled them.
+bool frmDilute2::Is_Untaken(Dilution_Tab tab) const {
+  return Holds_Rows_Below_List(grids_(tab)) ||
+         (edited_[tab] && Holds_Untaken_Values(tab, grids_, record_));
 }
 
 bool frmDilute2::Settle_Typed() {
@@ -174,19 +182,23 @@ bool frmDilute2::Settle_Typed() {
   }
 }
 
+/// The tab in front first, as a change of tab would. A list that is cut off by an empty name is not
+/// taken: the record would lose what is below.
 bool frmDilute2::Take_Typed() {
+  for (const Dilution_Tab tab : {Front(), Other_Tab(Front())}) {
+    if (Holds_Rows_Below_List(grids_(tab))) {
+      Show_Warning(kNameMissing);
+      return false;
+    }
+    if (tab != Front() && !Is_Untaken(tab)) continue;
+    Read_Dilute_Grid(tab, grids_, record_);
+    Fill_Dilute_Grids(grids_, record_, tab);
+    edited_[tab] = false;
+  }
   record_.DiluteSolidsConc = Solids();
   Solids_Are_Taken();
-  Read_Dilute_Grid(Front(), grids_, record_);
-  Fill_Dilute_Grids(grids_, record_);
-  bool taken = true;
-  for (const Dilution_Tab tab : kTabs) {
-    edited_[tab] = edited_[tab] && Holds_Rows_Below_List(grids_(tab));
-    taken = taken && !edited_[tab];
-  }
   Follow_Rows();
-  if (!taken) Show_Warning(kNameMissing);
-  return taken;
+  return true;
 }
 
 }  // namespace barvon

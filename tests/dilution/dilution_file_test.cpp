@@ -77,12 +77,27 @@ TEST_F(DilutionFile, Names_Are_Windows_1252_And_A_Byte_A_Column) {
 TEST_F(DilutionFile, A_Name_Of_25_Characters_Comes_Back_With_20) {
   Put(1, "abcdefghijklmnopqrstuvwxy", 1, 1, 1, 1);
   Put(2, "abcdefghijklmnopqrst", 1, 1, 1, 1);
-  EXPECT_EQ(Names_To_Be_Cut(record), 1);
+  EXPECT_EQ(Lost_Letters_Note(record),
+            "1 name of more than 20 letters: the first 20 are read back");
   const std::string bytes = Write_Dilution_File(record);
   EXPECT_NE(bytes.find("abcdefghijklmnopqrstuvwxy\r\n"), std::string::npos);
   ASSERT_EQ(Read_Dilution_File(bytes, record), Failure::None);
   EXPECT_EQ(record.DiluteParameterNames[1], "abcdefghijklmnopqrst");
-  EXPECT_EQ(Names_To_Be_Cut(record), 0);
+  EXPECT_EQ(Lost_Letters_Note(record), "");
+}
+
+TEST_F(DilutionFile, Letters_Outside_Its_Alphabet_Are_Told) {
+  EXPECT_EQ(Dilution_Name_Note("Gef\xC3\xA4hrlich"), "");
+  // A Greek alpha; it is no letter of Windows-1252.
+  EXPECT_EQ(Dilution_Name_Note("\xCE\xB1-BHC"),
+            "has a character that the dilution file can't keep");
+  Put(1, "\xCE\xB1-BHC", 1, 1, 1, 1);
+  EXPECT_EQ(Lost_Letters_Note(record), "1 name with letters that the file can't keep: saved as ?");
+  EXPECT_NE(Write_Dilution_File(record).find("\r\n?-BHC\r\n"), std::string::npos);
+  Put(2, "abcdefghijklmnopqrstu\xCE\xB1", 1, 1, 1, 1);
+  EXPECT_EQ(Lost_Letters_Note(record),
+            "1 name of more than 20 letters: the first 20 are read back; 2 names with letters that "
+            "the file can't keep: saved as ?");
 }
 
 TEST_F(DilutionFile, An_Empty_List_Is_Three_Lines_And_Leaves_The_Former_Entries) {

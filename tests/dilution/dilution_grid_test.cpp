@@ -130,6 +130,59 @@ TEST_F(DilutionGrid, A_Change_Of_Tab_Says_That_A_Name_Is_Missing_And_Clears_Noth
   EXPECT_EQ(bulk.TextRC(1, 2), "1000");
 }
 
+TEST_F(DilutionGrid, What_Is_Typed_On_One_Tab_Before_Its_Name_Stands_When_The_Other_Gives_It) {
+  Enter(kElutriateTab, 1, 2, {{"55", "12", "3"}});
+  Scripted_Messages messages({Answer::Ok});
+  Leave_Dilute_Tab(kElutriateTab, grids, record);
+  Enter(kBulkTab, 1, 1, {{"Copper", "1000"}});
+  Leave_Dilute_Tab(kBulkTab, grids, record);
+  EXPECT_EQ(elutriate.TextRC(1, 1), "Copper");
+  EXPECT_EQ(elutriate.TextRC(1, 2), "55");
+  EXPECT_EQ(elutriate.TextRC(1, 3), "12");
+  Leave_Dilute_Tab(kElutriateTab, grids, record);
+  EXPECT_EQ(record.DiluteElutriate[1], 55);
+  EXPECT_EQ(record.DiluteCriteria[1], 12);
+  EXPECT_EQ(bulk.TextRC(1, 3), "12");
+}
+
+TEST_F(DilutionGrid, A_Row_That_Was_Never_In_The_List_Is_Not_Emptied_By_The_Other_Tab) {
+  Enter(kElutriateTab, 1, 2, {{"55"}});
+  Enter(kBulkTab, 1, 1, {{"Copper"}});
+  Clear(kBulkTab, {1, 1, 1, 1});
+  EXPECT_EQ(elutriate.TextRC(1, 2), "55");
+}
+
+TEST_F(DilutionGrid, A_Concentration_Never_Read_Does_Not_Become_That_Of_Another_Name) {
+  Enter(kElutriateTab, 2, 1, {{"Zinc", "5"}});
+  Enter(kBulkTab, 1, 1, {{"Copper", "1"}, {"Lead", "2"}});
+  Leave_Dilute_Tab(kBulkTab, grids, record);
+  EXPECT_EQ(Column(kElutriateTab, 1, 2), (Names{"Copper", "Lead"}));
+  EXPECT_EQ(Column(kElutriateTab, 2, 2), (Names{"0", "0"}));
+  Enter(kBulkTab, 2, 1, {{"Lead"}, {"Zinc"}});
+  Leave_Dilute_Tab(kBulkTab, grids, record);
+  EXPECT_EQ(elutriate.TextRC(3, 2), "5");
+}
+
+TEST_F(DilutionGrid, Criteria_And_Background_Go_Across_As_They_Were_Typed) {
+  Enter_Three();
+  Enter(kBulkTab, 1, 3, {{"1,200", "ND"}});
+  Leave_Dilute_Tab(kBulkTab, grids, record);
+  EXPECT_EQ(elutriate.TextRC(1, 3), "1,200");
+  EXPECT_EQ(elutriate.TextRC(1, 4), "ND");
+  Enter(kElutriateTab, 1, 3, {{"1", "0"}});
+  Leave_Dilute_Tab(kElutriateTab, grids, record);
+  EXPECT_EQ(bulk.TextRC(1, 3), "1");
+  EXPECT_EQ(bulk.TextRC(1, 4), "0");
+}
+
+TEST_F(DilutionGrid, A_Result_Alone_Does_Not_Keep_The_Tables_From_Being_Empty) {
+  record.DiluteBulk[3] = 5;
+  bulk.TextRC(1, 5, "5.00");
+  Leave_Dilute_Tab(kBulkTab, grids, record);
+  EXPECT_EQ(record.DiluteBulk[3], 0);
+  EXPECT_EQ(bulk.TextRC(1, 5), "");
+}
+
 TEST_F(DilutionGrid, A_Name_That_Is_Typed_Again_Keeps_The_Other_Concentration) {
   Enter_Three();
   Enter(kBulkTab, 2, 1, {{"Lead (total)"}});
@@ -190,6 +243,25 @@ TEST_F(DilutionGrid, An_Undo_Of_The_Emptying_Brings_Both_Back) {
   Leave_Dilute_Tab(kBulkTab, grids, record);
   EXPECT_EQ(Column(kElutriateTab, 1, 3), (Names{"Copper", "Lead", "Zinc"}));
   EXPECT_EQ(Column(kElutriateTab, 2, 3), (Names{"11", "12", "13"}));
+}
+
+TEST_F(DilutionGrid, An_Undo_Of_The_Emptying_Brings_The_Result_Back) {
+  Enter_Three();
+  Compute();
+  Clear(kBulkTab, {2, 1, 2, 7});
+  EXPECT_EQ(bulk.TextRC(2, 5), "");
+  const auto undone = bulk.Undo();
+  ASSERT_TRUE(undone);
+  Follow_Dilute_Edit(kBulkTab, *undone, grids);
+  EXPECT_EQ(bulk.TextRC(2, 5), "11.25");  // (100 - 10) / 8
+}
+
+TEST_F(DilutionGrid, The_Result_Of_An_Emptied_Row_Is_Not_That_Of_Another_Parameter) {
+  Enter_Three();
+  Compute();
+  Clear(kBulkTab, {2, 1, 2, 7});
+  Enter(kBulkTab, 2, 1, {{"Tin", "5"}});
+  EXPECT_EQ(bulk.TextRC(2, 5), "");
 }
 
 TEST_F(DilutionGrid, Another_Parameter_In_An_Emptied_Row_Has_No_Concentration_Of_The_Former) {

@@ -66,6 +66,15 @@ TEST_F(DilutionMarks, The_Picture_Shows_Each_Dilution_On_A_Logarithmic_Axis) {
   EXPECT_EQ(Changed_Rows_Note(kBulkTab, grids), "");
 }
 
+TEST_F(DilutionMarks, A_Dilution_Beyond_Every_Number_Is_Told_In_The_Picture) {
+  Enter(kBulkTab, 1, 2, {{"1E308"}});
+  Read_Dilute_Grid(kBulkTab, grids, record);
+  Compute(50000);
+  const Bar_Chart chart = Dilution_Bars(kBulkTab, grids);
+  EXPECT_EQ(Bar_Words(chart.bars.at(0)), "Copper: beyond every number");
+  EXPECT_TRUE(chart.bars[0].endless);
+}
+
 TEST_F(DilutionMarks, Rows_That_Have_Changed_Stay_Out_Of_The_Picture) {
   Compute();
   Enter(kElutriateTab, 1, 2, {{"99"}});

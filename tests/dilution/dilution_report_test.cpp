@@ -49,6 +49,14 @@ TEST_F(DilutionReport, Is_Laid_Out_Byte_By_Byte) {
   EXPECT_EQ(Dilution_Report(record_), expected);
 }
 
+TEST_F(DilutionReport, A_Dilution_That_No_Number_Holds_Is_Told_In_Words) {
+  Put(1, "Copper", 1e308, 26, 10, 2);
+  ASSERT_TRUE(Compute_Dilutions(50000, record_));
+  EXPECT_EQ(Line(1),
+            " Copper          1E+308        26            10            2            "
+            " too large                       2                     ");
+}
+
 TEST_F(DilutionReport, Fields_Begin_At_Their_Columns) {
   Put(1, "Copper", 1, 2, 3, 4);
   record_.DiluteBulkDilution[1] = 5;

@@ -282,6 +282,7 @@ TEST_F(DiluteScreen, Saves_What_Was_Taken_And_Gives_The_Project_Back) {
                 "           2000             34             10              2\r\n");
   EXPECT_EQ(record.ProjectFileName, path);
   EXPECT_EQ(Port().board.caption(), "BARVON - " + path);
+  EXPECT_EQ(Screen()->windowTitle().toStdString(), "Dilute - " + path);
   EXPECT_EQ(record.DataSaved, kFalse);
   EXPECT_EQ(record.BaseFileName, "/data/site");
   Click(Button(1));
@@ -343,13 +344,24 @@ TEST_F(DiluteScreen, Reading_Shows_Computes_And_Tells_The_Name) {
   EXPECT_EQ(Cell(0, 1, 1), "Zinc");
   EXPECT_EQ(Cell(0, 1, 5), "5.03");  // (50.25 - 10) / 8 = 5.03125
   EXPECT_EQ(Cell(1, 1, 5), "2.00");
-  EXPECT_EQ(Book(0).table().StyleRC(1, 1).format, "###.00");
+  EXPECT_EQ(Book(0).table().StyleRC(1, 1).format, "") << "a name is no number";
   EXPECT_EQ(record.ProjectTitle, "Other");
   EXPECT_EQ(record.DataSaved, kFalse);
   Click(Button(4));
   EXPECT_EQ(offered, *chosen);
   Click(Button(1));
   Expect_Project_Is_Back();
+}
+
+TEST_F(DiluteScreen, Reading_Formats_The_Numbers_Of_The_Selection) {
+  Scripted_Messages messages;
+  Open();
+  chosen = bench.folder / "other.DUD";
+  Write_Text(*chosen, "t\nt\n    1             50\n7440508\n           1000\n");
+  Book(0).table().Selection("A1:B1");
+  Click(Button(3));
+  EXPECT_EQ(Book(0).table().ShownRC(1, 1), "7440508");
+  EXPECT_EQ(Book(0).table().ShownRC(1, 2), "1000.00");
 }
 
 TEST_F(DiluteScreen, Reading_A_File_Without_Solids_Tells_It) {
@@ -396,6 +408,26 @@ TEST_F(DiluteScreen, Long_Names_Are_Noted_On_Saving) {
   Port().board.show_note = [&](const Status_Note& shown) { note = shown.text; };
   Save_List("list.DUD");
   EXPECT_EQ(note, "1 name of more than 20 letters: the first 20 are read back");
+}
+
+TEST_F(DiluteScreen, Names_That_The_File_Cannot_Keep_Are_Marked_And_Noted) {
+  Scripted_Messages messages;
+  Open();
+  Enter_Solids("50");
+  Paste(0, 1, 1, QStringLiteral("\u03b1-BHC\t1\t1\t1\n"));
+  EXPECT_EQ(Cell(0, 1, 1), "\xCE\xB1-BHC");
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 1), "has a character that the dilution file can't keep");
+  Go_To(1);
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 1), "has a character that the dilution file can't keep");
+  Go_To(0);
+  Click(Button(0));
+  std::string note;
+  Port().board.show_note = [&](const Status_Note& shown) { note = shown.text; };
+  Save_List("list.DUD");
+  EXPECT_EQ(note, "1 name with letters that the file can't keep: saved as ?");
+  EXPECT_EQ(Hint(0).toStdString(), note);
+  Type_Into_Cell(Book(0), 2, 1, QStringLiteral("\u03b2-BHC"));
+  EXPECT_EQ(Cell(0, 2, 1), "\xCE\xB2-BHC");
 }
 
 // ---- What is typed and not taken
@@ -549,7 +581,7 @@ TEST_F(DiluteScreen, Another_Project_Closes_It_And_Keeps_Its_Own_Name) {
   {
     Scripted_Messages messages({Answer::No});
     Open_From_Workspace(sample, record);
-    EXPECT_EQ(messages.shown.at(0).text, "Discard what was typed in Dilute?");
+    EXPECT_EQ(messages.shown.at(0).text, "Discard what was typed in Dilute - " + *chosen + "?");
     ASSERT_NE(Screen(), nullptr);
   }
   Scripted_Messages messages({Answer::Yes});
@@ -585,6 +617,126 @@ TEST_F(DiluteScreen, Rows_Are_Inserted_Deleted_And_Moved_By_Keys) {
   EXPECT_EQ(Cell(1, 1, 1), "Lead");
   EXPECT_FALSE(Is_Grey(0, 1));
   EXPECT_EQ(Bars().Drawn().chart.bars.at(0).label, "Lead");
+}
+
+TEST_F(DiluteScreen, An_Inserted_First_Row_Loses_Nothing_In_Memory_Or_On_Disk) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(1, 1);
+  QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
+  {
+    Scripted_Messages messages({Answer::Ok, Answer::No});
+    Go_To(1);
+    EXPECT_EQ(messages.shown.at(0).text, kNameMissing);
+    const std::string saved = Read_Text(Save_List("list.DUD"));
+    EXPECT_EQ(messages.shown.at(1).text, kTakeThem);
+    EXPECT_NE(saved.find("\r\n    2             50\r\nCopper\r\n"), std::string::npos);
+  }
+  Scripted_Messages messages({Answer::Yes, Answer::Ok, Answer::No});
+  Click(Button(1));
+  ASSERT_NE(Screen(), nullptr);
+  EXPECT_EQ(Cell(0, 3, 1), "Lead");
+  Click(Button(1));
+  Open();
+  EXPECT_EQ(Cell(0, 1, 1) + Cell(1, 2, 1) + Cell(1, 2, 2), "CopperLead34");
+}
+
+TEST_F(DiluteScreen, Deleted_Rows_Are_Asked_For_And_Taken) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(1, 1);
+  QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_EQ(record.DiluteRowCount, 1);
+  EXPECT_EQ(record.DiluteParameterNames[1], "Lead");
+  EXPECT_EQ(record.DiluteElutriate[1], 34);
+}
+
+TEST_F(DiluteScreen, Rows_Below_An_Empty_One_Are_Asked_For_After_A_Compute) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+    Book(0).setFocus();
+    Book(0).table().SetActiveCell(2, 1);
+    QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
+    Click(Button(0));
+  }
+  Scripted_Messages messages({Answer::Cancel, Answer::Yes, Answer::Ok, Answer::No});
+  Save_List("list.DUD");
+  EXPECT_FALSE(Exists(bench.folder / "list.DUD"));
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(2).text, kNameMissing);
+  ASSERT_NE(Screen(), nullptr);
+  Click(Button(1));
+  EXPECT_EQ(Screen(), nullptr);
+}
+
+TEST_F(DiluteScreen, Rows_Below_An_Empty_Name_Of_A_File_Are_Asked_For) {
+  Open();
+  chosen = bench.folder / "other.DUD";
+  Write_Text(*chosen, "t\nt\n    3             50\nZinc\n  1000\n\n  2000\nTin\n  3000\n");
+  {
+    Scripted_Messages messages;
+    Click(Button(3));
+  }
+  Scripted_Messages messages({Answer::Cancel});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_NE(Screen(), nullptr);
+}
+
+TEST_F(DiluteScreen, Rows_That_A_File_With_An_Empty_List_Leaves_Are_Asked_For) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+    chosen = bench.folder / "empty.DUD";
+    Write_Text(*chosen, "t\nt\n    0             50\n");
+    Click(Button(3));
+    EXPECT_EQ(Cell(0, 2, 1), "Lead");
+  }
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_EQ(record.DiluteRowCount, 2);
+  EXPECT_EQ(record.DiluteElutriate[2], 34);
+}
+
+TEST_F(DiluteScreen, Values_Typed_Before_Their_Name_On_Both_Tabs_Are_Taken_On_Closing) {
+  Open();
+  {
+    Scripted_Messages messages({Answer::Ok});
+    Go_To(1);
+    Type_Into_Cell(Book(1), 1, 2, "55");
+    Go_To(0);
+  }
+  Paste(0, 1, 1, "Copper\t1000\t10\t2\n");
+  Scripted_Messages messages({Answer::Yes});
+  Click(Button(1));
+  EXPECT_EQ(Screen(), nullptr);
+  EXPECT_EQ(record.DiluteBulk[1], 1000);
+  EXPECT_EQ(record.DiluteElutriate[1], 55);
+}
+
+TEST_F(DiluteScreen, The_Misread_Mark_Goes_Across_With_The_Tab) {
+  Open();
+  {
+    Scripted_Messages messages({Answer::No});
+    Paste(0, 1, 1, "Copper\t<0.5\tND\t1,200\n");
+  }
+  Go_To(1);
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 3), "reads as 0");
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 4), "reads as 1");
+  Go_To(0);
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 2), "reads as 0");
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 4), "reads as 1");
 }
 
 TEST_F(DiluteScreen, A_Change_Of_Tab_Without_A_Name_Tells_It_And_Keeps_The_Values) {
