@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string_view>
 
@@ -12,6 +13,7 @@ namespace barvon {
 namespace {
 
 constexpr int kMostDigits = 15;
+constexpr double kMostRounding = 0.05;  // of the number
 
 bool Is_Of_A_Number(char c) { return (c >= '0' && c <= '9') || c == '.'; }
 
@@ -28,33 +30,84 @@ std::string Short_Text(double value) {
   return text;
 }
 
-/// With as many digits as fit; nothing when even one does not.
+/// The number with an exponent, in as few characters as that takes: "5E-4".
+std::string Exponent_Text(double value, int digits) {
+  std::array<char, 32> printed{};
+  std::snprintf(printed.data(), printed.size(), "%.*E", digits - 1, value);
+  const std::string_view text = printed.data();
+  const std::size_t exponent = text.find('E');
+  if (exponent == text.npos) return std::string(text);
+  std::string mantissa(text.substr(0, exponent));
+  if (mantissa.find('.') != mantissa.npos) {
+    mantissa.erase(mantissa.find_last_not_of('0') + 1);
+    if (mantissa.ends_with('.')) mantissa.pop_back();
+  }
+  return mantissa + "E" + Plain_Number(Lenient_Number(text.substr(exponent + 1)));
+}
+
+/// The closest of the texts that fit; nothing when it is not close enough.
 std::optional<std::string> Fitting_Text(double value, std::size_t width) {
+  std::optional<std::string> closest;
+  double off = kMostRounding * std::abs(value);
+  const auto take = [&](const std::string& text) {
+    const double difference = std::abs(Lenient_Number(text) - value);
+    if (text.size() > width || difference > off || (closest && difference == off)) return;
+    closest = text;
+    off = difference;
+  };
   for (int digits = kMostDigits; digits > 0; --digits) {
     std::array<char, 32> shortened{};
     std::snprintf(shortened.data(), shortened.size(), "%.*g", digits, value);
-    const std::string text = Short_Text(Lenient_Number(shortened.data()));
-    if (text.size() <= width) return text;
+    take(Short_Text(Lenient_Number(shortened.data())));
+    take(Exponent_Text(value, digits));
   }
-  return std::nullopt;
+  return closest;
+}
+
+/// The numbers that a line begins with, and what is behind them.
+struct Split_Line {
+  std::vector<double> numbers;
+  std::string_view rest;
+};
+
+Split_Line Split(const std::string& line, std::size_t most) {
+  Split_Line split{{}, line};
+  while (split.numbers.size() < most) {
+    const std::size_t from = split.rest.find_first_not_of(" \t");
+    if (from == split.rest.npos) break;
+    const std::string_view rest = split.rest.substr(from);
+    const std::string_view word = rest.substr(0, rest.find_first_of(" \t"));
+    const Number_Start number = Read_Number_Start(word);
+    if (number.end != word.size()) break;
+    split.numbers.push_back(number.value);
+    split.rest = rest.substr(word.size());
+  }
+  return split;
+}
+
+std::string Columns_Text(const Line_Columns& field) {
+  return field.first == field.last
+             ? "column " + std::to_string(field.first)
+             : "columns " + std::to_string(field.first) + " to " + std::to_string(field.last);
+}
+
+/// A number that begins before its columns, where no other columns end.
+bool Begins_Before(const std::string& line, const Line_Columns& field,
+                   std::span<const Line_Columns> columns) {
+  if (field.first == 1) return false;
+  const std::size_t before = field.first - 1;
+  if (std::ranges::any_of(columns, [&](const auto& other) { return other.last == before; })) {
+    return false;
+  }
+  const std::string start = Text_In(line, {before, field.first});
+  return start.size() == 2 && (Is_Of_A_Number(start[0]) || start[0] == '-' || start[0] == '+') &&
+         Is_Of_A_Number(start[1]);
 }
 
 }  // namespace
 
 std::vector<double> Leading_Numbers(const std::string& line, std::size_t most) {
-  std::vector<double> numbers;
-  std::string_view rest = line;
-  while (numbers.size() < most) {
-    const std::size_t from = rest.find_first_not_of(" \t");
-    if (from == rest.npos) break;
-    rest.remove_prefix(from);
-    const std::string_view word = rest.substr(0, rest.find_first_of(" \t"));
-    const Number_Start number = Read_Number_Start(word);
-    if (number.end != word.size()) break;
-    numbers.push_back(number.value);
-    rest.remove_prefix(word.size());
-  }
-  return numbers;
+  return Split(line, most).numbers;
 }
 
 bool Is_In_Columns(const std::string& line, std::span<const Line_Columns> columns) {
@@ -82,7 +135,7 @@ bool Runs_Out_Of_Columns(const std::string& line, std::span<const Line_Columns> 
 
 std::optional<Columned_Line> Into_Columns(const std::string& line,
                                           std::span<const Line_Columns> columns) {
-  const std::vector<double> numbers = Leading_Numbers(line, columns.size());
+  const auto [numbers, rest] = Split(line, columns.size());
   if (numbers.size() < columns.size()) return std::nullopt;
   Columned_Line result;
   for (std::size_t i = 0; i < columns.size(); ++i) {
@@ -93,7 +146,29 @@ std::optional<Columned_Line> Into_Columns(const std::string& line,
     result.line += std::string(columns[i].first - 1 - result.line.size(), ' ');
     result.line += Right_Justified(*text, width);
   }
+  const std::string words = Trimmed(std::string(rest));
+  if (!words.empty()) result.line += " " + words;
   return result;
+}
+
+std::string Column_Fault(const std::string& line, std::span<const Line_Columns> columns) {
+  if (Trimmed(line).empty()) return "";
+  if (Runs_Out_Of_Columns(line, columns)) return "a number runs out of its columns";
+  for (const Line_Columns& field : columns) {
+    const std::string text = Trimmed(Text_In(line, field));
+    if (Begins_Before(line, field, columns)) {
+      return "a number begins before " + Columns_Text(field);
+    }
+    if (text.empty())
+      return Columns_Text(field) + " should hold a number, but nothing stands there";
+    const std::size_t end = Read_Number_Start(text).end;
+    const bool words_follow =
+        end > 0 && end < text.size() && text[end] == ' ' && &field == &columns.back();
+    if (end != text.size() && !words_follow) {
+      return Columns_Text(field) + " should hold a number, but \"" + text + "\" stands there";
+    }
+  }
+  return "";
 }
 
 }  // namespace barvon

@@ -20,13 +20,19 @@ bool Is_In_Columns(const std::string& line, std::span<const Line_Columns> column
 /// A number that goes on behind its columns, where no other columns begin.
 bool Runs_Out_Of_Columns(const std::string& line, std::span<const Line_Columns> columns);
 
-/// A line with its numbers moved into the columns, and whether one lost digits there.
+/// What is wrong with a line whose columns must each hold a number, in words; "" for nothing. Words
+/// may follow the last number, an empty line is fine.
+std::string Column_Fault(const std::string& line, std::span<const Line_Columns> columns);
+
+/// A line with its numbers moved into the columns and what stood behind them kept behind, and
+/// whether a number lost digits there.
 struct Columned_Line {
   std::string line;
   bool rounded = false;
 };
 
-/// Nothing when the line has too few numbers, or one that no rounding makes fit.
+/// Nothing when the line has too few numbers, or one that fits only rounded by more than a
+/// twentieth of itself.
 std::optional<Columned_Line> Into_Columns(const std::string& line,
                                           std::span<const Line_Columns> columns);
 

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <string_view>
 
+#include "core/number_text.h"
 #include "core/project_defaults.h"
+#include "core/text_tools.h"
 #include "database/data_columns.h"
 #include "database/data_files.h"
 #include "database/record_scan.h"
@@ -36,6 +39,16 @@ std::optional<Lines_Of_File> Read_Lines(const std::string& path) {
   return file;
 }
 
+// Lines of an entry of a list.
+constexpr std::size_t kTwo = 2, kThree = 3;
+
+bool Is_Empty(const std::string& line) { return Trimmed(line).empty(); }
+
+bool Is_Number(const std::string& line) {
+  const std::string text = Trimmed(line);
+  return !text.empty() && Read_Number_Start(text).end == text.size();
+}
+
 /// A check of one folder, file by file.
 class Database_Checker {
  public:
@@ -43,13 +56,14 @@ class Database_Checker {
     Set_Project_Defaults(*record_);
     const Names sites = Site_Names(folder), materials = Material_Names(folder),
                 vessels = Vessel_Names(folder);
-    Check_List(kSiteList, sites);
-    Check_Data(kSiteLayout, sites, 3, [this](double code) { return Finds_Site(code); });
-    Check_Data(kVelocityLayout, sites, 3, [this](double code) { return Finds_Months(code); });
-    Check_List(kMaterialList, materials);
-    Check_Data(kMaterialLayout, materials, 3, [this](double code) { return Finds_Material(code); });
-    Check_List(kVesselList, vessels);
-    Check_Data(kVesselLayout, vessels, 2, [this](double code) { return Finds_Vessel(code); });
+    Check_List(kSiteList, sites, kThree);
+    Check_Data(kSiteLayout, sites, kThree, [this](double code) { return Finds_Site(code); });
+    Check_Data(kVelocityLayout, sites, kThree, [this](double code) { return Finds_Months(code); });
+    Check_List(kMaterialList, materials, kThree);
+    Check_Data(kMaterialLayout, materials, kThree,
+               [this](double code) { return Finds_Material(code); });
+    Check_List(kVesselList, vessels, kTwo);
+    Check_Data(kVesselLayout, vessels, kTwo, [this](double code) { return Finds_Vessel(code); });
   }
 
   Database_Report report;
@@ -59,11 +73,42 @@ class Database_Checker {
     report.findings.push_back({file, static_cast<int>(line), text, remark});
   }
 
-  void Check_List(const char* file, const Names& names) {
-    if (!names) {
+  void Check_List(const char* file, const Names& names, std::size_t lines_of_entry) {
+    const auto list = Read_Lines(Join_Path(folder_, file));
+    if (!names || !list) {
       Find(file, 0, "can't be read");
-    } else if (names->size() > kMostEntries) {
+      return;
+    }
+    if (names->size() > kMostEntries) {
       Find(file, 0, "has more than " + std::to_string(kMostEntries) + " entries");
+    }
+    std::vector<std::string> lines = list->lines;
+    std::size_t end = lines.size();
+    while (end > 0 && Is_Empty(lines[end - 1])) --end;
+    // An entry that lacks no more than its last, empty line is whole.
+    const std::size_t whole = (end + lines_of_entry - 1) / lines_of_entry * lines_of_entry;
+    const std::size_t behind = lines.size() - std::min(lines.size(), whole);
+    lines.resize(whole);
+    for (std::size_t at = 0; at < whole; at += lines_of_entry) {
+      if (lines_of_entry == kTwo && Is_Empty(lines[at])) {
+        Find(file, at + 1, "an empty line ends the list; the entries behind it are not shown");
+        return;
+      }
+      Check_Entry(file, lines, at, lines_of_entry);
+    }
+    if (behind > 0 && lines_of_entry == kThree) {
+      Find(file, whole + 1, "an empty line too many stands at the end", behind == 1);
+    }
+  }
+
+  void Check_Entry(const char* file, const std::vector<std::string>& lines, std::size_t at,
+                   std::size_t lines_of_entry) {
+    if (!Is_Number(lines[at])) Find(file, at + 1, "a code should stand here, but no number does");
+    if (Is_Empty(lines[at + 1])) Find(file, at + 2, "the name is empty");
+    if (lines_of_entry == kThree && !Is_Empty(lines[at + 2])) {
+      // Materials may have a line of their own there; a site's is always empty.
+      Find(file, at + 3, "an empty line should stand here, but text does",
+           std::string_view(file) == kMaterialList);
     }
   }
 
@@ -162,6 +207,11 @@ class Database_Checker {
 
 int Database_Report::Faults() const {
   return static_cast<int>(std::ranges::count(findings, false, &Database_Finding::remark));
+}
+
+bool Has_Site_Record(const std::string& folder, int place) {
+  const auto file = Read_Lines(Join_Path(folder, kSiteFile));
+  return file && Record_Scan(kSiteLayout, file->lines, kMostEntries).first_lines.contains(place);
 }
 
 Database_Report Check_Database(const std::string& folder) {

@@ -12,6 +12,8 @@ namespace barvon {
 struct Database_Mend {
   std::string file;
   std::string bytes;
+
+  bool operator==(const Database_Mend&) const = default;
 };
 
 /// What a check of the seven files found, in the order of files and lines.
@@ -26,6 +28,9 @@ struct Database_Report {
 /// Where the files of a folder fall out of step: lines that the walk reads as something else than
 /// they are, and the entries of the lists that it does not find. Nothing is changed.
 Database_Report Check_Database(const std::string& folder);
+
+/// Whether a record of the site data has the code of a place in the list, named there or not.
+bool Has_Site_Record(const std::string& folder, int place);
 
 /// What became of a mend: the files that were written, and the one that failed with an errno value.
 struct Database_Mended {

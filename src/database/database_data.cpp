@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "core/desk/accepted_screen.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
+#include "core/number_text.h"
 #include "core/text_tools.h"
 #include "database/data_files.h"
 #include "database/save_site.h"
@@ -157,7 +159,7 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
   if (answer != Answer::Yes || record.ActiveDatabaseList != kSites) return false;
   const std::string& folder = Application_Folder();
   const std::string wanted = Trimmed(name);
-  const std::vector<std::string> names = Site_Names(folder).value_or(std::vector<std::string>());
+  const std::optional<std::vector<std::string>> names = Site_Names(folder);
   const auto is_wanted = [&](const std::string& taken) {
     return Equal_Ignoring_Case(Trimmed(taken), wanted);
   };
@@ -165,16 +167,34 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
     Show_Warning("Please type the name of the new site into \"Site Data\" first.");
     return false;
   }
-  if (std::ranges::any_of(names, is_wanted)) {
+  // Without the list's names the new one would take the code of a site that has one.
+  if (!names) {
+    Show_Critical(
+        "The site was not added: the list dspsites.dat can't be read, so the site's code "
+        "is not known.");
+    return false;
+  }
+  if (std::ranges::any_of(*names, is_wanted)) {
     Show_Warning("There is a site of this name in the database already. Please type another one.");
     return false;
   }
-  if (names.size() >= kMostEntries) {
+  if (names->size() >= kMostEntries) {
     Show_Warning("The database holds 99 sites, and there is no code for another one.");
     return false;
   }
-  const int place = static_cast<int>(names.size());
-  if (const Site_Saved saved = Save_Site(folder, place, wanted, record); saved.error != 0) {
+  const int place = static_cast<int>(names->size());
+  if (Has_Site_Record(folder, place)) {
+    Show_Critical(
+        "The site was not added: dispdb.dat holds a site without a name already, of code " +
+        Plain_Number(Code_Of_Place(place)) + ".");
+    return false;
+  }
+  const Site_Saved saved = Save_Site(folder, place, wanted, record);
+  if (saved.out_of_step) {
+    Show_Critical("The site was not added: the list dspsites.dat does not end with a whole entry.");
+    return false;
+  }
+  if (saved.error != 0) {
     Show_Critical("The site was not added: can't write the file " + saved.file + ". " +
                   std::strerror(saved.error));
     return false;
@@ -192,6 +212,11 @@ bool Mend_Database_Files(const Database_Report& report) {
                     kMessageTitle, Buttons::YesNo, Icon::Question, Answer::No, Answer::No}) !=
       Answer::Yes) {
     return false;
+  }
+  // What is written must be what was shown, and must not undo what was typed into a file since.
+  if (Check_Database(Application_Folder()).mends != report.mends) {
+    Show_Warning("The files have changed since they were checked. Please look at the list again.");
+    return true;
   }
   const Database_Mended mended = Mend_Database(Application_Folder(), report);
   if (mended.error != 0) {

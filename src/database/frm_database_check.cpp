@@ -15,7 +15,8 @@ constexpr QSize kListSize(560, 280);
 
 QString Summary(const Database_Report& report) {
   const int faults = report.Faults();
-  if (faults == 0) return QStringLiteral("Every record of the database is found.");
+  if (report.findings.empty()) return QStringLiteral("Every record of the database is found.");
+  if (faults == 0) return QStringLiteral("No faults in the files of the database, but remarks:");
   return QString::fromStdString(Counted(static_cast<std::size_t>(faults), "fault") +
                                 " in the files of the database:");
 }

@@ -76,15 +76,20 @@ void Record_Scan::Scan() {
       Look_For_A_Record();
     }
   }
-  mended.insert(mended.end(), lines_.begin() + static_cast<std::ptrdiff_t>(at_), lines_.end());
+  Keep_Up_To(lines_.size());
+}
+
+/// Lines that stay as they are.
+void Record_Scan::Keep_Up_To(std::size_t at) {
+  while (kept_ < at) mended.push_back(lines_[kept_++]);
 }
 
 /// The next line with a code; what is before it stays as it is.
 void Record_Scan::Look_For_A_Record() {
   do {
-    mended.push_back(lines_[at_]);
     ++at_;
   } while (at_ < lines_.size() && Place_At(at_) < 0 && !Begins_Free(at_));
+  Keep_Up_To(at_);
 }
 
 void Record_Scan::Take_Record(int place) {
@@ -108,11 +113,25 @@ void Record_Scan::Take_Record(int place) {
     Look_For_A_Record();
     return;
   }
+  record_.clear();
+  whole_ = true;
   Take_Line(first, layout_.columns(0, behind));
   ++at_;
+  Take_Lines(place, behind);
+  if (whole_) {
+    mended.insert(mended.end(), record_.begin(), record_.end());
+    kept_ = at_;
+  } else {
+    Keep_Up_To(at_);
+  }
+}
+
+/// The lines behind the first, up to where the record ends or breaks.
+void Record_Scan::Take_Lines(int place, int behind) {
   for (int line = 1; line <= behind; ++line, ++at_) {
     if (at_ >= lines_.size()) {
       Find(at_ - 1, "the file ends inside the record of code " + Code_Text(place));
+      whole_ = false;
       return;
     }
     const bool begins_another = Place_At(at_) >= 0 && layout_.is_first_line(lines_[at_]);
@@ -122,10 +141,12 @@ void Record_Scan::Take_Record(int place) {
     const bool begins_free = layout_.columns(line, behind).size() < 2 && Begins_Free(at_);
     if (begins_another || begins_free) {
       Find(at_, "another record begins inside the one of code " + Code_Text(place));
+      whole_ = false;
       return;
     }
     if (month_missing) {
       Find(at_, "the number of a month should stand here, in columns 1 to 3");
+      whole_ = false;
       if (Place_At(at_) < 0) Look_For_A_Record();
       return;
     }
@@ -136,27 +157,50 @@ void Record_Scan::Take_Record(int place) {
   }
   if (at_ == lines_.size()) {
     Find(at_ - 1, "a line is missing behind the last record, which the walk does not find");
-    mended.emplace_back();
+    record_.emplace_back();
   }
 }
 
 void Record_Scan::Take_Line(std::size_t at, std::span<const Line_Columns> columns) {
-  const std::string& line = lines_[at];
-  mended.push_back(line);
-  if (!is_site_) {
-    if (Runs_Out_Of_Columns(line, columns)) Find(at, "a number runs out of its columns");
-    return;
+  record_.push_back(lines_[at]);
+  if (is_site_) {
+    Take_Site_Line(at, columns);
+  } else if (const std::string fault = Other_Fault(lines_[at], columns); !fault.empty()) {
+    Find(at, fault);
+    whole_ = false;
   }
+}
+
+void Record_Scan::Take_Site_Line(std::size_t at, std::span<const Line_Columns> columns) {
+  const std::string& line = lines_[at];
   if (Is_In_Columns(line, columns)) return;
   const auto moved = Into_Columns(line, columns);
   if (!moved) {
-    Find(at, "the numbers are not in their columns, and do not fit into them");
+    Find(at,
+         "the numbers are not in their columns, and do not fit into them: the site stays as it is");
+    whole_ = false;
     return;
   }
-  mended.back() = moved->line;
+  record_.back() = moved->line;
   Find(at, moved->rounded ? "the numbers are not in their columns, and must be rounded to fit: " +
                                 Trimmed(moved->line)
                           : std::string("the numbers are not in their columns"));
+}
+
+/// What is wrong with a line of another record than a site's; "" for nothing.
+std::string Record_Scan::Other_Fault(const std::string& line,
+                                     std::span<const Line_Columns> columns) const {
+  if (columns.empty()) return "";
+  // The number behind a mark is read only where the mark is 1.
+  if (columns.front().last == kIsGiven.last && Number_In(line, kIsGiven) != 1) {
+    columns = columns.first(1);
+  }
+  if (const std::string fault = Column_Fault(line, columns); !fault.empty()) return fault;
+  if (columns.front().first != kGravity.first || Trimmed(line).empty()) return "";
+  if (!Trimmed(Text_In(line, {1, kName.first - 1})).empty()) {
+    return "the name begins before columns 4 to 11";
+  }
+  return Trimmed(Text_In(line, kName)).empty() ? "no name stands in columns 4 to 11" : "";
 }
 
 }  // namespace barvon

@@ -8,6 +8,7 @@
 #include "core/number_text.h"
 #include "database/data_files.h"
 #include "database/index_files.h"
+#include "database/line_walk.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
@@ -49,11 +50,30 @@ int Read_For_Appending(const std::string& path, Appended& file) {
   return 0;
 }
 
-/// A list that ends inside its last entry would take the next one's code for a part of it.
-std::string Up_To_A_Whole_Entry(const std::string& list) {
+/// Where the line begins that ends a text; the text has one.
+std::size_t Start_Of_Last_Line(const std::string& text) {
+  const std::size_t end = text.ends_with("\r\n") ? text.size() - 2 : text.size() - 1;
+  if (end == 0) return 0;
+  const std::size_t before = text.find_last_of("\r\n", end - 1);
+  return before == text.npos ? 0 : before + 1;
+}
+
+/// Ends a list behind its last whole entry, or the next one's code would be taken for a part of it.
+/// False when a line more than that holds text, or there are not so many entries.
+bool Bring_Into_Step(const std::string& path, std::size_t entries, std::string& list) {
   constexpr std::size_t kLinesOfEntry = 3;
-  const auto lines = static_cast<std::size_t>(std::ranges::count(list, '\n'));
-  return lines % kLinesOfEntry == kLinesOfEntry - 1 ? kLineEnd : "";
+  std::size_t lines = 0;
+  for (Line_Walk walk(path); walk.Next_Or_Last();) ++lines;
+  if (lines % kLinesOfEntry == 2) {
+    list += kLineEnd;
+    ++lines;
+  } else if (lines % kLinesOfEntry == 1) {
+    const std::size_t last = Start_Of_Last_Line(list);
+    if (list.find_first_not_of(" \t\r\n", last) != list.npos) return false;
+    list.resize(last);
+    --lines;
+  }
+  return lines == entries * kLinesOfEntry;
 }
 
 void Put_Back(const Appended& file) {
@@ -94,7 +114,10 @@ Site_Saved Save_Site(const std::string& folder, int place, const std::string& na
   if (const int error = Read_For_Appending(Join_Path(folder, kSiteFile), data)) {
     return {error, kSiteFile};
   }
-  list.after += Up_To_A_Whole_Entry(list.after) + Site_List_Lines(code, name);
+  if (!Bring_Into_Step(list.path, static_cast<std::size_t>(place), list.after)) {
+    return {0, kSiteList, true};
+  }
+  list.after += Site_List_Lines(code, name);
   data.after += Site_Data_Lines(code, record);
   if (const int error = Write_Whole_File(list.path, list.after)) return {error, kSiteList};
   if (const int error = Write_Whole_File(data.path, data.after)) {

@@ -7,10 +7,11 @@
 namespace barvon {
 
 /// What became of a save of a site. `file` is the name of the file that failed, with an errno
-/// value.
+/// value; or the list's, when the name would not come to stand at its place.
 struct Site_Saved {
   int error = 0;
   std::string file = {};
+  bool out_of_step = false;
 };
 
 /// The lines that a site appends to the list and to the data file, each with its end. Numbers have
@@ -26,8 +27,8 @@ std::string Site_Data_Lines(double code, const ProjectRecord& record);
 
 /// Appends the project's site, whose name has that place in the list (from 0), to both files of the
 /// folder: to both or, after a failure, to neither. A file whose last line has no end gets one
-/// first, and a list that ends with a name the empty line of its last entry; a file that is missing
-/// is made.
+/// first, and a list that ends with a name the empty line of its last entry; an empty line too many
+/// at the end of the list goes; a file that is missing is made.
 Site_Saved Save_Site(const std::string& folder, int place, const std::string& name,
                      const ProjectRecord& record);
 

@@ -48,6 +48,36 @@ TEST(ColumnLines, What_Can_Not_Be_Moved_Is_Left) {
   EXPECT_FALSE(Into_Columns(" 1234  5 ", kPair)) << "no rounding makes three digits of it";
 }
 
+TEST(ColumnLines, A_Small_Number_May_Stand_With_An_Exponent) {
+  const auto slopes = Into_Columns(" 0.0125  0.0005 ", kGap);
+  ASSERT_TRUE(slopes);
+  EXPECT_EQ(slopes->line, ".013 5E-4") << "0.0125 is rounded by a twenty-fifth, 0.0005 not at all";
+  EXPECT_TRUE(slopes->rounded);
+  EXPECT_EQ(Number_In(slopes->line, kGap[1]), 0.0005);
+  EXPECT_FALSE(Into_Columns(" -0.0005  1 ", kGap)) << "-5E-4 takes five columns";
+  EXPECT_FALSE(Into_Columns(" 0.0015  1 ", kGap)) << ".002 is a third more";
+  EXPECT_FALSE(Into_Columns(" 1500  1 ", kPair)) << "2E3 is a third more";
+}
+
+TEST(ColumnLines, Words_Behind_The_Numbers_Stay) {
+  EXPECT_EQ(Into_Columns(" 32  36  grid, by hand ", kPair)->line, " 32 36 grid, by hand");
+}
+
+TEST(ColumnLines, Columns_That_Hold_No_Number_Of_Their_Own) {
+  EXPECT_EQ(Column_Fault(" 1.5  2.5", kGap), "");
+  EXPECT_EQ(Column_Fault("", kGap), "");
+  EXPECT_EQ(Column_Fault(" 1.5  2.5 as surveyed", kGap), "");
+  EXPECT_EQ(Column_Fault("   42 feet", kOne), "");
+  EXPECT_EQ(Column_Fault(" 1.5", kGap),
+            "columns 6 to 9 should hold a number, but nothing stands there");
+  EXPECT_EQ(Column_Fault("        42", kOne),
+            "columns 1 to 6 should hold a number, but nothing stands there");
+  EXPECT_EQ(Column_Fault(" 1.5  n/a", kGap),
+            "columns 6 to 9 should hold a number, but \"n/a\" stands there");
+  EXPECT_EQ(Column_Fault(" 1.5-2.50", kGap), "a number begins before columns 6 to 9");
+  EXPECT_EQ(Column_Fault("1.525  2.5", kGap), "a number runs out of its columns");
+}
+
 TEST(ColumnLines, Leading_Numbers_End_At_The_First_Word) {
   EXPECT_EQ(Leading_Numbers("  1 -2.5\t.5 x 4", 9), (std::vector<double>{1, -2.5, 0.5}));
   EXPECT_EQ(Leading_Numbers("1 2 3", 2), (std::vector<double>{1, 2}));

@@ -208,7 +208,8 @@ TEST_F(DataBaseScreen, Update_Adds_The_Site_And_Mending_Makes_It_Found) {
     EXPECT_EQ(reply.seen.at(0).default_button, QMessageBox::No);
   }
   EXPECT_FALSE(mend->isEnabled());
-  EXPECT_EQ(check->findChild<QLabel*>("Label1")->text(), "Every record of the database is found.");
+  EXPECT_EQ(check->findChild<QLabel*>("Label1")->text(),
+            "No faults in the files of the database, but remarks:");
   Click(check->findChild<QPushButton*>("Command1(1)"));
 
   record.DEPC0 = 0;

@@ -4,6 +4,8 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "core/project_defaults.h"
@@ -205,6 +207,87 @@ TEST_F(DatabaseCheck, A_Site_In_A_Free_Layout_Is_Put_Into_The_Columns) {
   EXPECT_EQ(found->DEPTHI, 100);
 }
 
+TEST_F(DatabaseCheck, A_Site_That_Does_Not_Fit_Stays_As_It_Is) {
+  const auto record = std::make_unique<ProjectRecord>();
+  Set_Project_Defaults(*record);
+  record->SLOPEX0 = 0.0125;
+  record->SLOPEZ0 = 0.0015;
+  Write("dispdb.dat", kNorth + kSouth);
+  ASSERT_EQ(Save_Site(folder.path(), 2, "East", *record).error, 0);
+  const Lines found = Found("dispdb.dat");
+  EXPECT_NE(std::ranges::find(found,
+                              "dispdb.dat, line 29: the numbers are not in their columns, and do "
+                              "not fit into them: the site stays as it is"),
+            found.end());
+  EXPECT_TRUE(Check_Database(folder.path()).mends.empty());
+  // A site behind it is mended all the same.
+  record->SLOPEX0 = record->SLOPEZ0 = 0.0005;
+  const std::string before = Read_Text(folder / "dispdb.dat");
+  ASSERT_EQ(Save_Site(folder.path(), 3, "West", *record).error, 0);
+  Mend_Database(folder.path(), Check_Database(folder.path()));
+  const std::string after = Read_Text(folder / "dispdb.dat");
+  EXPECT_TRUE(after.starts_with(before + " 400 "));
+  EXPECT_NE(after.find("\r\n5E-4 5E-4\r\n"), std::string::npos);
+}
+
+TEST_F(DatabaseCheck, A_Record_That_Breaks_Keeps_Its_Lines) {
+  const std::string broken = " 300  2 \r\n 32  36 \r\n 100  250.5 \r\n";
+  Write("dispdb.dat", broken + kNorth + "\r\n" + kSouth);
+  Mend_Database(folder.path(), Check_Database(folder.path()));
+  EXPECT_EQ(Read_Text(folder / "dispdb.dat"), broken + kNorth + kSouth + "\r\n");
+}
+
+TEST_F(DatabaseCheck, Lists_With_Entries_That_Are_None) {
+  Write("dspsites.dat", "100\r\nNorth\r\n\r\nSouth\r\n200\r\nx\r\n300\r\n\r\n\r\n\r\n\r\n");
+  EXPECT_EQ(Found("dspsites.dat"),
+            (Lines{"dspsites.dat, line 4: a code should stand here, but no number does",
+                   "dspsites.dat, line 6: an empty line should stand here, but text does",
+                   "dspsites.dat, line 8: the name is empty",
+                   "dspsites.dat, line 10: an empty line too many stands at the end",
+                   "dspsites.dat, line 8: \"\", code 300: the site is not found in dispdb.dat",
+                   "dspsites.dat, line 11: \"\", code 400: the site is not found in dispdb.dat",
+                   "dspsites.dat, line 8: remark: \"\", code 300: 12 months are not found in "
+                   "veldb.dat",
+                   "dspsites.dat, line 11: remark: \"\", code 400: 12 months are not found in "
+                   "veldb.dat"}));
+  Write("sites.dat", "100\r\nBar\r\nby hand\r\n200\r\nSlip\r\n\r\n\r\n");
+  EXPECT_EQ(Found("sites.dat"),
+            (Lines{"sites.dat, line 3: remark: an empty line should stand here, but text does",
+                   "sites.dat, line 7: remark: an empty line too many stands at the end"}));
+  Write("vessels.dat", "100\r\nAuk\r\n200\r\nBittern\r\n\r\n");
+  EXPECT_EQ(Found("vessels.dat"), Lines{}) << "the line that ends the list";
+  Write("vessels.dat", "100\r\nAuk\r\n\r\n200\r\nBittern\r\n");
+  EXPECT_EQ(Found("vessels.dat"),
+            Lines{"vessels.dat, line 3: an empty line ends the list; the entries behind it are not "
+                  "shown"});
+}
+
+TEST_F(DatabaseCheck, Columns_Of_Materials_Velocities_And_Vessels) {
+  std::string material = Material_Record(" 100", "Sand");
+  material.replace(material.find("2.70"), 4, "n/a ");
+  std::string shifted = Material_Record(" 200", "Silt");
+  shifted.erase(shifted.find("   Silt"), 3);
+  Write("matdb.dat", material + shifted + "\r\n");
+  EXPECT_EQ(Found("matdb.dat"),
+            (Lines{"matdb.dat, line 3: columns 19 to 22 should hold a number, but \"n/a\" stands "
+                   "there",
+                   "matdb.dat, line 8: a number runs out of its columns"}));
+  material = Material_Record(" 100", "Sand");
+  material.replace(material.find("   Sand"), 7, " Sand  ");
+  Write("matdb.dat", material + Material_Record(" 200", "") + "\r\n");
+  EXPECT_EQ(Found("matdb.dat"), (Lines{"matdb.dat, line 3: the name begins before columns 4 to 11",
+                                       "matdb.dat, line 8: no name stands in columns 4 to 11"}));
+  std::string block = Velocity_Block(" 100");
+  block.replace(block.find("    0.25"), 8, "-0.25000");
+  Write("veldb.dat", block + Velocity_Block(" 200") + "\r\n");
+  EXPECT_EQ(Found("veldb.dat"),
+            Lines{"veldb.dat, line 3: a number begins before columns 32 to 38"});
+  Write("vesdb.dat",
+        Vessel_Record(" 100", "        10", 1) + Vessel_Record(" 200", "20", 1) + "\r\n");
+  EXPECT_EQ(Found("vesdb.dat").front(),
+            "vesdb.dat, line 2: columns 1 to 6 should hold a number, but nothing stands there");
+}
+
 TEST_F(DatabaseCheck, A_Former_Copy_Is_Not_Replaced) {
   Write("dispdb.dat", kNorth + kSouth);
   Write("dispdb.dat.bak", "former");
@@ -255,6 +338,34 @@ TEST(DatabaseMending, Any_Site_That_Was_Added_Is_Found_After_Mending) {
     RC_ASSERT(Find_Site(folder.path(), *found));
     found->SelectedSiteCode = 0;
     RC_ASSERT(Differing_Fields(*record, *found).empty());
+  });
+}
+
+// Whatever the numbers: found with no number off by more than a twentieth, or all bytes as before.
+TEST(DatabaseMending, A_Site_Is_Mended_Whole_Or_Not_At_All) {
+  rc::check([] {
+    const Scratch_Folder folder;
+    const auto real = [] {
+      return *rc::gen::inRange(-99999, 99999) / std::pow(10, *rc::gen::inRange(0, 9));
+    };
+    const auto record = std::make_unique<ProjectRecord>();
+    Set_Project_Defaults(*record);
+    record->SLOPEX0 = real();
+    record->SLOPEZ0 = real();
+    record->RHDA0 = real();
+    record->DEPTHI = real();
+    RC_ASSERT(Save_Site(folder.path(), 0, "East", *record).error == 0);
+    const std::string before = Read_Text(folder / "dispdb.dat");
+    Mend_Database(folder.path(), Check_Database(folder.path()));
+    if (Read_Text(folder / "dispdb.dat") == before) return;
+    const auto found = std::make_unique<ProjectRecord>();
+    found->SelectedSiteCode = 100;
+    RC_ASSERT(Find_Site(folder.path(), *found));
+    for (const auto field : {&ProjectRecord::SLOPEX0, &ProjectRecord::SLOPEZ0,
+                             &ProjectRecord::RHDA0, &ProjectRecord::DEPTHI}) {
+      const double told = (*record).*field;
+      RC_ASSERT(std::abs((*found).*field - told) <= 0.05 * std::abs(told));
+    }
   });
 }
 

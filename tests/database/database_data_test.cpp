@@ -200,6 +200,52 @@ TEST_F(DatabaseData, Update_Refuses_A_Hundredth_Site) {
             "The database holds 99 sites, and there is no code for another one.");
 }
 
+TEST_F(DatabaseData, Update_Refuses_Without_A_List_And_A_Code_That_Is_Taken) {
+  const std::string list = Read_Text(folder_ / "dspsites.dat");
+  const std::string data = Site_Record(" 300", "    10") + "\r\n";
+  Write("dispdb.dat", data);
+  {
+    Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+    EXPECT_FALSE(Update_Database("East", record_));
+    EXPECT_EQ(
+        boxes.shown.at(1).text,
+        "The site was not added: dispdb.dat holds a site without a name already, of code 300.");
+  }
+  EXPECT_EQ(Read_Text(folder_ / "dspsites.dat"), list);
+  std::filesystem::remove(folder_ / "dspsites.dat");
+  Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Update_Database("East", record_));
+  EXPECT_EQ(
+      boxes.shown.at(1).text,
+      "The site was not added: the list dspsites.dat can't be read, so the site's code is not "
+      "known.");
+  EXPECT_FALSE(Exists(folder_ / "dspsites.dat"));
+  EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), data);
+}
+
+TEST_F(DatabaseData, Update_Refuses_A_List_That_Ends_Inside_An_Entry) {
+  const std::string list = "1\r\nNorth\r\n\r\n200\r\n";
+  Write("dspsites.dat", list);
+  Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Update_Database("East", record_));
+  EXPECT_EQ(boxes.shown.at(1).text,
+            "The site was not added: the list dspsites.dat does not end with a whole entry.");
+  EXPECT_EQ(Read_Text(folder_ / "dspsites.dat"), list);
+}
+
+TEST_F(DatabaseData, Mending_Does_Not_Undo_What_Was_Typed_Since_The_Check) {
+  Write("dispdb.dat", Site_Record(" 100", "    10"));
+  const Database_Report report = Check_Database(folder_.path());
+  const std::string now = Site_Record(" 100", "    12");
+  Write("dispdb.dat", now);
+  Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+  EXPECT_TRUE(Mend_Database_Files(report)) << "the list is to be filled again";
+  EXPECT_EQ(boxes.shown.at(1).text,
+            "The files have changed since they were checked. Please look at the list again.");
+  EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), now);
+  EXPECT_FALSE(Exists(folder_ / "dispdb.dat.bak"));
+}
+
 TEST_F(DatabaseData, Update_Tells_Of_A_File_That_Can_Not_Be_Written) {
   std::filesystem::remove(folder_ / "dispdb.dat");
   std::filesystem::create_directory(folder_ / "dispdb.dat");

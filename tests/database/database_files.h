@@ -19,7 +19,7 @@ inline std::string Velocity_Block(const std::string& code) {
   for (int month = 1; month <= 12; ++month) {
     const std::string number = std::to_string(month);
     block += number + "\r\n      10" + std::string(6 - number.size(), ' ') + number + "." +
-             code.at(1) + "\r\n      30     0.5\r\n";
+             code.at(1) + "            10    0.25\r\n      30     0.5            30    0.25\r\n";
   }
   return block;
 }
@@ -27,7 +27,7 @@ inline std::string Velocity_Block(const std::string& code) {
 inline std::string Solid_Line(std::string_view name, const char* cohesive, const char* stripped) {
   std::string line = "   " + std::string(name);
   line.resize(18, ' ');
-  return line + "2.70  0.100 0.0200 0.7000 0.0150 " + cohesive + " " + stripped + "\r\n";
+  return line + "2.70  0.100  0.0200 0.7000 0.0150 " + cohesive + " " + stripped + "\r\n";
 }
 
 /// A material with one solid.

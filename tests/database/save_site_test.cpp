@@ -57,6 +57,27 @@ TEST_F(SaveSite, A_Last_Line_Without_An_End_Gets_One_First) {
   EXPECT_EQ(Read_Text(folder / "dispdb.dat"), "x\r\n" + data_);
 }
 
+TEST_F(SaveSite, An_Empty_Line_Too_Many_Goes) {
+  for (const char* end : {"\r\n", " \r\n", "\n", "  "}) {
+    Write_Text(folder / "dspsites.dat", std::string("100\r\nNorth\r\n\r\n") + end);
+    EXPECT_EQ(Save_Site(folder.path(), 1, "South", *record).error, 0);
+    EXPECT_EQ(Read_Text(folder / "dspsites.dat"), "100\r\nNorth\r\n\r\n 200 \r\nSouth\r\n\r\n");
+    EXPECT_EQ(*Site_Names(folder.path()), (std::vector<std::string>{"North", "South"}));
+  }
+}
+
+TEST_F(SaveSite, A_List_That_Is_Out_Of_Step_Is_Left) {
+  Write_Text(folder / "dispdb.dat", "x");
+  for (const char* list : {"100\r\nNorth\r\n\r\n200\r\n", "100\r\nNorth\r\n\r\n2\r\nSouth"}) {
+    Write_Text(folder / "dspsites.dat", list);
+    const Site_Saved saved = Save_Site(folder.path(), 1, "South", *record);
+    EXPECT_TRUE(saved.out_of_step);
+    EXPECT_EQ(saved.file, "dspsites.dat");
+    EXPECT_EQ(Read_Text(folder / "dspsites.dat"), list);
+    EXPECT_EQ(Read_Text(folder / "dispdb.dat"), "x");
+  }
+}
+
 TEST_F(SaveSite, Missing_Files_Are_Made) {
   EXPECT_EQ(Save_Site(folder.path(), 0, "First", *record).error, 0);
   EXPECT_EQ(Read_Text(folder / "dspsites.dat"), " 100 \r\nFirst\r\n\r\n");
