@@ -26,11 +26,10 @@ std::string Shown_Cells(const std::vector<std::string>& cells) {
 
 }  // namespace
 
-Text_Block Clipboard_Cells(bool keeps_any_letters) {
+Text_Block Clipboard_Cells() {
   const QString text = QGuiApplication::clipboard()->text();
   if (text.isEmpty()) return {};
   Text_Block cells = Read_Tab_Text(text.toStdString());
-  if (keeps_any_letters) return cells;
   const Encoding_Validator validator;
   for (auto& row : cells) {
     for (std::string& cell : row) {

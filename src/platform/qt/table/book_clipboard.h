@@ -4,9 +4,9 @@
 
 namespace barvon {
 
-/// The clipboard's text as cells, without what the files' encoding does not hold unless any letter
-/// is kept. No cells when there is no text.
-Text_Block Clipboard_Cells(bool keeps_any_letters);
+/// The clipboard's text as cells, without what the files' encoding does not hold. No cells when
+/// there is no text.
+Text_Block Clipboard_Cells();
 
 /// Asks, for cells that are to be pasted and hold decimal commas, whether to paste points in their
 /// place, and does so on Yes. False: the user wants nothing pasted.

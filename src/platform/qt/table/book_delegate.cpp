@@ -65,7 +65,6 @@ QWidget* Book_Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
       return typed.empty() ? std::string() : note(typed);
     });
   }
-  if (keeps_any_letters_) editor->setValidator(nullptr);
   editor_ = editor;
   return editor;
 }

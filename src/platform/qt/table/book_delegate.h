@@ -22,8 +22,6 @@ class Book_Delegate : public QStyledItemDelegate {
   /// How the next editor starts: typing replaces the cell, and every arrow key then leaves it;
   /// otherwise the text is there to be changed, and Left and Right move in it.
   void Start_By_Typing(bool typing) { by_typing_ = typing; }
-  /// What the files' encoding does not hold is then typed like anything else.
-  void Keep_Any_Letters() { keeps_any_letters_ = true; }
   /// The open editor; nothing while no cell is edited.
   QLineEdit* editor() const { return editor_; }
 
@@ -46,7 +44,6 @@ class Book_Delegate : public QStyledItemDelegate {
   const Book_Model& model_;
   QIcon mark_;
   bool by_typing_ = false;
-  bool keeps_any_letters_ = false;
   mutable QPointer<QLineEdit> editor_;  // createEditor is const in the toolkit
 };
 

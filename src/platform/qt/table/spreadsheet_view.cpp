@@ -66,11 +66,6 @@ void F1Book::SetNumberNote(int col, Number_Note note) {
   model_->SetNumberNote(col, std::move(note));
 }
 
-void F1Book::KeepAnyLetters() {
-  keeps_any_letters_ = true;
-  delegate_->Keep_Any_Letters();
-}
-
 void F1Book::SetCellLook(std::function<Cell_Look(int row, int col)> look) {
   model_->SetCellLook(std::move(look));
 }
@@ -110,7 +105,7 @@ void F1Book::Cut() {
 void F1Book::Copy() { Set_Clipboard_Cells(Copied_Cells(table_, table_.SelectedRange())); }
 
 void F1Book::Paste() {
-  Text_Block cells = Clipboard_Cells(keeps_any_letters_);
+  Text_Block cells = Clipboard_Cells();
   // What is refused is not asked about first.
   const bool fits = Paste_Refusal(table_, table_.SelectedRange(), cells).empty();
   if (fits && !Agree_On_Commas(cells)) return;

@@ -63,10 +63,6 @@ class F1Book : public QTableView {
   /// What the cell's mark says now; "" while it has none.
   QString NumberNoteOf(int row, int col) const;
 
-  /// Cells take letters that the files' encoding does not hold, which are left out otherwise. For
-  /// whoever says what becomes of them.
-  void KeepAnyLetters();
-
   /// Asked whenever a cell is shown: what it says may hang on other cells. Of the number note and a
   /// tip the cell shows both. An empty function takes it away.
   void SetCellLook(std::function<Cell_Look(int row, int col)> look);
@@ -138,7 +134,6 @@ class F1Book : public QTableView {
   Book_Layout* layout_;
   Focus_Entry* focus_entry_;
   int focus_row_ = 0, focus_col_ = 1;
-  bool keeps_any_letters_ = false;
   bool following_ = false;          // the view follows the table, or the table the view
   bool leaving_editor_ = false;     // the edit is told when the cursor has moved
   std::optional<Cell_Range> edit_;  // made, not yet told
