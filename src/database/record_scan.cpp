@@ -195,7 +195,7 @@ std::string Record_Scan::Other_Fault(const std::string& line,
   if (columns.front().last == kIsGiven.last && Number_In(line, kIsGiven) != 1) {
     columns = columns.first(1);
   }
-  if (const std::string fault = Column_Fault(line, columns); !fault.empty()) return fault;
+  if (std::string fault = Column_Fault(line, columns); !fault.empty()) return fault;
   if (columns.front().first != kGravity.first || Trimmed(line).empty()) return "";
   if (!Trimmed(Text_In(line, {1, kName.first - 1})).empty()) {
     return "the name begins before columns 4 to 11";
