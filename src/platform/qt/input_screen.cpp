@@ -54,7 +54,7 @@ bool Is_Passed_By(const QWidget* control) {
 QWidget* First_Control(QWidget* screen) {
   for (QWidget* at = screen->nextInFocusChain(); at != screen; at = at->nextInFocusChain()) {
     // A row of tabs is reached by Shift+Tab; a person comes to fill in its first page.
-    if (qobject_cast<QTabBar*>(at) != nullptr) continue;
+    if (qobject_cast<QTabBar*>(at) != nullptr || qobject_cast<QTabWidget*>(at) != nullptr) continue;
     const bool takes_tab = (at->focusPolicy() & Qt::TabFocus) != 0;
     if (takes_tab && !Is_Passed_By(at) && screen->isAncestorOf(at) && at->isVisibleTo(screen) &&
         at->isEnabled()) {
