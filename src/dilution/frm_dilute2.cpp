@@ -74,6 +74,7 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   F1Book* book = F1Book2(tab);
   book->setAccessibleName(tab == kBulkTab ? QStringLiteral("Parameters in bulk sediment")
                                           : QStringLiteral("Parameters in elutriate"));
+  book->KeepAnyLetters();
   book->SetNumberNote(kNameColumn, Dilution_Name_Note);
   for (const int col : {kConcentrationColumn, kCriteriaColumn, kBackgroundColumn}) {
     book->SetNumberNote(col, Real_Note);

@@ -19,6 +19,7 @@ Solids_Panel::Solids_Panel(const char* book)
   List1->setAccessibleName(QStringLiteral("Material library"));
   F1Book1->setAccessibleName(QStringLiteral("Solids fractions"));
   F1Book1->Ask_For_All_Rows();
+  F1Book1->KeepAnyLetters();  // the name's note and the question before OK tell what is not kept
   connect(List1, &Tick_List::Ticked, this, &Solids_Panel::List1_Click);
   connect(F1Book1, &F1Book::Edited, this, [this] { Clean_Solids_Names(table()); });
 }

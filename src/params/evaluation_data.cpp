@@ -245,13 +245,6 @@ constexpr Field_Table kRowsWithoutBoundary = kAllRows.first(kAllRows.size() - kC
 
 std::int16_t Flag_Of(bool wanted) { return wanted ? 1 : 0; }
 
-/// Writes a value that Cancel has to bring back.
-template <class Value>
-void Write(Value value, std::optional<Value>& former, Value& field) {
-  if (!former) former = field;
-  field = value;
-}
-
 /// The number of output depths that is typed, whole but within no limits.
 double Typed_Count(const std::string& typed) {
   return Round_Half_Even(Lenient_Number(typed)) + 0.0;  // rounding makes negative zeros
@@ -321,10 +314,10 @@ Evaluation_Shape Shape_Of_Evaluation(const ProjectRecord& record, bool led) {
 Field_Table Evaluation_Fields(bool boundary) { return boundary ? kAllRows : kRowsWithoutBoundary; }
 
 void Reset_Vars(const Evaluation_Copy& copy, ProjectRecord& record) {
-  if (copy.ZidFlag) Put_Back(*copy.ZidFlag, record.ZidFlag, record);
-  if (copy.NumOutputDepths) Put_Back(*copy.NumOutputDepths, record.NumOutputDepths, record);
+  Put_Back(copy.ZidFlag, record.ZidFlag, record);
+  Put_Back(copy.NumOutputDepths, record.NumOutputDepths, record);
   for (int i = 1; i <= kMaxOutputDepths; ++i) {
-    if (copy.OutputDepths[i]) Put_Back(*copy.OutputDepths[i], record.OutputDepths[i], record);
+    Put_Back(copy.OutputDepths[i], record.OutputDepths[i], record);
   }
 }
 
@@ -351,12 +344,12 @@ void Tell_Output_Count() {
 }
 
 void Choose_Zid(bool wanted, Evaluation_Copy& copy, ProjectRecord& record) {
-  Write(Flag_Of(wanted), copy.ZidFlag, record.ZidFlag);
+  Write_At_Once(Flag_Of(wanted), copy.ZidFlag, record.ZidFlag);
 }
 
 void Take_Output_Count(const std::string& typed, Evaluation_Copy& copy, ProjectRecord& record) {
   const auto count = Entered_Output_Count(typed);
-  if (count) Write<double>(*count, copy.NumOutputDepths, record.NumOutputDepths);
+  if (count) Write_At_Once<double>(*count, copy.NumOutputDepths, record.NumOutputDepths);
 }
 
 void Take_Output_Depth(int index, const Field_Texts& texts, Evaluation_Copy& copy,
@@ -367,7 +360,7 @@ void Take_Output_Depth(int index, const Field_Texts& texts, Evaluation_Copy& cop
   if (texts.Is_Untouched(control)) {
     if (former) record.OutputDepths[depth] = *former;
   } else {
-    Write(Lenient_Number(texts("Text8", index)), former, record.OutputDepths[depth]);
+    Write_At_Once(Lenient_Number(texts("Text8", index)), former, record.OutputDepths[depth]);
   }
 }
 

@@ -14,6 +14,7 @@
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
 #include "platform/qt/fields/note_box.h"
+#include "platform/qt/fields/wrapping_label.h"
 
 namespace barvon {
 namespace {
@@ -21,13 +22,6 @@ namespace {
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmMdlkyn");
 enum Tab { kDescriptionTab = 0, kZidTab, kOutputTab };
 constexpr int kZidNoteLines = 5;
-
-/// A label that has as many lines as its text asks for.
-QLabel* Wrapping_Label(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setWordWrap(true);
-  return label;
-}
 
 /// The two corners of a rectangle, each below its heading.
 void Add_Corners(Field_Rows& rows, Table_Fields& fields, const char* array,
@@ -294,8 +288,8 @@ void frmMdlkyn::Show_Site() {
   plan_->Show(Draw_Site(Entered_Site(Input(), shape_.boundary, record_)));
 }
 
-/// Whether OK may take the number of depths. One out of range is told first, also when leaving the
-/// field has told it; given once more as it stands, it is meant.
+/// Whether OK may take the number of depths. One out of range is told by OK itself first; given
+/// once more as it stands, it is meant.
 bool frmMdlkyn::Accepts_Count() {
   if (told_count_ || Entered_Output_Count(Text8(kOutputCount)->text().toStdString())) return true;
   told_count_ = true;

@@ -9,18 +9,12 @@
 #include "core/number_reading.h"
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
+#include "platform/qt/fields/wrapping_label.h"
 
 namespace barvon {
 namespace {
 
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmSimulation");
-
-/// A label that has as many lines as its text asks for.
-QLabel* Wrapping_Label(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setWordWrap(true);
-  return label;
-}
 
 }  // namespace
 

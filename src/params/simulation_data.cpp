@@ -61,12 +61,6 @@ constexpr char kStepOfNavigableWaters[] =
 
 std::int16_t Flag_Of(bool wanted) { return wanted ? 1 : 0; }
 
-/// Writes a value that Cancel has to bring back.
-void Write(std::int16_t value, std::optional<std::int16_t>& former, std::int16_t& field) {
-  if (!former) former = field;
-  field = value;
-}
-
 /// The number of print times that is typed, whole but within no limits.
 double Typed_Count(const std::string& typed) { return Round_Half_Even(Lenient_Number(typed)); }
 
@@ -85,12 +79,9 @@ double Drawn_Time(const Spreadsheet_Table& F1Book1, int row) {
 Field_Table Simulation_Fields() { return kRows; }
 
 void Reset_Vars(const Simulation_Copy& copy, ProjectRecord& record) {
-  const auto put_back = [&](const std::optional<std::int16_t>& former, std::int16_t& field) {
-    if (former) Put_Back(*former, field, record);
-  };
-  put_back(copy.PrintConvectiveDescent, record.PrintConvectiveDescent);
-  put_back(copy.PrintCollapse, record.PrintCollapse);
-  put_back(copy.NumPrintTimes, record.NumPrintTimes);
+  Put_Back(copy.PrintConvectiveDescent, record.PrintConvectiveDescent, record);
+  Put_Back(copy.PrintCollapse, record.PrintCollapse, record);
+  Put_Back(copy.NumPrintTimes, record.NumPrintTimes, record);
 }
 
 void Hold_Print_Count(ProjectRecord& record) {
@@ -114,14 +105,14 @@ std::optional<std::string> Time_Hint(int field, std::int16_t analysis_type) {
 void Choose_Printing(Simulation_Box box, bool wanted, Simulation_Copy& copy,
                      ProjectRecord& record) {
   if (box == kPrintsDescent) {
-    Write(Flag_Of(wanted), copy.PrintConvectiveDescent, record.PrintConvectiveDescent);
+    Write_At_Once(Flag_Of(wanted), copy.PrintConvectiveDescent, record.PrintConvectiveDescent);
   } else if (box == kPrintsCollapse) {
-    Write(Flag_Of(wanted), copy.PrintCollapse, record.PrintCollapse);
+    Write_At_Once(Flag_Of(wanted), copy.PrintCollapse, record.PrintCollapse);
   }
 }
 
 void Print_Quarterly(Simulation_Copy& copy, ProjectRecord& record) {
-  Write(0, copy.NumPrintTimes, record.NumPrintTimes);
+  Write_At_Once<std::int16_t>(0, copy.NumPrintTimes, record.NumPrintTimes);
 }
 
 std::string Print_Count_Text(const ProjectRecord& record) {
@@ -148,7 +139,7 @@ void Take_Print_Count(const std::string& typed, Simulation_Copy& copy, Spreadshe
     return;
   }
   if (count < 0) return;
-  Write(static_cast<std::int16_t>(count), copy.NumPrintTimes, record.NumPrintTimes);
+  Write_At_Once(static_cast<std::int16_t>(count), copy.NumPrintTimes, record.NumPrintTimes);
   if (count > 0) F1Book1.MaxRow(static_cast<int>(count));
 }
 

@@ -410,6 +410,38 @@ TEST_F(DiluteScreen, Long_Names_Are_Noted_On_Saving) {
   EXPECT_EQ(note, "1 name of more than 20 letters: the first 20 are read back");
 }
 
+TEST_F(DiluteScreen, Names_That_The_File_Cannot_Keep_Are_Marked_And_Noted) {
+  Scripted_Messages messages;
+  Open();
+  Enter_Solids("50");
+  Paste(0, 1, 1, QStringLiteral("\u03b1-BHC\t1\t1\t1\n"));
+  EXPECT_EQ(Cell(0, 1, 1), "\xCE\xB1-BHC");
+  EXPECT_EQ(Book(0).NumberNoteOf(1, 1), "has a character that the dilution file can't keep");
+  Go_To(1);
+  EXPECT_EQ(Book(1).NumberNoteOf(1, 1), "has a character that the dilution file can't keep");
+  Go_To(0);
+  Click(Button(0));
+  std::string note;
+  Port().board.show_note = [&](const Status_Note& shown) { note = shown.text; };
+  Save_List("list.DUD");
+  EXPECT_EQ(note, "1 name with letters that the file can't keep: saved as ?");
+  EXPECT_EQ(Hint(0).toStdString(), note);
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(2, 1);
+  QTest::keyClick(&Book(0), Qt::Key_F2);
+  auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  ASSERT_NE(editor, nullptr);
+  editor->insert(QStringLiteral("\u03b2-BHC"));
+  QTest::keyClick(editor, Qt::Key_Return);
+  EXPECT_EQ(Cell(0, 2, 1), "\xCE\xB2-BHC");
+}
+
+TEST_F(DiluteScreen, A_Typographic_Minus_Sign_Is_A_Minus_In_Its_Tables_Too) {
+  Open();
+  Paste(0, 1, 1, QStringLiteral("Copper\t\u22125\t1\t1\n"));
+  EXPECT_EQ(Cell(0, 1, 2), "-5");
+}
+
 // ---- What is typed and not taken
 
 TEST_F(DiluteScreen, Nothing_Is_Asked_While_Everything_Is_Taken) {

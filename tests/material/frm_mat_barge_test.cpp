@@ -1,5 +1,7 @@
 #include "material/frm_mat_barge.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <random>
 #include <string>
 #include <tuple>
@@ -514,6 +516,21 @@ TEST_F(BargeScreen, Looking_Through_The_Tabs_Is_No_Unsaved_Input) {
   EXPECT_FALSE(Screen()->Holds_Unsaved_Input());
   Type_Into_Cell(*Book("F1Book1(0)"), 1, 1, "7");
   EXPECT_TRUE(Screen()->Holds_Unsaved_Input());
+}
+
+TEST_F(BargeScreen, A_Name_With_Letters_That_The_File_Does_Not_Keep_Is_Shown_Before_OK) {
+  Set_Solids(record, 1);
+  Open();
+  Go_To(1);
+  Solids().SelectRange({9, 1, 9, 1});
+  QApplication::clipboard()->setText(QStringLiteral("\u03b1-Sand"));
+  Book("F1Book1(2)")->Paste();
+  EXPECT_EQ(Solids().TextRC(9, 1), "\xCE\xB1-Sand");
+  EXPECT_NE(Book("F1Book1(2)")->NumberNoteOf(9, 1), "");
+  Modal_Replies replies({barvon::testing::Press(QMessageBox::Cancel)});
+  Accept();
+  EXPECT_TRUE(Is_Open());
+  EXPECT_TRUE(replies.seen.at(0).text.contains("has a character that the project file can't keep"));
 }
 
 TEST_F(BargeScreen, The_Focus_Goes_To_The_First_Cell_Of_A_Table) {

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "platform/ask/message_box.h"
-#include "platform/qt/fields/encoding_validator.h"
 #include "platform/table/decimal_commas.h"
 
 namespace barvon {
@@ -26,11 +25,11 @@ std::string Shown_Cells(const std::vector<std::string>& cells) {
 
 }  // namespace
 
-Text_Block Clipboard_Cells() {
+Text_Block Clipboard_Cells(Letters letters) {
   const QString text = QGuiApplication::clipboard()->text();
   if (text.isEmpty()) return {};
   Text_Block cells = Read_Tab_Text(text.toStdString());
-  const Encoding_Validator validator;
+  const Encoding_Validator validator(nullptr, letters);
   for (auto& row : cells) {
     for (std::string& cell : row) {
       QString fitting = QString::fromStdString(cell);

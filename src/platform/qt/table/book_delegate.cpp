@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 
-#include "platform/qt/fields/encoding_validator.h"
 #include "platform/qt/table/book_model.h"
 
 namespace barvon {
@@ -58,13 +57,13 @@ QWidget* Book_Delegate::createEditor(QWidget* parent, const QStyleOptionViewItem
   editor->setFrame(false);
   editor->setAccessibleName(index.data(Qt::AccessibleDescriptionRole).toString());
   editor->setFont(index.data(Qt::FontRole).value<QFont>());
-  editor->setValidator(new Encoding_Validator(editor));
   if (Number_Note note = model_.Note_Of(index.column() + 1)) {
     // Nothing typed yet is nothing to remark on.
     Make_Number_Field(editor, [note](const std::string& typed) {
       return typed.empty() ? std::string() : note(typed);
     });
   }
+  editor->setValidator(new Encoding_Validator(editor, letters_));
   editor_ = editor;
   return editor;
 }

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 
+#include "platform/qt/fields/encoding_validator.h"
+
 namespace barvon {
 
 class Book_Model;
@@ -22,6 +24,9 @@ class Book_Delegate : public QStyledItemDelegate {
   /// How the next editor starts: typing replaces the cell, and every arrow key then leaves it;
   /// otherwise the text is there to be changed, and Left and Right move in it.
   void Start_By_Typing(bool typing) { by_typing_ = typing; }
+  /// What the files' encoding does not hold is then typed like anything else.
+  void Keep_Any_Letters() { letters_ = Letters::any; }
+  Letters letters() const { return letters_; }
   /// The open editor; nothing while no cell is edited.
   QLineEdit* editor() const { return editor_; }
 
@@ -44,6 +49,7 @@ class Book_Delegate : public QStyledItemDelegate {
   const Book_Model& model_;
   QIcon mark_;
   bool by_typing_ = false;
+  Letters letters_ = Letters::of_files;
   mutable QPointer<QLineEdit> editor_;  // createEditor is const in the toolkit
 };
 

@@ -66,6 +66,8 @@ void F1Book::SetNumberNote(int col, Number_Note note) {
   model_->SetNumberNote(col, std::move(note));
 }
 
+void F1Book::KeepAnyLetters() { delegate_->Keep_Any_Letters(); }
+
 void F1Book::SetCellLook(std::function<Cell_Look(int row, int col)> look) {
   model_->SetCellLook(std::move(look));
 }
@@ -105,7 +107,7 @@ void F1Book::Cut() {
 void F1Book::Copy() { Set_Clipboard_Cells(Copied_Cells(table_, table_.SelectedRange())); }
 
 void F1Book::Paste() {
-  Text_Block cells = Clipboard_Cells();
+  Text_Block cells = Clipboard_Cells(delegate_->letters());
   // What is refused is not asked about first.
   const bool fits = Paste_Refusal(table_, table_.SelectedRange(), cells).empty();
   if (fits && !Agree_On_Commas(cells)) return;

@@ -63,6 +63,10 @@ class F1Book : public QTableView {
   /// What the cell's mark says now; "" while it has none.
   QString NumberNoteOf(int row, int col) const;
 
+  /// Cells take letters that the files' encoding does not hold, which are left out otherwise. For
+  /// whoever says what becomes of them.
+  void KeepAnyLetters();
+
   /// Asked whenever a cell is shown: what it says may hang on other cells. Of the number note and a
   /// tip the cell shows both. An empty function takes it away.
   void SetCellLook(std::function<Cell_Look(int row, int col)> look);

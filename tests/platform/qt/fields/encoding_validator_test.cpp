@@ -28,6 +28,14 @@ TEST(EncodingValidator, Keeps_Out_What_The_Encoding_Does_Not_Hold) {
   EXPECT_EQ(field.text(), "ab");
 }
 
+TEST(EncodingValidator, Where_Any_Letter_Is_Kept_Only_Controls_And_The_Minus_Sign_Change) {
+  const Encoding_Validator any(nullptr, Letters::any);
+  QString text = QString::fromUtf8("a→b\tΩ\U0001F6A2 −5");
+  int position = 0;
+  any.validate(text, position);
+  EXPECT_EQ(text, QString::fromUtf8("a→bΩ\U0001F6A2 -5"));
+}
+
 TEST(EncodingValidator, A_Pasted_Text_Goes_In_Without_The_Characters_That_Do_Not_Fit) {
   Field field;
   field.setText("[]");
