@@ -15,24 +15,10 @@
 #include "platform/qt/fields/table_fields.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/page_stack.h"
+#include "wizard/choice_frame.h"
 #include "wizard/wizard_steps.h"
 
 namespace barvon {
-
-/// A frame in the colour of a choice, with an illustration that chooses when it is clicked.
-class Choice_Frame : public QFrame {
-  Q_OBJECT
-
- public:
-  explicit Choice_Frame(QWidget* parent);
-  void Show_Chosen(bool chosen);
-
- signals:
-  void Clicked();
-
- protected:
-  void mousePressEvent(QMouseEvent* event) override;
-};
 
 /// "BARVON Data Wizard": eight pages that lead a new user through a project. It gathers the main
 /// choices itself and opens the input screens in turn.
@@ -48,6 +34,7 @@ class Data_Wiz : public Input_Screen {
  private:
   static constexpr int kVelocityOptions = 4;
 
+  void Make_Pages();
   QWidget* Analysis_Part();
   QWidget* Options_Part();
   QWidget* Grid_Part();
@@ -56,6 +43,7 @@ class Data_Wiz : public Input_Screen {
   QWidget* Velocity_Box(int option);
   QWidget* Last_Part();
   void Order_Controls();
+  void Show_Illustrations(int analysis, bool complete);
   void Connect();
 
   void Analysis_Chosen();

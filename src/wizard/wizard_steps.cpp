@@ -214,8 +214,6 @@ bool Is_Complete_At_Last_Page(const Wizard_Entry& entry) {
   return Analysis_Type_Of(entry) == kOpenWater && Offered_Evaluation(entry) == 0;
 }
 
-std::string Last_Page_Text(const Wizard_Entry& entry) {
-  return Is_Complete_At_Last_Page(entry) ? kCompleteText : kEvaluationText;
-}
+std::string Last_Page_Text(bool complete) { return complete ? kCompleteText : kEvaluationText; }
 
 }  // namespace barvon

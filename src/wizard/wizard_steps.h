@@ -52,7 +52,7 @@ std::string Grid_Text(const Wizard_Entry& entry);
 
 /// Whether nothing is left to be entered once the last page is reached.
 bool Is_Complete_At_Last_Page(const Wizard_Entry& entry);
-/// Text4(6).
-std::string Last_Page_Text(const Wizard_Entry& entry);
+/// Text4(6): what is still to come, or that nothing is.
+std::string Last_Page_Text(bool complete);
 
 }  // namespace barvon

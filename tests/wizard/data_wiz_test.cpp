@@ -399,7 +399,14 @@ TEST_F(DataWizard, A_Walk_For_Each_Analysis_And_Both_Vessels_Ends_In_Its_Project
       }
       EXPECT_EQ(Command(1)->isEnabled(), row.evaluates);
       EXPECT_EQ(Command(2)->isEnabled(), !row.evaluates);
+      const char* const kEnd = "The Data Wizard is now complete.";
+      const auto* text = Child<QPlainTextEdit>("Text4(6)");
+      EXPECT_EQ(text->toPlainText().startsWith(kEnd), !row.evaluates);
       if (row.evaluates) Next();
+      EXPECT_TRUE(text->toPlainText().startsWith(kEnd));
+      for (int i = 4; i < 7; ++i) {
+        EXPECT_FALSE(Child<QLabel>("Picture3(" + std::to_string(i) + ")")->isVisible());
+      }
       EXPECT_FALSE(Command(1)->isEnabled());
       EXPECT_TRUE(Command(2)->isEnabled());
       EXPECT_EQ(Page(), 7);

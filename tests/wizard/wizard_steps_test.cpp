@@ -379,7 +379,7 @@ TEST_F(WizardSteps, The_Last_Page_Is_The_End_Without_Diffusion_And_Without_A_Tra
     entry.simulation = row.simulation;
     entry.evaluation = row.evaluation;
     EXPECT_EQ(Is_Complete_At_Last_Page(entry), row.complete);
-    EXPECT_EQ(Last_Page_Text(entry),
+    EXPECT_EQ(Last_Page_Text(row.complete),
               row.complete
                   ? "The Data Wizard is now complete.  Click on the Finished button to return to "
                     "the main BARVON window.  At this point you may click on the Enter/Edit button "

@@ -31,6 +31,7 @@ class Page_Stack : public QStackedWidget {
 
   /// Whether nothing is lacking once the last page is reached. True unless told.
   void Set_Complete(bool complete);
+  bool Is_Complete() const { return complete_; }
 
   /// "Step 2 of  8", with both blanks.
   QString Step_Text() const;
