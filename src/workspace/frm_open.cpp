@@ -132,11 +132,12 @@ void frmOpen::Next() {
     if (Option1(kWithWizard)->isChecked()) Project().WizardAtStart = kTrue;
     if (Option1(kConventionally)->isChecked()) Project().WizardAtStart = kFalse;
   }
-  if (pages_->Is_At_End()) {
-    accept();
-  } else {
+  if (!pages_->Is_At_End()) {
     pages_->Go_On();
+    return;
   }
+  accept();
+  if (Project().WizardAtStart != kFalse) Open_Screen_Or_Tell(Row_Of_Screen("Data_Wiz"), true);
 }
 
 bool frmOpen::eventFilter(QObject* watched, QEvent* event) {

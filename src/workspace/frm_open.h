@@ -10,8 +10,8 @@
 
 namespace barvon {
 
-/// The start dialog: three pages that ask how to begin. What comes of them is the Open command or
-/// WizardAtStart; it opens nothing else itself.
+/// The start dialog: three pages that ask how to begin. What comes of them is the Open command or,
+/// with WizardAtStart set, the Data Wizard once the last page is left.
 class frmOpen : public QDialog {
  public:
   explicit frmOpen(QWidget* workspace);

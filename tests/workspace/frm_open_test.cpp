@@ -212,12 +212,22 @@ TEST_F(StartDialog, With_Neither_Way_Chosen_The_Wizard_Stays_As_It_Was) {
   }
 }
 
-TEST_F(StartDialog, The_Wizard_Itself_Does_Not_Open_Here) {
+TEST_F(StartDialog, The_Wizard_Opens_Once_The_Last_Page_Is_Left) {
   Open();
-  Choose(1), Next(), Choose(2), Next(), Next();
-  EXPECT_EQ(Project().WizardAtStart, kTrue);
+  Choose(1), Next(), Choose(2), Next();
   EXPECT_EQ(wizards, 0);
+  Next();
+  EXPECT_EQ(Project().WizardAtStart, kTrue);
+  EXPECT_EQ(wizards, 1);
+  EXPECT_FALSE(Dialog().isVisible());
   EXPECT_EQ(asked_to_open, 0);
+}
+
+TEST_F(StartDialog, Who_Goes_Back_To_An_Existing_Project_Gets_No_Wizard) {
+  Open();
+  Next(), Choose(2), Next(), Back(), Back(), Choose(0), Next();
+  EXPECT_EQ(asked_to_open, 1);
+  EXPECT_EQ(wizards, 0);
 }
 
 TEST_F(StartDialog, Back_Leads_Back_And_Does_Nothing_On_The_First_Page) {
