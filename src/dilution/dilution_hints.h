@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "dilution/dilution_grid.h"
+#include "dilution/dilution_tables.h"
 
 namespace barvon {
 

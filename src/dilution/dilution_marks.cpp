@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "dilution/dilution_grid.h"
 #include "dilution/dilution_rules.h"
 #include "pictures/shapes/inks.h"
 #include "platform/text/counted.h"

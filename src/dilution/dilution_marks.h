@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dilution/dilution_grid.h"
+#include "dilution/dilution_tables.h"
 #include "pictures/shapes/bars.h"
 #include "platform/table/cell_look.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "dilution/dilution_grid.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dilution/dilution_grid.h"
+#include "dilution/dilution_tables.h"
 
 namespace barvon {
 
