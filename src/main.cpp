@@ -11,6 +11,7 @@
 #include "run/create_process.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
+#include "workspace/tips_file.h"
 
 int main(int, char** arguments) {
   // The command line is not read: a project is opened from the File menu.
@@ -27,5 +28,6 @@ int main(int, char** arguments) {
   barvon::Main main(barvon::Program_Folder());
   barvon::Register_Program_Screens(&main);
   main.show();
+  barvon::Open_Tips_At_Start();
   return QApplication::exec();
 }

@@ -20,7 +20,9 @@
 #include "site/frm_velocity.h"
 #include "wizard/data_wiz.h"
 #include "wizard/graphic_data_entry.h"
+#include "workspace/frm_about.h"
 #include "workspace/frm_open.h"
+#include "workspace/frm_tip.h"
 
 namespace barvon {
 namespace {
@@ -52,6 +54,9 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmDatabaseCheck>(Row_Of_Screen("frmDatabaseCheck"), main);
   Register_Data_Wiz(main);
   Register<Graphic_Data_Entry>(Row_Of_Screen("Graphic_Data_Entry"), main);
+  Register<frmTip>(Row_Of_Screen("frmTip"), main);
+  Register<frmAbout>(Row_Of_Screen("frmAbout"), main);
+  Register<frmAboutMore>(Row_Of_Screen("frmAboutMore"), main);
 }
 
 }  // namespace barvon

@@ -16,7 +16,9 @@
 #include "core/project_record.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "support/screen_support.h"
+#include "workspace/frm_about.h"
 #include "workspace/frm_open.h"
+#include "workspace/frm_tip.h"
 #include "workspace/main_menus.h"
 
 namespace barvon {
@@ -56,13 +58,15 @@ void Add_Captions_Of(const QWidget& window, std::set<QString>& captions) {
   }
 }
 
-/// The texts that the main window, its menus, the start dialog, the error list and the help window
-/// show, in whatever state the project is.
+/// The texts that the main window, its menus, the start dialog, About, the tips, the error list and
+/// the help window show, in whatever state the project is.
 std::set<QString> All_Captions() {
   std::set<QString> captions;
   Main_Bench bench;
   Register_frmErrorList(&bench.main());
   Register_frmOpen(&bench.main());
+  new frmAbout(&bench.main());
+  new frmTip(&bench.main());
   for (int type = 0; type < 3; ++type) {
     bench.controls().SSOption1(type)->click();
     bench.controls().SSPanel3(0)->click();
@@ -93,7 +97,8 @@ bool Is_Shown(const std::set<QString>& captions, const QString& words) {
 TEST(HelpCaptions, Every_Field_Of_A_Page_Bears_A_Caption_Of_The_Program) {
   const std::set<QString> captions = All_Captions();
   int fields = 0;
-  for (const char* page : {"main-window.html", "menus.html", "error-list.html"}) {
+  for (const char* page :
+       {"about-and-tips.html", "main-window.html", "menus.html", "error-list.html"}) {
     for (const QString& field : Matches(Page(page), "<p class=\"field\">(.*?)</p>")) {
       EXPECT_EQ(captions.count(field), 1U) << page << ": " << field.toStdString();
       ++fields;
@@ -129,7 +134,8 @@ TEST(HelpCaptions, Every_Quoted_Text_Is_Shown_By_The_Program) {
       "This Feature is Unavailable at This Time.", "Specify Variable Depth Grid?",
       "Depth of Receiving Water Not Supplied", "Receiving Water Densities Unacceptable.",
       Read(kErrorsDetected)};
-  for (const char* page : {"main-window.html", "menus.html", "error-list.html"}) {
+  for (const char* page :
+       {"about-and-tips.html", "main-window.html", "menus.html", "error-list.html"}) {
     const QString text = QTextDocumentFragment::fromHtml(Page(page)).toPlainText().simplified();
     const QStringList quoted = Matches(text, "\"([^\"]*)\"");
     EXPECT_GE(quoted.size(), 4) << page;

@@ -104,16 +104,26 @@ void Look_At_Start_Dialog(const Look& look) {
   }
 }
 
+void Unload(QWidget& screen) {
+  static_cast<Input_Screen&>(screen).Unload();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Look_At_Tips(Main_Bench& bench, const Look& look) {
+  for (const char* tips : {BARVON_SOURCE "/resources/TIPOFDAY.TXT", ""}) {
+    if (*tips != '\0') std::filesystem::copy_file(tips, bench.folder / "TIPOFDAY.TXT");
+    QWidget& tip = Opened("frmTip");
+    look(tip, *tips == '\0' ? "without the file" : "with a tip");
+    Unload(tip);
+    std::filesystem::remove(bench.folder / "TIPOFDAY.TXT");
+  }
+}
+
 void Look_At_Error_List(const Look& look) {
   Check_Project(Project());
   QWidget& list = Opened("frmErrorList");
   look(list, "with findings");
   list.close();
-}
-
-void Unload(QWidget& screen) {
-  static_cast<Input_Screen&>(screen).Unload();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Look_At_Velocity(const Look& look) {
@@ -373,6 +383,9 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Main(bench, settled);
   Look_At_Details(bench, settled);
   Look_At_Start_Dialog(settled);
+  Look_At_Input_Screen("frmAbout", settled);
+  Look_At_Input_Screen("frmAboutMore", settled);
+  Look_At_Tips(bench, settled);
   Look_At_Error_List(settled);
   Look_At_Input_Screen("frmDensity", settled);
   Look_At_Simulation(settled);

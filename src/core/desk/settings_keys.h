@@ -14,6 +14,9 @@ inline constexpr char kNotUsed[] = "Not Used";
 inline constexpr char kHelpStatusSection[] = "Help Status";
 inline constexpr char kHelpOnKey[] = "HelpOn";
 
+inline constexpr char kOptionsSection[] = "Options";
+inline constexpr char kTipsAtStartKey[] = "Show Tips at Startup";
+
 inline constexpr char kGraphFileSection[] = "Graph File";
 inline constexpr char kGraphFileKey[] = "GraphFile";
 
