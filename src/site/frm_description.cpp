@@ -131,7 +131,9 @@ void frmDescription::Connect() {
 }
 
 void frmDescription::Opening() {
+  // In front of the count's field: the profile of the wizard's water has two points.
   Store_Wizard_Depth(record_);
+  Store_Wizard_Densities(record_);
   Lay_Out_Density_Table(false, F1Book1->table());
   Store_Dimensions(record_);
   fields_.Follow(Faces_Of(Site_Fields(), record_));
@@ -142,7 +144,6 @@ void frmDescription::Opening() {
   if (record_.ConstantDepthFlag == 0) Set_Check(kVariableDepth, true);
   for (int i = kRoughness; i < kSiteFields; ++i) Set_Text1(i, texts("Text1", i));
   F1Book1->table().ClearAll();
-  Store_Wizard_Densities(record_);
   const bool computed = record_.DensityComputeFlag != kFalse;
   if (computed) Set_Check(kComputesDensity, true);
   Fill_Density_Table(record_, Density_Points(record_), computed, F1Book1->table());

@@ -75,7 +75,9 @@ bool Tidal_Panel::Show_Averages() {
   return true;
 }
 
-void Tidal_Panel::Show_Wizard() { Text3(kDuration)->setText(Text(Duration_From_Wizard())); }
+void Tidal_Panel::Show_Wizard() {
+  filled_[kDuration].Show(Text3(kDuration), Duration_From_Wizard(record_));
+}
 
 void Tidal_Panel::Show_Interval() {
   Text4_1->setPlainText(Text(Interval_Note(Interval_Of(Entry()))));

@@ -251,12 +251,17 @@ double Type_From_Wizard(const ProjectRecord& record) {
   if (record.WizardActive == kFalse || option < 0 || option >= kVelocityForms) {
     return record.VelocityProfileType;
   }
-  return Type_Of_Form(static_cast<Velocity_Form>(option));
+  const auto form = static_cast<Velocity_Form>(option);
+  // With its logarithm: a walk through the wizard leaves it as it is.
+  if (Form_Of_Type(record.VelocityProfileType) == form) return record.VelocityProfileType;
+  return Type_Of_Form(form);
 }
 
-std::string Duration_From_Wizard() {
-  return Format_Number(Lenient_Number(Answers_Of_Wizard().max_duration) / kSecondsPerHour,
-                       "###.00");
+Typed_Number Duration_From_Wizard(const ProjectRecord& record) {
+  const double seconds = Lenient_Number(Answers_Of_Wizard().max_duration);
+  Typed_Number shown(Format_Number(seconds / kSecondsPerHour, "###.00"));
+  if (seconds == record.SimulationDuration) shown.kept = Hours_Of_Simulation(record);
+  return shown;
 }
 
 }  // namespace barvon

@@ -75,7 +75,8 @@ std::string Filled_Note(const Typed_Number& entered);
 
 /// The type that the open wizard asks for; the record's own while there is none.
 double Type_From_Wizard(const ProjectRecord& record);
-/// Text3(2) from the open wizard: its longest duration in hours.
-std::string Duration_From_Wizard();
+/// Text3(2) from the open wizard: its longest duration in hours. Where that is the record's, what
+/// the few decimals leave out is kept.
+Typed_Number Duration_From_Wizard(const ProjectRecord& record);
 
 }  // namespace barvon

@@ -678,14 +678,16 @@ TEST_F(SiteScreen, With_The_Wizard_Its_Water_Fills_The_Screen) {
   EXPECT_EQ(record.DEPC0, 1000);
 }
 
-TEST_F(SiteScreen, With_The_Wizard_The_Count_Of_Points_Still_Shows_The_Records) {
+TEST_F(SiteScreen, With_The_Wizard_The_Profile_Has_Its_Two_Points_Alone) {
   record.WizardActive = kTrue;
   record.NROA0 = 4;
+  record.DensityDepths = {0, 0, 10, 20, 30.6, 0};
   Answers_Of_Wizard() = {"2400", "60", "10", "35", 1};
   Open();
   EXPECT_EQ(record.NROA0, 2);
-  EXPECT_EQ(Shown(8), "4");
-  EXPECT_EQ(Table().MaxRow(), 4);
+  EXPECT_EQ(Shown(8), "2");
+  EXPECT_EQ(Table().MaxRow(), 2);
+  EXPECT_EQ(Column(1), (Cells{"0.0", "60.0"}));
 }
 
 TEST_F(SiteScreen, The_Profile_Is_Drawn_Live) {

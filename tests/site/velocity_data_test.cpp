@@ -343,7 +343,7 @@ TEST_F(VelocityData, A_Filled_Text_Tells_What_Its_Decimals_Leave_Out) {
 
 TEST_F(VelocityData, The_Open_Wizard_Names_The_Type) {
   record.VelocityProfileType = 2;
-  const double types[] = {1, 3, 4, 5};
+  const double types[] = {2, 3, 4, 5};  // a logarithmic profile stays one
   for (int option = 0; option < 4; ++option) {
     Answers_Of_Wizard().velocity_option = option;
     record.WizardActive = kTrue;
@@ -354,13 +354,21 @@ TEST_F(VelocityData, The_Open_Wizard_Names_The_Type) {
   record.WizardActive = kTrue;
   Answers_Of_Wizard().velocity_option = -1;
   EXPECT_EQ(Type_From_Wizard(record), 2);
+  record.VelocityProfileType = 4;
+  Answers_Of_Wizard().velocity_option = 0;
+  EXPECT_EQ(Type_From_Wizard(record), 1);
 }
 
 TEST_F(VelocityData, The_Open_Wizard_Names_The_Duration_In_Seconds) {
+  record.SimulationDuration = 2400;
   Answers_Of_Wizard().max_duration = "5400";
-  EXPECT_EQ(Duration_From_Wizard(), "1.50");
+  EXPECT_EQ(Duration_From_Wizard(record).text, "1.50");
+  EXPECT_EQ(Duration_From_Wizard(record).kept, std::nullopt);
   Answers_Of_Wizard().max_duration = "";
-  EXPECT_EQ(Duration_From_Wizard(), ".00");
+  EXPECT_EQ(Duration_From_Wizard(record).text, ".00");
+  Answers_Of_Wizard().max_duration = "2400";
+  EXPECT_EQ(Duration_From_Wizard(record).text, ".67");
+  EXPECT_EQ(Duration_From_Wizard(record).kept, 2400.0 / 3600);
 }
 
 }  // namespace
