@@ -9,6 +9,7 @@
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "core/velocity_types.h"
+#include "core/wizard_answers.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/qt/fields/option_paint.h"
 
@@ -54,13 +55,17 @@ void Data_Wiz::Connect() {
     if (walk_) Tell_Answers(Entry(), record_);
   };
   for (QLineEdit* field : Text7) connect(field, &QLineEdit::textChanged, this, tell);
+  connect(Text7(kMaxDuration), &QLineEdit::textEdited, this,
+          [this] { walk_->accepted.duration = false; });
   for (QRadioButton* option : SSOption1) {
     connect(option, &QRadioButton::clicked, this, [this] { Paint_Options(SSOption1); });
   }
   for (QRadioButton* option : SSOption2) {
     connect(option, &QRadioButton::clicked, this, [this, tell] {
+      // A click on the type that is set chooses nothing.
+      const bool other = Chosen_Option(SSOption2) != Answers_Of_Wizard().analysis_option;
       Analysis_Chosen();
-      Put_Default_Duration(Chosen_Option(SSOption2));
+      if (other && !walk_->accepted.duration) Put_Default_Duration(Chosen_Option(SSOption2));
       tell();
     });
   }
@@ -152,6 +157,7 @@ void Data_Wiz::Check2_Click(bool disabled) {
     Close_Help();
   } else {
     Show_Topic(kWizardTopics[kAnalysisPage]);
+    Stay_In_Front();
   }
 }
 
@@ -187,6 +193,8 @@ void Data_Wiz::Next() {
   if (page == kOperationPage) pages_->Set_Complete(Is_Complete_At_Last_Page(entry));
   if (page == kLastPage) pages_->Set_Complete(true);
   pages_->Go_On();
+  // Return goes on, also for who has come here by the buttons.
+  if (Command1(kBack)->hasFocus()) Command1(kNext)->setFocus();
   ShowStep();
 }
 
@@ -212,8 +220,12 @@ void Data_Wiz::ShowStep() {
   setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
   if (record_.WizardHelpOn == kFalse) return;
   Show_Topic(kWizardTopics.at(static_cast<std::size_t>(pages_->currentIndex())));
-  // The page of help comes forward by itself, over the buttons that go on; the walk goes on here.
-  // On opening this window is shown only once it has been filled.
+  Stay_In_Front();
+}
+
+// The page of help comes forward by itself, over the buttons that go on; the walk goes on here. On
+// opening this window is shown only once it has been filled.
+void Data_Wiz::Stay_In_Front() {
   QTimer::singleShot(0, this, [this] {
     raise();
     activateWindow();
@@ -238,6 +250,7 @@ void Data_Wiz::Show_Commands() {
 void Data_Wiz::Finish() {
   Close_Help();
   ApplyWizardToProject(Entry(), walk_->accepted, record_);
+  Remark_On_Time_Step(record_);
   const bool makes_depth_constant = Ask_About_Two_Points(record_);
   Unload();
   if (makes_depth_constant) Open_Screen_Or_Tell(Row_Of_Screen("frmDescription"), true);
@@ -269,7 +282,9 @@ Wizard_Entry Data_Wiz::Entry() const {
 void Register_Data_Wiz(QWidget* main) {
   const Screen_Opener open = Fresh_Screens<Data_Wiz>(main);
   Register_Screen(kScreen, [open](bool blocking, const std::string& control) {
-    const bool comes_up = Project().WizardActive == kFalse;
+    const ProjectRecord& record = Project();
+    const bool comes_up = record.WizardActive == kFalse;
+    if (comes_up && record.DisposalMethod == kContinuous && !Ask_To_Leave_The_Pipeline()) return;
     if (comes_up && !Port().board.close_input_screens()) return;
     open(blocking, control.empty() ? "Text1" : control);
   });

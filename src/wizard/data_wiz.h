@@ -58,6 +58,7 @@ class Data_Wiz : public Input_Screen {
   void Next();
   void Finish();
   void Cancel();
+  void Stay_In_Front();
   void Fill_Page();
   void Follow_Accepted_Velocity();
   void Show_Commands();

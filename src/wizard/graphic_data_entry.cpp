@@ -20,6 +20,9 @@ constexpr QSize kLeastPicture{480, 360};
 constexpr char kPictureNote[] =
     "Drag a rectangle or type its corner and size, then construct the grid.";
 constexpr char kPictureNoteOfGrid[] = "Click on two opposite corners of the disposal site.";
+constexpr char kPictureNoteOfNothing[] =
+    "A grid needs a width and a height: type them and construct it again, or clear it and drag a "
+    "rectangle.";
 
 Picture_Point On_Picture(const Feet_Point& point) { return {point.z, point.x}; }
 
@@ -193,6 +196,10 @@ void Graphic_Data_Entry::Point_Chosen(const Picture_Point& place) {
   Pick_Corner(place, page_);
   fields_.Show(Corner_Texts(page_));
   Show_Page();
+  if (!page_.first) return;
+  // The arrow keys go on from the point that was picked, not from beside it.
+  const Picture_Point point = Place_Of(*page_.grid, page_.last.value_or(*page_.first));
+  Picture1->Set_Cursor({point.y, point.x});
 }
 
 void Graphic_Data_Entry::Ask_Radius() {
@@ -223,7 +230,9 @@ void Graphic_Data_Entry::Save() {
 
 void Graphic_Data_Entry::Show_Page() {
   Picture1->Show(Draw_Page(fields_.Texts(), page_, record_));
-  Picture1->Set_Caption(QLatin1String(page_.grid ? kPictureNoteOfGrid : kPictureNote));
+  const char* note = kPictureNote;
+  if (page_.grid) note = Has_Grid_To_Take(page_) ? kPictureNoteOfGrid : kPictureNoteOfNothing;
+  Picture1->Set_Caption(QLatin1String(note));
 }
 
 }  // namespace barvon

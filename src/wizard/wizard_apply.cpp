@@ -6,6 +6,7 @@
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "core/velocity_types.h"
+#include "platform/ask/message_box.h"
 
 namespace barvon {
 namespace {
@@ -28,11 +29,6 @@ auto Site_Of(Record& r) {
   return std::tie(r.WizardAccepted, r.NMAX0, r.MMAX0, r.DX0, r.DZ0, r.DistX, r.DistZ, r.DEPC0,
                   r.NROA0, r.DensityComputeFlag, r.DensityDepths, r.Densities, r.DensitySalinities,
                   r.DensityTemperatures);
-}
-
-template <class Record>
-auto Velocity_Of(Record& r) {
-  return std::tie(r.VelocityProfileType, r.SimulationDuration);
 }
 
 template <class Record>
@@ -60,7 +56,8 @@ void Wizard_Copy::Bring_Back(ProjectRecord& record) const {
   Choices_Of(record) = Choices_Of(former);
   Contaminant_Of(record) = Contaminant_Of(former);
   Site_Of(record) = Site_Of(former);
-  Velocity_Of(record) = Velocity_Of(former);
+  record.VelocityProfileType = former.VelocityProfileType;
+  record.SimulationDuration = former.SimulationDuration;
   Vessel_Of(record) = Vessel_Of(former);
   Boundary_Of(record) = Boundary_Of(former);
 }
@@ -78,7 +75,13 @@ void Wizard_Copy::Keep_Accepted(const Screen_Row& screen, const ProjectRecord& r
     // Variable depth displaces a two-point profile.
     former.VelocityProfileType = record.VelocityProfileType;
   }
-  if (&screen == &Row_Of_Screen("frmVelocity")) Velocity_Of(former) = Velocity_Of(record);
+  if (&screen == &Row_Of_Screen("frmVelocity")) {
+    former.VelocityProfileType = record.VelocityProfileType;
+    // No other form asks for a duration.
+    if (record.VelocityProfileType == kUnsteadyVelocity) {
+      former.SimulationDuration = record.SimulationDuration;
+    }
+  }
   if (&screen == &Row_Of_Screen("frmOperation")) Vessel_Of(former) = Vessel_Of(record);
   if (&screen == &Row_Of_Screen("frmMdlkyn")) {
     Boundary_Of(former) = Boundary_Of(record);
@@ -118,6 +121,18 @@ void ApplyWizardToProject(const Wizard_Entry& entry, const Accepted_Data& accept
   record.WizardAccepted = kTrue;
   record.WizardActive = kFalse;
   Port().board.display_data();
+}
+
+bool Ask_To_Leave_The_Pipeline() {
+  return Ask("The Data Wizard Knows Hopper Dredges and Barges Only: the Pipeline of This Project "
+             "Would Become a Barge.  Do You Wish To Open It?",
+             Buttons::YesNo, Icon::Question) == Answer::Yes;
+}
+
+void Remark_On_Time_Step(const ProjectRecord& record) {
+  if (record.LongTermTimeStep > 0) return;
+  Port().board.show_note(
+      {"The time step is still to be entered in \"Time Step and Print Options\".", ""});
 }
 
 bool Ask_About_Two_Points(const ProjectRecord& record) {

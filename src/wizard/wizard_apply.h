@@ -32,7 +32,8 @@ class Wizard_Copy {
 /// The type of analysis, the method and the keys that the options stand for.
 void Write_Choices(const Wizard_Entry& entry, ProjectRecord& record);
 
-/// What screens of this walk have accepted, which the wizard leaves alone at its end.
+/// What screens of this walk have accepted, which the wizard leaves alone at its end. A duration
+/// that is typed on its page later counts again.
 struct Accepted_Data {
   bool depth = false, duration = false, velocity = false;
 };
@@ -41,6 +42,13 @@ struct Accepted_Data {
 /// the record, and the main window shows it. A type with a logarithmic profile keeps it.
 void ApplyWizardToProject(const Wizard_Entry& entry, const Accepted_Data& accepted,
                           ProjectRecord& record);
+
+/// Before the wizard opens over a pipeline project, which it would make one of a barge. False: the
+/// user wants it to stay one of a pipeline.
+bool Ask_To_Leave_The_Pipeline();
+
+/// Behind "Finished": a remark when the time step is lacking, which the wizard does not ask for.
+void Remark_On_Time_Step(const ProjectRecord& record);
 
 /// Behind it: a two-point profile over varying depths is asked about. True when the user wants to
 /// make the depth constant.

@@ -120,10 +120,19 @@ bool Leave_Typical_Data(const Wizard_Entry& entry, Wizard_Walk& walk, ProjectRec
 }
 
 void Lead_To_Velocity(const Wizard_Entry& entry, Wizard_Walk& walk, ProjectRecord& record) {
-  if (!Lead_To(Row_Of_Screen("frmVelocity"), entry, walk, record)) return;
+  const double duration = record.SimulationDuration;
+  // The unsteady form shows it in hours with few decimals: in the record it has them all.
+  if (!Lead_To(Row_Of_Screen("frmVelocity"), entry, walk, record,
+               [&] { record.SimulationDuration = Duration_Of(entry, record); })) {
+    return;
+  }
   walk.accepted.velocity = true;
-  // Only the unsteady form asks for a duration.
-  if (record.VelocityProfileType == kUnsteadyVelocity) walk.accepted.duration = true;
+  // No other form asks for a duration.
+  if (record.VelocityProfileType == kUnsteadyVelocity) {
+    walk.accepted.duration = true;
+  } else {
+    record.SimulationDuration = duration;
+  }
 }
 
 void Lead_To_Material(const Wizard_Entry& entry, Wizard_Walk& walk, ProjectRecord& record) {

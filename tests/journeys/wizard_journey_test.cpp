@@ -183,8 +183,7 @@ TEST_F(WizardJourney, Screens_That_Are_Called_Off_Leave_No_Trace) {
         })});
   EXPECT_EQ(Changed(), Names{});
   Choose("SSOption5(3)");
-  // The screen misses the project's duration before it takes the wizard's.
-  Next({Press(QMessageBox::Ok), Command_Of_Screen("frmVelocity", "Command1(1)")});
+  Next({Command_Of_Screen("frmVelocity", "Command1(1)")});
   EXPECT_EQ(Changed(), Names{});
   Next({Command_Of_Screen("frmMatBarge", "Command1(1)")});
   EXPECT_EQ(Changed(), Names{});
@@ -211,11 +210,9 @@ TEST_F(WizardJourney, An_Unsteady_Velocity_Takes_The_Wizards_Duration) {
   Child<QLineEdit>("Text7(1)")->setText("7200");
   Next({Press(QMessageBox::Yes), Command_Of_Screen("frmDescription", "Command1(0)")});
   Choose("SSOption5(3)");
-  // The screen misses the project's duration before it takes the wizard's.
-  Next({Press(QMessageBox::Ok),
-        Command_Of_Screen("frmVelocity", "Command1(1)", [](QWidget* velocity) {
-          EXPECT_EQ(velocity->findChild<QLineEdit*>("Text3(2)")->text(), "2.00");
-        })});
+  Next({Command_Of_Screen("frmVelocity", "Command1(1)", [](QWidget* velocity) {
+    EXPECT_EQ(velocity->findChild<QLineEdit*>("Text3(2)")->text(), "2.00");
+  })});
 }
 
 TEST_F(WizardJourney, The_Graphical_Page_Opens_Over_It_And_Its_Grid_Stays) {

@@ -8,9 +8,11 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/desk/settings_keys.h"
+#include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "core/velocity_types.h"
 #include "core/wizard_answers.h"
@@ -510,6 +512,83 @@ TEST_F(DataWizard, Finished_Leaves_Accepted_Depth_Duration_And_Velocity_Alone) {
   EXPECT_EQ(record.DEPC0, 71);
   EXPECT_EQ(record.SimulationDuration, 7200.5);
   EXPECT_EQ(record.VelocityProfileType, kUnsteadyVelocity);
+}
+
+TEST_F(DataWizard, A_Duration_Typed_After_An_Accepted_One_Counts) {
+  screens.acts["frmVelocity"] = [this] {
+    record.VelocityProfileType = kUnsteadyVelocity;
+    record.SimulationDuration = 7200;
+  };
+  Open();
+  Go_To(5);
+  Click(Command(0));
+  Click(Command(0));
+  Enter("Text7(1)", "5000");
+  screens.acts["frmVelocity"] = [this] { record.VelocityProfileType = kSingleVelocity; };
+  Next({Answer::No});
+  Next();
+  EXPECT_EQ(Text7(1), "5000");
+  Go_To(7);
+  Click(Command(2));
+  EXPECT_EQ(record.SimulationDuration, 5000);
+}
+
+TEST_F(DataWizard, An_Accepted_Duration_Gives_Way_To_No_Default) {
+  screens.acts["frmVelocity"] = [this] {
+    record.VelocityProfileType = kUnsteadyVelocity;
+    record.SimulationDuration = 3600;
+  };
+  Open();
+  Go_To(5);
+  for (int i = 0; i < 5; ++i) Click(Command(0));
+  Choose("SSOption2(1)");
+  EXPECT_EQ(Text7(1), "3600");
+}
+
+TEST_F(DataWizard, A_Click_On_The_Analysis_That_Is_Set_Keeps_The_Duration) {
+  record.WizardAccepted = kTrue;
+  record.AnalysisType = kOpenWater;
+  record.SimulationDuration = 3600;
+  Open();
+  Choose("SSOption2(0)");
+  EXPECT_EQ(Text7(1), "3600");
+  Choose("SSOption2(1)");
+  EXPECT_EQ(Text7(1), "14400");
+}
+
+TEST_F(DataWizard, A_Pipeline_Project_Is_Asked_About_First) {
+  record.DisposalMethod = kContinuous;
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    Scripted_Messages messages({answer});
+    Open_Screen(Row_Of_Screen("Data_Wiz"), false);
+    EXPECT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(Wizard() != nullptr, answer == Answer::Yes);
+    EXPECT_EQ(record.WizardActive, answer == Answer::Yes ? kTrue : kFalse);
+  }
+}
+
+TEST_F(DataWizard, Finished_Says_What_The_Wizard_Does_Not_Ask_For) {
+  std::vector<std::string> notes;
+  const auto former = std::exchange(Port().board.show_note,
+                                    [&](const Status_Note& note) { notes.push_back(note.text); });
+  for (const double step : {0.0, 300.0}) {
+    record.LongTermTimeStep = step;
+    Open();
+    Go_To(7);
+    Click(Command(2));
+  }
+  EXPECT_EQ(notes,
+            Names{"The time step is still to be entered in \"Time Step and Print Options\"."});
+  Port().board.show_note = former;
+}
+
+TEST_F(DataWizard, Return_Goes_On_For_Who_Has_Come_By_The_Buttons) {
+  Open();
+  Next();
+  Command(0)->setFocus();
+  Command(1)->click();  // by its letter, which leaves the keyboard where it is
+  EXPECT_EQ(Page(), 2);
+  EXPECT_EQ(QApplication::focusWidget(), Command(1));
 }
 
 TEST_F(DataWizard, An_Accepted_Logarithmic_Profile_Stays_One) {

@@ -152,6 +152,35 @@ TEST_F(GraphicalPage, It_Can_Be_Used_Without_A_Mouse) {
   ASSERT_NE(Window(), nullptr) << "Return picks";
 }
 
+TEST_F(GraphicalPage, The_Arrow_Keys_Go_On_From_The_Point_That_The_Mouse_Picked) {
+  Open();
+  Construct();
+  Pick(610, 390);
+  QTest::keyClick(Picture(), Qt::Key_Right);
+  QTest::keyClick(Picture(), Qt::Key_Return);
+  EXPECT_EQ(Text("Text3(2)"), "800.00");
+  EXPECT_EQ(Text("Text3(3)"), "400.00");
+  EXPECT_NEAR(Picture()->Cursor()->z, 800, 0.01);
+  EXPECT_NEAR(Picture()->Cursor()->x, 400, 0.01);
+}
+
+TEST_F(GraphicalPage, A_Grid_Without_A_Size_Says_What_To_Do) {
+  Open();
+  Command("Command3");
+  EXPECT_EQ(Text("Text2(2)"), ".00");
+  const QString note =
+      "A grid needs a width and a height: type them and construct it again, or clear it and drag a "
+      "rectangle.";
+  const auto told = [&] {
+    const auto labels = Window()->findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(),
+                       [&](const QLabel* label) { return label->text().contains(note); });
+  };
+  EXPECT_TRUE(told());
+  Construct();
+  EXPECT_FALSE(told());
+}
+
 TEST_F(GraphicalPage, Clear_Starts_Again) {
   Open();
   Construct();

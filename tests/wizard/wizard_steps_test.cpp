@@ -291,6 +291,25 @@ TEST_F(WizardSteps, Open_Water_Has_No_Site_But_Its_KEY3) {
   EXPECT_EQ(record_.KEY3, kTracer);
 }
 
+TEST_F(WizardSteps, The_Velocity_Screen_Finds_The_Typed_Duration_In_The_Record) {
+  record_.SimulationDuration = 600;
+  Begin();
+  double found = 0;
+  screens.acts["frmVelocity"] = [&] { found = record_.SimulationDuration; };
+  Leave(kVelocityPage);
+  EXPECT_EQ(found, 2400);
+  EXPECT_EQ(record_.SimulationDuration, 600) << "no form but the unsteady one stores it";
+  screens.acts["frmVelocity"] = [&] { record_.VelocityProfileType = kUnsteadyVelocity; };
+  screens.accepts = false;
+  Leave(kVelocityPage);
+  EXPECT_EQ(record_.SimulationDuration, 600);
+  screens.accepts = true;
+  Leave(kVelocityPage);
+  EXPECT_EQ(record_.SimulationDuration, 2400);
+  Call_Off_Walk(*walk, record_);
+  EXPECT_EQ(record_.SimulationDuration, 2400);
+}
+
 TEST_F(WizardSteps, Cancel_Brings_Everything_Back_But_What_Screens_Accepted) {
   record_.SiteTop = 7;
   Begin();
