@@ -270,7 +270,7 @@ TEST_F(DatabaseData, Mending_Is_Asked_First_And_Keeps_Copies) {
   EXPECT_TRUE(Mend_Database_Files(report));
   EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), site + "\r\n");
   EXPECT_EQ(Read_Text(folder_ / "dispdb.dat.bak"), site);
-  EXPECT_EQ(notes_, Lines{"Mended: dispdb.dat. The files as they were are kept as .bak."});
+  EXPECT_EQ(notes_, Lines{"Mended: dispdb.dat. The file as it was is kept as dispdb.dat.bak."});
 }
 
 }  // namespace
