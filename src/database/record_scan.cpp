@@ -119,7 +119,7 @@ void Record_Scan::Take_Record(int place) {
     const bool is_next = place == entries_ && std::string_view(layout_.list) == kSiteList;
     Find(at_,
          "code " + Code_Text(place) + " has no entry in " + layout_.list +
-             (is_next ? "; a site that is added would take it" : ""),
+             (is_next ? "; no site can be added as long as it has none" : ""),
          true);
   }
   if (behind < 0) {

@@ -396,8 +396,8 @@ TEST_F(DatabaseCheck, Currents_That_A_New_Site_Would_Take) {
   Write("veldb.dat", Velocity_Block(" 100") + Velocity_Block(" 200") + Velocity_Block(" 300") +
                          Velocity_Block(" 400") + "\r\n");
   EXPECT_EQ(Found("veldb.dat"),
-            (Lines{"veldb.dat, line 75: remark: code 300 has no entry in dspsites.dat; a site that "
-                   "is added would take it",
+            (Lines{"veldb.dat, line 75: remark: code 300 has no entry in dspsites.dat; no site can "
+                   "be added as long as it has none",
                    "veldb.dat, line 112: remark: code 400 has no entry in dspsites.dat"}));
 }
 
