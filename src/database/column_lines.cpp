@@ -15,7 +15,8 @@ namespace {
 constexpr int kMostDigits = 15;
 constexpr double kMostRounding = 0.05;  // of the number
 
-bool Is_Of_A_Number(char c) { return (c >= '0' && c <= '9') || c == '.'; }
+bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
+bool Is_Of_A_Number(char c) { return Is_Digit(c) || c == '.'; }
 
 bool Is_One_Number_Or_Nothing(const std::string& text) {
   const std::string number = Trimmed(text);
@@ -104,6 +105,38 @@ bool Begins_Before(const std::string& line, const Line_Columns& field,
          Is_Of_A_Number(start[1]);
 }
 
+/// Whether these characters, from the last of some columns on, are one number.
+bool Goes_On(const std::string& end) {
+  if (end.size() < 2 || !Is_Of_A_Number(end[0])) return false;
+  if (Is_Of_A_Number(end[1]) || end[1] == ',') return true;
+  constexpr std::string_view kExponents = "EeDd";
+  return kExponents.find(end[1]) != kExponents.npos && end.size() > 2 &&
+         (Is_Digit(end[2]) || end[2] == '+' || end[2] == '-');
+}
+
+/// A number that is cut in two by columns that touch: its point stands in the first, and what is
+/// left of it does not fill the second as a number of its own would.
+bool Is_Cut(const std::string& line, const Line_Columns& field, const Line_Columns& next) {
+  if (next.first != field.last + 1) return false;
+  const std::string start = Text_In(line, field), rest = Text_In(line, next);
+  if (start.empty() || rest.empty() || !Is_Of_A_Number(start.back()) || !Is_Digit(rest[0])) {
+    return false;
+  }
+  return start.find('.') != start.npos && rest.find('.') == rest.npos &&
+         Trimmed(rest).size() < next.last - next.first + 1;
+}
+
+/// Whether words, and no further number, stand behind a number in its columns.
+bool Only_Words_Follow(const std::string& text, std::size_t number_end) {
+  return number_end > 0 && text[number_end] == ' ' &&
+         Leading_Numbers(text.substr(number_end), 1).empty();
+}
+
+std::string Should_Hold(const Line_Columns& field, const std::string& text) {
+  return Columns_Text(field) + " should hold a number, but " +
+         (text.empty() ? "nothing" : "\"" + text + "\"") + " stands there";
+}
+
 }  // namespace
 
 std::vector<double> Leading_Numbers(const std::string& line, std::size_t most) {
@@ -128,15 +161,28 @@ bool Runs_Out_Of_Columns(const std::string& line, std::span<const Line_Columns> 
     const std::size_t behind = field.last + 1;
     const bool other_begins = std::ranges::any_of(
         columns, [behind](const Line_Columns& other) { return other.first == behind; });
-    const std::string end = Text_In(line, {field.last, behind});
-    return !other_begins && end.size() == 2 && Is_Of_A_Number(end[0]) && Is_Of_A_Number(end[1]);
+    return !other_begins && Goes_On(Text_In(line, {field.last, behind + 1}));
   });
+}
+
+std::string Printed(std::span<const double> numbers) {
+  std::string line;
+  for (const double number : numbers) {
+    const std::string text = Plain_Number(number);
+    line += (text.starts_with('-') ? "" : " ") + text + " ";
+  }
+  return line;
+}
+
+bool Is_Printed(const std::string& line, std::size_t count) {
+  const std::vector<double> numbers = Leading_Numbers(line, count);
+  return numbers.size() == count && Trimmed_Right(line) == Trimmed_Right(Printed(numbers));
 }
 
 std::optional<Columned_Line> Into_Columns(const std::string& line,
                                           std::span<const Line_Columns> columns) {
   const auto [numbers, rest] = Split(line, columns.size());
-  if (numbers.size() < columns.size()) return std::nullopt;
+  if (numbers.size() < columns.size() || !Trimmed(std::string(rest)).empty()) return std::nullopt;
   Columned_Line result;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const std::size_t width = columns[i].last - columns[i].first + 1;
@@ -146,29 +192,38 @@ std::optional<Columned_Line> Into_Columns(const std::string& line,
     result.line += std::string(columns[i].first - 1 - result.line.size(), ' ');
     result.line += Right_Justified(*text, width);
   }
-  const std::string words = Trimmed(std::string(rest));
-  if (!words.empty()) result.line += " " + words;
   return result;
 }
 
 std::string Column_Fault(const std::string& line, std::span<const Line_Columns> columns) {
-  if (Trimmed(line).empty()) return "";
+  if (columns.empty()) return "";
+  if (Trimmed(line).empty()) {
+    return columns.size() == 1 ? "a number should stand here, but the line is empty"
+                               : "numbers should stand here, but the line is empty";
+  }
   if (Runs_Out_Of_Columns(line, columns)) return "a number runs out of its columns";
   for (const Line_Columns& field : columns) {
-    const std::string text = Trimmed(Text_In(line, field));
+    const bool is_last = &field == &columns.back();
     if (Begins_Before(line, field, columns)) {
       return "a number begins before " + Columns_Text(field);
     }
-    if (text.empty())
-      return Columns_Text(field) + " should hold a number, but nothing stands there";
+    if (!is_last && Is_Cut(line, field, *(&field + 1))) {
+      return "a number runs on from " + Columns_Text(field) + " into the next ones";
+    }
+    const std::string text = Trimmed(Text_In(line, field));
+    if (text.empty()) return Should_Hold(field, text);
     const std::size_t end = Read_Number_Start(text).end;
-    const bool words_follow =
-        end > 0 && end < text.size() && text[end] == ' ' && &field == &columns.back();
-    if (end != text.size() && !words_follow) {
-      return Columns_Text(field) + " should hold a number, but \"" + text + "\" stands there";
+    if (end != text.size() && !(is_last && Only_Words_Follow(text, end))) {
+      return Should_Hold(field, text);
     }
   }
   return "";
+}
+
+bool Number_Behind(const std::string& line, std::span<const Line_Columns> columns) {
+  if (columns.empty()) return false;
+  const std::size_t behind = columns.back().last + 1;
+  return !Leading_Numbers(Text_In(line, {behind, behind + line.size()}), 1).empty();
 }
 
 }  // namespace barvon

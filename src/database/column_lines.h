@@ -21,17 +21,24 @@ bool Is_In_Columns(const std::string& line, std::span<const Line_Columns> column
 bool Runs_Out_Of_Columns(const std::string& line, std::span<const Line_Columns> columns);
 
 /// What is wrong with a line whose columns must each hold a number, in words; "" for nothing. Words
-/// may follow the last number, an empty line is fine.
+/// may follow the last number.
 std::string Column_Fault(const std::string& line, std::span<const Line_Columns> columns);
 
-/// A line with its numbers moved into the columns and what stood behind them kept behind, and
-/// whether a number lost digits there.
+/// Whether the first thing behind the last of the columns is one number more.
+bool Number_Behind(const std::string& line, std::span<const Line_Columns> columns);
+
+/// Numbers without columns: each with a blank or a minus sign in front and a blank behind.
+std::string Printed(std::span<const double> numbers);
+/// Whether a line is so many numbers in that form, and nothing else; with none, an empty line.
+bool Is_Printed(const std::string& line, std::size_t count);
+
+/// A line with its numbers moved into the columns, and whether a number lost digits there.
 struct Columned_Line {
   std::string line;
   bool rounded = false;
 };
 
-/// Nothing when the line has too few numbers, or one that fits only rounded by more than a
+/// Nothing when the line has not just as many numbers, or one that fits only rounded by more than a
 /// twentieth of itself.
 std::optional<Columned_Line> Into_Columns(const std::string& line,
                                           std::span<const Line_Columns> columns);

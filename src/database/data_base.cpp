@@ -10,7 +10,6 @@
 #include "core/desk/screen_table.h"
 #include "core/desk/workspace_port.h"
 #include "platform/files/app_folder.h"
-#include "platform/qt/fields/encoding_validator.h"
 #include "platform/qt/fields/option_paint.h"
 
 namespace barvon {
@@ -40,7 +39,6 @@ DataBase::DataBase(QWidget* workspace)
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setCompleter(nullptr);
-    list->lineEdit()->setValidator(new Encoding_Validator(list));
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setMinimumContentsLength(kLetters);
     rows->addWidget(Label1(i), i, 0);
@@ -132,7 +130,9 @@ void DataBase::Command1_Click(int index) {
 }
 
 void DataBase::Update() {
-  if (!Update_Database(Combo1(kSites)->currentText().toStdString(), record_)) return;
+  // A letter and its accent are one letter of the files.
+  const QString name = Combo1(kSites)->currentText().normalized(QString::NormalizationForm_C);
+  if (!Update_Database(name.toStdString(), record_)) return;
   List_Contents sites;
   sites.names = Site_Names(Application_Folder()).value_or(std::vector<std::string>());
   sites.place = static_cast<int>(sites.names.size()) - 1;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "core/number_text.h"
@@ -10,6 +11,7 @@
 #include "core/text_tools.h"
 #include "database/data_columns.h"
 #include "database/data_files.h"
+#include "database/record_mends.h"
 #include "database/record_scan.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
@@ -24,7 +26,7 @@ using Names = std::optional<std::vector<std::string>>;
 
 struct Lines_Of_File {
   std::vector<std::string> lines;
-  const char* line_end = "\n";
+  std::string bytes;
 };
 
 std::optional<Lines_Of_File> Read_Lines(const std::string& path) {
@@ -32,11 +34,31 @@ std::optional<Lines_Of_File> Read_Lines(const std::string& path) {
   if (!walk.Opened()) return std::nullopt;
   Lines_Of_File file;
   while (walk.Next_Or_Last()) file.lines.push_back(walk.Line());
-  std::string bytes;
-  if (Read_Whole_File(*Find_Path(path), bytes) == 0 && bytes.find('\r') != bytes.npos) {
-    file.line_end = "\r\n";
-  }
+  if (Read_Whole_File(*Find_Path(path), file.bytes) != 0) return std::nullopt;
   return file;
+}
+
+/// The bytes of a file with the edits made; lines that none of them takes keep theirs.
+std::string Edited_Bytes(const std::string& bytes, const std::vector<Line_Edit>& edits) {
+  const char* line_end = bytes.find('\r') != bytes.npos ? "\r\n" : "\n";
+  std::string edited;
+  std::size_t at = 0, line = 0;
+  const auto end_of_line = [&](std::size_t from) {
+    const std::size_t end = std::min(bytes.find_first_of("\r\n", from), bytes.size());
+    if (end == bytes.size()) return end;
+    return end + (bytes.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+  };
+  for (const Line_Edit& edit : edits) {
+    for (; line < edit.first; ++line) {
+      const std::size_t end = end_of_line(at);
+      edited.append(bytes, at, end - at);
+      at = end;
+    }
+    for (; line < edit.end; ++line) at = end_of_line(at);
+    if (!edited.empty() && edited.back() != '\n' && edited.back() != '\r') edited += line_end;
+    for (const std::string& text : edit.lines) edited += To_File_Bytes(text) + line_end;
+  }
+  return edited.append(bytes, at, bytes.npos);
 }
 
 // Lines of an entry of a list.
@@ -82,6 +104,7 @@ class Database_Checker {
     if (names->size() > kMostEntries) {
       Find(file, 0, "has more than " + std::to_string(kMostEntries) + " entries");
     }
+    if (names->empty()) Find(file, 0, "has no entries");
     std::vector<std::string> lines = list->lines;
     std::size_t end = lines.size();
     while (end > 0 && Is_Empty(lines[end - 1])) --end;
@@ -105,6 +128,9 @@ class Database_Checker {
                    std::size_t lines_of_entry) {
     if (!Is_Number(lines[at])) Find(file, at + 1, "a code should stand here, but no number does");
     if (Is_Empty(lines[at + 1])) Find(file, at + 2, "the name is empty");
+    if (Has_Control_Letters(lines[at + 1])) {
+      Find(file, at + 2, "the name holds a tab or another letter that can't be seen", true);
+    }
     if (lines_of_entry == kThree && !Is_Empty(lines[at + 2])) {
       // Materials may have a line of their own there; a site's is always empty.
       Find(file, at + 3, "an empty line should stand here, but text does",
@@ -123,13 +149,10 @@ class Database_Checker {
     // Without its list a file may hold any code.
     const std::size_t entries = names ? names->size() : kMostEntries;
     Record_Scan scan(layout, file->lines, static_cast<int>(entries));
+    const std::vector<Line_Edit> edits = Record_Mends(scan);
     report.findings.insert(report.findings.end(), scan.findings.begin(), scan.findings.end());
     if (&layout == &kVesselLayout) Compare_Openings(file->lines, scan);
-    if (scan.mended != file->lines) {
-      std::string bytes;
-      for (const std::string& line : scan.mended) bytes += To_File_Bytes(line) + file->line_end;
-      report.mends.push_back({layout.file, bytes});
-    }
+    if (!edits.empty()) report.mends.push_back({layout.file, Edited_Bytes(file->bytes, edits)});
     for (std::size_t i = 0; names && i < names->size(); ++i) {
       const std::string missing = finds(Code_Of_Place(static_cast<int>(i)));
       if (missing.empty()) continue;
@@ -144,20 +167,20 @@ class Database_Checker {
     }
   }
 
-  /// The walk to a vessel passes those before it by the project's openings, not by their own.
+  /// The walk to a vessel passes those before it by the project's openings, not by their own. No
+  /// walk passes the last one.
   void Compare_Openings(const std::vector<std::string>& lines, const Record_Scan& scan) {
     std::vector<std::pair<std::size_t, double>> counts;
-    for (const auto& [place, first] : scan.first_lines) {
-      const std::size_t at = first + 8;
+    for (const Scanned_Record& record : scan.records) {
+      const std::size_t at = record.first + 8;
       if (at < lines.size()) counts.emplace_back(at, Number_In(lines[at], data_columns::kField));
     }
     if (counts.empty()) return;
-    std::ranges::sort(counts);
     const double first = counts.front().second;
     record_->NOPENS = static_cast<std::int16_t>(std::clamp(first, 0.0, double{kMaxLayers}));
     const std::string openings = Counted(static_cast<std::size_t>(record_->NOPENS), "opening");
     bool same = true;
-    for (const auto& [at, count] : counts) {
+    for (const auto& [at, count] : std::span(counts).first(counts.size() - 1)) {
       if (count == first) continue;
       same = false;
       Find(kVesselFile, at + 1,
@@ -209,9 +232,21 @@ int Database_Report::Faults() const {
   return static_cast<int>(std::ranges::count(findings, false, &Database_Finding::remark));
 }
 
-bool Has_Site_Record(const std::string& folder, int place) {
-  const auto file = Read_Lines(Join_Path(folder, kSiteFile));
-  return file && Record_Scan(kSiteLayout, file->lines, kMostEntries).first_lines.contains(place);
+std::string Holds_Site_Already(const std::string& folder, int place) {
+  const auto scan_has = [&](const Data_Layout& layout) {
+    const auto file = Read_Lines(Join_Path(folder, layout.file));
+    return file && Record_Scan(layout, file->lines, kMostEntries).first_lines.contains(place);
+  };
+  // A walk out of step may find what a scan takes for a part of another record.
+  const auto record = std::make_unique<ProjectRecord>();
+  record->SelectedSiteCode = Code_Of_Place(place);
+  if (scan_has(kSiteLayout) || Find_Site(folder, *record)) return kSiteFile;
+  if (scan_has(kVelocityLayout)) return kVelocityFile;
+  for (int month = 1; month <= kMonths; ++month) {
+    record->SelectedMonth = month;
+    if (Find_Velocity(folder, *record)) return kVelocityFile;
+  }
+  return "";
 }
 
 Database_Report Check_Database(const std::string& folder) {
@@ -239,6 +274,7 @@ Database_Mended Mend_Database(const std::string& folder, const Database_Report& 
       return mended;
     }
     mended.files.push_back(mend.file);
+    mended.copies.push_back(mend.file + copy.substr(path.size()));
   }
   return mended;
 }

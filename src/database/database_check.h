@@ -7,8 +7,8 @@
 
 namespace barvon {
 
-/// A data file with what mending changes: records in a free layout in the columns of the walk, no
-/// empty lines where a record begins, and a line behind the last record.
+/// A data file with what mending changes: sites in a free layout in the columns of the walk, and a
+/// line behind the last record. All other bytes are as they were.
 struct Database_Mend {
   std::string file;
   std::string bytes;
@@ -29,12 +29,15 @@ struct Database_Report {
 /// they are, and the entries of the lists that it does not find. Nothing is changed.
 Database_Report Check_Database(const std::string& folder);
 
-/// Whether a record of the site data has the code of a place in the list, named there or not.
-bool Has_Site_Record(const std::string& folder, int place);
+/// The first of the data files of sites that holds a record, or a month, of the code of a place in
+/// the list, named there or not; "" for none.
+std::string Holds_Site_Already(const std::string& folder, int place);
 
-/// What became of a mend: the files that were written, and the one that failed with an errno value.
+/// What became of a mend: the files that were written with the names of their copies, and the one
+/// that failed with an errno value.
 struct Database_Mended {
   std::vector<std::string> files;
+  std::vector<std::string> copies;
   int error = 0;
   std::string failed;
 };

@@ -13,6 +13,7 @@
 #include "database/save_site.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/app_folder.h"
+#include "platform/files/text_encoding.h"
 #include "platform/text/counted.h"
 #include "platform/text/letter_case.h"
 
@@ -56,6 +57,26 @@ std::string Passed_Words(int place, int openings) {
   if (place <= 0) return "";
   return "The vessels before the chosen one were passed by " +
          Counted(static_cast<std::size_t>(std::max(openings, 0)), "opening") + " each.";
+}
+
+std::string Listed(const std::vector<std::string>& texts) {
+  std::string list;
+  for (const std::string& text : texts) list += (list.empty() ? "" : ", ") + text;
+  return list;
+}
+
+/// The letters of a name that would become question marks, and "a control letter" for those that
+/// might break a line; "" for none.
+std::string Letters_That_Files_Lose(const std::string& name) {
+  std::vector<std::string> lost;
+  for (std::string rest = name; !rest.empty();) {
+    const std::string letter = First_Characters(rest, 1);
+    rest.erase(0, letter.size());
+    const std::string told = Has_Control_Letters(letter) ? "a control letter" : letter;
+    const bool kept = told == letter && Fits_File_Encoding(letter);
+    if (!kept && std::ranges::find(lost, told) == lost.end()) lost.push_back(told);
+  }
+  return Listed(lost);
 }
 
 }  // namespace
@@ -167,6 +188,11 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
     Show_Warning("Please type the name of the new site into \"Site Data\" first.");
     return false;
   }
+  if (const std::string foreign = Letters_That_Files_Lose(wanted); !foreign.empty()) {
+    Show_Warning("The name has letters that the files can't keep: " + foreign +
+                 ". Please type another one.");
+    return false;
+  }
   // Without the list's names the new one would take the code of a site that has one.
   if (!names) {
     Show_Critical(
@@ -183,10 +209,15 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
     return false;
   }
   const int place = static_cast<int>(names->size());
-  if (Has_Site_Record(folder, place)) {
+  if (const std::string holder = Holds_Site_Already(folder, place); !holder.empty()) {
+    const std::string code = Plain_Number(Code_Of_Place(place)) + ".";
     Show_Critical(
-        "The site was not added: dispdb.dat holds a site without a name already, of code " +
-        Plain_Number(Code_Of_Place(place)) + ".");
+        holder == kSiteFile
+            ? "The site was not added: dispdb.dat holds a site without a name already, of code " +
+                  code
+            : "The site was not added: veldb.dat holds currents of a site without a name, of "
+              "code " +
+                  code);
     return false;
   }
   const Site_Saved saved = Save_Site(folder, place, wanted, record);
@@ -208,7 +239,7 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
 
 bool Mend_Database_Files(const Database_Report& report) {
   if (Show_Message({"Put these files into the columns of the walk? Copies of them are kept beside "
-                    "them, with .bak behind their names.",
+                    "them, with .bak behind their names, or .bak2 and so on where there is one.",
                     kMessageTitle, Buttons::YesNo, Icon::Question, Answer::No, Answer::No}) !=
       Answer::Yes) {
     return false;
@@ -223,9 +254,11 @@ bool Mend_Database_Files(const Database_Report& report) {
     Show_Critical("Can't mend the file " + mended.failed + ". " + std::strerror(mended.error));
   }
   if (mended.files.empty()) return false;
-  std::string files;
-  for (const std::string& file : mended.files) files += (files.empty() ? "" : ", ") + file;
-  Port().board.show_note({"Mended: " + files + ". The files as they were are kept as .bak.", {}});
+  Port().board.show_note({"Mended: " + Listed(mended.files) + ". " +
+                              (mended.files.size() == 1 ? "The file as it was is kept as "
+                                                        : "The files as they were are kept as ") +
+                              Listed(mended.copies) + ".",
+                          {}});
   return true;
 }
 

@@ -9,6 +9,20 @@
 
 namespace barvon {
 
+/// A record as the scan came upon it.
+struct Scanned_Record {
+  std::size_t first = 0, end = 0;  // its lines, from 0; `end` is the line behind them
+  int place = 0;                   // in the list, from 0
+  bool strays_before = false;      // lines that belong to no record stand before it
+  bool blanks_before = false;      // empty lines do
+  bool complete = true;            // all of its lines are there
+  bool whole = true;               // and each holds what it should
+  bool free = false;               // a site as it is printed, without columns
+  bool fits = true;                // its numbers do so into their columns, which are:
+  std::vector<std::string> columned = {};
+  std::size_t finding = 0;  // what tells that it is free
+};
+
 /// Goes over the lines of a data file from record to record, as they are meant to be: a record in a
 /// free layout is passed by its own count, and after a break the next record is looked for.
 class Record_Scan {
@@ -17,20 +31,23 @@ class Record_Scan {
   Record_Scan(const Data_Layout& layout, std::vector<std::string> lines, int entries);
 
   std::vector<Database_Finding> findings;  // in the order of the lines
-  /// The lines as they should be. A record is mended as a whole: where one of its lines can't be,
-  /// all of them stay, and so does what keeps the walk from finding it with wrong numbers.
-  std::vector<std::string> mended;
+  std::vector<Scanned_Record> records;
+  bool strays_behind = false;  // text that belongs to no record stands behind the last one
+  /// What tells that no line stands behind the last record; -1: one does.
+  int line_missing = -1;
   /// The first line of each code's record, from 0.
   std::map<int, std::size_t> first_lines;
+
+  const Data_Layout& Layout() const { return layout_; }
+  const std::vector<std::string>& Lines() const { return lines_; }
 
  private:
   void Scan();
   void Take_Record(int place);
-  void Take_Lines(int place, int behind);
-  void Take_Line(std::size_t at, std::span<const Line_Columns> columns);
-  void Take_Site_Line(std::size_t at, std::span<const Line_Columns> columns);
-  std::string Other_Fault(const std::string& line, std::span<const Line_Columns> columns) const;
-  void Keep_Up_To(std::size_t at);
+  void Take_Lines(Scanned_Record& record, int behind);
+  void Take_Line(Scanned_Record& record, std::span<const Line_Columns> columns);
+  void Take_Free_Line(Scanned_Record& record, std::span<const Line_Columns> columns);
+  std::string Fault(const std::string& line, std::span<const Line_Columns> columns) const;
   void Look_For_A_Record();
   bool Begins_Free(std::size_t at) const;
   bool Only_Blank_From(std::size_t at) const;
@@ -42,9 +59,7 @@ class Record_Scan {
   const int entries_;
   const bool is_site_;
   std::size_t at_ = 0;
-  std::size_t kept_ = 0;             // the first line that is not in `mended` yet
-  std::vector<std::string> record_;  // the lines of a record as they should be
-  bool whole_ = false;               // they can all be so
+  bool strays_ = false, blanks_ = false;  // since the last record
 };
 
 }  // namespace barvon

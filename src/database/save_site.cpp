@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <optional>
 
-#include "core/number_text.h"
+#include "database/column_lines.h"
 #include "database/data_files.h"
 #include "database/index_files.h"
 #include "database/line_walk.h"
@@ -20,12 +20,7 @@ namespace {
 constexpr char kLineEnd[] = "\r\n";
 
 std::string Printed_Line(std::initializer_list<double> numbers) {
-  std::string line;
-  for (const double number : numbers) {
-    const std::string text = Plain_Number(number);
-    line += (text.starts_with('-') ? "" : " ") + text + " ";
-  }
-  return line + kLineEnd;
+  return Printed({numbers.begin(), numbers.size()}) + kLineEnd;
 }
 
 /// A file before and after lines were appended to it.

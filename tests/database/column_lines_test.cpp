@@ -59,13 +59,35 @@ TEST(ColumnLines, A_Small_Number_May_Stand_With_An_Exponent) {
   EXPECT_FALSE(Into_Columns(" 1500  1 ", kPair)) << "2E3 is a third more";
 }
 
-TEST(ColumnLines, Words_Behind_The_Numbers_Stay) {
-  EXPECT_EQ(Into_Columns(" 32  36  grid, by hand ", kPair)->line, " 32 36 grid, by hand");
+TEST(ColumnLines, Only_Lines_Of_Just_As_Many_Numbers_Move) {
+  EXPECT_FALSE(Into_Columns(" 32  36  grid, by hand ", kPair));
+  EXPECT_FALSE(Into_Columns(" 32  36  40 ", kPair));
+}
+
+TEST(ColumnLines, Printed_Lines_Are_Told_From_Others) {
+  EXPECT_EQ(Printed(std::array{700.0, -0.25, 5e-5}), " 700 -0.25  5E-05 ");
+  EXPECT_TRUE(Is_Printed(" 700 -0.25  5E-05 ", 3));
+  EXPECT_TRUE(Is_Printed(" 700  2", 2)) << "blanks at the end come and go";
+  EXPECT_TRUE(Is_Printed("", 0));
+  for (const char* line : {" 700 2 ", "700  2 ", " 700  2.0 ", " 700  2x ", " 700 ", "",
+                           " 700  2  3 ", " 700  2  words", " 700  1e0 "}) {
+    EXPECT_FALSE(Is_Printed(line, 2)) << line;
+  }
+  EXPECT_FALSE(Is_Printed(" 0 ", 0));
 }
 
 TEST(ColumnLines, Columns_That_Hold_No_Number_Of_Their_Own) {
   EXPECT_EQ(Column_Fault(" 1.5  2.5", kGap), "");
-  EXPECT_EQ(Column_Fault("", kGap), "");
+  EXPECT_EQ(Column_Fault("", kGap), "numbers should stand here, but the line is empty");
+  EXPECT_EQ(Column_Fault("  ", kOne), "a number should stand here, but the line is empty");
+  EXPECT_EQ(Column_Fault("", {}), "");
+  EXPECT_EQ(Column_Fault("    42,5", kOne), "a number runs out of its columns");
+  EXPECT_EQ(Column_Fault("1234.5E2", kOne), "a number runs out of its columns");
+  EXPECT_EQ(Column_Fault("1234.5 E", kOne), "");
+  EXPECT_EQ(Column_Fault("  42,5", kOne),
+            "columns 1 to 6 should hold a number, but \"42,5\" stands there");
+  EXPECT_EQ(Column_Fault("  4 25", kOne),
+            "columns 1 to 6 should hold a number, but \"4 25\" stands there");
   EXPECT_EQ(Column_Fault(" 1.5  2.5 as surveyed", kGap), "");
   EXPECT_EQ(Column_Fault("   42 feet", kOne), "");
   EXPECT_EQ(Column_Fault(" 1.5", kGap),
@@ -76,6 +98,23 @@ TEST(ColumnLines, Columns_That_Hold_No_Number_Of_Their_Own) {
             "columns 6 to 9 should hold a number, but \"n/a\" stands there");
   EXPECT_EQ(Column_Fault(" 1.5-2.50", kGap), "a number begins before columns 6 to 9");
   EXPECT_EQ(Column_Fault("1.525  2.5", kGap), "a number runs out of its columns");
+}
+
+// A depth that is missing leaves its density in both columns.
+TEST(ColumnLines, A_Number_That_Columns_Cut_In_Two) {
+  constexpr std::array<Line_Columns, 2> kProfile = {{{1, 6}, {7, 12}}};
+  EXPECT_EQ(Column_Fault(" 1.0012", kProfile),
+            "a number runs on from columns 1 to 6 into the next ones");
+  EXPECT_EQ(Column_Fault("     01.0010", kProfile), "") << "the point is the second one's";
+  EXPECT_EQ(Column_Fault("1234.5100000", kProfile), "") << "the second fills its columns";
+  EXPECT_EQ(Column_Fault("   250   250", kProfile), "");
+}
+
+TEST(ColumnLines, A_Number_Behind_The_Columns) {
+  EXPECT_TRUE(Number_Behind("     0       0", kOne));
+  EXPECT_FALSE(Number_Behind("     0  feet 2", kOne));
+  EXPECT_FALSE(Number_Behind("     0", kOne));
+  EXPECT_FALSE(Number_Behind("     0  7", {}));
 }
 
 TEST(ColumnLines, Leading_Numbers_End_At_The_First_Word) {

@@ -178,6 +178,39 @@ TEST_F(DataBaseScreen, A_Typed_Name_Is_No_Choice_Until_It_Is_An_Entry) {
   EXPECT_EQ(record.DEPC0, 165);
 }
 
+TEST_F(DataBaseScreen, A_Name_With_A_Tab_Or_A_Byte_Without_A_Letter_Is_Chosen) {
+  Write_Text(bench.folder / "dspsites.dat", "1\r\nAB\r\n\r\n2\r\nA\tB\r\n\r\n3\r\nC\x81 D\r\n\r\n");
+  record.SelectedSiteCode = 100;
+  for (const int place : {1, 2}) {
+    Open();
+    Choose(0, place);
+    QTest::keyClick(Combo1(0), Qt::Key_Tab);
+    Modal_Replies reply({Press(QMessageBox::Ok)});
+    Click(SSPanel1(0));
+    EXPECT_FALSE(reply.seen.at(0).text.contains(" Site Data"));
+    EXPECT_EQ(record.SelectedSiteCode, (place + 1) * 100);
+    Click(SSPanel1(1));
+  }
+}
+
+TEST_F(DataBaseScreen, Letters_That_Files_Lose_Are_Typed_And_Told) {
+  const std::string before = Read_Text(bench.folder / "dspsites.dat");
+  Open();
+  const QString name = QString::fromUtf8("Łódź Ω");
+  Combo1(0)->setFocus();
+  for (const QChar letter : name)
+    QTest::sendKeyEvent(QTest::Click, Combo1(0), Qt::Key_unknown, QString(letter), Qt::NoModifier);
+  EXPECT_EQ(Combo1(0)->currentText(), name);
+  Modal_Replies reply({Press(QMessageBox::Yes), Press(QMessageBox::Ok)});
+  Click(SSPanel1(3));
+  EXPECT_EQ(
+      reply.seen.at(1).text,
+      QString::fromUtf8(
+          "The name has letters that the files can't keep: Ł, ź, Ω. Please type another one."));
+  EXPECT_EQ(Combo1(0)->currentText(), name);
+  EXPECT_EQ(Read_Text(bench.folder / "dspsites.dat"), before);
+}
+
 TEST_F(DataBaseScreen, Update_Adds_The_Site_And_Mending_Makes_It_Found) {
   record.DEPC0 = 61;
   record.NROA0 = 1;

@@ -223,6 +223,41 @@ TEST_F(DatabaseData, Update_Refuses_Without_A_List_And_A_Code_That_Is_Taken) {
   EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), data);
 }
 
+TEST_F(DatabaseData, Update_Refuses_A_Code_That_Has_Currents_Of_Another_Site) {
+  const std::string list = Read_Text(folder_ / "dspsites.dat");
+  Write("veldb.dat", Velocity_Block(" 100") + Velocity_Block(" 300") + "\r\n");
+  Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Update_Database("East", record_));
+  EXPECT_EQ(boxes.shown.at(1).text,
+            "The site was not added: veldb.dat holds currents of a site without a name, of code "
+            "300.");
+  EXPECT_EQ(Read_Text(folder_ / "dspsites.dat"), list);
+}
+
+TEST_F(DatabaseData, Update_Refuses_Letters_That_The_Files_Lose) {
+  const std::string list = Read_Text(folder_ / "dspsites.dat");
+  const std::pair<const char*, const char*> names[] = {{"Łódź São Ω Ω", "Ł, ź, Ω"},
+                                                       {"East\tSide\n2", "a control letter"}};
+  for (const auto& [name, told] : names) {
+    Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+    EXPECT_FALSE(Update_Database(name, record_));
+    EXPECT_EQ(boxes.shown.at(1).text, std::string("The name has letters that the files can't "
+                                                  "keep: ") +
+                                          told + ". Please type another one.");
+  }
+  EXPECT_EQ(Read_Text(folder_ / "dspsites.dat"), list);
+  Scripted_Messages boxes({Answer::Yes});
+  EXPECT_TRUE(Update_Database("São Cœur €", record_));
+}
+
+TEST_F(DatabaseData, A_Note_Names_The_Copy_As_It_Is_Called) {
+  Write("dispdb.dat", Site_Record(" 100", "    10"));
+  Write("dispdb.dat.bak", "former");
+  Scripted_Messages boxes({Answer::Yes});
+  EXPECT_TRUE(Mend_Database_Files(Check_Database(folder_.path())));
+  EXPECT_EQ(notes_, Lines{"Mended: dispdb.dat. The file as it was is kept as dispdb.dat.bak2."});
+}
+
 TEST_F(DatabaseData, Update_Refuses_A_List_That_Ends_Inside_An_Entry) {
   const std::string list = "1\r\nNorth\r\n\r\n200\r\n";
   Write("dspsites.dat", list);
@@ -270,7 +305,7 @@ TEST_F(DatabaseData, Mending_Is_Asked_First_And_Keeps_Copies) {
   EXPECT_TRUE(Mend_Database_Files(report));
   EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), site + "\r\n");
   EXPECT_EQ(Read_Text(folder_ / "dispdb.dat.bak"), site);
-  EXPECT_EQ(notes_, Lines{"Mended: dispdb.dat. The files as they were are kept as .bak."});
+  EXPECT_EQ(notes_, Lines{"Mended: dispdb.dat. The file as it was is kept as dispdb.dat.bak."});
 }
 
 }  // namespace

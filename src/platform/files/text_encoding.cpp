@@ -101,6 +101,17 @@ bool Fits_File_Encoding(std::string_view text) {
   return true;
 }
 
+bool Has_Control_Letters(std::string_view text) {
+  constexpr unsigned char kBlank = 0x20, kDelete = 0x7F, kUpperLead = 0xC2, kUpperEnd = 0xA0;
+  unsigned char before = kBlank;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < kBlank || byte == kDelete || (before == kUpperLead && byte < kUpperEnd)) return true;
+    before = byte;
+  }
+  return false;
+}
+
 std::string To_Settings_Bytes(std::string_view text) {
   if (!Fits_File_Encoding(text)) return std::string(text);
   std::string bytes = To_File_Bytes(text);

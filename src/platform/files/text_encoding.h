@@ -16,6 +16,9 @@ std::string To_File_Bytes(std::string_view text);
 std::string From_File_Bytes(std::string_view bytes);
 /// True when every character of the UTF-8 text has a byte of its own in Windows-1252.
 bool Fits_File_Encoding(std::string_view text);
+/// Whether the UTF-8 text holds a control character: a tab, what would end a line, or what stands
+/// for a byte without a letter.
+bool Has_Control_Letters(std::string_view text);
 
 /// Settings hold paths of any alphabet: Windows-1252 where it holds the text and can't be
 /// mistaken for UTF-8, UTF-8 otherwise. The two undo each other for every text.

@@ -1,6 +1,7 @@
 #include "platform/qt/ask/qt_message_box.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QPushButton>
 #include <vector>
 
@@ -51,6 +52,15 @@ QMessageBox::StandardButton Box_Button(Answer answer) {
   return QMessageBox::Ok;
 }
 
+/// A box of few words would be too narrow for its title and what the desktop puts beside it.
+void Make_Room_For_Title(QMessageBox& box) {
+  constexpr int kIconAndButtons = 130;
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kIconAndButtons;
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 QWidget* Window_In_Front() {
@@ -72,6 +82,8 @@ Answer Show_Qt_Message(const Message& message) {
   for (const Answer answer : answers) box.addButton(Box_Button(answer));
   box.setDefaultButton(Box_Button(message.on_return.value_or(answers.front())));
   box.setEscapeButton(Box_Button(Answer_On_Close(message)));
+
+  Make_Room_For_Title(box);
 
   // A question that comes up in the middle of a long action is not waiting any more.
   const bool waiting = QApplication::overrideCursor() != nullptr;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontMetrics>
 
 #include "platform/ask/busy_cursor.h"
 #include "support/screen_support.h"
@@ -42,6 +43,23 @@ TEST_F(MessageBox, A_Path_With_Tags_In_It_Is_Plain_Text) {
   Show_Message({"Can't Open File: /a/<b>&amp;.DUI"});
   EXPECT_EQ(replies.seen.at(0).format, Qt::PlainText);
   EXPECT_EQ(replies.seen.at(0).text, "Can't Open File: /a/<b>&amp;.DUI");
+}
+
+TEST_F(MessageBox, A_Long_Title_Makes_A_Box_Of_Few_Words_Wider) {
+  const auto width_with = [](const std::string& title) {
+    int width = 0;
+    Modal_Replies replies({[&](QWidget* box) {
+      width = box->width();
+      box->close();
+    }});
+    Show_Message({"?", title});
+    return width;
+  };
+  const std::string title = "A title of more letters than its text";
+  const int title_width =
+      QFontMetrics(QApplication::font()).horizontalAdvance(QString::fromStdString(title));
+  EXPECT_GT(width_with(title), title_width + 100) << "with room for an icon and three buttons";
+  EXPECT_LT(width_with("?"), title_width);
 }
 
 TEST_F(MessageBox, Every_Button_Brings_Its_Answer_And_The_First_One_Is_The_Default) {
