@@ -156,8 +156,7 @@ void Data_Wiz::Check2_Click(bool disabled) {
   if (disabled) {
     Close_Help();
   } else {
-    Show_Topic(kWizardTopics[kAnalysisPage]);
-    Stay_In_Front();
+    Show_Topic_Beside(kWizardTopics[kAnalysisPage]);
   }
 }
 
@@ -218,17 +217,20 @@ void Data_Wiz::ShowStep() {
   }
   // In a window title this sequence is a place holder; doubled it is itself.
   setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-  if (record_.WizardHelpOn == kFalse) return;
-  Show_Topic(kWizardTopics.at(static_cast<std::size_t>(pages_->currentIndex())));
-  Stay_In_Front();
+  if (isVisible()) Show_Step_Help();
 }
 
-// The page of help comes forward by itself, over the buttons that go on; the walk goes on here. On
-// opening this window is shown only once it has been filled.
-void Data_Wiz::Stay_In_Front() {
+void Data_Wiz::Show_Step_Help() {
+  if (record_.WizardHelpOn == kFalse) return;
+  Show_Topic_Beside(kWizardTopics.at(static_cast<std::size_t>(pages_->currentIndex())));
+}
+
+void Data_Wiz::showEvent(QShowEvent* event) {
+  Input_Screen::showEvent(event);
+  if (event->spontaneous()) return;
+  // The help is placed beside this window: once it has its place.
   QTimer::singleShot(0, this, [this] {
-    raise();
-    activateWindow();
+    if (isVisible()) Show_Step_Help();
   });
 }
 

@@ -30,6 +30,7 @@ class Data_Wiz : public Input_Screen {
  protected:
   void Opening() override;
   void Command1_Click(int index) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   static constexpr int kVelocityOptions = 4;
@@ -58,7 +59,7 @@ class Data_Wiz : public Input_Screen {
   void Next();
   void Finish();
   void Cancel();
-  void Stay_In_Front();
+  void Show_Step_Help();
   void Fill_Page();
   void Follow_Accepted_Velocity();
   void Show_Commands();

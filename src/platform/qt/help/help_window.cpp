@@ -23,11 +23,13 @@ constexpr int kNavigationWidth = 38;
 constexpr int kPageWidth = 68;
 constexpr int kLeastWidth = 40;
 constexpr int kLeastLines = 14;
+constexpr int kLinesOfButtons = 4;  // at the foot of a window
 
 }  // namespace
 
 Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
     : library_(std::move(library)),
+      halves_(new QSplitter(this)),
       navigation_(new Help_Navigation(*library_, this)),
       page_(new Help_Page(*library_, this)),
       find_bar_(new Find_Bar({QStringLiteral("HelpFind"), QStringLiteral("Find in &page:"),
@@ -48,25 +50,24 @@ Help_Window::Help_Window(std::unique_ptr<Help_Library> library)
   right_column->setSpacing(0);
   right_column->addWidget(page_, 1);
   right_column->addWidget(find_bar_);
-  auto* halves = new QSplitter(this);
-  halves->setObjectName(QStringLiteral("HelpHalves"));
-  halves->addWidget(navigation_);
-  halves->addWidget(right);
-  halves->setStretchFactor(1, 1);
-  halves->setCollapsible(1, false);
+  halves_->setObjectName(QStringLiteral("HelpHalves"));
+  halves_->addWidget(navigation_);
+  halves_->addWidget(right);
+  halves_->setStretchFactor(1, 1);
+  halves_->setCollapsible(1, false);
   auto* tools = new QToolBar(this);
   tools->setObjectName(QStringLiteral("HelpTools"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(tools);
-  column->addWidget(halves, 1);
+  column->addWidget(halves_, 1);
 
   Build_Actions();
   Let_Tab_Reach(*tools);
   Place();
-  const int character = fontMetrics().averageCharWidth();
-  halves->setSizes({character * kNavigationWidth, width() - character * kNavigationWidth});
+  const int navigation = fontMetrics().averageCharWidth() * kNavigationWidth;
+  halves_->setSizes({navigation, width() - navigation});
 
   connect(navigation_, &Help_Navigation::Chosen, page_, [this](const QUrl& page) {
     if (!page.isEmpty()) page_->setSource(page);
@@ -185,6 +186,40 @@ void Help_Window::Come_Forward() {
   show();
   raise();
   activateWindow();
+}
+
+void Help_Window::Come_Beside() {
+  if (isVisible() && !isMinimized()) return;
+  Follow_Blocking_Window();
+  if (const QWindow* blocking = QGuiApplication::modalWindow()) {
+    Place_Beside(blocking->frameGeometry());
+  }
+  setAttribute(Qt::WA_ShowWithoutActivating);
+  showNormal();
+  setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+void Help_Window::Place_Beside(const QRect& window) {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return;
+  const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect room = screen->availableGeometry().adjusted(0, title, 0, 0);
+  QRect place = geometry();
+  if (room.right() - window.right() >= minimumWidth()) {
+    place.setLeft(std::max(window.right(), room.right() - place.width()) + 1);
+    place.setRight(room.right());
+  } else {
+    place.moveTop(room.top());
+    place.moveRight(room.right());
+    const int buttons = fontMetrics().lineSpacing() * kLinesOfButtons;
+    place.setBottom(std::max(place.top() + minimumHeight(), window.bottom() - buttons));
+  }
+  setGeometry(place);
+  // A page of a few letters a line is none: the list comes back with the handle at its edge.
+  const int character = fontMetrics().averageCharWidth();
+  if (place.width() < character * (kNavigationWidth + kLeastWidth)) {
+    halves_->setSizes({0, place.width()});
+  }
 }
 
 void Help_Window::Print() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAction>
+#include <QSplitter>
 #include <QWidget>
 #include <memory>
 
@@ -26,6 +27,9 @@ class Help_Window : public QWidget {
   void Show_Contents();
   /// Shows the window in front, with the contents page when it has none yet.
   void Come_Forward();
+  /// Shows the window, if it is not there, beside the blocking one, which keeps the keyboard. Where
+  /// the display is too narrow for both, the blocking window's buttons stay in sight.
+  void Come_Beside();
 
  protected:
   bool event(QEvent* event) override;
@@ -34,10 +38,12 @@ class Help_Window : public QWidget {
   QAction* Add(const char* name, const QString& text, const QList<QKeySequence>& keys);
   void Build_Actions();
   void Place();
+  void Place_Beside(const QRect& window);
   void Print();
   void Follow_Blocking_Window();
 
   std::unique_ptr<Help_Library> library_;
+  QSplitter* halves_;
   Help_Navigation* navigation_;
   Help_Page* page_;
   Find_Bar* find_bar_;

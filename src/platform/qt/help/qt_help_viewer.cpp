@@ -67,7 +67,11 @@ void Show_Qt_Help(const Help_Request& request) {
     case Help_Command::Quit:
       break;
   }
-  window->Come_Forward();
+  if (request.beside) {
+    window->Come_Beside();
+  } else {
+    window->Come_Forward();
+  }
 }
 
 }  // namespace barvon

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QGuiApplication>
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QInputDialog>
@@ -11,6 +12,7 @@
 #include <QListWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
@@ -67,6 +69,33 @@ TEST_F(HelpViewer, Context_Shows_The_Page_Of_The_Topic) {
   EXPECT_TRUE(Window()->page().toPlainText().contains("Roughness Height (ft) at Bottom"));
   Ask(Help_Command::Context, 3000);
   EXPECT_EQ(Shown(), "timing.html");
+}
+
+TEST_F(HelpViewer, A_Page_Beside_A_Blocking_Window_Leaves_It_In_Sight) {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const int left_over : {0, 260, 400}) {
+    SCOPED_TRACE(left_over);
+    QDialog blocking;
+    auto* field = new QLineEdit(&blocking);
+    field->setFocus();
+    blocking.setWindowModality(Qt::ApplicationModal);
+    blocking.setGeometry(100, 100, room.right() - 100 - left_over, 500);
+    blocking.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&blocking));
+    Show_Topic_Beside(2660);
+    ASSERT_NE(Window(), nullptr);
+    EXPECT_TRUE(Window()->isVisible());
+    EXPECT_FALSE(Window()->testAttribute(Qt::WA_ShowWithoutActivating)) << "for the next time";
+    EXPECT_EQ(Shown(), "wizard-step-2.html");
+    const QRect place = Window()->geometry();
+    if (left_over == 0) {
+      EXPECT_LT(place.bottom(), blocking.geometry().bottom() - 40) << "its buttons";
+    } else {
+      EXPECT_GT(place.left(), blocking.geometry().right());
+    }
+    EXPECT_GT(Window()->page().width(), place.width() / 2);
+    Show_Help({Help_Command::Quit, 0, ""});
+  }
 }
 
 TEST_F(HelpViewer, Context_Of_No_Topic_Is_The_Contents_With_The_List_Of_Rules) {
