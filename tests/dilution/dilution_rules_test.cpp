@@ -133,7 +133,7 @@ TEST_F(DilutionRules, A_Row_That_Was_Never_Computed_Is_Not_Computed) {
 
 // Mixing one part with the dilution's parts of ambient water gives the criterion.
 TEST_F(DilutionRules, The_Diluted_Material_Just_Meets_Its_Criterion) {
-  rc::check([this] {
+  EXPECT_TRUE(rc::check([this] {
     const double background = *rc::gen::inRange(0, 1000);
     const double criterion = background + *rc::gen::inRange(1, 1000);
     const double concentration = criterion + *rc::gen::inRange(1, 100000);
@@ -143,7 +143,7 @@ TEST_F(DilutionRules, The_Diluted_Material_Just_Meets_Its_Criterion) {
     const double parts = Calc_Elut(record, 1);
     const double mixed = (concentration + parts * background) / (1 + parts);
     RC_ASSERT(std::abs(mixed - criterion) < 1e-9 * criterion);
-  });
+  }));
 }
 
 }  // namespace

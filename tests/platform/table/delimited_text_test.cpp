@@ -83,7 +83,7 @@ TEST(DelimitedText, Many_Rows_Keep_Their_Own_Widths) {
 }
 
 TEST(DelimitedText, Any_Bytes_Make_Rows_Of_Cells) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     const auto text = *rc::gen::container<std::string>(
         rc::gen::element('a', ' ', '"', ',', '\n', '\r', '\0', '\xE4'));
     for (const Quote_Rule rule : kRules) {
@@ -91,11 +91,11 @@ TEST(DelimitedText, Any_Bytes_Make_Rows_Of_Cells) {
       RC_ASSERT(!rows.empty());
       for (const auto& row : rows) RC_ASSERT(!row.empty());
     }
-  });
+  }));
 }
 
 TEST(DelimitedText, Whole_Cells_Written_In_Quotes_Read_Back) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     const auto cells = *rc::gen::nonEmpty(rc::gen::container<std::vector<std::string>>(
         rc::gen::container<std::string>(rc::gen::element('a', '1', '"', ' ', ',', '\n', '\r'))));
     std::string text;
@@ -106,7 +106,7 @@ TEST(DelimitedText, Whole_Cells_Written_In_Quotes_Read_Back) {
       text += '"';
     }
     RC_ASSERT(Whole_Cells(text) == Text_Block{cells});
-  });
+  }));
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ TEST_F(FilledBlock, A_Table_Without_Cells_Goes_Nowhere) {
 }
 
 TEST(FilledBlockProperty, Again_And_Again_It_Ends_At_The_Edge_And_Stops_At_Filled_Cells_Only) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     Spreadsheet_Table table(kBookNumbers);
     table.MaxRow(12);
     for (int row = 1; row <= 12; ++row) {
@@ -75,7 +75,7 @@ TEST(FilledBlockProperty, Again_And_Again_It_Ends_At_The_Edge_And_Stops_At_Fille
       at = on;
     }
     RC_ASSERT(at.row == 12);
-  });
+  }));
 }
 
 }  // namespace

@@ -303,7 +303,7 @@ void Any_Edit(Spreadsheet_Table& table) {
 }
 
 TEST(SpreadsheetEditsProperty, Undo_After_Any_Edits_Gives_Back_Every_State_And_Redo_Too) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     Spreadsheet_Table table(kBookNumbers);
     table.MaxRow(6);
     table.MaxCol(5);
@@ -325,11 +325,11 @@ TEST(SpreadsheetEditsProperty, Undo_After_Any_Edits_Gives_Back_Every_State_And_R
     RC_ASSERT(back == states);
     while (table.CanRedo()) table.Redo();
     RC_ASSERT(State(table) == last);
-  });
+  }));
 }
 
 TEST(SpreadsheetEditsProperty, What_Is_Copied_And_Pasted_Elsewhere_Reads_The_Same) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     Spreadsheet_Table from(kBookNumbers), to(kBookNumbers);
     for (Spreadsheet_Table* table : {&from, &to}) {
       table->MaxRow(10);
@@ -346,7 +346,7 @@ TEST(SpreadsheetEditsProperty, What_Is_Copied_And_Pasted_Elsewhere_Reads_The_Sam
         RC_ASSERT(to.EntryRC(row + 1, col + 1) == from.EntryRC(range.row1 + row, range.col1 + col));
       }
     }
-  });
+  }));
 }
 
 }  // namespace

@@ -62,18 +62,18 @@ TEST(TabText, Rows_Are_Written_With_A_Line_End_And_A_Single_Cell_Without) {
 }
 
 TEST(TabText, What_Is_Written_Reads_Back) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     const auto rows = *rc::gen::inRange<std::size_t>(1, 5);
     const auto cols = *rc::gen::inRange<std::size_t>(1, 5);
     const auto text = rc::gen::container<std::string>(rc::gen::element('a', '1', '"', ' ', '.'));
     const auto cells = *rc::gen::container<Text_Block>(
         rows, rc::gen::container<std::vector<std::string>>(cols, text));
     RC_ASSERT(Read_Tab_Text(Write_Tab_Text(cells)) == cells);
-  });
+  }));
 }
 
 TEST(TabText, Any_Bytes_Make_Rows_Of_Cells) {
-  rc::check([] {
+  EXPECT_TRUE(rc::check([] {
     const auto text = *rc::gen::container<std::string>(
         rc::gen::element('a', '"', '\t', '\n', '\r', '\0', '\xE4'));
     const Text_Block cells = Read_Tab_Text(text);
@@ -84,7 +84,7 @@ TEST(TabText, Any_Bytes_Make_Rows_Of_Cells) {
         RC_ASSERT(cell.find_first_of("\t\r\n") == cell.npos);
       }
     }
-  });
+  }));
 }
 
 }  // namespace
