@@ -14,6 +14,7 @@
 #include "dilution/dilution_file.h"
 #include "dilution/dilution_hints.h"
 #include "dilution/dilution_marks.h"
+#include "dilution/dilution_mirror.h"
 #include "dilution/dilution_rows.h"
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
@@ -216,7 +217,9 @@ void frmDilute2::Solids_Are_Taken() {
 void frmDilute2::SSTab1_Click(int left) {
   const Dilution_Tab tab = left == kElutriateTab ? kElutriateTab : kBulkTab;
   Leave_Dilute_Tab(tab, grids_, record_);
-  edited_[tab] = edited_[tab] && Holds_Rows_Below_List(grids_(tab));
+  for (const Dilution_Tab each : kTabs) {
+    edited_[each] = edited_[each] && Holds_Rows_Below_List(grids_(each));
+  }
   Follow_Rows();
 }
 
