@@ -18,23 +18,27 @@ struct Edited_Row {
   bool is_renamed() const { return name != former; }
 };
 
-/// The other table still shows the former names.
+/// The other table still shows the former names. A row of which only the name goes is not emptied.
 std::vector<Edited_Row> Rows_Of_Edit(Dilution_Tab tab, const Cell_Range& range,
                                      const Dilution_Grids& grids) {
+  const bool can_empty = range.col2 > kNameColumn;
   std::vector<Edited_Row> rows;
   for (int row = range.row1; row <= std::min(range.row2, kMaxDilutionRows); ++row) {
     rows.push_back({row, grids(Other_Tab(tab)).TextRC(row, kNameColumn),
-                    grids(tab).TextRC(row, kNameColumn), !Row_Is_Filled(grids(tab), row)});
+                    grids(tab).TextRC(row, kNameColumn),
+                    can_empty && !Row_Is_Filled(grids(tab), row)});
   }
   return rows;
 }
 
-bool Holds_Concentration(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
-  const Cell_Value& shown = grids(tab).ValueRC(row, kConcentrationColumn);
+/// A number 0 is that of a cell that nobody has filled.
+bool Is_Entered(const Cell_Value& shown) {
   const auto* number = std::get_if<double>(&shown);
-  // The 0 of a cell that nobody has filled.
-  if (number != nullptr) return *number != 0;
-  return !std::holds_alternative<std::monostate>(shown);
+  return number != nullptr ? *number != 0 : !std::holds_alternative<std::monostate>(shown);
+}
+
+bool Holds_Concentration(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
+  return Is_Entered(grids(tab).ValueRC(row, kConcentrationColumn));
 }
 
 Kept_Concentration Lift(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
@@ -51,7 +55,7 @@ void Put(const Kept_Concentration& lifted, Dilution_Tab tab, int row, Dilution_G
 }
 
 void Keep(Kept_Concentration lifted, Dilution_Tab tab, Dilution_Grids& grids) {
-  grids.kept[tab].push_back(std::move(lifted));
+  if (Is_Entered(lifted.shown)) grids.kept[tab].push_back(std::move(lifted));
 }
 
 template <class Fits>
@@ -95,7 +99,7 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   std::vector<Edited_Row> open;
   for (const Edited_Row& row : rows) {
     if (!row.is_renamed()) continue;
-    if (Holds_Concentration(tab, row.row, grids)) lifted.push_back(Lift(tab, row, grids));
+    lifted.push_back(Lift(tab, row, grids));
     open.push_back(row);
   }
   const auto put_each = [&](const auto& find) {
@@ -138,14 +142,14 @@ bool Names_Are_Others(const std::vector<Edited_Row>& rows) {
 
 void Follow_In_Other_Tab(Dilution_Tab tab, const std::vector<Edited_Row>& rows,
                          Dilution_Grids& grids) {
+  const bool are_others = Names_Are_Others(rows);
   for (const Edited_Row& row : rows) {
-    if (row.emptied && !grids.notes[tab][At(row.row)].names.empty() &&
-        Holds_Concentration(tab, row.row, grids) &&
-        (!Names_Are_Others(rows) || !row.is_renamed())) {
+    const bool was_alone = grids.notes[tab][At(row.row)].names.empty();
+    if (row.emptied && !was_alone && !(are_others && row.is_renamed())) {
       Keep(Lift(tab, row, grids), tab, grids);
     }
   }
-  if (Names_Are_Others(rows)) return Move_With_Names(tab, rows, grids);
+  if (are_others) return Move_With_Names(tab, rows, grids);
   for (const Edited_Row& row : rows) {
     if (row.is_renamed()) Follow_Name(tab, row, grids);
   }
@@ -176,6 +180,10 @@ void Copy_Common(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution
   for (const Edited_Row& row : rows) {
     for (const int col : {kNameColumn, kCriteriaColumn, kBackgroundColumn}) {
       other.ValueRC(row.row, col, table.ValueRC(row.row, col));
+    }
+    // A concentration that stands alone is nobody's until it is read under a name.
+    if (row.name.empty() && !row.emptied && !Row_Is_Filled(other, row.row)) {
+      grids.notes[tab][At(row.row)].names.clear();
     }
   }
 }

@@ -6,8 +6,8 @@ namespace barvon {
 
 /// The user has changed cells of a tab, by whatever command. Names, criteria and background of the
 /// rows go into the other table as they stand. Concentrations stay in their rows, but
-/// - a row that was emptied empties that of the other tab, except for a concentration that was
-///   entered there before the row had a name and was never read;
+/// - a row that was emptied empties that of the other tab, except for a concentration that stood
+///   there alone before the row had a name, and was not read since;
 /// - where names of several rows have become others, as a paste does, those of the other tab go
 ///   with their names.
 /// What has no row then is kept, and comes back when its name stands in a row that holds no

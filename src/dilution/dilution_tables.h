@@ -42,7 +42,7 @@ struct Computed_Row {
 
 /// What is known of the concentration in a row of a table, beside its cell.
 struct Concentration_Note {
-  /// The names that it has stood under. None: it was entered in a row without a name and has not
+  /// The names that it has stood under. None: it stood alone in a row without a name and has not
   /// been read since.
   std::set<std::string> names;
   double taken = 0;  // what the record has for it
