@@ -181,9 +181,16 @@ void Copy_Common(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution
     for (const int col : {kNameColumn, kCriteriaColumn, kBackgroundColumn}) {
       other.ValueRC(row.row, col, table.ValueRC(row.row, col));
     }
-    // A concentration that stands alone is nobody's until it is read under a name.
-    if (row.name.empty() && !row.emptied && !Row_Is_Filled(other, row.row)) {
-      grids.notes[tab][At(row.row)].names.clear();
+  }
+}
+
+/// A concentration that stands alone is nobody's until it is read under a name.
+void Forget_Names_Of_Lone_Ones(const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
+  for (const Dilution_Tab tab : kTabs) {
+    for (const Edited_Row& row : rows) {
+      if (row.name.empty() && !Row_Is_Filled(grids(Other_Tab(tab)), row.row)) {
+        grids.notes[tab][At(row.row)].names.clear();
+      }
     }
   }
 }
@@ -224,6 +231,7 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
   if (concentrations() != before) grids(other).ForgetEdits();
   Note_Entered(tab, range, rows, grids);
   Copy_Common(tab, rows, grids);
+  Forget_Names_Of_Lone_Ones(rows, grids);
   Follow_Results(rows, grids);
   // What is typed is shown as it was typed, in no pattern of the numbers of a file.
   for (const Dilution_Tab each : kTabs) grids(each).NumberFormat(range, {});
