@@ -83,6 +83,7 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   book->SetCellLook(
       [this, tab](int row, int col) { return Look_Of_Dilution(tab, row, col, grids_); });
   book->setMinimumHeight(kLeastTableHeight);
+  book->Keep_In_Sight(kDilutionColumn);
   inside->addWidget(book, 1);
   inside->addWidget(Label2(tab));
   column->addWidget(frame, 1);

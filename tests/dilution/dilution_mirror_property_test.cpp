@@ -14,7 +14,7 @@
 namespace barvon::testing {
 namespace {
 
-constexpr int kRows = 9, kSequences = 6000, kEdits = 90;
+constexpr int kRows = 9, kSequences = 9000, kEdits = 90;
 
 /// A concentration as a person thinks of it: a text, and all that was ever entered for it.
 struct Held {
@@ -241,6 +241,8 @@ class DilutionMirrorProperty : public Dilution_Tables {
       if (!missing && !missing_other && model_.rows[0].name.empty()) Forget_All();
     }
     if (!model_.rows[0].name.empty()) Expect_Record();
+    // The zeros that are shown now are not those of the step: its redo leaves them in the row.
+    for (const Dilution_Tab tab : kTabs) history_[tab].resize(at_[tab]);
     tab_ = Other_Tab(tab_);
   }
   void Forget_All() {

@@ -147,6 +147,16 @@ TEST_F(DiluteScreen, Captions_Stand_As_They_Are_Told) {
   EXPECT_EQ(Book(0).table().Col(), 1);
 }
 
+TEST_F(DiluteScreen, The_Results_Are_In_Sight_On_Opening) {
+  Open();
+  for (const int tab : {0, 1}) {
+    Go_To(tab);
+    const F1Book& book = Book(tab);
+    EXPECT_LE(book.columnViewportPosition(4) + book.columnWidth(4), book.viewport()->width());
+  }
+  EXPECT_LE(Screen()->width(), 1014) << "as wide as a small display, without the frame";
+}
+
 TEST_F(DiluteScreen, What_Is_Typed_On_Both_Tabs_Is_Computed_And_Shown) {
   Scripted_Messages messages;
   Enter_Two();
