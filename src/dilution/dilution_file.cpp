@@ -37,7 +37,8 @@ std::vector<std::string> Forms_Of(const Decimal_Digits& decimal) {
     bare = "." + std::string(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
     forms = {"0" + bare};
   } else if (digits <= decimal.exponent) {
-    forms = {decimal.digits + std::string(static_cast<std::size_t>(decimal.exponent - digits), '0')};
+    forms = {decimal.digits +
+             std::string(static_cast<std::size_t>(decimal.exponent - digits), '0')};
   } else {
     forms = {decimal.digits};
     forms[0].insert(static_cast<std::size_t>(decimal.exponent), ".");

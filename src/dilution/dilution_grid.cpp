@@ -198,8 +198,7 @@ void Show_Dilutions(const Dilution_Grids& grids, const ProjectRecord& record) {
   for (const Dilution_Tab tab : kTabs) {
     const Table_Fill fill(grids(tab));
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
-      grids(tab).TextRC(row, kDilutionColumn,
-                        Result_Text(Dilutions(tab, record)[At(row)]));
+      grids(tab).TextRC(row, kDilutionColumn, Result_Text(Dilutions(tab, record)[At(row)]));
     }
   }
 }

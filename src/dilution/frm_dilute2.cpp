@@ -82,6 +82,8 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   }
   book->SetCellLook(
       [this, tab](int row, int col) { return Look_Of_Dilution(tab, row, col, grids_); });
+  // Names of a list often differ in their last letters only.
+  book->setTextElideMode(Qt::ElideMiddle);
   book->setMinimumHeight(kLeastTableHeight);
   book->Keep_In_Sight(kDilutionColumn);
   inside->addWidget(book, 1);

@@ -85,16 +85,16 @@ std::vector<std::size_t> Letter_Starts(const std::string& text) {
   return starts;
 }
 
-// As much of the text as there is room for. What is left out is in the middle: names of a list often
-// differ in their last letters only.
+// As much of the text as there is room for. What is left out is in the middle: names of a list
+// often differ in their last letters only.
 std::string Shortened(const std::string& text, double size, double room) {
   if (Text_Width(text, size) <= room) return text;
   const std::vector<std::size_t> starts = Letter_Starts(text);
   const std::size_t letters = starts.size() - 1;
   for (std::size_t kept = letters; kept-- > 1;) {
     const std::size_t behind = kept / 2;
-    const std::string part = text.substr(0, starts[kept - behind]) + "..." +
-                             text.substr(starts[letters - behind]);
+    const std::string part =
+        text.substr(0, starts[kept - behind]) + "..." + text.substr(starts[letters - behind]);
     if (Text_Width(part, size) <= room) return part;
   }
   return "";

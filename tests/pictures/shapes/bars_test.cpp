@@ -167,8 +167,9 @@ TEST(Bars, Five_Hundred_Bars_Have_As_Many_Labels_As_There_Is_Room_For) {
 
 TEST(Bars, Names_That_Differ_At_Their_End_Are_Told_Apart) {
   Bar_Chart chart;
-  for (const char* name : {"Parameter of the upper layer 1", "Parameter of the upper layer 2",
-                           "Gr\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6 2"}) {
+  for (const char* name :
+       {"Parameter of the upper layer 1", "Parameter of the upper layer 2",
+        "Gr\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6 2"}) {
     chart.bars.push_back(Plain_Bar(name, 100, kSand));
   }
   const Canvas narrow = {200, 300, 12};
