@@ -20,30 +20,45 @@ constexpr char kDilutionTag[] = "   DUD    0";
 constexpr std::size_t kCountWidth = 5;
 constexpr std::size_t kNumberWidth = 15;
 constexpr std::size_t kTitleWidth = kTitleLength;
-constexpr int kMostDigits = 15;
+constexpr int kMostDigits = 15;  // that a field can hold
+constexpr int kAllDigits = 17;   // of a double
 
 std::string Number_Field(double value) {
   return Right_Justified(Number_To_Fit(value, kNumberWidth), kNumberWidth);
 }
 
-/// The value with so many significant digits, as plain digits and with an exponent.
-std::array<std::string, 2> Forms_Of(double value, int count) {
-  const Decimal_Digits decimal = To_Decimal(value, count);
+/// The number of these digits in all ways to write it, those that are read most easily first.
+std::vector<std::string> Forms_Of(const Decimal_Digits& decimal) {
   const std::string sign = decimal.negative ? "-" : "";
   const auto digits = static_cast<int>(decimal.digits.size());
-  std::string plain;
+  std::vector<std::string> forms;
+  std::string bare;  // a part of 1 without the 0 in front
   if (decimal.exponent <= 0) {
-    plain = "0." + std::string(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
+    bare = "." + std::string(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
+    forms = {"0" + bare};
   } else if (digits <= decimal.exponent) {
-    plain = decimal.digits + std::string(static_cast<std::size_t>(decimal.exponent - digits), '0');
+    forms = {decimal.digits +
+             std::string(static_cast<std::size_t>(decimal.exponent - digits), '0')};
   } else {
-    plain = decimal.digits;
-    plain.insert(static_cast<std::size_t>(decimal.exponent), ".");
+    forms = {decimal.digits};
+    forms[0].insert(static_cast<std::size_t>(decimal.exponent), ".");
   }
-  std::string power = decimal.digits.substr(0, 1);
-  if (digits > 1) power += "." + decimal.digits.substr(1);
-  power += "E" + std::to_string(decimal.exponent - 1);
-  return {sign + plain, sign + power};
+  std::string mantissa = decimal.digits.substr(0, 1);
+  if (digits > 1) mantissa += "." + decimal.digits.substr(1);
+  forms.push_back(mantissa + "E" + std::to_string(decimal.exponent - 1));
+  // With less of the rest there is room for more digits.
+  if (!bare.empty()) forms.push_back(bare);
+  forms.push_back(decimal.digits + "E" + std::to_string(decimal.exponent - digits));
+  for (std::string& form : forms) form = sign + form;
+  return forms;
+}
+
+/// The value with so many significant digits: rounded, and cut for a value that would be rounded
+/// beyond every number.
+std::array<Decimal_Digits, 2> Digits_Of(double value, int count) {
+  Decimal_Digits cut = To_Decimal(value, kAllDigits);
+  cut.digits.resize(std::min(cut.digits.size(), static_cast<std::size_t>(count)));
+  return {To_Decimal(value, count), cut};
 }
 
 /// The lines of a file that ends them by CR LF or LF; the last one needs no end.
@@ -132,12 +147,14 @@ std::string Number_To_Fit(double value, std::size_t width) {
   std::string closest;
   double distance = 0;
   for (int count = kMostDigits; count > 0; --count) {
-    for (std::string& form : Forms_Of(value, count)) {
-      if (form.size() > width) continue;
-      const double off = std::abs(Lenient_Number(form) - value);
-      if (!closest.empty() && off >= distance) continue;
-      closest = std::move(form);
-      distance = off;
+    for (const Decimal_Digits& decimal : Digits_Of(value, count)) {
+      for (std::string& form : Forms_Of(decimal)) {
+        if (form.size() > width) continue;
+        const double off = std::abs(Lenient_Number(form) - value);
+        if (!closest.empty() && off >= distance) continue;
+        closest = std::move(form);
+        distance = off;
+      }
     }
   }
   return closest;

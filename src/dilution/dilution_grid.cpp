@@ -5,7 +5,6 @@
 
 #include "core/format_pattern.h"
 #include "core/project_defaults.h"
-#include "dilution/dilution_arrange.h"
 #include "platform/ask/message_box.h"
 
 namespace barvon {
@@ -33,51 +32,6 @@ void Show_Number(double value, int row, int col, Spreadsheet_Table& table) {
   }
 }
 
-bool Is_Unread(Dilution_Tab tab, int row, int col, const Dilution_Grids& grids) {
-  return grids.unread[tab][At(row)][At(col)] && !grids(tab).IsEmptyRC(row, col);
-}
-
-/// Whether the row holds what was never read and had no name in the list.
-bool Is_Apart(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
-  if (!grids(tab).IsEmptyRC(row, kNameColumn) && !Is_Unread(tab, row, kNameColumn, grids)) {
-    return false;
-  }
-  for (int col = kNameColumn; col <= kBackgroundColumn; ++col) {
-    if (Is_Unread(tab, row, col, grids)) return true;
-  }
-  return false;
-}
-
-void Show_Name(Dilution_Tab tab, int row, const std::string& name, Dilution_Grids& grids) {
-  Spreadsheet_Table& table = grids(tab);
-  const std::string former = table.TextRC(row, kNameColumn);
-  if (!former.empty() && former != name) {
-    if (Is_Unread(tab, row, kConcentrationColumn, grids)) {
-      grids.put_aside[tab][former] = table.NumberRC(row, kConcentrationColumn);
-    }
-    grids.unread[tab][At(row)] = {};
-  }
-  table.TextRC(row, kNameColumn, name);
-}
-
-/// Criteria and background. What is typed in the tab that was read counts for both as it stands,
-/// with its mark.
-void Show_Common(double value, int row, int col, Dilution_Tab tab, std::optional<Dilution_Tab> read,
-                 Dilution_Grids& grids) {
-  if (value == 0 && Is_Unread(tab, row, col, grids)) return;
-  Spreadsheet_Table& table = grids(tab);
-  if (read && *read != tab) {
-    const Spreadsheet_Table& source = grids(*read);
-    const bool is_text = !source.IsEmptyRC(row, col) && !source.IsNumberRC(row, col);
-    if (is_text && source.NumberRC(row, col) == value) {
-      table.ValueRC(row, col, source.ValueRC(row, col));
-      return;
-    }
-    if (!table.IsNumberRC(row, col)) table.NumberRC(row, col, value);
-  }
-  Show_Number(value, row, col, table);
-}
-
 bool Is_Empty(const Spreadsheet_Table& table, const Cell_Range& range) {
   for (int row = range.row1; row <= range.row2; ++row) {
     for (int col = range.col1; col <= range.col2; ++col) {
@@ -95,33 +49,39 @@ bool Grids_Are_Empty(const Dilution_Grids& grids) {
   });
 }
 
-void Empty_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
-  Spreadsheet_Table& table = grids(tab);
-  const std::string result = table.TextRC(row, kDilutionColumn);
-  if (result.empty()) return;
-  grids.emptied[tab][row] = {grids(Other_Tab(tab)).TextRC(row, kNameColumn), result};
-  table.ValueRC(row, kDilutionColumn, {});
-}
-
-void Restore_Result(Dilution_Tab tab, int row, Dilution_Grids& grids) {
-  Spreadsheet_Table& table = grids(tab);
-  const auto former = grids.emptied[tab].find(row);
-  if (former == grids.emptied[tab].end()) return;
-  if (former->second.name != table.TextRC(row, kNameColumn)) return;
-  table.TextRC(row, kDilutionColumn, former->second.result);
-  grids.emptied[tab].erase(former);
-}
-
 void Forget_Rows(Dilution_Grids& grids) {
   for (const Dilution_Tab tab : kTabs) {
-    grids.by_name[tab].clear();
-    grids.put_aside[tab].clear();
+    grids.notes[tab] = {};
+    grids.kept[tab].clear();
     grids.computed[tab] = {};
-    grids.unread[tab] = {};
-    grids.emptied[tab].clear();
     grids(tab).ForgetEdits();
   }
-  grids.record_rows = Same_Order();
+}
+
+bool Record_Is_Empty(const ProjectRecord& record) {
+  for (int row = 1; row <= record.DiluteRowCount; ++row) {
+    if (!record.DiluteParameterNames[At(row)].empty() || record.DiluteBulk[At(row)] != 0 ||
+        record.DiluteElutriate[At(row)] != 0 || record.DiluteCriteria[At(row)] != 0 ||
+        record.DiluteBackground[At(row)] != 0) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// A row that shows no result has none: it was emptied, and holds another parameter now.
+void Read_Results(int row, Dilution_Grids& grids, ProjectRecord& record) {
+  const auto result_of = [&](Dilution_Tab tab) {
+    std::optional<Computed_Row>& computed = grids.computed[tab][At(row)];
+    if (grids(tab).IsEmptyRC(row, kDilutionColumn)) computed.reset();
+    return computed.value_or(Computed_Row{});
+  };
+  const Computed_Row sediment = result_of(kBulkTab), elutriate = result_of(kElutriateTab);
+  record.DiluteBulkWaterConc[At(row)] = sediment.bulk_in_water;
+  record.DiluteBulkDilution[At(row)] = sediment.dilution;
+  record.DiluteBulkRemark[At(row)] = sediment.remark;
+  record.DiluteElutDilution[At(row)] = elutriate.dilution;
+  record.DiluteElutRemark[At(row)] = elutriate.remark;
 }
 
 }  // namespace
@@ -160,22 +120,29 @@ void Read_Dilute_Grid(Dilution_Tab tab, Dilution_Grids& grids, ProjectRecord& re
   const int count = Dilute_Rows(table);
   record.DiluteRowCount = static_cast<std::int16_t>(count);
   if (count == 0) return;
-  Arrange_By_Row(grids, record);
-  Arrange_By_Name(tab, count, grids, record);
+  const Dilution_Tab other = Other_Tab(tab);
   for (int row = 1; row <= count; ++row) {
-    record.DiluteParameterNames[At(row)] = table.TextRC(row, kNameColumn);
-    Concentrations(tab, record)[At(row)] = table.NumberRC(row, kConcentrationColumn);
+    const std::string name = table.TextRC(row, kNameColumn);
+    Concentration_Note& note = grids.notes[tab][At(row)];
+    note.taken = table.NumberRC(row, kConcentrationColumn);
+    if (note.names.empty()) note.names.insert(name);
+    record.DiluteParameterNames[At(row)] = name;
+    Concentrations(tab, record)[At(row)] = note.taken;
+    Concentrations(other, record)[At(row)] = grids.notes[other][At(row)].taken;
     record.DiluteCriteria[At(row)] = table.NumberRC(row, kCriteriaColumn);
     record.DiluteBackground[At(row)] = table.NumberRC(row, kBackgroundColumn);
-    grids.unread[tab][At(row)] = {};
+    Read_Results(row, grids, record);
   }
-  grids.emptied[tab].clear();
   table.Selection("A1");
 }
 
-void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record,
-                       std::optional<Dilution_Tab> read) {
-  if (record.DiluteParameterNames[1].empty()) {
+void Read_Both_Grids(Dilution_Tab front, Dilution_Grids& grids, ProjectRecord& record) {
+  Read_Dilute_Grid(Other_Tab(front), grids, record);
+  Read_Dilute_Grid(front, grids, record);
+}
+
+void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record) {
+  if (record.DiluteParameterNames[1].empty() && Record_Is_Empty(record)) {
     if (Grids_Are_Empty(grids)) Initalize_Dilute_Info(grids, record);
     return;
   }
@@ -183,12 +150,14 @@ void Fill_Dilute_Grids(Dilution_Grids& grids, ProjectRecord& record,
     Spreadsheet_Table& table = grids(tab);
     const Table_Fill fill(table);
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
-      Show_Name(tab, row, record.DiluteParameterNames[At(row)], grids);
-      if (!Is_Unread(tab, row, kConcentrationColumn, grids)) {
-        Show_Number(Concentrations(tab, record)[At(row)], row, kConcentrationColumn, table);
-      }
-      Show_Common(record.DiluteCriteria[At(row)], row, kCriteriaColumn, tab, read, grids);
-      Show_Common(record.DiluteBackground[At(row)], row, kBackgroundColumn, tab, read, grids);
+      const std::string& name = record.DiluteParameterNames[At(row)];
+      Concentration_Note& note = grids.notes[tab][At(row)];
+      note.taken = Concentrations(tab, record)[At(row)];
+      if (note.names.empty()) note.names.insert(name);
+      table.TextRC(row, kNameColumn, name);
+      Show_Number(note.taken, row, kConcentrationColumn, table);
+      Show_Number(record.DiluteCriteria[At(row)], row, kCriteriaColumn, table);
+      Show_Number(record.DiluteBackground[At(row)], row, kBackgroundColumn, table);
       table.TextRC(row, kDilutionColumn,
                    Format_Number(Dilutions(tab, record)[At(row)], kFilledPattern));
     }
@@ -200,6 +169,7 @@ void Clear_Dilute_Grids(Dilution_Grids& grids) {
   for (Spreadsheet_Table* table : grids.tables) {
     const Table_Fill fill(*table);
     table->ClearRange(kDiluteCells);
+    table->NumberFormat(kDiluteCells, {});
   }
   Forget_Rows(grids);
 }
@@ -222,12 +192,13 @@ void Show_Read_List(Dilution_Grids& grids, ProjectRecord& record) {
   Fill_Dilute_Grids(grids, record);
 }
 
+std::string Result_Text(double dilution) { return Format_Number(dilution, kComputedPattern); }
+
 void Show_Dilutions(const Dilution_Grids& grids, const ProjectRecord& record) {
   for (const Dilution_Tab tab : kTabs) {
     const Table_Fill fill(grids(tab));
     for (int row = 1; row <= record.DiluteRowCount; ++row) {
-      grids(tab).TextRC(row, kDilutionColumn,
-                        Format_Number(Dilutions(tab, record)[At(row)], kComputedPattern));
+      grids(tab).TextRC(row, kDilutionColumn, Result_Text(Dilutions(tab, record)[At(row)]));
     }
   }
 }
@@ -238,33 +209,11 @@ void Leave_Dilute_Tab(Dilution_Tab left, Dilution_Grids& grids, ProjectRecord& r
     Show_Warning(kNameMissing);
     return;
   }
-  Read_Dilute_Grid(left, grids, record);
+  Read_Both_Grids(left, grids, record);
   if (holds_list) {
-    Fill_Dilute_Grids(grids, record, left);
+    Fill_Dilute_Grids(grids, record);
   } else {
     Initalize_Dilute_Info(grids, record);
-  }
-}
-
-void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grids& grids) {
-  Spreadsheet_Table& table = grids(tab);
-  Spreadsheet_Table& other = grids(Other_Tab(tab));
-  // One cell is typed: the parameter is called something else now.
-  const bool other_names = range.col1 == kNameColumn && range.rows() * range.cols() > 1;
-  for (int row = range.row1; row <= std::min(range.row2, kMaxDilutionRows); ++row) {
-    for (int col = range.col1; col <= std::min<int>(range.col2, kBackgroundColumn); ++col) {
-      grids.unread[tab][At(row)][At(col)] = true;
-    }
-    const bool emptied = !Row_Is_Filled(table, row);
-    if (emptied || other_names) grids.by_name[tab].insert(row);
-    if (!emptied) {
-      Restore_Result(tab, row, grids);
-      continue;
-    }
-    Empty_Result(tab, row, grids);
-    if (Is_Apart(Other_Tab(tab), row, grids)) continue;
-    other.ClearRange({row, kNameColumn, row, kDilutionColumn});
-    other.ForgetEdits();
   }
 }
 

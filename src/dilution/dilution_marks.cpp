@@ -18,8 +18,13 @@ std::size_t At(int row) { return static_cast<std::size_t>(row); }
 
 Computed_Row Shown_Row(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
   const Spreadsheet_Table& table = grids(tab);
-  return {table.TextRC(row, kNameColumn), table.NumberRC(row, kConcentrationColumn),
-          table.NumberRC(row, kCriteriaColumn), table.NumberRC(row, kBackgroundColumn)};
+  return {table.TextRC(row, kNameColumn),
+          table.NumberRC(row, kConcentrationColumn),
+          table.NumberRC(row, kCriteriaColumn),
+          table.NumberRC(row, kBackgroundColumn),
+          0,
+          {},
+          0};
 }
 
 Bar Bar_Of(const Computed_Row& row, Colour fill) {
@@ -48,12 +53,19 @@ void Keep_Computed(Dilution_Grids& grids, const ProjectRecord& record) {
     const double criteria = record.DiluteCriteria[At(i)];
     const double background = record.DiluteBackground[At(i)];
     if (Bulk_Is_Computed(record, i)) {
-      grids.computed[kBulkTab][At(i)] = {name, record.DiluteBulk[At(i)], criteria, background,
-                                         record.DiluteBulkDilution[At(i)]};
+      grids.computed[kBulkTab][At(i)] = {name,
+                                         record.DiluteBulk[At(i)],
+                                         criteria,
+                                         background,
+                                         record.DiluteBulkDilution[At(i)],
+                                         record.DiluteBulkRemark[At(i)],
+                                         record.DiluteBulkWaterConc[At(i)]};
     }
     if (Elutriate_Is_Computed(record, i)) {
-      grids.computed[kElutriateTab][At(i)] = {name, record.DiluteElutriate[At(i)], criteria,
-                                              background, record.DiluteElutDilution[At(i)]};
+      grids.computed[kElutriateTab][At(i)] = {
+          name,       record.DiluteElutriate[At(i)],    criteria,
+          background, record.DiluteElutDilution[At(i)], record.DiluteElutRemark[At(i)],
+          0};
     }
   }
 }

@@ -1,7 +1,6 @@
 #include "dilution/dilution_rows.h"
 
 #include <algorithm>
-#include <set>
 
 #include "dilution/dilution_grid.h"
 #include "platform/ask/message_box.h"
@@ -19,6 +18,8 @@ void Arrange_Table(Spreadsheet_Table& table, const Row_Order& order) {
     Arrange(cells, order);
     for (int row = 1; row <= kMaxDilutionRows; ++row) table.ValueRC(row, col, cells[At(row)]);
   }
+  // The pattern of a file's numbers stays with no cell: another value may be in it now.
+  table.NumberFormat(kDiluteCells, {});
   table.ForgetEdits();
 }
 
@@ -26,34 +27,27 @@ void Arrange_Rows(const Row_Order& order, Dilution_Grids& grids) {
   for (const Dilution_Tab tab : kTabs) {
     Arrange_Table(grids(tab), order);
     Arrange(grids.computed[tab], order);
-    Arrange(grids.unread[tab], order);
-    grids.emptied[tab].clear();
-    std::set<int> by_name;
-    for (int row = 1; row <= kMaxDilutionRows; ++row) {
-      if (grids.by_name[tab].contains(order[At(row)])) by_name.insert(row);
-    }
-    grids.by_name[tab] = by_name;
+    Arrange(grids.notes[tab], order);
+    for (Kept_Concentration& kept : grids.kept[tab]) kept.row = 0;
   }
-  Arrange(grids.record_rows, order);
 }
 
-bool Last_Rows_Are_Empty(int count, const Dilution_Grids& grids) {
-  const int last = kMaxDilutionRows - count;
-  for (int row = last + 1; row <= kMaxDilutionRows; ++row) {
+bool Holds_Anything(const Cell_Range& rows, const Dilution_Grids& grids) {
+  for (int row = rows.row1; row <= rows.row2; ++row) {
     for (const Spreadsheet_Table* table : grids.tables) {
       for (int col = 1; col <= kLastColumn; ++col) {
-        if (!table->IsEmptyRC(row, col)) return false;
+        if (!table->IsEmptyRC(row, col)) return true;
       }
     }
   }
-  return true;
+  return false;
 }
 
 }  // namespace
 
 bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids) {
   const int count = range.rows();
-  if (!Last_Rows_Are_Empty(count, grids)) {
+  if (Holds_Anything({kMaxDilutionRows - count + 1, 1, kMaxDilutionRows, kLastColumn}, grids)) {
     Show_Message(
         {"The Table Has 500 Rows.  Nothing Was Inserted, Since the Last Rows Would Be Lost."});
     return false;
@@ -65,13 +59,19 @@ bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids) {
   return true;
 }
 
-void Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids) {
+bool Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids) {
+  if (range.rows() > 1 && Holds_Anything(range, grids) &&
+      Ask("Deleted Rows Can't Be Brought Back.  Do You Wish to Delete All Chosen Rows?",
+          Buttons::YesNo, Icon::Warning) != Answer::Yes) {
+    return false;
+  }
   Row_Order order = Same_Order();
   for (int row = range.row1; row <= kMaxDilutionRows; ++row) {
     const int from = row + range.rows();
     order[At(row)] = from <= kMaxDilutionRows ? from : 0;
   }
   Arrange_Rows(order, grids);
+  return true;
 }
 
 bool Move_Dilute_Rows(const Cell_Range& range, bool up, Dilution_Grids& grids) {

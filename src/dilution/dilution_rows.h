@@ -12,7 +12,8 @@ namespace barvon {
 /// told, when filled rows would be pushed out of the table.
 bool Insert_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids);
 
-void Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids);
+/// Of more than one row that isn't empty the user is asked first. False when the answer isn't Yes.
+bool Delete_Dilute_Rows(const Cell_Range& range, Dilution_Grids& grids);
 
 /// The rows of the range change places with the row above, or below. False at the table's edge.
 bool Move_Dilute_Rows(const Cell_Range& range, bool up, Dilution_Grids& grids);

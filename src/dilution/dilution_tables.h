@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <map>
 #include <numeric>
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "core/project_record.h"
 #include "platform/table/spreadsheet_table.h"
@@ -31,11 +31,29 @@ enum Dilution_Column {
 };
 inline constexpr Cell_Range kDiluteCells{1, 1, kMaxDilutionRows, kLastColumn};
 
-/// What a row held when its result was computed.
+/// What a row held when its result was computed, and the result.
 struct Computed_Row {
   std::string name;
   double concentration = 0, criteria = 0, background = 0;
   double dilution = 0;
+  std::string remark;
+  double bulk_in_water = 0;  // ug/L, of the sediment
+};
+
+/// What is known of the concentration in a row of a table, beside its cell.
+struct Concentration_Note {
+  /// The names that it has stood under. None: it stood alone in a row without a name and has not
+  /// been read since.
+  std::set<std::string> names;
+  double taken = 0;  // what the record has for it
+};
+
+/// A concentration whose name has left its row by an edit of the other tab.
+struct Kept_Concentration {
+  std::string name;
+  int row = 0;  // 0 when rows have moved since
+  Cell_Value shown;
+  Concentration_Note note;
 };
 
 /// For every row of a table the one that it was; 0 for a new one.
@@ -55,15 +73,9 @@ void Arrange(Array& values, const Row_Order& order) {
   }
 }
 
-/// By column: what the user has changed since the tab was read.
-using Unread_Cells = std::array<bool, kBackgroundColumn + 1>;
-
-/// What stood in a row's result before the row was emptied, and the list's name for it.
-struct Emptied_Result {
-  std::string name, result;
-};
-
-/// The two tables, and what the calculator keeps beside them while it is open.
+/// The two tables, and what the calculator keeps beside them while it is open. Both always show
+/// the same names, criteria and background: what the user enters in one is written into the other
+/// at once. The record follows when a tab is read.
 struct Dilution_Grids {
   Dilution_Grids(Spreadsheet_Table& bulk, Spreadsheet_Table& elutriate)
       : tables{&bulk, &elutriate} {}
@@ -71,16 +83,9 @@ struct Dilution_Grids {
   Spreadsheet_Table& operator()(Dilution_Tab tab) const { return *tables[tab]; }
 
   std::array<Spreadsheet_Table*, kDilutionTabs> tables;
-  /// Rows that got other names by a paste or were emptied since their tab was read: what the other
-  /// tab holds for them goes by the name, not by the row.
-  std::array<std::set<int>, kDilutionTabs> by_name;
-  /// Concentrations of the tab whose names left the list that way. They come back with the name.
-  std::array<std::map<std::string, double>, kDilutionTabs> put_aside;
-  std::array<OneBased<Unread_Cells, kMaxDilutionRows>, kDilutionTabs> unread{};
-  /// By row: an undo of the emptying brings the result back.
-  std::array<std::map<int, Emptied_Result>, kDilutionTabs> emptied;
-  /// Where the record has the rows of the tables: it follows their commands when a tab is read.
-  Row_Order record_rows = Same_Order();
+  std::array<OneBased<Concentration_Note, kMaxDilutionRows>, kDilutionTabs> notes;
+  /// They come back with their names.
+  std::array<std::vector<Kept_Concentration>, kDilutionTabs> kept;
 
   std::array<OneBased<std::optional<Computed_Row>, kMaxDilutionRows>, kDilutionTabs> computed;
   double computed_solids = 0;  // g/L

@@ -14,6 +14,7 @@
 #include "dilution/dilution_file.h"
 #include "dilution/dilution_hints.h"
 #include "dilution/dilution_marks.h"
+#include "dilution/dilution_mirror.h"
 #include "dilution/dilution_rows.h"
 #include "platform/qt/fields/field_rows.h"
 #include "platform/qt/fields/focus_entry.h"
@@ -81,7 +82,10 @@ QWidget* frmDilute2::Page(Dilution_Tab tab) {
   }
   book->SetCellLook(
       [this, tab](int row, int col) { return Look_Of_Dilution(tab, row, col, grids_); });
+  // Names of a list often differ in their last letters only.
+  book->setTextElideMode(Qt::ElideMiddle);
   book->setMinimumHeight(kLeastTableHeight);
+  book->Keep_In_Sight(kDilutionColumn);
   inside->addWidget(book, 1);
   inside->addWidget(Label2(tab));
   column->addWidget(frame, 1);
@@ -216,7 +220,9 @@ void frmDilute2::Solids_Are_Taken() {
 void frmDilute2::SSTab1_Click(int left) {
   const Dilution_Tab tab = left == kElutriateTab ? kElutriateTab : kBulkTab;
   Leave_Dilute_Tab(tab, grids_, record_);
-  edited_[tab] = edited_[tab] && Holds_Rows_Below_List(grids_(tab));
+  for (const Dilution_Tab each : kTabs) {
+    edited_[each] = edited_[each] && Holds_Rows_Below_List(grids_(each));
+  }
   Follow_Rows();
 }
 

@@ -182,19 +182,17 @@ bool frmDilute2::Settle_Typed() {
   }
 }
 
-/// The tab in front first, as a change of tab would. A list that is cut off by an empty name is not
-/// taken: the record would lose what is below.
+/// As a change of tab would. A list that is cut off by an empty name is not taken: the record would
+/// lose what is below.
 bool frmDilute2::Take_Typed() {
-  for (const Dilution_Tab tab : {Front(), Other_Tab(Front())}) {
-    if (Holds_Rows_Below_List(grids_(tab))) {
-      Show_Warning(kNameMissing);
-      return false;
-    }
-    if (tab != Front() && !Is_Untaken(tab)) continue;
-    Read_Dilute_Grid(tab, grids_, record_);
-    Fill_Dilute_Grids(grids_, record_, tab);
-    edited_[tab] = false;
+  for (const Dilution_Tab tab : kTabs) {
+    if (!Holds_Rows_Below_List(grids_(tab))) continue;
+    Show_Warning(kNameMissing);
+    return false;
   }
+  Read_Both_Grids(Front(), grids_, record_);
+  Fill_Dilute_Grids(grids_, record_);
+  edited_ = {};
   record_.DiluteSolidsConc = Solids();
   Solids_Are_Taken();
   Follow_Rows();

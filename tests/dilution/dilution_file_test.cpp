@@ -198,10 +198,34 @@ TEST(NumberToFit, A_Wider_One_Has_The_Closest_Form_That_Fits) {
   EXPECT_EQ(Number_To_Fit(1234567.891234567, 15), "1234567.8912346");
   EXPECT_EQ(Number_To_Fit(-1234567.891234567, 15), "-1234567.891235");
   EXPECT_EQ(Number_To_Fit(-999999999999999, 15), "-1E15");
-  EXPECT_EQ(Number_To_Fit(-123456789012345, 15), "-1.23456789E14");
+  EXPECT_EQ(Number_To_Fit(-123456789012345, 15), "-123456789012E3");
   EXPECT_EQ(Number_To_Fit(1.23456789012345e-7, 15), "1.2345678901E-7");
   EXPECT_EQ(Number_To_Fit(0.000123456789012345, 15), "1.2345678901E-4");
-  EXPECT_EQ(Number_To_Fit(-1.23456789012345e-100, 15), "-1.2345679E-100");
+  EXPECT_EQ(Number_To_Fit(-1.23456789012345e-100, 15), "-123456789E-108");
+}
+
+TEST(NumberToFit, Digits_Take_The_Room_Of_Points_And_Zeros) {
+  EXPECT_EQ(Number_To_Fit(0.12345678901234567, 15), ".12345678901235");
+  EXPECT_EQ(Number_To_Fit(-0.12345678901234567, 15), "-.1234567890123");
+  EXPECT_EQ(Number_To_Fit(123456789012345678, 15), "1234567890123E5");
+}
+
+TEST(NumberToFit, The_Largest_Number_Is_Not_Rounded_Beyond_Every_Number) {
+  EXPECT_EQ(Number_To_Fit(1.7976931348623157e308, 15), "17976931348E298");
+  EXPECT_EQ(Number_To_Fit(-1.7976931348623157e308, 15), "-1797693134E299");
+}
+
+TEST_F(DilutionFile, Forms_Without_A_Zero_Or_A_Point_Are_Read_Back) {
+  Put(1, "Copper", 0.12345678901234567, 123456789012345678, 1.7976931348623157e308,
+      -1.23456789012345e-100);
+  const std::string bytes = Write_Dilution_File(record);
+  EXPECT_NE(bytes.find(".123456789012351234567890123E517976931348E298-123456789E-108\r\n"),
+            std::string::npos);
+  ASSERT_EQ(Read_Dilution_File(bytes, record), Failure::None);
+  EXPECT_EQ(record.DiluteBulk[1], 0.12345678901235);
+  EXPECT_EQ(record.DiluteElutriate[1], 1234567890123e5);
+  EXPECT_EQ(record.DiluteCriteria[1], 1.7976931348e308);
+  EXPECT_EQ(record.DiluteBackground[1], -1.23456789e-100);
 }
 
 TEST(NumberToFit, What_Is_Read_Back_Is_Never_Further_Off_Than_The_Field_Must_Be) {

@@ -38,9 +38,9 @@ TEST_F(DilutionGrid, A_Tab_Is_Read_Column_By_Column_Into_Its_Own_Concentration) 
   EXPECT_EQ(record.DiluteCriteria[2], 5);
   EXPECT_EQ(record.DiluteBackground[2], 6);
   EXPECT_EQ(record.DiluteElutriate[2], 0);
-  Enter(kElutriateTab, 1, 1, {{"Copper", "7", "8", "9"}});
+  Enter(kElutriateTab, 1, 2, {{"7", "8", "9"}});
   Read_Dilute_Grid(kElutriateTab, grids, record);
-  EXPECT_EQ(record.DiluteRowCount, 1);
+  EXPECT_EQ(record.DiluteRowCount, 2);
   EXPECT_EQ(record.DiluteElutriate[1], 7);
   EXPECT_EQ(record.DiluteCriteria[1], 8);
   EXPECT_EQ(record.DiluteBackground[1], 9);

@@ -31,7 +31,7 @@ TEST_F(DilutionRows, Deleted_Ones_Go_In_Both_Tables_And_At_The_Next_Read_In_The_
   EXPECT_EQ(All(5, 2), (Names{"11.25", "17.50", ".25", ".38"}));
   EXPECT_EQ(record.DiluteRowCount, 2);
   EXPECT_EQ(record.DiluteElutriate[2], 13);
-  EXPECT_EQ(record.DiluteParameterNames[3], "");
+  EXPECT_EQ(record.DiluteElutDilution[1], 0.25);  // (12 - 10) / 8
   EXPECT_FALSE(Has_Changed(kBulkTab, 1, grids));
   EXPECT_FALSE(Has_Changed(kElutriateTab, 2, grids));
   EXPECT_FALSE(bulk.CanUndo());
@@ -116,7 +116,22 @@ TEST_F(DilutionRows, What_Is_Typed_And_Not_Taken_Moves_Along) {
   EXPECT_TRUE(Holds_Untaken_Values(kBulkTab, grids, record));
 }
 
+TEST_F(DilutionRows, More_Than_One_Are_Asked_For) {
+  Scripted_Messages messages({Answer::No});
+  EXPECT_FALSE(Delete_Dilute_Rows({2, 1, 3, 1}, grids));
+  EXPECT_EQ(messages.shown.at(0).text,
+            "Deleted Rows Can't Be Brought Back.  Do You Wish to Delete All Chosen Rows?");
+  EXPECT_EQ(messages.shown[0].buttons, Buttons::YesNo);
+  EXPECT_EQ(messages.shown[0].icon, Icon::Warning);
+  EXPECT_EQ(All(1, 3), (Names{"Copper", "Lead", "Zinc", "Copper", "Lead", "Zinc"}));
+}
+
+TEST_F(DilutionRows, Empty_Ones_Go_Without_A_Question) {
+  EXPECT_TRUE(Delete_Dilute_Rows({4, 1, 500, 7}, grids));
+}
+
 TEST_F(DilutionRows, All_500_Can_Go) {
+  Scripted_Messages messages({Answer::Yes});
   Delete_Dilute_Rows({1, 1, 500, 7}, grids);
   EXPECT_TRUE(Holds_Untaken_Values(kBulkTab, grids, record));
   Leave_Dilute_Tab(kBulkTab, grids, record);

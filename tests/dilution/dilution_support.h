@@ -9,6 +9,7 @@
 #include "core/book_numbers.h"
 #include "dilution/dilution_grid.h"
 #include "dilution/dilution_marks.h"
+#include "dilution/dilution_mirror.h"
 #include "dilution/dilution_rules.h"
 #include "platform/table/spreadsheet_edits.h"
 #include "support/plain_support.h"

@@ -147,6 +147,16 @@ TEST_F(DiluteScreen, Captions_Stand_As_They_Are_Told) {
   EXPECT_EQ(Book(0).table().Col(), 1);
 }
 
+TEST_F(DiluteScreen, The_Results_Are_In_Sight_On_Opening) {
+  Open();
+  for (const int tab : {0, 1}) {
+    Go_To(tab);
+    const F1Book& book = Book(tab);
+    EXPECT_LE(book.columnViewportPosition(4) + book.columnWidth(4), book.viewport()->width());
+  }
+  EXPECT_LE(Screen()->width(), 1014) << "as wide as a small display, without the frame";
+}
+
 TEST_F(DiluteScreen, What_Is_Typed_On_Both_Tabs_Is_Computed_And_Shown) {
   Scripted_Messages messages;
   Enter_Two();
@@ -670,6 +680,76 @@ TEST_F(DiluteScreen, Deleted_Rows_Are_Asked_For_And_Taken) {
   EXPECT_EQ(record.DiluteRowCount, 1);
   EXPECT_EQ(record.DiluteParameterNames[1], "Lead");
   EXPECT_EQ(record.DiluteElutriate[1], 34);
+}
+
+TEST_F(DiluteScreen, Several_Rows_Are_Deleted_After_A_Question_Only) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().Selection("A1:A2");
+  {
+    Scripted_Messages messages({Answer::No});
+    QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
+    EXPECT_EQ(Cell(0, 2, 1) + Cell(1, 2, 2), "Lead34");
+  }
+  Scripted_Messages messages({Answer::Yes});
+  QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
+  EXPECT_EQ(Cell(0, 1, 1) + Cell(1, 1, 2), "");
+}
+
+TEST_F(DiluteScreen, The_Word_That_A_Name_Is_Missing_Undoes_Nothing) {
+  {
+    Scripted_Messages messages;
+    Enter_Two();
+  }
+  Book(0).setFocus();
+  Book(0).table().SetActiveCell(1, 1);
+  QTest::keyClick(&Book(0), Qt::Key_Delete);
+  Paste(0, 2, 1, "Zinc\t4444\t77\t33\n");
+  {
+    Scripted_Messages messages({Answer::Ok, Answer::Ok});
+    Go_To(1);
+    EXPECT_EQ(Cell(1, 2, 1) + Cell(1, 2, 3) + Cell(1, 2, 4), "Zinc7733");
+    Go_To(0);
+  }
+  EXPECT_EQ(Cell(0, 2, 1) + Cell(0, 2, 2) + Cell(0, 2, 3), "Zinc444477");
+  Scripted_Messages messages({Answer::Cancel});
+  Click(Button(1));
+  EXPECT_EQ(messages.shown.at(0).text, kTakeThem);
+  EXPECT_NE(Screen(), nullptr);
+}
+
+TEST_F(DiluteScreen, A_List_Whose_First_Name_Is_Empty_Is_Not_Erased_By_Opening) {
+  const std::string bytes =
+      "t\nt\n    2             50\n\n  1000\nZinc\n           2000             34\n";
+  ASSERT_EQ(Read_Dilution_File(bytes, record), Failure::None);
+  Scripted_Messages messages;
+  Open();
+  EXPECT_EQ(Cell(0, 1, 2) + Cell(0, 2, 1) + Cell(1, 2, 2), "1000Zinc34");
+  EXPECT_EQ(record.DiluteSolidsConc, 50);
+  EXPECT_EQ(record.DiluteParameterNames[2], "Zinc");
+  EXPECT_EQ(Book(0).model()->index(0, 0).data(Qt::ToolTipRole).toString(),
+            "A name is missing here: the list ends above");
+}
+
+TEST_F(DiluteScreen, A_Typed_Cell_Shows_What_Was_Typed) {
+  Open();
+  chosen = bench.folder / "other.DUD";
+  Write_Text(*chosen, "t\nt\n    1             50\nZinc\n           1000\n");
+  Book(0).table().Selection("A1:B2");
+  Book(1).table().Selection("A1:C1");
+  {
+    Scripted_Messages messages({Answer::Yes});
+    Click(Button(3));
+    EXPECT_EQ(Book(0).table().ShownRC(1, 2), "1000.00");
+    Type_Into_Cell(Book(0), 1, 3, "0.004");
+    EXPECT_EQ(Book(1).table().ShownRC(1, 3), "0.004");
+    Click(Button(5));
+  }
+  Type_Into_Cell(Book(0), 1, 2, "0.004");
+  EXPECT_EQ(Book(0).model()->index(0, 1).data().toString(), "0.004");
 }
 
 TEST_F(DiluteScreen, Rows_Below_An_Empty_One_Are_Asked_For_After_A_Compute) {

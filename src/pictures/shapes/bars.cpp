@@ -75,16 +75,29 @@ Plot_Frame Frame_Of(const Bars_Drawing& drawing, const Canvas& canvas) {
   return Plot_Frame(layout, canvas);
 }
 
-// As much of the text as there is room for.
+/// Where the letters of an UTF-8 text begin, and its end.
+std::vector<std::size_t> Letter_Starts(const std::string& text) {
+  std::vector<std::size_t> starts;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if ((text[at] & 0xC0) != 0x80) starts.push_back(at);
+  }
+  starts.push_back(text.size());
+  return starts;
+}
+
+// As much of the text as there is room for. What is left out is in the middle: names of a list
+// often differ in their last letters only.
 std::string Shortened(const std::string& text, double size, double room) {
   if (Text_Width(text, size) <= room) return text;
-  std::string part = text;
-  while (!part.empty() && Text_Width(part + "...", size) > room) {
-    const auto goes_on = [&] { return !part.empty() && (part.back() & 0xC0) == 0x80; };
-    while (goes_on()) part.pop_back();
-    if (!part.empty()) part.pop_back();
+  const std::vector<std::size_t> starts = Letter_Starts(text);
+  const std::size_t letters = starts.size() - 1;
+  for (std::size_t kept = letters; kept-- > 1;) {
+    const std::size_t behind = kept / 2;
+    const std::string part =
+        text.substr(0, starts[kept - behind]) + "..." + text.substr(starts[letters - behind]);
+    if (Text_Width(part, size) <= room) return part;
   }
-  return part.empty() ? "" : part + "...";
+  return "";
 }
 
 struct Rows {

@@ -86,7 +86,10 @@ Plot_Frame::Plot_Frame(Plot_Layout layout, const Canvas& canvas)
       beside(layout_.upright, Widest_Label(layout_.upright.scale, canvas.text_size));
   left_ = Sharp(std::max(kEdge, upright + layout_.left_room));
   top_ = Sharp(kEdge + above + (layout_.across_on_top ? across - kEdge / 2 : 0));
-  right_ = std::max(Sharp(canvas.width - kEdge), left_ + kLeastSide);
+  // A number stands in the middle below its line, the last one too.
+  const double last_number =
+      layout_.across.labelled ? Widest_Label(layout_.across.scale, canvas.text_size) / 2 : 0;
+  right_ = std::max(Sharp(canvas.width - std::max(kEdge, last_number)), left_ + kLeastSide);
   bottom_ = std::max(Sharp(canvas.height - (layout_.across_on_top ? kEdge : across + kEdge / 3)),
                      top_ + kLeastSide);
   if (layout_.equal_scales) Shrink_To_Equal_Scales();

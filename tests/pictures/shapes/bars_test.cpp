@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "pictures/shapes/lettering.h"
+
 namespace barvon {
 namespace {
 
@@ -161,6 +163,41 @@ TEST(Bars, Five_Hundred_Bars_Have_As_Many_Labels_As_There_Is_Room_For) {
     last = text->place.y;
   }
   EXPECT_GT(last, 0);
+}
+
+TEST(Bars, Names_That_Differ_At_Their_End_Are_Told_Apart) {
+  Bar_Chart chart;
+  for (const char* name :
+       {"Parameter of the upper layer 1", "Parameter of the upper layer 2",
+        "Gr\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6\xC3\xB6 2"}) {
+    chart.bars.push_back(Plain_Bar(name, 100, kSand));
+  }
+  const Canvas narrow = {200, 300, 12};
+  std::vector<std::string> labels;
+  for (const Shape& shape : Bar_Shapes(Draw_Bars(chart), narrow).shapes) {
+    const auto* text = std::get_if<Text_Shape>(&shape);
+    if (text && text->text.find("...") != std::string::npos) labels.push_back(text->text);
+  }
+  ASSERT_EQ(labels.size(), 3u);
+  EXPECT_TRUE(labels[0].starts_with("Par")) << labels[0];
+  EXPECT_TRUE(labels[0].ends_with(" 1")) << labels[0];
+  EXPECT_TRUE(labels[1].ends_with(" 2")) << labels[1];
+  EXPECT_TRUE(labels[2].starts_with("Gr\xC3\xB6")) << labels[2];
+  EXPECT_NE(labels[2].find("..."), std::string::npos);
+  EXPECT_EQ((labels[2][labels[2].find("...") + 3] & 0xC0), 0xC0) << "whole letters only";
+}
+
+TEST(Bars, The_Last_Number_Of_The_Axis_Is_On_The_Picture) {
+  Bar_Chart chart;
+  chart.logarithmic = true;
+  chart.bars = {Plain_Bar("one", 100000, kSand)};
+  const Shape_List picture = Bar_Shapes(Draw_Bars(chart), {200, 300, 12});
+  for (const Shape& shape : picture.shapes) {
+    const auto* text = std::get_if<Text_Shape>(&shape);
+    if (!text || text->anchor != Anchor::middle) continue;
+    EXPECT_LE(text->place.x + Text_Width(text->text, text->size) / 2, 200) << text->text;
+  }
+  EXPECT_TRUE(Says(picture, "100000"));
 }
 
 TEST(Bars, A_Place_Finds_Its_Bar) {

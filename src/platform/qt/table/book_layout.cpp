@@ -45,7 +45,16 @@ void Book_Layout::Lay_Out() {
     const auto dragged = dragged_.find(col);
     view_.setColumnWidth(col - 1, dragged == dragged_.end() ? Column_Pixels(col) : dragged->second);
   }
+  Set_Least_Width();
   Tell_Size();
+}
+
+void Book_Layout::Set_Least_Width() {
+  if (cols_in_sight_ == 0) return;
+  int width = view_.verticalHeader()->sizeHint().width() + 2 * view_.frameWidth() +
+              view_.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  for (int col = 1; col <= cols_in_sight_; ++col) width += Column_Pixels(col);
+  view_.setMinimumWidth(width);
 }
 
 /// To everything around that is not in view yet: the toolkit tells it of no new hint, and a screen
@@ -104,6 +113,12 @@ QSize Book_Layout::Size_Hint() const {
 
 void Book_Layout::Ask_For_Rows(int rows) {
   asked_rows_ = rows;
+  Tell_Size();
+}
+
+void Book_Layout::Keep_In_Sight(int cols) {
+  cols_in_sight_ = cols;
+  Set_Least_Width();
   Tell_Size();
 }
 

@@ -25,16 +25,20 @@ class Book_Layout : public QObject {
   void Ask_For_Rows(int rows);
   /// From now on the hint has room for all rows, however many.
   void Ask_For_All_Rows();
+  /// From now on the view is never too narrow for its first columns, as wide as the table asks.
+  void Keep_In_Sight(int cols);
 
  private:
   int Row_Pixels() const;
   int Column_Pixels(int col) const;
   void Tell_Size();
+  void Set_Least_Width();
 
   QTableView& view_;
   const Spreadsheet_Table& table_;
   int largest_height_;
   int asked_rows_ = 0;
+  int cols_in_sight_ = 0;
   bool due_ = false;
   bool laying_out_ = false;
   std::map<int, int> dragged_;  // pixels, by column from 1

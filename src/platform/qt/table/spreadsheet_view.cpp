@@ -281,6 +281,8 @@ QSize F1Book::sizeHint() const { return layout_->Size_Hint(); }
 
 void F1Book::Ask_For_Rows(int rows) { layout_->Ask_For_Rows(rows); }
 
+void F1Book::Keep_In_Sight(int cols) { layout_->Keep_In_Sight(cols); }
+
 void F1Book::Ask_For_All_Rows() { layout_->Ask_For_All_Rows(); }
 
 }  // namespace barvon

@@ -90,6 +90,8 @@ class F1Book : public QTableView {
   /// For a table that is the screen's main matter: it asks for room for all its rows, and the
   /// display is the limit.
   void Ask_For_All_Rows();
+  /// For a table whose first columns must be read together: it is never narrower than they are.
+  void Keep_In_Sight(int cols);
   void keyboardSearch(const QString&) override {}
 
  signals:

@@ -1,0 +1,240 @@
+#include "dilution/dilution_mirror.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "dilution/dilution_grid.h"
+
+namespace barvon {
+namespace {
+
+std::size_t At(int row) { return static_cast<std::size_t>(row); }
+
+/// A row of an edit, with the name that it had before.
+struct Edited_Row {
+  int row = 0;
+  std::string former, name;
+  bool emptied = false;
+  bool is_renamed() const { return name != former; }
+};
+
+/// The other table still shows the former names. A row of which only the name goes is not emptied.
+std::vector<Edited_Row> Rows_Of_Edit(Dilution_Tab tab, const Cell_Range& range,
+                                     const Dilution_Grids& grids) {
+  const bool can_empty = range.col2 > kNameColumn;
+  std::vector<Edited_Row> rows;
+  for (int row = range.row1; row <= std::min(range.row2, kMaxDilutionRows); ++row) {
+    rows.push_back({row, grids(Other_Tab(tab)).TextRC(row, kNameColumn),
+                    grids(tab).TextRC(row, kNameColumn),
+                    can_empty && !Row_Is_Filled(grids(tab), row)});
+  }
+  return rows;
+}
+
+/// A number 0 is that of a cell that nobody has filled.
+bool Is_Entered(const Cell_Value& shown) {
+  const auto* number = std::get_if<double>(&shown);
+  return number != nullptr ? *number != 0 : !std::holds_alternative<std::monostate>(shown);
+}
+
+bool Holds_Concentration(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
+  return Is_Entered(grids(tab).ValueRC(row, kConcentrationColumn));
+}
+
+Kept_Concentration Lift(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
+  Spreadsheet_Table& table = grids(tab);
+  Kept_Concentration lifted{row.former, row.row, table.ValueRC(row.row, kConcentrationColumn),
+                            std::exchange(grids.notes[tab][At(row.row)], {})};
+  table.ValueRC(row.row, kConcentrationColumn, {});
+  return lifted;
+}
+
+void Put(const Kept_Concentration& lifted, Dilution_Tab tab, int row, Dilution_Grids& grids) {
+  grids(tab).ValueRC(row, kConcentrationColumn, lifted.shown);
+  grids.notes[tab][At(row)] = lifted.note;
+}
+
+void Keep(Kept_Concentration lifted, Dilution_Tab tab, Dilution_Grids& grids) {
+  if (Is_Entered(lifted.shown)) grids.kept[tab].push_back(std::move(lifted));
+}
+
+template <class Fits>
+std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& from,
+                                             const Fits& fits) {
+  const auto found = std::ranges::find_if(from, fits);
+  if (found == from.end()) return std::nullopt;
+  Kept_Concentration taken = std::move(*found);
+  from.erase(found);
+  return taken;
+}
+
+/// What is kept for the name: what has left this very row, or else any.
+std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, const Edited_Row& row,
+                                            Dilution_Grids& grids) {
+  auto& kept = grids.kept[tab];
+  auto found = Take_First(kept, [&](const Kept_Concentration& each) {
+    return each.row == row.row &&
+           (each.name == row.name || (each.name.empty() && each.note.names.contains(row.name)));
+  });
+  if (found || row.name.empty()) return found;
+  return Take_First(kept, [&](const Kept_Concentration& each) { return each.name == row.name; });
+}
+
+/// One parameter is called something else now, or has got its name.
+void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
+  if (row.name.empty()) return;
+  if (Holds_Concentration(tab, row.row, grids)) {
+    Concentration_Note& note = grids.notes[tab][At(row.row)];
+    if (!note.names.empty()) note.names.insert(row.name);
+    return;
+  }
+  if (const auto kept = Take_Kept(tab, row, grids)) {
+    Put(*kept, tab, row.row, grids);
+    grids.notes[tab][At(row.row)].names.insert(row.name);
+  }
+}
+
+void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
+  std::vector<Kept_Concentration> lifted;
+  std::vector<Edited_Row> open;
+  for (const Edited_Row& row : rows) {
+    if (!row.is_renamed()) continue;
+    lifted.push_back(Lift(tab, row, grids));
+    open.push_back(row);
+  }
+  const auto put_each = [&](const auto& find) {
+    std::erase_if(open, [&](const Edited_Row& row) {
+      std::optional<Kept_Concentration> found = find(row);
+      if (!found) return false;
+      if (!row.name.empty()) found->note.names.insert(row.name);
+      Put(*found, tab, row.row, grids);
+      return true;
+    });
+  };
+  put_each([&](const Edited_Row& row) {
+    if (row.name.empty()) return std::optional<Kept_Concentration>();
+    auto found = Take_First(lifted, [&](const auto& each) { return each.name == row.name; });
+    return found ? found : Take_Kept(tab, row, grids);
+  });
+  // One that was renamed meanwhile, when a paste is undone.
+  put_each([&](const Edited_Row& row) {
+    return Take_First(lifted, [&](const auto& each) { return each.note.names.contains(row.name); });
+  });
+  // A row without a name, before or now, keeps its own.
+  put_each([&](const Edited_Row& row) {
+    if (row.emptied || (!row.name.empty() && !row.former.empty())) {
+      return std::optional<Kept_Concentration>();
+    }
+    auto found = Take_First(lifted, [&](const auto& each) { return each.row == row.row; });
+    return found || !row.name.empty() ? found : Take_Kept(tab, row, grids);
+  });
+  for (Kept_Concentration& each : lifted) Keep(std::move(each), tab, grids);
+}
+
+/// Names of several rows have become others. Names that were only cleared are typed anew in their
+/// rows, and names of rows that had none belong to what is there.
+bool Names_Are_Others(const std::vector<Edited_Row>& rows) {
+  const auto renamed = std::ranges::count_if(rows, &Edited_Row::is_renamed);
+  return renamed > 1 && std::ranges::any_of(rows, [](const Edited_Row& row) {
+           return row.is_renamed() && !row.name.empty() && !row.former.empty();
+         });
+}
+
+void Follow_In_Other_Tab(Dilution_Tab tab, const std::vector<Edited_Row>& rows,
+                         Dilution_Grids& grids) {
+  const bool are_others = Names_Are_Others(rows);
+  for (const Edited_Row& row : rows) {
+    const bool was_alone = grids.notes[tab][At(row.row)].names.empty();
+    if (row.emptied && !was_alone && !(are_others && row.is_renamed())) {
+      Keep(Lift(tab, row, grids), tab, grids);
+    }
+  }
+  if (are_others) return Move_With_Names(tab, rows, grids);
+  for (const Edited_Row& row : rows) {
+    if (row.is_renamed()) Follow_Name(tab, row, grids);
+  }
+}
+
+/// The tab's own concentrations are as they were entered.
+void Note_Entered(Dilution_Tab tab, const Cell_Range& range, const std::vector<Edited_Row>& rows,
+                  Dilution_Grids& grids) {
+  const bool entered = range.col1 <= kConcentrationColumn && range.col2 >= kConcentrationColumn;
+  for (const Edited_Row& row : rows) {
+    Concentration_Note& note = grids.notes[tab][At(row.row)];
+    if (row.emptied || (entered && row.is_renamed())) note = {};
+    if (entered) {
+      if (grids(tab).IsEmptyRC(row.row, kConcentrationColumn)) {
+        note.names.clear();
+      } else if (!row.name.empty()) {
+        note.names.insert(row.name);
+      }
+    } else if (row.is_renamed()) {
+      Follow_Name(tab, row, grids);
+    }
+  }
+}
+
+void Copy_Common(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
+  const Spreadsheet_Table& table = grids(tab);
+  Spreadsheet_Table& other = grids(Other_Tab(tab));
+  for (const Edited_Row& row : rows) {
+    for (const int col : {kNameColumn, kCriteriaColumn, kBackgroundColumn}) {
+      other.ValueRC(row.row, col, table.ValueRC(row.row, col));
+    }
+  }
+}
+
+/// A concentration that stands alone is nobody's until it is read under a name.
+void Forget_Names_Of_Lone_Ones(const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
+  for (const Dilution_Tab tab : kTabs) {
+    for (const Edited_Row& row : rows) {
+      if (row.name.empty() && !Row_Is_Filled(grids(Other_Tab(tab)), row.row)) {
+        grids.notes[tab][At(row.row)].names.clear();
+      }
+    }
+  }
+}
+
+/// A row that was emptied has no result; it comes back with the parameter.
+void Follow_Results(const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
+  for (const Dilution_Tab tab : kTabs) {
+    Spreadsheet_Table& table = grids(tab);
+    for (const Edited_Row& row : rows) {
+      const std::optional<Computed_Row>& computed = grids.computed[tab][At(row.row)];
+      if (row.emptied) {
+        table.ValueRC(row.row, kDilutionColumn, {});
+      } else if (table.IsEmptyRC(row.row, kDilutionColumn) && computed &&
+                 computed->name == row.name) {
+        table.TextRC(row.row, kDilutionColumn, Result_Text(computed->dilution));
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grids& grids) {
+  if (range.col1 > kBackgroundColumn) return;
+  const std::vector<Edited_Row> rows = Rows_Of_Edit(tab, range, grids);
+  const Dilution_Tab other = Other_Tab(tab);
+  const Table_Fill fill(grids(other));
+  const auto concentrations = [&] {
+    std::vector<Cell_Value> cells;
+    for (const Edited_Row& row : rows) {
+      cells.push_back(grids(other).ValueRC(row.row, kConcentrationColumn));
+    }
+    return cells;
+  };
+  const std::vector<Cell_Value> before = concentrations();
+  Follow_In_Other_Tab(other, rows, grids);
+  // Its history would bring back what belongs to other names now.
+  if (concentrations() != before) grids(other).ForgetEdits();
+  Note_Entered(tab, range, rows, grids);
+  Copy_Common(tab, rows, grids);
+  Forget_Names_Of_Lone_Ones(rows, grids);
+  Follow_Results(rows, grids);
+  // What is typed is shown as it was typed, in no pattern of the numbers of a file.
+  for (const Dilution_Tab each : kTabs) grids(each).NumberFormat(range, {});
+}
+
+}  // namespace barvon
