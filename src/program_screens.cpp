@@ -21,6 +21,7 @@
 #include "wizard/data_wiz.h"
 #include "wizard/graphic_data_entry.h"
 #include "workspace/frm_open.h"
+#include "workspace/note_pads.h"
 
 namespace barvon {
 namespace {
@@ -36,6 +37,7 @@ void Register(const Screen_Row& row, QWidget* main) {
 void Register_Program_Screens(QWidget* main) {
   Register_frmErrorList(main);
   Register_frmOpen(main);
+  Register_frmNotePad(main);
   Register<frmDescription>(Row_Of_Screen("frmDescription"), main);
   Register_frmGridDescrip(main);
   Register<frmVelocity>(Row_Of_Screen("frmVelocity"), main);
