@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QWindow>
 #include <vector>
 
@@ -17,10 +16,6 @@
 
 namespace barvon {
 namespace {
-
-Window_Place Place_Of(const QRect& rect) {
-  return {rect.left(), rect.top(), rect.width(), rect.height()};
-}
 
 void Put(QWidget& window, const Window_Place& place) {
   if (window.isMaximized()) window.showNormal();
@@ -145,10 +140,6 @@ void mnuWItem_Click(Main_Controls& controls, int index) {
     default:
       return;
   }
-}
-
-Window_Place Room_For_Texts(const QWidget& main) {
-  return Room_Beside(Place_Of(main.frameGeometry()), Place_Of(main.screen()->availableGeometry()));
 }
 
 }  // namespace barvon

@@ -1,6 +1,7 @@
 #include "workspace/frm_note_pad.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QFontDatabase>
 #include <QMenuBar>
 #include <QScrollBar>
@@ -10,6 +11,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -31,6 +33,7 @@ constexpr char kUntitled[] = "Untitled";
 constexpr std::size_t kFirstSlice = 1U << 20;  // what is in view needs no more
 constexpr std::size_t kSlice = 8U << 20;
 constexpr int kTabStop = 8;
+constexpr int kPatience = 200;  // milliseconds
 
 constexpr char kTooLarge[] = "Read only: too large to be edited here";
 constexpr char kWouldChange[] = "Read only: holds what an editor would change";
@@ -82,7 +85,7 @@ void frmNotePad::Build_Body() {
   edit_->setAcceptDrops(false);  // a project that is dropped would come as its name
   Set_Font(font.family());
   find_bar_ = new Find_Bar(
-      {QStringLiteral("Find"), QStringLiteral("Fi&nd"), QStringLiteral("Not in this text."),
+      {QStringLiteral("Find"), QStringLiteral("F&ind"), QStringLiteral("Not in this text."),
        [this](const QString& text, bool backward) { return Find(text, backward); }},
       this);
   find_bar_->hide();
@@ -193,6 +196,12 @@ void frmNotePad::Come_To_Front() {
   show();
   raise();
   activateWindow();
+  // A question that follows is to stand over this window: the display says when it is in front.
+  if (isActiveWindow()) return;
+  QEventLoop wait;
+  connect(windowHandle(), &QWindow::activeChanged, &wait, &QEventLoop::quit);
+  QTimer::singleShot(kPatience, &wait, &QEventLoop::quit);
+  wait.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 bool frmNotePad::Load(const std::string& path) {
@@ -248,6 +257,7 @@ void frmNotePad::Make_Edited(const Text_Content& content) {
 bool frmNotePad::Make_Shown(std::unique_ptr<File_Slices> slices) {
   std::string first;
   if (slices->Read(kFirstSlice, first) != 0) return false;
+  view_->Set_Rows(Text_Rows());  // two large texts at a time would be one too many
   Text_Rows rows(static_cast<std::size_t>(slices->size()));
   rows.Add(first);
   if (slices->At_End()) rows.Finish();

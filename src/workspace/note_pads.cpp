@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QScreen>
+#include <algorithm>
 
 #include "core/desk/file_dialogs.h"
 #include "core/desk/open_file.h"
@@ -12,16 +13,19 @@
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/qt/qt_document_opener.h"
-#include "workspace/document_menus.h"
 #include "workspace/frm_note_pad.h"
 #include "workspace/text_documents.h"
-#include "workspace/window_places.h"
 
 namespace barvon {
 namespace {
 
 constexpr int kStep = 28;  // from window to window
+constexpr int kFrame = 8;  // both sides of a window's, about
 constexpr int kSteps = 8;  // then the next one is at the first one's place again
+
+Window_Place Place_Of(const QRect& rect) {
+  return {rect.left(), rect.top(), rect.width(), rect.height()};
+}
 
 frmNotePad* Window_Of(int index) { return dynamic_cast<frmNotePad*>(Documents().Document(index)); }
 
@@ -29,8 +33,8 @@ void Place_Beside(frmNotePad& text, const QWidget& main) {
   const Window_Place room = Room_For_Texts(main);
   const int step = kStep * ((text.index() - 1) % kSteps);
   text.resize(text.size().boundedTo({room.width - kStep, room.height - kStep}));
-  text.move(room.left + std::min(step, room.width - text.width()),
-            room.top + std::min(step, room.height - text.height()));
+  text.move(room.left + std::min(step, room.width - text.width() - kFrame),
+            room.top + std::min(step, room.height - text.height() - kStep));
 }
 
 frmNotePad* New_Text(const QWidget& main) {
@@ -77,6 +81,10 @@ bool Open_Text(const std::string& path, const QWidget& main) {
   }
   text->Come_To_Front();
   return true;
+}
+
+Window_Place Room_For_Texts(const QWidget& main) {
+  return Room_Beside(Place_Of(main.frameGeometry()), Place_Of(main.screen()->availableGeometry()));
 }
 
 std::vector<frmNotePad*> Open_Texts() {

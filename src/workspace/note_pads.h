@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "workspace/window_places.h"
+
 namespace barvon {
 
 class frmNotePad;
@@ -17,6 +19,11 @@ void Register_frmNotePad(QWidget* main);
 /// Shows the file's text. A file that is open already comes to the front and is read again, over
 /// typed text only when a person agrees. False when it can't be read.
 bool Open_Text(const std::string& path, const QWidget& main);
+
+/// The name of the main window's menu of fonts.
+inline constexpr char kFontMenu[] = "mnuFontMenu";
+/// Where text windows have their places.
+Window_Place Room_For_Texts(const QWidget& main);
 
 /// The windows that are open, by their indices.
 std::vector<frmNotePad*> Open_Texts();

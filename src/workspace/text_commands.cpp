@@ -8,6 +8,7 @@
 #include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
 #include "platform/ask/message_box.h"
+#include "platform/files/path_lookup.h"
 #include "workspace/text_documents.h"
 
 namespace barvon {
@@ -30,6 +31,9 @@ bool Save_Text(int index, ProjectRecord& record) {
   const Text_Document* text = Documents().Document(index);
   if (text == nullptr) return false;
   const std::string file = text->File();
+  // A run may have written the file anew: what nobody typed into is not put over that.
+  const bool changed = Documents().FState(index).Dirty != kFalse;
+  if (!changed && !file.empty() && Find_Path(file)) return true;
   return file.empty() ? Save_Text_As(index, record) : Save_In(index, file, record);
 }
 

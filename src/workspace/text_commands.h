@@ -7,8 +7,8 @@ namespace barvon {
 // What is done with the text documents of the program, by their indices. Whatever stands in the
 // way has been told when one of these gives false.
 
-/// Saves the text in its file; one that has none is asked for a name. False: it is as unsaved as
-/// before.
+/// Saves the text in its file, when it has changed or the file is gone; one that has none is asked
+/// for a name. False: it is as unsaved as before.
 bool Save_Text(int index, ProjectRecord& record);
 bool Save_Text_As(int index, ProjectRecord& record);
 

@@ -117,6 +117,17 @@ TEST_F(TextDocuments, Save_Goes_To_The_Texts_Own_File_And_To_No_Recent_One) {
   EXPECT_TRUE(save_asked_.empty());
 }
 
+TEST_F(TextDocuments, Save_Leaves_A_File_Alone_That_Nobody_Typed_Into_But_Brings_Back_A_Lost_One) {
+  Scripted_Messages messages;
+  one.file = folder_ / "a.duo";
+  Write_Text(one.file, "a newer run");
+  EXPECT_TRUE(Save_Text(1, record_));
+  EXPECT_EQ(Read_Text(one.file), "a newer run");
+  std::filesystem::remove(one.file);
+  EXPECT_TRUE(Save_Text(1, record_));
+  EXPECT_EQ(Read_Text(one.file), "text");
+}
+
 TEST_F(TextDocuments, Save_Without_A_File_Asks_For_Text_And_All_Files_And_Adds_No_Extension) {
   Scripted_Messages messages;
   chosen_ = folder_ / "notes";

@@ -75,7 +75,7 @@ struct Text_Port {
   std::function<bool()> save = [] { return false; };
   /// The bytes of a file for the text of the active viewer window, nothing when a person called
   /// the save off; and what its caption becomes after a save.
-  std::function<std::optional<std::string>()> active = [] { return std::nullopt; };
+  std::function<std::optional<std::string>()> active = [] { return std::string(); };
   std::function<void(const std::string&)> set_caption = [](const std::string&) {};
   /// Prints the text of the window in front.
   std::function<void()> print = [] {};
