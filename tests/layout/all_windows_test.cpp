@@ -286,20 +286,20 @@ void Look_At_Help(const Look& look) {
 
 void Look_At_Text(Main_Bench& bench, const Look& look) {
   look(Opened("frmNotePad"), "untitled");
+  Port().board.show_note({});
   look(bench.main(), "with the Window menu");
   Discard_Texts();
   Scratch_Folder folder;
   Write_Text(folder / "site.duo", std::string(80, 'x') + "\r\nline\r\n");
   Write_Text(folder / "long.duo", std::string(20000, 'x'));
   ASSERT_TRUE(Open_Text(folder / "site.duo", bench.main()));
-  QWidget& text = Window_Named("frmNotePad");
-  Show(text);
-  text.findChild<QAction*>("NotePadFind")->trigger();
-  look(text, "with the find bar");
+  look(Window_Named("frmNotePad"), "with a file");
   Discard_Texts();
+  // In a text that is edited Tab is typed.
   ASSERT_TRUE(Open_Text(folder / "long.duo", bench.main()));
-  Show(Window_Named("frmNotePad"));
-  look(Window_Named("frmNotePad"), "read only");
+  QWidget& text = Window_Named("frmNotePad");
+  text.findChild<QAction*>("NotePadFind")->trigger();
+  look(text, "read only, with the find bar");
   Discard_Texts();
 }
 

@@ -448,7 +448,10 @@ TEST_F(NotePad, The_Status_Bar_Tells_Line_Column_And_Kind) {
 TEST_F(NotePad, A_Large_Text_Is_In_View_At_Once_And_Read_While_The_Window_Lives) {
   std::string bytes;
   for (int i = 0; bytes.size() < 12'000'000; ++i) bytes += "line " + std::to_string(i) + "\r\n";
-  frmNotePad& text = Opened(bytes + "the end");
+  Write_Text(bench.folder / "site.duo", bytes + "the end");
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(bench.folder / "site.duo"));
+  text.show();
   ASSERT_NE(View(text), nullptr);
   EXPECT_EQ(Text1(text), nullptr);
   EXPECT_TRUE(text.Is_Reading());
@@ -467,7 +470,10 @@ TEST_F(NotePad, A_Large_Text_Is_In_View_At_Once_And_Read_While_The_Window_Lives)
 
 TEST_F(NotePad, A_Large_Text_Is_Searched_To_Its_End_Before_It_Is_Read) {
   std::string bytes(6'000'000, '\n');
-  frmNotePad& text = Opened(bytes + "needle\n");
+  Write_Text(bench.folder / "site.duo", bytes + "needle\n");
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(bench.folder / "site.duo"));
+  text.show();
   ASSERT_TRUE(text.Is_Reading());
   Do(text, "Find");
   auto* find = text.findChild<QLineEdit*>("FindText");
