@@ -52,7 +52,8 @@ std::vector<int> Text_Documents::Open_Ones() const {
 std::vector<int> Text_Documents::Changed_Ones() const {
   std::vector<int> changed = Open_Ones();
   std::erase_if(changed, [this](int i) { return FState(i).Dirty == kFalse; });
-  std::ranges::stable_partition(changed, [this](int i) { return i == last_in_front_; });
+  std::stable_partition(changed.begin(), changed.end(),
+                        [this](int i) { return i == last_in_front_; });
   return changed;
 }
 
