@@ -392,7 +392,7 @@ bool frmNotePad::Print(QPrinter& printer) {
     QTextBlock block = edit_->document()->begin();
     printed.lines = static_cast<std::size_t>(edit_->document()->blockCount());
     printed.line = [block](std::size_t) mutable {
-      const QString text = block.text();
+      QString text = block.text();
       block = block.next();
       return text;
     };
