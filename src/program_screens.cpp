@@ -23,6 +23,7 @@
 #include "workspace/frm_about.h"
 #include "workspace/frm_open.h"
 #include "workspace/frm_tip.h"
+#include "workspace/note_pads.h"
 
 namespace barvon {
 namespace {
@@ -38,6 +39,7 @@ void Register(const Screen_Row& row, QWidget* main) {
 void Register_Program_Screens(QWidget* main) {
   Register_frmErrorList(main);
   Register_frmOpen(main);
+  Register_frmNotePad(main);
   Register<frmDescription>(Row_Of_Screen("frmDescription"), main);
   Register_frmGridDescrip(main);
   Register<frmVelocity>(Row_Of_Screen("frmVelocity"), main);

@@ -56,8 +56,9 @@ QGroupBox* Output_Options(Main_Controls& controls, QWidget* parent) {
   static constexpr const char* kLines[] = {"Simulation Duration: ", "Long-Term Time Step: "};
   auto* frame = Frame(new QGroupBox(parent), "Frame3D9", "Output Options");
   auto* grid = new QGridLayout(frame);
-  grid->setContentsMargins(12, kLineGap, 12, kLineGap + 2);
-  grid->setHorizontalSpacing(16);
+  // A duration of seven digits is to be read whole.
+  grid->setContentsMargins(8, kLineGap, 6, kLineGap + 2);
+  grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(kLineGap);
   for (int i = 0; i < 2; ++i) grid->addWidget(Text(controls.Label5(i), kLines[i]), i, 0);
   for (int i = 0; i < 3; ++i) {
@@ -101,7 +102,7 @@ QGroupBox* Program_Options(Main_Controls& controls) {
 QGroupBox* With_Pictures(QGroupBox* frame, const std::vector<QWidget*>& lines, int beside,
                          const std::vector<Latching_Button*>& pictures) {
   auto* grid = new QGridLayout(frame);
-  grid->setContentsMargins(10, kLineGap, 8, kLineGap + 2);
+  grid->setContentsMargins(8, kLineGap, 6, kLineGap + 2);
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(kLineGap);
   const int last = static_cast<int>(lines.size());
@@ -177,8 +178,8 @@ void Build_Data_Board(Main_Controls& controls) {
   board->addWidget(Program_Options(controls), 0, 0, 1, 2);
   board->addLayout(left, 1, 0);
   board->addLayout(right, 1, 1);
-  board->setColumnStretch(0, 6);
-  board->setColumnStretch(1, 5);
+  board->setColumnStretch(0, 5);  // a volume of seven digits is to be read whole
+  board->setColumnStretch(1, 4);
   board->setRowStretch(1, 1);
 }
 

@@ -24,6 +24,7 @@
 #include "platform/files/path_lookup.h"
 #include "platform/text/counted.h"
 #include "workspace/quit_rules.h"
+#include "workspace/text_commands.h"
 
 namespace barvon {
 namespace {
@@ -127,7 +128,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
     case kFilePrintSetup:
       return Show_Printer_Setup();
     case kFileExit:
-      if (Ask_On_Exit() && Port().dilution.leave()) End_Program();
+      if (Ask_On_Exit() && May_Leave_Texts(record) && Port().dilution.leave()) End_Program();
       return;
     default:
       return;

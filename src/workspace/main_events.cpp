@@ -19,6 +19,7 @@
 #include "run/run_driver.h"
 #include "run/view_results.h"
 #include "workspace/display_data.h"
+#include "workspace/document_menus.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_help.h"
@@ -193,6 +194,7 @@ Operations Menu_Operations(Main_Controls& c, ProjectRecord& record) {
       {"mnuGraph", [&record](int i) { Graph_Command(record, i); }},
       {"mnuOptionItem", [&c, &record](int i) { Option_Click(c, record, i); }},
       {"mnuToolItem", Tool_Click},
+      {"mnuWItem", [&c](int i) { mnuWItem_Click(c, i); }},
       {"mnuHelpItem", Help_Click},
   };
 }
@@ -207,7 +209,7 @@ void Connect_Menus(Main_Controls& c, ProjectRecord& record) {
   const Operations operations = Menu_Operations(c, record);
   for (const Menu& menu : Menu_Tree()) {
     const auto operation = operations.find(menu.array);
-    if (operation == operations.end()) continue;  // Window has no documents yet
+    if (operation == operations.end()) continue;  // a command in the bar itself
     for (const Menu_Item& item : menu.items) {
       Connect_Action(c, menu.array, item.index, operation->second);
     }

@@ -4,6 +4,8 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
+#include "workspace/menu_items.h"
+#include "workspace/text_documents.h"
 
 namespace barvon {
 namespace {
@@ -100,6 +102,13 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
       Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
     }
   }
+  Show_Print_Item(controls);
+}
+
+void Show_Print_Item(Main_Controls& controls) {
+  // Beside the gate, which it shares with Save, a text that is looked at opens it.
+  const bool project = Action_Of(controls, "mnuFileItem", kFileSave)->isEnabled();
+  Action_Of(controls, "mnuFileItem", kFilePrint)->setEnabled(project || Documents().Active() != 0);
 }
 
 // An entry can be checked only while it has its mark, so that the menu keeps no room for others.

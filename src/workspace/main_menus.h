@@ -19,6 +19,9 @@ QAction* Action_Of(const Main_Controls& controls, const char* name);
 /// The gate: which commands can be chosen.
 void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode);
 
+/// Print can be chosen with a project and with a text in front.
+void Show_Print_Item(Main_Controls& controls);
+
 /// The check mark of an entry of the Edit menu whose data has been supplied. Choosing the entry
 /// leaves its mark alone; a new project clears all of them.
 void Mark_Edit_Item(Main_Controls& controls, int index);

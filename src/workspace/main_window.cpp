@@ -24,15 +24,19 @@
 #include "platform/qt/screen_window.h"
 #include "run/create_process.h"
 #include "workspace/display_data.h"
+#include "workspace/document_menus.h"
 #include "workspace/file_menu.h"
 #include "workspace/main_boards.h"
 #include "workspace/main_events.h"
 #include "workspace/main_menus.h"
 #include "workspace/main_toolbar.h"
+#include "workspace/note_pads.h"
 #include "workspace/open_screens.h"
 #include "workspace/option_logic.h"
 #include "workspace/project_drops.h"
 #include "workspace/quit_rules.h"
+#include "workspace/text_commands.h"
+#include "workspace/text_documents.h"
 
 namespace barvon {
 namespace {
@@ -70,6 +74,7 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
   Build_Boards(controls_);
   Share_Letters(controls_);
   Connect_Main_Events(controls_, Project());
+  Connect_Document_Menus(controls_);
   Take_Project_Drops(*this, Project());
   Fill_Port();
   Set_Program_End([this] {
@@ -82,6 +87,8 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
 }
 
 Main::~Main() {
+  Discard_Texts();
+  Documents().Reset();
   Reset_Port();
   Set_Program_End({});
 }
@@ -156,6 +163,7 @@ void Main::Fill_Port() {
   Port().run.state = [this](bool running, const std::string& program) {
     controls_.status_area->Show_Run(running, program);
   };
+  Fill_Text_Port(Project());
   Port().text.print = [this] {
     controls_.status_area->Show_Note({"There is no text to print.", ""});
   };
@@ -193,8 +201,9 @@ void Main::closeEvent(QCloseEvent* event) {
     // A save that failed or was called off must not take the data with it.
     if (Project().DataSaved == kFalse) action = Close_Action::Stay;
   }
+  const bool ends = action != Close_Action::Stay && May_Leave_Texts(Project());
   asking_to_close_ = false;
-  if (action == Close_Action::Stay) return;
+  if (!ends) return;
   event->accept();
   End_Program();
 }

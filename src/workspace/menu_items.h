@@ -22,6 +22,13 @@ enum Option_Item { kWizardHelp = 0, kSaveBeforeRun = 1 };
 
 enum Help_Item { kHelpContents = 0, kHelpSearch = 1, kHelpAbout = 3 };
 
+enum Window_Item {
+  kWindowCascade,
+  kWindowTileHorizontal,
+  kWindowTileVertical,
+  kWindowArrangeIcons
+};
+
 /// The buttons of the toolbar by their index.
 enum Tool_Button {
   kToolNew = 1,

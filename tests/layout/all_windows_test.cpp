@@ -23,10 +23,10 @@
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/screen_window.h"
-#include "platform/qt/text_window.h"
 #include "program_screens.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
+#include "workspace/note_pads.h"
 
 namespace barvon {
 namespace {
@@ -294,14 +294,23 @@ void Look_At_Help(const Look& look) {
   Show_Help({Help_Command::Quit, 0, ""});
 }
 
-void Look_At_Text(const Look& look) {
+void Look_At_Text(Main_Bench& bench, const Look& look) {
+  look(Opened("frmNotePad"), "untitled");
+  Port().board.show_note({});
+  look(bench.main(), "with the Window menu");
+  Discard_Texts();
   Scratch_Folder folder;
   Write_Text(folder / "site.duo", std::string(80, 'x') + "\r\nline\r\n");
-  Text_Window text(nullptr);
-  text.setAttribute(Qt::WA_DeleteOnClose, false);
-  ASSERT_TRUE(text.Load(folder / "site.duo"));
-  Show(text);
-  look(text, "");
+  Write_Text(folder / "long.duo", std::string(20000, 'x'));
+  ASSERT_TRUE(Open_Text(folder / "site.duo", bench.main()));
+  look(Window_Named("frmNotePad"), "with a file");
+  Discard_Texts();
+  // In a text that is edited Tab is typed.
+  ASSERT_TRUE(Open_Text(folder / "long.duo", bench.main()));
+  QWidget& text = Window_Named("frmNotePad");
+  text.findChild<QAction*>("NotePadFind")->trigger();
+  look(text, "read only, with the find bar");
+  Discard_Texts();
 }
 
 void Look_At_Site(const Look& look) {
@@ -397,7 +406,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Dilution(settled);
   Look_At_Graphical_Page(settled);
   Look_At_Help(settled);
-  Look_At_Text(settled);
+  Look_At_Text(bench, settled);
   Look_At_Site(settled);
   Look_At_Database(bench, settled);
   Look_At_Progress(settled);
@@ -466,8 +475,7 @@ TEST(AllWindows, Every_Screen_That_The_Program_Registers_Is_Walked) {
     ++registered;
   }
   EXPECT_GE(registered, 6);
-  for (const char* window :
-       {"Main", "Help", "Text_Window", "StatusDetailsDialog", "frmProgress_Bar"}) {
+  for (const char* window : {"Main", "Help", "StatusDetailsDialog", "frmProgress_Bar"}) {
     EXPECT_EQ(walked.count(window), 1U) << window;
   }
 }

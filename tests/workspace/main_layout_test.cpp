@@ -26,13 +26,14 @@ TEST(MainLayout, Nothing_Is_Cut_Off_On_The_Data_Board_With_Long_Values) {
     Project().KEY4 = key4;
     Project().DisposalMethod = key4 % 2 == 1 ? 1 : 3;
     Project().JBFCFlag = 1;
-    Project().TotalVolume = 123456;
+    Project().TotalVolume = 1234567.5;
     Project().XBARGE = 98765.5;
     Project().ConstantDepthFlag = key4 < 4 ? 0 : 1;
     Project().DEPC0 = 123.45;
     Project().DX0 = Project().DZ0 = 1234;
     Project().RHDA0 = 0.0051;
-    Project().SimulationDuration = 123456.5;
+    Project().SimulationDuration = 1234567.5;
+    Project().LongTermTimeStep = 1234567.5;
     Port().board.display_data();
     for (int evaluation = 0; evaluation < (key4 < 3 ? 2 : 3); ++evaluation) {
       bench.controls().SSOption4(evaluation)->click();

@@ -20,6 +20,10 @@ std::string Name_Of_Kind(const std::string& name, int kind) {
   return With_Extension(name, kind == kDilutionKind ? kDilutionLetters : kProjectLetters);
 }
 
+std::vector<File_Filter> Text_Filters() {
+  return {{"Text Files (*.txt)", "*.txt"}, {"All Files (*)", "*"}};
+}
+
 }  // namespace
 
 std::optional<std::string> Ask_File_To_Open(double kind, const std::string& name) {
@@ -51,6 +55,25 @@ std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind)
   const auto chosen = Ask_Save_File(request);
   if (!chosen || chosen->empty()) return std::nullopt;
   return With_Default_Extension(*chosen, kind);
+}
+
+std::optional<std::string> Ask_Text_To_Open(const std::string& name) {
+  File_Request request;
+  request.title = "Open Text File";
+  request.filters = Text_Filters();
+  // What a person looks at first is an output of the solver.
+  request.filters.insert(request.filters.begin(), {"BARVON Output FIles (*.DUO)", "*.DUO"});
+  request.name = name;
+  return Ask_Open_File(request);
+}
+
+std::optional<std::string> Ask_Text_To_Save(const std::string& name) {
+  File_Request request;
+  request.title = "Save As";
+  request.filters = Text_Filters();
+  request.name = name;
+  const auto chosen = Ask_Save_File(request);
+  return chosen && !chosen->empty() ? chosen : std::nullopt;
 }
 
 std::string With_Default_Extension(const std::string& name, int kind) {

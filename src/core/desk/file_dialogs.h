@@ -17,6 +17,10 @@ std::optional<std::string> Ask_File_To_Open(double kind, const std::string& name
 /// added. Nothing on Cancel.
 std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind);
 
+/// The dialogs of a text: text and all files, nothing is added to a name. Nothing on Cancel.
+std::optional<std::string> Ask_Text_To_Open(const std::string& name = "");
+std::optional<std::string> Ask_Text_To_Save(const std::string& name);
+
 /// The extension rule of the save dialog by itself. Only the file's own name counts, not the
 /// folder that it is in.
 std::string With_Default_Extension(const std::string& name, int kind);

@@ -65,6 +65,10 @@ bool Can_Be_Loaded(const std::string& path) {
 
 }  // namespace
 
+void Tell_Not_Opened(const std::string& path) {
+  Show_Message({"Can't Open File: " + path + "   Or File Not Found"});
+}
+
 bool Open_File(const std::string& path, ProjectRecord& record) {
   record.OldGridFile = 0;
   if (path.empty()) return false;
@@ -73,7 +77,7 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
   if (found && !Can_Be_Loaded(path)) return false;
   std::string bytes;
   if (!found || Read_Whole_File(*found, bytes) != 0) {
-    Show_Message({"Can't Open File: " + path + "   Or File Not Found"});
+    Tell_Not_Opened(path);
     return false;
   }
   const Load_Result result = Load(path, bytes, record);

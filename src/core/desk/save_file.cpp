@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <system_error>
 
 #include "core/desk/analysis_keys.h"
@@ -17,13 +18,11 @@
 #include "core/model_input/model_input.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
-#include "core/text_tools.h"
 #include "platform/ask/busy_cursor.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
-#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {
@@ -112,21 +111,20 @@ bool Write_Export(const std::string& path, ProjectRecord& record) {
   return false;
 }
 
-/// The text as one printed item: lines end in CR LF, the last one too.
-bool Write_Text(const std::string& path) {
-  const std::string text = Port().text.active();
-  if (!Fits_File_Encoding(text)) {
-    Show_Message({kUnable});
+bool Is_Open_Project(const std::string& path, const ProjectRecord& record) {
+  return !record.ProjectFileName.empty() &&
+         (path == record.ProjectFileName || Lead_To_One_File(path, record.ProjectFileName));
+}
+
+bool Write_Text(const std::string& path, const ProjectRecord& record) {
+  if (Is_Open_Project(path, record)) {
+    Show_Warning("The open project is in this file. Save the text under another name.");
     return false;
   }
-  const bool written = Write_File(path, kTextKind, [&] {
-    std::string lines;
-    for (const char c : Remove_Character(text, "\r"))
-      lines += c == '\n' ? "\r\n" : std::string(1, c);
-    return To_File_Bytes(lines) + "\r\n";
-  });
-  if (written) Port().text.set_caption(path);
-  return written;
+  const std::optional<std::string> bytes = Port().text.active();
+  if (!bytes || !Write_File(path, kTextKind, [&] { return *bytes; })) return false;
+  Port().text.set_caption(path);
+  return true;
 }
 
 bool Write_By_Kind(const std::string& path, int kind, ProjectRecord& record) {
@@ -138,7 +136,7 @@ bool Write_By_Kind(const std::string& path, int kind, ProjectRecord& record) {
     case kExportKind:
       return Write_Export(path, record);
     case kTextKind:
-      return Write_Text(path);
+      return Write_Text(path, record);
     default:
       Show_Message({"Unrecognized File Type!"});
       return false;
@@ -159,7 +157,9 @@ bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
       record.SavedUnderScreens = Any_Input_Screen_Is_Open() ? kTrue : kFalse;
     }
   }
-  if (kind != kTextKind) Port().board.set_caption("BARVON - " + path);
+  // A text opens no project: it has nothing to do among the files that do.
+  if (kind == kTextKind) return true;
+  Port().board.set_caption("BARVON - " + path);
   Update_Recent_Files(path);
   return true;
 }

@@ -79,7 +79,7 @@ consteval auto Make() {
       {"Graphic_Data_Entry"},
       {"frmErrorList",    kErrorList},
       {"frmOpen"},
-      {"frmNotePad"},
+      {"frmNotePad",      kTextViewer},
       {"Open_Text_File", kContents, Command},
       {"Project_Report", kContents, Command},
       {"frmTip"},

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace barvon {
@@ -65,11 +66,16 @@ struct Board_Port {
 /// The text viewer and its documents.
 struct Text_Port {
   std::function<void()> clear_checks = [] {};
-  /// Whether the document has unsaved text, and its caption.
+  /// Whether a document has unsaved text, and its caption.
   std::function<bool()> has_changed = [] { return false; };
   std::function<std::string()> caption = [] { return std::string(); };
-  /// The text of the active viewer window, and what its caption becomes after a save.
-  std::function<std::string()> active = [] { return std::string(); };
+  /// Brings that document to the front.
+  std::function<void()> show_changed = [] {};
+  /// Saves that text as a text, under a name of its own. False when it is as unsaved as before.
+  std::function<bool()> save = [] { return false; };
+  /// The bytes of a file for the text of the active viewer window, nothing when a person called
+  /// the save off; and what its caption becomes after a save.
+  std::function<std::optional<std::string>()> active = [] { return std::string(); };
   std::function<void(const std::string&)> set_caption = [](const std::string&) {};
   /// Prints the text of the window in front.
   std::function<void()> print = [] {};

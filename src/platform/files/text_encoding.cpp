@@ -1,5 +1,6 @@
 #include "platform/files/text_encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -60,18 +61,20 @@ std::optional<char> File_Byte(std::uint32_t character) {
   return std::nullopt;
 }
 
-/// True when the bytes are UTF-8 and hold a character beyond ASCII.
-bool Reads_As_UTF8(std::string_view bytes) {
-  bool beyond = false;
-  for (std::size_t at = 0; at < bytes.size();) {
-    const std::uint32_t character = Next_Character(bytes, at);
-    if (character == kNoCharacter) return false;
-    beyond = beyond || character >= 0x80;
-  }
-  return beyond;
+}  // namespace
+
+bool Is_ASCII(std::string_view bytes) {
+  return std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-}  // namespace
+bool Is_UTF8(std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size();) {
+    if (Next_Character(bytes, at) == kNoCharacter) return false;
+  }
+  return true;
+}
+
+bool Reads_As_UTF8(std::string_view bytes) { return !Is_ASCII(bytes) && Is_UTF8(bytes); }
 
 std::string To_File_Bytes(std::string_view text) {
   std::string bytes;

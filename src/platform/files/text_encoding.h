@@ -9,6 +9,11 @@ namespace barvon {
 /// that this encoding leaves open (81, 8D, 8F, 90, 9D) stand for the control characters of the
 /// same number, so that every byte survives the way through memory.
 
+bool Is_ASCII(std::string_view bytes);
+bool Is_UTF8(std::string_view bytes);
+/// True when the bytes are UTF-8 and hold a character beyond ASCII.
+bool Reads_As_UTF8(std::string_view bytes);
+
 /// UTF-8 to Windows-1252. A character that the encoding does not hold, and a byte that is no
 /// UTF-8, becomes '?'.
 std::string To_File_Bytes(std::string_view text);

@@ -4,10 +4,9 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <string>
+#include <utility>
 
 #include "platform/process/viewer_program.h"
-#include "platform/qt/ask/qt_message_box.h"
-#include "platform/qt/text_window.h"
 
 namespace barvon {
 namespace {
@@ -23,14 +22,13 @@ bool Has_Program_For(const QString& query, const QString& kind) {
          !process.readAllStandardOutput().trimmed().isEmpty();
 }
 
+Own_Text_Window& Own_Window() {
+  static Own_Text_Window window;
+  return window;
+}
+
 bool Open_In_Own_Window(const QString& path) {
-  auto* window = new Text_Window(Window_In_Front());
-  if (!window->Load(path.toStdString())) {
-    delete window;
-    return false;
-  }
-  window->show();
-  return true;
+  return Own_Window() && Own_Window()(path.toStdString());
 }
 
 /// The desktop starts its own program: it outlives this one and is not waited for. An association
@@ -52,6 +50,10 @@ bool Open_By_Desktop(const QString& path) {
 bool Open_Qt_Document(const std::string& path) {
   const QString name = QString::fromStdString(path);
   return Open_By_Desktop(name) || Open_In_Own_Window(name);
+}
+
+Own_Text_Window Set_Own_Text_Window(Own_Text_Window window) {
+  return std::exchange(Own_Window(), std::move(window));
 }
 
 }  // namespace barvon

@@ -264,26 +264,42 @@ TEST_F(SaveFile, An_Export_That_Can_Not_Be_Computed_Is_Told) {
   Expect_Nothing_Claimed();
 }
 
-TEST_F(SaveFile, A_Text_Of_The_Viewer_Leaves_Caption_And_DataSaved_And_Renames_The_Outputs) {
+TEST_F(SaveFile, A_Text_Of_The_Viewer_Is_Written_As_It_Is_And_Is_No_Recent_File) {
   Scripted_Messages messages;
-  Port().text.active = [] { return std::string("caf\xC3\xA9\nline 2\r\nend"); };
+  const std::string bytes = "caf\xE9\nline 2\r\nend";
+  Port().text.active = [&bytes] { return bytes; };
   std::string text_caption;
   Port().text.set_caption = [&](const std::string& caption) { text_caption = caption; };
   EXPECT_TRUE(Save_File(folder_ / "notes.txt", 4, record_));
-  EXPECT_EQ(Read_Text(folder_ / "notes.txt"), "caf\xE9\r\nline 2\r\nend\r\n");
+  EXPECT_EQ(Read_Text(folder_ / "notes.txt"), bytes);
   EXPECT_EQ(text_caption, folder_ / "notes.txt");
   EXPECT_EQ(record_.DataSaved, kFalse);
   EXPECT_EQ(caption_, "");
   EXPECT_EQ(record_.BaseFileName, folder_ / "notes");
-  EXPECT_EQ(Listed().at(0), folder_ / "notes.txt");
+  EXPECT_EQ(Listed().at(0), "");
 }
 
-TEST_F(SaveFile, A_Text_That_The_File_Can_Not_Hold_Is_Not_Written_With_Question_Marks) {
-  Scripted_Messages messages({Answer::Ok});
-  Port().text.active = [] { return std::string("\xCE\xB1"); };
+TEST_F(SaveFile, A_Text_Whose_Save_Is_Called_Off_Is_Not_Written) {
+  Scripted_Messages messages;
+  Port().text.active = [] { return std::nullopt; };
   EXPECT_FALSE(Save_File(folder_ / "notes.txt", 4, record_));
-  Expect_Box(messages, "Unable to Save File!");
   EXPECT_TRUE(Names_In(folder_.path()).empty());
+}
+
+TEST_F(SaveFile, A_Text_Never_Takes_The_Place_Of_The_Open_Project) {
+  Scripted_Messages messages({Answer::Ok, Answer::Ok, Answer::Ok});
+  Port().text.active = [] { return std::string("text"); };
+  record_.ProjectFileName = folder_ / "site.DUI";
+  EXPECT_FALSE(Save_File(folder_ / "site.DUI", 4, record_)) << "before it is written at all";
+  Write_Text(folder_ / "site.DUI", "project");
+  std::filesystem::create_symlink(folder_ / "site.DUI", folder_ / "link.txt");
+  EXPECT_FALSE(Save_File(folder_ / "SITE.dui", 4, record_)) << "case does not make another file";
+  EXPECT_FALSE(Save_File(folder_ / "link.txt", 4, record_)) << "nor does a link";
+  EXPECT_EQ(Read_Text(folder_ / "site.DUI"), "project");
+  EXPECT_EQ(messages.shown.at(2).text,
+            "The open project is in this file. Save the text under another name.");
+  EXPECT_EQ(messages.shown.at(2).icon, Icon::Warning);
+  Expect_Nothing_Claimed();
 }
 
 }  // namespace

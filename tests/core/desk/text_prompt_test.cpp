@@ -1,5 +1,6 @@
 #include "core/desk/text_prompt.h"
 
+#include "core/desk/workspace_port.h"
 #include "support/recorded_workspace.h"
 
 namespace barvon {
@@ -42,29 +43,30 @@ TEST_F(TextPrompt, Cancel_Stops_The_Caller) {
   EXPECT_TRUE(Text_Changed_Prompt(record_));
 }
 
-TEST_F(TextPrompt, Yes_Saves_The_Project_Under_Its_Name) {
+TEST_F(TextPrompt, The_Text_That_The_Question_Is_About_Comes_To_The_Front_First) {
+  Scripted_Messages messages({Answer::No});
+  std::size_t asked_before = 1;
+  Port().text.show_changed = [&] { asked_before = messages.shown.size(); };
+  EXPECT_FALSE(Text_Changed_Prompt(record_));
+  EXPECT_EQ(asked_before, 0U);
+}
+
+TEST_F(TextPrompt, Yes_Saves_The_Text_And_Leaves_The_Project_Alone) {
   Scripted_Messages messages({Answer::Yes});
+  int saved = 0;
+  Port().text.save = [&saved] { return ++saved > 0; };
   record_.ProjectFileName = folder_ / "site.DUI";
   EXPECT_FALSE(Text_Changed_Prompt(record_));
-  EXPECT_TRUE(Exists(folder_ / "site.DUI"));
-  EXPECT_EQ(record_.DataSaved, kTrue);
+  EXPECT_EQ(saved, 1);
+  EXPECT_FALSE(Exists(folder_ / "site.DUI"));
+  EXPECT_EQ(record_.DataSaved, kFalse);
   EXPECT_TRUE(save_asked_.empty());
 }
 
-TEST_F(TextPrompt, Yes_Without_A_Name_Asks_For_One) {
+TEST_F(TextPrompt, Yes_And_A_Text_That_Is_Not_Saved_Stop_The_Caller) {
   Scripted_Messages messages({Answer::Yes});
-  chosen_ = folder_ / "new";
-  EXPECT_FALSE(Text_Changed_Prompt(record_));
-  EXPECT_TRUE(Exists(folder_ / "new.DUI"));
-  EXPECT_EQ(record_.ProjectFileName, folder_ / "new.DUI");
-}
-
-TEST_F(TextPrompt, Yes_And_A_Cancelled_Dialog_Or_A_Failed_Save_Stop_The_Caller) {
-  Scripted_Messages messages({Answer::Yes, Answer::Yes, Answer::Ok});
+  Port().text.save = [] { return false; };
   EXPECT_TRUE(Text_Changed_Prompt(record_));
-  record_.ProjectFileName = "/none/site.DUI";
-  EXPECT_TRUE(Text_Changed_Prompt(record_));
-  EXPECT_EQ(messages.shown.at(2).text, "Can't open file: /none/site.DUI");
 }
 
 }  // namespace

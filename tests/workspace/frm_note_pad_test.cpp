@@ -1,0 +1,522 @@
+#include "workspace/frm_note_pad.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <filesystem>
+
+#include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/message_box.h"
+#include "platform/process/document_opener.h"
+#include "platform/qt/qt_document_opener.h"
+#include "support/screen_support.h"
+#include "workspace/note_pads.h"
+#include "workspace/text_documents.h"
+
+namespace barvon {
+namespace {
+
+using namespace barvon::testing;
+
+class NotePad : public ::testing::Test {
+ protected:
+  NotePad() {
+    Register_frmNotePad(&bench.main());
+    bench.main().show();
+    const auto choose = [this](const File_Request& request) {
+      asked.push_back(request);
+      return chosen;
+    };
+    former_ = Set_File_Dialog_Presenter({choose, choose, [] {}});
+  }
+  ~NotePad() override {
+    Set_File_Dialog_Presenter(former_);
+    for (const char* name : {"frmNotePad", "Open_Text_File"})
+      Register_Screen(*Find_Screen(name), {});
+    Set_Own_Text_Window({});
+  }
+
+  frmNotePad& Untitled() {
+    bench.Action("mnuToolItem(4)")->trigger();
+    return *Open_Texts().back();
+  }
+  frmNotePad& Opened(const std::string& bytes, const char* name = "site.duo") {
+    Write_Text(bench.folder / name, bytes);
+    chosen = bench.folder / name;
+    bench.Action("mnuToolItem(6)")->trigger();
+    return *Open_Texts().back();
+  }
+  static void Do(const frmNotePad& text, const char* action) {
+    text.findChild<QAction*>(QString("NotePad") + action)->trigger();
+  }
+  static QPlainTextEdit* Text1(const frmNotePad& text) {
+    return text.findChild<QPlainTextEdit*>("Text1");
+  }
+  static Large_Text_View* View(const frmNotePad& text) {
+    return dynamic_cast<Large_Text_View*>(text.findChild<QAbstractScrollArea*>("Text1"));
+  }
+  static std::string Place(const frmNotePad& text) {
+    return text.findChild<QLabel*>("Place")->text().toStdString();
+  }
+  std::string Saved(const char* name = "site.duo") { return Read_Text(bench.folder / name); }
+
+  Main_Bench bench;
+  std::optional<std::string> chosen;
+  std::vector<File_Request> asked;
+
+ private:
+  File_Dialog_Presenter former_;
+};
+
+TEST_F(NotePad, Text_Viewer_Makes_An_Untitled_Text_That_Blocks_Nobody) {
+  frmNotePad& text = Untitled();
+  EXPECT_EQ(text.windowTitle(), "Untitled");
+  EXPECT_EQ(text.objectName(), "frmNotePad");
+  EXPECT_TRUE(text.isVisible());
+  EXPECT_FALSE(text.isModal());
+  EXPECT_EQ(text.property("tag").toInt(), 1);
+  EXPECT_EQ(Text1(text)->toPlainText(), "");
+  EXPECT_TRUE(QFontInfo(Text1(text)->font()).fixedPitch());
+  EXPECT_EQ(Untitled().property("tag").toInt(), 2) << "any number of them";
+  EXPECT_EQ(Documents().FState(1).Dirty, kFalse);
+}
+
+TEST_F(NotePad, Open_Text_File_Offers_Outputs_Texts_And_All_Files) {
+  frmNotePad& text = Opened("first\r\nlast\r\n");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].title, "Open Text File");
+  ASSERT_EQ(asked[0].filters.size(), 3U);
+  EXPECT_EQ(asked[0].filters[0].pattern, "*.DUO");
+  EXPECT_EQ(asked[0].filters[1].pattern, "*.txt");
+  EXPECT_EQ(asked[0].filters[2].pattern, "*");
+  EXPECT_EQ(text.windowTitle().toStdString(), bench.folder / "site.duo");
+  EXPECT_EQ(Text1(text)->toPlainText(), "first\nlast\n");
+  EXPECT_EQ(Documents().FState(1).Dirty, kFalse) << "loading is no change";
+  EXPECT_EQ(bench.main().windowTitle(), "BARVON - UNTITLED.DUI");
+  EXPECT_FALSE(Exists(bench.folder / "BARVON.INI")) << "no entry among the recent files";
+}
+
+TEST_F(NotePad, Open_Text_File_Called_Off_Opens_Nothing_And_A_Missing_File_Is_Told) {
+  bench.Action("mnuToolItem(6)")->trigger();
+  EXPECT_TRUE(Open_Texts().empty());
+  chosen = bench.folder / "none.txt";
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  bench.Action("mnuToolItem(6)")->trigger();
+  EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+            "Can't Open File: " + *chosen + "   Or File Not Found");
+  EXPECT_TRUE(Open_Texts().empty());
+  EXPECT_FALSE(Documents().Any_Open());
+}
+
+TEST_F(NotePad, A_Folder_Is_No_Text) { EXPECT_FALSE(Open_Text(bench.folder.path(), bench.main())); }
+
+TEST_F(NotePad, A_Saved_Text_Keeps_Every_Byte_That_Was_Not_Typed_Over) {
+  using namespace std::string_literals;
+  const std::pair<std::string, std::string> cases[] = {
+      {"a\nb\n", "Xa\nb\n"},
+      {"a\r\nb\r\n", "Xa\r\nb\r\n"},
+      {"a\r\nb\nc\rd", "Xa\r\nb\nc\rd"},
+      {"no end", "Xno end"},
+      {"", "X"},
+      {"caf\xC3\xA9\n", "Xcaf\xC3\xA9\n"},
+      {"\xEF\xBB\xBFmark\r\n", "\xEF\xBB\xBFXmark\r\n"},
+      {"caf\xE9 \x80\r\n", "Xcaf\xE9 \x80\r\n"},
+      {"a\0b\0\r\n\f\x1A"s, "Xa\0b\0\r\n\f\x1A"s},
+      {"non\xA0"
+       "breaking, \xAD soft\n",
+       "Xnon\xA0"
+       "breaking, \xAD soft\n"},
+      {"\x81\x8D\x8F\x90\x9D\n", "X\x81\x8D\x8F\x90\x9D\n"},
+      {"line\xE2\x80\xA8separator\n", "Xline\xE2\x80\xA8separator\n"},
+  };
+  for (const auto& [before, after] : cases) {
+    frmNotePad& text = Opened(before);
+    ASSERT_NE(Text1(text), nullptr);
+    QTest::keyClicks(Text1(text), "X");
+    EXPECT_EQ(Documents().FState(text.index()).Dirty, kTrue);
+    Do(text, "Save");
+    EXPECT_EQ(Saved(), after);
+    EXPECT_EQ(Documents().FState(text.index()).Dirty, kFalse);
+    ASSERT_TRUE(text.close());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(NotePad, An_Unchanged_Text_Is_Saved_As_It_Was_Read) {
+  std::string all = "mixed\r\nends\n\r";
+  for (int i = 1; i < 256; ++i) all += static_cast<char>(i);
+  frmNotePad& text = Opened(all);
+  chosen = bench.folder / "copy.txt";
+  Do(text, "SaveAs");
+  EXPECT_EQ(Saved("copy.txt"), all);
+  EXPECT_EQ(text.windowTitle().toStdString(), *chosen);
+}
+
+TEST_F(NotePad, New_Lines_Get_The_Line_End_Of_The_Others) {
+  frmNotePad& text = Opened("a\nb\n");
+  QTest::keyClick(Text1(text), Qt::Key_Return);
+  QTest::keyClick(Text1(text), Qt::Key_Return, Qt::ShiftModifier);
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "\n\na\nb\n");
+  frmNotePad& fresh = Untitled();
+  QTest::keyClicks(Text1(fresh), "one");
+  QTest::keyClick(Text1(fresh), Qt::Key_Return);
+  chosen = bench.folder / "new.txt";
+  Do(fresh, "Save");
+  EXPECT_EQ(Saved("new.txt"), "one\r\n");
+}
+
+TEST_F(NotePad, A_Letter_That_The_Encoding_Lacks_Is_Asked_About) {
+  frmNotePad& text = Opened("caf\xE9\r\n");
+  Type(Text1(text), QString(QChar(0x3B1)));
+  Modal_Replies replies({Press(QMessageBox::No), Press(QMessageBox::Yes)});
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "caf\xE9\r\n");
+  EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+  Do(text, "Save");
+  EXPECT_EQ(Saved(),
+            "\xCE\xB1"
+            "caf\xC3\xA9\r\n");
+  EXPECT_EQ(text.findChild<QLabel*>("Kind")->text(), "UTF-8, CR LF");
+}
+
+TEST_F(NotePad, A_Text_That_Has_Lost_Its_Last_Accent_Is_Still_In_Its_Encoding) {
+  frmNotePad& text = Opened("\xC3\xA9\n");
+  QTest::keyClick(Text1(text), Qt::Key_Delete);
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "\n");
+  Type(Text1(text), QString(QChar(0xE9)));
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "\xC3\xA9\n");
+}
+
+TEST_F(NotePad, Undone_Typing_Is_No_Change) {
+  frmNotePad& text = Opened("a\n");
+  QTest::keyClicks(Text1(text), "X");
+  EXPECT_EQ(text.findChild<QLabel*>("State")->text(), "Changed");
+  Do(text, "Undo");
+  EXPECT_EQ(Documents().FState(1).Dirty, kFalse);
+  EXPECT_TRUE(text.close());
+}
+
+TEST_F(NotePad, Closing_Unchanged_Text_Asks_Nothing_And_Sets_Deleted) {
+  frmNotePad& text = Untitled();
+  Do(text, "Close");
+  EXPECT_EQ(Documents().FState(1).Deleted, kTrue);
+  EXPECT_EQ(Documents().Document(1), nullptr);
+  EXPECT_EQ(Untitled().index(), 2);
+}
+
+TEST_F(NotePad, Closing_Changed_Text_Goes_By_The_Answer) {
+  frmNotePad& text = Opened("a\n");
+  QTest::keyClicks(Text1(text), "X");
+  Modal_Replies replies(
+      {Press(QMessageBox::Cancel), Press(QMessageBox::Yes), Press(QMessageBox::No)});
+  EXPECT_FALSE(text.close());
+  chosen = std::nullopt;
+  EXPECT_FALSE(text.close()) << "a cancelled Save As keeps the window open";
+  EXPECT_TRUE(text.isVisible());
+  EXPECT_EQ(asked.back().title, "Save As");
+  EXPECT_TRUE(text.close());
+  EXPECT_EQ(Saved(), "a\n");
+  EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+            "The text in [" + (bench.folder / "site.duo") +
+                "] has changed.\nDo you want to save the changes?");
+  EXPECT_EQ(replies.seen[0].title, "BARVON");
+}
+
+TEST_F(NotePad, Close_All_Stops_At_The_First_That_Stays) {
+  Untitled();
+  frmNotePad& changed = Untitled();
+  frmNotePad& last = Untitled();
+  QTest::keyClicks(Text1(changed), "X");
+  Modal_Replies replies({Press(QMessageBox::Cancel), Press(QMessageBox::No)});
+  Do(last, "CloseAll");
+  EXPECT_EQ(Documents().Open_Ones(), (std::vector{2, 3}));
+  Do(last, "CloseAll");
+  EXPECT_FALSE(Documents().Any_Open());
+}
+
+TEST_F(NotePad, Quitting_And_Exit_Ask_For_Each_Changed_Text_And_Cancel_Stops) {
+  for (frmNotePad* text : {&Untitled(), &Untitled()}) QTest::keyClicks(Text1(*text), "X");
+  Untitled();
+  {
+    Modal_Replies replies(
+        {Press(QMessageBox::Yes), Press(QMessageBox::No), Press(QMessageBox::Cancel)});
+    bench.main().close();
+    EXPECT_EQ(replies.seen.at(0).text, "Do You Wish to Quit?");
+    EXPECT_EQ(replies.windows, 3);
+  }
+  EXPECT_EQ(bench.ended, 0);
+  EXPECT_TRUE(bench.main().isVisible());
+  EXPECT_EQ(Documents().Changed_Ones().size(), 2U);
+  {
+    Modal_Replies replies({Press(QMessageBox::Yes), Press(QMessageBox::Cancel)});
+    bench.Action("mnuFileItem(10)")->trigger();
+  }
+  EXPECT_EQ(bench.ended, 0);
+  Modal_Replies replies({Press(QMessageBox::Yes), Press(QMessageBox::No), Press(QMessageBox::No)});
+  bench.Action("mnuFileItem(10)")->trigger();
+  EXPECT_EQ(bench.ended, 1);
+}
+
+TEST_F(NotePad, A_New_Project_Asks_About_Changed_Text_And_Leaves_It_Open) {
+  frmNotePad& text = Untitled();
+  QTest::keyClicks(Text1(text), "kept");
+  Modal_Replies replies({Press(QMessageBox::Yes)});
+  chosen = bench.folder / "notes.txt";
+  bench.Action("mnuFileItem(0)")->trigger();
+  EXPECT_EQ(replies.seen.at(0).text,
+            "The text in Untitled has changed.\n\nDo you want to save the changes?");
+  EXPECT_EQ(Saved("notes.txt"), "kept");
+  EXPECT_EQ(Text1(text)->toPlainText(), "kept");
+}
+
+TEST_F(NotePad, A_File_That_Is_Open_Comes_To_The_Front_And_Is_Read_Again) {
+  frmNotePad& text = Opened("one\ntwo\nthree\n");
+  Text1(text)->moveCursor(QTextCursor::Down);
+  frmNotePad& again = Opened("one\nnew\nthree\n");
+  EXPECT_EQ(&again, &text);
+  EXPECT_EQ(Text1(text)->toPlainText(), "one\nnew\nthree\n");
+  EXPECT_EQ(Place(text), "Line 2, Column 1") << "the caret stays";
+  EXPECT_EQ(Documents().FState(1).Dirty, kFalse);
+}
+
+TEST_F(NotePad, Reading_Again_Over_Typed_Text_Asks) {
+  frmNotePad& text = Opened("one\n");
+  QTest::keyClicks(Text1(text), "X");
+  Modal_Replies replies({Press_Escape(), Press(QMessageBox::Yes)});
+  Opened("two\n");
+  EXPECT_EQ(Text1(text)->toPlainText(), "Xone\n");
+  EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::No);
+  Do(text, "ReadAgain");
+  EXPECT_EQ(Text1(text)->toPlainText(), "two\n");
+  EXPECT_EQ(Documents().FState(1).Dirty, kFalse);
+}
+
+TEST_F(NotePad, A_File_That_Is_Gone_Leaves_Its_Text) {
+  frmNotePad& text = Opened("one\n");
+  std::filesystem::remove(bench.folder / "site.duo");
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  Do(text, "ReadAgain");
+  EXPECT_EQ(Text1(text)->toPlainText(), "one\n");
+}
+
+TEST_F(NotePad, View_Output_Shows_The_Output_Once_However_Often_It_Is_Asked_For) {
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", "");
+  Write_Text(bench.folder / "bay.duo", "output\r\n");
+  Project().ProjectFileName = bench.folder / "bay.DUI";
+  bench.Action("mnuViewItem(1)")->trigger();
+  Write_Text(bench.folder / "bay.duo", "newer output\r\n");
+  bench.Action("mnuViewItem(1)")->trigger();
+  qputenv("PATH", path);
+  ASSERT_EQ(Open_Texts().size(), 1U);
+  EXPECT_EQ(Text1(*Open_Texts()[0])->toPlainText(), "newer output\n");
+}
+
+TEST_F(NotePad, Window_And_Font_Menus_And_Print_Are_There_While_A_Text_Is_Open) {
+  const auto shown = [this](const char* name) { return bench.Action(name)->isVisible(); };
+  EXPECT_FALSE(shown("mnuWindow"));
+  EXPECT_FALSE(bench.Action("mnuFileItem(7)")->isEnabled());
+  EXPECT_FALSE(bench.Action("mnuEditItem(8)")->isEnabled());
+  frmNotePad& one = Untitled();
+  frmNotePad& two = Untitled();
+  one.close();
+  EXPECT_TRUE(shown("mnuWindow"));
+  EXPECT_TRUE(shown("mnuEditItem(11)"));
+  EXPECT_TRUE(bench.Action("mnuEditItem(11)")->isEnabled());
+  EXPECT_FALSE(bench.Action("mnuEditItem(8)")->isEnabled()) << "Error Check has a gate of its own";
+  EXPECT_EQ(bench.Action("mnuFontName(0)")->text().toStdString(),
+            QFontDatabase::families().first().replace("&", "&&").toStdString());
+  EXPECT_EQ(bench.Action("mnuEditItem(11)")->menu()->actions().size(),
+            QFontDatabase::families().size());
+  two.close();
+  EXPECT_FALSE(shown("mnuWindow"));
+  EXPECT_FALSE(shown("mnuEditItem(11)"));
+  EXPECT_EQ(bench.Action("mnuEditItem(11)")->menu()->actions().size(), 1);
+  EXPECT_FALSE(bench.Action("mnuFileItem(7)")->isEnabled());
+}
+
+TEST_F(NotePad, Closing_A_Text_Leaves_Error_Check_As_It_Is) {
+  bench.controls().SSOption1(0)->click();
+  EXPECT_TRUE(bench.Action("mnuEditItem(8)")->isEnabled());
+  Untitled().close();
+  EXPECT_TRUE(bench.Action("mnuEditItem(8)")->isEnabled());
+  EXPECT_TRUE(bench.Action("mnuFileItem(7)")->isEnabled());
+}
+
+TEST_F(NotePad, Print_Is_For_The_Text_In_Front_Until_A_Person_Turns_To_The_Boards) {
+  frmNotePad& text = Opened("caf\xE9\n");
+  EXPECT_TRUE(bench.Action("mnuFileItem(7)")->isEnabled()) << "without a project too";
+  ASSERT_TRUE(Active_Text());
+  EXPECT_EQ(Active_Text()->text, "caf\xC3\xA9\n");
+  EXPECT_EQ(Active_Text()->caption, bench.folder / "site.duo");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(bench.folder / "text.pdf"));
+  EXPECT_TRUE(Print_Active_Text(printer));
+  EXPECT_EQ(Saved("text.pdf").substr(0, 5), "%PDF-");
+  QTest::mouseClick(bench.controls().Title_Box, Qt::LeftButton);
+  EXPECT_FALSE(Active_Text());
+  EXPECT_FALSE(Print_Active_Text(printer));
+  EXPECT_FALSE(bench.Action("mnuFileItem(7)")->isEnabled());
+  int printed = 0;
+  Port().text.print = [&printed] { printed += Active_Text() ? 1 : 100; };
+  Do(text, "Print");
+  EXPECT_EQ(printed, 1);
+}
+
+TEST_F(NotePad, A_Font_Is_Set_In_The_Text_In_Front_Alone) {
+  frmNotePad& one = Untitled();
+  frmNotePad& two = Untitled();
+  const QFont before = Text1(one)->font();
+  const QString name = QFontDatabase::families().last();
+  const auto last = static_cast<int>(QFontDatabase::families().size()) - 1;
+  bench.Action(qPrintable(QString("mnuFontName(%1)").arg(last)))->trigger();
+  EXPECT_EQ(Text1(two)->font().family(), name);
+  EXPECT_EQ(Text1(one)->font(), before);
+  EXPECT_EQ(Documents().FState(2).Dirty, kFalse);
+}
+
+TEST_F(NotePad, The_Window_Menu_Puts_Texts_Into_Their_Places) {
+  frmNotePad& one = Untitled();
+  frmNotePad& two = Untitled();
+  frmNotePad& icon = Untitled();
+  icon.showMinimized();
+  bench.Action("mnuWItem(2)")->trigger();
+  EXPECT_EQ(one.y(), two.y());
+  EXPECT_GE(two.x(), one.x() + one.width());
+  bench.Action("mnuWItem(1)")->trigger();
+  EXPECT_EQ(one.x(), two.x());
+  EXPECT_GE(two.y(), one.y() + one.height());
+  bench.Action("mnuWItem(0)")->trigger();
+  EXPECT_GT(two.x(), one.x());
+  EXPECT_LT(two.x(), one.x() + one.width());
+  EXPECT_EQ(one.size(), two.size());
+  EXPECT_TRUE(icon.isMinimized());
+  bench.Action("mnuWItem(3)")->trigger();
+  EXPECT_FALSE(icon.isMinimized());
+}
+
+TEST_F(NotePad, Find_Goes_Forth_And_Back_And_Says_When_There_Is_Nothing) {
+  frmNotePad& text = Opened("first line\r\ncaf\xE9 line\r\nlast line\r\n");
+  ASSERT_TRUE(Has_Keyboard(&text));
+  QTest::keyClick(&text, Qt::Key_F, Qt::ControlModifier);
+  auto* find = text.findChild<QLineEdit*>("FindText");
+  ASSERT_TRUE(Wait_Until([find] { return find->hasFocus(); }));
+  QTest::keyClicks(find, "line");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(Text1(text)->textCursor().blockNumber(), 0);
+  QTest::keyClick(&text, Qt::Key_F3);
+  EXPECT_EQ(Text1(text)->textCursor().blockNumber(), 1);
+  QTest::keyClick(&text, Qt::Key_F3, Qt::ShiftModifier);
+  QTest::keyClick(&text, Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(Text1(text)->textCursor().blockNumber(), 2) << "from the other end again";
+  EXPECT_EQ(Text1(text)->textCursor().selectedText(), "line");
+  EXPECT_EQ(Place(text), "Line 3, Column 10");
+  QTest::keyClicks(find, "s");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_EQ(text.findChild<QLabel*>("FindOutcome")->text(), "Not in this text.");
+  QTest::keyClick(find, Qt::Key_Escape);
+  EXPECT_FALSE(text.findChild<QWidget*>("FindBar")->isVisible());
+  EXPECT_TRUE(Text1(text)->hasFocus());
+}
+
+TEST_F(NotePad, The_Status_Bar_Tells_Line_Column_And_Kind) {
+  frmNotePad& text = Opened("one\ncaf\xC3\xA9\n");
+  EXPECT_EQ(Place(text), "Line 1, Column 1");
+  Text1(text)->moveCursor(QTextCursor::Down);
+  Text1(text)->moveCursor(QTextCursor::EndOfLine);
+  EXPECT_EQ(Place(text), "Line 2, Column 5");
+  EXPECT_EQ(text.findChild<QLabel*>("Kind")->text(), "UTF-8, LF");
+}
+
+TEST_F(NotePad, A_Large_Text_Is_In_View_At_Once_And_Read_While_The_Window_Lives) {
+  std::string bytes;
+  for (int i = 0; bytes.size() < 12'000'000; ++i) bytes += "line " + std::to_string(i) + "\r\n";
+  Write_Text(bench.folder / "site.duo", bytes + "the end");
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(bench.folder / "site.duo"));
+  text.show();
+  ASSERT_NE(View(text), nullptr);
+  EXPECT_EQ(Text1(text), nullptr);
+  EXPECT_TRUE(text.Is_Reading());
+  EXPECT_GT(View(text)->rows().Rows(), 1000U);
+  EXPECT_EQ(text.findChild<QLabel*>("State")->text(), "Reading...");
+  ASSERT_TRUE(Wait_Until([&text] { return !text.Is_Reading(); }));
+  EXPECT_EQ(text.findChild<QLabel*>("State")->text(), "Read only: too large to be edited here");
+  EXPECT_EQ(View(text)->rows().Size(), bytes.size() + 7);
+  QTest::keyClick(View(text), Qt::Key_End, Qt::ControlModifier);
+  EXPECT_TRUE(Place(text).ends_with(", Column 8")) << Place(text);
+  chosen = bench.folder / "copy.txt";
+  Do(text, "SaveAs");
+  EXPECT_EQ(Saved("copy.txt"), bytes + "the end");
+  EXPECT_TRUE(text.close()) << "nothing can have changed";
+}
+
+TEST_F(NotePad, A_Large_Text_Is_Searched_To_Its_End_Before_It_Is_Read) {
+  std::string bytes(6'000'000, '\n');
+  Write_Text(bench.folder / "site.duo", bytes + "needle\n");
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(bench.folder / "site.duo"));
+  text.show();
+  ASSERT_TRUE(text.Is_Reading());
+  Do(text, "Find");
+  auto* find = text.findChild<QLineEdit*>("FindText");
+  QTest::keyClicks(find, "Needle");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_FALSE(text.Is_Reading());
+  EXPECT_EQ(View(text)->Marked_Text(), "needle");
+  EXPECT_EQ(Place(text), "Line 6000001, Column 7");
+}
+
+TEST_F(NotePad, A_Large_Text_Is_Marked_And_Copied_By_Keys_And_Mouse) {
+  frmNotePad& text = Opened(std::string(10001, 'x') + "\none two\nthree\n");
+  Large_Text_View* view = View(text);
+  ASSERT_NE(view, nullptr);
+  EXPECT_EQ(text.findChild<QLabel*>("State")->text(),
+            "Read only: holds what an editor would change");
+  QTest::keyClick(view, Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClick(view, Qt::Key_Up);
+  QTest::keyClick(view, Qt::Key_Up, Qt::ShiftModifier);
+  QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "one two\n");
+  QTest::keyClick(view, Qt::Key_Home);
+  QTest::keyClick(view, Qt::Key_Right);
+  EXPECT_EQ(Place(text), "Line 2, Column 2");
+  QTest::keyClick(view, Qt::Key_Left);
+  QTest::keyClick(view, Qt::Key_Left);
+  EXPECT_EQ(Place(text), "Line 1, Column 10002");
+  QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(view->Marked_Text().size(), 10001 + 15);
+  QTest::keyClick(view, Qt::Key_Home, Qt::ControlModifier);
+  const int letter = view->fontMetrics().horizontalAdvance('x');
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(4 + 3 * letter, 8));
+  EXPECT_EQ(Place(text), "Line 1, Column 4");
+}
+
+TEST_F(NotePad, An_Empty_File_And_One_Without_Line_Ends_Are_Shown) {
+  EXPECT_EQ(Text1(Opened("", "empty.txt"))->toPlainText(), "");
+  frmNotePad& text = Opened(std::string(5'000'000, 'x'), "one.txt");
+  ASSERT_NE(View(text), nullptr);
+  ASSERT_TRUE(Wait_Until([&text] { return !text.Is_Reading(); }));
+  QTest::keyClick(View(text), Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(Place(text), "Line 1, Column 5000001");
+}
+
+}  // namespace
+}  // namespace barvon
