@@ -4,11 +4,13 @@
 
 #include <array>
 #include <ctime>
+#include <memory>
 #include <utility>
 
 #include "core/text_tools.h"
 #include "platform/files/paths.h"
 #include "report/report_sections.h"
+#include "site/site_data.h"
 
 namespace barvon {
 namespace {
@@ -24,7 +26,6 @@ std::string In_Words(std::time_t time) {
 }
 
 void Put_File(Report_Maker& report, const Report_Facts& facts) {
-  report.Words("Project Title", report.record.ProjectTitle);
   if (facts.file.empty()) {
     report.Words("File", kNotSaved);
   } else {
@@ -50,9 +51,12 @@ Report_Facts Facts_Of(const ProjectRecord& record) {
   return facts;
 }
 
-Report_Document Project_Report(const ProjectRecord& record, const Report_Facts& facts) {
-  Report_Maker report(record);
-  const std::string title = Trimmed(record.ProjectTitle);
+Report_Document Project_Report(const ProjectRecord& project, const Report_Facts& facts) {
+  // A file has no dimensions of the grid: they follow from its counts and spacings.
+  const auto record = std::make_unique<ProjectRecord>(project);
+  Store_Dimensions(*record);
+  Report_Maker report(*record);
+  const std::string title = Trimmed(record->ProjectTitle);
   report.document.title = "Project Report";
   report.document.subtitle = title.empty() ? "Untitled Project" : title;
   const std::string name = facts.file.empty() ? kNotSaved : Name_Of(facts.file);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -20,11 +21,13 @@ constexpr double kRunningRoom = 22;         // of the running title, and of the 
 constexpr double kPad = 6, kGridPad = 2.4;  // left and right in a cell
 constexpr double kRowPad = 2.4, kGridRowPad = 0.7;
 constexpr double kInset = 12;                           // of rows below a group
-constexpr double kPicturePart = 0.75;                   // points of a picture's pixel
+constexpr double kPicturePart = 0.68;                   // points of a picture's pixel
 constexpr double kLine = 1.32;                          // height of a line, of its size
-constexpr double kValueColumns[] = {0.60, 0.19, 0.21};  // of the page's width
+constexpr double kValueColumns[] = {0.58, 0.17, 0.25};  // of the page's width
 constexpr std::size_t kLeastRows = 2;   // of a table at the end and at the start of a page
-constexpr std::size_t kWholeTable = 9;  // rows that are never parted
+constexpr std::size_t kWholeGroup = 8;  // rows of a group that are never parted
+constexpr double kBold = 1.06;          // bold letters are so much wider
+constexpr std::size_t kWholeTable = 7;  // rows that are never parted
 constexpr Colour kChapterInk{11, 94, 168}, kRule{201, 206, 213}, kHeadRule{122, 130, 140};
 
 struct Mover {
@@ -66,6 +69,46 @@ std::vector<std::string> Lines_Of(const std::string& text) {
   return lines;
 }
 
+double Wide_Letters(const std::string& text, double size, bool bold) {
+  return Text_Width(text, size) * (bold ? kBold : 1);
+}
+
+/// How texts are set.
+struct Setting {
+  const Text_Measure& measure;
+
+  double Width(const std::string& text, double size, bool bold) const {
+    return measure(text, size, bold);
+  }
+
+  /// In lines of at most that width, broken at blanks; a longer word has a line of its own.
+  std::vector<std::string> Wrap(const std::string& text, double size, double width,
+                                bool bold) const {
+    std::vector<std::string> lines;
+    for (const std::string& paragraph : Lines_Of(text)) {
+      std::istringstream words(paragraph);
+      std::string line;
+      for (std::string word; words >> word;) {
+        const std::string longer = line.empty() ? word : line + ' ' + word;
+        if (!line.empty() && Width(longer, size, bold) > width) {
+          lines.push_back(std::exchange(line, word));
+        } else {
+          line = longer;
+        }
+      }
+      lines.push_back(line);
+    }
+    return lines;
+  }
+
+  double Longest_Word(const std::string& text, double size, bool bold) const {
+    double longest = 0;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) longest = std::max(longest, Width(word, size, bold));
+    return longest;
+  }
+};
+
 /// Something whole, with its upper left corner at 0, 0.
 struct Block {
   double height = 0;
@@ -93,8 +136,9 @@ Block Lines_Block(const std::vector<std::string>& lines, double size, Colour col
 /// Where a table's columns lie, and how its rows become blocks.
 class Table_Layout {
  public:
-  Table_Layout(const Report_Table& table, double room)
+  Table_Layout(const Report_Table& table, double room, const Setting& setting)
       : table_(table),
+        setting_(setting),
         grid_(table.kind == Table_Kind::grid),
         size_(grid_ ? kGridSize : kTextSize),
         pad_(grid_ ? kGridPad : kPad) {
@@ -109,9 +153,12 @@ class Table_Layout {
   Block Head() const {
     Block head;
     if (table_.kind == Table_Kind::values) return head;
+    std::vector<std::vector<std::string>> headings;
     std::size_t most = 0;
-    for (const Report_Column& column : table_.columns) {
-      most = std::max(most, Lines_Of(column.heading).size());
+    for (std::size_t i = 0; i < table_.columns.size(); ++i) {
+      headings.push_back(
+          setting_.Wrap(table_.columns[i].heading, size_, widths_[i] - 2 * pad_ + kSlack, true));
+      most = std::max(most, headings.back().size());
     }
     const bool any = std::ranges::any_of(
         table_.columns, [](const Report_Column& column) { return !column.heading.empty(); });
@@ -119,7 +166,7 @@ class Table_Layout {
     head.height = static_cast<double>(most) * kLine * size_ + Row_Pad();
     double x = 0;
     for (std::size_t i = 0; i < table_.columns.size(); ++i) {
-      const std::vector<std::string> lines = Lines_Of(table_.columns[i].heading);
+      const std::vector<std::string>& lines = headings[i];
       // At the bottom of the row.
       double y = head.height - static_cast<double>(lines.size()) * kLine * size_ - Row_Pad() / 2;
       for (const std::string& line : lines) {
@@ -136,7 +183,7 @@ class Table_Layout {
     Block block;
     if (row.group) {
       // Air above it.
-      block = Lines_Block(Wrapped(row.cells.front(), size_, width_), size_, kInk, true);
+      block = Lines_Block(setting_.Wrap(row.cells.front(), size_, width_, true), size_, kInk, true);
       for (Shape& shape : block.shapes) shape = Moved(shape, {0, kRowPad * 2.5, 1});
       block.height += kRowPad * 3.5;
       return block;
@@ -152,7 +199,8 @@ class Table_Layout {
       double y = Row_Pad() / 2;
       const std::vector<std::string> lines =
           number || grid_ ? std::vector<std::string>{row.cells[i]}
-                          : Wrapped(row.cells[i], size_, room - 2 * pad_ - inset);
+                          : setting_.Wrap(row.cells[i], size_,
+                                          room - pad_ - Left_Pad(i) - inset + kSlack, false);
       for (const std::string& line : lines) {
         y += kLine * size_;
         Put(block, i, x + inset, y, line, number, grid_ && i == 0 ? kQuietInk : kInk, false);
@@ -184,29 +232,44 @@ class Table_Layout {
     }
   }
 
+  /// The width of a column by its cells, without its heading.
+  double Cells_Width(std::size_t column) const {
+    const std::size_t columns = table_.columns.size();
+    double width = 0;
+    for (const Report_Row& row : table_.rows) {
+      const bool spans = row.cells.size() < columns && column + 1 == row.cells.size();
+      if (column >= row.cells.size() || spans) continue;
+      width = std::max(width, setting_.Width(row.cells[column], size_, false));
+    }
+    return width;
+  }
+
+  double Heading_Width(std::size_t column) const {
+    double width = 0;
+    for (const std::string& line : Lines_Of(table_.columns[column].heading)) {
+      width = std::max(width, setting_.Width(line, size_, true));
+    }
+    return width;
+  }
+
+  double Sum() const { return std::accumulate(widths_.begin(), widths_.end(), 0.0); }
+
   void Measure(double room) {
     const std::size_t columns = table_.columns.size();
-    widths_.assign(columns, 0);
     for (std::size_t i = 0; i < columns; ++i) {
-      for (const std::string& line : Lines_Of(table_.columns[i].heading)) {
-        widths_[i] = std::max(widths_[i], Text_Width(line, size_) * kBold);
-      }
+      widths_.push_back(std::max(Heading_Width(i), Cells_Width(i)) + 2 * pad_);
     }
-    for (const Report_Row& row : table_.rows) {
-      for (std::size_t i = 0; i < row.cells.size() && i < columns; ++i) {
-        if (row.cells.size() < columns && i + 1 == row.cells.size()) continue;
-        widths_[i] = std::max(widths_[i], Text_Width(row.cells[i], size_));
-      }
-    }
-    double sum = 0;
-    for (double& width : widths_) sum += width += 2 * pad_;
-    if (columns == 0) return;
-    if (grid_ && sum < room) {
+    if (grid_ && Sum() < room) {
       // Over the page, but not so far that a row is hard to follow.
-      const double wider = std::min(room / sum, kWidest);
+      const double wider = std::min(room / Sum(), kWidest);
       for (double& width : widths_) width *= wider;
     }
-    if (sum <= room) return;
+    if (Sum() <= room) return;
+    for (std::size_t i = 0; i < columns; ++i) {
+      const std::string& heading = table_.columns[i].heading;
+      widths_[i] = std::max(setting_.Longest_Word(heading, size_, true), Cells_Width(i)) + 2 * pad_;
+    }
+    if (Sum() <= room) return;
     // The widest column of words gives way; its cells are wrapped.
     std::size_t widest = columns;
     for (std::size_t i = 0; i < columns; ++i) {
@@ -214,12 +277,14 @@ class Table_Layout {
       if (widest == columns || widths_[i] > widths_[widest]) widest = i;
     }
     if (widest == columns) return;
-    widths_[widest] = std::max(widths_[widest] - (sum - room), room / 4);
+    widths_[widest] = std::max(widths_[widest] - (Sum() - room), room / 4);
   }
 
-  static constexpr double kBold = 1.06, kWidest = 1.6;
+  // Of the page; and what rounding may take of a width.
+  static constexpr double kWidest = 1.6, kSlack = 0.01;
 
   const Report_Table& table_;
+  const Setting& setting_;
   bool grid_;
   double size_, pad_;
   std::vector<double> widths_;
@@ -228,7 +293,7 @@ class Table_Layout {
 
 class Page_Maker {
  public:
-  explicit Page_Maker(const Report_Paper& paper) : paper_(paper) {
+  Page_Maker(const Report_Paper& paper, const Setting& setting) : paper_(paper), setting_(setting) {
     room_ = paper.width - paper.left - paper.right;
     top_ = paper.top + kRunningRoom;
     bottom_ = paper.height - paper.bottom - kRunningRoom;
@@ -236,9 +301,10 @@ class Page_Maker {
   }
 
   void Title(const Report_Document& report) {
-    Block block = Lines_Block(Wrapped(report.title, kTitleSize, room_), kTitleSize, kInk, true);
-    const Block below = Lines_Block(Wrapped(report.subtitle, kSubtitleSize, room_), kSubtitleSize,
-                                    kQuietInk, false);
+    Block block =
+        Lines_Block(setting_.Wrap(report.title, kTitleSize, room_, true), kTitleSize, kInk, true);
+    const Block below = Lines_Block(setting_.Wrap(report.subtitle, kSubtitleSize, room_, false),
+                                    kSubtitleSize, kQuietInk, false);
     for (const Shape& shape : below.shapes) {
       block.shapes.push_back(Moved(shape, {0, block.height, 1}));
     }
@@ -251,8 +317,8 @@ class Page_Maker {
   void operator()(const Report_Heading& heading) {
     const bool chapter = heading.level == 1;
     const double size = chapter ? kChapterSize : kPartSize;
-    Block block =
-        Lines_Block(Wrapped(heading.text, size, room_), size, chapter ? kChapterInk : kInk, true);
+    Block block = Lines_Block(setting_.Wrap(heading.text, size, room_, true), size,
+                              chapter ? kChapterInk : kInk, true);
     if (chapter) {
       block.height += 2.5;
       Add_Rule(block, 0, block.height, room_, {kRule, 0.8});
@@ -263,14 +329,16 @@ class Page_Maker {
   }
 
   void operator()(const Report_Paragraph& paragraph) {
-    Block block = Lines_Block(Wrapped(paragraph.text, kTextSize, room_), kTextSize, kInk, false);
+    Block block =
+        Lines_Block(setting_.Wrap(paragraph.text, kTextSize, room_, false), kTextSize, kInk, false);
     block.height += 5;
     Put(block);
   }
 
   void operator()(const Report_Picture& picture) {
     const Shape_List& list = picture.picture;
-    Block block = Lines_Block(Wrapped(list.title, kTextSize, room_), kTextSize, kInk, true);
+    Block block =
+        Lines_Block(setting_.Wrap(list.title, kTextSize, room_, true), kTextSize, kInk, true);
     const double caption = block.height + 3;
     double scale = std::min(kPicturePart, room_ / std::max(list.width, 1.0));
     scale = std::min(scale, (bottom_ - top_ - caption - 60) / std::max(list.height, 1.0));
@@ -282,9 +350,10 @@ class Page_Maker {
   }
 
   void operator()(const Report_Table& table) {
-    const Table_Layout layout(table, room_);
+    const Table_Layout layout(table, room_, setting_);
     if (!table.caption.empty()) {
-      Block caption = Lines_Block(Wrapped(table.caption, kTextSize, room_), kTextSize, kInk, true);
+      Block caption =
+          Lines_Block(setting_.Wrap(table.caption, kTextSize, room_, true), kTextSize, kInk, true);
       caption.height += 2;
       Hold(caption, 7);
     }
@@ -348,15 +417,23 @@ class Page_Maker {
     Write(block);
   }
 
-  /// How many rows from `first` on must be together: a group goes with the rows below it, and the
-  /// last rows are never alone.
+  /// The rows that are one with that of `row`: a group and what is below it.
+  std::size_t Unit_At(const Report_Table& table, std::size_t row) const {
+    std::size_t rows = 1;
+    if (!table.rows[row].group) return rows;
+    while (row + rows < table.rows.size() && table.rows[row + rows].inside) ++rows;
+    return std::min(rows, kWholeGroup);
+  }
+
+  /// How many rows from `first` on must be together: the last rows are never alone, and a short
+  /// table is never parted.
   std::size_t Together(const Report_Table& table, std::size_t first) const {
     const std::size_t count = table.rows.size();
-    std::size_t rows = 1;
-    if (first == 0) rows = count <= kWholeTable ? count : kLeastRows;
-    while (first + rows < count && table.rows[first + rows - 1].group) ++rows;
+    if (first == 0 && count <= kWholeTable) return count;
+    std::size_t rows = Unit_At(table, first);
+    while (first == 0 && rows < kLeastRows && rows < count) rows += Unit_At(table, rows);
     if (count - first - rows < kLeastRows) rows = count - first;
-    return rows;
+    return std::min(rows, count - first);
   }
 
   void Put_Rows(const Report_Table& table, const Block& head, const std::vector<Block>& rows) {
@@ -395,6 +472,7 @@ class Page_Maker {
   }
 
   Report_Paper paper_;
+  const Setting& setting_;
   double room_ = 0, top_ = 0, bottom_ = 0, y_ = 0;
   std::vector<Shape_List> pages_;
   std::vector<std::pair<Block, double>> held_;
@@ -407,8 +485,11 @@ bool Can_Be_Written_On(const Report_Paper& paper) {
 
 }  // namespace
 
-std::vector<Shape_List> Report_Pages(const Report_Document& report, const Report_Paper& paper) {
-  Page_Maker pages(Can_Be_Written_On(paper) ? paper : Report_Paper{});
+std::vector<Shape_List> Report_Pages(const Report_Document& report, const Report_Paper& paper,
+                                     const Text_Measure& measure) {
+  const Text_Measure wide = Wide_Letters;
+  const Setting setting{measure ? measure : wide};
+  Page_Maker pages(Can_Be_Written_On(paper) ? paper : Report_Paper{}, setting);
   pages.Title(report);
   for (const Report_Part& part : report.parts) std::visit(pages, part);
   return pages.Finished(report);

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "pictures/shapes/shapes.h"
 #include "report/report_document.h"
 
 namespace barvon {
+
+/// The width of a text in letters of a size, both in points.
+using Text_Measure = std::function<double(const std::string& text, double size, bool bold)>;
 
 /// A sheet of paper, in points (1/72 inch).
 struct Report_Paper {
@@ -17,7 +22,8 @@ struct Report_Paper {
 /// report's running title, its date and "Page n of m". Rows, pictures and short paragraphs are
 /// whole; a heading or a caption is on the page of what follows it, and a table that goes on has
 /// its headings again and two rows at least. A paper that is too small for anything is taken as the
-/// default one.
-std::vector<Shape_List> Report_Pages(const Report_Document& report, const Report_Paper& paper = {});
+/// default one. Without a measure the letters are taken for wide ones.
+std::vector<Shape_List> Report_Pages(const Report_Document& report, const Report_Paper& paper = {},
+                                     const Text_Measure& measure = {});
 
 }  // namespace barvon

@@ -81,7 +81,9 @@ void Report_Evaluation(Report_Maker& report) {
   const ProjectRecord& record = report.record;
   const Evaluation_Shape shape = Shape_Of_Evaluation(record, false);
   const Field_Table table = Evaluation_Fields(true);
-  report.Heading(1, shape.caption);
+  // Of an evaluation that has nothing else there are the output depths.
+  const bool evaluates = shape.tracer || Is_Regulatory(record);
+  report.Heading(1, evaluates ? shape.caption : "Transport-Diffusion Output");
   if (shape.tracer) report.Group(kTracerFrame);
   for (const int field : {kTracerName, kTracerConcentration, kTracerBackground}) {
     report.Field(table, {"Text4", field});

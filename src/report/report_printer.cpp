@@ -1,12 +1,12 @@
 #include "report/report_printer.h"
 
 #include <QBuffer>
+#include <QFontMetricsF>
 #include <QMarginsF>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 #include <algorithm>
-#include <vector>
 
 #include "pictures/shape_painter.h"
 #include "report/report_pages.h"
@@ -36,9 +36,26 @@ QFont Letters() {
 
 }  // namespace
 
-bool Paint_Report(const Report_Document& report, const QPageLayout& layout,
-                  QPagedPaintDevice& device) {
-  const std::vector<Shape_List> pages = Report_Pages(report, Paper_Of(layout));
+std::vector<Shape_List> Pages_On(const Report_Document& report, const QPageLayout& layout) {
+  // Larger than any text, so that widths are not rounded.
+  constexpr int kMeasured = 256;
+  QFont plain = Letters();
+  plain.setPixelSize(kMeasured);
+  QFont strong = plain;
+  strong.setBold(true);
+  const QFontMetricsF plain_metrics(plain), strong_metrics(strong);
+  const auto measure = [&](const std::string& text, double size, bool bold) {
+    const QFontMetricsF& metrics = bold ? strong_metrics : plain_metrics;
+    return metrics.horizontalAdvance(QString::fromStdString(text)) * size / kMeasured;
+  };
+  return Report_Pages(report, Paper_Of(layout), measure);
+}
+
+bool Paint_Pages(const std::vector<Shape_List>& pages, int first, int last,
+                 QPagedPaintDevice& device) {
+  const int count = static_cast<int>(pages.size());
+  first = std::clamp(first, 1, std::max(count, 1));
+  last = last < 1 ? count : std::min(last, count);
   QPainter painter;
   if (!painter.begin(&device)) return false;
   // The places of a page count from the corner of the sheet, a device's from that of its margins
@@ -48,14 +65,12 @@ bool Paint_Report(const Report_Document& report, const QPageLayout& layout,
       own.mode() == QPageLayout::FullPageMode ? QMarginsF() : own.margins(QPageLayout::Point);
   const double scale = device.logicalDpiX() / kPointsPerInch;
   const QFont letters = Letters();
-  bool first = true;
-  for (const Shape_List& page : pages) {
-    if (!first && !device.newPage()) return false;
-    first = false;
+  for (int page = first; page <= last; ++page) {
+    if (page > first && !device.newPage()) return false;
     painter.save();
     painter.scale(scale, scale);
     painter.translate(-margins.left(), -margins.top());
-    Paint_Shapes(painter, page, letters);
+    Paint_Shapes(painter, pages[static_cast<std::size_t>(page - 1)], letters);
     painter.restore();
   }
   return painter.end();
@@ -69,7 +84,7 @@ QByteArray Report_Pdf(const Report_Document& report, const QPageLayout& layout) 
   writer.setPageLayout(layout);
   writer.setTitle(QString::fromStdString(report.title + " - " + report.subtitle));
   writer.setCreator(QStringLiteral("BARVON " BARVON_VERSION));
-  return Paint_Report(report, layout, writer) ? bytes.data() : QByteArray();
+  return Paint_Pages(Pages_On(report, layout), 0, 0, writer) ? bytes.data() : QByteArray();
 }
 
 QPageLayout Default_Report_Layout() {

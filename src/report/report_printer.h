@@ -2,22 +2,27 @@
 
 #include <QByteArray>
 #include <QPageLayout>
+#include <vector>
 
+#include "pictures/shapes/shapes.h"
 #include "report/report_document.h"
 
 class QPagedPaintDevice;
 
 namespace barvon {
 
-/// Paints the pages of the report on paper of that layout. The device must be ready to be painted
-/// on with it. False when it can't be.
-bool Paint_Report(const Report_Document& report, const QPageLayout& layout,
-                  QPagedPaintDevice& device);
+/// US Letter with margins of three quarters of an inch.
+QPageLayout Default_Report_Layout();
+
+/// The pages of the report on paper of that layout.
+std::vector<Shape_List> Pages_On(const Report_Document& report, const QPageLayout& layout);
+
+/// Paints pages, from the first to the last that is asked for, from 1; 0 and 0 are all of them.
+/// False when the device can't be painted on.
+bool Paint_Pages(const std::vector<Shape_List>& pages, int first, int last,
+                 QPagedPaintDevice& device);
 
 /// The report as a PDF file; empty when it could not be made.
 QByteArray Report_Pdf(const Report_Document& report, const QPageLayout& layout);
-
-/// US Letter with margins of three quarters of an inch.
-QPageLayout Default_Report_Layout();
 
 }  // namespace barvon

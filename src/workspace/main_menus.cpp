@@ -4,6 +4,8 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
+#include "workspace/menu_items.h"
 
 namespace barvon {
 namespace {
@@ -100,6 +102,8 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
       Action_Of(controls, entry.array, item.index)->setEnabled(Is_Available(item.gate, mode));
     }
   }
+  // A document is printed without a project too.
+  if (Port().text.has_document()) Action_Of(controls, "mnuFileItem", kFilePrint)->setEnabled(true);
 }
 
 // An entry can be checked only while it has its mark, so that the menu keeps no room for others.

@@ -156,9 +156,6 @@ void Main::Fill_Port() {
   Port().run.state = [this](bool running, const std::string& program) {
     controls_.status_area->Show_Run(running, program);
   };
-  Port().text.print = [this] {
-    controls_.status_area->Show_Note({"There is no text to print.", ""});
-  };
 }
 
 void Main::Set_Caption(const std::string& caption) {
