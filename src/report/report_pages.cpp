@@ -20,9 +20,12 @@ constexpr double kLeast = 200;              // side of what can be written on
 constexpr double kRunningRoom = 22;         // of the running title, and of the page number
 constexpr double kPad = 6, kGridPad = 2.4;  // left and right in a cell
 constexpr double kRowPad = 2.4, kGridRowPad = 0.7;
-constexpr double kInset = 12;                           // of rows below a group
-constexpr double kPicturePart = 0.68;                   // points of a picture's pixel
-constexpr double kLine = 1.32;                          // height of a line, of its size
+constexpr double kInset = 12;          // of rows below a group
+constexpr double kPicturePart = 0.68;  // points of a picture's pixel
+constexpr double kAbovePicture = 9, kBelowPicture = 8;
+constexpr double kHeadingsRoom = 60;   // for headings above a picture that is as high as a page
+constexpr double kLeastShrunk = 0.78;  // a picture's part of its usual size
+constexpr double kLine = 1.32;         // height of a line, of its size
 constexpr double kValueColumns[] = {0.58, 0.17, 0.25};  // of the page's width
 constexpr std::size_t kLeastRows = 2;   // of a table at the end and at the start of a page
 constexpr std::size_t kWholeGroup = 8;  // rows of a group that are never parted
@@ -254,10 +257,22 @@ class Table_Layout {
 
   double Sum() const { return std::accumulate(widths_.begin(), widths_.end(), 0.0); }
 
+  void Measure_Columns() {
+    widths_.clear();
+    for (std::size_t i = 0; i < table_.columns.size(); ++i) {
+      widths_.push_back(std::max(Heading_Width(i), Cells_Width(i)) + 2 * pad_);
+    }
+  }
+
   void Measure(double room) {
     const std::size_t columns = table_.columns.size();
-    for (std::size_t i = 0; i < columns; ++i) {
-      widths_.push_back(std::max(Heading_Width(i), Cells_Width(i)) + 2 * pad_);
+    Measure_Columns();
+    if (grid_ && Sum() > room) {
+      const double narrower = room / Sum();
+      size_ *= narrower;
+      pad_ *= narrower;
+      Measure_Columns();
+      return;
     }
     if (grid_ && Sum() < room) {
       // Over the page, but not so far that a row is hard to follow.
@@ -341,12 +356,16 @@ class Page_Maker {
         Lines_Block(setting_.Wrap(list.title, kTextSize, room_, true), kTextSize, kInk, true);
     const double caption = block.height + 3;
     double scale = std::min(kPicturePart, room_ / std::max(list.width, 1.0));
-    scale = std::min(scale, (bottom_ - top_ - caption - 60) / std::max(list.height, 1.0));
+    const double height = std::max(list.height, 1.0);
+    scale = std::min(scale, (bottom_ - top_ - caption - kHeadingsRoom) / height);
+    // Somewhat smaller on this page rather than on the next one.
+    const double left = (bottom_ - y_ - Held_Height() - caption - kBelowPicture - kAbovePicture);
+    if (left < height * scale && left > height * scale * kLeastShrunk) scale = left / height;
     for (const Shape& shape : list.shapes) {
       if (Has_Places(shape)) block.shapes.push_back(Moved(shape, {0, caption, scale}));
     }
-    block.height = caption + list.height * scale + 8;
-    Put(block, 9);
+    block.height = caption + list.height * scale + kBelowPicture;
+    Put(block, kAbovePicture);
   }
 
   void operator()(const Report_Table& table) {

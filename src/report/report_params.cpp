@@ -33,6 +33,9 @@ void Put_Corners(Report_Maker& report, std::string_view array, const std::string
   report.Field(table, {array, kCornerRight});
 }
 
+/// What follows asks a person to enter something.
+std::string First_Sentence(const std::string& text) { return text.substr(0, text.find(". ")); }
+
 Run_Times Times_Of(const ProjectRecord& record) {
   Run_Times times{record.SimulationDuration, record.LongTermTimeStep, Print_Times(record) > 0, {}};
   for (int i = 1; i <= Print_Times(record); ++i) {
@@ -91,12 +94,15 @@ void Report_Evaluation(Report_Maker& report) {
   for (const int field : {kContaminantName, kInSediment}) report.Field(table, {"Text1", field});
   report.Field(table, {"Text2"});
   for (const int field : {kBackground, kLimit}) report.Field(table, {"Text1", field});
-  if (Is_Regulatory(record)) Put_Corners(report, "Text", shape.upper_left, shape.lower_right);
+  if (Is_Regulatory(record)) {
+    Put_Corners(report, "Text", First_Sentence(shape.upper_left),
+                First_Sentence(shape.lower_right));
+  }
   if (shape.zid) {
     report.Group("Zone of Initial Dilution");
     report.Yes_Or_No(kZidCaption, record.ZidFlag == 1);
-    Put_Corners(report, "Text5", kZidUpperLeft, kZidLowerRight);
     report.Field(table, {"Text6"});
+    Put_Corners(report, "Text5", kZidUpperLeft, kZidLowerRight);
   }
   report.Group(kOutputDepthsCaption);
   report.Number_Of_Row(table, {"Text8", kOutputCount}, record.NumOutputDepths);

@@ -29,8 +29,6 @@
 namespace barvon {
 namespace {
 
-constexpr int kColumnsOnAPage = 16;  // of a grid
-
 bool Has_Variable_Depth(const ProjectRecord& record) { return record.ConstantDepthFlag == 0; }
 
 int Points(std::int16_t count) { return std::clamp<int>(count, 0, kMaxGridPoints); }
@@ -65,15 +63,25 @@ Shape_List With_Note(Shape_List picture, const std::string& note) {
   return picture;
 }
 
+/// How many columns of such texts go on a page.
+int Columns_On_A_Page(const std::vector<std::string>& texts) {
+  std::size_t longest = 0;
+  for (const std::string& text : texts) longest = std::max(longest, text.size());
+  if (longest <= 6) return 16;
+  if (longest <= 9) return 12;
+  return longest <= 14 ? 8 : 4;
+}
+
 /// A grid in blocks of columns that are as wide as a page. All of its numbers have equally many
 /// decimals.
 void Put_Grid(Report_Maker& report, const std::string& what, const Spreadsheet_Table& table) {
   if (table.MaxRow() < 1) return;
   const std::vector<std::string> texts = Column_Texts(Values_Of(table));
+  const int columns = Columns_On_A_Page(texts);
   report.document.parts.emplace_back(Report_Break{});
   report.Heading(1, what);
-  for (int first = 1; first <= table.MaxCol(); first += kColumnsOnAPage) {
-    const int last = std::min(first + kColumnsOnAPage - 1, table.MaxCol());
+  for (int first = 1; first <= table.MaxCol(); first += columns) {
+    const int last = std::min(first + columns - 1, table.MaxCol());
     Report_Table block{Table_Kind::grid,
                        "Columns " + std::to_string(first) + " to " + std::to_string(last) + " of " +
                            std::to_string(table.MaxCol()),

@@ -155,6 +155,12 @@ void Add_Arrow(Shape_List& picture, Place middle, Place reach) {
       {}});
 }
 
+std::string Three_Digits(double speed) {
+  if (!(speed > 0)) return Short_Text(speed);
+  const double unit = std::pow(10, std::floor(std::log10(speed)) - 2);
+  return Short_Text(std::round(speed / unit) * unit);
+}
+
 }  // namespace
 
 Shape_List Depth_Shapes(const Depth_Drawing& drawing, const Canvas& canvas) {
@@ -184,7 +190,7 @@ Shape_List Velocity_Shapes(const Velocity_Drawing& drawing, const Canvas& canvas
     Add_Arrow(picture, frame.At(arrow.column, arrow.row),
               {arrow.right * longest, arrow.down * longest});
   }
-  std::string note = "The longest arrow stands for " + Short_Text(drawing.fastest) + " ft/s.";
+  std::string note = "The longest arrow stands for " + Three_Digits(drawing.fastest) + " ft/s.";
   if (!drawing.note.empty()) note += " " + drawing.note;
   Add_Note(picture, note, canvas.text_size);
   return picture;
