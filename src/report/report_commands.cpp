@@ -14,6 +14,7 @@
 #include "platform/ask/busy_cursor.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
+#include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
 #include "platform/qt/session_printer.h"
 #include "platform/text/letter_case.h"
@@ -83,10 +84,13 @@ void Print_Project_Report(ProjectRecord& record) {
   const auto report = Make_Report(record);
   if (!report) return;
   const auto pages = [&] { return Pages_On(*report, Session_Printer().pageLayout()); };
+  QPrinter& printer = Session_Printer();
+  // Print to file offers it as the name.
+  const std::string& file = record.ProjectFileName;
+  printer.setDocName(
+      QString::fromStdString(file.empty() ? report->title : Name_Of(Base_Name(file))));
   if (!Ask_Printer("Print Project Report", static_cast<int>(pages().size()))) return;
   const Busy_Cursor waiting;
-  QPrinter& printer = Session_Printer();
-  printer.setDocName(QString::fromStdString(report->title + " - " + report->subtitle));
   // The dialog may have changed the paper. Without a range both are 0.
   if (!Paint_Pages(pages(), printer.fromPage(), printer.toPage(), printer)) {
     Show_Critical("The Report Could Not Be Printed.");
