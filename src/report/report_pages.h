@@ -1,16 +1,12 @@
 #pragma once
 
-#include <functional>
-#include <string>
 #include <vector>
 
 #include "pictures/shapes/shapes.h"
+#include "report/report_blocks.h"
 #include "report/report_document.h"
 
 namespace barvon {
-
-/// The width of a text in letters of a size, both in points.
-using Text_Measure = std::function<double(const std::string& text, double size, bool bold)>;
 
 /// A sheet of paper, in points (1/72 inch).
 struct Report_Paper {
