@@ -103,7 +103,9 @@ void Report_Material(Report_Maker& report) {
   }
   report.Yes_Or_No(barge ? kBargeJbfcCaption : kHopperJbfcCaption, record.JBFCFlag == 1);
   Put_Moisture(report);
-  report.Fields(Water_Fields());
+  report.Field(Water_Fields(), {"Text3", kLoadDensity});
+  // A file does not hold what the density was computed from.
+  if (record.SiteSalinity != 0 || record.SiteTemperature != 0) report.Fields(Water_Fields());
   Put_Solids(report);
   if (barge) Put_Layers(report);
 }

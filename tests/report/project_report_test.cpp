@@ -148,6 +148,15 @@ TEST(ProjectReport, A_Label_Loses_The_Unit_That_Has_Its_Own_Column) {
   EXPECT_EQ(Label_Without_Unit("Number (Max 6)", ""), "Number (Max 6)");
 }
 
+TEST(ProjectReport, Salinity_And_Temperature_Are_Told_Where_They_Are_Known) {
+  const auto record = Sound();
+  EXPECT_EQ(Value_Of(Project_Report(*record, kFacts), "Salinity"), "");
+  record->SiteSalinity = 12.5;
+  const Report_Document report = Project_Report(*record, kFacts);
+  EXPECT_EQ(Value_Of(report, "Salinity"), "12.50");
+  EXPECT_EQ(Cells_Of(report).count("Dredging Site Water Density"), 1u);
+}
+
 TEST(ProjectReport, Shows_The_Pictures_That_Apply) {
   const auto record = Sound();
   record->VelocityProfileType = kSingleVelocity;
