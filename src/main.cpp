@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <clocale>
+#include <string_view>
 
 #include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
@@ -8,17 +9,21 @@
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
 #include "program_screens.h"
+#include "report/report_commands.h"
 #include "run/create_process.h"
 #include "workspace/main_window.h"
 #include "workspace/quit_rules.h"
 #include "workspace/tips_file.h"
 
-int main(int, char** arguments) {
-  // The command line is not read: a project is opened from the File menu.
+int main(int given, char** arguments) {
+  // The command line is read for nothing but the report that barvon-run asks for: a project is
+  // opened from the File menu.
+  const bool reports = given == 4 && std::string_view(arguments[1]) == "--report-pdf";
   int count = 1;
   QApplication application(count, arguments);
   // The toolkit takes the desktop's locale; numbers keep their point.
   std::setlocale(LC_NUMERIC, "C");
+  if (reports) return barvon::Write_Report_Pdf(arguments[2], arguments[3]);
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/barvon.svg")));
   barvon::Apply_Light_Palette(application);
   const barvon::Qt_Services services;

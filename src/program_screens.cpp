@@ -15,6 +15,7 @@
 #include "params/frm_operation.h"
 #include "params/frm_simulation.h"
 #include "platform/qt/input_screen.h"
+#include "report/report_commands.h"
 #include "site/frm_description.h"
 #include "site/frm_grid_descrip.h"
 #include "site/frm_velocity.h"
@@ -52,6 +53,7 @@ void Register_Program_Screens(QWidget* main) {
   Register<frmSimulation>(Row_Of_Screen("frmSimulation"), main);
   Register<frmDilute2>(Row_Of_Screen("frmDilute2"), main);
   Register_Dilute_Report();
+  Register_Project_Report();
   Register_DataBase(main);
   Register<frmDatabaseCheck>(Row_Of_Screen("frmDatabaseCheck"), main);
   Register_Data_Wiz(main);

@@ -8,10 +8,12 @@
 #include "batch/batch_findings.h"
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
+#include "batch/batch_report.h"
 #include "batch/batch_run.h"
 #include "batch/interrupts.h"
 #include "batch/json_record.h"
 #include "batch/leftovers.h"
+#include "core/desk/load_record.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
 #include "platform/files/path_lookup.h"
@@ -50,7 +52,7 @@ int New(const Batch_Options& options) {
     Say_Problem(file, "exists already (--force replaces it)");
     return kNotDone;
   }
-  const auto record = Fresh_Project();
+  const auto record = Fresh_Record();
   Pack_Slots(*record);
   const std::string target = Path_To_Write(path);
   if (const int error = Write_Whole_File(target, Save_Project(target, *record)); error != 0) {
@@ -70,6 +72,8 @@ int Do_Batch_Command(const Batch_Options& options) {
       return Check(options);
     case Batch_Command::Export:
       return Export_Projects(options);
+    case Batch_Command::Report:
+      return Report_Projects(options);
     case Batch_Command::Run:
       return Run_Projects(options);
     case Batch_Command::Show:

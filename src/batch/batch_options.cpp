@@ -34,6 +34,14 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
   model->add_option("-o,--output", options.output,
                     "write to this file, or into this folder; beside the project if not given");
 
+  CLI::App* report = app.add_subcommand(
+      "report", "write a report of projects: their values, pictures and findings (.html)");
+  Add_Files(report, options);
+  report->add_option("-o,--output", options.output,
+                     "write to this file, or into this folder; beside the project if not given");
+  report->add_flag("--pdf", options.pdf,
+                   "write PDF, with the help of the window program installed beside this one");
+
   CLI::App* run = app.add_subcommand("run", "run the solver on projects and keep its outputs");
   Add_Files(run, options);
   run->add_option("--solver-dir", options.solver_folder,
@@ -61,6 +69,7 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
 
   check->callback([&] { options.command = Batch_Command::Check; });
   model->callback([&] { options.command = Batch_Command::Export; });
+  report->callback([&] { options.command = Batch_Command::Report; });
   run->callback([&] { options.command = Batch_Command::Run; });
   show->callback([&] { options.command = Batch_Command::Show; });
   fresh->callback([&] { options.command = Batch_Command::New; });

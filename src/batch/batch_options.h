@@ -10,16 +10,17 @@ inline constexpr int kDone = 0;      // everything was done
 inline constexpr int kFindings = 1;  // projects have errors
 inline constexpr int kNotDone = 2;   // something could not be done
 
-enum class Batch_Command { Check, Export, Run, Show, New, Check_Database };
+enum class Batch_Command { Check, Export, Run, Show, New, Check_Database, Report };
 
 /// The command line of barvon-run.
 struct Batch_Options {
   Batch_Command command = Batch_Command::Check;
   std::vector<std::string> files;  // as given
-  std::string output;              // export: where to; empty: beside the project
+  std::string output;              // export, report: where to; empty: beside the project
   std::string solver_folder;       // run; empty: the program's folder
   int jobs = 1;                    // run: projects at a time
   bool despite_errors = false;     // run
+  bool pdf = false;                // report
   bool json = false;               // show
   bool force = false;              // new
   std::string folder;              // database check

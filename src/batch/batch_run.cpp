@@ -19,6 +19,7 @@
 #include "batch/side_by_side.h"
 #include "batch/target_key.h"
 #include "core/text_tools.h"
+#include "platform/ask/box_collector.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
 #include "platform/process/event_pump.h"

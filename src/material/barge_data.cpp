@@ -70,9 +70,11 @@ Barge_Entry Open_Barge(ProjectRecord& record) {
   return entry;
 }
 
+Shown_Columns<ProjectRecord> Layer_Columns() { return Shown_Columns(kLayerColumns); }
+
 void Fill_Layer_Table(const ProjectRecord& record, Spreadsheet_Table& table) {
   const Table_Fill fill(table);
-  const Shown_Columns columns(kLayerColumns);
+  const Shown_Columns columns = Layer_Columns();
   columns.Lay_Out(1, kMaxLayers, table);
   for (int layer = 1; layer <= kMaxLayers; ++layer) {
     // Layers beyond the project's show what they held before there were fewer.
@@ -131,7 +133,7 @@ bool Save_Barge_Data(const Barge_Entry& entry, const Spreadsheet_Table& layers,
   record.DataSaved = kFalse;
   // The moisture content comes from Text2 with separation too, although it is hidden then.
   Read_Fields(kRows, entry.texts, record);
-  Shown_Columns(kLayerColumns).Store(layers, record.LAYERS, record);
+  Layer_Columns().Store(layers, record.LAYERS, record);
   if (entry.separated != (record.SeparationFlag != 0))
     record.SeparationFlag = entry.separated ? 1 : 0;
   Store_Solids(state, solids, record);

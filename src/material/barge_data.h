@@ -4,10 +4,18 @@
 
 #include "core/field_table.h"
 #include "core/project_record.h"
+#include "core/record_columns.h"
 #include "material/layer_composition.h"
 #include "material/solids_table.h"
 
 namespace barvon {
+
+/// The captions of the check boxes.
+inline constexpr char kSeparationCaption[] =
+    "Do you wish to enter data on material separation during transport?";
+inline constexpr char kBargeJbfcCaption[] =
+    "Do you wish to use the JBFC Coefficient to adjust entrainment and drag coefficients based on "
+    "moisture content?";
 
 /// The fields of frmMatBarge apart from its water: Text1(0) and Text1(1), numbers of layers and of
 /// fractions, and Text2, the moisture content of the load.
@@ -24,7 +32,9 @@ struct Barge_Entry {
 /// What the screen shows when it opens. LAYERS is brought to 1 to 6 first, NumSolids to 1 to 4.
 Barge_Entry Open_Barge(ProjectRecord& record);
 
-/// Volume (cu yd) and velocities (ft/s) of the layers. Layer 1 without a volume is offered that of
+/// The columns of the table of layers: volume (cu yd) and velocities (ft/s).
+Shown_Columns<ProjectRecord> Layer_Columns();
+/// Volume and velocities of the layers. Layer 1 without a volume is offered that of
 /// a hopper.
 void Fill_Layer_Table(const ProjectRecord& record, Spreadsheet_Table& table);
 /// The table gets so many layers.

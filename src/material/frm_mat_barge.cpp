@@ -82,12 +82,8 @@ QWidget* frmMatBarge::Material_Page() {
   Field_Rows rows(count);
   fields_.Add(rows, {"Text1", kSolidsField});
   column->addWidget(count);
-  SSCheck1(kSeparation)
-      ->setText(
-          QStringLiteral("Do you wish to enter data on material separation during transport?"));
-  SSCheck1(kJbfc)->setText(
-      QStringLiteral("Do you wish to use the JBFC Coefficient to adjust entrainment and drag "
-                     "coefficients based on moisture content?"));
+  SSCheck1(kSeparation)->setText(QLatin1String(kSeparationCaption));
+  SSCheck1(kJbfc)->setText(QLatin1String(kBargeJbfcCaption));
   for (QCheckBox* box : SSCheck1) column->addWidget(box);
   solids_->Book()->SetFocusCell(1);
   column->addWidget(solids_, 1);

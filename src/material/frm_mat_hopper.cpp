@@ -23,9 +23,7 @@ frmMatHopper::frmMatHopper(QWidget* workspace)
                    {.topic = kScreen.topic, .placement = Screen_Setup::Placement::Centre}),
       record_(Project()),
       Text1(Named(new QLineEdit(this), "Text1")),
-      SSCheck1(Named(
-          new QCheckBox("Use JBFC Coefficient To Adjust Entrainment and Drag Coefficients?", this),
-          "SSCheck1")),
+      SSCheck1(Named(new QCheckBox(kHopperJbfcCaption, this), "SSCheck1")),
       Text4_1(
           Make_Note_Box("Text4(1)", QStringLiteral("Note on moisture content"), kNoteLines, this)),
       fields_(this, Faces_Of(Hopper_Fields(), record_)),

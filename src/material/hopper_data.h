@@ -8,6 +8,10 @@
 
 namespace barvon {
 
+/// The caption of the check box.
+inline constexpr char kHopperJbfcCaption[] =
+    "Use JBFC Coefficient To Adjust Entrainment and Drag Coefficients?";
+
 /// The fields of frmMatHopper apart from its water: Text2(0) and Text2(1), volume and number of
 /// fractions, and Text1, the moisture content.
 Field_Table Hopper_Fields();

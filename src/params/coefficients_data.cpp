@@ -24,6 +24,20 @@ bool Were_Accepted(const ProjectRecord& record) {
 
 }  // namespace
 
+void List_Coefficients(const ProjectRecord& record, Spreadsheet_Table& table) {
+  const std::vector<Coefficient> coefficients = Coefficients_Of(record.DisposalMethod);
+  table.MaxRow(static_cast<int>(coefficients.size()));
+  Shown_Columns(kColumns).Lay_Out(1, table.MaxRow(), table);
+  int row = 0;
+  for (const Coefficient& one : coefficients) {
+    ++row;
+    table.TextRC(row, kDescriptionColumn, one.description);
+    table.TextRC(row, kKeywordColumn, one.keyword);
+    table.NumberRC(row, kDefaultColumn, one.default_value);
+    table.NumberRC(row, kCurrentColumn, record.*one.member);
+  }
+}
+
 void Fill_Coefficients(const ProjectRecord& record, Spreadsheet_Table& F1Book1) {
   const Table_Fill fill(F1Book1);
   const std::vector<Coefficient> coefficients = Coefficients_Of(record.DisposalMethod);

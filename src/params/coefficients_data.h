@@ -8,6 +8,11 @@
 
 namespace barvon {
 
+/// The check box of frmCoefficients.
+inline constexpr char kPritchardCaption[] =
+    "Calculate Vertical Diffusion Coeff (AKY0) using Pritchard Expression Insead of Using Current "
+    "Value?";
+
 /// The table of frmCoefficients: a row for each coefficient that the record's method has.
 enum Coefficient_Column {
   kDescriptionColumn = 1,
@@ -16,6 +21,9 @@ enum Coefficient_Column {
   kCurrentColumn,
   kCoefficientColumns = kCurrentColumn
 };
+
+/// The project's coefficients and the defaults of its method, whatever was accepted.
+void List_Coefficients(const ProjectRecord& record, Spreadsheet_Table& table);
 
 /// The table as the screen opens. Coefficients that were accepted, came from a file or from the
 /// wizard are the record's, those of a new project the method's defaults. The column of defaults

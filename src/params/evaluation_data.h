@@ -20,6 +20,14 @@ enum Tracer_Field { kTracerConcentration = 0, kTracerBackground, kTracerName, kT
 /// Text8 of frmMdlkyn: its first fields are the depths.
 enum Output_Field { kOutputCount = kMaxOutputDepths, kOutputFields };
 
+inline constexpr char kZidCaption[] = "Do you want to evaluate a Zone of Initial Dilution (ZID)?";
+inline constexpr char kTracerFrame[] = "Conservative Tracer Description";
+/// Above the corners of the ZID.
+inline constexpr char kZidUpperLeft[] = "Specify Location of Upper Left Corner of ZID on Grid";
+inline constexpr char kZidLowerRight[] = "Specify Location of Lower Right Corner of ZID on Grid";
+/// Above the output depths.
+inline constexpr char kOutputDepthsCaption[] = "Depths (ft) for Transport-Diffusion Output";
+
 /// What frmMdlkyn shows for the evaluation, and how it calls it.
 struct Evaluation_Shape {
   std::string caption;

@@ -23,9 +23,7 @@ frmCoefficients::frmCoefficients(QWidget* workspace)
       F1Book1(Named(new F1Book(kBookNumbers, this), "F1Book1")),
       Check3D1(Named(new QCheckBox(this), "Check3D1")) {
   setWindowTitle(QStringLiteral("Table of Coefficients"));
-  Check3D1->setText(
-      QStringLiteral("Calculate Vertical Diffusion Coeff (AKY0) using Pritchard Expression Insead "
-                     "of Using Current Value?"));
+  Check3D1->setText(QLatin1String(kPritchardCaption));
   F1Book1->setAccessibleName(windowTitle());
   F1Book1->SetNumberNote(kCurrentColumn, Real_Note);
   F1Book1->SetCellLook([this](int row, int col) {

@@ -86,8 +86,7 @@ QWidget* frmMdlkyn::Description_Tab() {
   auto* page = new QWidget(this);
   auto* column = new QVBoxLayout(page);
 
-  auto* fraGeneral =
-      Named(new QGroupBox(QStringLiteral("Conservative Tracer Description"), page), "fraGeneral");
+  auto* fraGeneral = Named(new QGroupBox(QLatin1String(kTracerFrame), page), "fraGeneral");
   Field_Rows general(fraGeneral);
   for (const int i : {kTracerName, kTracerConcentration, kTracerBackground}) {
     fields_.Add(general, {"Text4", i});
@@ -122,12 +121,11 @@ QWidget* frmMdlkyn::Zid_Tab() {
   auto* SSFrame2 = Named(new QGroupBox(zid), "SSFrame2");
   SSFrame2->setAccessibleName(QStringLiteral("Zone of Initial Dilution"));
   Field_Rows rows(SSFrame2);
-  Check3D1->setText(QStringLiteral("Do you want to evaluate a Zone of Initial Dilution (ZID)?"));
+  Check3D1->setText(QLatin1String(kZidCaption));
   rows.Whole_Row(Check3D1);
   const auto heading = [SSFrame2](const QString& text) { return Wrapping_Label(text, SSFrame2); };
   Add_Corners(rows, fields_, "Text5", Text5,
-              {heading(QStringLiteral("Specify Location of Upper Left Corner of ZID on Grid")),
-               heading(QStringLiteral("Specify Location of Lower Right Corner of ZID on Grid"))});
+              {heading(QLatin1String(kZidUpperLeft)), heading(QLatin1String(kZidLowerRight))});
   fields_.Add(rows, {"Text6"});
   SSFrame2->setVisible(shape_.zid);
   column->addWidget(SSFrame2);
@@ -142,8 +140,7 @@ QWidget* frmMdlkyn::Output_Tab() {
   fraLTD->setAccessibleName(QStringLiteral("Transport-Diffusion Output"));
   Field_Rows rows(fraLTD);
   fields_.Add(rows, {"Text8", kOutputCount});
-  rows.Whole_Row(
-      Wrapping_Label(QStringLiteral("Depths (ft) for Transport-Diffusion Output"), fraLTD));
+  rows.Whole_Row(Wrapping_Label(QLatin1String(kOutputDepthsCaption), fraLTD));
   for (int i = 0; i < kMaxOutputDepths; ++i) fields_.Add(rows, {"Text8", i});
   column->addWidget(fraLTD);
   column->addStretch();

@@ -54,20 +54,18 @@ QWidget* frmSimulation::Time_Steps() {
 }
 
 QWidget* frmSimulation::Printing_Options() {
-  SSCheck2(kPrintsDescent)->setText(QStringLiteral("Want Results of Convective Descent Printed?"));
-  SSCheck2(kPrintsCollapse)->setText(QStringLiteral("Want Results of Collapse Phase Printed?"));
-  SSCheck2(kOwnPrintTimes)
-      ->setText(QStringLiteral("Want to Specify Your Own Print Times for Long-Term Diffusion?"));
+  for (int i = 0; i < kSimulationBoxes; ++i) {
+    const char* caption = kSimulationBoxCaptions[static_cast<std::size_t>(i)];
+    SSCheck2(i)->setText(QLatin1String(caption));
+  }
   auto* frame = new QGroupBox(kPrintingFrame, this);
   auto* column = new QVBoxLayout(frame);
   for (QCheckBox* box : SSCheck2) column->addWidget(box);
-  column->addWidget(
-      new QLabel(QStringLiteral("If not, the program prints results quarterly."), frame));
+  column->addWidget(new QLabel(QLatin1String(kPrintsQuarterly), frame));
   Field_Rows rows(Frame3D1);
   rows.layout()->setContentsMargins(0, 0, 0, 0);
   fields_.Add(rows, {"Text2"});
-  auto* label = Wrapping_Label(
-      QStringLiteral("Specify the Print Times (Sec) for Output of Long-Term Results"), Frame3D1);
+  auto* label = Wrapping_Label(QLatin1String(kPrintTimesCaption), Frame3D1);
   label->setBuddy(F1Book1);
   rows.Whole_Row(label);
   rows.Whole_Row(F1Book1);

@@ -15,10 +15,19 @@ namespace barvon {
 inline constexpr char kTimeStepsFrame[] = "Time Steps";
 inline constexpr char kPrintingFrame[] = "Printing Options";
 
+/// Above the table of print times.
+inline constexpr char kPrintTimesCaption[] =
+    "Specify the Print Times (Sec) for Output of Long-Term Results";
+/// What the solver does without print times of the user's own.
+inline constexpr char kPrintsQuarterly[] = "If not, the program prints results quarterly.";
+
 /// Text1 of frmSimulation.
 enum Simulation_Field { kDuration = 0, kTimeStep };
 /// SSCheck2 of frmSimulation.
 enum Simulation_Box { kPrintsDescent = 0, kPrintsCollapse, kOwnPrintTimes, kSimulationBoxes };
+inline constexpr std::array<const char*, kSimulationBoxes> kSimulationBoxCaptions = {
+    "Want Results of Convective Descent Printed?", "Want Results of Collapse Phase Printed?",
+    "Want to Specify Your Own Print Times for Long-Term Diffusion?"};
 
 /// The table of frmSimulation. Text2, the number of print times, is filled and read by what is
 /// below.

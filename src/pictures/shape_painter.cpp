@@ -32,6 +32,8 @@ QPolygonF Points_Of(const std::vector<Place>& places) {
   return points;
 }
 
+constexpr double kFiner = 16;
+
 class Shape_Brush {
  public:
   Shape_Brush(QPainter& painter, const QFont& letters) : painter_(painter), letters_(letters) {}
@@ -52,7 +54,10 @@ class Shape_Brush {
   }
 
   void operator()(const Text_Shape& text) {
-    letters_.setPixelSize(std::max(1, static_cast<int>(std::lround(text.size))));
+    // Fonts come in whole pixels: letters of another size are drawn larger and shrunk.
+    const double finer = text.size == std::round(text.size) ? 1 : kFiner;
+    letters_.setPixelSize(std::max(1, static_cast<int>(std::lround(text.size * finer))));
+    letters_.setBold(text.bold);
     const QString letters = QString::fromStdString(text.text);
     const double width = QFontMetricsF(letters_, painter_.device()).horizontalAdvance(letters);
     const double before = text.anchor == Anchor::start    ? 0
@@ -63,6 +68,7 @@ class Shape_Brush {
     painter_.setPen(To_QColor(text.colour));
     painter_.translate(Point_Of(text.place));
     if (text.upwards) painter_.rotate(-90);
+    painter_.scale(1 / finer, 1 / finer);
     painter_.drawText(QPointF(-before, 0), letters);
     painter_.restore();
   }

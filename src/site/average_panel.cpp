@@ -10,7 +10,7 @@ Average_Panel::Average_Panel(ProjectRecord& record)
       fields_(this, Faces_With_Notes(kAverageFields, filled_, record)) {
   Field_Rows rows(this);
   for (const Field_Row& row : kAverageFields) fields_.Add(rows, row.control);
-  Check3D1->setText(QStringLiteral("Do you wish a Logarithmic Profile to be employed?"));
+  Check3D1->setText(QLatin1String(kLogarithmicCaption));
   rows.Whole_Row(Check3D1);
   rows.layout()->setRowStretch(rows.layout()->rowCount(), 1);
   connect(Check3D1, &QCheckBox::clicked, this, [this](bool checked) {

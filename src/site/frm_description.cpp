@@ -78,8 +78,8 @@ QWidget* frmDescription::Depth_Frames() {
   auto* frame = new QGroupBox(QStringLiteral("Water Depth and Bottom"), part);
   Field_Rows bottom(frame);
   fields_.Add(bottom, {"Text1", kConstantDepth});
-  Add_Choice(bottom, Check3D1(kVariableDepth), "Specify Variable Depth Grid?",
-             Command2(kVariableDepth), "Define Grid");
+  Add_Choice(bottom, Check3D1(kVariableDepth), kVariableDepthCaption, Command2(kVariableDepth),
+             "Define Grid");
   fields_.Add(bottom, {"Text1", kRoughness});
   column->addWidget(frame);
   column->addWidget(fields_.Frame(kSlopeFrame));
@@ -93,8 +93,8 @@ QWidget* frmDescription::Density_Frame() {
   Field_Rows rows(entries);
   rows.layout()->setContentsMargins(0, 0, 0, 0);
   fields_.Add(rows, {"Text1", kDensityPoints});
-  Add_Choice(rows, Check3D1(kComputesDensity), "Compute Density Based on Salinity and Temperature?",
-             Command2(kComputesDensity), "Compute Density");
+  Add_Choice(rows, Check3D1(kComputesDensity), kComputesDensityCaption, Command2(kComputesDensity),
+             "Compute Density");
   rows.Whole_Row(F1Book1);
   F1Book1->setAccessibleName(QStringLiteral("Water density profile"));
   F1Book1->SetNumberNote(Real_Note);

@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "core/desk/accepted_screen.h"
+#include "core/desk/analysis_choices.h"
 #include "core/desk/screen_register.h"
 #include "platform/qt/fields/note_box.h"
 #include "platform/qt/fields/option_paint.h"
@@ -55,7 +56,7 @@ QWidget* frmVelocity::Choice_Part() {
   auto* part = new QWidget(this);
   auto* row = new QHBoxLayout(part);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* frame = new QGroupBox(QStringLiteral("Type of Velocity"), part);
+  auto* frame = new QGroupBox(QLatin1String(kVelocityTypeFrame), part);
   auto* options = new QVBoxLayout(frame);
   options->addStretch();
   row->addWidget(frame, 1);

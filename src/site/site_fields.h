@@ -24,6 +24,11 @@ inline constexpr char kSpacingFrame[] = "Spacing (ft) between Grid Points";
 inline constexpr char kDimensionsFrame[] = "Disposal Grid Dimensions";
 inline constexpr char kSlopeFrame[] = "Slope (deg) of Bottom in:";
 
+/// The captions of its check boxes.
+inline constexpr char kVariableDepthCaption[] = "Specify Variable Depth Grid?";
+inline constexpr char kComputesDensityCaption[] =
+    "Compute Density Based on Salinity and Temperature?";
+
 /// The table of frmDescription: Text1, and in Text2 the grid's dimensions.
 Field_Table Site_Fields();
 

@@ -4,6 +4,9 @@
 
 namespace barvon {
 
+/// The check box of the average form.
+inline constexpr char kLogarithmicCaption[] = "Do you wish a Logarithmic Profile to be employed?";
+
 /// Text1 of the average form, in the order of its indices.
 inline constexpr Field_Row kAverageFields[] = {
     {.control = {"Text1", 0},

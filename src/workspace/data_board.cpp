@@ -33,8 +33,8 @@ QGroupBox* Options(const char* name, const char* caption, const ControlArray<QRa
 }
 
 QGroupBox* Simulation_Type(Main_Controls& controls, QWidget* parent) {
-  auto* frame = Options("Frame3D8", "Simulation Type", controls.SSOption3,
-                        kSimulationCaptions.data(), parent);
+  auto* frame =
+      Options("Frame3D8", kSimulationFrame, controls.SSOption3, kSimulationCaptions.data(), parent);
   frame->layout()->addWidget(Hint(controls.Label4(0), 3));
   return frame;
 }
@@ -43,7 +43,7 @@ QGroupBox* Evaluation_Type(Main_Controls& controls, QWidget* parent) {
   static constexpr const char* kTypes[] = {"Conservative Tracer/Tier II Further Testing",
                                            "Tier II - Water Quality Comparison",
                                            "Tier III - Toxicity Comparison"};
-  auto* frame = Options("Frame3D13", "Evaluation Type", controls.SSOption4, kTypes, parent);
+  auto* frame = Options("Frame3D13", kEvaluationFrame, controls.SSOption4, kTypes, parent);
   // The hint keeps its place while the third option is hidden.
   static_cast<QVBoxLayout*>(frame->layout())->addStretch();
   frame->layout()->addWidget(Hint(controls.Label4(1), 2));

@@ -124,7 +124,8 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
     case kFileSaveAs:
       return Save_As(record);
     case kFilePrint:
-      return Port().text.print();
+      if (!Port().text.print()) Port().report.print();
+      return;
     case kFilePrintSetup:
       return Show_Printer_Setup();
     case kFileExit:

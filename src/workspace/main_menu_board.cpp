@@ -69,7 +69,7 @@ QGroupBox* Database_Information(Main_Controls& controls) {
 }
 
 QGroupBox* Analysis_Types(Main_Controls& controls) {
-  auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D5", "Type of Analysis");
+  auto* frame = Frame(new QGroupBox(controls.Frame3D1), "Frame3D5", kAnalysisFrame);
   auto* lines = Lines(frame, kLineGap);
   for (int i = 0; i < 3; ++i) {
     controls.SSOption1(i)->setText(QLatin1String(kAnalysisCaptions[static_cast<std::size_t>(i)]));
@@ -79,7 +79,7 @@ QGroupBox* Analysis_Types(Main_Controls& controls) {
 }
 
 QGroupBox* Disposal_Methods(Main_Controls& controls) {
-  auto* frame = Frame(controls.MethodFrame, "Frame3D6", "Method of Disposal");
+  auto* frame = Frame(controls.MethodFrame, "Frame3D6", kMethodFrame);
   auto* lines = Lines(frame, kLineGap);
   for (int i = 0; i < 2; ++i) {
     controls.SSOption2(i)->setText(QLatin1String(kMethodCaptions[static_cast<std::size_t>(i)]));

@@ -4,8 +4,8 @@
 
 #include "core/desk/recent_files.h"
 #include "core/desk/screen_register.h"
+#include "core/desk/workspace_port.h"
 #include "workspace/menu_items.h"
-#include "workspace/text_documents.h"
 
 namespace barvon {
 namespace {
@@ -108,7 +108,8 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
 void Show_Print_Item(Main_Controls& controls) {
   // Beside the gate, which it shares with Save, a text that is looked at opens it.
   const bool project = Action_Of(controls, "mnuFileItem", kFileSave)->isEnabled();
-  Action_Of(controls, "mnuFileItem", kFilePrint)->setEnabled(project || Documents().Active() != 0);
+  Action_Of(controls, "mnuFileItem", kFilePrint)
+      ->setEnabled(project || Port().text.has_document());
 }
 
 // An entry can be checked only while it has its mark, so that the menu keeps no room for others.

@@ -164,9 +164,6 @@ void Main::Fill_Port() {
     controls_.status_area->Show_Run(running, program);
   };
   Fill_Text_Port(Project());
-  Port().text.print = [this] {
-    controls_.status_area->Show_Note({"There is no text to print.", ""});
-  };
 }
 
 void Main::Set_Caption(const std::string& caption) {

@@ -10,9 +10,13 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
+#include "platform/ask/busy_cursor.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/qt/qt_document_opener.h"
+#include "platform/qt/session_printer.h"
 #include "workspace/frm_note_pad.h"
 #include "workspace/text_documents.h"
 
@@ -46,6 +50,18 @@ frmNotePad* New_Text(const QWidget& main) {
   return text;
 }
 
+/// Print, of the text that a person looks at. False when there is none.
+bool Print_Text_In_Front() {
+  const frmNotePad* text = Window_Of(Documents().Active());
+  if (text == nullptr) return false;
+  QPrinter& printer = Session_Printer();
+  printer.setDocName(QString::fromStdString(Name_Of(text->Caption())));
+  if (!Ask_Printer("Print Text", 0)) return true;
+  const Busy_Cursor waiting;
+  if (!Print_Active_Text(printer)) Show_Critical("The Text Could Not Be Printed.");
+  return true;
+}
+
 /// The output of the project when there is one, otherwise its folder.
 std::string Offered() {
   const std::string& project = Project().ProjectFileName;
@@ -62,6 +78,7 @@ void Register_frmNotePad(QWidget* main) {
     const std::optional<std::string> path = Ask_Text_To_Open(Offered());
     if (path && !Open_Text(*path, *main)) Tell_Not_Opened(*path);
   });
+  Port().text.print = Print_Text_In_Front;
   Set_Own_Text_Window([alive = QPointer<QWidget>(main)](const std::string& path) {
     return alive && Open_Text(path, *alive);
   });

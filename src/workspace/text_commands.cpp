@@ -82,6 +82,7 @@ void Fill_Text_Port(ProjectRecord& record) {
     const Text_Document* text = Documents().Document(Changed_Text());
     return text != nullptr ? text->Caption() : std::string();
   };
+  port.has_document = [] { return Documents().Active() != 0; };
   port.save = [&record] { return Save_Text(Changed_Text(), record); };
   port.active = []() -> std::optional<std::string> {
     Text_Document* text = Documents().Document(Documents().Last_In_Front());

@@ -48,12 +48,16 @@ const std::map<std::string, Room_Rule>& Table() {
       {"wizard", {kPlain, kScreens}},
       {"site",
        {{"core", "platform", "pictures/shapes", "pictures/drawings", "material/amden"}, kScreens}},
+      {"report",
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks/check_data",
+         "checks/error_entries", "checks/remarks", "site", "material", "params"},
+        {"platform/qt", "pictures"}}},
       {"workspace",
        {{"core", "platform", "pictures/shapes", "pictures/drawings", "run", "checks/check_data",
          "checks/error_entries"},
         {"platform/qt"}}},
       {"batch",
-       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks", "run",
+       {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks", "run", "report",
          "database/database_check", "database/database_finding"},
         {}}},
       {"batch_main.cpp", {{"batch", "core", "platform", "checks", "run"}, {}}},
@@ -230,6 +234,10 @@ TEST(IncludeDirections, Upward_And_Sideways_Includes_Are_Not_Allowed) {
   EXPECT_TRUE(May_Include("site/frm.cpp", "pictures/b.h", true));
   EXPECT_FALSE(May_Include("site/a.cpp", "pictures/b.h", false));
   EXPECT_FALSE(May_Include("pictures/a.cpp", "core/b.h", true));
+  EXPECT_TRUE(May_Include("report/a.cpp", "params/simulation_data.h", false));
+  EXPECT_FALSE(May_Include("report/a.cpp", "workspace/b.h", false));
+  EXPECT_FALSE(May_Include("params/a.cpp", "report/b.h", false));
+  EXPECT_TRUE(May_Include("batch/a.cpp", "report/project_report.h", false));
 }
 
 TEST(IncludeDirections, Plain_Files_Know_The_Plain_Part_Of_Pictures_And_No_More) {

@@ -49,6 +49,18 @@ TEST(ShapePainter, Paints_Fills_Lines_And_Circles_Where_They_Are) {
   }
 }
 
+TEST(ShapePainter, Letters_Have_Their_Size_To_A_Fraction_And_Bold_Ones_Are_Blacker) {
+  const auto ink = [](double size, bool bold) {
+    Shape_List picture{240, 40, "", "", {}};
+    picture.shapes.push_back(
+        Text_Shape{{4, 30}, "HHHHHHHH", size, {0, 0, 0}, Anchor::start, false, bold});
+    return Count_Pixels(Painted(picture), QRect(0, 0, 240, 40), Qt::black, 200);
+  };
+  EXPECT_GT(ink(14.5, false), ink(14, false));
+  EXPECT_LT(ink(14.5, false), ink(16, false));
+  EXPECT_GT(ink(14, true), ink(14, false));
+}
+
 TEST(ShapePainter, Text_Lies_On_The_Side_That_Its_Anchor_Names) {
   const auto ink = [](Anchor anchor, bool upwards, const QRect& area) {
     Shape_List picture{120, 120, "", "", {}};

@@ -45,7 +45,12 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
   };
   port.text.has_changed = [this] { return text_has_changed_; };
   port.text.caption = [] { return std::string("Untitled"); };
-  port.text.print = [this] { log_.push_back("print"); };
+  port.text.print = [this] {
+    if (!has_document_) return false;
+    log_.push_back("print");
+    return true;
+  };
+  port.report.print = [this] { log_.push_back("print report"); };
   File_Dialog_Presenter dialogs;
   dialogs.open = [this](const File_Request& request) {
     open_asked_.push_back(request);

@@ -38,6 +38,7 @@ class Recorded_Workspace : public ::testing::Test {
   std::string caption_;
   std::vector<std::string> notes_, note_details_;
   bool text_has_changed_ = false;
+  bool has_document_ = false;
   std::optional<std::string> chosen_;     // the answer of the next file dialogs
   std::vector<File_Request> open_asked_;  // what the open dialog was shown with
   std::vector<File_Request> save_asked_;  // what the save dialog was shown with

@@ -332,8 +332,12 @@ TEST_F(FileMenu, A_Save_As_That_Fails_Does_Not_Claim_The_New_Name) {
 
 TEST_F(FileMenu, Print_And_Printer_Setup_Go_To_Their_Places) {
   Scripted_Messages messages;
+  has_document_ = true;
   Click(kFilePrint);
   EXPECT_EQ(log_, Lines{"print"});
+  has_document_ = false;
+  Click(kFilePrint);
+  EXPECT_EQ(log_, (Lines{"print", "print report"}));
   Click(kFilePrintSetup);
   EXPECT_EQ(printer_setups_, 1);
 }

@@ -39,7 +39,10 @@ class MenuEntries : public ::testing::Test {
       Register_Screen(row, [this](bool, const std::string&) { ++heard; });
     }
     Port().board.show_note = [this](const Status_Note&) { ++heard; };
-    Port().text.print = [this] { ++heard; };
+    Port().text.print = [this] {
+      ++heard;
+      return true;
+    };
   }
   ~MenuEntries() override {
     for (const Screen_Row& row : kScreens) Register_Screen(row, {});

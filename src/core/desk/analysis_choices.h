@@ -8,6 +8,12 @@ namespace barvon {
 // How the choices of a study read, on the main window and wherever else they are made. The option
 // of an index stands for the same on both.
 
+/// The groups of options.
+inline constexpr char kAnalysisFrame[] = "Type of Analysis", kMethodFrame[] = "Method of Disposal",
+                      kSimulationFrame[] = "Simulation Type",
+                      kEvaluationFrame[] = "Evaluation Type",
+                      kVelocityTypeFrame[] = "Type of Velocity";
+
 inline constexpr std::array<const char*, 3> kAnalysisCaptions = {
     "General Open Water Disposal Analysis", "Section 103 Regulatory Analysis for Ocean Sites",
     "Section 404(b)(1) Regulatory Analysis for US Navigable Waters"};

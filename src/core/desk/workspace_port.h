@@ -77,8 +77,10 @@ struct Text_Port {
   /// the save off; and what its caption becomes after a save.
   std::function<std::optional<std::string>()> active = [] { return std::string(); };
   std::function<void(const std::string&)> set_caption = [](const std::string&) {};
-  /// Prints the text of the window in front.
-  std::function<void()> print = [] {};
+  /// Whether a document is the window in front.
+  std::function<bool()> has_document = [] { return false; };
+  /// Prints the text of the window in front. False when none is there.
+  std::function<bool()> print = [] { return false; };
 };
 
 /// Who shows the run under way.
@@ -86,6 +88,11 @@ struct Run_Port {
   /// True when a program has been started, false when it has ended.
   std::function<void(bool running, const std::string& program)> state = [](bool,
                                                                            const std::string&) {};
+};
+
+/// The report of the project.
+struct Report_Port {
+  std::function<void()> print = [] {};
 };
 
 /// The data wizard, which leads through other screens.
@@ -111,6 +118,7 @@ struct Workspace_Port {
   Board_Port board;
   Text_Port text;
   Run_Port run;
+  Report_Port report;
   Wizard_Port wizard;
   Dilution_Port dilution;
 };

@@ -63,6 +63,7 @@ struct Text_Shape {
   Colour colour = {};
   Anchor anchor = Anchor::start;
   bool upwards = false;  // turned about its place, to be read from below
+  bool bold = false;
 };
 
 using Shape = std::variant<Line_Shape, Polygon_Shape, Circle_Shape, Text_Shape>;

@@ -69,6 +69,7 @@ std::string Element(const Text_Shape& text) {
                         Attribute("fill", Name_Of(text.colour));
   if (text.anchor == Anchor::middle) element += Attribute("text-anchor", "middle");
   if (text.anchor == Anchor::end) element += Attribute("text-anchor", "end");
+  if (text.bold) element += Attribute("font-weight", "bold");
   if (text.upwards) element += Attribute("transform", "rotate(-90 " + x + " " + y + ")");
   return element + ">" + Svg_Escaped(text.text) + "</text>";
 }

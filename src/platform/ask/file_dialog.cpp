@@ -20,6 +20,10 @@ std::optional<std::string> Ask_Save_File(const File_Request& request) {
   return Presenter().save ? Presenter().save(request) : std::nullopt;
 }
 
+bool Ask_Printer(const std::string& title, int pages) {
+  return Presenter().printer && Presenter().printer(title, pages);
+}
+
 void Show_Printer_Setup() {
   if (Presenter().printer_setup) Presenter().printer_setup();
 }

@@ -27,6 +27,8 @@ struct File_Dialog_Presenter {
   std::function<std::optional<std::string>(const File_Request&)> open;
   std::function<std::optional<std::string>(const File_Request&)> save;
   std::function<void()> printer_setup;
+  /// For so many pages; see Ask_Printer.
+  std::function<bool(const std::string& title, int pages)> printer = {};
 };
 
 /// Asks for an existing file. Nothing when the user cancels or no presenter is in place.
@@ -35,6 +37,10 @@ std::optional<std::string> Ask_Open_File(const File_Request& request);
 std::optional<std::string> Ask_Save_File(const File_Request& request);
 /// Shows the common printer set-up dialog.
 void Show_Printer_Setup();
+/// Asks for the printer and the pages of what is printed; `pages` is 0 where their number shows in
+/// the printing alone. False when the user cancels or no
+/// presenter is in place.
+bool Ask_Printer(const std::string& title, int pages);
 
 /// Puts another presenter in place and returns the one that was there.
 File_Dialog_Presenter Set_File_Dialog_Presenter(File_Dialog_Presenter presenter);

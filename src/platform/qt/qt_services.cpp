@@ -50,8 +50,8 @@ void Pump_Qt_Events(std::chrono::milliseconds longest) {
 
 Qt_Services::Qt_Services() {
   messages_ = Set_Message_Presenter(Show_Qt_Message);
-  file_dialogs_ =
-      Set_File_Dialog_Presenter({Ask_Qt_Open_File, Ask_Qt_Save_File, Show_Qt_Printer_Setup});
+  file_dialogs_ = Set_File_Dialog_Presenter(
+      {Ask_Qt_Open_File, Ask_Qt_Save_File, Show_Qt_Printer_Setup, Ask_Qt_Printer});
   progress_displays_ = Set_Progress_Presenter({
       [this](const std::string& caption) {
         delete progress_;

@@ -30,7 +30,9 @@ void Call_Every_Entry() {
   EXPECT_EQ(port.text.caption(), "");
   EXPECT_EQ(port.text.active(), "");
   port.text.set_caption("x");
-  port.text.print();
+  EXPECT_FALSE(port.text.has_document());
+  EXPECT_FALSE(port.text.print());
+  port.report.print();
   port.run.state(true, "x");
   port.wizard.screen_accepted(Row_Of_Screen("frmVelocity"));
   port.dilution.close();

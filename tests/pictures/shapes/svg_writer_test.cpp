@@ -89,5 +89,13 @@ TEST(SvgWriter, Letters_Beyond_Ascii_Go_Through_And_Others_Do_No_Harm) {
   EXPECT_EQ(Svg_Escaped("\xEF\xBF\xBF-\xEF\xBF\xBD"), "-\xEF\xBF\xBD");
 }
 
+TEST(SvgWriter, Bold_Letters_Are_Named_So) {
+  Shape_List picture{9, 9, "", "", {}};
+  picture.shapes.push_back(Text_Shape{{1, 2}, "B", 8, {0, 0, 0}, Anchor::start, false, true});
+  EXPECT_NE(Svg_Text(picture).find("<text x=\"1\" y=\"2\" font-size=\"8\" fill=\"#000000\""
+                                   " font-weight=\"bold\">B</text>"),
+            std::string::npos);
+}
+
 }  // namespace
 }  // namespace barvon

@@ -3,12 +3,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QTreeView>
 
 #include "platform/qt/ask/qt_message_box.h"
+#include "platform/qt/session_printer.h"
 
 namespace barvon {
 namespace {
@@ -46,6 +49,12 @@ class File_Dialog : public QFileDialog {
     setNameFilters(filters);
     Offer(QString::fromStdString(request.name));
     Make_Room();
+    if (mode == AcceptSave && request.filters.size() > 1) {
+      for (const File_Filter& filter : request.filters) {
+        suffixes_ << QString::fromStdString(filter.pattern).remove(QLatin1Char('*'));
+      }
+      connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Follow_Filter);
+    }
   }
 
   std::optional<std::string> Ask() {
@@ -68,6 +77,18 @@ class File_Dialog : public QFileDialog {
     if (files == nullptr) return;
     files->hideColumn(kType);
     files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+
+  /// The name that is offered or typed goes with the kind of file that is chosen.
+  void Follow_Filter(const QString& filter) {
+    auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (edit == nullptr || edit->text().isEmpty()) return;
+    QString name = edit->text(), wanted;
+    for (const QString& suffix : suffixes_) {
+      if (filter.contains(suffix)) wanted = suffix;
+      if (name.endsWith(suffix, Qt::CaseInsensitive)) name.chop(suffix.size());
+    }
+    edit->setText(name + wanted);
   }
 
   void Offer(const QString& name) {
@@ -100,6 +121,7 @@ class File_Dialog : public QFileDialog {
   }
 
   std::function<std::string(const std::string&)> complete_;
+  QStringList suffixes_;  // of the filters, when there are several to save by
   inline static QString last_folder_;
 };
 
@@ -114,9 +136,22 @@ std::optional<std::string> Ask_Qt_Save_File(const File_Request& request) {
 }
 
 void Show_Qt_Printer_Setup() {
-  static QPrinter printer;
-  QPageSetupDialog dialog(&printer, Window_In_Front());
+  QPageSetupDialog dialog(&Session_Printer(), Window_In_Front());
   dialog.exec();
+}
+
+bool Ask_Qt_Printer(const std::string& title, int pages) {
+  QPrinter& printer = Session_Printer();
+  // A range is for one print: of the next text it would leave pages out.
+  printer.setPrintRange(QPrinter::AllPages);
+  printer.setFromTo(0, 0);
+  QPrintDialog dialog(&printer, Window_In_Front());
+  dialog.setWindowTitle(QString::fromStdString(title));
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                    QAbstractPrintDialog::PrintShowPageSize |
+                    QAbstractPrintDialog::PrintCollateCopies);
+  if (pages > 0) dialog.setMinMax(1, pages);
+  return dialog.exec() == QDialog::Accepted;
 }
 
 }  // namespace barvon

@@ -14,5 +14,6 @@ std::optional<std::string> Ask_Qt_Save_File(const File_Request& request);
 
 /// The common printer set-up dialog; what is set there holds until the program ends.
 void Show_Qt_Printer_Setup();
+bool Ask_Qt_Printer(const std::string& title, int pages);
 
 }  // namespace barvon

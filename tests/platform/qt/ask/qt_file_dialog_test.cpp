@@ -77,6 +77,29 @@ TEST(OpenDialog, Gives_The_Full_Path_Of_The_Chosen_File) {
   EXPECT_EQ(Ask_Qt_Open_File({"", {kProjects}, folder.path()}), folder / "Site & <1>.dui");
 }
 
+TEST(SaveDialog, The_Name_Follows_The_Kind_That_Is_Chosen) {
+  Scratch_Folder folder;
+  QStringList names;
+  Modal_Replies replies({[&](QWidget* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    const auto choose = [&](int kind) {
+      emit files->filterSelected(files->nameFilters().at(kind));
+      names << Name_Field(dialog)->text();
+    };
+    choose(1);
+    Name_Field(dialog)->setText("my.site.PDF");
+    choose(1);
+    choose(0);
+    Name_Field(dialog)->clear();
+    choose(1);
+    dialog->close();
+  }});
+  Ask_Qt_Save_File({"",
+                    {{"PDF Documents (*.pdf)", "*.pdf"}, {"Web Pages (*.html)", "*.html"}},
+                    folder / "bay.pdf"});
+  EXPECT_EQ(names, QStringList({"bay.html", "my.site.html", "my.site.pdf", ""}));
+}
+
 TEST(SaveDialog, Offers_The_Name_It_Was_Given) {
   Scratch_Folder folder;
   QString offered;

@@ -1,0 +1,64 @@
+#include "batch/batch_products.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <system_error>
+
+#include "batch/batch_output.h"
+#include "batch/batch_project.h"
+#include "batch/interrupts.h"
+#include "batch/target_key.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+
+namespace barvon {
+namespace {
+
+bool Is_Folder(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::is_directory(path, error);
+}
+
+std::string Target_Of(const std::string& file, const std::string& output, const char* extension) {
+  const std::string beside = With_Extension(Project_Path(file), extension);
+  if (output.empty()) return Path_To_Write(beside);
+  const std::string path = Absolute_Path(output);
+  return Path_To_Write(Is_Folder(path) ? Join_Path(path, Name_Of(beside)) : path);
+}
+
+}  // namespace
+
+int Write_Products(const Batch_Options& options, const Batch_Product& product) {
+  const bool to_folder = !options.output.empty() && Is_Folder(Absolute_Path(options.output));
+  if (options.files.size() > 1 && !options.output.empty() && !to_folder) {
+    Say_Problem(options.output, product.to_folder);
+    return kNotDone;
+  }
+  int worst = kDone;
+  std::map<std::string, std::string> sources;  // by what they write
+  for (const std::string& file : options.files) {
+    if (Interrupt_Seen() != 0) return kNotDone;
+    const std::string target = Target_Of(file, options.output, product.extension);
+    const auto [other, first] = sources.emplace(Target_Key(target), file);
+    if (!first && Target_Key(Project_Path(other->second)) == Target_Key(Project_Path(file))) {
+      continue;  // the same project again: it is written
+    }
+    if (!first) {
+      Say_Problem(file,
+                  std::string("its ") + product.name + " would overwrite that of " + other->second);
+      worst = kNotDone;
+      continue;
+    }
+    if (Is_Project_Name(target)) {
+      Say_Problem(file,
+                  std::string("a ") + product.name + " is not written over a project: " + target);
+      worst = kNotDone;
+      continue;
+    }
+    worst = std::max(worst, product.write(file, target));
+  }
+  return worst;
+}
+
+}  // namespace barvon

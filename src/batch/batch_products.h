@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "batch/batch_options.h"
+
+namespace barvon {
+
+/// A file that is made of each project.
+struct Batch_Product {
+  const char* name;       // "model input"
+  const char* extension;  // without the point
+  const char* to_folder;  // what several projects ask of --output, in words
+  /// Makes the file of a project under a path; an exit code.
+  std::function<int(const std::string& file, const std::string& target)> write;
+};
+
+/// Makes the file of each project: beside it, into a folder, or for a single project under the name
+/// that --output gives. Two projects never write the same file, and none is written over a project.
+/// Returns the worst exit code.
+int Write_Products(const Batch_Options& options, const Batch_Product& product);
+
+}  // namespace barvon

@@ -1,0 +1,111 @@
+#include "report/report_blocks.h"
+
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
+#include "pictures/shapes/lettering.h"
+
+namespace barvon {
+namespace {
+
+constexpr double kBold = 1.06;   // bold letters are so much wider
+constexpr double kBelow = 0.35;  // of the size
+
+struct Mover {
+  double x, y, scale;
+  Place operator()(const Place& place) const { return {x + place.x * scale, y + place.y * scale}; }
+  Stroke operator()(Stroke stroke) const {
+    stroke.width *= scale;
+    return stroke;
+  }
+  void Move(Line_Shape& line) const {
+    for (Place& place : line.points) place = (*this)(place);
+    line.stroke = (*this)(line.stroke);
+  }
+  void Move(Polygon_Shape& polygon) const {
+    for (Place& place : polygon.points) place = (*this)(place);
+    if (polygon.stroke) polygon.stroke = (*this)(*polygon.stroke);
+  }
+  void Move(Circle_Shape& circle) const {
+    circle.centre = (*this)(circle.centre);
+    circle.radius *= scale;
+    if (circle.stroke) circle.stroke = (*this)(*circle.stroke);
+  }
+  void Move(Text_Shape& text) const {
+    text.place = (*this)(text.place);
+    text.size *= scale;
+  }
+};
+
+}  // namespace
+
+double Wide_Letters(const std::string& text, double size, bool bold) {
+  return Text_Width(text, size) * (bold ? kBold : 1);
+}
+
+std::vector<std::string> Text_Setting::Wrap(const std::string& text, double size, double width,
+                                            bool bold) const {
+  std::vector<std::string> lines;
+  for (const std::string& paragraph : Lines_Of(text)) {
+    std::istringstream words(paragraph);
+    std::string line;
+    for (std::string word; words >> word;) {
+      std::string longer = line;
+      if (!line.empty()) longer += ' ';
+      longer += word;
+      if (!line.empty() && Width(longer, size, bold) > width) {
+        lines.push_back(std::exchange(line, word));
+      } else {
+        line = std::move(longer);
+      }
+    }
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+double Text_Setting::Longest_Word(const std::string& text, double size, bool bold) const {
+  double longest = 0;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) longest = std::max(longest, Width(word, size, bold));
+  return longest;
+}
+
+void Add_Text(Page_Block& block, Place baseline, const std::string& text, double size,
+              Colour colour, Anchor anchor, bool bold) {
+  block.shapes.push_back(Text_Shape{baseline, text, size, colour, anchor, false, bold});
+}
+
+void Add_Rule(Page_Block& block, Place from, double length, const Stroke& stroke) {
+  block.shapes.push_back(Line_Shape{{from, {from.x + length, from.y}}, stroke});
+}
+
+double Below_Baseline(double size) { return kBelow * size; }
+
+Page_Block Block_Of_Lines(const std::vector<std::string>& lines, double size, Colour colour,
+                          bool bold) {
+  Page_Block block;
+  for (const std::string& line : lines) {
+    block.height += kReportLine * size;
+    Add_Text(block, {0, block.height - Below_Baseline(size)}, line, size, colour, Anchor::start,
+             bold);
+  }
+  return block;
+}
+
+std::vector<std::string> Lines_Of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream all(text);
+  for (std::string line; std::getline(all, line);) lines.push_back(line);
+  if (lines.empty()) lines.emplace_back();
+  return lines;
+}
+
+Shape Moved(Shape shape, Place corner, double scale) {
+  const Mover mover{corner.x, corner.y, scale};
+  std::visit([&](auto& known) { mover.Move(known); }, shape);
+  return shape;
+}
+
+}  // namespace barvon

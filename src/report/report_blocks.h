@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "pictures/shapes/shapes.h"
+
+namespace barvon {
+
+// What the pages of a report are put together from. Lengths are in points (1/72 inch).
+
+/// The width of a text in letters of a size.
+using Text_Measure = std::function<double(const std::string& text, double size, bool bold)>;
+
+/// The measure for letters that are not known: wide ones.
+double Wide_Letters(const std::string& text, double size, bool bold);
+
+inline constexpr double kReportTextSize = 9.5;
+inline constexpr double kReportLine = 1.32;  // height of a line, of its size
+
+/// How texts are set.
+struct Text_Setting {
+  const Text_Measure& measure;
+
+  double Width(const std::string& text, double size, bool bold) const {
+    return measure(text, size, bold);
+  }
+  /// In lines of at most that width, broken at blanks and line breaks; a longer word has a line of
+  /// its own.
+  std::vector<std::string> Wrap(const std::string& text, double size, double width,
+                                bool bold) const;
+  double Longest_Word(const std::string& text, double size, bool bold) const;
+};
+
+/// Something that is never parted, with its upper left corner at 0, 0.
+struct Page_Block {
+  double height = 0;
+  std::vector<Shape> shapes;
+};
+
+void Add_Text(Page_Block& block, Place baseline, const std::string& text, double size,
+              Colour colour, Anchor anchor = Anchor::start, bool bold = false);
+void Add_Rule(Page_Block& block, Place from, double length, const Stroke& stroke);
+/// From a line's bottom up to its baseline.
+double Below_Baseline(double size);
+
+Page_Block Block_Of_Lines(const std::vector<std::string>& lines, double size, Colour colour,
+                          bool bold);
+
+/// The lines of a text that has line breaks; one at least.
+std::vector<std::string> Lines_Of(const std::string& text);
+
+/// The shape with its corner at that place, so many times as large.
+Shape Moved(Shape shape, Place corner, double scale = 1);
+
+}  // namespace barvon
