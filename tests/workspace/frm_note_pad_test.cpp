@@ -21,6 +21,7 @@
 #include "platform/ask/message_box.h"
 #include "platform/process/document_opener.h"
 #include "platform/qt/qt_document_opener.h"
+#include "platform/qt/session_printer.h"
 #include "support/screen_support.h"
 #include "workspace/note_pads.h"
 #include "workspace/text_documents.h"
@@ -374,10 +375,20 @@ TEST_F(NotePad, Print_Is_For_The_Text_In_Front_Until_A_Person_Turns_To_The_Board
   EXPECT_FALSE(Active_Text());
   EXPECT_FALSE(Print_Active_Text(printer));
   EXPECT_FALSE(bench.Action("mnuFileItem(7)")->isEnabled());
-  int printed = 0;
-  Port().text.print = [&printed] { printed += Active_Text() ? 1 : 100; };
+  EXPECT_FALSE(Port().text.print());
+  int asked = 0;
+  File_Dialog_Presenter to_file;
+  to_file.printer = [&](const std::string&, int) {
+    ++asked;
+    Session_Printer().setOutputFormat(QPrinter::PdfFormat);
+    Session_Printer().setOutputFileName(QString::fromStdString(bench.folder / "printed.pdf"));
+    return true;
+  };
+  const auto former = Set_File_Dialog_Presenter(to_file);
   Do(text, "Print");
-  EXPECT_EQ(printed, 1);
+  Set_File_Dialog_Presenter(former);
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(Saved("printed.pdf").substr(0, 5), "%PDF-");
 }
 
 TEST_F(NotePad, A_Font_Is_Set_In_The_Text_In_Front_Alone) {
