@@ -1,8 +1,11 @@
 #include "dilution/dilution_mirror.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
+#include "core/text_tools.h"
+#include "dilution/dilution_file.h"
 #include "dilution/dilution_grid.h"
 
 namespace barvon {
@@ -10,12 +13,27 @@ namespace {
 
 std::size_t At(int row) { return static_cast<std::size_t>(row); }
 
+/// Whether a name is as much of the other as a file keeps.
+bool Is_Cut_From(std::string_view cut, std::string_view whole) {
+  return Character_Count(cut) == std::size_t{kDilutionNameLength} && whole.starts_with(cut);
+}
+
+/// Blanks around a name are not seen, and a list that was saved and pasted anew is the same one.
+bool Are_Same(std::string_view one, std::string_view other) {
+  const std::string a = Trimmed(one), b = Trimmed(other);
+  return a == b || Is_Cut_From(a, b) || Is_Cut_From(b, a);
+}
+
+bool Holds(const std::set<std::string>& names, const std::string& name) {
+  return std::ranges::any_of(names, [&](const std::string& each) { return Are_Same(each, name); });
+}
+
 /// A row of an edit, with the name that it had before.
 struct Edited_Row {
   int row = 0;
   std::string former, name;
   bool emptied = false;
-  bool is_renamed() const { return name != former; }
+  bool is_renamed() const { return !Are_Same(name, former); }
 };
 
 /// The other table still shows the former names. A row of which only the name goes is not emptied.
@@ -58,6 +76,20 @@ void Keep(Kept_Concentration lifted, Dilution_Tab tab, Dilution_Grids& grids) {
   if (Is_Entered(lifted.shown)) grids.kept[tab].push_back(std::move(lifted));
 }
 
+bool Belongs_To(const Kept_Concentration& kept, const std::string& name) {
+  return Are_Same(kept.name, name) || (kept.name.empty() && Holds(kept.note.names, name));
+}
+
+template <class Fits>
+std::optional<Kept_Concentration> Take_Last(std::vector<Kept_Concentration>& from,
+                                            const Fits& fits) {
+  const auto found = std::find_if(from.rbegin(), from.rend(), fits);
+  if (found == from.rend()) return std::nullopt;
+  Kept_Concentration taken = std::move(*found);
+  from.erase(std::next(found).base());
+  return taken;
+}
+
 template <class Fits>
 std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& from,
                                              const Fits& fits) {
@@ -68,16 +100,16 @@ std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& fr
   return taken;
 }
 
-/// What is kept for the name: what has left this very row, or else any.
+/// What is kept for the name: what has left this very row, or else any. The latest is what counts.
 std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, const Edited_Row& row,
                                             Dilution_Grids& grids) {
   auto& kept = grids.kept[tab];
-  auto found = Take_First(kept, [&](const Kept_Concentration& each) {
-    return each.row == row.row &&
-           (each.name == row.name || (each.name.empty() && each.note.names.contains(row.name)));
+  auto found = Take_Last(kept, [&](const Kept_Concentration& each) {
+    return each.row == row.row && Belongs_To(each, row.name);
   });
   if (found || row.name.empty()) return found;
-  return Take_First(kept, [&](const Kept_Concentration& each) { return each.name == row.name; });
+  return Take_Last(kept,
+                   [&](const Kept_Concentration& each) { return Belongs_To(each, row.name); });
 }
 
 /// One parameter is called something else now, or has got its name.
@@ -113,12 +145,13 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   };
   put_each([&](const Edited_Row& row) {
     if (row.name.empty()) return std::optional<Kept_Concentration>();
-    auto found = Take_First(lifted, [&](const auto& each) { return each.name == row.name; });
+    auto found =
+        Take_First(lifted, [&](const auto& each) { return Are_Same(each.name, row.name); });
     return found ? found : Take_Kept(tab, row, grids);
   });
   // One that was renamed meanwhile, when a paste is undone.
   put_each([&](const Edited_Row& row) {
-    return Take_First(lifted, [&](const auto& each) { return each.note.names.contains(row.name); });
+    return Take_First(lifted, [&](const auto& each) { return Holds(each.note.names, row.name); });
   });
   // A row without a name, before or now, keeps its own.
   put_each([&](const Edited_Row& row) {
@@ -131,18 +164,18 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   for (Kept_Concentration& each : lifted) Keep(std::move(each), tab, grids);
 }
 
-/// Names of several rows have become others. Names that were only cleared are typed anew in their
+/// Whether names have become others, as a paste makes them. A single cell is a name that is typed:
+/// the parameter is called something else. Names that were only cleared are typed anew in their
 /// rows, and names of rows that had none belong to what is there.
-bool Names_Are_Others(const std::vector<Edited_Row>& rows) {
-  const auto renamed = std::ranges::count_if(rows, &Edited_Row::is_renamed);
-  return renamed > 1 && std::ranges::any_of(rows, [](const Edited_Row& row) {
-           return row.is_renamed() && !row.name.empty() && !row.former.empty();
-         });
+bool Names_Are_Others(const std::vector<Edited_Row>& rows, const Cell_Range& range) {
+  if (range.rows() == 1 && range.cols() == 1) return false;
+  return std::ranges::any_of(rows, [](const Edited_Row& row) {
+    return row.is_renamed() && !row.name.empty() && !row.former.empty();
+  });
 }
 
-void Follow_In_Other_Tab(Dilution_Tab tab, const std::vector<Edited_Row>& rows,
+void Follow_In_Other_Tab(Dilution_Tab tab, const std::vector<Edited_Row>& rows, bool are_others,
                          Dilution_Grids& grids) {
-  const bool are_others = Names_Are_Others(rows);
   for (const Edited_Row& row : rows) {
     const bool was_alone = grids.notes[tab][At(row.row)].names.empty();
     if (row.emptied && !was_alone && !(are_others && row.is_renamed())) {
@@ -182,6 +215,24 @@ void Copy_Common(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution
       other.ValueRC(row.row, col, table.ValueRC(row.row, col));
     }
   }
+}
+
+/// What is kept for a name that stands in a row without a concentration goes there: a paste may
+/// bring the name before the row that it came from is emptied. True when there was such a row.
+bool Give_Kept_To_Their_Names(Dilution_Tab tab, Dilution_Grids& grids) {
+  if (grids.kept[tab].empty()) return false;
+  bool given = false;
+  for (int row = 1; row <= kMaxDilutionRows; ++row) {
+    const std::string name = grids(tab).TextRC(row, kNameColumn);
+    if (name.empty() || Holds_Concentration(tab, row, grids)) continue;
+    const auto kept = Take_Last(
+        grids.kept[tab], [&](const Kept_Concentration& each) { return Belongs_To(each, name); });
+    if (!kept) continue;
+    Put(*kept, tab, row, grids);
+    grids.notes[tab][At(row)].names.insert(name);
+    given = true;
+  }
+  return given;
 }
 
 /// A concentration that stands alone is nobody's until it is read under a name.
@@ -226,11 +277,12 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
     return cells;
   };
   const std::vector<Cell_Value> before = concentrations();
-  Follow_In_Other_Tab(other, rows, grids);
-  // Its history would bring back what belongs to other names now.
-  if (concentrations() != before) grids(other).ForgetEdits();
+  Follow_In_Other_Tab(other, rows, Names_Are_Others(rows, range), grids);
+  const bool moved = concentrations() != before;
   Note_Entered(tab, range, rows, grids);
   Copy_Common(tab, rows, grids);
+  // Its history would bring back what belongs to other names now.
+  if (Give_Kept_To_Their_Names(other, grids) || moved) grids(other).ForgetEdits();
   Forget_Names_Of_Lone_Ones(rows, grids);
   Follow_Results(rows, grids);
   // What is typed is shown as it was typed, in no pattern of the numbers of a file.

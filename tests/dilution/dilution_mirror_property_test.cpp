@@ -147,6 +147,24 @@ class DilutionMirrorProperty : public Dilution_Tables {
     for (const auto& [name, held] : moving) Keep(other, name, held);
     Do(before, [&] { Enter(tab_, Line(first), 1, cells); });
   }
+  /// A row with its concentration over another one: a new name, or one that was there once.
+  void Paste_Row() {
+    const std::size_t row = Any(kRows);
+    const Dilution_Tab other = Other_Tab(tab_);
+    Model_Row& line = model_.rows[row];
+    if (line.name.empty() || Was_Nameless(other, row)) return;
+    const Model before = model_;
+    std::string name = New_Name();
+    for (const auto& [each, held] : model_.kept[other]) {
+      if (!Stands(each) && Any(2) == 0) name = each;
+    }
+    Keep(other, line.name, std::exchange(line.held[other], {}));
+    line.name = name;
+    const std::string value = New_Value();
+    line.held[tab_] = {value, {0, Lenient_Number(value)}};
+    Name_Comes(other, row);
+    Do(before, [&] { Enter(tab_, Line(row), 1, {{name, value}}); });
+  }
   void Clear_Rows() {
     const Model before = model_;
     const std::size_t first = Any(kRows), last = std::min<std::size_t>(first + Any(2), kRows - 1);
@@ -310,7 +328,7 @@ class DilutionMirrorProperty : public Dilution_Tables {
     if (Lenient_Number(text) == 0) text = grids(tab).EntryRC(Line(row), col);
   }
   void Edit_Something() {
-    switch (Any(14)) {
+    switch (Any(15)) {
       case 0:
       case 1:
       case 2:
@@ -331,6 +349,8 @@ class DilutionMirrorProperty : public Dilution_Tables {
         return Redo();
       case 11:
         return Compute_List();
+      case 13:
+        return Paste_Row();
       case 12:
         return Any(3) == 0 ? Save_And_Reload() : Undo();
       default:

@@ -37,6 +37,10 @@ class DilutionMirror : public Dilution_Tables {
     Go(kBulkTab);
     Go(kElutriateTab);
   }
+  /// Cell by cell, as by hand.
+  void Type_Row(Dilution_Tab tab, int row, const Names& texts) {
+    for (int col = 1; const std::string& text : texts) Enter(tab, row, col++, {{text}});
+  }
   void Undo(Dilution_Tab tab) { Follow(tab, grids(tab).Undo()); }
   void Redo(Dilution_Tab tab) { Follow(tab, grids(tab).Redo()); }
   Names Row(Dilution_Tab tab, int row) {
@@ -53,7 +57,7 @@ class DilutionMirror : public Dilution_Tables {
 };
 
 TEST_F(DilutionMirror, Names_Criteria_And_Background_Stand_On_Both_Tabs_At_Once) {
-  Enter(kBulkTab, 2, 1, {{"Tin", "7", "1,200", "ND"}});
+  Type_Row(kBulkTab, 2, {"Tin", "7", "1,200", "ND"});
   EXPECT_EQ(Row(kElutriateTab, 2), (Names{"Tin", "5", "1,200", "ND"}));
   Enter(kElutriateTab, 3, 3, {{"4", "<1"}});
   EXPECT_EQ(Row(kBulkTab, 3), (Names{"7440-50-8", "5", "4", "<1"}));
@@ -111,7 +115,7 @@ TEST_F(DilutionMirror, The_Result_Of_An_Emptied_Row_Does_Not_Come_To_A_New_Param
 
 TEST_F(DilutionMirror, Nothing_Is_Undone_By_The_Word_That_A_Name_Is_Missing) {
   Clear(kBulkTab, {1, 1, 1, 1});
-  Enter(kBulkTab, 2, 1, {{"Zinc", "4444", "77", "33"}});
+  Type_Row(kBulkTab, 2, {"Zinc", "4444", "77", "33"});
   Scripted_Messages messages({Answer::Ok, Answer::Ok});
   Visit();
   EXPECT_EQ(messages.shown.size(), 2U);
@@ -123,7 +127,7 @@ TEST_F(DilutionMirror, Nothing_Is_Undone_By_The_Word_That_A_Name_Is_Missing) {
 
 TEST_F(DilutionMirror, What_Is_Entered_Below_An_Empty_Name_Stays_On_Both_Tabs) {
   Clear(kBulkTab, {2, 1, 2, 1});
-  Enter(kBulkTab, 3, 1, {{"Zinc", "4444", "77", "33"}});
+  Type_Row(kBulkTab, 3, {"Zinc", "4444", "77", "33"});
   Visit();
   Enter(kBulkTab, 2, 1, {{"Tin"}});
   Visit();
@@ -151,6 +155,65 @@ TEST_F(DilutionMirror, A_Pasted_Name_That_Is_Corrected_By_Hand_Has_Its_Concentra
   Redo(kBulkTab);
   Redo(kBulkTab);
   EXPECT_EQ(Column(kElutriateTab, 2, 2), (Names{"5", "26"}));
+}
+
+TEST_F(DilutionMirror, A_Row_Pasted_Over_Another_Parameter_Has_Its_Own_Concentration) {
+  Enter(kBulkTab, 2, 1, {{"7440-50-8", "5", "2", "2"}});
+  EXPECT_EQ(elutriate.TextRC(2, 2), "") << "not that of 007";
+  Clear(kBulkTab, {3, 1, 3, 7});
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"26", "9", "", "26"}));
+  Compute_Bulk();
+  EXPECT_EQ(record.DiluteElutriate[2], 9);
+  Undo(kBulkTab);
+  Undo(kBulkTab);
+  EXPECT_EQ(Column(kElutriateTab, 1, 4), (Names{"Copper total", "007", "7440-50-8", "2E5"}));
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"26", "5", "9", "26"}));
+}
+
+TEST_F(DilutionMirror, A_List_Pasted_Again_Without_One_Row_Keeps_Each_Concentration) {
+  Enter(kBulkTab, 1, 1, {{"Copper total", "1000"}, {"007", "500"}, {"2E5", "26"}});
+  Clear(kBulkTab, {4, 1, 4, 7});
+  EXPECT_EQ(Column(kElutriateTab, 1, 4), (Names{"Copper total", "007", "2E5", ""}));
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"26", "5", "26", ""}));
+}
+
+TEST_F(DilutionMirror, A_New_Parameter_Pasted_Over_Another_Has_Nothing_Of_It) {
+  Enter(kBulkTab, 2, 1, {{"Tin", "7", "1", "0"}});
+  EXPECT_EQ(Row(kElutriateTab, 2), (Names{"Tin", "", "1", "0"}));
+  Enter(kBulkTab, 2, 1, {{"007"}});
+  EXPECT_EQ(elutriate.TextRC(2, 2), "5");
+}
+
+TEST_F(DilutionMirror, The_Latest_Concentration_Is_The_One_That_Comes_Back) {
+  Clear(kBulkTab, {1, 1, 1, 7});
+  Enter(kElutriateTab, 1, 1, {{"Copper total", "22", "10", "2"}});
+  Clear(kBulkTab, {1, 1, 1, 7});
+  Undo(kBulkTab);
+  EXPECT_EQ(elutriate.TextRC(1, 2), "22");
+}
+
+TEST_F(DilutionMirror, A_Row_That_Is_Cut_In_Two_Goes_Takes_Its_Concentration_Along) {
+  Clear(kBulkTab, {2, 1, 2, 2});
+  Enter(kBulkTab, 6, 1, {{"007", "500"}});
+  Clear(kBulkTab, {2, 3, 2, 4});
+  Enter(kBulkTab, 6, 3, {{"0", "0"}});
+  EXPECT_EQ(Row(kElutriateTab, 6), (Names{"007", "5", "0", "0"}));
+  EXPECT_EQ(elutriate.TextRC(2, 2), "");
+}
+
+TEST_F(DilutionMirror, Blanks_And_What_A_File_Cuts_Make_No_Other_Names) {
+  Enter(kBulkTab, 1, 1, {{"Copper total "}, {" 007"}});
+  EXPECT_EQ(Column(kElutriateTab, 1, 2), (Names{"Copper total ", " 007"}));
+  EXPECT_EQ(Column(kElutriateTab, 2, 2), (Names{"26", "5"}));
+  Enter(kBulkTab, 1, 1, {{"Benzo(a)anthracene s"}, {"Polychlorinated biph"}});
+  Enter(kElutriateTab, 1, 2, {{"11"}, {"12"}});
+  Enter(kBulkTab, 1, 1, {{"Benzo(a)anthracene sum total"}, {"Polychlorinated biphenyls"}});
+  EXPECT_EQ(Column(kElutriateTab, 2, 2), (Names{"11", "12"}));
+  Enter(kBulkTab, 3, 1, {{"Polychlorinated biphenyl 28"}});
+  Enter(kBulkTab, 4, 1, {{"Polychlorinated biphenyl 52"}});
+  Enter(kBulkTab, 3, 1, {{"Polychlorinated biphenyl 52"}, {"Polychlorinated biphenyl 28"}});
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"11", "12", "26", "9"}))
+      << "the same 20 letters are not enough";
 }
 
 TEST_F(DilutionMirror, An_Undo_Over_Changes_Of_Tab_Restores_The_Concentrations) {
