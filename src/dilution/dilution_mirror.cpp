@@ -13,19 +13,21 @@ namespace {
 
 std::size_t At(int row) { return static_cast<std::size_t>(row); }
 
-/// Whether a name is as much of the other as a file keeps.
-bool Is_Cut_From(std::string_view cut, std::string_view whole) {
-  return Character_Count(cut) == std::size_t{kDilutionNameLength} && whole.starts_with(cut);
+/// Blanks around a name are not seen.
+bool Are_Equal(std::string_view one, std::string_view other) {
+  return Trimmed(one) == Trimmed(other);
 }
 
-/// Blanks around a name are not seen, and a list that was saved and pasted anew is the same one.
-bool Are_Same(std::string_view one, std::string_view other) {
+/// Whether one of two names is as much of the other as a file keeps.
+bool Is_One_Cut(std::string_view one, std::string_view other) {
   const std::string a = Trimmed(one), b = Trimmed(other);
-  return a == b || Is_Cut_From(a, b) || Is_Cut_From(b, a);
+  const std::string &cut = a.size() < b.size() ? a : b, &whole = a.size() < b.size() ? b : a;
+  return cut != whole && Character_Count(cut) == std::size_t{kDilutionNameLength} &&
+         whole.starts_with(cut);
 }
 
 bool Holds(const std::set<std::string>& names, const std::string& name) {
-  return std::ranges::any_of(names, [&](const std::string& each) { return Are_Same(each, name); });
+  return std::ranges::any_of(names, [&](const std::string& each) { return Are_Equal(each, name); });
 }
 
 /// A row of an edit, with the name that it had before.
@@ -33,7 +35,8 @@ struct Edited_Row {
   int row = 0;
   std::string former, name;
   bool emptied = false;
-  bool is_renamed() const { return !Are_Same(name, former); }
+  /// A list that was saved and is pasted anew has the same names, though the file has cut them.
+  bool is_renamed() const { return !Are_Equal(name, former) && !Is_One_Cut(name, former); }
 };
 
 /// The other table still shows the former names. A row of which only the name goes is not emptied.
@@ -77,7 +80,7 @@ void Keep(Kept_Concentration lifted, Dilution_Tab tab, Dilution_Grids& grids) {
 }
 
 bool Belongs_To(const Kept_Concentration& kept, const std::string& name) {
-  return Are_Same(kept.name, name) || (kept.name.empty() && Holds(kept.note.names, name));
+  return Are_Equal(kept.name, name) || (kept.name.empty() && Holds(kept.note.names, name));
 }
 
 template <class Fits>
@@ -101,15 +104,39 @@ std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& fr
 }
 
 /// What is kept for the name: what has left this very row, or else any. The latest is what counts.
-std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, const Edited_Row& row,
+/// A name that the file has cut is taken for its whole where it can be no other's.
+std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, int row, const std::string& name,
                                             Dilution_Grids& grids) {
   auto& kept = grids.kept[tab];
   auto found = Take_Last(kept, [&](const Kept_Concentration& each) {
-    return each.row == row.row && Belongs_To(each, row.name);
+    return each.row == row && Belongs_To(each, name);
   });
-  if (found || row.name.empty()) return found;
-  return Take_Last(kept,
-                   [&](const Kept_Concentration& each) { return Belongs_To(each, row.name); });
+  if (found || name.empty()) return found;
+  found = Take_Last(kept, [&](const Kept_Concentration& each) { return Belongs_To(each, name); });
+  if (found) return found;
+  const auto is_cut = [&](const Kept_Concentration& each) { return Is_One_Cut(each.name, name); };
+  if (std::ranges::count_if(kept, is_cut) != 1) return std::nullopt;
+  return Take_Last(kept, is_cut);
+}
+
+/// What went from the row to another one that awaited it: an undo has brought the name back.
+std::optional<Kept_Concentration> Take_Back(Dilution_Tab tab, const Edited_Row& row,
+                                            Dilution_Grids& grids) {
+  for (int from = 1; from <= kMaxDilutionRows; ++from) {
+    const Concentration_Note& note = grids.notes[tab][At(from)];
+    if (note.lent_by != row.row || !Holds(note.names, row.name)) continue;
+    Kept_Concentration taken = Lift(tab, {from, row.name, row.name}, grids);
+    grids.notes[tab][At(from)].awaits = true;
+    taken.note.lent_by = 0;
+    return taken;
+  }
+  return std::nullopt;
+}
+
+std::optional<Kept_Concentration> Find_Concentration(Dilution_Tab tab, const Edited_Row& row,
+                                                     Dilution_Grids& grids) {
+  auto found = Take_Kept(tab, row.row, row.name, grids);
+  return found || row.name.empty() ? found : Take_Back(tab, row, grids);
 }
 
 /// One parameter is called something else now, or has got its name.
@@ -120,17 +147,19 @@ void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids)
     if (!note.names.empty()) note.names.insert(row.name);
     return;
   }
-  if (const auto kept = Take_Kept(tab, row, grids)) {
-    Put(*kept, tab, row.row, grids);
-    grids.notes[tab][At(row.row)].names.insert(row.name);
-  }
+  const auto found = Find_Concentration(tab, row, grids);
+  if (found) Put(*found, tab, row.row, grids);
+  Concentration_Note& note = grids.notes[tab][At(row.row)];
+  if (found) note.names.insert(row.name);
+  note.awaits = !found;
 }
 
 void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
   std::vector<Kept_Concentration> lifted;
   std::vector<Edited_Row> open;
+  // Those with the name that they had too: of two rows of one name it may be the other's turn.
   for (const Edited_Row& row : rows) {
-    if (!row.is_renamed()) continue;
+    if (row.former.empty() && row.name.empty()) continue;
     lifted.push_back(Lift(tab, row, grids));
     open.push_back(row);
   }
@@ -145,9 +174,25 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   };
   put_each([&](const Edited_Row& row) {
     if (row.name.empty()) return std::optional<Kept_Concentration>();
-    auto found =
-        Take_First(lifted, [&](const auto& each) { return Are_Same(each.name, row.name); });
-    return found ? found : Take_Kept(tab, row, grids);
+    return Take_First(lifted, [&](const auto& each) { return Are_Equal(each.name, row.name); });
+  });
+  // Names that the file has cut go by their order, where there are as many as there were.
+  put_each([&](const Edited_Row& row) {
+    const auto was_cut = [&](const Kept_Concentration& each) {
+      return Is_One_Cut(each.name, row.name);
+    };
+    const auto first = std::ranges::find_if(lifted, was_cut);
+    if (first == lifted.end()) return std::optional<Kept_Concentration>();
+    const auto rivals = std::ranges::count_if(
+        open, [&](const Edited_Row& each) { return Is_One_Cut(first->name, each.name); });
+    if (std::ranges::count_if(lifted, was_cut) != rivals) {
+      return std::optional<Kept_Concentration>();
+    }
+    return Take_First(lifted, was_cut);
+  });
+  put_each([&](const Edited_Row& row) {
+    if (row.name.empty()) return std::optional<Kept_Concentration>();
+    return Find_Concentration(tab, row, grids);
   });
   // One that was renamed meanwhile, when a paste is undone.
   put_each([&](const Edited_Row& row) {
@@ -159,8 +204,11 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
       return std::optional<Kept_Concentration>();
     }
     auto found = Take_First(lifted, [&](const auto& each) { return each.row == row.row; });
-    return found || !row.name.empty() ? found : Take_Kept(tab, row, grids);
+    return found || !row.name.empty() ? found : Find_Concentration(tab, row, grids);
   });
+  for (const Edited_Row& row : open) {
+    grids.notes[tab][At(row.row)].awaits = !row.name.empty() && row.is_renamed();
+  }
   for (Kept_Concentration& each : lifted) Keep(std::move(each), tab, grids);
 }
 
@@ -196,6 +244,12 @@ void Note_Entered(Dilution_Tab tab, const Cell_Range& range, const std::vector<E
     Concentration_Note& note = grids.notes[tab][At(row.row)];
     if (row.emptied || (entered && row.is_renamed())) note = {};
     if (entered) {
+      note.awaits = false;
+      note.lent_by = 0;
+      // What is entered for a name, nothing too, is what counts for it.
+      std::erase_if(grids.kept[tab], [&](const Kept_Concentration& each) {
+        return !row.name.empty() && Are_Equal(each.name, row.name);
+      });
       if (grids(tab).IsEmptyRC(row.row, kConcentrationColumn)) {
         note.names.clear();
       } else if (!row.name.empty()) {
@@ -217,19 +271,20 @@ void Copy_Common(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilution
   }
 }
 
-/// What is kept for a name that stands in a row without a concentration goes there: a paste may
-/// bring the name before the row that it came from is emptied. True when there was such a row.
-bool Give_Kept_To_Their_Names(Dilution_Tab tab, Dilution_Grids& grids) {
+/// What is kept for the name of a row that awaits it goes there: a paste may bring the name before
+/// the row that it came from is emptied. True when there was such a row.
+bool Give_Kept_To_Who_Awaits(Dilution_Tab tab, Dilution_Grids& grids) {
   if (grids.kept[tab].empty()) return false;
   bool given = false;
   for (int row = 1; row <= kMaxDilutionRows; ++row) {
+    if (!grids.notes[tab][At(row)].awaits || Holds_Concentration(tab, row, grids)) continue;
     const std::string name = grids(tab).TextRC(row, kNameColumn);
-    if (name.empty() || Holds_Concentration(tab, row, grids)) continue;
-    const auto kept = Take_Last(
-        grids.kept[tab], [&](const Kept_Concentration& each) { return Belongs_To(each, name); });
+    if (name.empty()) continue;
+    const auto kept = Take_Kept(tab, row, name, grids);
     if (!kept) continue;
     Put(*kept, tab, row, grids);
     grids.notes[tab][At(row)].names.insert(name);
+    grids.notes[tab][At(row)].lent_by = kept->row;
     given = true;
   }
   return given;
@@ -282,7 +337,7 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
   Note_Entered(tab, range, rows, grids);
   Copy_Common(tab, rows, grids);
   // Its history would bring back what belongs to other names now.
-  if (Give_Kept_To_Their_Names(other, grids) || moved) grids(other).ForgetEdits();
+  if (Give_Kept_To_Who_Awaits(other, grids) || moved) grids(other).ForgetEdits();
   Forget_Names_Of_Lone_Ones(rows, grids);
   Follow_Results(rows, grids);
   // What is typed is shown as it was typed, in no pattern of the numbers of a file.

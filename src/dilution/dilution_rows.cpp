@@ -29,6 +29,7 @@ void Arrange_Rows(const Row_Order& order, Dilution_Grids& grids) {
     Arrange(grids.computed[tab], order);
     Arrange(grids.notes[tab], order);
     for (Kept_Concentration& kept : grids.kept[tab]) kept.row = 0;
+    for (Concentration_Note& note : grids.notes[tab]) note.lent_by = 0;
   }
 }
 

@@ -46,6 +46,9 @@ struct Concentration_Note {
   /// been read since.
   std::set<std::string> names;
   double taken = 0;  // what the record has for it
+  /// The name has come without a concentration: one that is about to lose that name may come after.
+  bool awaits = false;
+  int lent_by = 0;  // the row that it came from like that; 0 for its own
 };
 
 /// A concentration whose name has left its row by an edit of the other tab.

@@ -212,14 +212,14 @@ TEST_F(DilutionGrid, A_Concentration_Comes_Back_With_Its_Name) {
   EXPECT_EQ(Column(kElutriateTab, 2, 3), (Names{"12", "13", "11"}));
 }
 
-TEST_F(DilutionGrid, Two_Rows_Of_One_Name_Keep_Their_Own_Concentrations) {
+TEST_F(DilutionGrid, Concentrations_Of_One_Name_Keep_Their_Order) {
   Enter(kBulkTab, 1, 1, {{"A", "1"}, {"A", "2"}, {"B", "3"}});
   Leave_Dilute_Tab(kBulkTab, grids, record);
   Enter(kElutriateTab, 1, 2, {{"11"}, {"12"}, {"13"}});
   Leave_Dilute_Tab(kElutriateTab, grids, record);
   Enter(kBulkTab, 1, 1, {{"B"}, {"A"}, {"A"}});
   Leave_Dilute_Tab(kBulkTab, grids, record);
-  EXPECT_EQ(Column(kElutriateTab, 2, 3), (Names{"13", "12", "11"}));
+  EXPECT_EQ(Column(kElutriateTab, 2, 3), (Names{"13", "11", "12"}));
 }
 
 TEST_F(DilutionGrid, Rows_That_Are_Emptied_Go_In_Both_Tables) {

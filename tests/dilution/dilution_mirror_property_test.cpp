@@ -92,6 +92,8 @@ class DilutionMirrorProperty : public Dilution_Tables {
     const Model before = model_;
     const std::size_t row = Any(kRows), col = 1 + Any(3);
     Model_Row& line = model_.rows[row];
+    // What it displaces for good is another test's matter.
+    if (col == 1 && model_.kept[tab_].contains(line.name)) return;
     const std::string text = New_Value();
     if (col == 1) {
       line.held[tab_].text = text;
@@ -156,7 +158,7 @@ class DilutionMirrorProperty : public Dilution_Tables {
     const Model before = model_;
     std::string name = New_Name();
     for (const auto& [each, held] : model_.kept[other]) {
-      if (!Stands(each) && Any(2) == 0) name = each;
+      if (!Stands(each) && !model_.kept[tab_].contains(each) && Any(2) == 0) name = each;
     }
     Keep(other, line.name, std::exchange(line.held[other], {}));
     line.name = name;

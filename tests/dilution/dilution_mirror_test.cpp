@@ -216,6 +216,56 @@ TEST_F(DilutionMirror, Blanks_And_What_A_File_Cuts_Make_No_Other_Names) {
       << "the same 20 letters are not enough";
 }
 
+TEST_F(DilutionMirror, What_Was_Entered_For_A_Name_Since_Is_Not_Displaced_By_What_Is_Kept) {
+  Clear(kBulkTab, {2, 1, 2, 4});
+  Enter(kElutriateTab, 2, 1, {{"007", "22", "3", "1"}});
+  Clear(kElutriateTab, {2, 2, 2, 2});
+  Enter(kBulkTab, 2, 2, {{"500"}});
+  EXPECT_EQ(elutriate.TextRC(2, 2), "") << "cleared by hand";
+}
+
+TEST_F(DilutionMirror, A_Row_Of_The_Same_Name_Is_Left_Alone_And_An_Undo_Restores_All) {
+  Enter(kBulkTab, 2, 1, {{"Copper total"}});
+  Clear(kElutriateTab, {2, 2, 2, 2});
+  Clear(kBulkTab, {1, 1, 1, 4});
+  EXPECT_EQ(elutriate.TextRC(2, 2), "");
+  Undo(kBulkTab);
+  EXPECT_EQ(Column(kElutriateTab, 2, 2), (Names{"26", ""}));
+  Enter(kBulkTab, 6, 1, {{"Copper total"}});
+  Clear(kBulkTab, {1, 1, 1, 4});
+  EXPECT_EQ(elutriate.TextRC(6, 2), "26") << "as a move by hand";
+  Undo(kBulkTab);
+  EXPECT_EQ(elutriate.TextRC(1, 2), "26");
+  EXPECT_EQ(elutriate.TextRC(6, 2), "");
+}
+
+TEST_F(DilutionMirror, Rows_Of_One_Name_Keep_Their_Order_When_A_Paste_Moves_Them) {
+  Enter(kBulkTab, 2, 1, {{"Copper total"}});
+  Enter(kBulkTab, 1, 1, {{"7440-50-8"}, {"Copper total"}, {"Copper total"}, {"2E5"}});
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"9", "26", "5", "26"}));
+  Undo(kBulkTab);
+  EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"26", "5", "9", "26"}));
+}
+
+TEST_F(DilutionMirror, Names_That_The_File_Has_Cut_Alike_Go_By_Their_Order_Or_Not_At_All) {
+  for (const bool all : {true, false}) {
+    SCOPED_TRACE(all);
+    Clear_Dilute_Grids(grids);
+    Enter(kBulkTab, 1, 1, {{"Polychlorinated biph"}, {"Polychlorinated biph"}, {"Tin"}});
+    Clear(kElutriateTab, {1, 2, 9, 2});
+    Enter(kElutriateTab, 1, 2, {{"11"}, {"12"}, {"14"}});
+    if (all) {
+      Enter(
+          kBulkTab, 1, 1,
+          {{"Arsenic"}, {"Polychlorinated biphenyl 28"}, {"Polychlorinated biphenyl 52"}, {"Tin"}});
+      EXPECT_EQ(Column(kElutriateTab, 2, 4), (Names{"", "11", "12", "14"}));
+    } else {
+      Enter(kBulkTab, 1, 1, {{"Polychlorinated biphenyl 52"}, {"Tin"}});
+      EXPECT_EQ(elutriate.TextRC(1, 2), "") << "nobody knows which of the two it is";
+    }
+  }
+}
+
 TEST_F(DilutionMirror, An_Undo_Over_Changes_Of_Tab_Restores_The_Concentrations) {
   Enter(kBulkTab, 1, 1, {{"007"}, {"Copper total"}});
   Visit();
