@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "core/failure.h"
+#include "core/short_decimal.h"
 
 namespace barvon {
 namespace {
@@ -156,6 +157,17 @@ Number_Start Read_Number_Start(std::string_view text) {
 double Lenient_Number(std::string_view text) { return Read_Number_Start(text).value; }
 
 double Column_Number(std::string_view text) {
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  const auto skip_blanks = [&] {
+    while (at != end && Is_Blank(*at)) ++at;
+  };
+  double value = 0;
+  skip_blanks();
+  if (Read_Short_Decimal(at, end, value)) {
+    skip_blanks();
+    if (at == end) return value;
+  }
   std::string dense;
   dense.reserve(text.size());
   for (const char c : text) {

@@ -4,6 +4,7 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <clocale>
 #include <cmath>
@@ -65,6 +66,36 @@ TEST(ColumnNumber, Overflow_Is_A_Failure_And_Underflow_Is_Zero) {
   EXPECT_EQ(Column_Number("0." + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(Column_Number("0.0001E-400"), 0);
   EXPECT_EQ(Column_Number("1" + std::string(400, '0') + "E-999999999999999999999"), 0);
+}
+
+/// What a column makes of its text: bits, or the failure in their place.
+std::uint64_t Bits_Of_Column(const std::string& text) {
+  try {
+    return std::bit_cast<std::uint64_t>(Column_Number(text));
+  } catch (const Run_Time_Failure& stopped) {
+    return static_cast<std::uint64_t>(stopped.failure);
+  }
+}
+
+// A letter that ends the number changes nothing of it, but it is no short decimal any more.
+RC_GTEST_PROP(ColumnNumber, Reads_A_Short_Decimal_As_The_General_Conversion_Does, ()) {
+  const std::string text = *rc::gen::container<std::string>(
+      rc::gen::elementOf(std::string("00112233445566778899  \t..+-eEdD,\rj")));
+  RC_ASSERT(Bits_Of_Column(text) == Bits_Of_Column(text + "x"));
+}
+
+RC_GTEST_PROP(ColumnNumber, Reads_Up_To_15_Digits_With_A_Point_Anywhere_To_The_Last_Bit, ()) {
+  std::string text = *rc::gen::container<std::string>(rc::gen::inRange('0', ':'));
+  text.resize(std::min<std::size_t>(text.size(), 17), '0');
+  text.insert(*rc::gen::inRange<std::size_t>(0, text.size() + 1), ".");
+  text.insert(0, *rc::gen::element<std::string>("", "-", "+", "  ", " -"));
+  text += *rc::gen::element<std::string>("", " ", "\t ", " 7", "E-5", "D12", "-");
+  RC_ASSERT(Bits_Of_Column(text) == Bits_Of_Column(text + "x"));
+}
+
+TEST(ColumnNumber, Keeps_The_Sign_Of_A_Zero) {
+  EXPECT_TRUE(std::signbit(Column_Number(" -0.00 ")));
+  EXPECT_FALSE(std::signbit(Column_Number(" 0.00")));
 }
 
 TEST(PlainNumber, Has_Fifteen_Significant_Digits_At_Most) {

@@ -221,9 +221,14 @@ std::string Exact_Value_Lines(const Project_Image& image, const Columns_Read& co
 }
 
 File_Parts Split_File(std::string_view bytes) {
-  // The head is longer than a title or a line of names can be, so none of them passes for it.
+  // The head is longer than a title or a line of names can be, so none of them passes for it. It
+  // is found by a letter that no column and no name of a value has: only texts hold others.
   const std::string head = "\n" + std::string(kHead);
-  auto found = bytes.rfind(head);
+  const std::size_t rare = head.find('j');
+  std::size_t found = std::string_view::npos;
+  for (auto at = bytes.find('j'); at != std::string_view::npos; at = bytes.find('j', at + 1)) {
+    if (at >= rare && bytes.substr(at - rare, head.size()) == head) found = at - rare;
+  }
   if (found == std::string_view::npos) {
     // A file may be cut off inside the head: what is left of it tells that values are missing.
     found = bytes.rfind('\n');
@@ -236,8 +241,9 @@ File_Parts Split_File(std::string_view bytes) {
 
 Failure Apply_Exact_Values(const File_Parts& parts, Columns_Read& columns, std::string& damaged) {
   std::string_view exact = parts.exact;
-  auto number = std::count(parts.columns.begin(), parts.columns.end(), '\n') + 1;
+  std::ptrdiff_t number = 1;  // of the line, behind the columns
   const auto tell = [&](std::string_view line) {
+    number += std::count(parts.columns.begin(), parts.columns.end(), '\n');
     damaged = "line " + std::to_string(number) + ": " + std::string(line);
     return Failure::Type_Mismatch;
   };

@@ -155,11 +155,11 @@ std::size_t Index_Of(const Image_Number& number) {
 
 bool Front_Is_Given(const Given_Marks& given) {
   const auto tail = given.begin() + kTailStart;
-  return std::find(given.begin(), tail, false) == tail;
+  return std::find(given.begin(), tail, 0) == tail;
 }
 
 bool Tail_Is_Given(const Given_Marks& given) {
-  return std::find(given.begin() + kTailStart, given.end(), false) == given.end();
+  return std::find(given.begin() + kTailStart, given.end(), 0) == given.end();
 }
 
 bool Is_Narrow(const Image_Number& number) { return Run_Of_Number(number).narrow; }

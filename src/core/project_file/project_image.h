@@ -59,8 +59,8 @@ std::size_t Index_Of(const Image_Number& number);
 /// 32-bit in the record: its text is the shortest that gives those 32 bits back.
 bool Is_Narrow(const Image_Number& number);
 
-/// What the columns gave: a mark for every entry of Image_Numbers, false where nothing was read.
-using Given_Marks = std::vector<bool>;
+/// What the columns gave: a mark for every entry of Image_Numbers, 0 where nothing was read.
+using Given_Marks = std::vector<char>;
 /// Whether every number up to the velocity fields was given, and every one behind them.
 bool Front_Is_Given(const Given_Marks& given);
 bool Tail_Is_Given(const Given_Marks& given);
