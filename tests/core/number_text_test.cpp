@@ -5,10 +5,13 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <locale>
 #include <string>
@@ -221,6 +224,47 @@ RC_GTEST_PROP(PlainNumber, Reads_Back_To_Fifteen_Digits, (double value)) {
   RC_PRE(std::isfinite(value));
   const double back = Lenient_Number(Plain_Number(value));
   RC_ASSERT(std::abs(back - value) <= std::abs(value) * 1e-14);
+}
+
+/// The C library's form of 15 digits, which has the same limits and the same exponents.
+std::string Printed(double value) {
+  std::array<char, 40> text{};
+  std::snprintf(text.data(), text.size(), "%.15G", value);
+  return text.data();
+}
+
+RC_GTEST_PROP(PlainNumber, Is_What_The_C_Library_Prints_With_15_Digits, (std::uint64_t bits)) {
+  const double value = std::bit_cast<double>(bits);
+  RC_PRE(std::isfinite(value) && value != 0);
+  RC_ASSERT(Plain_Number(value) == Printed(value));
+}
+
+RC_GTEST_PROP(PlainNumber, Is_So_For_Short_Decimals_And_Their_Neighbours, (std::int64_t whole)) {
+  RC_PRE(whole != 0);
+  const std::int64_t cut = *rc::gen::element<std::int64_t>(1, 1000, 1000000, 1000000000);
+  const double value = static_cast<double>(std::max<std::int64_t>(std::abs(whole / cut), 1)) /
+                       std::pow(10.0, *rc::gen::inRange(0, 20));
+  for (const double one : {value, -value, std::nextafter(value, 0), std::nextafter(value, 1e300)}) {
+    RC_ASSERT(Plain_Number(one) == Printed(one));
+  }
+}
+
+TEST(PlainNumber, Has_No_Point_Behind_Which_Nothing_Stands_And_Keeps_The_Zeros_In_Front) {
+  EXPECT_EQ(Plain_Number(10.50), "10.5");
+  EXPECT_EQ(Plain_Number(-1200.0), "-1200");
+  EXPECT_EQ(Plain_Number(0.000123), "0.000123");
+  EXPECT_EQ(Plain_Number(-0.05), "-0.05");
+  EXPECT_EQ(Plain_Number(99999999.999999), "99999999.999999");
+  EXPECT_EQ(Plain_Number(9999999999.99999), "9999999999.99999");
+  EXPECT_EQ(Plain_Number(999999999999999.0), "999999999999999");
+  EXPECT_EQ(Plain_Number(999999999999998.9), "999999999999999");
+}
+
+TEST(PlainLetters, Are_The_Plain_Number) {
+  EXPECT_EQ(Plain_Letters(-12.25).text(), "-12.25");
+  EXPECT_EQ(Plain_Letters(-1.23456789012345e-300).text(), "-1.23456789012345E-300");
+  EXPECT_EQ(Plain_Letters(std::numeric_limits<double>::quiet_NaN()).text(), "nan");
+  EXPECT_EQ(Plain_Letters(std::numeric_limits<int>::min()).text(), "-2147483648");
 }
 
 RC_GTEST_PROP(LenientNumber, Never_Fails_On_Any_Text, (std::string text)) {

@@ -21,8 +21,6 @@ using Part = Image_Number::Part;
 /// One more than the writer's: the program's files are read like this, and values fit.
 constexpr std::size_t kRealWidth = 12;
 constexpr double kOtherFlag = 9999;
-/// The display is drawn once a frame; asking the clock for every line would cost a tenth of a load.
-constexpr int kLinesAMove = 16;
 
 /// Goes through the bytes line by line, then number by number.
 class Text_Source {
