@@ -10,13 +10,15 @@
 #include <system_error>
 
 #include "core/failure.h"
+#include "core/short_decimal.h"
 
 namespace barvon {
 namespace {
 
 constexpr int kDefaultDigits = 15;
 constexpr int kLeastPlainExponent = -3;  // 0.0001 is 0.1 x 10^-3
-constexpr int kMostPlainExponent = 15;   // 999999999999999 is 0.999... x 10^15
+constexpr double kLeastPlain = 0.0001;
+constexpr int kMostPlainExponent = 15;  // 999999999999999 is 0.999... x 10^15
 
 bool Is_Digit(char c) { return c >= '0' && c <= '9'; }
 bool Is_Blank(char c) { return c == ' ' || c == '\t'; }
@@ -121,6 +123,27 @@ std::string Exponent_Form(const Decimal_Digits& decimal) {
   return text + std::to_string(std::abs(power));
 }
 
+/// The default text form of any value.
+std::string General_Form(double value) {
+  if (!std::isfinite(value)) return Name_Of_Non_Number(value);
+  const Decimal_Digits decimal = To_Decimal(value, kDefaultDigits);
+  if (decimal.exponent < kLeastPlainExponent || decimal.exponent > kMostPlainExponent) {
+    return Exponent_Form(decimal);
+  }
+  const int length = static_cast<int>(decimal.digits.size());
+  std::string text = decimal.negative ? "-" : "";
+  if (decimal.exponent <= 0) {
+    text += "0.";
+    return text.append(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
+  }
+  if (length <= decimal.exponent) {
+    return text + decimal.digits +
+           std::string(static_cast<std::size_t>(decimal.exponent - length), '0');
+  }
+  const auto point = static_cast<std::size_t>(decimal.exponent);
+  return text + decimal.digits.substr(0, point) + "." + decimal.digits.substr(point);
+}
+
 }  // namespace
 
 Decimal_Digits To_Decimal(double value, int count) {
@@ -156,6 +179,17 @@ Number_Start Read_Number_Start(std::string_view text) {
 double Lenient_Number(std::string_view text) { return Read_Number_Start(text).value; }
 
 double Column_Number(std::string_view text) {
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  const auto skip_blanks = [&] {
+    while (at != end && Is_Blank(*at)) ++at;
+  };
+  double value = 0;
+  skip_blanks();
+  if (Read_Short_Decimal(at, end, value)) {
+    skip_blanks();
+    if (at == end) return value;
+  }
   std::string dense;
   dense.reserve(text.size());
   for (const char c : text) {
@@ -166,25 +200,39 @@ double Column_Number(std::string_view text) {
   return conversion.value;
 }
 
-std::string Plain_Number(double value) {
-  if (!std::isfinite(value)) return Name_Of_Non_Number(value);
-  const Decimal_Digits decimal = To_Decimal(value, kDefaultDigits);
-  if (decimal.exponent < kLeastPlainExponent || decimal.exponent > kMostPlainExponent) {
-    return Exponent_Form(decimal);
-  }
-  const int length = static_cast<int>(decimal.digits.size());
-  std::string text = decimal.negative ? "-" : "";
-  if (decimal.exponent <= 0) {
-    text += "0.";
-    return text.append(static_cast<std::size_t>(-decimal.exponent), '0') + decimal.digits;
-  }
-  if (length <= decimal.exponent) {
-    return text + decimal.digits +
-           std::string(static_cast<std::size_t>(decimal.exponent - length), '0');
-  }
-  const auto point = static_cast<std::size_t>(decimal.exponent);
-  return text + decimal.digits.substr(0, point) + "." + decimal.digits.substr(point);
+void Plain_Letters::Add(std::string_view letters) {
+  std::copy(letters.begin(), letters.end(), letters_.begin() + size_);
+  size_ += letters.size();
 }
+
+Plain_Letters::Plain_Letters(double value) {
+  const double magnitude = std::abs(value);
+  const bool is_plain = magnitude >= kLeastPlain || magnitude == 0;
+  const auto decimal = is_plain ? Short_Decimal_Of(magnitude) : std::nullopt;
+  if (!decimal) {
+    Add(General_Form(value));
+    return;
+  }
+  std::array<char, kShortDigits> room;
+  const char* const end = std::to_chars(room.data(), room.data() + room.size(), decimal->whole).ptr;
+  const std::string_view digits(room.data(), static_cast<std::size_t>(end - room.data()));
+  const auto decimals = static_cast<std::size_t>(decimal->decimals);
+  const std::size_t before = digits.size() > decimals ? digits.size() - decimals : 0;
+  if (value < 0) Add("-");
+  Add(before == 0 ? "0" : digits.substr(0, before));
+  if (decimals == 0) return;
+  Add(".");
+  Add(std::string_view("000000").substr(0, decimals - (digits.size() - before)));
+  Add(digits.substr(before));
+}
+
+Plain_Letters::Plain_Letters(int value) {
+  const char* const end =
+      std::to_chars(letters_.data(), letters_.data() + letters_.size(), value).ptr;
+  size_ = static_cast<std::size_t>(end - letters_.data());
+}
+
+std::string Plain_Number(double value) { return std::string(Plain_Letters(value).text()); }
 
 std::string Number_To_Cut(double value, std::size_t width) {
   std::string text = Plain_Number(value);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -38,6 +39,21 @@ double Column_Number(std::string_view text);
 /// in exponent form outside ("5E-05", "1.5E+15"). Not-a-number is "nan", infinities "inf", "-inf".
 std::string Plain_Number(double value);
 std::string Plain_Number(int value);
+
+/// The default text form in room of its own, for what writes thousands of numbers.
+class Plain_Letters {
+ public:
+  explicit Plain_Letters(double value);
+  explicit Plain_Letters(int value);
+
+  std::string_view text() const { return {letters_.data(), size_}; }
+
+ private:
+  void Add(std::string_view letters);
+
+  std::array<char, 32> letters_;
+  std::size_t size_ = 0;
+};
 
 /// The default text form for a text that is going to be cut after `width` characters (10 or more):
 /// where the cut would take an exponent or whole digits, and so make another number of it, it is

@@ -4,10 +4,14 @@
 #include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <locale>
 #include <string>
@@ -65,6 +69,36 @@ TEST(ColumnNumber, Overflow_Is_A_Failure_And_Underflow_Is_Zero) {
   EXPECT_EQ(Column_Number("0." + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(Column_Number("0.0001E-400"), 0);
   EXPECT_EQ(Column_Number("1" + std::string(400, '0') + "E-999999999999999999999"), 0);
+}
+
+/// What a column makes of its text: bits, or the failure in their place.
+std::uint64_t Bits_Of_Column(const std::string& text) {
+  try {
+    return std::bit_cast<std::uint64_t>(Column_Number(text));
+  } catch (const Run_Time_Failure& stopped) {
+    return static_cast<std::uint64_t>(stopped.failure);
+  }
+}
+
+// A letter that ends the number changes nothing of it, but it is no short decimal any more.
+RC_GTEST_PROP(ColumnNumber, Reads_A_Short_Decimal_As_The_General_Conversion_Does, ()) {
+  const std::string text = *rc::gen::container<std::string>(
+      rc::gen::elementOf(std::string("00112233445566778899  \t..+-eEdD,\rj")));
+  RC_ASSERT(Bits_Of_Column(text) == Bits_Of_Column(text + "x"));
+}
+
+RC_GTEST_PROP(ColumnNumber, Reads_Up_To_15_Digits_With_A_Point_Anywhere_To_The_Last_Bit, ()) {
+  std::string text = *rc::gen::container<std::string>(rc::gen::inRange('0', ':'));
+  text.resize(std::min<std::size_t>(text.size(), 17), '0');
+  text.insert(*rc::gen::inRange<std::size_t>(0, text.size() + 1), ".");
+  text.insert(0, *rc::gen::element<std::string>("", "-", "+", "  ", " -"));
+  text += *rc::gen::element<std::string>("", " ", "\t ", " 7", "E-5", "D12", "-");
+  RC_ASSERT(Bits_Of_Column(text) == Bits_Of_Column(text + "x"));
+}
+
+TEST(ColumnNumber, Keeps_The_Sign_Of_A_Zero) {
+  EXPECT_TRUE(std::signbit(Column_Number(" -0.00 ")));
+  EXPECT_FALSE(std::signbit(Column_Number(" 0.00")));
 }
 
 TEST(PlainNumber, Has_Fifteen_Significant_Digits_At_Most) {
@@ -190,6 +224,47 @@ RC_GTEST_PROP(PlainNumber, Reads_Back_To_Fifteen_Digits, (double value)) {
   RC_PRE(std::isfinite(value));
   const double back = Lenient_Number(Plain_Number(value));
   RC_ASSERT(std::abs(back - value) <= std::abs(value) * 1e-14);
+}
+
+/// The C library's form of 15 digits, which has the same limits and the same exponents.
+std::string Printed(double value) {
+  std::array<char, 40> text{};
+  std::snprintf(text.data(), text.size(), "%.15G", value);
+  return text.data();
+}
+
+RC_GTEST_PROP(PlainNumber, Is_What_The_C_Library_Prints_With_15_Digits, (std::uint64_t bits)) {
+  const double value = std::bit_cast<double>(bits);
+  RC_PRE(std::isfinite(value) && value != 0);
+  RC_ASSERT(Plain_Number(value) == Printed(value));
+}
+
+RC_GTEST_PROP(PlainNumber, Is_So_For_Short_Decimals_And_Their_Neighbours, (std::int64_t whole)) {
+  RC_PRE(whole != 0);
+  const std::int64_t cut = *rc::gen::element<std::int64_t>(1, 1000, 1000000, 1000000000);
+  const double value = static_cast<double>(std::max<std::int64_t>(std::abs(whole / cut), 1)) /
+                       std::pow(10.0, *rc::gen::inRange(0, 20));
+  for (const double one : {value, -value, std::nextafter(value, 0), std::nextafter(value, 1e300)}) {
+    RC_ASSERT(Plain_Number(one) == Printed(one));
+  }
+}
+
+TEST(PlainNumber, Has_No_Point_Behind_Which_Nothing_Stands_And_Keeps_The_Zeros_In_Front) {
+  EXPECT_EQ(Plain_Number(10.50), "10.5");
+  EXPECT_EQ(Plain_Number(-1200.0), "-1200");
+  EXPECT_EQ(Plain_Number(0.000123), "0.000123");
+  EXPECT_EQ(Plain_Number(-0.05), "-0.05");
+  EXPECT_EQ(Plain_Number(99999999.999999), "99999999.999999");
+  EXPECT_EQ(Plain_Number(9999999999.99999), "9999999999.99999");
+  EXPECT_EQ(Plain_Number(999999999999999.0), "999999999999999");
+  EXPECT_EQ(Plain_Number(999999999999998.9), "999999999999999");
+}
+
+TEST(PlainLetters, Are_The_Plain_Number) {
+  EXPECT_EQ(Plain_Letters(-12.25).text(), "-12.25");
+  EXPECT_EQ(Plain_Letters(-1.23456789012345e-300).text(), "-1.23456789012345E-300");
+  EXPECT_EQ(Plain_Letters(std::numeric_limits<double>::quiet_NaN()).text(), "nan");
+  EXPECT_EQ(Plain_Letters(std::numeric_limits<int>::min()).text(), "-2147483648");
 }
 
 RC_GTEST_PROP(LenientNumber, Never_Fails_On_Any_Text, (std::string text)) {

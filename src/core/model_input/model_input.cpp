@@ -13,7 +13,6 @@
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
-#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {
@@ -143,7 +142,7 @@ Failure Write_Model_Input(ProjectRecord& record, std::string& text,
   try {
     Prepare(record);
     Put_Section(record, lines);
-    text = To_File_Bytes(lines.text());
+    text = lines.Take_Text();
   } catch (const Run_Time_Failure& stop) {
     return stop.failure;
   }

@@ -4,16 +4,18 @@
 
 #include "core/format_pattern.h"
 #include "core/text_tools.h"
+#include "platform/files/text_encoding.h"
 
 namespace barvon {
 namespace {
 
-std::string Without_Controls(std::string_view text) {
+/// As bytes of the file, whatever would break a line or its columns as a blank.
+std::string Line_Bytes(std::string_view text) {
   std::string clean(text);
   std::replace_if(
       clean.begin(), clean.end(),
       [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
-  return clean;
+  return To_File_Bytes(clean);
 }
 
 std::string With_Subscripts(std::string_view field, int i, int j) {
@@ -26,11 +28,15 @@ std::string With_Subscripts(std::string_view field, int i, int j) {
 }  // namespace
 
 void Model_Text::Right(std::string_view text, std::size_t width) {
-  text_ += Right_Justified(Without_Controls(text), width);
+  const std::size_t length = Character_Count(text);
+  Blanks(width > length ? width - length : 0);
+  text_ += Line_Bytes(text);
 }
 
 void Model_Text::Left(std::string_view text, std::size_t width) {
-  text_ += Left_Justified(Without_Controls(text), width);
+  const std::size_t length = Character_Count(text);
+  text_ += Line_Bytes(text);
+  Blanks(width > length ? width - length : 0);
 }
 
 void Model_Text::Named_Left(std::size_t width, std::string_view field, std::string_view text,

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/number_text.h"
@@ -18,8 +19,9 @@ struct Wide_Value {
   std::size_t columns = 0;
 };
 
-/// Builds the model input line by line, in UTF-8. Nothing is between two fields, and a field
-/// that does not fit its columns is not cut: it moves the rest of its line to the right.
+/// Builds the model input line by line, as bytes of the file. Texts come in UTF-8. Nothing is
+/// between two fields, and a field that does not fit its columns is not cut: it moves the rest of
+/// its line to the right.
 class Model_Text {
  public:
   /// Control characters would break the columns or the line; they are written as blanks.
@@ -33,9 +35,11 @@ class Model_Text {
   /// subscripts, 0 for none.
   template <class Number>
   void Named(std::size_t width, std::string_view field, Number value, int i = 0, int j = 0) {
-    const std::string text = Plain_Number(value);
-    if (text.size() > width) Note_Wide(text, width, field, i, j);
-    Right(text, width);
+    const Plain_Letters number(value);
+    const std::size_t size = number.text().size();
+    if (size > width) Note_Wide(number.text(), width, field, i, j);
+    Blanks(width > size ? width - size : 0);
+    text_ += number.text();
   }
 
   /// Numbers in fields of one width; `fields` names them in their order, a blank between two.
@@ -65,7 +69,8 @@ class Model_Text {
   /// Ends the line with CR LF.
   void End_Line();
 
-  const std::string& text() const { return text_; }
+  /// All that was built; nothing is left here.
+  std::string Take_Text() { return std::exchange(text_, {}); }
   const std::vector<Wide_Value>& wide_values() const { return wide_values_; }
 
  private:

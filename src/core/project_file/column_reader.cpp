@@ -9,6 +9,7 @@
 #include "core/number_text.h"
 #include "core/project_file/column_layout.h"
 #include "core/project_file/value_slots.h"
+#include "core/short_decimal.h"
 #include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
 
@@ -38,6 +39,20 @@ class Text_Source {
     return line;
   }
 
+  /// The next number between delimiters where it is a short decimal, as nearly all are; otherwise
+  /// false, and it is left to Token.
+  bool Short_Number(double& value) {
+    const char* at = rest_.data();
+    const char* const end = at + rest_.size();
+    while (at != end && (Is_Blank(*at) || Ends_Line(*at))) ++at;
+    if (!Read_Short_Decimal(at, end, value)) return false;
+    if (at != end && !Is_Blank(*at) && !Ends_Line(*at) && *at != ',') return false;
+    while (at != end && Is_Blank(*at)) ++at;
+    if (at != end && *at == ',') ++at;
+    rest_ = {at, static_cast<std::size_t>(end - at)};
+    return true;
+  }
+
   /// The next text between delimiters; nothing at the end of the file. Line ends count as
   /// delimiters, and so do commas.
   std::optional<std::string_view> Token() {
@@ -53,6 +68,9 @@ class Text_Source {
   }
 
  private:
+  static bool Is_Blank(char c) { return c == ' ' || c == '\t'; }
+  static bool Ends_Line(char c) { return c == '\r' || c == '\n'; }
+
   std::string_view rest_;
 };
 
@@ -88,24 +106,23 @@ bool Is_Number(std::string_view token) {
 
 class Column_Reader {
  public:
-  Column_Reader(std::string_view bytes, int n, Progress_Display* progress)
-      : source_(bytes), n_(n), progress_(progress) {
+  Column_Reader(std::string_view bytes, int n, Progress_Display* progress, Columns_Read& result)
+      : source_(bytes), n_(n), progress_(progress), result_(result) {
     result_.given.resize(Image_Numbers().size());
   }
 
-  Columns_Read Read() {
+  void Read() {
     try {
       Read_Head();
       Read_Reals();
       Read_Text_Lines();
-      Read_Velocity_Field(Part::FieldX);
-      Read_Velocity_Field(Part::FieldZ);
+      Read_Velocity_Field(Part::FieldX, result_.image.VelocityFieldX);
+      Read_Velocity_Field(Part::FieldZ, result_.image.VelocityFieldZ);
       if (n_ == kMaxGridPoints) Read_Tail();
     } catch (const Run_Time_Failure& stopped) {
       Note(stopped.failure);
     }
     result_.at_end = source_.At_End();
-    return std::move(result_);
   }
 
  private:
@@ -119,29 +136,33 @@ class Column_Reader {
     return *line;
   }
 
-  void Take_Column(const Image_Number& number, std::string_view columns) {
+  /// `index` is the number's place among the marks.
+  void Take_Column(double& number, std::size_t index, std::string_view columns) {
     try {
-      Number_In(result_.image, number) = Column_Number(columns);
-      result_.given[Index_Of(number)] = true;
+      number = Column_Number(columns);
+      result_.given[index] = true;
     } catch (const Run_Time_Failure& stopped) {
       Note(stopped.failure);
     }
   }
 
   /// Takes the next free-form number. Failure::None when it was given.
-  Failure Take_Token(const Image_Number& number) {
-    const auto token = source_.Token();
-    if (!token) return Failure::Input_Past_End;
-    if (!Is_Number(*token)) return Failure::Type_Mismatch;
-    try {
-      double value = Column_Number(*token);
-      if (Is_Narrow(number)) value = static_cast<double>(static_cast<float>(value));
-      if (!std::isfinite(value)) return Failure::Overflow;
-      Number_In(result_.image, number) = value;
-    } catch (const Run_Time_Failure& stopped) {
-      return stopped.failure;
+  Failure Take_Token(double& number, std::size_t index, bool narrow) {
+    double value = 0;
+    if (!source_.Short_Number(value)) {
+      const auto token = source_.Token();
+      if (!token) return Failure::Input_Past_End;
+      if (!Is_Number(*token)) return Failure::Type_Mismatch;
+      try {
+        value = Column_Number(*token);
+      } catch (const Run_Time_Failure& stopped) {
+        return stopped.failure;
+      }
     }
-    result_.given[Index_Of(number)] = true;
+    if (narrow) value = static_cast<double>(static_cast<float>(value));
+    if (!std::isfinite(value)) return Failure::Overflow;
+    number = value;
+    result_.given[index] = true;
     return Failure::None;
   }
 
@@ -162,7 +183,7 @@ class Column_Reader {
     for (const auto& [first_slot, last_slot] : kIntLines) {
       const std::string_view line = Next_Line();
       for (int slot = first_slot; slot <= last_slot; ++slot) {
-        Take_Column({Part::IntSlots, slot, 0},
+        Take_Column(result_.image.IntSlots[slot], Index_Of({Part::IntSlots, slot, 0}),
                     Columns(line, (slot - first_slot) * kIntWidth, kIntWidth));
       }
     }
@@ -172,13 +193,15 @@ class Column_Reader {
     const int reals = kFirstDepthSlot - 1 + n_ * n_;
     const int lines = reals / kRealsPerLine;
     const double total = 10.0 + lines;
+    std::size_t index = Index_Of({Part::RealSlots, 1, 0});
     int slot = 1;
     for (int line = 1; line <= lines + 1; ++line) {
       const std::string_view text = Next_Line();
-      for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot) {
-        Take_Column({Part::RealSlots, slot, 0}, Columns(text, k * kRealWidth, kRealWidth));
+      for (std::size_t k = 0; k < kRealsPerLine && slot <= reals; ++k, ++slot, ++index) {
+        Take_Column(result_.image.RealSlots[slot], index,
+                    Columns(text, k * kRealWidth, kRealWidth));
       }
-      if (progress_ != nullptr) progress_->Move(line / total);
+      if (progress_ != nullptr && line % kLinesAMove == 0) progress_->Move(line / total);
     }
   }
 
@@ -204,10 +227,11 @@ class Column_Reader {
     result_.text_lines_too_wide = Width_Of(status) > kStatusLength && Width_Of(flags) > kFlagCount;
   }
 
-  void Read_Velocity_Field(Part field) {
+  void Read_Velocity_Field(Part part, Grid& field) {
     for (int a = 1; a <= n_; ++a) {
-      for (int b = 1; b <= n_; ++b) {
-        const Failure failure = Take_Token({field, a, b});
+      std::size_t index = Index_Of({part, a, 1});
+      for (int b = 1; b <= n_; ++b, ++index) {
+        const Failure failure = Take_Token(field[a][b], index, false);
         if (failure == Failure::Input_Past_End) throw Run_Time_Failure{failure};
         if (failure != Failure::None) Note(failure);
       }
@@ -218,7 +242,8 @@ class Column_Reader {
   /// statement starts on the next line, so that one bad value does not shift all that follow.
   void Read_Tail_Statement(const std::vector<Image_Number>& numbers) {
     for (const Image_Number& number : numbers) {
-      if (Take_Token(number) != Failure::None) {
+      double& value = Number_In(result_.image, number);
+      if (Take_Token(value, Index_Of(number), Is_Narrow(number)) != Failure::None) {
         source_.Line();
         return;
       }
@@ -237,13 +262,15 @@ class Column_Reader {
   Text_Source source_;
   int n_;
   Progress_Display* progress_;
-  Columns_Read result_;
+  Columns_Read& result_;
 };
 
 }  // namespace
 
 Columns_Read Read_Columns(std::string_view bytes, int n, Progress_Display* progress) {
-  return Column_Reader(bytes, n, progress).Read();
+  Columns_Read read;
+  Column_Reader(bytes, n, progress, read).Read();
+  return read;
 }
 
 }  // namespace barvon

@@ -7,7 +7,6 @@
 #include "core/format_pattern.h"
 #include "core/number_text.h"
 #include "core/project_file/column_layout.h"
-#include "core/text_tools.h"
 #include "platform/files/text_encoding.h"
 
 namespace barvon {
@@ -16,6 +15,7 @@ namespace {
 constexpr std::size_t kRealWidth = 11;
 constexpr std::size_t kVelocityWidth = 8;
 constexpr int kVelocitiesPerLine = 10;
+constexpr std::size_t kUsualSize = 1u << 18;
 constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kFiveBlanks = "     ";
 constexpr std::string_view kKey4Comment = "Used To Determine Type of Simulation";
@@ -35,6 +35,12 @@ std::string Fixed_Bytes(std::string_view text, std::size_t width) {
   return bytes;
 }
 
+void Put_Number(std::string& text, double value, std::size_t width) {
+  const Plain_Letters number(value);
+  const std::size_t size = number.text().size();
+  text.append(width > size ? width - size : 0, ' ').append(number.text());
+}
+
 char Flag_Letter(double flag) {
   if (flag == 0) return 'F';
   return flag == kTrue ? 'T' : 'G';
@@ -47,7 +53,7 @@ std::string Pattern_Of_Narrow(double value, std::string_view pattern) {
 void Write_Velocity_Field(const Grid& field, std::string& text) {
   for (int a = 1; a <= kMaxGridPoints; ++a) {
     for (int b = 1; b <= kMaxGridPoints; ++b) {
-      text += Right_Justified(Plain_Number(field[a][b]), kVelocityWidth);
+      Put_Number(text, field[a][b], kVelocityWidth);
       if (b % kVelocitiesPerLine == 0 || b == kMaxGridPoints) text += kLineEnd;
     }
   }
@@ -73,23 +79,24 @@ void Write_Tail(const Project_Image& image, std::string& text) {
 
 std::string Write_Columns(const Project_Image& image, Progress_Display& progress) {
   std::string text;
+  text.reserve(kUsualSize);
   text.append("   ").append(kFileTag);
-  text += Right_Justified(Plain_Number(image.DisposalMethod), kIntWidth);
+  Put_Number(text, image.DisposalMethod, kIntWidth);
   text += kLineEnd;
   text.append(Fixed_Bytes(image.ProjectTitle, kTitleLength)).append(kLineEnd);
   for (const auto& [first, last] : kIntLines) {
     for (int slot = first; slot <= last; ++slot) {
-      text += Right_Justified(Plain_Number(image.IntSlots[slot]), kIntWidth);
+      Put_Number(text, image.IntSlots[slot], kIntWidth);
     }
     text += kLineEnd;
   }
   constexpr int kLines = kFullFileRealSlots / kRealsPerLine + 1;
   for (int slot = 1; slot <= kFullFileRealSlots; ++slot) {
-    text += Right_Justified(Plain_Number(image.RealSlots[slot]), kRealWidth);
+    Put_Number(text, image.RealSlots[slot], kRealWidth);
     if (slot % kRealsPerLine == 0 || slot == kFullFileRealSlots) {
       text += kLineEnd;
       const int line = slot / kRealsPerLine;
-      progress.Move(static_cast<double>(line) / kLines);
+      if (line % kLinesAMove == 0) progress.Move(static_cast<double>(line) / kLines);
     }
   }
   for (std::size_t i = 1; i <= kSolidEntries; ++i) {

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 #include "core/number_text.h"
@@ -145,18 +144,13 @@ std::optional<std::string_view> Take_Line(std::string_view& rest) {
 
 class Exact_Reader {
  public:
-  explicit Exact_Reader(Columns_Read& columns) : columns_(columns) {
-    for (const Image_Number& number : Image_Numbers()) numbers_[Name_Of_Number(number)] = number;
-    texts_ = Texts_Of(columns.image);
-  }
+  explicit Exact_Reader(Columns_Read& columns)
+      : columns_(columns), texts_(Texts_Of(columns.image)) {}
 
   bool Apply(const Entry& entry) {
-    const std::string name(entry.name);
-    if (const auto number = numbers_.find(name); number != numbers_.end()) {
-      return Apply_Number(entry, number->second);
-    }
+    if (const auto number = Number_Named(entry.name)) return Apply_Number(entry, *number);
     for (std::size_t i = 0; i < texts_.size(); ++i) {
-      if (texts_[i].name == name) return Apply_Text(entry, i);
+      if (texts_[i].name == entry.name) return Apply_Text(entry, i);
     }
     return false;
   }
@@ -188,7 +182,6 @@ class Exact_Reader {
   }
 
   Columns_Read& columns_;
-  std::unordered_map<std::string, Image_Number> numbers_;
   std::vector<Image_Text> texts_;
 };
 
@@ -197,15 +190,18 @@ class Exact_Reader {
 std::string Exact_Value_Lines(const Project_Image& image, const Columns_Read& columns) {
   std::string lines;
   std::size_t count = 0;
-  for (const Image_Number& number : Image_Numbers()) {
-    const bool narrow = Is_Narrow(number);
-    const bool given = columns.given[Index_Of(number)];
-    const double exact = Number_In(image, number);
-    const double read = Number_In(columns.image, number);
-    if (given && Same_Bits(exact, read)) continue;
-    lines += Line(Name_Of_Number(number), Number_Text(exact, narrow),
-                  given ? Number_Text(read, narrow) : std::string(kNothing));
-    ++count;
+  for (const Number_Row& row : Image_Rows()) {
+    const std::size_t start = Index_Of(row.first);
+    const auto exact = Row_In(image, row), read = Row_In(columns.image, row);
+    for (std::size_t i = 0; i < row.count; ++i) {
+      const bool given = columns.given[start + i] != 0;
+      if (given && Same_Bits(exact[i], read[i])) continue;
+      const Image_Number& number = Image_Numbers()[start + i];
+      const bool narrow = Is_Narrow(number);
+      lines += Line(Name_Of_Number(number), Number_Text(exact[i], narrow),
+                    given ? Number_Text(read[i], narrow) : std::string(kNothing));
+      ++count;
+    }
   }
   const std::vector<Image_Text> exact = Texts_Of(image);
   const std::vector<Image_Text> read = Texts_Of(columns.image);
@@ -221,9 +217,14 @@ std::string Exact_Value_Lines(const Project_Image& image, const Columns_Read& co
 }
 
 File_Parts Split_File(std::string_view bytes) {
-  // The head is longer than a title or a line of names can be, so none of them passes for it.
+  // The head is longer than a title or a line of names can be, so none of them passes for it. It
+  // is found by a letter that no column and no name of a value has: only texts hold others.
   const std::string head = "\n" + std::string(kHead);
-  auto found = bytes.rfind(head);
+  const std::size_t rare = head.find('j');
+  std::size_t found = std::string_view::npos;
+  for (auto at = bytes.find('j'); at != std::string_view::npos; at = bytes.find('j', at + 1)) {
+    if (at >= rare && bytes.substr(at - rare, head.size()) == head) found = at - rare;
+  }
   if (found == std::string_view::npos) {
     // A file may be cut off inside the head: what is left of it tells that values are missing.
     found = bytes.rfind('\n');
@@ -236,8 +237,9 @@ File_Parts Split_File(std::string_view bytes) {
 
 Failure Apply_Exact_Values(const File_Parts& parts, Columns_Read& columns, std::string& damaged) {
   std::string_view exact = parts.exact;
-  auto number = std::count(parts.columns.begin(), parts.columns.end(), '\n') + 1;
+  std::ptrdiff_t number = 1;  // of the line, behind the columns
   const auto tell = [&](std::string_view line) {
+    number += std::count(parts.columns.begin(), parts.columns.end(), '\n');
     damaged = "line " + std::to_string(number) + ": " + std::string(line);
     return Failure::Type_Mismatch;
   };

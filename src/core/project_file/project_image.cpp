@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -103,6 +104,33 @@ std::vector<Image_Number> All_Numbers() {
   return numbers;
 }
 
+/// One row where the numbers have one subscript or none, otherwise one for every first subscript.
+std::vector<Number_Row> All_Rows() {
+  std::vector<Number_Row> rows;
+  for (const Run& run : kRuns) {
+    if (run.rows == 0) {
+      rows.push_back({{run.part, 0, 0}, 1});
+    } else if (run.columns == 0) {
+      rows.push_back({{run.part, 1, 0}, static_cast<std::size_t>(run.rows)});
+    } else {
+      for (int i = 1; i <= run.rows; ++i) {
+        rows.push_back({{run.part, i, 1}, static_cast<std::size_t>(run.columns)});
+      }
+    }
+  }
+  return rows;
+}
+
+/// A subscript at the start of the text, which loses it with the letter behind it; 0 when there is
+/// none that counts.
+int Take_Subscript(std::string_view& text) {
+  int subscript = 0;
+  const char* const end = text.data() + text.size();
+  const char* const behind = std::from_chars(text.data(), end, subscript).ptr;
+  text.remove_prefix(std::min(static_cast<std::size_t>(behind - text.data()) + 1, text.size()));
+  return subscript;
+}
+
 /// Sets a field that keeps what it had when the file gave nothing for it.
 class Tail_Values {
  public:
@@ -138,6 +166,40 @@ std::string Name_Of_Number(const Image_Number& number) {
   return name + ")";
 }
 
+std::optional<Image_Number> Number_Named(std::string_view name) {
+  const std::size_t bracket = std::min(name.find('('), name.size());
+  for (const Run& run : kRuns) {
+    const bool second = run.names[1] != nullptr && name.substr(0, bracket) == run.names[1];
+    if (!second && name.substr(0, bracket) != run.names[0]) continue;
+    std::string_view subscripts = name.substr(std::min(bracket + 1, name.size()));
+    Image_Number number{run.part, 0, 0};
+    if (run.rows != 0) number.first = Take_Subscript(subscripts);
+    if (run.columns != 0) number.second = Take_Subscript(subscripts);
+    if (run.names[1] != nullptr) number.second = second ? 2 : 1;
+    const auto fits = [](int subscript, int last) {
+      return subscript >= std::min(last, 1) && subscript <= last;
+    };
+    // Only the one spelling counts: "RealSlots(07)" and "KEY4(1)" name nothing.
+    if (fits(number.first, run.rows) && fits(number.second, run.columns) &&
+        Name_Of_Number(number) == name) {
+      return number;
+    }
+    return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+const std::vector<Number_Row>& Image_Rows() {
+  static const std::vector<Number_Row> rows = All_Rows();
+  return rows;
+}
+
+std::span<const double> Row_In(const Project_Image& image, const Number_Row& row) {
+  // A run only finds its number; nothing is written here.
+  const double& first = Number_In(const_cast<Project_Image&>(image), row.first);
+  return {&first, row.count};
+}
+
 double& Number_In(Project_Image& image, const Image_Number& number) {
   return Run_Of_Number(number).number(image, number.first, number.second);
 }
@@ -155,11 +217,11 @@ std::size_t Index_Of(const Image_Number& number) {
 
 bool Front_Is_Given(const Given_Marks& given) {
   const auto tail = given.begin() + kTailStart;
-  return std::find(given.begin(), tail, false) == tail;
+  return std::find(given.begin(), tail, 0) == tail;
 }
 
 bool Tail_Is_Given(const Given_Marks& given) {
-  return std::find(given.begin() + kTailStart, given.end(), false) == given.end();
+  return std::find(given.begin() + kTailStart, given.end(), 0) == given.end();
 }
 
 bool Is_Narrow(const Image_Number& number) { return Run_Of_Number(number).narrow; }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/failure.h"
@@ -52,6 +55,8 @@ struct Image_Number {
 /// "VelocityFieldX(3,7)", "TidalDepth".
 const std::vector<Image_Number>& Image_Numbers();
 std::string Name_Of_Number(const Image_Number& number);
+/// The number of that name, nothing when the name is not one that Name_Of_Number gives.
+std::optional<Image_Number> Number_Named(std::string_view name);
 double& Number_In(Project_Image& image, const Image_Number& number);
 double Number_In(const Project_Image& image, const Image_Number& number);
 /// The number's place in Image_Numbers, and so in the marks of what the columns gave.
@@ -59,8 +64,17 @@ std::size_t Index_Of(const Image_Number& number);
 /// 32-bit in the record: its text is the shortest that gives those 32 bits back.
 bool Is_Narrow(const Image_Number& number);
 
-/// What the columns gave: a mark for every entry of Image_Numbers, false where nothing was read.
-using Given_Marks = std::vector<bool>;
+/// Numbers that follow each other in the image as they do in Image_Numbers: the first of them and
+/// how many they are. Together all rows are all numbers.
+struct Number_Row {
+  Image_Number first;
+  std::size_t count = 1;
+};
+const std::vector<Number_Row>& Image_Rows();
+std::span<const double> Row_In(const Project_Image& image, const Number_Row& row);
+
+/// What the columns gave: a mark for every entry of Image_Numbers, 0 where nothing was read.
+using Given_Marks = std::vector<char>;
 /// Whether every number up to the velocity fields was given, and every one behind them.
 bool Front_Is_Given(const Given_Marks& given);
 bool Tail_Is_Given(const Given_Marks& given);

@@ -1,6 +1,7 @@
 #include "core/project_file/project_reader.h"
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "core/project_file/column_reader.h"
@@ -60,21 +61,20 @@ std::string Tail_Remark(const Columns_Read& read) {
 }  // namespace
 
 Load_Result Load_Project(const std::string& path, std::string_view bytes, ProjectRecord& record) {
-  Columns_Read read;
+  std::optional<Progress_Display> progress("Loading " + path);
+  const File_Parts parts = Split_File(bytes);
+  Columns_Read read = Read_Columns(parts.columns, kMaxGridPoints, &*progress);
   std::string damaged;
-  {
-    Progress_Display progress("Loading " + path);
-    const File_Parts parts = Split_File(bytes);
-    read = Read_Columns(parts.columns, kMaxGridPoints, &progress);
-    if (!parts.exact.empty()) {
-      read.failure = Apply_Exact_Values(parts, read, damaged);
-      if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
-      // Behind the columns of such a file are its exact values, not the end.
-      read.at_end = false;
-    } else if (read.failure == Failure::Input_Past_End) {
-      return Load_Short(bytes, progress, record);
-    }
+  if (!parts.exact.empty()) {
+    read.failure = Apply_Exact_Values(parts, read, damaged);
+    if (read.failure == Failure::Input_Past_End) return {read.failure, false, {}};
+    // Behind the columns of such a file are its exact values, not the end.
+    read.at_end = false;
+  } else if (read.failure == Failure::Input_Past_End) {
+    return Load_Short(bytes, *progress, record);
   }
+  // It closes in front of a message.
+  progress.reset();
   if (read.failure != Failure::None) return Told(read.failure, damaged);
   if (const Failure failure = Take_Over(read, false, record); failure != Failure::None) {
     return Told(failure);

@@ -39,7 +39,8 @@ std::string Save_Project(const std::string& path, ProjectRecord& record) {
   const Project_Image image = Image_Of(record);
   std::string text = Write_Columns(image, progress);
   const Columns_Read read_back = Read_Columns(text, kMaxGridPoints, nullptr);
-  return text + Exact_Value_Lines(image, read_back);
+  text += Exact_Value_Lines(image, read_back);
+  return text;
 }
 
 }  // namespace barvon
