@@ -108,8 +108,7 @@ void SetMenuAvailability(Main_Controls& controls, Menu_Mode mode) {
 void Show_Print_Item(Main_Controls& controls) {
   // Beside the gate, which it shares with Save, a text that is looked at opens it.
   const bool project = Action_Of(controls, "mnuFileItem", kFileSave)->isEnabled();
-  Action_Of(controls, "mnuFileItem", kFilePrint)
-      ->setEnabled(project || Port().text.has_document());
+  Action_Of(controls, "mnuFileItem", kFilePrint)->setEnabled(project || Port().text.has_document());
 }
 
 // An entry can be checked only while it has its mark, so that the menu keeps no room for others.
