@@ -224,10 +224,10 @@ TEST_F(TextDocuments, The_Projects_Prompt_Saves_The_Changed_Text_And_Not_The_Pro
   Documents().Set_Dirty(1, true);
   Documents().Set_Active(2);
   chosen_ = folder_ / "notes.txt";
-  EXPECT_FALSE(Text_Changed_Prompt(record_));
+  EXPECT_FALSE(Text_Changed_Prompt());
   EXPECT_EQ(one.fronts, 1);
-  EXPECT_EQ(messages.shown.at(0).text, "The text in " + record_.ProjectFileName +
-                                           " has changed.\n\nDo you want to save the changes?");
+  EXPECT_EQ(messages.shown.at(0).text,
+            "The text in Untitled has changed.\n\nDo you want to save the changes?");
   EXPECT_EQ(Read_Text(folder_ / "notes.txt"), "text");
   EXPECT_EQ(one.file, folder_ / "notes.txt");
   EXPECT_EQ(two.file, "");
