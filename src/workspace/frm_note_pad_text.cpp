@@ -1,3 +1,4 @@
+#include <QProgressDialog>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTimer>
@@ -6,6 +7,8 @@
 
 #include "platform/ask/message_box.h"
 #include "platform/files/line_ends.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
 #include "platform/qt/print_lines.h"
 #include "workspace/frm_note_pad.h"
 #include "workspace/text_commands.h"
@@ -17,9 +20,13 @@ namespace {
 
 constexpr std::size_t kFirstSlice = 1U << 20;  // what is in view needs no more
 constexpr std::size_t kSlice = 8U << 20;
+constexpr int kManyPages = 200;
+constexpr int kSteps = 1000;     // of the progress box
+constexpr int kUnnoticed = 500;  // milliseconds that nobody minds waiting
 
 constexpr char kTooLarge[] = "Read only: too large to be edited here";
 constexpr char kWouldChange[] = "Read only: holds what an editor would change";
+constexpr char kNotWhole[] = "Read only: the file could not be read to its end";
 
 }  // namespace
 
@@ -27,6 +34,7 @@ bool frmNotePad::Load(const std::string& path) {
   auto slices = std::make_unique<File_Slices>();
   if (slices->Open(path) != 0 || slices->size() > kLargestShown) return false;
   const bool again = path == file_;
+  const File_Trace trace = slices->trace();
   if (slices->size() > kLargestEdited) {
     why_read_only_ = kTooLarge;
     const std::size_t caret = again && !Is_Edited() ? view_->Place() : 0;
@@ -39,8 +47,10 @@ bool frmNotePad::Load(const std::string& path) {
     }
   } else {
     std::string bytes;
-    if (slices->Read(static_cast<std::size_t>(slices->size()), bytes) != 0) return false;
+    const auto size = static_cast<std::size_t>(slices->size());
+    if (slices->Read(size, bytes) != 0 || bytes.size() != size) return false;
     slices_.reset();
+    whole_ = true;
     Text_Content content = Content_Of(bytes);
     if (Can_Be_Edited(content.text)) {
       const int caret = again && Is_Edited() ? edit_->textCursor().position() : 0;
@@ -60,6 +70,7 @@ bool frmNotePad::Load(const std::string& path) {
       Ready();
     }
   }
+  trace_ = trace;
   Show_File(path);
   return true;
 }
@@ -83,39 +94,38 @@ bool frmNotePad::Make_Shown(std::unique_ptr<File_Slices> slices) {
   view_->Set_Rows(std::move(rows));
   body_->setCurrentWidget(view_);
   const bool more = !slices->At_End();
+  whole_ = more || first.size() == slices->size();
   slices_ = std::move(slices);
   if (!more) slices_.reset();
   Ready();
-  if (more) QTimer::singleShot(0, this, [this] { Read_Slice(kSlice); });
+  if (more) QTimer::singleShot(0, this, [this] { Read_Slice(); });
   return true;
 }
 
-/// The rest comes while the window lives on: what has come is in view and can be gone through.
-void frmNotePad::Read_Slice(std::size_t most) {
-  if (!slices_) return;
+/// False when nothing more comes.
+bool frmNotePad::Take_Slice() {
   std::string slice;
-  const int error = slices_->Read(most, slice);
+  const bool failed = slices_->Read(kSlice, slice) != 0;
   view_->rows().Add(slice);
-  const bool over = error != 0 || slices_->At_End();
-  if (over) {
-    view_->rows().Finish();
-    slices_.reset();
-    if (error != 0) why_read_only_ = "Read only: the file could not be read to its end";
-  }
+  if (!failed && !slices_->At_End()) return true;
+  view_->rows().Finish();
+  // One that has been cut short since it was opened ends without an error.
+  whole_ = !failed && view_->rows().Size() == slices_->size();
+  if (!whole_) why_read_only_ = kNotWhole;
+  slices_.reset();
+  return false;
+}
+
+/// The rest comes while the window lives on: what has come is in view and can be gone through.
+void frmNotePad::Read_Slice() {
+  if (!slices_) return;
+  if (Take_Slice()) QTimer::singleShot(0, this, [this] { Read_Slice(); });
   view_->Rows_Came();
   Show_Kind();
-  if (!over) QTimer::singleShot(0, this, [this] { Read_Slice(kSlice); });
 }
 
 void frmNotePad::Read_To_End() {
-  while (slices_) {
-    const auto slices = slices_.get();
-    std::string slice;
-    const bool over = slices->Read(kSlice, slice) != 0;
-    view_->rows().Add(slice);
-    if (!over && !slices->At_End()) continue;
-    view_->rows().Finish();
-    slices_.reset();
+  while (slices_ && Take_Slice()) {
   }
   view_->Rows_Came();
   Show_Kind();
@@ -163,6 +173,11 @@ std::string frmNotePad::Text() {
 std::optional<std::string> frmNotePad::Bytes() {
   if (!Is_Edited()) {
     Read_To_End();
+    if (!whole_) {
+      Show_Warning("File " + file_ +
+                   " could not be read to its end. A part of it is not saved as the whole.");
+      return std::nullopt;
+    }
     return std::string(view_->rows().Bytes(0, view_->rows().Size()));
   }
   const std::string text = Edited_Text().toStdString();
@@ -181,11 +196,17 @@ std::optional<std::string> frmNotePad::Bytes() {
   return bytes;
 }
 
+bool frmNotePad::Changed_On_Disk() const {
+  const std::optional<File_Trace> now = Trace_Of(Path_To_Write(file_));
+  return now && now != trace_;
+}
+
 void frmNotePad::Saved_In(const std::string& file) {
   if (Is_Edited()) {
     content_ = std::exchange(saving_, {});
     edit_->document()->setModified(false);
   }
+  trace_ = Trace_Of(file);
   Documents().Set_Dirty(index_, false);
   Show_File(file);
   Show_Kind();
@@ -209,6 +230,21 @@ bool frmNotePad::Print(QPrinter& printer) {
       return QString::fromStdString(Row_Text(rows.Bytes(rows.Row_Of(i))));
     };
   }
+  const int pages = Estimated_Pages(printer, printed);
+  if (pages > kManyPages &&
+      Ask("The text takes about " + std::to_string(pages) + " pages. Print it?", Buttons::YesNo) !=
+          Answer::Yes) {
+    return true;
+  }
+  QProgressDialog box(QStringLiteral("Printing %1").arg(QString::fromStdString(Name_Of(Caption()))),
+                      QStringLiteral("Cancel"), 0, kSteps, this);
+  box.setWindowTitle(QLatin1String(kMessageTitle));
+  box.setWindowModality(Qt::ApplicationModal);  // what is printed must stay as it is
+  box.setMinimumDuration(kUnnoticed);
+  printed.go_on = [&box](double share) {
+    box.setValue(static_cast<int>(share * kSteps));
+    return !box.wasCanceled();
+  };
   return Print_Lines(printer, printed);
 }
 
