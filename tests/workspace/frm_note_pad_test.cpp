@@ -363,6 +363,7 @@ TEST_F(NotePad, A_Text_That_Could_Not_Be_Read_To_Its_End_Is_Not_Saved_As_The_Who
 }
 
 TEST_F(NotePad, Close_Asks_About_A_Changed_Text_Once_And_Goes_On_When_It_Is_Saved) {
+  bench.controls().SSOption1(0)->click();  // a project is under way
   frmNotePad& text = Opened("one\n", "notes.txt");
   QTest::keyClicks(Text1(text), "X");
   Project().ProjectFileName = bench.folder / "bay.DUI";
