@@ -64,14 +64,11 @@ int Copy_Whole_File(const std::string& from, const std::string& to) {
 Output_Files::Output_Files(std::string application_folder)
     : folder_(std::move(application_folder)), before_(Traces(folder_)) {}
 
-std::map<std::string, Output_Files::Trace> Output_Files::Traces(const std::string& folder) {
-  std::map<std::string, Trace> traces;
+std::map<std::string, File_Trace> Output_Files::Traces(const std::string& folder) {
+  std::map<std::string, File_Trace> traces;
   for (const char* extension : kOutputExtensions) {
     for (const std::string& path : Matching_Files(folder, std::string(kScratchName) + extension)) {
-      struct stat status {};
-      if (::stat(path.c_str(), &status) != 0) continue;
-      traces[path] = {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
-                      status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+      if (const std::optional<File_Trace> trace = Trace_Of(path)) traces[path] = *trace;
     }
   }
   return traces;
@@ -79,9 +76,9 @@ std::map<std::string, Output_Files::Trace> Output_Files::Traces(const std::strin
 
 /// Of several files whose names differ only in case, the one that this run wrote, or the newest.
 Output_Files::Found Output_Files::Find(const std::string& extension,
-                                       const std::map<std::string, Trace>& now) const {
+                                       const std::map<std::string, File_Trace>& now) const {
   Found best;
-  Trace best_trace;
+  File_Trace best_trace;
   for (const auto& [path, trace] : now) {
     if (!Equal_Ignoring_Case(Name_Of(path), kScratchName + extension)) continue;
     const auto former = before_.find(path);
@@ -97,7 +94,7 @@ Output_Files::Found Output_Files::Find(const std::string& extension,
 }
 
 std::vector<Kept_Output> Output_Files::Keep(const std::string& base_name) const {
-  const std::map<std::string, Trace> now = Traces(folder_);
+  const std::map<std::string, File_Trace> now = Traces(folder_);
   std::vector<Kept_Output> outputs;
   for (const char* extension : kOutputExtensions) {
     const Found found = Find(extension, now);

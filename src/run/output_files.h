@@ -1,10 +1,11 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "platform/files/file_trace.h"
 
 namespace barvon {
 
@@ -30,20 +31,15 @@ class Output_Files {
   std::vector<Kept_Output> Keep(const std::string& base_name) const;
 
  private:
-  struct Trace {
-    std::uint64_t device = 0, inode = 0, size = 0;
-    std::int64_t seconds = 0, nanoseconds = 0;
-    bool operator==(const Trace&) const = default;
-  };
   struct Found {
     std::string path;  // empty when there is none
     bool written = false;
   };
-  static std::map<std::string, Trace> Traces(const std::string& folder);
-  Found Find(const std::string& extension, const std::map<std::string, Trace>& now) const;
+  static std::map<std::string, File_Trace> Traces(const std::string& folder);
+  Found Find(const std::string& extension, const std::map<std::string, File_Trace>& now) const;
 
   std::string folder_;
-  std::map<std::string, Trace> before_;
+  std::map<std::string, File_Trace> before_;
 };
 
 }  // namespace barvon

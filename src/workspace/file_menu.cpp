@@ -16,7 +16,6 @@
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/settings_keys.h"
-#include "core/desk/text_prompt.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "platform/ask/file_dialog.h"
@@ -117,7 +116,7 @@ void mnuFileItem_Click(int index, ProjectRecord& record) {
       if (File_Open_Dialog(record.FileKind, record)) Show_Opened(record);
       return;
     case kFileClose:
-      if (Port().board.close_input_screens() && !Text_Changed_Prompt(record)) Reset_Vars(record);
+      if (Port().board.close_input_screens()) Reset_Vars(record);
       return;
     case kFileSave:
       return Save(record);

@@ -14,6 +14,7 @@
 
 #include "core/project_record.h"
 #include "platform/files/file_slices.h"
+#include "platform/files/file_trace.h"
 #include "platform/files/text_content.h"
 #include "platform/qt/find_bar.h"
 #include "platform/qt/large_text_view.h"
@@ -44,7 +45,8 @@ class frmNotePad : public QMainWindow, public Text_Document {
   /// Shows the menus of the main window that are for texts in this one too.
   void Share_Menus(const QMenu& font, const QMenu& window);
   void Set_Font(const QString& family);
-  /// False when the printer can't be written to.
+  /// Asks first when it takes many pages, and can be called off while it is printed. False when the
+  /// printer can't be written to.
   bool Print(QPrinter& printer);
   /// The whole text as it stands, in UTF-8; lines end as in the file, or with "\n" once edited.
   std::string Text();
@@ -54,6 +56,7 @@ class frmNotePad : public QMainWindow, public Text_Document {
   std::string Caption() const override;
   std::string File() const override { return file_; }
   void Come_To_Front() override;
+  bool Changed_On_Disk() const override;
   std::optional<std::string> Bytes() override;
   void Saved_In(const std::string& file) override;
 
@@ -71,7 +74,8 @@ class frmNotePad : public QMainWindow, public Text_Document {
   void Build_Status();
   void Make_Edited(const Text_Content& content);
   bool Make_Shown(std::unique_ptr<File_Slices> slices);
-  void Read_Slice(std::size_t most);
+  bool Take_Slice();
+  void Read_Slice();
   void Read_To_End();
   void Ready();
   void Show_File(const std::string& file);
@@ -91,7 +95,9 @@ class frmNotePad : public QMainWindow, public Text_Document {
   Text_Content content_;                 // of Text1 as its file has it
   Text_Content saving_;                  // what its file has once the save is over
   std::unique_ptr<File_Slices> slices_;  // while it is being read
+  std::optional<File_Trace> trace_;      // of the file as it was read or saved
   const char* why_read_only_ = "";
+  bool whole_ = true;  // all of the file is here, or will be
   bool loading_ = false, closing_ = false;
   int index_ = 0;
 };

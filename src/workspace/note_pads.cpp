@@ -10,7 +10,6 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
-#include "platform/ask/busy_cursor.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"
@@ -57,7 +56,6 @@ bool Print_Text_In_Front() {
   QPrinter& printer = Session_Printer();
   printer.setDocName(QString::fromStdString(Name_Of(text->Caption())));
   if (!Ask_Printer("Print Text", 0)) return true;
-  const Busy_Cursor waiting;
   if (!Print_Active_Text(printer)) Show_Critical("The Text Could Not Be Printed.");
   return true;
 }

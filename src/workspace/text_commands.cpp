@@ -14,7 +14,25 @@
 namespace barvon {
 namespace {
 
+/// Whether what another program or a run has written may be lost. Return must not discard it.
+bool May_Write_Over(const std::string& path) {
+  return Show_Message({"File " + path +
+                           " has changed on the disk since it was read.\n"
+                           "Do you want to write over it?",
+                       kMessageTitle, Buttons::YesNo, Icon::Warning, Answer::No, Answer::No}) ==
+         Answer::Yes;
+}
+
 bool Save_In(int index, const std::string& path, ProjectRecord& record) {
+  const std::string file = Path_To_Write(path);
+  const int owner = Documents().Find(file);
+  if (owner != 0 && owner != index) {
+    Show_Warning("Another window has the text of this file. Save the text under another name.");
+    return false;
+  }
+  if (owner == index && Documents().Document(index)->Changed_On_Disk() && !May_Write_Over(file)) {
+    return false;
+  }
   Documents().Set_Active(index);
   return Save_File(path, kTextKind, record);
 }

@@ -20,7 +20,10 @@ class Text_Document {
   /// "" for a text that has no file yet.
   virtual std::string File() const = 0;
   virtual void Come_To_Front() = 0;
-  /// The bytes of a file for the text as it stands, nothing when a person called it off.
+  /// Whether its file is there and is not the one that it was read from or saved in last.
+  virtual bool Changed_On_Disk() const = 0;
+  /// The bytes of a file for the text as it stands, nothing when a person called it off or has been
+  /// told that it is not whole.
   virtual std::optional<std::string> Bytes() = 0;
   /// The text is in that file now.
   virtual void Saved_In(const std::string& file) = 0;

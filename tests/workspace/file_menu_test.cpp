@@ -202,12 +202,26 @@ TEST_F(FileMenu, Close_Stops_When_The_Text_Prompt_Is_Cancelled) {
   EXPECT_EQ(record_.ProjectFileName, "/data/site.dui");
 }
 
-TEST_F(FileMenu, Close_Asks_About_Changed_Text_Again_Before_It_Resets) {
-  Scripted_Messages messages({Answer::No, Answer::No});
+TEST_F(FileMenu, Close_Asks_About_Changed_Text_Once_Before_It_Resets) {
+  Scripted_Messages messages({Answer::No});
   text_has_changed_ = true;
   Click(kFileClose);
-  EXPECT_EQ(messages.shown.size(), 2u);
+  EXPECT_EQ(messages.shown.size(), 1u);
   EXPECT_EQ(caption_, kUntitledCaption);
+}
+
+TEST_F(FileMenu, Close_And_New_Go_On_Once_The_Text_Is_Saved) {
+  for (const File_Item item : {kFileClose, kFileNew}) {
+    Scripted_Messages messages({Answer::Yes});
+    text_has_changed_ = true;
+    int saved = 0;
+    Port().text.save = [&saved] { return ++saved > 0; };
+    Name_Project("/data/site.dui");
+    Click(item);
+    EXPECT_EQ(messages.shown.size(), 1u);
+    EXPECT_EQ(saved, 1);
+    EXPECT_EQ(record_.ProjectFileName, "");
+  }
 }
 
 TEST_F(FileMenu, Save_Without_Findings_Asks_Nothing) {

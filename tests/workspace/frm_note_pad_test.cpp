@@ -9,11 +9,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 #include <filesystem>
+#include <iterator>
+#include <regex>
 
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
@@ -80,6 +84,12 @@ class NotePad : public ::testing::Test {
  private:
   File_Dialog_Presenter former_;
 };
+
+int Pages_In(const std::string& pdf) {
+  const std::regex page("/Type /Page[^s]");
+  return static_cast<int>(
+      std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), page), std::sregex_iterator()));
+}
 
 TEST_F(NotePad, Text_Viewer_Makes_An_Untitled_Text_That_Blocks_Nobody) {
   frmNotePad& text = Untitled();
@@ -308,6 +318,65 @@ TEST_F(NotePad, Reading_Again_Over_Typed_Text_Asks) {
   EXPECT_EQ(Documents().FState(1).Dirty, kFalse);
 }
 
+TEST_F(NotePad, Saving_Over_A_File_That_Was_Written_Since_It_Was_Read_Asks) {
+  frmNotePad& text = Opened("one\n");
+  QTest::keyClicks(Text1(text), "X");
+  Write_Text(bench.folder / "site.duo", "another run\n");
+  Modal_Replies replies({Press_Escape(), Press(QMessageBox::Yes)});
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "another run\n");
+  EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+  EXPECT_EQ(replies.seen.at(0).default_button, QMessageBox::No);
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "Xone\n");
+  QTest::keyClicks(Text1(text), "Y");
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "XYone\n") << "its own save is no change of another's";
+  Write_Text(bench.folder / "site.duo", "a run\n");
+  Do(text, "ReadAgain");
+  QTest::keyClicks(Text1(text), "Z");
+  Do(text, "Save");
+  EXPECT_EQ(Saved(), "a Zrun\n");
+  EXPECT_EQ(replies.windows, 2);
+}
+
+TEST_F(NotePad, A_Text_That_Could_Not_Be_Read_To_Its_End_Is_Not_Saved_As_The_Whole) {
+  const std::string path = bench.folder / "site.duo";
+  Write_Text(path, std::string(6'000'000, '\n'));
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(path));
+  text.show();
+  ASSERT_TRUE(text.Is_Reading());
+  std::filesystem::resize_file(path, 2'000'000);
+  Modal_Replies replies({Press(QMessageBox::Ok)});
+  chosen = bench.folder / "copy.txt";
+  Do(text, "SaveAs");
+  EXPECT_EQ(
+      replies.seen.at(0).text.toStdString(),
+      "File " + path + " could not be read to its end. A part of it is not saved as the whole.");
+  EXPECT_FALSE(Exists(bench.folder / "copy.txt"));
+  EXPECT_EQ(text.findChild<QLabel*>("State")->text(),
+            "Read only: the file could not be read to its end");
+  Do(text, "ReadAgain");
+  Do(text, "SaveAs");
+  EXPECT_EQ(Saved("copy.txt"), std::string(2'000'000, '\n'));
+}
+
+TEST_F(NotePad, Close_Asks_About_A_Changed_Text_Once_And_Goes_On_When_It_Is_Saved) {
+  bench.controls().SSOption1(0)->click();  // a project is under way
+  frmNotePad& text = Opened("one\n", "notes.txt");
+  QTest::keyClicks(Text1(text), "X");
+  Project().ProjectFileName = bench.folder / "bay.DUI";
+  Modal_Replies replies({Press(QMessageBox::Yes)});
+  bench.Action("mnuFileItem(2)")->trigger();
+  EXPECT_EQ(replies.windows, 1);
+  EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+            "The text in " + (bench.folder / "notes.txt") +
+                " has changed.\n\nDo you want to save the changes?");
+  EXPECT_EQ(Saved("notes.txt"), "Xone\n");
+  EXPECT_EQ(Project().ProjectFileName, "");
+}
+
 TEST_F(NotePad, A_File_That_Is_Gone_Leaves_Its_Text) {
   frmNotePad& text = Opened("one\n");
   std::filesystem::remove(bench.folder / "site.duo");
@@ -389,6 +458,48 @@ TEST_F(NotePad, Print_Is_For_The_Text_In_Front_Until_A_Person_Turns_To_The_Board
   Set_File_Dialog_Presenter(former);
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(Saved("printed.pdf").substr(0, 5), "%PDF-");
+}
+
+TEST_F(NotePad, A_Text_Of_Many_Pages_Is_Printed_Only_When_A_Person_Agrees) {
+  frmNotePad& text = Opened(std::string(30000, '\n'));
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(bench.folder / "text.pdf"));
+  Modal_Replies replies({Press(QMessageBox::No), Press(QMessageBox::Yes)});
+  EXPECT_TRUE(text.Print(printer)) << "called off is not failed";
+  EXPECT_FALSE(Exists(bench.folder / "text.pdf"));
+  EXPECT_TRUE(text.Print(printer));
+  const int pages = Pages_In(Saved("text.pdf"));
+  EXPECT_GT(pages, 200);
+  EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+            "The text takes about " + std::to_string(pages) + " pages. Print it?");
+  printer.setFromTo(3, 202);
+  EXPECT_TRUE(text.Print(printer)) << "200 of them are not asked about";
+  EXPECT_EQ(Pages_In(Saved("text.pdf")), 200);
+  EXPECT_EQ(replies.windows, 2);
+}
+
+TEST_F(NotePad, A_Long_Print_Shows_How_Far_It_Is_And_Can_Be_Called_Off) {
+  std::string bytes;
+  while (bytes.size() < 6'000'000) bytes += "a line of the text that takes long to print\n";
+  frmNotePad& text = Opened(bytes);
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(bench.folder / "text.pdf"));
+  int share = 0;
+  const auto call_off = [&share](QWidget* window) {
+    auto* box = qobject_cast<QProgressDialog*>(window);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->labelText(), "Printing site.duo");
+    share = box->value();
+    box->findChild<QPushButton*>()->click();
+  };
+  Modal_Replies replies({Press(QMessageBox::Yes), call_off});
+  EXPECT_TRUE(text.Print(printer));
+  EXPECT_EQ(replies.windows, 2);
+  EXPECT_GT(share, 0);
+  EXPECT_LT(share, 1000);
+  EXPECT_FALSE(Exists(bench.folder / "text.pdf")) << "a part would pass for the whole";
 }
 
 TEST_F(NotePad, A_Font_Is_Set_In_The_Text_In_Front_Alone) {

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <limits>
 
+#include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_record.h"
 #include "platform/qt/end_signals.h"
@@ -109,6 +110,15 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_FALSE(bench.Child<QPushButton>("StopRun")->isVisible());
   EXPECT_FALSE(bench.Child<QLabel>("StatusProgram")->isVisible());
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+}
+
+TEST_F(MainRun, A_Text_That_Is_Saved_Before_The_Run_Names_None_Of_Its_Outputs) {
+  Write_Text(bench.folder / "other.duo", "of another project");
+  Port().text.active = [] { return std::string("notes"); };
+  ASSERT_TRUE(Save_File(bench.folder / "other.txt", kTextKind, Project()));
+  Run_And([this] { Write_Text(bench.folder / "go", ""); });
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+  EXPECT_EQ(Read_Text(bench.folder / "other.duo"), "of another project");
 }
 
 TEST_F(MainRun, Graphics_That_Stay_Open_Are_No_Run_And_Keep_None_From_Starting) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
 #include "core/desk/text_prompt.h"
 #include "core/desk/workspace_port.h"
@@ -20,6 +21,7 @@ struct Fake_Text : Text_Document {
   std::string Caption() const override { return file.empty() ? "Untitled" : file; }
   std::string File() const override { return file; }
   void Come_To_Front() override { ++fronts; }
+  bool Changed_On_Disk() const override { return changed_on_disk; }
   std::optional<std::string> Bytes() override { return bytes; }
   void Saved_In(const std::string& path) override {
     file = path;
@@ -28,6 +30,7 @@ struct Fake_Text : Text_Document {
 
   int index = 0;
   int fronts = 0;
+  bool changed_on_disk = false;
   std::string file;
   std::optional<std::string> bytes = "text";
 };
@@ -128,7 +131,7 @@ TEST_F(TextDocuments, Save_Leaves_A_File_Alone_That_Nobody_Typed_Into_But_Brings
   EXPECT_EQ(Read_Text(one.file), "text");
 }
 
-TEST_F(TextDocuments, Save_Without_A_File_Asks_For_Text_And_All_Files_And_Adds_No_Extension) {
+TEST_F(TextDocuments, Save_Without_A_File_Asks_For_Text_And_All_Files) {
   Scripted_Messages messages;
   chosen_ = folder_ / "notes";
   EXPECT_TRUE(Save_Text(1, record_));
@@ -139,6 +142,7 @@ TEST_F(TextDocuments, Save_Without_A_File_Asks_For_Text_And_All_Files_And_Adds_N
   EXPECT_EQ(save_asked_[0].filters[0].pattern, "*.txt");
   EXPECT_EQ(save_asked_[0].filters[1].pattern, "*");
   EXPECT_FALSE(save_asked_[0].complete);
+  EXPECT_TRUE(save_asked_[0].add_extension);
 }
 
 TEST_F(TextDocuments, Save_As_Offers_The_Texts_Name_And_Refuses_The_Open_Projects) {
@@ -152,6 +156,61 @@ TEST_F(TextDocuments, Save_As_Offers_The_Texts_Name_And_Refuses_The_Open_Project
   EXPECT_FALSE(Exists(folder_ / "bay.DUI"));
   EXPECT_EQ(one.file, folder_ / "a.txt");
   EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+}
+
+TEST_F(TextDocuments, Save_As_Of_An_Output_Or_A_Bare_Name_Is_Offered_All_Files_First) {
+  Scripted_Messages messages;
+  for (const char* name : {"a.duo", "notes", "mytxt"}) {
+    Ask_Text_To_Save(folder_ / name);
+    EXPECT_EQ(save_asked_.back().filters.at(0).pattern, "*") << name;
+  }
+  for (const char* name : {"a.txt", "B.TXT"}) {
+    Ask_Text_To_Save(folder_ / name);
+    EXPECT_EQ(save_asked_.back().filters.at(0).pattern, "*.txt") << name;
+  }
+}
+
+TEST_F(TextDocuments, Save_As_Never_Takes_The_Place_Of_Another_Open_Text) {
+  Scripted_Messages messages({Answer::Ok, Answer::Ok, Answer::Ok});
+  one.file = folder_ / "a.txt";
+  two.file = folder_ / "b.txt";
+  Write_Text(one.file, "one");
+  Write_Text(two.file, "two");
+  std::filesystem::create_symlink(two.file, folder_ / "link.txt");
+  Documents().Set_Dirty(1, true);
+  for (const char* name : {"b.txt", "B.txt", "link.txt"}) {
+    chosen_ = folder_ / name;
+    EXPECT_FALSE(Save_Text_As(1, record_)) << name;
+  }
+  EXPECT_EQ(messages.shown.at(0).text,
+            "Another window has the text of this file. Save the text under another name.");
+  EXPECT_EQ(messages.shown[0].icon, Icon::Warning);
+  EXPECT_EQ(Read_Text(two.file), "two");
+  EXPECT_EQ(one.file, folder_ / "a.txt");
+  EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+}
+
+TEST_F(TextDocuments,
+       Saving_Over_A_File_That_Another_Program_Has_Written_Asks_And_Return_Keeps_It) {
+  Scripted_Messages messages({Answer::No, Answer::No, Answer::Yes});
+  one.file = folder_ / "a.txt";
+  Write_Text(one.file, "newer");
+  one.changed_on_disk = true;
+  Documents().Set_Dirty(1, true);
+  EXPECT_FALSE(Save_Text(1, record_));
+  chosen_ = folder_ / "A.TXT";
+  EXPECT_FALSE(Save_Text_As(1, record_)) << "its own file, whatever the case";
+  EXPECT_EQ(Read_Text(one.file), "newer");
+  EXPECT_EQ(Documents().FState(1).Dirty, kTrue);
+  EXPECT_EQ(messages.shown.at(0).text,
+            "File " + one.file +
+                " has changed on the disk since it was read.\nDo you want to write over it?");
+  EXPECT_EQ(messages.shown[0].buttons, Buttons::YesNo);
+  EXPECT_EQ(messages.shown[0].on_return, Answer::No);
+  EXPECT_TRUE(Save_Text(1, record_));
+  EXPECT_EQ(Read_Text(one.file), "text");
+  chosen_ = folder_ / "c.txt";
+  EXPECT_TRUE(Save_Text_As(1, record_)) << "another file is none of the question's";
 }
 
 TEST_F(TextDocuments, Closing_Unchanged_Text_Asks_Nothing) {
@@ -224,10 +283,10 @@ TEST_F(TextDocuments, The_Projects_Prompt_Saves_The_Changed_Text_And_Not_The_Pro
   Documents().Set_Dirty(1, true);
   Documents().Set_Active(2);
   chosen_ = folder_ / "notes.txt";
-  EXPECT_FALSE(Text_Changed_Prompt(record_));
+  EXPECT_FALSE(Text_Changed_Prompt());
   EXPECT_EQ(one.fronts, 1);
-  EXPECT_EQ(messages.shown.at(0).text, "The text in " + record_.ProjectFileName +
-                                           " has changed.\n\nDo you want to save the changes?");
+  EXPECT_EQ(messages.shown.at(0).text,
+            "The text in Untitled has changed.\n\nDo you want to save the changes?");
   EXPECT_EQ(Read_Text(folder_ / "notes.txt"), "text");
   EXPECT_EQ(one.file, folder_ / "notes.txt");
   EXPECT_EQ(two.file, "");

@@ -1,11 +1,14 @@
 #include "core/desk/file_dialogs.h"
 
+#include <algorithm>
+
 #include "core/desk/file_kinds.h"
 #include "core/keys.h"
 #include "core/text_tools.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
+#include "platform/text/letter_case.h"
 
 namespace barvon {
 namespace {
@@ -71,6 +74,11 @@ std::optional<std::string> Ask_Text_To_Save(const std::string& name) {
   File_Request request;
   request.title = "Save As";
   request.filters = Text_Filters();
+  // The text's own file must not become another one by an extension that it has not.
+  if (!name.empty() && !Equal_Ignoring_Case(name, With_Extension(name, "txt"))) {
+    std::ranges::reverse(request.filters);
+  }
+  request.add_extension = true;
   request.name = name;
   const auto chosen = Ask_Save_File(request);
   return chosen && !chosen->empty() ? chosen : std::nullopt;

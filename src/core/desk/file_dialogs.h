@@ -17,7 +17,8 @@ std::optional<std::string> Ask_File_To_Open(double kind, const std::string& name
 /// added. Nothing on Cancel.
 std::optional<std::string> File_SaveAs_Dialog(const std::string& name, int kind);
 
-/// The dialogs of a text: text and all files, nothing is added to a name. Nothing on Cancel.
+/// The dialogs of a text: text and all files, by the kind that `name` is of first. Under the first
+/// kind a name that is saved under gets ".txt" where it has no extension. Nothing on Cancel.
 std::optional<std::string> Ask_Text_To_Open(const std::string& name = "");
 std::optional<std::string> Ask_Text_To_Save(const std::string& name);
 

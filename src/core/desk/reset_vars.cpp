@@ -7,7 +7,7 @@
 namespace barvon {
 
 bool Reset_Vars(ProjectRecord& record) {
-  if (Text_Changed_Prompt(record)) return false;
+  if (Text_Changed_Prompt()) return false;
   Port().text.clear_checks();
   Port().dilution.close();
   Port().board.set_caption(kUntitledCaption);

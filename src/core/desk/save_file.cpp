@@ -122,8 +122,10 @@ bool Write_Text(const std::string& path, const ProjectRecord& record) {
     return false;
   }
   const std::optional<std::string> bytes = Port().text.active();
-  if (!bytes || !Write_File(path, kTextKind, [&] { return *bytes; })) return false;
-  Port().text.set_caption(path);
+  // The text bears the name of the file that it is in, whatever the case that was typed.
+  const std::string written = Path_To_Write(path);
+  if (!bytes || !Write_File(written, kTextKind, [&] { return *bytes; })) return false;
+  Port().text.set_caption(written);
   return true;
 }
 
@@ -147,18 +149,16 @@ bool Write_By_Kind(const std::string& path, int kind, ProjectRecord& record) {
 
 bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   if (!Write_By_Kind(path, kind, record)) return false;
+  // A text opens no project: it has nothing to do among the files that do. Nor is an output named
+  // from it, which would then be written over that of another project.
+  if (kind == kTextKind) return true;
   // A list of dilutions says nothing of the project: it is as unsaved as before, and no output is
   // named from the list.
   if (kind != kDilutionKind) {
-    // Outputs are named from what was saved last, a text of the viewer included.
     record.BaseFileName = Base_Name(path);
-    if (kind != kTextKind) {
-      record.DataSaved = kTrue;
-      record.SavedUnderScreens = Any_Input_Screen_Is_Open() ? kTrue : kFalse;
-    }
+    record.DataSaved = kTrue;
+    record.SavedUnderScreens = Any_Input_Screen_Is_Open() ? kTrue : kFalse;
   }
-  // A text opens no project: it has nothing to do among the files that do.
-  if (kind == kTextKind) return true;
   Port().board.set_caption("BARVON - " + path);
   Update_Recent_Files(path);
   return true;

@@ -13,7 +13,7 @@ inline constexpr int kTextKind = 4;
 /// Saves by kind: a dilution file, a project and its model input export, the export alone, the text
 /// of the active viewer window. True when the file of that kind is on disk; then BaseFileName and
 /// DataSaved follow, which a dilution file leaves alone, the caption and the recent files.
-/// A text has no entry among them, and never takes the place of the open project.
+/// A text changes none of these, and never takes the place of the open project.
 /// Otherwise the user has been told, but for an export of sections that are marked as empty, which
 /// is passed over in silence. The old file is whole after any failure, and BaseFileName is as it
 /// was.

@@ -5,15 +5,12 @@
 
 namespace barvon {
 
-bool Text_Changed_Prompt(const ProjectRecord& record) {
+bool Text_Changed_Prompt() {
   if (!Port().text.has_changed()) return false;
-  // The question names the project: which text it is about is seen.
   Port().text.show_changed();
-  const std::string name =
-      record.ProjectFileName.empty() ? Port().text.caption() : record.ProjectFileName;
-  const Answer answer =
-      Ask("The text in " + name + " has changed.\n\nDo you want to save the changes?",
-          Buttons::YesNoCancel);
+  const Answer answer = Ask(
+      "The text in " + Port().text.caption() + " has changed.\n\nDo you want to save the changes?",
+      Buttons::YesNoCancel);
   // What changed is a text: the project's file must not be written in its place.
   if (answer == Answer::Yes) return !Port().text.save();
   return answer != Answer::No;

@@ -16,7 +16,8 @@ File_Slices::~File_Slices() {
 
 int File_Slices::Open(const std::string& path) {
   if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
-  size_ = left_ = 0;
+  trace_ = {};
+  left_ = 0;
   // A pipe that nobody writes to would be waited for.
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (descriptor < 0) return errno;
@@ -29,23 +30,25 @@ int File_Slices::Open(const std::string& path) {
     return error;
   }
   descriptor_ = descriptor;
-  size_ = left_ = static_cast<std::uint64_t>(status.st_size);
+  trace_ = Trace_Of(status);
+  left_ = trace_.size;
   return 0;
 }
 
 int File_Slices::Read(std::size_t most, std::string& slice) {
   slice.resize(static_cast<std::size_t>(std::min<std::uint64_t>(most, left_)));
   std::size_t filled = 0;
+  int error = 0;
   while (filled < slice.size()) {
     const ssize_t got = ::read(descriptor_, slice.data() + filled, slice.size() - filled);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return errno;
-    if (got == 0) break;
+    if (got < 0) error = errno;
+    if (got <= 0) break;
     filled += static_cast<std::size_t>(got);
   }
   left_ = filled < slice.size() ? 0 : left_ - filled;
   slice.resize(filled);
-  return 0;
+  return error;
 }
 
 }  // namespace barvon

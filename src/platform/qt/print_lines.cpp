@@ -1,14 +1,20 @@
 #include "platform/qt/print_lines.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace barvon {
 namespace {
 
 constexpr int kTab = 8;
-constexpr double kHeadGap = 1.5;  // lines between the head and the text
+constexpr double kHeadGap = 1.5;   // lines between the head and the text
+constexpr int kPagesAtATime = 20;  // between two looks at who waits
+
+double Top_Of(const QFontMetricsF& metrics) { return metrics.lineSpacing() * (1 + kHeadGap); }
 
 class Pages {
  public:
@@ -19,7 +25,7 @@ class Pages {
         metrics_(text.font, &printer),
         room_(painter.viewport()) {
     painter_.setFont(text.font);
-    top_ = metrics_.lineSpacing() * (1 + kHeadGap);
+    top_ = Top_Of(metrics_);
   }
 
   void Print(QString line) {
@@ -36,6 +42,7 @@ class Pages {
     } while (!line.isEmpty() && !Is_Over());
   }
 
+  int page() const { return page_; }
   bool Is_Over() const { return printer_.toPage() > 0 && page_ > printer_.toPage(); }
 
  private:
@@ -98,14 +105,38 @@ class Pages {
   bool page_full_ = false, printed_ = false;
 };
 
+void Call_Off(QPrinter& printer, QPainter& painter) {
+  printer.abort();
+  painter.end();
+  const QString file = printer.outputFileName();
+  if (QFileInfo(file).isFile()) QFile::remove(file);
+}
+
 }  // namespace
 
 bool Print_Lines(QPrinter& printer, const Printed_Text& text) {
   QPainter painter;
   if (!painter.begin(&printer)) return false;
   Pages pages(printer, text, painter);
-  for (std::size_t i = 0; i < text.lines && !pages.Is_Over(); ++i) pages.Print(text.line(i));
+  int looked = 0;
+  for (std::size_t i = 0; i < text.lines && !pages.Is_Over(); ++i) {
+    pages.Print(text.line(i));
+    if (!text.go_on || pages.page() - looked < kPagesAtATime) continue;
+    looked = pages.page();
+    if (text.go_on(static_cast<double>(i) / static_cast<double>(text.lines))) continue;
+    Call_Off(printer, painter);
+    return true;
+  }
   return painter.end();
+}
+
+int Estimated_Pages(QPrinter& printer, const Printed_Text& text) {
+  const QFontMetricsF metrics(text.font, &printer);
+  const double room = std::floor((printer.height() - Top_Of(metrics)) / metrics.lineSpacing());
+  const double pages = std::ceil(static_cast<double>(text.lines) / std::max(1.0, room));
+  const int first = std::max(1, printer.fromPage());
+  const double last = printer.toPage() > 0 ? std::min<double>(pages, printer.toPage()) : pages;
+  return static_cast<int>(std::max(0.0, last - first + 1));
 }
 
 }  // namespace barvon

@@ -14,11 +14,18 @@ struct Printed_Text {
   QFont font;
   std::size_t lines = 0;
   std::function<QString(std::size_t index)> line;
+  /// Told the share that is done, 0 to 1, every so many pages. False calls the print off.
+  std::function<bool(double share)> go_on = {};
 };
 
 /// Prints a text line by line: a line that is wider than the page goes on in the next, a form feed
 /// at its beginning starts a new page. Keeps to the printer's range of pages. False when the
-/// printer can't be written to.
+/// printer can't be written to. One that is called off is no failure; of a file that is printed to
+/// nothing stays.
 bool Print_Lines(QPrinter& printer, const Printed_Text& text);
+
+/// How many pages of the printer's range the text fills when none of its lines is wider than the
+/// page and none starts a new one.
+int Estimated_Pages(QPrinter& printer, const Printed_Text& text);
 
 }  // namespace barvon

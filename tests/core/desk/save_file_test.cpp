@@ -275,8 +275,20 @@ TEST_F(SaveFile, A_Text_Of_The_Viewer_Is_Written_As_It_Is_And_Is_No_Recent_File)
   EXPECT_EQ(text_caption, folder_ / "notes.txt");
   EXPECT_EQ(record_.DataSaved, kFalse);
   EXPECT_EQ(caption_, "");
-  EXPECT_EQ(record_.BaseFileName, folder_ / "notes");
+  EXPECT_EQ(record_.BaseFileName, "/former/site") << "no output is named from a text";
   EXPECT_EQ(Listed().at(0), "");
+}
+
+TEST_F(SaveFile, A_Text_Has_The_Name_Of_The_File_That_It_Replaces_Whatever_Its_Case) {
+  Scripted_Messages messages;
+  Port().text.active = [] { return std::string("text"); };
+  std::string text_caption;
+  Port().text.set_caption = [&](const std::string& caption) { text_caption = caption; };
+  Write_Text(folder_ / "NOTES.TXT", "before");
+  EXPECT_TRUE(Save_File(folder_ / "notes.txt", 4, record_));
+  EXPECT_EQ(Names_In(folder_.path()), Lines{"NOTES.TXT"});
+  EXPECT_EQ(Read_Text(folder_ / "NOTES.TXT"), "text");
+  EXPECT_EQ(text_caption, folder_ / "NOTES.TXT");
 }
 
 TEST_F(SaveFile, A_Text_Whose_Save_Is_Called_Off_Is_Not_Written) {

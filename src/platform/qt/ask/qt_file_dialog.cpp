@@ -54,6 +54,10 @@ class File_Dialog : public QFileDialog {
         suffixes_ << QString::fromStdString(filter.pattern).remove(QLatin1Char('*'));
       }
       connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Follow_Filter);
+      if (request.add_extension) {
+        Add_Extension(selectedNameFilter());
+        connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Add_Extension);
+      }
     }
   }
 
@@ -89,6 +93,14 @@ class File_Dialog : public QFileDialog {
       if (name.endsWith(suffix, Qt::CaseInsensitive)) name.chop(suffix.size());
     }
     edit->setText(name + wanted);
+  }
+
+  void Add_Extension(const QString& filter) {
+    QString extension;
+    for (const QString& suffix : suffixes_) {
+      if (filter.contains(suffix)) extension = std::max(extension, suffix);
+    }
+    setDefaultSuffix(extension);
   }
 
   void Offer(const QString& name) {

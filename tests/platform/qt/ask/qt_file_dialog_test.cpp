@@ -100,6 +100,33 @@ TEST(SaveDialog, The_Name_Follows_The_Kind_That_Is_Chosen) {
   EXPECT_EQ(names, QStringList({"bay.html", "my.site.html", "my.site.pdf", ""}));
 }
 
+TEST(SaveDialog, A_Bare_Name_Gets_The_Extension_Of_The_Kind_That_Is_Chosen) {
+  Scratch_Folder folder;
+  Write_Text(folder / "there.txt", "x");
+  File_Request request{
+      "", {{"Text Files (*.txt)", "*.txt"}, {"All Files (*)", "*"}}, folder.path()};
+  const auto saved = [&](const char* name, int kind) {
+    Modal_Replies replies({[&](QWidget* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      emit files->filterSelected(files->nameFilters().at(kind));
+      Choose(name)(dialog);
+    }});
+    return Ask_Qt_Save_File(request);
+  };
+  EXPECT_EQ(saved("notes", 0), folder / "notes") << "unless that is not asked for";
+  request.add_extension = true;
+  {
+    Modal_Replies replies({Choose("notes")});
+    EXPECT_EQ(Ask_Qt_Save_File(request), folder / "notes.txt");
+  }
+  EXPECT_EQ(saved("notes", 0), folder / "notes.txt");
+  EXPECT_EQ(saved("notes.lst", 0), folder / "notes.lst");
+  EXPECT_EQ(saved("notes", 1), folder / "notes");
+  Modal_Replies replies({Choose("there"), Press(QMessageBox::Yes)});
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "there.txt");
+  EXPECT_EQ(replies.seen.at(0).text, "there.txt already exists.\nDo you want to replace it?");
+}
+
 TEST(SaveDialog, Offers_The_Name_It_Was_Given) {
   Scratch_Folder folder;
   QString offered;
