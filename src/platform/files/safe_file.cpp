@@ -239,7 +239,6 @@ int Write_Exclusive_File(const std::string& path, std::string_view bytes) {
       ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
   if (descriptor < 0) return errno;
   int error = Write_All(descriptor, bytes);
-  if (error == 0 && ::fsync(descriptor) != 0) error = errno;
   if (::close(descriptor) != 0 && error == 0) error = errno;
   if (error != 0) ::unlink(path.c_str());
   return error;

@@ -51,7 +51,8 @@ int Write_Whole_File(const std::string& path, std::string_view bytes);
 int Read_Whole_File(const std::string& path, std::string& bytes);
 
 /// Makes a new file that no link can lead elsewhere: what is under the name is removed first,
-/// and the file is created exclusively. 0 or an errno value; nothing stays after a failure.
+/// and the file is created exclusively. It is for programs that run now and is not waited for on
+/// the disk. 0 or an errno value; nothing stays after a failure.
 int Write_Exclusive_File(const std::string& path, std::string_view bytes);
 
 /// Where a save notes the name of its working file while it lasts, so that the next start can
