@@ -14,6 +14,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/files/folder_names.h"
 #include "platform/files/paths.h"
 
 namespace barvon {
@@ -97,16 +98,6 @@ void Remove_If_Abandoned(const std::string& path, std::vector<std::string>& remo
     removed.push_back(path);
   }
   ::close(descriptor);
-}
-
-std::vector<std::string> Names_In(const std::string& folder) {
-  std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator entry(folder, error);
-  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    names.push_back(entry->path().filename().string());
-  }
-  return names;
 }
 
 }  // namespace
@@ -249,7 +240,7 @@ void Set_Save_Notes_Folder(std::string folder) { Notes_Folder() = std::move(fold
 std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& folders) {
   std::vector<std::string> removed;
   if (!Notes_Folder().empty()) {
-    for (const std::string& name : Names_In(Notes_Folder())) {
+    for (const std::string& name : Names_In_Folder(Notes_Folder())) {
       if (!Is_Marked_Name(name, kNoteEnding)) continue;
       const std::string note = Join_Path(Notes_Folder(), name);
       std::string working;
@@ -261,7 +252,7 @@ std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& f
     }
   }
   for (const std::string& folder : folders) {
-    for (const std::string& name : Names_In(folder)) {
+    for (const std::string& name : Names_In_Folder(folder)) {
       if (Is_Marked_Name(name, kWorkingEnding)) {
         Remove_If_Abandoned(Join_Path(folder, name), removed);
       }
