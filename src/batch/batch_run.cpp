@@ -22,6 +22,7 @@
 #include "platform/ask/box_collector.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/process/event_pump.h"
 #include "run/create_process.h"
 #include "run/run_driver.h"
@@ -90,6 +91,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   }
   const std::string former_application = Application_Folder();
   Set_Application_Folder(scratch);
+  Set_Passing_Folder(scratch);
   const Event_Pump former_pump = Set_Event_Pump(Wait_Or_Stop);
   Run_Report report;
   {
@@ -98,6 +100,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
     report = Run_Model(record);
   }
   Set_Event_Pump(former_pump);
+  Set_Passing_Folder({});
   Set_Application_Folder(former_application);
   if (!former_current.empty()) Change_Current_Folder(former_current);
   return Say_Report(file, report, With_Lasting_Paths(report.text, scratch, options.solver_folder));

@@ -33,6 +33,11 @@ std::string& Notes_Folder() {
   return folder;
 }
 
+std::string& Passing_Folder() {
+  static std::string folder;
+  return folder;
+}
+
 std::string Random_Mark() {
   static std::random_device device;
   static constexpr std::string_view kHex = "0123456789abcdef";
@@ -101,6 +106,16 @@ void Remove_If_Abandoned(const std::string& path, std::vector<std::string>& remo
 }
 
 }  // namespace
+
+void Unsynced_Folders::Add(const std::string& folder) { folders_.insert(folder); }
+
+std::map<std::string, int> Unsynced_Folders::Sync() {
+  std::map<std::string, int> failed;
+  for (const std::string& folder : std::exchange(folders_, {})) {
+    if (const int error = Sync_Folder(folder); error != 0) failed[folder] = error;
+  }
+  return failed;
+}
 
 Safe_File::~Safe_File() { Discard(); }
 
@@ -177,11 +192,12 @@ int Safe_File::Write(std::string_view bytes) {
   return error == 0 ? 0 : Fail(error);
 }
 
-int Safe_File::Commit() {
+int Safe_File::Commit(Unsynced_Folders* later) {
   if (error_ != 0) return error_;
   if (descriptor_ < 0) return Fail(EBADF);
   if (const int error = Write_All(descriptor_, pending_); error != 0) return Fail(error);
-  if (::fsync(descriptor_) != 0) return Fail(errno);
+  const bool lasts = Folder() != Passing_Folder();
+  if (lasts && ::fsync(descriptor_) != 0) return Fail(errno);
   // Closing may fail too, so it comes before the renaming. A second descriptor keeps the lock
   // until then: without it another start would take the file for abandoned.
   const int lock = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
@@ -191,8 +207,13 @@ int Safe_File::Commit() {
   descriptor_ = -1;
   Discard();
   ::close(lock);
-  return Sync_Folder(Folder_Of(target_));
+  if (!lasts) return 0;
+  if (later == nullptr) return Sync_Folder(Folder());
+  later->Add(Folder());
+  return 0;
 }
+
+std::string Safe_File::Folder() const { return Folder_Of(target_); }
 
 int Write_Whole_File(const std::string& path, std::string_view bytes) {
   Safe_File file;
@@ -236,6 +257,8 @@ int Write_Exclusive_File(const std::string& path, std::string_view bytes) {
 }
 
 void Set_Save_Notes_Folder(std::string folder) { Notes_Folder() = std::move(folder); }
+
+void Set_Passing_Folder(std::string folder) { Passing_Folder() = std::move(folder); }
 
 std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& folders) {
   std::vector<std::string> removed;
