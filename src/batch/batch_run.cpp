@@ -1,7 +1,5 @@
 #include "batch/batch_run.h"
 
-#include <time.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
@@ -32,17 +30,15 @@ namespace {
 
 constexpr std::size_t kLastLines = 5;
 
-/// Sleeps until the time is up or a signal comes; a signal that asks for the end stops the run.
-void Wait_Or_Stop(std::chrono::milliseconds longest) {
+/// Sleeps until the program ends, the time is up or a signal comes; a signal that asks for the end
+/// stops the run.
+void Wait_Or_Stop(std::chrono::milliseconds longest, int wake) {
   static bool stopping = false;
   if (Interrupt_Seen() != 0 && !stopping) {
     stopping = true;
     Stop_Run();
   }
-  timespec time{};
-  time.tv_sec = static_cast<time_t>(longest.count() / 1000);
-  time.tv_nsec = static_cast<long>(longest.count() % 1000) * 1000000;
-  nanosleep(&time, nullptr);
+  Sleep_Until_Readable(wake, longest);
 }
 
 /// The text with the solver where it is kept: the scratch folder that it ran in is gone by the
