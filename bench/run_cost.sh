@@ -15,6 +15,7 @@ trap 'rm -rf "$folder"' EXIT
 cd "$folder"
 mkdir solver projects alone
 
+# shellcheck disable=SC2016 # expanded by the solver
 printf '#!/bin/sh\nfor e in duo dup dut duc; do echo x > tmpfile.$e; done\n' > solver/merak32
 chmod +x solver/merak32
 for i in $(seq 100); do
@@ -40,7 +41,7 @@ time_of() {
 alone() { (cd alone && ../solver/merak32); }
 median() { sort -n "$1" | awk '{v[NR] = $1} END {print v[int((NR + 1) / 2)]}'; }
 
-for round in $(seq "$rounds"); do
+for _ in $(seq "$rounds"); do
   time_of alone >> alone.txt
   for count in 1 10 100; do
     # shellcheck disable=SC2046
