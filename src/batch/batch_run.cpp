@@ -1,7 +1,5 @@
 #include "batch/batch_run.h"
 
-#include <time.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
@@ -22,6 +20,7 @@
 #include "platform/ask/box_collector.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/process/event_pump.h"
 #include "run/create_process.h"
 #include "run/run_driver.h"
@@ -31,17 +30,15 @@ namespace {
 
 constexpr std::size_t kLastLines = 5;
 
-/// Sleeps until the time is up or a signal comes; a signal that asks for the end stops the run.
-void Wait_Or_Stop(std::chrono::milliseconds longest) {
+/// Sleeps until the program ends, the time is up or a signal comes; a signal that asks for the end
+/// stops the run.
+void Wait_Or_Stop(std::chrono::milliseconds longest, int wake) {
   static bool stopping = false;
   if (Interrupt_Seen() != 0 && !stopping) {
     stopping = true;
     Stop_Run();
   }
-  timespec time{};
-  time.tv_sec = static_cast<time_t>(longest.count() / 1000);
-  time.tv_nsec = static_cast<long>(longest.count() % 1000) * 1000000;
-  nanosleep(&time, nullptr);
+  Sleep_Until_Readable(wake, longest);
 }
 
 /// The text with the solver where it is kept: the scratch folder that it ran in is gone by the
@@ -90,6 +87,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   }
   const std::string former_application = Application_Folder();
   Set_Application_Folder(scratch);
+  Set_Passing_Folder(scratch);
   const Event_Pump former_pump = Set_Event_Pump(Wait_Or_Stop);
   Run_Report report;
   {
@@ -98,6 +96,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
     report = Run_Model(record);
   }
   Set_Event_Pump(former_pump);
+  Set_Passing_Folder({});
   Set_Application_Folder(former_application);
   if (!former_current.empty()) Change_Current_Folder(former_current);
   return Say_Report(file, report, With_Lasting_Paths(report.text, scratch, options.solver_folder));

@@ -109,6 +109,7 @@ void Add_Material_To_List(const ProjectRecord& record, int solid, Material_Libra
 
 void Save_New_Materials(const ProjectRecord& record, std::vector<std::string> lines,
                         Material_Library& library) {
+  const Settings_Of_Command settings;
   for (int i = 1; i <= std::min<int>(record.NumSolids, kMaxSolids); ++i) {
     const std::string& name = record.SolidNames[static_cast<std::size_t>(i)];
     const auto same = [&](const std::string& line) { return Same_Material(name, line); };

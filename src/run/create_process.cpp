@@ -17,7 +17,8 @@
 namespace barvon {
 namespace {
 
-constexpr std::chrono::milliseconds kPollEvery{25};
+/// The end is told of at once; what the program prints can wait in its pipe for a while.
+constexpr std::chrono::milliseconds kTakeOutputEvery{25};
 
 struct Run {
   External_Process process;
@@ -76,7 +77,9 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   if (!outcome.started) return outcome;
   Current_Run() = &run;
   Port().run.state(true, run.program);
-  while (run.process.Poll()) Pump_Events(kPollEvery);
+  while (run.process.Poll()) {
+    Pump_Events(kTakeOutputEvery, run.process.End_Descriptor());
+  }
   Current_Run() = nullptr;
 
   outcome.end = run.process.End();

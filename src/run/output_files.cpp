@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstddef>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -34,7 +35,9 @@ class Open_Input {
   int descriptor_;
 };
 
-int Copy_Whole_File(const std::string& from, const std::string& to) {
+/// Copies a file and says in which folder; whether that lasts is left to the caller.
+int Copy_Whole_File(const std::string& from, const std::string& to, Unsynced_Folders& folders,
+                    std::string& folder) {
   const Open_Input input(from);
   if (input.descriptor() < 0) return errno;
   struct stat source {};
@@ -51,7 +54,10 @@ int Copy_Whole_File(const std::string& from, const std::string& to) {
   std::string part(1u << 16, '\0');
   for (;;) {
     const ssize_t got = ::read(input.descriptor(), part.data(), part.size());
-    if (got == 0) return output.Commit();
+    if (got == 0) {
+      folder = output.Folder();
+      return output.Commit(&folders);
+    }
     if (got < 0 && errno != EINTR) return errno;
     if (got < 0) continue;
     const int error = output.Write(std::string_view(part.data(), static_cast<std::size_t>(got)));
@@ -96,15 +102,25 @@ Output_Files::Found Output_Files::Find(const std::string& extension,
 std::vector<Kept_Output> Output_Files::Keep(const std::string& base_name) const {
   const std::map<std::string, File_Trace> now = Traces(folder_);
   std::vector<Kept_Output> outputs;
+  std::vector<std::string> copied_to;  // the folder of each output's copy
+  Unsynced_Folders folders;
   for (const char* extension : kOutputExtensions) {
     const Found found = Find(extension, now);
     Kept_Output output{extension, found.written, {}, 0};
+    copied_to.emplace_back();
     if (!found.path.empty()) {
       const std::string target = Path_To_Write(base_name + extension);
-      output.error = Copy_Whole_File(found.path, target);
+      output.error = Copy_Whole_File(found.path, target, folders, copied_to.back());
       if (output.error == 0) output.path = target;
     }
     outputs.push_back(output);
+  }
+  const std::map<std::string, int> failed = folders.Sync();
+  for (std::size_t i = 0; i < outputs.size(); ++i) {
+    const auto error = failed.find(copied_to[i]);
+    if (error == failed.end() || outputs[i].path.empty()) continue;
+    outputs[i].path.clear();
+    outputs[i].error = error->second;
   }
   return outputs;
 }

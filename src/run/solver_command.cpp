@@ -22,14 +22,15 @@ std::vector<std::string> Words(const std::string& text) {
   return words;
 }
 
-/// The folders of the search path. Relative ones are passed over: what they name depends on where
-/// this program happens to be.
+/// The folders of the search path, each once. Relative ones are passed over: what they name depends
+/// on where this program happens to be.
 std::vector<std::string> Search_Path() {
   std::vector<std::string> folders;
   const char* path = std::getenv("PATH");
   std::istringstream stream(path == nullptr ? "" : path);
   for (std::string folder; std::getline(stream, folder, ':');) {
-    if (!folder.empty() && folder.front() == '/') folders.push_back(folder);
+    const bool is_new = std::ranges::find(folders, folder) == folders.end();
+    if (!folder.empty() && folder.front() == '/' && is_new) folders.push_back(folder);
   }
   return folders;
 }

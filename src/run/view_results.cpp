@@ -28,8 +28,11 @@ std::optional<std::string> Find_Graphics_Program(const std::string& folder) {
 
 /// GraphFile and SimType: what the graphics program reads.
 bool Hand_Over(const ProjectRecord& record, int kind) {
-  return Write_Graph_File(record.ProjectFileName) &&
-         Write_Setting(kSimulationTypeSection, kSimTypeKey, "Type " + std::to_string(kind));
+  Settings_Of_Command settings;
+  const bool can_be_set =
+      Write_Graph_File(record.ProjectFileName) &&
+      Write_Setting(kSimulationTypeSection, kSimTypeKey, "Type " + std::to_string(kind));
+  return settings.Write() && can_be_set;
 }
 
 void Tell_How_It_Ended(const Process_Outcome& outcome) {

@@ -67,9 +67,11 @@ void Show_Opened(ProjectRecord& record) {
   }
   // What comes from a file counts as accepted data.
   record.WizardAccepted = kTrue;
+  Settings_Of_Command settings;
   Update_Recent_Files(record.ProjectFileName);
   Show_Project(record);
-  if (!Write_Graph_File(record.ProjectFileName)) {
+  const bool can_be_handed_over = Write_Graph_File(record.ProjectFileName);
+  if (!settings.Write() || !can_be_handed_over) {
     Port().board.show_note(
         {std::string(kSettingsFile) +
              " could not be written: the graphics program has not been told of " +

@@ -185,10 +185,15 @@ TEST(DatabaseMending, What_Was_Found_Stays_And_Only_Whole_Records_Come_To_It) {
     RC_ASSERT(right.size() == static_cast<std::size_t>(sites));
     Lines lines = Lines_Of(data);
     if (*rc::gen::inRange(0, 2) == 1) lines.emplace_back();
+    const std::size_t sound_lines = lines.size();
+    bool has_moved_lines = false;
     for (int damages = *rc::gen::inRange(0, 3); damages > 0 && !lines.empty(); --damages) {
       Do_Damage(lines, *rc::gen::inRange<std::size_t>(0, lines.size()),
                 static_cast<Damage>(*rc::gen::inRange(0, static_cast<int>(Damage::Count))));
+      has_moved_lines = has_moved_lines || lines.size() != sound_lines;
     }
+    // A line that is missing and one that stands twice leave a record whole to every eye.
+    RC_PRE(!has_moved_lines || lines.size() != sound_lines);
     Write_Text(folder / "dispdb.dat", Text_Of(lines));
     constexpr int kLastCode = 1000;  // of what any line reads as
     const Found before = Find_All(folder.path(), "dispdb.dat", kLastCode);

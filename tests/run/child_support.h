@@ -135,10 +135,10 @@ class Solver_Bench {
   }
   /// Calls back each time the wait for a program lets the interface live.
   void While_Waiting(std::function<void()> event) {
-    Set_Event_Pump([this, event](std::chrono::milliseconds longest) {
+    Set_Event_Pump([this, event](std::chrono::milliseconds longest, int descriptor) {
       ++pumped;
       event();
-      std::this_thread::sleep_for(longest);
+      Sleep_Until_Readable(descriptor, longest);
     });
   }
 

@@ -84,6 +84,17 @@ TEST_F(CreateProcess, The_Interface_Lives_And_The_Processor_Idles_While_It_Waits
   EXPECT_FALSE(Run_Is_Under_Way());
 }
 
+TEST_F(CreateProcess, The_End_Is_Told_And_Not_Looked_For) {
+  bench.Install("merak32", "sleep:50\nexit:3\n");
+  int waits = 0;
+  Set_Event_Pump([&waits](std::chrono::milliseconds, int descriptor) {
+    ++waits;
+    Sleep_Until_Readable(descriptor, std::chrono::hours(1));
+  });
+  EXPECT_EQ(Create_Process_Code("DOS4GW MERAK32.EXE").end.exit_code, 3);
+  EXPECT_EQ(waits, 1);
+}
+
 TEST_F(CreateProcess, A_Second_Program_Is_Not_Started_Beside_The_First) {
   bench.Install("merak32", "await:go\n");
   Process_Outcome second;

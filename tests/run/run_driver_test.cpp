@@ -8,6 +8,7 @@
 #include "core/desk/save_file.h"
 #include "core/keys.h"
 #include "run/run_driver_fixture.h"
+#include "support/disk_calls.h"
 
 namespace barvon {
 namespace {
@@ -315,6 +316,45 @@ TEST_F(RunDriver, The_Hopper_Is_Run_Too) {
   record.NOPENS = record.NBINS = 1;
   Install(kWritesAll);
   EXPECT_TRUE(Run().Succeeded());
+}
+
+/// The launcher is looked for in a folder of the search path that the test fills.
+struct RunAndTheDisk : RunDriver {
+  RunAndTheDisk() : path("PATH", bench.folder / "bin") {
+    std::filesystem::create_directory(bench.folder / "bin");
+    Install(kWritesAll);
+  }
+  Changed_Variable path;
+};
+
+TEST_F(RunAndTheDisk, Each_Output_Is_Waited_For_Their_Folder_Once_And_The_Settings) {
+  const Disk_Calls calls;
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(calls.Waits(), 4 + 1 + 2);
+}
+
+TEST_F(RunAndTheDisk, An_Application_Folder_That_Is_Soon_Removed_Is_Not_Waited_For) {
+  Set_Passing_Folder(bench.app());
+  const Disk_Calls calls;
+  EXPECT_TRUE(Run().Succeeded());
+  EXPECT_EQ(calls.Waits(), 4 + 1);
+  Set_Passing_Folder({});
+}
+
+TEST_F(RunAndTheDisk, What_Is_Asked_Does_Not_Depend_On_How_Many_Other_Files_There_Are) {
+  const auto questions_of_a_run = [this] {
+    const Disk_Calls calls;
+    EXPECT_TRUE(Run().Succeeded());
+    return calls.Questions();
+  };
+  EXPECT_TRUE(Run().Succeeded());  // leaves the outputs that the others find
+  const int with_few = questions_of_a_run();
+  for (const std::string& folder :
+       {bench.folder / "bin", bench.app(), std::string(bench.folder / "bay")}) {
+    for (int i = 0; i < 100; ++i) Write_Text(folder + "/other" + std::to_string(i), "");
+  }
+  EXPECT_EQ(questions_of_a_run(), with_few);
+  EXPECT_LT(with_few, 150);
 }
 
 }  // namespace

@@ -72,8 +72,8 @@ Recorded_Workspace::~Recorded_Workspace() {
 }
 
 void Recorded_Workspace::Write_Recent(int entry, const std::string& value) {
-  ASSERT_EQ(Write_Profile_String(folder_ / "BARVON.INI", "Recent Files",
-                                 "RecentFile" + std::to_string(entry), value),
+  ASSERT_EQ(Write_Profile_Strings(folder_ / "BARVON.INI",
+                                  {{"Recent Files", "RecentFile" + std::to_string(entry), value}}),
             0);
 }
 

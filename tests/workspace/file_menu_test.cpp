@@ -7,6 +7,8 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
+#include "platform/files/safe_file.h"
+#include "support/disk_calls.h"
 #include "support/recorded_workspace.h"
 #include "workspace/quit_rules.h"
 
@@ -116,6 +118,23 @@ TEST_F(FileMenu, Open_Goes_Through_Its_Steps_In_Order) {
                          "main board"}));
   EXPECT_EQ(Settings(), "[Recent Files]\r\nRecentFile1=" + path +
                             "\r\n[Graph File]\r\nGraphFile=" + path + "\r\n");
+}
+
+TEST_F(FileMenu, Open_Waits_For_The_Disk_Once_For_All_Settings) {
+  Scripted_Messages messages;
+  for (int entry = 1; entry <= kRecentFiles; ++entry) {
+    Write_Recent(entry, "/data/" + std::to_string(entry) + ".dui");
+  }
+  chosen_ = Make_Project("site.dui");
+  Set_Save_Notes_Folder(folder_.path());
+  const Disk_Calls calls;
+  Click(kFileOpen);
+  EXPECT_EQ(calls.Waits(), 2);  // the settings file and its folder
+  Set_Save_Notes_Folder({});
+  EXPECT_EQ(Settings(), "[Recent Files]\r\nRecentFile1=" + *chosen_ +
+                            "\r\nRecentFile2=/data/1.dui\r\nRecentFile3=/data/2.dui"
+                            "\r\nRecentFile4=/data/3.dui\r\n[Graph File]\r\nGraphFile=" +
+                            *chosen_ + "\r\n");
 }
 
 TEST_F(FileMenu, Open_Says_Whether_The_Coefficients_Are_The_Defaults) {

@@ -62,6 +62,7 @@ void WriteRecentFiles(const std::string& path) {
   // Only the bare names: the same name in a folder enters the list.
   const std::string upper = Upper_Case(path);
   if (std::find(kNeverListed.begin(), kNeverListed.end(), upper) != kNeverListed.end()) return;
+  const Settings_Of_Command settings;
   for (int i = kRecentFiles - 1; i >= 1; --i) {
     const std::string value = Read_Entry(i);
     if (Is_File(value) && value != path) Write_Entry(i + 1, value);
@@ -76,6 +77,7 @@ void Remove_Recent(const std::string& path) {
   if (gone == entries.end()) return;
   std::move(gone + 1, entries.end(), gone);
   entries.back() = kNotUsed;
+  const Settings_Of_Command settings;
   for (int i = static_cast<int>(gone - entries.begin()); i <= kRecentFiles; ++i) {
     Write_Entry(i, entries[i]);
   }

@@ -1,8 +1,9 @@
 #include "core/desk/settings_keys.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <map>
 #include <utility>
+#include <vector>
 
 #include "core/failure.h"
 #include "platform/ask/message_box.h"
@@ -15,21 +16,29 @@
 namespace barvon {
 namespace {
 
-using Setting = std::pair<std::string, std::string>;  // section and key
-
 /// Sections and keys are found without regard to case, in the file as here.
-struct Ignoring_Case {
-  bool operator()(const Setting& a, const Setting& b) const {
-    return std::pair(Upper_Case(a.first), Upper_Case(a.second)) <
-           std::pair(Upper_Case(b.first), Upper_Case(b.second));
+bool Same_Key(const Profile_Entry& entry, const std::string& section, const std::string& key) {
+  return Equal_Ignoring_Case(entry.section, section) && Equal_Ignoring_Case(entry.key, key);
+}
+
+/// Puts an entry in the place of an earlier one of its key: keys stand in the file in the order in
+/// which they were set first.
+void Put(std::vector<Profile_Entry>& entries, const Profile_Entry& entry) {
+  const auto earlier = std::ranges::find_if(entries, [&](const Profile_Entry& other) {
+    return Same_Key(other, entry.section, entry.key);
+  });
+  if (earlier == entries.end()) {
+    entries.push_back(entry);
+  } else {
+    *earlier = entry;
   }
-};
+}
 
 /// What a settings file could not take.
 struct Unwritten {
   std::string path;
   bool told = false;
-  std::map<Setting, std::string, Ignoring_Case> values;
+  std::vector<Profile_Entry> entries;
 };
 
 /// That of the settings file in use.
@@ -40,11 +49,22 @@ Unwritten& Unwritten_Settings() {
   return unwritten;
 }
 
-void Write_Rest(Unwritten& unwritten) {
-  std::erase_if(unwritten.values, [&](const auto& kept) {
-    const auto& [section, key] = kept.first;
-    return Write_Profile_String(unwritten.path, section, key, kept.second) == 0;
-  });
+/// What the command under way has set so far.
+struct Collected {
+  int depth = 0;
+  std::vector<Profile_Entry> entries;
+};
+
+Collected& Collected_Settings() {
+  static Collected collected;
+  return collected;
+}
+
+const std::string* Value_In(const std::vector<Profile_Entry>& entries, const std::string& section,
+                            const std::string& key) {
+  const auto found = std::ranges::find_if(
+      entries, [&](const Profile_Entry& entry) { return Same_Key(entry, section, key); });
+  return found == entries.end() ? nullptr : &found->value;
 }
 
 void Tell_Once(Unwritten& unwritten, int error) {
@@ -56,6 +76,24 @@ void Tell_Once(Unwritten& unwritten, int error) {
       "can be written they go there.");
 }
 
+/// Writes the entries, and behind them what the file could not take before.
+bool Write_Now(const std::vector<Profile_Entry>& entries) {
+  if (entries.empty()) return true;
+  Unwritten& unwritten = Unwritten_Settings();
+  std::vector<Profile_Entry> all = entries;
+  for (const Profile_Entry& kept : unwritten.entries) {
+    if (Value_In(entries, kept.section, kept.key) == nullptr) all.push_back(kept);
+  }
+  const int error = Write_Profile_Strings(unwritten.path, all);
+  if (error == 0) {
+    unwritten.entries.clear();
+    return true;
+  }
+  for (const Profile_Entry& entry : entries) Put(unwritten.entries, entry);
+  Tell_Once(unwritten, error);
+  return false;
+}
+
 }  // namespace
 
 std::string Settings_Path() {
@@ -65,24 +103,29 @@ std::string Settings_Path() {
 std::string Read_Setting(const std::string& section, const std::string& key,
                          const std::string& fallback) {
   const Unwritten& unwritten = Unwritten_Settings();
-  const auto kept = unwritten.values.find({section, key});
-  return kept != unwritten.values.end()
-             ? kept->second
-             : Read_Profile_String(unwritten.path, section, key, fallback);
+  const std::string* value = Value_In(Collected_Settings().entries, section, key);
+  if (value == nullptr) value = Value_In(unwritten.entries, section, key);
+  if (value != nullptr) return *value;
+  return Read_Profile_String(unwritten.path, section, key, fallback);
 }
 
 bool Write_Setting(const std::string& section, const std::string& key, const std::string& value) {
-  Unwritten& unwritten = Unwritten_Settings();
-  const int error = Write_Profile_String(unwritten.path, section, key, value);
-  if (error == EINVAL) return false;
-  if (error != 0) {
-    unwritten.values[{section, key}] = value;
-    Tell_Once(unwritten, error);
-    return false;
-  }
-  unwritten.values.erase({section, key});
-  Write_Rest(unwritten);
+  const Profile_Entry entry{section, key, value};
+  if (!Can_Be_In_Profile(entry)) return false;
+  Collected& collected = Collected_Settings();
+  if (collected.depth == 0) return Write_Now({entry});
+  Put(collected.entries, entry);
   return true;
+}
+
+Settings_Of_Command::Settings_Of_Command() { ++Collected_Settings().depth; }
+
+Settings_Of_Command::~Settings_Of_Command() { Write(); }
+
+bool Settings_Of_Command::Write() {
+  if (!std::exchange(collects_, false)) return true;
+  Collected& collected = Collected_Settings();
+  return --collected.depth > 0 || Write_Now(std::exchange(collected.entries, {}));
 }
 
 bool Write_Graph_File(const std::string& project_path) {

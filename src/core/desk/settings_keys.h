@@ -30,10 +30,28 @@ std::string Settings_Path();
 std::string Read_Setting(const std::string& section, const std::string& key,
                          const std::string& fallback);
 
-/// Sets a value in BARVON.INI. False when it is not in the file. If the file can't be written, the
-/// user is told, once for as long as the program runs; the value is kept, is read as if it were in
-/// the file, and goes there with the next one that can be written.
+/// Sets a value in BARVON.INI, at once unless a Settings_Of_Command collects. False when it is not
+/// in the file, or can't be. If the file can't be written, the user is told, once for as long as
+/// the program runs; the value is kept, is read as if it were in the file, and goes there with the
+/// next one that can be written.
 bool Write_Setting(const std::string& section, const std::string& key, const std::string& value);
+
+/// The settings that one command sets: while it lives, they are collected, and read as if they were
+/// in the file; then all go there in one write. Within another one this is a part of it.
+class Settings_Of_Command {
+ public:
+  Settings_Of_Command();
+  /// Writes, unless Write was called.
+  ~Settings_Of_Command();
+  Settings_Of_Command(const Settings_Of_Command&) = delete;
+  Settings_Of_Command& operator=(const Settings_Of_Command&) = delete;
+
+  /// Ends the collecting. False when the settings are not in the file, as from Write_Setting.
+  bool Write();
+
+ private:
+  bool collects_ = true;
+};
 
 /// Hands the project to the graphics program: GraphFile in the settings. False when it could not
 /// be written.

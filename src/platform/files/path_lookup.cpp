@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/files/folder_names.h"
 #include "platform/files/paths.h"
 #include "platform/text/letter_case.h"
 
@@ -67,10 +68,7 @@ std::optional<std::string> Find_Path(const std::string& path) {
   if (!folder) return std::nullopt;
 
   std::optional<std::string> found;
-  std::error_code error;
-  fs::directory_iterator entry(*folder, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    const std::string candidate = entry->path().filename().string();
+  for (const std::string& candidate : Names_In_Folder(*folder)) {
     if (Folded(candidate) != name || !Path_Exists(Join_Path(*folder, candidate))) continue;
     if (!found || candidate < *found) found = candidate;
   }
@@ -84,14 +82,12 @@ std::string Path_To_Write(const std::string& path) { return Find_Path(path).valu
 std::vector<std::string> Matching_Files(const std::string& folder, std::string_view pattern) {
   const std::string wanted = Folded(pattern);
   std::vector<std::string> paths;
-  std::error_code error;
-  fs::directory_iterator entry(folder, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+  for (const std::string& name : Names_In_Folder(folder)) {
+    if (!Matches(Folded(name), wanted)) continue;
+    const std::string path = Join_Path(folder, name);
     std::error_code unreadable;
-    const fs::file_type type = entry->symlink_status(unreadable).type();
-    if (type != fs::file_type::regular && type != fs::file_type::symlink) continue;
-    const std::string name = entry->path().filename().string();
-    if (Matches(Folded(name), wanted)) paths.push_back(Join_Path(folder, name));
+    const fs::file_type type = fs::symlink_status(path, unreadable).type();
+    if (type == fs::file_type::regular || type == fs::file_type::symlink) paths.push_back(path);
   }
   std::sort(paths.begin(), paths.end());
   return paths;

@@ -1,5 +1,6 @@
 #include "platform/files/profile_settings.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstddef>
 #include <optional>
@@ -100,13 +101,8 @@ bool Can_Stand_As_Name(std::string_view name, std::string_view forbidden) {
          name.find_first_of(forbidden) == std::string_view::npos;
 }
 
-bool Can_Be_Written(std::string_view section, std::string_view key, std::string_view value) {
-  return Can_Stand_As_Name(section, "]") && Can_Stand_As_Name(key, "=") && key.front() != ';' &&
-         key.front() != '[' && value.find_first_of(kLineBreaks) == std::string_view::npos;
-}
-
-std::string With_Value(const std::string& text, const std::string& section, const std::string& key,
-                       const std::string& value) {
+std::string With_Value(const std::string& text, const Profile_Entry& entry) {
+  const auto& [section, key, value] = entry;
   const Place place = Find_Place(text, section, key);
   const std::string bytes = To_Settings_Bytes(value);
   if (place.key) {
@@ -134,14 +130,20 @@ std::string Read_Profile_String(const std::string& path, const std::string& sect
   return Value_From(std::string_view(text).substr(place.value, place.value_end - place.value));
 }
 
-int Write_Profile_String(const std::string& path, const std::string& section,
-                         const std::string& key, const std::string& value) {
-  if (!Can_Be_Written(section, key, value)) return EINVAL;
+bool Can_Be_In_Profile(const Profile_Entry& entry) {
+  return Can_Stand_As_Name(entry.section, "]") && Can_Stand_As_Name(entry.key, "=") &&
+         entry.key.front() != ';' && entry.key.front() != '[' &&
+         entry.value.find_first_of(kLineBreaks) == std::string::npos;
+}
+
+int Write_Profile_Strings(const std::string& path, const std::vector<Profile_Entry>& entries) {
+  if (!std::ranges::all_of(entries, Can_Be_In_Profile)) return EINVAL;
   std::string text;
   const int error = Read_Whole_File(path, text);
-  // A file that is there but can't be read must not be replaced by one with a single key.
+  // A file that is there but can't be read must not be replaced by one with a few keys.
   if (error != 0 && error != ENOENT) return error;
-  const std::string changed = With_Value(text, section, key, value);
+  std::string changed = text;
+  for (const Profile_Entry& entry : entries) changed = With_Value(changed, entry);
   return error == 0 && changed == text ? 0 : Write_Whole_File(path, changed);
 }
 

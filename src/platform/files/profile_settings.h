@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace barvon {
 
@@ -14,10 +15,16 @@ inline constexpr int kProfileBuffer = 255;
 std::string Read_Profile_String(const std::string& path, const std::string& section,
                                 const std::string& key, const std::string& fallback);
 
-/// Sets one key. A missing file, section or key is made; every other line keeps its text and its
-/// place. The file is replaced whole or left as it was. 0 or an errno value: EINVAL for a text that
-/// can't stand there, one with a line break for instance.
-int Write_Profile_String(const std::string& path, const std::string& section,
-                         const std::string& key, const std::string& value);
+struct Profile_Entry {
+  std::string section, key, value;
+};
+
+/// False for a text that can't stand there, one with a line break for instance.
+bool Can_Be_In_Profile(const Profile_Entry& entry);
+
+/// Sets keys, in one write of the file; of two entries of a key the later one holds. A missing
+/// file, section or key is made; every other line keeps its text and its place. The file is
+/// replaced whole or left as it was. 0 or an errno value: EINVAL when an entry can't stand there.
+int Write_Profile_Strings(const std::string& path, const std::vector<Profile_Entry>& entries);
 
 }  // namespace barvon

@@ -14,6 +14,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/files/folder_names.h"
 #include "platform/files/paths.h"
 
 namespace barvon {
@@ -28,6 +29,11 @@ constexpr std::size_t kWriteBuffer = 1u << 16;
 constexpr off_t kLargestFile = off_t{1} << 28;
 
 std::string& Notes_Folder() {
+  static std::string folder;
+  return folder;
+}
+
+std::string& Passing_Folder() {
   static std::string folder;
   return folder;
 }
@@ -99,17 +105,17 @@ void Remove_If_Abandoned(const std::string& path, std::vector<std::string>& remo
   ::close(descriptor);
 }
 
-std::vector<std::string> Names_In(const std::string& folder) {
-  std::vector<std::string> names;
-  std::error_code error;
-  std::filesystem::directory_iterator entry(folder, error);
-  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    names.push_back(entry->path().filename().string());
-  }
-  return names;
-}
-
 }  // namespace
+
+void Unsynced_Folders::Add(const std::string& folder) { folders_.insert(folder); }
+
+std::map<std::string, int> Unsynced_Folders::Sync() {
+  std::map<std::string, int> failed;
+  for (const std::string& folder : std::exchange(folders_, {})) {
+    if (const int error = Sync_Folder(folder); error != 0) failed[folder] = error;
+  }
+  return failed;
+}
 
 Safe_File::~Safe_File() { Discard(); }
 
@@ -186,11 +192,12 @@ int Safe_File::Write(std::string_view bytes) {
   return error == 0 ? 0 : Fail(error);
 }
 
-int Safe_File::Commit() {
+int Safe_File::Commit(Unsynced_Folders* later) {
   if (error_ != 0) return error_;
   if (descriptor_ < 0) return Fail(EBADF);
   if (const int error = Write_All(descriptor_, pending_); error != 0) return Fail(error);
-  if (::fsync(descriptor_) != 0) return Fail(errno);
+  const bool lasts = Folder() != Passing_Folder();
+  if (lasts && ::fsync(descriptor_) != 0) return Fail(errno);
   // Closing may fail too, so it comes before the renaming. A second descriptor keeps the lock
   // until then: without it another start would take the file for abandoned.
   const int lock = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
@@ -200,8 +207,13 @@ int Safe_File::Commit() {
   descriptor_ = -1;
   Discard();
   ::close(lock);
-  return Sync_Folder(Folder_Of(target_));
+  if (!lasts) return 0;
+  if (later == nullptr) return Sync_Folder(Folder());
+  later->Add(Folder());
+  return 0;
 }
+
+std::string Safe_File::Folder() const { return Folder_Of(target_); }
 
 int Write_Whole_File(const std::string& path, std::string_view bytes) {
   Safe_File file;
@@ -239,7 +251,6 @@ int Write_Exclusive_File(const std::string& path, std::string_view bytes) {
       ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
   if (descriptor < 0) return errno;
   int error = Write_All(descriptor, bytes);
-  if (error == 0 && ::fsync(descriptor) != 0) error = errno;
   if (::close(descriptor) != 0 && error == 0) error = errno;
   if (error != 0) ::unlink(path.c_str());
   return error;
@@ -247,10 +258,12 @@ int Write_Exclusive_File(const std::string& path, std::string_view bytes) {
 
 void Set_Save_Notes_Folder(std::string folder) { Notes_Folder() = std::move(folder); }
 
+void Set_Passing_Folder(std::string folder) { Passing_Folder() = std::move(folder); }
+
 std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& folders) {
   std::vector<std::string> removed;
   if (!Notes_Folder().empty()) {
-    for (const std::string& name : Names_In(Notes_Folder())) {
+    for (const std::string& name : Names_In_Folder(Notes_Folder())) {
       if (!Is_Marked_Name(name, kNoteEnding)) continue;
       const std::string note = Join_Path(Notes_Folder(), name);
       std::string working;
@@ -262,7 +275,7 @@ std::vector<std::string> Remove_Leftover_Saves(const std::vector<std::string>& f
     }
   }
   for (const std::string& folder : folders) {
-    for (const std::string& name : Names_In(folder)) {
+    for (const std::string& name : Names_In_Folder(folder)) {
       if (Is_Marked_Name(name, kWorkingEnding)) {
         Remove_If_Abandoned(Join_Path(folder, name), removed);
       }

@@ -2,11 +2,26 @@
 
 #include <sys/types.h>
 
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace barvon {
+
+/// Folders in which files have been replaced and that are not on the disk yet, so that several
+/// files of one folder wait for it once.
+class Unsynced_Folders {
+ public:
+  void Add(const std::string& folder);
+  /// Waits for each, once. The folders that could not be synced, with their errno values; all are
+  /// forgotten.
+  std::map<std::string, int> Sync();
+
+ private:
+  std::set<std::string> folders_;
+};
 
 /// Writes a file so that its name holds the old content or the new, never a part: the bytes go to
 /// a new file of its own name beside the target (beside what a symbolic link leads to), every
@@ -26,8 +41,11 @@ class Safe_File {
   int Open(const std::string& path);
   /// Adds bytes. The first error is kept and given back by every later call.
   int Write(std::string_view bytes);
-  /// Puts the new file in the target's place, with the target's permissions.
-  int Commit();
+  /// Puts the new file in the target's place, with the target's permissions. That this lasts is
+  /// waited for here, or left to the caller when `later` is given, under Folder.
+  int Commit(Unsynced_Folders* later = nullptr);
+  /// The folder of the target, or of what a link under its name leads to.
+  std::string Folder() const;
 
  private:
   int Make_Working_File(mode_t mode);
@@ -51,12 +69,17 @@ int Write_Whole_File(const std::string& path, std::string_view bytes);
 int Read_Whole_File(const std::string& path, std::string& bytes);
 
 /// Makes a new file that no link can lead elsewhere: what is under the name is removed first,
-/// and the file is created exclusively. 0 or an errno value; nothing stays after a failure.
+/// and the file is created exclusively. It is for programs that run now and is not waited for on
+/// the disk. 0 or an errno value; nothing stays after a failure.
 int Write_Exclusive_File(const std::string& path, std::string_view bytes);
 
 /// Where a save notes the name of its working file while it lasts, so that the next start can
 /// remove what a kill left behind. Empty: no notes are taken.
 void Set_Save_Notes_Folder(std::string folder);
+
+/// The folder of this program's that is soon removed with everything in it: files that are saved
+/// right in it are not waited for on the disk. Empty: there is none.
+void Set_Passing_Folder(std::string folder);
 
 /// Removes working files whose writer no longer lives: those noted in the notes folder and those
 /// that are in the given folders. Returns the removed paths.

@@ -1,6 +1,7 @@
 #include "platform/process/event_pump.h"
 
-#include <thread>
+#include <poll.h>
+
 #include <utility>
 
 namespace barvon {
@@ -13,12 +14,17 @@ Event_Pump& Pump() {
 
 }  // namespace
 
-void Pump_Events(std::chrono::milliseconds longest) {
+void Pump_Events(std::chrono::milliseconds longest, int descriptor) {
   if (Pump()) {
-    Pump()(longest);
+    Pump()(longest, descriptor);
   } else {
-    std::this_thread::sleep_for(longest);
+    Sleep_Until_Readable(descriptor, longest);
   }
+}
+
+void Sleep_Until_Readable(int descriptor, std::chrono::milliseconds longest) {
+  pollfd readable{descriptor, POLLIN, 0};
+  ::poll(&readable, 1, static_cast<int>(longest.count()));
 }
 
 Event_Pump Set_Event_Pump(Event_Pump pump) { return std::exchange(Pump(), std::move(pump)); }

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/ioctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,10 +11,10 @@
 #include <array>
 #include <cerrno>
 #include <optional>
-#include <thread>
 #include <utility>
 
 #include "platform/process/bounded_output.h"
+#include "platform/process/event_pump.h"
 #include "platform/process/process_family.h"
 #include "platform/process/spawn_program.h"
 
@@ -39,6 +40,7 @@ std::string New_Mark() {
 struct External_Process::State {
   ~State() {
     if (output >= 0) ::close(output);
+    if (handle >= 0) ::close(handle);
   }
 
   /// True when the program's own process has ended. It is not reaped yet, so that its number
@@ -95,6 +97,7 @@ struct External_Process::State {
   }
 
   pid_t pid = -1;
+  int handle = -1;  // of the process, readable once that has ended
   int output = -1;
   bool running = false;
   Process_End end;
@@ -133,6 +136,7 @@ int External_Process::Start(const Process_Start& start) {
   if (pipe[1] >= 0) ::close(pipe[1]);
   if (error != 0) return error;
   state.pid = pid;
+  state.handle = static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
   state.family.emplace(pid, mark);
   state.started = Clock::now();
   state.running = true;
@@ -173,10 +177,14 @@ void External_Process::Stop(milliseconds grace) {
 
 void External_Process::Stop_And_Wait(milliseconds grace) {
   Stop(grace);
-  while (Poll()) std::this_thread::sleep_for(milliseconds(5));
+  while (Poll()) Sleep_Until_Readable(End_Descriptor(), milliseconds(5));
 }
 
 bool External_Process::Is_Running() const { return state_->running; }
+
+int External_Process::End_Descriptor() const {
+  return state_->running && !state_->ended ? state_->handle : -1;
+}
 
 const Process_End& External_Process::End() const { return state_->end; }
 

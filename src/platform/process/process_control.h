@@ -51,6 +51,10 @@ class External_Process {
   void Stop_And_Wait(std::chrono::milliseconds grace = std::chrono::milliseconds(1000));
 
   bool Is_Running() const;
+  /// A descriptor that can be read as soon as the program's own process has ended, so that its end
+  /// is waited for without looking again and again. -1 when that is no news any more, or the system
+  /// has none to give. It is open for as long as this object, or up to the next Start.
+  int End_Descriptor() const;
   const Process_End& End() const;
   /// The last lines of the program's output as it wrote them, at most 4 KiB; empty when the output
   /// is thrown away.

@@ -1,8 +1,10 @@
 #include "platform/qt/qt_services.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "platform/qt/ask/qt_file_dialog.h"
@@ -36,7 +38,7 @@ void Watch_By_Timer(std::function<bool()> goes_on) {
 
 }  // namespace
 
-void Pump_Qt_Events(std::chrono::milliseconds longest) {
+void Pump_Qt_Events(std::chrono::milliseconds longest, int descriptor) {
   if (longest.count() <= 0) {
     QCoreApplication::processEvents(QEventLoop::AllEvents);
     return;
@@ -45,6 +47,13 @@ void Pump_Qt_Events(std::chrono::milliseconds longest) {
   QTimer wake;
   wake.setSingleShot(true);
   wake.start(longest);
+  std::optional<QSocketNotifier> readable;
+  if (descriptor >= 0) {
+    readable.emplace(descriptor, QSocketNotifier::Read);
+    // Told once: a box that is open here would hear of it without end.
+    QObject::connect(&*readable, &QSocketNotifier::activated, &*readable,
+                     [&readable] { readable->setEnabled(false); });
+  }
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 

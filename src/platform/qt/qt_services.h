@@ -35,7 +35,8 @@ class Qt_Services {
   Document_Opener documents_;
 };
 
-/// Lets the toolkit process its events, asleep until one comes or the time is up.
-void Pump_Qt_Events(std::chrono::milliseconds longest);
+/// Lets the toolkit process its events, asleep until one comes, the descriptor can be read or the
+/// time is up. -1 is no descriptor.
+void Pump_Qt_Events(std::chrono::milliseconds longest, int descriptor);
 
 }  // namespace barvon

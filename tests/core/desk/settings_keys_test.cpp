@@ -29,6 +29,32 @@ TEST_F(SettingsKeys, The_Graphics_Program_Finds_The_Project_Under_GraphFile) {
   EXPECT_EQ(Settings(), "[Graph File]\r\nGraphFile=/data/b.dui\r\n");
 }
 
+TEST_F(SettingsKeys, Those_Of_A_Command_Are_Read_At_Once_And_Written_At_Its_End) {
+  {
+    const Settings_Of_Command settings;
+    EXPECT_TRUE(Write_Setting("A", "k", "1"));
+    {
+      const Settings_Of_Command part;
+      EXPECT_TRUE(Write_Setting("B", "m", "2"));
+    }
+    EXPECT_TRUE(Write_Setting("a", "K", "3"));
+    EXPECT_EQ(Read_Setting("A", "k", "none"), "3");
+    EXPECT_EQ(Read_Setting("B", "m", "none"), "2");
+    EXPECT_FALSE(Exists(Settings_Path()));
+  }
+  EXPECT_EQ(Settings(), "[a]\r\nK=3\r\n[B]\r\nm=2\r\n");
+}
+
+TEST_F(SettingsKeys, A_Setting_That_Can_Not_Stand_There_Keeps_None_Of_Its_Command_From_The_File) {
+  Settings_Of_Command settings;
+  EXPECT_FALSE(Write_Setting("A", "k", "two\nlines"));
+  EXPECT_TRUE(Write_Setting("A", "m", "2"));
+  EXPECT_TRUE(settings.Write());
+  EXPECT_EQ(Settings(), "[A]\r\nm=2\r\n");
+  EXPECT_TRUE(Write_Setting("A", "m", "3"));
+  EXPECT_EQ(Settings(), "[A]\r\nm=3\r\n");
+}
+
 /// A folder of the settings' name can't be written by anyone.
 class SettingsThatCanNotBeWritten : public SettingsKeys {
  protected:
@@ -59,6 +85,22 @@ TEST_F(SettingsThatCanNotBeWritten, Are_Kept_And_Go_To_The_File_With_The_Next_On
   EXPECT_TRUE(Write_Setting("A", "other", "4"));
   EXPECT_EQ(Settings(), "[A]\r\nother=4\r\nk=2\r\n");
   EXPECT_EQ(Read_Setting("A", "k", "none"), "2");
+}
+
+TEST_F(SettingsThatCanNotBeWritten, Are_Told_Once_And_Kept_For_A_Whole_Command) {
+  Scripted_Messages messages({Answer::Ok});
+  Write_Setting("A", "early", "0");
+  {
+    Settings_Of_Command settings;
+    Write_Setting("A", "k", "1");
+    Write_Setting("A", "m", "2");
+    EXPECT_FALSE(settings.Write());
+  }
+  EXPECT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "1");
+  std::filesystem::remove(path_);
+  EXPECT_TRUE(Write_Setting("A", "last", "3"));
+  EXPECT_EQ(Settings(), "[A]\r\nlast=3\r\nearly=0\r\nk=1\r\nm=2\r\n");
 }
 
 TEST_F(SettingsThatCanNotBeWritten, Are_Found_In_Any_Case) {

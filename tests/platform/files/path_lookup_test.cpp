@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "support/disk_calls.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -91,6 +92,18 @@ TEST(PathLookup, Matching_Files_Ignore_Case_And_Take_Links_But_No_Folders) {
             (std::vector<std::string>{folder / "TMPFILE.DUO", folder / "Tmpfile.Due",
                                       folder / "tmpfile.a.b", folder / "tmpfile.lnk"}));
   EXPECT_TRUE(Matching_Files(folder / "none", "*").empty());
+}
+
+TEST(PathLookup, Only_What_Bears_The_Name_Is_Asked_About) {
+  const Scratch_Folder folder;
+  for (int i = 0; i < 50; ++i) Write_Text(folder / ("other" + std::to_string(i)), "");
+  Write_Text(folder / "TMPFILE.DUO", "");
+  Write_Text(folder / "tmpfile.duo", "");
+  const Disk_Calls calls;
+  EXPECT_EQ(Matching_Files(folder.path(), "Tmpfile.*").size(), 2u);
+  EXPECT_EQ(calls.Questions(), 2);
+  EXPECT_TRUE(Find_Path(folder / "Tmpfile.Duo"));
+  EXPECT_EQ(calls.Questions(), 6);  // the path, its folder, and the two
 }
 
 TEST(PathLookup, A_Star_Stands_For_Any_Run_Of_Characters) {

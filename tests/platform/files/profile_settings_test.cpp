@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,7 @@ class ProfileSettings : public ::testing::Test {
     return Read_Profile_String(path_, section, key, "fallback");
   }
   bool Write(const std::string& section, const std::string& key, const std::string& value) const {
-    return Write_Profile_String(path_, section, key, value) == 0;
+    return Write_Profile_Strings(path_, {{section, key, value}}) == 0;
   }
   void Hold(const std::string& text) const { Write_Text(path_, text); }
   std::string Text() const { return Read_Text(path_); }
@@ -157,6 +158,20 @@ TEST_F(ProfileSettings, Writing_What_Is_There_Leaves_The_File_Untouched) {
   ASSERT_EQ(::stat(path_.c_str(), &after), 0);
   EXPECT_EQ(before.st_ino, after.st_ino);
   EXPECT_EQ(Text(), "[A]\r\nk = 1\r\n");
+}
+
+TEST_F(ProfileSettings, Several_Keys_Go_There_One_After_The_Other) {
+  Hold("[A]\r\nk=1\r\n");
+  EXPECT_EQ(Write_Profile_Strings(
+                path_, {{"B", "m", "2"}, {"A", "k", "3"}, {"a", "n", "4"}, {"B", "M", "5"}}),
+            0);
+  EXPECT_EQ(Text(), "[A]\r\nk=3\r\nn=4\r\n[B]\r\nm=5\r\n");
+}
+
+TEST_F(ProfileSettings, One_Key_That_Is_Refused_Keeps_The_Others_From_The_File) {
+  Hold("[A]\r\nk=1\r\n");
+  EXPECT_EQ(Write_Profile_Strings(path_, {{"A", "k", "2"}, {"A", "m", "two\nlines"}}), EINVAL);
+  EXPECT_EQ(Text(), "[A]\r\nk=1\r\n");
 }
 
 TEST_F(ProfileSettings, A_File_That_Can_Not_Be_Read_Is_Not_Replaced) {

@@ -13,6 +13,7 @@
 #include <string>
 #include <thread>
 
+#include "support/disk_calls.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -102,6 +103,46 @@ TEST_F(SafeFile, The_Longest_Names_Can_Be_Saved) {
   const std::string name = folder_ / (std::string(251, 'n') + ".dui");
   EXPECT_EQ(Write_Whole_File(name, "x"), 0);
   EXPECT_EQ(Read_Text(name), "x");
+}
+
+TEST_F(SafeFile, A_Save_Waits_For_The_File_And_Its_Folder_And_Not_For_Its_Note) {
+  Set_Save_Notes_Folder(folder_.path());
+  const Disk_Calls calls;
+  EXPECT_EQ(Write_Whole_File(folder_ / "file", "new"), 0);
+  EXPECT_EQ(calls.Waits(), 2);
+  Set_Save_Notes_Folder({});
+}
+
+TEST_F(SafeFile, Several_Files_Of_A_Folder_Wait_For_It_Once) {
+  const Disk_Calls calls;
+  Unsynced_Folders folders;
+  for (const std::string name : {"one", "two", "three"}) {
+    Safe_File file;
+    EXPECT_EQ(file.Open(folder_ / name), 0);
+    EXPECT_EQ(file.Write(name), 0);
+    EXPECT_EQ(file.Commit(&folders), 0);
+    EXPECT_EQ(Read_Text(folder_ / name), name);
+  }
+  EXPECT_EQ(calls.Waits(), 3);
+  EXPECT_TRUE(folders.Sync().empty());
+  EXPECT_EQ(calls.Waits(), 4);
+  EXPECT_TRUE(folders.Sync().empty());
+  EXPECT_EQ(calls.Waits(), 4);
+}
+
+TEST_F(SafeFile, A_Folder_That_Is_Soon_Removed_Is_Not_Waited_For_But_What_Its_Links_Lead_To_Is) {
+  ASSERT_EQ(::mkdir((folder_ / "passing").c_str(), 0700), 0);
+  Write_Text(folder_ / "lasting", "old");
+  ASSERT_EQ(::symlink("../lasting", (folder_ / "passing/link").c_str()), 0);
+  Set_Passing_Folder(folder_ / "passing");
+  const Disk_Calls calls;
+  EXPECT_EQ(Write_Whole_File(folder_ / "passing/file", "new"), 0);
+  EXPECT_EQ(calls.Waits(), 0);
+  EXPECT_EQ(Write_Whole_File(folder_ / "passing/link", "new"), 0);
+  EXPECT_EQ(calls.Waits(), 2);
+  Set_Passing_Folder({});
+  EXPECT_EQ(Read_Text(folder_ / "passing/file"), "new");
+  EXPECT_EQ(Read_Text(folder_ / "lasting"), "new");
 }
 
 TEST_F(SafeFile, An_Exclusive_File_Never_Follows_A_Planted_Link) {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -202,6 +203,30 @@ TEST_F(ProcessControl, What_Is_Left_Running_Does_Not_Hold_Up_The_End) {
   ASSERT_TRUE(Came("left"));
   EXPECT_TRUE(Is_Alive(Pid_In(folder / "left")));
   ::kill(Pid_In(folder / "left"), SIGKILL);
+}
+
+TEST_F(ProcessControl, Its_End_Is_Told_By_A_Descriptor) {
+  EXPECT_EQ(process.End_Descriptor(), -1);
+  ASSERT_EQ(Start({"await:go"}), 0);
+  pollfd end{process.End_Descriptor(), POLLIN, 0};
+  ASSERT_GE(end.fd, 0);
+  EXPECT_EQ(::poll(&end, 1, 0), 0);
+  Write_Text(folder / "go", "");
+  EXPECT_EQ(::poll(&end, 1, -1), 1);
+  EXPECT_FALSE(process.Poll());
+  EXPECT_EQ(process.End_Descriptor(), -1);
+}
+
+TEST_F(ProcessControl, An_End_That_Is_Known_Is_Told_No_More_While_What_It_Started_Lives) {
+  ASSERT_EQ(Start({"ignore-term", "session:session", "heed-term", "pid:self", "await:never"}), 0);
+  ASSERT_TRUE(Came("session") && Came("self"));
+  process.Stop(kLongGrace);
+  pollfd end{process.End_Descriptor(), POLLIN, 0};
+  EXPECT_EQ(::poll(&end, 1, -1), 1);
+  EXPECT_TRUE(process.Poll());
+  EXPECT_EQ(process.End_Descriptor(), -1);
+  process.Stop(milliseconds(0));
+  Wait();
 }
 
 TEST_F(ProcessControl, Stop_Asks_Politely) {

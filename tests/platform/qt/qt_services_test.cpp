@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEventLoop>
 #include <QPaintEvent>
 #include <QProgressBar>
 #include <QTimer>
+#include <array>
 
 #include "support/screen_support.h"
 
@@ -48,6 +53,47 @@ TEST(EventPump, Sleeps_Instead_Of_Polling) {
   int turns = 0;
   for (; !over; ++turns) Pump_Events(std::chrono::milliseconds(50));
   EXPECT_LT(turns, 200);
+}
+
+/// A pipe that can be read.
+struct Readable_Pipe {
+  Readable_Pipe() {
+    EXPECT_EQ(::pipe(ends.data()), 0);
+    EXPECT_EQ(::write(ends[1], "x", 1), 1);
+  }
+  ~Readable_Pipe() {
+    ::close(ends[0]);
+    ::close(ends[1]);
+  }
+  Readable_Pipe(const Readable_Pipe&) = delete;
+  Readable_Pipe& operator=(const Readable_Pipe&) = delete;
+  std::array<int, 2> ends{-1, -1};
+};
+
+TEST(EventPump, Ends_Its_Sleep_When_The_Descriptor_Can_Be_Read) {
+  const Qt_Services services;
+  const Readable_Pipe pipe;
+  // The far end of the hour would end the test's own time.
+  Pump_Events(std::chrono::hours(1), pipe.ends[0]);
+}
+
+TEST(EventPump, Tells_A_Box_That_Is_Open_Inside_It_Of_The_Descriptor_No_More_Than_Once) {
+  const Qt_Services services;
+  QCoreApplication::processEvents();
+  const Readable_Pipe pipe;
+  int wakes = 0;
+  const auto counted = QObject::connect(QAbstractEventDispatcher::instance(),
+                                        &QAbstractEventDispatcher::awake, qApp, [&] { ++wakes; });
+  bool box_was_open = false;
+  QTimer::singleShot(0, [&] {
+    QEventLoop box;
+    QTimer::singleShot(200, &box, &QEventLoop::quit);
+    box.exec();
+    box_was_open = true;
+  });
+  while (!box_was_open) Pump_Events(std::chrono::hours(1), pipe.ends[0]);
+  QObject::disconnect(counted);
+  EXPECT_LT(wakes, 100);
 }
 
 TEST(BusyCursor, Nests_And_Comes_Down_With_The_Last) {
