@@ -20,6 +20,8 @@ struct File_Request {
   /// The path that a chosen one stands for, when a rule adds something to it: the save dialog
   /// asks before that one is replaced. May be empty.
   std::function<std::string(const std::string&)> complete = {};
+  /// A name to save under that has none of the filters' endings gets that of the chosen filter.
+  bool adds_ending = false;
 };
 
 /// What shows the dialogs. Each returns the full path that was chosen, nothing on Cancel.
