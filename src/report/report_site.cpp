@@ -197,6 +197,9 @@ void Report_Densities(Report_Maker& report) {
     profile.push_back({record.DensityDepths[i], record.Densities[i]});
   }
   const Density_Drawing drawing = Draw_Density(profile, Water_Depth(record));
+  if (Has_Variable_Depth(record)) {
+    report.Paragraph("The bottom in the picture is that of the deepest grid point.");
+  }
   report.Picture(With_Note(Density_Shapes(drawing, kReportCanvas), drawing.note));
 }
 

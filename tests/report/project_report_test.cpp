@@ -287,6 +287,14 @@ TEST(ProjectReport, Grids_Are_In_Blocks_At_The_End) {
   EXPECT_EQ(last->rows.front().cells[1], "30.5");
 }
 
+TEST(ProjectReport, The_Bottom_Of_A_Variable_Grid_Is_Its_Deepest_Point) {
+  constexpr char kWords[] = "The bottom in the picture is that of the deepest grid point.";
+  const auto record = Sound();
+  EXPECT_EQ(Chapter_Of(Project_Report(*record, kFacts), kWords), "");
+  record->ConstantDepthFlag = 0;
+  EXPECT_EQ(Chapter_Of(Project_Report(*record, kFacts), kWords), "Water Density Profile");
+}
+
 TEST(ProjectReport, A_Grid_That_Is_Not_Square_Comes_With_What_The_Solver_Gets_Of_It) {
   const auto record = Sound();
   record->ConstantDepthFlag = 0;
