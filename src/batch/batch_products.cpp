@@ -4,11 +4,13 @@
 #include <filesystem>
 #include <map>
 #include <system_error>
+#include <vector>
 
 #include "batch/batch_output.h"
 #include "batch/batch_project.h"
 #include "batch/interrupts.h"
 #include "batch/target_key.h"
+#include "core/project_file/project_guard.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 
@@ -35,6 +37,8 @@ int Write_Products(const Batch_Options& options, const Batch_Product& product) {
     Say_Problem(options.output, product.to_folder);
     return kNotDone;
   }
+  std::vector<std::string> projects;
+  for (const std::string& file : options.files) projects.push_back(Project_Path(file));
   int worst = kDone;
   std::map<std::string, std::string> sources;  // by what they write
   for (const std::string& file : options.files) {
@@ -50,7 +54,7 @@ int Write_Products(const Batch_Options& options, const Batch_Product& product) {
       worst = kNotDone;
       continue;
     }
-    if (Is_Project_Name(target)) {
+    if (Leads_To_A_Project(target, projects)) {
       Say_Problem(file,
                   std::string("a ") + product.name + " is not written over a project: " + target);
       worst = kNotDone;

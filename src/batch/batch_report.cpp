@@ -68,6 +68,11 @@ int Write_Pdf(const std::string& file, const std::string& target) {
                           Program_Folder() + " (without --pdf there is a report for a browser)");
     return kNotDone;
   }
+  // What the window program says is not heard here: the reason is found beforehand.
+  if (const int error = Safe_File().Open(target); error != 0) {
+    Say_Problem(file, target + " can't be written: " + std::strerror(error));
+    return kNotDone;
+  }
   if (!Runs_To_The_End(program, record->ProjectFileName, target)) {
     Say_Problem(file, target + " can't be written by " + program);
     return kNotDone;

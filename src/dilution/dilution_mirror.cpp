@@ -113,10 +113,10 @@ std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, int row, const std
   });
   if (found || name.empty()) return found;
   found = Take_Last(kept, [&](const Kept_Concentration& each) { return Belongs_To(each, name); });
-  if (found) return found;
   const auto is_cut = [&](const Kept_Concentration& each) { return Is_One_Cut(each.name, name); };
-  if (std::ranges::count_if(kept, is_cut) != 1) return std::nullopt;
-  return Take_Last(kept, is_cut);
+  if (!found && std::ranges::count_if(kept, is_cut) == 1) found = Take_Last(kept, is_cut);
+  if (found) found->note.lent_by = found->row;
+  return found;
 }
 
 /// What went from the row to another one that awaited it: an undo has brought the name back.
@@ -141,7 +141,16 @@ std::optional<Kept_Concentration> Find_Concentration(Dilution_Tab tab, const Edi
 
 /// One parameter is called something else now, or has got its name.
 void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
-  if (row.name.empty()) return;
+  if (row.name.empty()) {
+    // What the name has fetched goes with it, to where an undo may bring it back.
+    if (const int home = grids.notes[tab][At(row.row)].lent_by; home != 0) {
+      Kept_Concentration lifted = Lift(tab, row, grids);
+      lifted.row = home;
+      lifted.note.lent_by = 0;
+      Keep(std::move(lifted), tab, grids);
+    }
+    return;
+  }
   if (Holds_Concentration(tab, row.row, grids)) {
     Concentration_Note& note = grids.notes[tab][At(row.row)];
     if (!note.names.empty()) note.names.insert(row.name);
@@ -284,7 +293,6 @@ bool Give_Kept_To_Who_Awaits(Dilution_Tab tab, Dilution_Grids& grids) {
     if (!kept) continue;
     Put(*kept, tab, row, grids);
     grids.notes[tab][At(row)].names.insert(name);
-    grids.notes[tab][At(row)].lent_by = kept->row;
     given = true;
   }
   return given;
@@ -332,8 +340,11 @@ void Follow_Dilute_Edit(Dilution_Tab tab, const Cell_Range& range, Dilution_Grid
     return cells;
   };
   const std::vector<Cell_Value> before = concentrations();
-  Follow_In_Other_Tab(other, rows, Names_Are_Others(rows, range), grids);
-  const bool moved = concentrations() != before;
+  const bool are_others = Names_Are_Others(rows, range);
+  Follow_In_Other_Tab(other, rows, are_others, grids);
+  // Numbers may be equal, and the rows are others all the same.
+  const bool moved =
+      are_others || std::ranges::any_of(rows, &Edited_Row::emptied) || concentrations() != before;
   Note_Entered(tab, range, rows, grids);
   Copy_Common(tab, rows, grids);
   // Its history would bring back what belongs to other names now.

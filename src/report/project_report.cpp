@@ -75,6 +75,8 @@ Report_Document Project_Report(const ProjectRecord& project, const Report_Facts&
   Report_Times(report);
   Report_Coefficients(report);
   Report_Unused_Values(report);
+  Report_As_Solved(report);
+  Report_Kept_Values(report);
   Report_Grids(report);
   return std::move(report.document);
 }

@@ -40,6 +40,21 @@ struct Mover {
 
 }  // namespace
 
+std::size_t Letters_In(const Text_Setting& setting, const std::string& text, double size,
+                       double width, bool bold) {
+  const auto goes_on = [&](std::size_t at) {
+    return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+  };
+  std::size_t length = 0;
+  for (std::size_t next = 0; next < text.size();) {
+    ++next;
+    while (goes_on(next)) ++next;
+    if (length > 0 && setting.Width(text.substr(0, next), size, bold) > width) break;
+    length = next;
+  }
+  return length;
+}
+
 double Wide_Letters(const std::string& text, double size, bool bold) {
   return Text_Width(text, size) * (bold ? kBold : 1);
 }
@@ -51,6 +66,13 @@ std::vector<std::string> Text_Setting::Wrap(const std::string& text, double size
     std::istringstream words(paragraph);
     std::string line;
     for (std::string word; words >> word;) {
+      while (Width(word, size, bold) > width) {
+        const std::size_t part = Letters_In(*this, word, size, width, bold);
+        if (part >= word.size()) break;
+        if (!line.empty()) lines.push_back(std::exchange(line, {}));
+        lines.push_back(word.substr(0, part));
+        word.erase(0, part);
+      }
       std::string longer = line;
       if (!line.empty()) longer += ' ';
       longer += word;
@@ -63,6 +85,13 @@ std::vector<std::string> Text_Setting::Wrap(const std::string& text, double size
     lines.push_back(line);
   }
   return lines;
+}
+
+std::string Text_Setting::Cut(const std::string& text, double size, double width) const {
+  constexpr char kPoints[] = "...";
+  if (Width(text, size, false) <= width) return text;
+  const double room = width - Width(kPoints, size, false);
+  return text.substr(0, Letters_In(*this, text, size, room, false)) + kPoints;
 }
 
 double Text_Setting::Longest_Word(const std::string& text, double size, bool bold) const {

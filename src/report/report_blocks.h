@@ -26,12 +26,19 @@ struct Text_Setting {
   double Width(const std::string& text, double size, bool bold) const {
     return measure(text, size, bold);
   }
-  /// In lines of at most that width, broken at blanks and line breaks; a longer word has a line of
-  /// its own.
+  /// In lines of at most that width, broken at blanks and line breaks; a longer word is broken
+  /// between its letters.
   std::vector<std::string> Wrap(const std::string& text, double size, double width,
                                 bool bold) const;
+  /// The start of a text in that width, with three points where it is cut.
+  std::string Cut(const std::string& text, double size, double width) const;
   double Longest_Word(const std::string& text, double size, bool bold) const;
 };
+
+/// The length of the first letters of a text in that width, in bytes of whole letters; one letter
+/// at least.
+std::size_t Letters_In(const Text_Setting& setting, const std::string& text, double size,
+                       double width, bool bold);
 
 /// Something that is never parted, with its upper left corner at 0, 0.
 struct Page_Block {

@@ -11,6 +11,7 @@
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
+#include "core/project_file/project_guard.h"
 #include "platform/ask/busy_cursor.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
@@ -54,6 +55,12 @@ std::string Bytes_For(const std::string& path, const Report_Document& report) {
   return Report_Pdf(report, Session_Printer().pageLayout()).toStdString();
 }
 
+constexpr char kIsAProject[] = "it is a project file";
+
+bool Is_A_Project(const std::string& path, const ProjectRecord& record) {
+  return Leads_To_A_Project(path, {record.ProjectFileName});
+}
+
 void Tell_Failure(const std::string& path, const std::string& reason) {
   Show_Critical("The report was not saved as " + path + ": " + reason +
                 ".\nA file that was there before is unchanged.");
@@ -68,9 +75,11 @@ void Save_Project_Report(ProjectRecord& record) {
       {.title = "Save Project Report",
        .filters = {{"PDF Documents (*.pdf)", "*.pdf"}, {"Web Pages (*.html)", "*.html"}},
        .name = Report_Name(record.ProjectFileName, "pdf"),
-       .complete = With_Ending});
+       .complete = With_Ending,
+       .adds_ending = true});
   if (!chosen) return;
   const std::string path = With_Ending(*chosen);
+  if (Is_A_Project(path, record)) return Tell_Failure(path, kIsAProject);
   const Busy_Cursor waiting;
   const std::string bytes = Bytes_For(path, *report);
   if (bytes.empty()) return Tell_Failure(path, "it could not be made");
@@ -89,18 +98,28 @@ void Print_Project_Report(ProjectRecord& record) {
   const std::string& file = record.ProjectFileName;
   printer.setDocName(
       QString::fromStdString(file.empty() ? report->title : Name_Of(Base_Name(file))));
+  Offer_Print_File(Report_Name(file, "pdf"));
   if (!Ask_Printer("Print Project Report", static_cast<int>(pages().size()))) return;
+  const std::string target = printer.outputFileName().toStdString();
+  if (!target.empty() && Is_A_Project(target, record)) return Tell_Failure(target, kIsAProject);
   const Busy_Cursor waiting;
   // The dialog may have changed the paper. Without a range both are 0.
-  if (!Paint_Pages(pages(), printer.fromPage(), printer.toPage(), printer)) {
-    Show_Critical("The Report Could Not Be Printed.");
+  const Page_Range range{printer.fromPage(), printer.toPage(),
+                         printer.pageOrder() == QPrinter::LastPageFirst};
+  if (!Paint_Pages(pages(), range, printer)) {
+    return Show_Critical("The Report Could Not Be Printed.");
   }
+  Port().board.show_note({"Project report printed.", {}});
 }
 
 int Write_Report_Pdf(const std::string& project, const std::string& target) {
   const Loaded_Record loaded = Load_Record(project);
   if (loaded.record == nullptr) {
     std::fprintf(stderr, "%s: %s\n", project.c_str(), loaded.problem.c_str());
+    return kNotWritten;
+  }
+  if (Is_A_Project(target, *loaded.record)) {
+    std::fprintf(stderr, "%s: %s\n", target.c_str(), kIsAProject);
     return kNotWritten;
   }
   Report_Facts facts = Facts_Of(*loaded.record);

@@ -35,6 +35,7 @@ struct Report_Row {
   std::vector<std::string> cells;
   bool group = false;
   bool inside = false;  // below a group
+  bool joined = false;  // a group that is on the page of the group before it
 };
 
 enum class Table_Kind {

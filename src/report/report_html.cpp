@@ -23,7 +23,7 @@ table { border-collapse: collapse; margin: .4em 0 1.2em; }
 caption { text-align: left; font-weight: bold; padding: .3em 0; }
 thead { display: table-header-group; }
 tr, figure { break-inside: avoid; }
-th, td { padding: .22em .7em; text-align: left; vertical-align: top; }
+th, td { padding: .22em .7em; text-align: left; vertical-align: top; overflow-wrap: anywhere; }
 th { vertical-align: bottom; border-bottom: 1.5px solid #7a828c; }
 tbody tr { border-bottom: 1px solid #e4e7eb; }
 .n { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }

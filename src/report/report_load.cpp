@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <set>
 #include <string>
 
 #include "core/book_numbers.h"
@@ -23,15 +24,15 @@ int Solids(const ProjectRecord& record) { return std::clamp<int>(record.NumSolid
 int Layers(const ProjectRecord& record) { return std::clamp<int>(record.LAYERS, 0, kMaxLayers); }
 
 bool Is_Separated(const ProjectRecord& record) {
-  return record.DisposalMethod == kBarge && record.SeparationFlag != 0;
+  return record.DisposalMethod == kBarge && record.SeparationFlag == 1;
 }
 
-/// The screen leaves the fractions of the whole load out when each layer has its own; a contaminant
-/// of the sediment is taken from them all the same.
+/// The screen leaves the fractions of the whole load out when each layer has its own; of a single
+/// layer a contaminant of the sediment is taken from them all the same.
 Solids_Layout Layout_Of(const ProjectRecord& record) {
   if (record.DisposalMethod != kBarge) return kHopperLoad;
-  return Is_Separated(record) && !Contaminant_Is_In_The_Sediment(record) ? kSeparatedLoad
-                                                                         : kWholeLoad;
+  const bool computes = Contaminant_Is_In_The_Sediment(record) && record.LAYERS <= 1;
+  return Is_Separated(record) && !computes ? kSeparatedLoad : kWholeLoad;
 }
 
 void Put_Solids(Report_Maker& report) {
@@ -40,7 +41,14 @@ void Put_Solids(Report_Maker& report) {
   columns.Lay_Out(1, kMaxSolids, table);
   table.MaxRow(Solids(report.record));
   columns.Fill(report.record, table.MaxRow(), table);
-  report.Table("", table);
+  std::set<int> without;
+  if (!Has_Vessel(report.record)) {
+    for (const Solids_Field field : {Solids_Field::Shear, Solids_Field::Stripped}) {
+      without.insert(Column_Of(field, kHopperLoad));
+    }
+  }
+  report.Shown_Of(Solids(report.record), report.record.NumSolids);
+  report.Table("", table, without);
 }
 
 /// The tables of a barge's screen, as far as its picture and its composition go by them.
@@ -66,6 +74,7 @@ struct Load {
 void Put_Layers(Report_Maker& report) {
   const ProjectRecord& record = report.record;
   const Load load(record);
+  report.Shown_Of(Layers(record), record.LAYERS);
   report.Table("", load.volumes);
   if (Is_Separated(record)) {
     Spreadsheet_Table composition(kBookNumbers);
@@ -87,12 +96,22 @@ void Put_Moisture(Report_Maker& report) {
   if (!barge) report.Field(Hopper_Fields(), {"Text1"});
 }
 
+/// What its discharge is made of; the load of a vessel has water and a volume besides.
+void Report_Discharge(Report_Maker& report) {
+  const ProjectRecord& record = report.record;
+  report.Number_Of_Row(Hopper_Fields(), kHopperSolids, record.NumSolids);
+  report.Number("Bulk Density of the Material", record.BulkDensity, "0.0000", "g/cc");
+  report.Number("Further Value of the Material", record.MaterialVolumeOption, "", "");
+  Put_Solids(report);
+}
+
 }  // namespace
 
 void Report_Material(Report_Maker& report) {
   const ProjectRecord& record = report.record;
   const bool barge = record.DisposalMethod == kBarge;
   report.Heading(1, "Material Description");
+  if (!Has_Vessel(record)) return Report_Discharge(report);
   if (barge) {
     report.Field(Barge_Fields(), {"Text1", 0});
     report.Number_Of_Row(Barge_Fields(), kBargeSolids, record.NumSolids);
@@ -118,6 +137,7 @@ void Report_Operation(Report_Maker& report) {
   Spreadsheet_Table velocities(kBookNumbers);
   Fill_Velocities(record, velocities);
   velocities.MaxRow(std::min<int>(record.NOPENS, kMaxLayers));
+  report.Shown_Of(velocities.MaxRow(), record.NOPENS);
   report.Table(kVelocityFrame, velocities);
 }
 

@@ -11,6 +11,7 @@ namespace barvon {
 namespace {
 
 constexpr std::size_t kMostDecimals = 6;
+constexpr std::size_t kLongest = 16;  // characters in a pattern: a point and 15 digits
 
 bool Says(const std::string& text, double value) {
   return Lenient_Number(text) == Lenient_Number(Plain_Number(value));
@@ -37,7 +38,7 @@ std::size_t Decimals_Of(double value) {
 std::string Whole_Number_Text(double value, const std::string& pattern) {
   if (pattern.empty() || !std::isfinite(value)) return Plain_Number(value);
   const std::string text = Shown(value, pattern);
-  return Says(text, value) ? text : Plain_Number(value);
+  return text.size() <= kLongest && Says(text, value) ? text : Plain_Number(value);
 }
 
 std::vector<std::string> Column_Texts(const std::vector<double>& values) {

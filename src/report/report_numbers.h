@@ -5,8 +5,8 @@
 
 namespace barvon {
 
-/// The number as a screen shows it by its digit pattern, as long as that says all of it; otherwise
-/// with all its digits. What the report says is what the model gets.
+/// The number as a screen shows it by its digit pattern, as long as that says all of it in no more
+/// than 16 characters; otherwise with all its digits. What the report says is what the model gets.
 std::string Whole_Number_Text(double value, const std::string& pattern);
 
 /// The numbers of a column with equally many decimals, so that their points stand below each other:

@@ -20,7 +20,8 @@ constexpr double kPicturePart = 0.68;  // points of a picture's pixel
 constexpr double kAbovePicture = 9, kBelowPicture = 8;
 constexpr double kHeadingsRoom = 60;    // for headings above a picture that is as high as a page
 constexpr double kLeastShrunk = 0.78;   // a picture's part of its usual size
-constexpr std::size_t kLeastRows = 2;   // of a table at the end and at the start of a page
+constexpr double kMostHeld = 0.3;       // of a page, for a heading and the words below it
+constexpr std::size_t kLeastRows = 4;   // of a table at the end and at the start of a page
 constexpr std::size_t kWholeGroup = 8;  // rows of a group that are never parted
 constexpr std::size_t kWholeTable = 7;  // rows that are never parted
 constexpr Colour kChapterInk{11, 94, 168}, kRule{201, 206, 213};
@@ -68,6 +69,10 @@ class Page_Maker {
     Page_Block block = Block_Of_Lines(setting_.Wrap(paragraph.text, kReportTextSize, room_, false),
                                       kReportTextSize, kInk, false);
     block.height += 5;
+    // What is said below a heading is parted neither from it nor from what it is about.
+    if (!held_.empty() && Held_Height() + block.height < (bottom_ - top_) * kMostHeld) {
+      return Hold(block, 0);
+    }
     Put(block);
   }
 
@@ -102,11 +107,13 @@ class Page_Maker {
   }
 
   void operator()(const Report_Break&) {
-    if (!Is_Fresh()) New_Page();
+    if (Is_Fresh()) return;
+    Make_Room(0);
+    New_Page();
   }
 
   std::vector<Shape_List> Finished(const Report_Document& report) {
-    Flush();
+    Make_Room(0);
     if (pages_.size() > 1 && pages_.back().shapes.empty()) pages_.pop_back();
     for (std::size_t i = 0; i < pages_.size(); ++i) Add_Running_Lines(report, i);
     return std::move(pages_);
@@ -155,11 +162,13 @@ class Page_Maker {
     Write(block);
   }
 
-  /// The rows that are one with that of `row`: a group and what is below it.
+  /// The rows that are one with that of `row`: a group and what is below it, and the group that is
+  /// joined to it.
   std::size_t Unit_At(const Report_Table& table, std::size_t row) const {
     std::size_t rows = 1;
     if (!table.rows[row].group) return rows;
-    while (row + rows < table.rows.size() && table.rows[row + rows].inside) ++rows;
+    const auto goes_on = [&](const Report_Row& next) { return next.inside || next.joined; };
+    while (row + rows < table.rows.size() && goes_on(table.rows[row + rows])) ++rows;
     return std::min(rows, kWholeGroup);
   }
 
@@ -199,13 +208,15 @@ class Page_Maker {
     const auto put = [&](double x, double y, const std::string& text, Anchor anchor) {
       list.shapes.push_back(Text_Shape{{x, y}, text, kRunningSize, kQuietInk, anchor});
     };
-    put(paper_.left, above, report.running_title, Anchor::start);
+    const double date = setting_.Width(report.date, kRunningSize, false) + 2 * kRunningSize;
+    put(paper_.left, above, setting_.Cut(report.running_title, kRunningSize, room_ - date),
+        Anchor::start);
     put(right, above, report.date, Anchor::end);
     list.shapes.push_back(Line_Shape{{{paper_.left, above + 4}, {right, above + 4}}, {kRule, 0.6}});
     list.shapes.push_back(
         Line_Shape{{{paper_.left, below - kRunningSize - 4}, {right, below - kRunningSize - 4}},
                    {kRule, 0.6}});
-    put(paper_.left, below, report.title, Anchor::start);
+    put(paper_.left, below, setting_.Cut(report.title, kRunningSize, room_ - date), Anchor::start);
     list.title = "Page " + std::to_string(page + 1) + " of " + std::to_string(pages_.size());
     put(right, below, list.title, Anchor::end);
   }

@@ -28,7 +28,7 @@ void Put_Corners(Report_Maker& report, std::string_view array, const std::string
   report.Group(upper_left);
   report.Field(table, {array, kCornerTop});
   report.Field(table, {array, kCornerLeft});
-  report.Group(lower_right);
+  report.Group(lower_right, true);
   report.Field(table, {array, kCornerBottom});
   report.Field(table, {array, kCornerRight});
 }
@@ -50,7 +50,8 @@ void Report_Coefficients(Report_Maker& report) {
   report.Heading(1, "Coefficients");
   report.Words("Coefficients in the Model Input",
                report.record.KEY1 == 0 ? "Not given: the solver has its own" : "Those below");
-  report.Yes_Or_No(kPritchardCaption, report.record.PritchardFlag == 1);
+  if (Has_Vessel(report.record))
+    report.Yes_Or_No(kPritchardCaption, report.record.PritchardFlag == 1);
   Spreadsheet_Table table(kBookNumbers);
   List_Coefficients(report.record, table);
   report.Table("", table);
@@ -68,9 +69,10 @@ void Report_Times(Report_Maker& report) {
     Spreadsheet_Table times(kBookNumbers);
     Fill_Print_Times(record, times);
     times.MaxRow(Print_Times(record));
+    report.Shown_Of(Print_Times(record), record.NumPrintTimes);
     report.Table("", times);
   } else {
-    report.Paragraph("The program prints results quarterly.");
+    report.Words("Times of the Prints", "The program prints results quarterly");
   }
   const Time_Drawing drawing = Draw_Times(Times_Of(record));
   Canvas canvas = kReportCanvas;
@@ -98,14 +100,15 @@ void Report_Evaluation(Report_Maker& report) {
     Put_Corners(report, "Text", First_Sentence(shape.upper_left),
                 First_Sentence(shape.lower_right));
   }
-  if (shape.zid) {
+  if (shape.zid && Has_Vessel(record)) {
     report.Group("Zone of Initial Dilution");
     report.Yes_Or_No(kZidCaption, record.ZidFlag == 1);
     report.Field(table, {"Text6"});
-    Put_Corners(report, "Text5", kZidUpperLeft, kZidLowerRight);
+    if (Has_Zid(record)) Put_Corners(report, "Text5", kZidUpperLeft, kZidLowerRight);
   }
   report.Group(kOutputDepthsCaption);
   report.Number_Of_Row(table, {"Text8", kOutputCount}, record.NumOutputDepths);
+  report.Shown_Of(Output_Depths(record), record.NumOutputDepths);
   for (int i = 0; i < Output_Depths(record); ++i) report.Field(table, {"Text8", i});
 }
 

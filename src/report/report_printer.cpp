@@ -51,11 +51,11 @@ std::vector<Shape_List> Pages_On(const Report_Document& report, const QPageLayou
   return Report_Pages(report, Paper_Of(layout), measure);
 }
 
-bool Paint_Pages(const std::vector<Shape_List>& pages, int first, int last,
+bool Paint_Pages(const std::vector<Shape_List>& pages, const Page_Range& range,
                  QPagedPaintDevice& device) {
   const int count = static_cast<int>(pages.size());
-  first = std::clamp(first, 1, std::max(count, 1));
-  last = last < 1 ? count : std::min(last, count);
+  const int first = std::clamp(range.first, 1, std::max(count, 1));
+  const int last = range.last < 1 ? count : std::min(range.last, count);
   QPainter painter;
   if (!painter.begin(&device)) return false;
   // The places of a page count from the corner of the sheet, a device's from that of its margins
@@ -65,8 +65,9 @@ bool Paint_Pages(const std::vector<Shape_List>& pages, int first, int last,
       own.mode() == QPageLayout::FullPageMode ? QMarginsF() : own.margins(QPageLayout::Point);
   const double scale = device.logicalDpiX() / kPointsPerInch;
   const QFont letters = Letters();
-  for (int page = first; page <= last; ++page) {
-    if (page > first && !device.newPage()) return false;
+  for (int i = first; i <= last; ++i) {
+    const int page = range.last_page_first ? first + last - i : i;
+    if (i > first && !device.newPage()) return false;
     painter.save();
     painter.scale(scale, scale);
     painter.translate(-margins.left(), -margins.top());
@@ -84,7 +85,7 @@ QByteArray Report_Pdf(const Report_Document& report, const QPageLayout& layout) 
   writer.setPageLayout(layout);
   writer.setTitle(QString::fromStdString(report.title + " - " + report.subtitle));
   writer.setCreator(QStringLiteral("BARVON " BARVON_VERSION));
-  return Paint_Pages(Pages_On(report, layout), 0, 0, writer) ? bytes.data() : QByteArray();
+  return Paint_Pages(Pages_On(report, layout), {}, writer) ? bytes.data() : QByteArray();
 }
 
 QPageLayout Default_Report_Layout() {

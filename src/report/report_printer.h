@@ -17,9 +17,14 @@ QPageLayout Default_Report_Layout();
 /// The pages of the report on paper of that layout.
 std::vector<Shape_List> Pages_On(const Report_Document& report, const QPageLayout& layout);
 
-/// Paints pages, from the first to the last that is asked for, from 1; 0 and 0 are all of them.
-/// False when the device can't be painted on.
-bool Paint_Pages(const std::vector<Shape_List>& pages, int first, int last,
+/// Which pages of a report are painted, from 1; 0 and 0 are all of them.
+struct Page_Range {
+  int first = 0, last = 0;
+  bool last_page_first = false;
+};
+
+/// Paints pages. False when the device can't be painted on.
+bool Paint_Pages(const std::vector<Shape_List>& pages, const Page_Range& range,
                  QPagedPaintDevice& device);
 
 /// The report as a PDF file; empty when it could not be made.

@@ -6,6 +6,9 @@
 #include <utility>
 #include <variant>
 
+#include "core/keys.h"
+#include "core/model_input/fluid_values.h"
+#include "core/model_input/model_input.h"
 #include "core/number_text.h"
 #include "core/record_member.h"
 #include "core/text_tools.h"
@@ -44,6 +47,38 @@ const void* Address_Of(const Field_Row& row, const ProjectRecord& record) {
   const void* address = nullptr;
   With_Member(row.member, record, [&](const auto& value) { address = &value; });
   return address;
+}
+
+constexpr double ProjectRecord::*kFluidValues[] = {&ProjectRecord::TracerConcentration,
+                                                   &ProjectRecord::BackgroundConcentration,
+                                                   &ProjectRecord::CriterionConcentration,
+                                                   &ProjectRecord::SedimentConcentration,
+                                                   &ProjectRecord::ToxicityDilution,
+                                                   &ProjectRecord::ZidToxicityDilution,
+                                                   &ProjectRecord::ZCRIT};
+constexpr double ProjectRecord::*kZidCorners[] = {&ProjectRecord::ZidTop, &ProjectRecord::ZidLeft,
+                                                  &ProjectRecord::ZidBottom,
+                                                  &ProjectRecord::ZidRight};
+/// What a pipeline's model input does not have.
+constexpr double ProjectRecord::*kOfVesselsOnly[] = {
+    &ProjectRecord::RHDA0,        &ProjectRecord::SLOPEX0,         &ProjectRecord::SLOPEZ0,
+    &ProjectRecord::SiteDensity,  &ProjectRecord::MoistureContent, &ProjectRecord::AvgVelocityDepth,
+    &ProjectRecord::AvgVelocityX, &ProjectRecord::AvgVelocityZ};
+
+bool Is_In_The_Model_Input(const void* value, const ProjectRecord& record) {
+  const auto is_one_of = [&](const auto& members) {
+    return std::ranges::any_of(members, [&](auto member) { return &(record.*member) == value; });
+  };
+  for (double ProjectRecord::*const fluid : kFluidValues) {
+    if (&(record.*fluid) == value) return Is_In_The_Fluid_Lines(record, fluid);
+  }
+  if (is_one_of(kZidCorners)) return Has_Zid(record) && Has_Vessel(record);
+  return Has_Vessel(record) || !is_one_of(kOfVesselsOnly);
+}
+
+Failure Prepare_Model(ProjectRecord& record) {
+  std::string text;
+  return Write_Model_Input(record, text);
 }
 
 /// A table's row heading that says no more than which row it is.
@@ -86,6 +121,11 @@ std::string Label_Without_Unit(const std::string& label, const std::string& unit
   return text;
 }
 
+Report_Maker::Report_Maker(const ProjectRecord& record)
+    : record(record),
+      prepared(std::make_unique<ProjectRecord>(record)),
+      failure(Prepare_Model(*prepared)) {}
+
 void Report_Maker::Heading(int level, const std::string& text) {
   document.parts.emplace_back(Report_Heading{level, text});
 }
@@ -103,7 +143,8 @@ void Report_Maker::Table(Report_Table table) {
   if (!table.rows.empty()) document.parts.emplace_back(std::move(table));
 }
 
-void Report_Maker::Table(const std::string& caption, const Spreadsheet_Table& table) {
+void Report_Maker::Table(const std::string& caption, const Spreadsheet_Table& table,
+                         const std::set<int>& without) {
   Report_Table made{Table_Kind::plain, caption, {}, {}};
   made.rows.resize(static_cast<std::size_t>(std::max(0, table.MaxRow())));
   const bool headed = table.MaxRow() > 0 && Has_Own_Heading(table, 1);
@@ -114,6 +155,7 @@ void Report_Maker::Table(const std::string& caption, const Spreadsheet_Table& ta
     }
   }
   for (int col = 1; col <= table.MaxCol(); ++col) {
+    if (without.contains(col)) continue;
     Report_Column column{Lines_Without_Blanks(table.ColText(col))};
     std::size_t row = 0;
     for (std::string& cell : Cells_Of(table, col, column.numbers)) {
@@ -137,8 +179,8 @@ Report_Table& Report_Maker::Values() {
   return *last;
 }
 
-void Report_Maker::Group(const std::string& text) {
-  Values().rows.push_back({{Label_Without_Unit(text, "")}, true});
+void Report_Maker::Group(const std::string& text, bool joined) {
+  Values().rows.push_back({{Label_Without_Unit(text, "")}, true, false, joined});
   frame_ = text;
   by_field_ = false;
 }
@@ -150,24 +192,40 @@ void Report_Maker::Fields(Field_Table table) {
     const Field_Row* counts = Find_Row(table, row.control, record);
     if (counts == nullptr) continue;
     done.push_back(row.control);
-    Put(*counts);
+    Put_If_Held(*counts);
   }
 }
 
 void Report_Maker::Field(Field_Table table, const Control_Name& control) {
-  if (const Field_Row* row = Find_Row(table, control, record)) Put(*row);
+  if (const Field_Row* row = Find_Row(table, control, record)) Put_If_Held(*row);
 }
 
-void Report_Maker::Field_Of(Field_Table table, const double& value) { Put_Member(table, &value); }
+void Report_Maker::Field_Of(Field_Table table, const double& value) {
+  if (const Field_Row* row = Row_Of(table, &value)) Put_If_Held(*row);
+}
+
 void Report_Maker::Field_Of(Field_Table table, const std::string& value) {
-  Put_Member(table, &value);
+  if (const Field_Row* row = Row_Of(table, &value)) Put_If_Held(*row);
 }
 
-void Report_Maker::Put_Member(Field_Table table, const void* value) {
-  const auto row = std::find_if(table.begin(), table.end(), [&](const Field_Row& one) {
-    return Address_Of(one, record) == value;
-  });
-  if (row != table.end()) Put(*row);
+void Report_Maker::Kept(Field_Table table, const double& value) {
+  if (Is_In_The_Model_Input(&value, record)) return;
+  if (const Field_Row* row = Row_Of(table, &value)) Put(*row);
+}
+
+/// The row that is shown for the project, before any other of the value.
+const Field_Row* Report_Maker::Row_Of(Field_Table table, const void* value) const {
+  const Field_Row* found = nullptr;
+  for (const Field_Row& row : table) {
+    if (Address_Of(row, record) != value) continue;
+    if (row.shown_for == nullptr || row.shown_for(record)) return &row;
+    if (found == nullptr) found = &row;
+  }
+  return found;
+}
+
+void Report_Maker::Put_If_Held(const Field_Row& row) {
+  if (Is_In_The_Model_Input(Address_Of(row, record), record)) Put(row);
 }
 
 void Report_Maker::Put(const Field_Row& row) {
@@ -212,6 +270,11 @@ void Report_Maker::Put_Row(std::vector<std::string> cells) {
 
 void Report_Maker::Words(const std::string& label, const std::string& words) {
   Put_Row({label, Trimmed(words).empty() ? kNoWords : Trimmed(words)});
+}
+
+void Report_Maker::Shown_Of(int shown, double count) {
+  if (count <= shown) return;
+  Paragraph(std::to_string(shown) + " of " + Plain_Number(count) + " shown.");
 }
 
 void Report_Maker::Yes_Or_No(const std::string& label, bool yes) {

@@ -21,6 +21,10 @@ void Report_Evaluation(Report_Maker& report);
 /// What the model input carries although no choice of the project uses it. The chapters before have
 /// to be there.
 void Report_Unused_Values(Report_Maker& report);
+/// What is derived from the values while the model input is made.
+void Report_As_Solved(Report_Maker& report);
+/// What a screen holds and the model input does not. The chapters before have to be there.
+void Report_Kept_Values(Report_Maker& report);
 /// The values at each grid point, as far as they vary.
 void Report_Grids(Report_Maker& report);
 

@@ -5,6 +5,7 @@
 
 #include "core/book_numbers.h"
 #include "core/desk/analysis_choices.h"
+#include "core/keys.h"
 #include "core/number_text.h"
 #include "core/velocity_types.h"
 #include "params/site_plan.h"
@@ -101,6 +102,9 @@ void Put_Grid(Report_Maker& report, const std::string& what, const Spreadsheet_T
 
 void Report_Single(Report_Maker& report) {
   report.Fields(kAverageFields);
+  if (!Has_Vessel(report.record)) {
+    report.Paragraph("The model input of a pipeline has no velocities of this type.");
+  }
   report.Yes_Or_No(kLogarithmicCaption, report.record.VelocityProfileType == kLogarithmicVelocity);
 }
 
@@ -128,6 +132,9 @@ void Report_Field(Report_Maker& report) {
 
 void Report_Tide(Report_Maker& report) {
   const ProjectRecord& record = report.record;
+  if (!Has_Vessel(record)) {
+    return report.Paragraph("The model input of a pipeline has no velocities of this type.");
+  }
   report.Fields(kUnsteadyFields);
   Tidal_Pattern pattern;
   for (int row = 1; row <= kTidalRows; ++row) {
@@ -158,6 +165,8 @@ void Report_Site(Report_Maker& report) {
       report.Yes_Or_No(kVariableDepthCaption, Has_Variable_Depth(record));
     }
   }
+  report.Shown_Of(Points(record.NMAX0), record.NMAX0);
+  report.Shown_Of(Points(record.MMAX0), record.MMAX0);
   const Plan plan = Draw_Site(Plan_Of_Site(record));
   report.Picture(With_Note(Plan_Shapes(plan, kReportMap), plan.note));
   if (!Has_Variable_Depth(record)) return;
@@ -181,12 +190,16 @@ void Report_Densities(Report_Maker& report) {
   Lay_Out_Density_Table(computed, table);
   table.MaxRow(points);
   Fill_Density_Table(record, points, computed, table);
+  report.Shown_Of(points, record.NROA0);
   report.Table("", table);
   std::vector<Density_Point> profile;
   for (std::size_t i = 1; i <= static_cast<std::size_t>(points); ++i) {
     profile.push_back({record.DensityDepths[i], record.Densities[i]});
   }
   const Density_Drawing drawing = Draw_Density(profile, Water_Depth(record));
+  if (Has_Variable_Depth(record)) {
+    report.Paragraph("The bottom in the picture is that of the deepest grid point.");
+  }
   report.Picture(With_Note(Density_Shapes(drawing, kReportCanvas), drawing.note));
 }
 

@@ -1,3 +1,4 @@
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -6,9 +7,11 @@
 #include "core/desk/analysis_choices.h"
 #include "core/keys.h"
 #include "core/velocity_types.h"
+#include "material/load_water.h"
 #include "params/evaluation_data.h"
 #include "platform/text/counted.h"
 #include "report/report_sections.h"
+#include "site/site_fields.h"
 #include "site/velocity_fields.h"
 
 namespace barvon {
@@ -37,8 +40,9 @@ std::string Method_Words(const ProjectRecord& record) {
   }
 }
 
-std::string Simulation_Words(const ProjectRecord& record) {
-  switch (record.KEY2) {
+/// By the key that the model input has: a pipeline's vessel without a speed is at rest.
+std::string Simulation_Words(const ProjectRecord& prepared) {
+  switch (prepared.KEY2) {
     case kDiffusion:
       return kSimulationCaptions[kWithDiffusion];
     case kDescentAndCollapse:
@@ -46,7 +50,7 @@ std::string Simulation_Words(const ProjectRecord& record) {
     case kStillVessel:
       return std::string(kSimulationCaptions[kWithDiffusion]) + ", Vessel at Rest";
     default:
-      return Unknown(record.KEY2);
+      return Unknown(prepared.KEY2);
   }
 }
 
@@ -66,7 +70,7 @@ void Report_Study(Report_Maker& report) {
   report.Heading(1, "Study");
   report.Words(kAnalysisFrame, Analysis_Words(record));
   report.Words(kMethodFrame, Method_Words(record));
-  report.Words(kSimulationFrame, Simulation_Words(record));
+  report.Words(kSimulationFrame, Simulation_Words(*report.prepared));
   report.Words(kEvaluationFrame, Evaluation_Words(record));
 }
 
@@ -74,6 +78,10 @@ void Report_Findings(Report_Maker& report) {
   report.Heading(1, "Check of the Data");
   const Error_List errors = Check_Data(report.record);
   const std::vector<std::string> remarks = Remarks_On(report.record);
+  if (report.failure != Failure::None) {
+    report.Paragraph(std::string("The model input can't be written: ") +
+                     Failure_Name(report.failure) + ".");
+  }
   if (errors.entries.empty()) report.Paragraph("The check of the data finds no errors.");
   if (!errors.entries.empty()) {
     Report_Table table{Table_Kind::plain,
@@ -116,16 +124,48 @@ void Report_Unused_Values(Report_Maker& report) {
       report.Group(shape.upper_left);
       report.Field_Of(evaluation, record.SiteTop);
       report.Field_Of(evaluation, record.SiteLeft);
-      report.Group(shape.lower_right);
+      report.Group(shape.lower_right, true);
       report.Field_Of(evaluation, record.SiteBottom);
       report.Field_Of(evaluation, record.SiteRight);
     }
     if (Form_Of_Type(record.VelocityProfileType) == kNoForm) report.Fields(kAverageFields);
   }
+  if (report.document.parts.size() == before + head) report.document.parts.resize(before);
+}
+
+void Report_Kept_Values(Report_Maker& report) {
+  const ProjectRecord& record = report.record;
+  const Field_Table evaluation = Evaluation_Fields(true);
+  const std::size_t before = report.document.parts.size();
+  report.Heading(1, "Kept in the Project File, Not Used");
+  report.Paragraph("The project has these values. Its model input does not hold them.");
+  const std::size_t head = report.document.parts.size() - before;
+  const auto keep = [&](Field_Table table, std::initializer_list<const double*> values) {
+    for (const double* value : values) {
+      if (*value != 0) report.Kept(table, *value);
+    }
+  };
+  // The concentration that is computed from the sediment was never entered.
+  if (!Contaminant_Is_In_The_Sediment(record)) keep(evaluation, {&record.TracerConcentration});
+  keep(evaluation, {&record.BackgroundConcentration, &record.CriterionConcentration,
+                    &record.SedimentConcentration, &record.ToxicityDilution,
+                    &record.ZidToxicityDilution, &record.ZCRIT});
   if (record.DisposalMethod == kContinuous) {
-    report.Number("Bulk Density of the Material", record.BulkDensity, "0.0000", "g/cc");
-    report.Number("Further Value of the Material, Kept for the File", record.MaterialVolumeOption,
-                  "", "");
+    keep(Site_Fields(), {&record.RHDA0});
+    keep(Water_Fields(), {&record.SiteDensity});
+    if (Form_Of_Type(record.VelocityProfileType) == kSingleForm) {
+      keep(kAverageFields, {&record.AvgVelocityDepth, &record.AvgVelocityX, &record.AvgVelocityZ});
+    }
+  }
+  if (Offers_Zid(record) && !(Has_Zid(record) && Has_Vessel(record)) &&
+      (record.ZidTop != 0 || record.ZidLeft != 0 || record.ZidBottom != 0 ||
+       record.ZidRight != 0)) {
+    report.Group(kZidUpperLeft);
+    for (const double* corner : {&record.ZidTop, &record.ZidLeft}) report.Kept(evaluation, *corner);
+    report.Group(kZidLowerRight, true);
+    for (const double* corner : {&record.ZidBottom, &record.ZidRight}) {
+      report.Kept(evaluation, *corner);
+    }
   }
   if (report.document.parts.size() == before + head) report.document.parts.resize(before);
 }

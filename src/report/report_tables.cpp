@@ -112,7 +112,11 @@ class Table_Layout {
            bool number, Colour colour, bool bold) const {
     const double baseline = y - Below_Baseline(size_);
     if (number) {
-      Add_Text(block, {x + widths_[column] - pad_, baseline}, text, size_, colour, Anchor::end,
+      // A number is never broken: one that is too long has smaller letters.
+      const double room = widths_[column] - pad_ + kSlack,
+                   width = setting_.Width(text, size_, bold);
+      const double size = width > room ? size_ * room / width : size_;
+      Add_Text(block, {x + widths_[column] - pad_, baseline}, text, size, colour, Anchor::end,
                bold);
     } else {
       Add_Text(block, {x + Left_Pad(column), baseline}, text, size_, colour, Anchor::start, bold);
@@ -175,8 +179,14 @@ class Table_Layout {
       if (table_.columns[i].numbers) continue;
       if (widest == columns || widths_[i] > widths_[widest]) widest = i;
     }
-    if (widest == columns) return;
-    widths_[widest] = std::max(widths_[widest] - (Sum() - room), room / 4);
+    if (widest < columns) {
+      widths_[widest] = std::max(widths_[widest] - (Sum() - room), room / 4);
+    }
+    if (Sum() <= room) return;
+    const double narrower = room / Sum();
+    size_ *= narrower;
+    pad_ *= narrower;
+    for (double& width : widths_) width *= narrower;
   }
 
   // Of the page; and what rounding may take of a width.

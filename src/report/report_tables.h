@@ -15,7 +15,7 @@ struct Laid_Table {
 };
 
 /// Lays a table out in that width. Words are wrapped, and so are headings where they must be; a
-/// grid that is too wide all the same has smaller letters.
+/// table that is too wide all the same has smaller letters, and so has a single long number.
 Laid_Table Lay_Out_Table(const Report_Table& table, double room, const Text_Setting& setting);
 
 }  // namespace barvon

@@ -9,6 +9,7 @@
 #include "core/desk/open_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
+#include "core/project_file/project_guard.h"
 #include "core/project_record.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
@@ -55,7 +56,13 @@ bool Print_Text_In_Front() {
   if (text == nullptr) return false;
   QPrinter& printer = Session_Printer();
   printer.setDocName(QString::fromStdString(Name_Of(text->Caption())));
+  Offer_Print_File(With_Extension(text->Caption(), "pdf"));
   if (!Ask_Printer("Print Text", 0)) return true;
+  const std::string target = printer.outputFileName().toStdString();
+  if (!target.empty() && Leads_To_A_Project(target, {Project().ProjectFileName})) {
+    Show_Critical("The Text Could Not Be Printed.");
+    return true;
+  }
   if (!Print_Active_Text(printer)) Show_Critical("The Text Could Not Be Printed.");
   return true;
 }

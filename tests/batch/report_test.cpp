@@ -60,6 +60,22 @@ TEST_F(BatchReport, Is_Never_Written_Over_A_Project) {
   EXPECT_TRUE(Read_Text(Path("site.DUI")) == before);
 }
 
+TEST_F(BatchReport, Is_Never_Written_Over_A_Project_Through_A_Link) {
+  Put_Sample(kHopper, "site.DUI");
+  const std::string before = Read_Text(Path("site.DUI"));
+  std::filesystem::create_symlink("site.DUI", Path("link.html"));
+  std::filesystem::create_hard_link(Path("site.DUI"), Path("hard.html"));
+  for (const std::string link : {"link.html", "hard.html"}) {
+    for (const std::string command : {"report", "export"}) {
+      const Program_Result result = Batch({command, "site.DUI", "-o", link});
+      EXPECT_EQ(result.code, 2);
+      EXPECT_NE(result.err.find("is not written over a project: " + Path(link)), std::string::npos)
+          << result.err;
+    }
+  }
+  EXPECT_TRUE(Read_Text(Path("site.DUI")) == before);
+}
+
 TEST_F(BatchReport, Several_Projects_Do_Not_Go_Into_One_File) {
   Put_Sample(kHopper, "hopper.DUI");
   Put_Sample(kBarge, "barge.DUI");
@@ -98,6 +114,9 @@ TEST_F(BatchReport, The_Window_Program_Is_Asked_For_The_Pdf) {
   EXPECT_EQ(Read_Text(Path("site.pdf")), "--report-pdf " + Path("site.DUI") + " offscreen\n");
   Write_Text(Path("bin/barvon"), "#!/bin/sh\nexit 2\n");
   EXPECT_EQ(Run_Program(start).code, 2);
+  start.command.insert(start.command.end(), {"-o", "nodir/x.pdf"});
+  EXPECT_EQ(Run_Program(start).err,
+            "site.DUI: " + Path("nodir/x.pdf") + " can't be written: No such file or directory\n");
 }
 
 }  // namespace

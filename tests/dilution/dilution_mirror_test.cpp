@@ -239,6 +239,38 @@ TEST_F(DilutionMirror, A_Row_Of_The_Same_Name_Is_Left_Alone_And_An_Undo_Restores
   EXPECT_EQ(elutriate.TextRC(6, 2), "");
 }
 
+TEST_F(DilutionMirror, Two_Undos_Restore_Two_Rows_Of_One_Name) {
+  Enter(kBulkTab, 3, 1, {{"Copper total"}});
+  Enter(kElutriateTab, 3, 2, {{"0"}});
+  Clear(kBulkTab, {1, 1, 1, 4});
+  Enter(kBulkTab, 3, 1, {{"Iron", "55", "3", "1"}});
+  Undo(kBulkTab);
+  Undo(kBulkTab);
+  EXPECT_EQ(elutriate.TextRC(1, 2), "26");
+  EXPECT_EQ(elutriate.NumberRC(3, 2), 0);
+}
+
+TEST_F(DilutionMirror, What_A_Typed_Name_Has_Fetched_Goes_Back_With_An_Undo) {
+  Clear(kBulkTab, {2, 1, 2, 4});
+  Enter(kBulkTab, 6, 1, {{"007"}});
+  EXPECT_EQ(elutriate.TextRC(6, 2), "5");
+  Undo(kBulkTab);
+  EXPECT_EQ(elutriate.TextRC(6, 2), "");
+  Undo(kBulkTab);
+  EXPECT_EQ(Row(kElutriateTab, 2), (Names{"007", "5", "0", "0"}));
+}
+
+TEST_F(DilutionMirror, The_Other_Tabs_History_Ends_Where_Rows_Have_Become_Others) {
+  Enter(kElutriateTab, 1, 2, {{"7"}, {"7"}});
+  Enter(kElutriateTab, 2, 3, {{"99"}});
+  Enter(kBulkTab, 1, 1, {{"007", "500", "99", "0"}, {"Copper total", "1000", "10", "2"}});
+  EXPECT_FALSE(elutriate.CanUndo());
+  Enter(kElutriateTab, 3, 3, {{"99"}});
+  Clear(kElutriateTab, {3, 2, 3, 2});
+  Clear(kBulkTab, {3, 1, 3, 4});
+  EXPECT_FALSE(elutriate.CanUndo());
+}
+
 TEST_F(DilutionMirror, Rows_Of_One_Name_Keep_Their_Order_When_A_Paste_Moves_Them) {
   Enter(kBulkTab, 2, 1, {{"Copper total"}});
   Enter(kBulkTab, 1, 1, {{"7440-50-8"}, {"Copper total"}, {"Copper total"}, {"2E5"}});

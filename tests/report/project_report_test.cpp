@@ -115,6 +115,107 @@ TEST(ProjectReport, A_Choice_That_Is_None_Is_Told_As_It_Is) {
   EXPECT_EQ(Value_Of(report, "Evaluation Type"), "Unknown (40)");
 }
 
+TEST(ProjectReport, The_Concentration_That_Is_Computed_From_The_Sediment_Is_Told) {
+  const auto record = Sound();
+  record->KEY3 = kNavigableFurtherTesting;
+  record->SedimentConcentration = 10;
+  record->TracerConcentration = 777;
+  record->NumSolids = 1;
+  record->SolidSG[1] = 2.5;
+  record->SolidVolFraction[1] = 0.5;
+  const Report_Document report = Project_Report(*record, kFacts);
+  // 10 x 2.5 x 0.5.
+  EXPECT_EQ(Value_Of(report, "Concentration in the fluid fraction, computed from the sediment"),
+            "12.5");
+  EXPECT_FALSE(Cells_Of(report).contains("777"));
+  EXPECT_EQ(record->TracerConcentration, 777);
+}
+
+TEST(ProjectReport, Values_That_The_Model_Input_Has_Not_Are_Apart) {
+  const auto record = Sound();
+  record->KEY3 = kOceanFurtherTesting;
+  record->CriterionConcentration = 3.25;
+  record->ZidToxicityDilution = 4.5;
+  const Report_Document report = Project_Report(*record, kFacts);
+  EXPECT_EQ(Chapter_Of(report, "Water Quality Criteria for Contaminant"),
+            "Kept in the Project File, Not Used");
+  EXPECT_EQ(Chapter_Of(report, "Dilution required to meet Toxicity Standard at Border of ZID"),
+            "Further Values in the Model Input");
+}
+
+TEST(ProjectReport, Tells_What_The_Solver_Gets_Of_It) {
+  const auto record = Sound();
+  record->KEY3 = kNavigableWaterQuality;
+  record->NOPENS = 4;
+  record->TotalVolume = 1000;
+  record->NBINS = 4;
+  record->BINL = 30;
+  record->BINW = 20;
+  record->DBINS = 5;
+  record->DX0 = 10;
+  record->DZ0 = 0;
+  record->SiteTop = 0;
+  record->SiteLeft = 40;
+  record->SiteBottom = 80;
+  record->SiteRight = 100;
+  record->DEPC0 = 500;
+  const Report_Document report = Project_Report(*record, kFacts);
+  EXPECT_EQ(Chapter_Of(report, "Volume of each opening"), "As the Solver Gets It");
+  EXPECT_EQ(Value_Of(report, "Volume of each opening"), "250");
+  // Two by two bins.
+  EXPECT_EQ(Value_Of(report, "Length of the bins that open together"), "65");
+  EXPECT_EQ(Value_Of(report, "Width of the bins that open together"), "45");
+  EXPECT_EQ(Value_Of(report, "Spacing in Z-Direction, that of the X-Direction as none is given"),
+            "10");
+  EXPECT_EQ(Chapter_Of(report, "Point added to the density profile, which has to reach the bottom"),
+            "As the Solver Gets It");
+  EXPECT_EQ(record->DZ0, 0);
+  std::vector<std::vector<std::string>> corners;
+  for (const Report_Part& part : report.parts) {
+    const auto* table = std::get_if<Report_Table>(&part);
+    if (table == nullptr || table->caption != "Mixing Zone on the Grid") continue;
+    for (const Report_Row& row : table->rows) corners.push_back(row.cells);
+  }
+  ASSERT_EQ(corners.size(), 4u);
+  EXPECT_EQ(corners[0],
+            (std::vector<std::string>{"Upper left, from the top", "0", "3", "20",
+                                      "moved: not so near the edge, nor the other corner"}));
+  EXPECT_EQ(corners[1],
+            (std::vector<std::string>{"Upper left, from the left", "40", "5", "40", ""}));
+}
+
+TEST(ProjectReport, Tells_Why_There_Is_No_Model_Input_And_How_Much_Is_Shown) {
+  const auto record = Sound();
+  EXPECT_EQ(Chapter_Of(Project_Report(*record, kFacts),
+                       "The model input can't be written: Subscript out of range."),
+            "");
+  record->NOPENS = 16;
+  const Report_Document report = Project_Report(*record, kFacts);
+  EXPECT_EQ(Chapter_Of(report, "The model input can't be written: Subscript out of range."),
+            "Check of the Data");
+  EXPECT_EQ(Chapter_Of(report, "6 of 16 shown."), "Disposal Operation");
+}
+
+TEST(ProjectReport, A_Pipelines_Report_Has_What_Its_Model_Input_Has) {
+  const auto record = Sound();
+  record->DisposalMethod = kContinuous;
+  record->KEY2 = kDiffusion;
+  record->VesselSpeed = 0;
+  record->BulkDensity = 1.25;
+  record->RHDA0 = 0.005;
+  const Report_Document report = Project_Report(*record, kFacts);
+  EXPECT_EQ(Value_Of(report, "Simulation Type"), "Descent, Collapse and Diffusion, Vessel at Rest");
+  EXPECT_EQ(Chapter_Of(report, "Bulk Density of the Material"), "Material Description");
+  EXPECT_EQ(Chapter_Of(report,
+                       "Roughness Height (ft) at Bottom in X-Direction (Typically from 0.0005 to "
+                       "0.05 ft)"),
+            "");
+  EXPECT_EQ(Chapter_Of(report,
+                       "Roughness Height at Bottom in X-Direction (Typically from 0.0005 to 0.05 "
+                       "ft)"),
+            "Kept in the Project File, Not Used");
+}
+
 TEST(ProjectReport, All_Findings_Are_Told_With_Their_Texts) {
   const auto record = Sound();
   const Error_List none = Check_Data(*record);
@@ -184,6 +285,14 @@ TEST(ProjectReport, Grids_Are_In_Blocks_At_The_End) {
   EXPECT_EQ(last->rows.size(), 20u);
   EXPECT_EQ(last->rows.front().cells[0], "Row 1");
   EXPECT_EQ(last->rows.front().cells[1], "30.5");
+}
+
+TEST(ProjectReport, The_Bottom_Of_A_Variable_Grid_Is_Its_Deepest_Point) {
+  constexpr char kWords[] = "The bottom in the picture is that of the deepest grid point.";
+  const auto record = Sound();
+  EXPECT_EQ(Chapter_Of(Project_Report(*record, kFacts), kWords), "");
+  record->ConstantDepthFlag = 0;
+  EXPECT_EQ(Chapter_Of(Project_Report(*record, kFacts), kWords), "Water Density Profile");
 }
 
 TEST(ProjectReport, A_Grid_That_Is_Not_Square_Comes_With_What_The_Solver_Gets_Of_It) {

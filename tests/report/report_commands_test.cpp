@@ -45,6 +45,12 @@ class ReportCommands : public ::testing::Test {
     dialogs.printer = [this](const std::string& title, int pages) {
       print_title_ = title;
       pages_ = pages;
+      offered_ = Session_Printer().outputFileName().toStdString();
+      if (!print_file_.empty()) {
+        Session_Printer().setOutputFileName(QString::fromStdString(print_file_));
+      }
+      Session_Printer().setFromTo(first_, last_);
+      if (last_page_first_) Session_Printer().setPageOrder(QPrinter::LastPageFirst);
       return prints_;
     };
     former_ = Set_File_Dialog_Presenter(dialogs);
@@ -67,7 +73,9 @@ class ReportCommands : public ::testing::Test {
   std::optional<std::string> chosen_;
   File_Request asked_;
   bool prints_ = true;
-  int pages_ = 0;
+  int pages_ = 0, first_ = 0, last_ = 0;
+  bool last_page_first_ = false;
+  std::string print_file_, offered_;
   std::string print_title_;
   File_Dialog_Presenter former_;
 };
@@ -150,9 +158,10 @@ TEST_F(ReportCommands, A_List_Of_Dilutions_Has_No_Project_Report) {
 TEST_F(ReportCommands, Print_Prints_The_Report_On_The_Sessions_Printer) {
   Open_Sample();
   Session_Printer().setOutputFormat(QPrinter::PdfFormat);
-  Session_Printer().setOutputFileName(QString::fromStdString(bench_.folder / "printed.pdf"));
+  print_file_ = bench_.folder / "printed.pdf";
   bench_.Action("mnuFileItem(7)")->trigger();
   EXPECT_EQ(print_title_, "Print Project Report");
+  EXPECT_EQ(Note(), "Project report printed.");
   EXPECT_GT(pages_, 3);
   EXPECT_EQ(Pages_Of_Pdf(Read_Text(bench_.folder / "printed.pdf")), pages_);
 }
@@ -160,8 +169,9 @@ TEST_F(ReportCommands, Print_Prints_The_Report_On_The_Sessions_Printer) {
 TEST_F(ReportCommands, A_Range_Of_Pages_Is_Printed_Alone) {
   Open_Sample();
   Session_Printer().setOutputFormat(QPrinter::PdfFormat);
-  Session_Printer().setOutputFileName(QString::fromStdString(bench_.folder / "printed.pdf"));
-  Session_Printer().setFromTo(2, 3);
+  print_file_ = bench_.folder / "printed.pdf";
+  first_ = 2;
+  last_ = 3;
   Print_Project_Report(Project());
   EXPECT_EQ(Pages_Of_Pdf(Read_Text(bench_.folder / "printed.pdf")), 2);
 }
@@ -169,9 +179,53 @@ TEST_F(ReportCommands, A_Range_Of_Pages_Is_Printed_Alone) {
 TEST_F(ReportCommands, A_Print_That_Is_Cancelled_Writes_Nothing) {
   Open_Sample();
   prints_ = false;
-  Session_Printer().setOutputFileName(QString::fromStdString(bench_.folder / "printed.pdf"));
+  print_file_ = bench_.folder / "printed.pdf";
   bench_.Action("mnuFileItem(7)")->trigger();
   EXPECT_FALSE(Exists(bench_.folder / "printed.pdf"));
+}
+
+TEST_F(ReportCommands, The_Last_Page_Comes_First_Where_That_Is_Chosen) {
+  Open_Sample();
+  Session_Printer().setOutputFormat(QPrinter::PdfFormat);
+  const auto printed = [&] {
+    print_file_ = bench_.folder / (last_page_first_ ? "back.pdf" : "forth.pdf");
+    Print_Project_Report(Project());
+    return Read_Text(print_file_);
+  };
+  const std::string forth = printed();
+  last_page_first_ = true;
+  const std::string back = printed();
+  EXPECT_EQ(Pages_Of_Pdf(back), Pages_Of_Pdf(forth));
+  EXPECT_NE(back, forth);
+}
+
+TEST_F(ReportCommands, A_Print_To_A_File_Is_Offered_Beside_Its_Project) {
+  Session_Printer().setOutputFormat(QPrinter::PdfFormat);
+  Session_Printer().setOutputFileName("/elsewhere/former.pdf");
+  Open_Sample();
+  Print_Project_Report(Project());
+  EXPECT_EQ(offered_, bench_.folder / "Section_404_Zid.pdf");
+  EXPECT_TRUE(Exists(offered_));
+}
+
+TEST_F(ReportCommands, No_Report_Goes_Over_A_Project) {
+  Open_Sample();
+  const std::string project = Project().ProjectFileName, before = Read_Text(project);
+  std::filesystem::create_symlink(project, bench_.folder / "link.pdf");
+  Session_Printer().setOutputFormat(QPrinter::PdfFormat);
+  Scripted_Messages messages({Answer::Ok, Answer::Ok, Answer::Ok});
+  print_file_ = project;
+  Print_Project_Report(Project());
+  print_file_ = bench_.folder / "link.pdf";
+  Print_Project_Report(Project());
+  chosen_ = bench_.folder / "link.pdf";
+  Save_Project_Report(Project());
+  ASSERT_EQ(messages.shown.size(), 3u);
+  EXPECT_EQ(messages.shown[0].text,
+            "The report was not saved as " + project +
+                ": it is a project file.\nA file that was there before is unchanged.");
+  EXPECT_EQ(Write_Report_Pdf(project, bench_.folder / "link.pdf"), 2);
+  EXPECT_TRUE(Read_Text(project) == before);
 }
 
 TEST_F(ReportCommands, The_Paper_Of_Print_Setup_Counts_For_A_Pdf) {

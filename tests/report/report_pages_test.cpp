@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "report/report_blocks.h"
+
 namespace barvon {
 namespace {
 
@@ -86,6 +88,77 @@ TEST(ReportPages, Nothing_Leaves_The_Paper_Between_Its_Margins) {
         }
       }
     }
+  }
+}
+
+/// No text of a page is beside the paper's margins, by the measure of its letters.
+void Expect_On_The_Paper(const std::vector<Shape_List>& pages, double left, double right) {
+  for (const Shape_List& page : pages) {
+    for (const Shape& shape : page.shapes) {
+      const auto* text = std::get_if<Text_Shape>(&shape);
+      if (text == nullptr || text->upwards) continue;
+      const double width = Wide_Letters(text->text, text->size, text->bold);
+      const double part = text->anchor == Anchor::start ? 0 : text->anchor == Anchor::end ? 1 : 0.5;
+      EXPECT_GE(text->place.x - part * width, left - 0.1) << text->text;
+      EXPECT_LE(text->place.x + (1 - part) * width, right + 0.1) << text->text;
+    }
+  }
+}
+
+TEST(ReportPages, Nothing_Leaves_The_Paper_However_Long_It_Is) {
+  const std::string word(300, '9');
+  Report_Document report = {word, word, word, "today", {}};
+  report.parts.emplace_back(Report_Heading{1, word});
+  report.parts.emplace_back(Report_Paragraph{"Words and " + word});
+  Report_Table values{Table_Kind::values, "", {{}, {"", true}, {}}, {}};
+  values.rows.push_back({{word, "-1.23456789012345E+300", "cu yd"}});
+  values.rows.push_back({{"Label", word}});
+  report.parts.emplace_back(values);
+  for (const Table_Kind kind : {Table_Kind::plain, Table_Kind::grid}) {
+    Report_Table table{kind, "", {}, {}};
+    Report_Row row;
+    for (int i = 0; i < 9; ++i) {
+      table.columns.push_back({"Specific\nGravity", true});
+      row.cells.emplace_back("-1.23456789012345E+300");
+    }
+    table.rows = {row, row};
+    report.parts.emplace_back(table);
+  }
+  Expect_On_The_Paper(Report_Pages(report), 54, 558);
+}
+
+TEST(ReportPages, Words_Below_A_Heading_Are_With_It_And_With_What_Follows) {
+  for (int above = 20; above < 80; ++above) {
+    Report_Document report = Empty_Report();
+    report.parts.emplace_back(Long_Table(above));
+    report.parts.emplace_back(Report_Heading{1, "Next chapter"});
+    report.parts.emplace_back(Report_Paragraph{"Words."});
+    report.parts.emplace_back(Report_Picture{Picture(300)});
+    const auto pages = Report_Pages(report);
+    EXPECT_EQ(Page_Of(pages, "Next chapter"), Page_Of(pages, "A picture")) << above;
+    EXPECT_EQ(Page_Of(pages, "Words."), Page_Of(pages, "A picture")) << above;
+  }
+}
+
+TEST(ReportPages, Joined_Groups_Are_On_One_Page_And_No_Page_Has_Three_Rows_Of_A_Table) {
+  for (int above = 20; above < 70; ++above) {
+    Report_Document report = Empty_Report();
+    Report_Table values{Table_Kind::values, "", {{}, {"", true}, {}}, {}};
+    for (int i = 1; i <= above; ++i) {
+      values.rows.push_back({{"Value " + std::to_string(i), "1", "ft"}});
+    }
+    for (const bool second : {false, true}) {
+      values.rows.push_back({{second ? "Lower" : "Upper"}, true, false, second});
+      values.rows.push_back({{"Top", "1", "ft"}, false, true});
+      values.rows.push_back({{"Left", "2", "ft"}, false, true});
+    }
+    report.parts.emplace_back(values);
+    EXPECT_EQ(Page_Of(Report_Pages(report), "Upper"), Page_Of(Report_Pages(report), "Lower"));
+    Report_Document rows = Empty_Report();
+    rows.parts.emplace_back(Long_Table(above));
+    const auto pages = Report_Pages(rows);
+    EXPECT_EQ(Page_Of(pages, "Row " + std::to_string(above)),
+              Page_Of(pages, "Row " + std::to_string(above - 3)));
   }
 }
 

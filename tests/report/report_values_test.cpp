@@ -22,7 +22,16 @@
 namespace barvon::testing {
 namespace {
 
-constexpr char kChecks[] = "Check of the Data";
+/// What follows from the values, and what the model input does not hold.
+const std::set<std::string> kOtherChapters = {"Check of the Data", "As the Solver Gets It",
+                                              "Kept in the Project File, Not Used"};
+
+/// Told for what follows from them, or as what is studied.
+const std::set<std::string> kSources = {"AnalysisType",      "DensityComputeFlag",
+                                        "DensitySalinities", "DensityTemperatures",
+                                        "SiteSalinity",      "SiteTemperature",
+                                        "TidalStartTime",    "TidalVelX",
+                                        "TidalVelZ",         "KEY4"};
 
 /// What a choice or a count changes beside itself is not counted.
 const std::set<std::string> kChoices = {"DisposalMethod",
@@ -38,7 +47,8 @@ const std::set<std::string> kChoices = {"DisposalMethod",
                                         "LAYERS",
                                         "NOPENS",
                                         "SeparationFlag",
-                                        "VelocityProfileType"};
+                                        "VelocityProfileType",
+                                        "ZidFlag"};
 
 /// What is no value of the project: the tag of the file that is written.
 const std::set<std::string> kOfTheFile = {"FileTypeTag"};
@@ -66,7 +76,7 @@ std::string Model_Of(const ProjectRecord& record) {
 }
 
 std::multiset<std::string> Told(const ProjectRecord& record) {
-  return Cells_Of(Project_Report(record, {"a.DUI", "then", true, "now"}), kChecks);
+  return Cells_Of(Project_Report(record, {"a.DUI", "then", true, "now"}), kOtherChapters);
 }
 
 /// A value that nothing in the report has yet.
@@ -81,6 +91,8 @@ double Other_Value(const Record_Field& field, const ProjectRecord& record, int i
 std::size_t Expected_Cells(const std::string& name, int i, const ProjectRecord& record) {
   // A spacing, and the dimension of the grid that follows from it.
   if (name == "DX0" || name == "DZ0") return 2;
+  // A speed, and whether the vessel is at rest.
+  if (name == "VesselSpeed" && record.VesselSpeed == 0) return 2;
   // A fraction heads a row of the layers' composition too.
   const bool separated = record.DisposalMethod == kBarge && record.SeparationFlag != 0;
   if (name == "SolidNames" && i <= kMaxSolids && separated) return 2;
@@ -120,6 +132,84 @@ TEST_P(ReportValues, Every_Value_That_Goes_Into_The_Model_Is_Told_Once) {
     }
   }
   EXPECT_GT(values, 50);
+}
+
+/// Whether some other value of the field makes another model input: a small change may leave a
+/// grid point or a column of figures as it was.
+bool Counts_In_The_Model(const Record_Field& field, const ProjectRecord& record, int i, int j) {
+  const std::string model = Model_Of(record);
+  const double value = field.number(record, i, j);
+  const auto changed = std::make_unique<ProjectRecord>(record);
+  for (const double other :
+       {Other_Value(field, record, i, j), value + 1000, value + 4 * record.DX0, value / 2, 0.0}) {
+    *changed = record;
+    field.set(*changed, i, j, other);
+    std::string text;
+    if (Make_Model_Input(*changed, text) != Failure::None || text != model) return true;
+  }
+  return false;
+}
+
+void Expect_To_Be_In_The_Model(const ProjectRecord& record, const std::string& which) {
+  const std::multiset<std::string> told = Told(record);
+  const auto changed = std::make_unique<ProjectRecord>(record);
+  for (const Record_Field& field : Record_Fields()) {
+    const std::string name = field.name;
+    if (kSources.contains(name) || kChoices.contains(name)) continue;
+    if (name.starts_with("Wizard")) continue;
+    if (name == "RealSlots" || name == "IntSlots" || name.starts_with("Dilute")) continue;
+    const int i = field.count > 0 ? 1 : 0, j = field.across > 0 ? 1 : 0;
+    *changed = record;
+    field.set(*changed, i, j, Other_Value(field, record, i, j));
+    if (Told(*changed) == told) continue;
+    EXPECT_TRUE(Counts_In_The_Model(field, record, i, j)) << which << " " << name;
+  }
+}
+
+TEST_P(ReportValues, What_Is_Told_As_In_The_Model_Input_Is_In_It) {
+  Expect_To_Be_In_The_Model(*Sample(GetParam()), GetParam());
+}
+
+// The lines of the fluid are others for each evaluation and each method.
+TEST(ReportVariants, Each_Evaluation_Of_Each_Method_Tells_What_Its_Model_Input_Has) {
+  const auto record = Sample("Section_404_Zid.DUI");
+  record->NOPENS = record->LAYERS = 2;
+  // Room for the corners to move.
+  record->MMAX0 = record->NMAX0 = 16;
+  record->DX0 = record->DZ0 = 100;
+  record->SiteTop = record->SiteLeft = 400;
+  record->SiteBottom = record->SiteRight = 800;
+  record->TracerConcentration = 11;
+  record->BackgroundConcentration = 12;
+  record->CriterionConcentration = 13;
+  record->SedimentConcentration = 14;
+  record->ToxicityDilution = 15;
+  record->ZidToxicityDilution = 16;
+  record->ZCRIT = 17;
+  const std::set<std::string> fluid = {"TracerConcentration",
+                                       "BackgroundConcentration",
+                                       "CriterionConcentration",
+                                       "SedimentConcentration",
+                                       "ToxicityDilution",
+                                       "ZidToxicityDilution",
+                                       "ZCRIT"};
+  for (const std::int16_t method : {kHopper, kContinuous, kBarge}) {
+    for (std::int16_t key3 = 0; key3 <= 8; ++key3) {
+      record->DisposalMethod = method;
+      record->KEY3 = key3;
+      const std::string which = std::to_string(method) + ", " + std::to_string(key3);
+      Expect_To_Be_In_The_Model(*record, which);
+      const std::string model = Model_Of(*record);
+      const std::multiset<std::string> told = Told(*record);
+      for (const Record_Field& field : Record_Fields()) {
+        if (!fluid.contains(field.name)) continue;
+        const auto changed = std::make_unique<ProjectRecord>(*record);
+        field.set(*changed, 0, 0, Other_Value(field, *record, 0, 0));
+        EXPECT_EQ(Told(*changed) != told, Model_Of(*changed) != model)
+            << which << " " << field.name;
+      }
+    }
+  }
 }
 
 TEST_P(ReportValues, Choices_And_Counts_Are_Told_By_What_They_Show) {

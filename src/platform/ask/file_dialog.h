@@ -20,9 +20,12 @@ struct File_Request {
   /// The path that a chosen one stands for, when a rule adds something to it: the save dialog
   /// asks before that one is replaced. May be empty.
   std::function<std::string(const std::string&)> complete = {};
-  /// Whether a name without an extension gets the one of the filter that is chosen, where that has
+  /// Whether a name without any extension gets the one of the filter that is chosen, where that has
   /// one.
   bool add_extension = false;
+  /// Whether a name that has none of the filters' endings, though perhaps another one, gets that of
+  /// the chosen filter.
+  bool adds_ending = false;
 };
 
 /// What shows the dialogs. Each returns the full path that was chosen, nothing on Cancel.

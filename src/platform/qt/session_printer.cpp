@@ -29,6 +29,12 @@ QPrinter& Session_Printer() {
   return *printer;
 }
 
+void Offer_Print_File(const std::string& path) {
+  QPrinter& printer = Session_Printer();
+  if (printer.outputFormat() != QPrinter::PdfFormat) return;
+  printer.setOutputFileName(QString::fromStdString(path));
+}
+
 void Forget_Session_Printer() { The_Printer().reset(); }
 
 }  // namespace barvon

@@ -32,7 +32,9 @@ constexpr QSize kSize(680, 440);
 class File_Dialog : public QFileDialog {
  public:
   File_Dialog(const File_Request& request, AcceptMode mode)
-      : QFileDialog(Window_In_Front()), complete_(request.complete) {
+      : QFileDialog(Window_In_Front()),
+        complete_(request.complete),
+        adds_ending_(request.adds_ending) {
     // The toolkit's own dialog: the desktop's would match "*.DUI" by case.
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
@@ -64,7 +66,7 @@ class File_Dialog : public QFileDialog {
   std::optional<std::string> Ask() {
     if (exec() != Accepted || selectedFiles().isEmpty()) return std::nullopt;
     last_folder_ = directory().absolutePath();
-    return selectedFiles().constFirst().toStdString();
+    return Chosen().toStdString();
   }
 
   void accept() override {
@@ -118,7 +120,7 @@ class File_Dialog : public QFileDialog {
   bool May_Be_Written() {
     const QStringList files = selectedFiles();
     if (files.isEmpty() || QFileInfo(files.constFirst()).isDir()) return true;
-    std::string path = files.constFirst().toStdString();
+    std::string path = Chosen().toStdString();
     if (complete_) path = complete_(path);
     const QString existing = Existing_File(QString::fromStdString(path));
     if (existing.isEmpty()) return true;
@@ -132,7 +134,20 @@ class File_Dialog : public QFileDialog {
     return box.exec() == QMessageBox::Yes;
   }
 
+  /// The file that is chosen, with the ending of the kind that is chosen when it has none of them.
+  QString Chosen() const {
+    QString path = selectedFiles().constFirst();
+    if (!adds_ending_) return path;
+    QString wanted;
+    for (const QString& suffix : suffixes_) {
+      if (path.endsWith(suffix, Qt::CaseInsensitive)) return path;
+      if (selectedNameFilter().contains(suffix)) wanted = suffix;
+    }
+    return path + wanted;
+  }
+
   std::function<std::string(const std::string&)> complete_;
+  bool adds_ending_ = false;
   QStringList suffixes_;  // of the filters, when there are several to save by
   inline static QString last_folder_;
 };
@@ -154,9 +169,10 @@ void Show_Qt_Printer_Setup() {
 
 bool Ask_Qt_Printer(const std::string& title, int pages) {
   QPrinter& printer = Session_Printer();
-  // A range is for one print: of the next text it would leave pages out.
+  // A range and an order are for one print: of the next text the range would leave pages out.
   printer.setPrintRange(QPrinter::AllPages);
   printer.setFromTo(0, 0);
+  printer.setPageOrder(QPrinter::FirstPageFirst);
   QPrintDialog dialog(&printer, Window_In_Front());
   dialog.setWindowTitle(QString::fromStdString(title));
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |

@@ -127,6 +127,27 @@ TEST(SaveDialog, A_Bare_Name_Gets_The_Extension_Of_The_Kind_That_Is_Chosen) {
   EXPECT_EQ(replies.seen.at(0).text, "there.txt already exists.\nDo you want to replace it?");
 }
 
+TEST(SaveDialog, A_Name_Without_Ending_Is_Of_The_Kind_That_Is_Chosen) {
+  Scratch_Folder folder;
+  File_Request request{
+      "", {{"PDF Documents (*.pdf)", "*.pdf"}, {"Web Pages (*.html)", "*.html"}}, folder.path()};
+  const auto choose = [](const char* name, int kind) {
+    return [=](QWidget* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      files->selectNameFilter(files->nameFilters().at(kind));
+      Choose(name)(dialog);
+    };
+  };
+  Modal_Replies replies(
+      {choose("bay", 1), choose("my.bay", 0), choose("bay.PDF", 1), choose("plain", 1)});
+  request.adds_ending = true;
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "bay.html");
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "my.bay.pdf");
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "bay.PDF");
+  request.adds_ending = false;
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "plain");
+}
+
 TEST(SaveDialog, Offers_The_Name_It_Was_Given) {
   Scratch_Folder folder;
   QString offered;
