@@ -141,16 +141,7 @@ std::optional<Kept_Concentration> Find_Concentration(Dilution_Tab tab, const Edi
 
 /// One parameter is called something else now, or has got its name.
 void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
-  if (row.name.empty()) {
-    // What the name has fetched goes with it, to where an undo may bring it back.
-    if (const int home = grids.notes[tab][At(row.row)].lent_by; home != 0) {
-      Kept_Concentration lifted = Lift(tab, row, grids);
-      lifted.row = home;
-      lifted.note.lent_by = 0;
-      Keep(std::move(lifted), tab, grids);
-    }
-    return;
-  }
+  if (row.name.empty()) return;
   if (Holds_Concentration(tab, row.row, grids)) {
     Concentration_Note& note = grids.notes[tab][At(row.row)];
     if (!note.names.empty()) note.names.insert(row.name);
@@ -298,12 +289,14 @@ bool Give_Kept_To_Who_Awaits(Dilution_Tab tab, Dilution_Grids& grids) {
   return given;
 }
 
-/// A concentration that stands alone is nobody's until it is read under a name.
+/// A concentration that stands alone is nobody's until it is read under a name; but what a name has
+/// fetched from another row may go back there.
 void Forget_Names_Of_Lone_Ones(const std::vector<Edited_Row>& rows, Dilution_Grids& grids) {
   for (const Dilution_Tab tab : kTabs) {
     for (const Edited_Row& row : rows) {
-      if (row.name.empty() && !Row_Is_Filled(grids(Other_Tab(tab)), row.row)) {
-        grids.notes[tab][At(row.row)].names.clear();
+      Concentration_Note& note = grids.notes[tab][At(row.row)];
+      if (row.name.empty() && note.lent_by == 0 && !Row_Is_Filled(grids(Other_Tab(tab)), row.row)) {
+        note.names.clear();
       }
     }
   }

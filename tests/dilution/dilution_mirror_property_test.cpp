@@ -14,7 +14,7 @@
 namespace barvon::testing {
 namespace {
 
-constexpr int kRows = 9, kSequences = 500, kEdits = 90;
+constexpr int kRows = 9, kSequences = 40, kEdits = 90;
 
 /// A concentration as a person thinks of it: a text, and all that was ever entered for it.
 struct Held {

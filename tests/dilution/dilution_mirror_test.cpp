@@ -255,9 +255,9 @@ TEST_F(DilutionMirror, What_A_Typed_Name_Has_Fetched_Goes_Back_With_An_Undo) {
   Enter(kBulkTab, 6, 1, {{"007"}});
   EXPECT_EQ(elutriate.TextRC(6, 2), "5");
   Undo(kBulkTab);
-  EXPECT_EQ(elutriate.TextRC(6, 2), "");
   Undo(kBulkTab);
   EXPECT_EQ(Row(kElutriateTab, 2), (Names{"007", "5", "0", "0"}));
+  EXPECT_EQ(elutriate.TextRC(6, 2), "");
 }
 
 TEST_F(DilutionMirror, The_Other_Tabs_History_Ends_Where_Rows_Have_Become_Others) {
