@@ -167,8 +167,14 @@ void Report_Site(Report_Maker& report) {
   }
   report.Shown_Of(Points(record.NMAX0), record.NMAX0);
   report.Shown_Of(Points(record.MMAX0), record.MMAX0);
-  const Plan plan = Draw_Site(Plan_Of_Site(record));
+  const Site_Plan site = Plan_Of_Site(record);
+  const Plan plan = Draw_Site(site);
   report.Picture(With_Note(Plan_Shapes(plan, kReportMap), plan.note));
+  if (site.disposal_point) {
+    report.Paragraph(Has_Vessel(record)
+                         ? "The red point is the disposal point; the outline at it is the vessel."
+                         : "The red point is the disposal point.");
+  }
   if (!Has_Variable_Depth(record)) return;
   Spreadsheet_Table depths(kBookNumbers);
   Fill_Depths(record, depths);

@@ -14,6 +14,7 @@
 #include "core/velocity_types.h"
 #include "platform/files/paths.h"
 #include "report/report_cells.h"
+#include "report/report_html.h"
 #include "report/report_rows.h"
 #include "support/plain_support.h"
 
@@ -264,6 +265,9 @@ TEST(ProjectReport, Shows_The_Pictures_That_Apply) {
   using Titles = std::vector<std::string>;
   EXPECT_EQ(Pictures_Of(Project_Report(*record, kFacts)),
             (Titles{"Site plan", "Water density against depth", "Time line of the simulation"}));
+  EXPECT_NE(Report_Html(Project_Report(*record, kFacts))
+                .find("The red point is the disposal point; the outline at it is the vessel."),
+            std::string::npos);
   record->DisposalMethod = kBarge;
   record->VelocityProfileType = kTwoPointVelocity;
   const Titles barge = Pictures_Of(Project_Report(*record, kFacts));
