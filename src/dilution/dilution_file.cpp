@@ -49,7 +49,7 @@ std::vector<std::string> Forms_Of(const Decimal_Digits& decimal) {
   // With less of the rest there is room for more digits.
   if (!bare.empty()) forms.push_back(bare);
   forms.push_back(decimal.digits + "E" + std::to_string(decimal.exponent - digits));
-  for (std::string& form : forms) form = sign + form;
+  for (std::string& form : forms) form.insert(0, sign);
   return forms;
 }
 

@@ -93,7 +93,7 @@ std::string Shortened(const std::string& text, double size, double room) {
   const std::size_t letters = starts.size() - 1;
   for (std::size_t kept = letters; kept-- > 1;) {
     const std::size_t behind = kept / 2;
-    const std::string part =
+    std::string part =
         text.substr(0, starts[kept - behind]) + "..." + text.substr(starts[letters - behind]);
     if (Text_Width(part, size) <= room) return part;
   }
