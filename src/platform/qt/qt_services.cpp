@@ -9,6 +9,7 @@
 
 #include "platform/qt/ask/qt_file_dialog.h"
 #include "platform/qt/ask/qt_message_box.h"
+#include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/qt_document_opener.h"
 
@@ -58,6 +59,7 @@ void Pump_Qt_Events(std::chrono::milliseconds longest, int descriptor) {
 }
 
 Qt_Services::Qt_Services() {
+  Follow_Windows_In_Front();
   messages_ = Set_Message_Presenter(Show_Qt_Message);
   file_dialogs_ = Set_File_Dialog_Presenter(
       {Ask_Qt_Open_File, Ask_Qt_Save_File, Show_Qt_Printer_Setup, Ask_Qt_Printer});

@@ -10,7 +10,7 @@
 #include <QPrinter>
 #include <QTreeView>
 
-#include "platform/qt/ask/qt_message_box.h"
+#include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/session_printer.h"
 
 namespace barvon {

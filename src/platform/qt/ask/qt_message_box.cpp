@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <vector>
 
+#include "platform/qt/ask/window_in_front.h"
+
 namespace barvon {
 namespace {
 
@@ -62,15 +64,6 @@ void Make_Room_For_Title(QMessageBox& box) {
 }
 
 }  // namespace
-
-QWidget* Window_In_Front() {
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->windowType() == Qt::Window) return window;
-  }
-  return nullptr;
-}
 
 Answer Show_Qt_Message(const Message& message) {
   QMessageBox box(Window_In_Front());

@@ -10,7 +10,4 @@ namespace barvon {
 /// box or Escape is Answer_On_Close.
 Answer Show_Qt_Message(const Message& message);
 
-/// The window that a box or dialog belongs to: the one in front.
-QWidget* Window_In_Front();
-
 }  // namespace barvon
