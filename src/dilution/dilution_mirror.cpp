@@ -1,34 +1,15 @@
 #include "dilution/dilution_mirror.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
-#include "core/text_tools.h"
-#include "dilution/dilution_file.h"
 #include "dilution/dilution_grid.h"
+#include "dilution/kept_concentrations.h"
 
 namespace barvon {
 namespace {
 
 std::size_t At(int row) { return static_cast<std::size_t>(row); }
-
-/// Blanks around a name are not seen.
-bool Are_Equal(std::string_view one, std::string_view other) {
-  return Trimmed(one) == Trimmed(other);
-}
-
-/// Whether one of two names is as much of the other as a file keeps.
-bool Is_One_Cut(std::string_view one, std::string_view other) {
-  const std::string a = Trimmed(one), b = Trimmed(other);
-  const std::string &cut = a.size() < b.size() ? a : b, &whole = a.size() < b.size() ? b : a;
-  return cut != whole && Character_Count(cut) == std::size_t{kDilutionNameLength} &&
-         whole.starts_with(cut);
-}
-
-bool Holds(const std::set<std::string>& names, const std::string& name) {
-  return std::ranges::any_of(names, [&](const std::string& each) { return Are_Equal(each, name); });
-}
 
 /// A row of an edit, with the name that it had before.
 struct Edited_Row {
@@ -36,7 +17,7 @@ struct Edited_Row {
   std::string former, name;
   bool emptied = false;
   /// A list that was saved and is pasted anew has the same names, though the file has cut them.
-  bool is_renamed() const { return !Are_Equal(name, former) && !Is_One_Cut(name, former); }
+  bool is_renamed() const { return !Are_Same_Name(name, former) && !Is_One_Cut(name, former); }
 };
 
 /// The other table still shows the former names. A row of which only the name goes is not emptied.
@@ -52,47 +33,6 @@ std::vector<Edited_Row> Rows_Of_Edit(Dilution_Tab tab, const Cell_Range& range,
   return rows;
 }
 
-/// A number 0 is that of a cell that nobody has filled.
-bool Is_Entered(const Cell_Value& shown) {
-  const auto* number = std::get_if<double>(&shown);
-  return number != nullptr ? *number != 0 : !std::holds_alternative<std::monostate>(shown);
-}
-
-bool Holds_Concentration(Dilution_Tab tab, int row, const Dilution_Grids& grids) {
-  return Is_Entered(grids(tab).ValueRC(row, kConcentrationColumn));
-}
-
-Kept_Concentration Lift(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
-  Spreadsheet_Table& table = grids(tab);
-  Kept_Concentration lifted{row.former, row.row, table.ValueRC(row.row, kConcentrationColumn),
-                            std::exchange(grids.notes[tab][At(row.row)], {})};
-  table.ValueRC(row.row, kConcentrationColumn, {});
-  return lifted;
-}
-
-void Put(const Kept_Concentration& lifted, Dilution_Tab tab, int row, Dilution_Grids& grids) {
-  grids(tab).ValueRC(row, kConcentrationColumn, lifted.shown);
-  grids.notes[tab][At(row)] = lifted.note;
-}
-
-void Keep(Kept_Concentration lifted, Dilution_Tab tab, Dilution_Grids& grids) {
-  if (Is_Entered(lifted.shown)) grids.kept[tab].push_back(std::move(lifted));
-}
-
-bool Belongs_To(const Kept_Concentration& kept, const std::string& name) {
-  return Are_Equal(kept.name, name) || (kept.name.empty() && Holds(kept.note.names, name));
-}
-
-template <class Fits>
-std::optional<Kept_Concentration> Take_Last(std::vector<Kept_Concentration>& from,
-                                            const Fits& fits) {
-  const auto found = std::find_if(from.rbegin(), from.rend(), fits);
-  if (found == from.rend()) return std::nullopt;
-  Kept_Concentration taken = std::move(*found);
-  from.erase(std::next(found).base());
-  return taken;
-}
-
 template <class Fits>
 std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& from,
                                              const Fits& fits) {
@@ -103,42 +43,6 @@ std::optional<Kept_Concentration> Take_First(std::vector<Kept_Concentration>& fr
   return taken;
 }
 
-/// What is kept for the name: what has left this very row, or else any. The latest is what counts.
-/// A name that the file has cut is taken for its whole where it can be no other's.
-std::optional<Kept_Concentration> Take_Kept(Dilution_Tab tab, int row, const std::string& name,
-                                            Dilution_Grids& grids) {
-  auto& kept = grids.kept[tab];
-  auto found = Take_Last(kept, [&](const Kept_Concentration& each) {
-    return each.row == row && Belongs_To(each, name);
-  });
-  if (found || name.empty()) return found;
-  found = Take_Last(kept, [&](const Kept_Concentration& each) { return Belongs_To(each, name); });
-  const auto is_cut = [&](const Kept_Concentration& each) { return Is_One_Cut(each.name, name); };
-  if (!found && std::ranges::count_if(kept, is_cut) == 1) found = Take_Last(kept, is_cut);
-  if (found) found->note.lent_by = found->row;
-  return found;
-}
-
-/// What went from the row to another one that awaited it: an undo has brought the name back.
-std::optional<Kept_Concentration> Take_Back(Dilution_Tab tab, const Edited_Row& row,
-                                            Dilution_Grids& grids) {
-  for (int from = 1; from <= kMaxDilutionRows; ++from) {
-    const Concentration_Note& note = grids.notes[tab][At(from)];
-    if (note.lent_by != row.row || !Holds(note.names, row.name)) continue;
-    Kept_Concentration taken = Lift(tab, {from, row.name, row.name}, grids);
-    grids.notes[tab][At(from)].awaits = true;
-    taken.note.lent_by = 0;
-    return taken;
-  }
-  return std::nullopt;
-}
-
-std::optional<Kept_Concentration> Find_Concentration(Dilution_Tab tab, const Edited_Row& row,
-                                                     Dilution_Grids& grids) {
-  auto found = Take_Kept(tab, row.row, row.name, grids);
-  return found || row.name.empty() ? found : Take_Back(tab, row, grids);
-}
-
 /// One parameter is called something else now, or has got its name.
 void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids) {
   if (row.name.empty()) return;
@@ -147,7 +51,7 @@ void Follow_Name(Dilution_Tab tab, const Edited_Row& row, Dilution_Grids& grids)
     if (!note.names.empty()) note.names.insert(row.name);
     return;
   }
-  const auto found = Find_Concentration(tab, row, grids);
+  const auto found = Find_Concentration(tab, row.row, row.name, grids);
   if (found) Put(*found, tab, row.row, grids);
   Concentration_Note& note = grids.notes[tab][At(row.row)];
   if (found) note.names.insert(row.name);
@@ -160,7 +64,7 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   // Those with the name that they had too: of two rows of one name it may be the other's turn.
   for (const Edited_Row& row : rows) {
     if (row.former.empty() && row.name.empty()) continue;
-    lifted.push_back(Lift(tab, row, grids));
+    lifted.push_back(Lift(tab, row.row, row.former, grids));
     open.push_back(row);
   }
   const auto put_each = [&](const auto& find) {
@@ -174,7 +78,7 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   };
   put_each([&](const Edited_Row& row) {
     if (row.name.empty()) return std::optional<Kept_Concentration>();
-    return Take_First(lifted, [&](const auto& each) { return Are_Equal(each.name, row.name); });
+    return Take_First(lifted, [&](const auto& each) { return Are_Same_Name(each.name, row.name); });
   });
   // Names that the file has cut go by their order, where there are as many as there were.
   put_each([&](const Edited_Row& row) {
@@ -192,11 +96,12 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
   });
   put_each([&](const Edited_Row& row) {
     if (row.name.empty()) return std::optional<Kept_Concentration>();
-    return Find_Concentration(tab, row, grids);
+    return Find_Concentration(tab, row.row, row.name, grids);
   });
   // One that was renamed meanwhile, when a paste is undone.
   put_each([&](const Edited_Row& row) {
-    return Take_First(lifted, [&](const auto& each) { return Holds(each.note.names, row.name); });
+    return Take_First(lifted,
+                      [&](const auto& each) { return Holds_Name(each.note.names, row.name); });
   });
   // A row without a name, before or now, keeps its own.
   put_each([&](const Edited_Row& row) {
@@ -204,7 +109,7 @@ void Move_With_Names(Dilution_Tab tab, const std::vector<Edited_Row>& rows, Dilu
       return std::optional<Kept_Concentration>();
     }
     auto found = Take_First(lifted, [&](const auto& each) { return each.row == row.row; });
-    return found || !row.name.empty() ? found : Find_Concentration(tab, row, grids);
+    return found || !row.name.empty() ? found : Find_Concentration(tab, row.row, row.name, grids);
   });
   for (const Edited_Row& row : open) {
     grids.notes[tab][At(row.row)].awaits = !row.name.empty() && row.is_renamed();
@@ -227,7 +132,7 @@ void Follow_In_Other_Tab(Dilution_Tab tab, const std::vector<Edited_Row>& rows, 
   for (const Edited_Row& row : rows) {
     const bool was_alone = grids.notes[tab][At(row.row)].names.empty();
     if (row.emptied && !was_alone && !(are_others && row.is_renamed())) {
-      Keep(Lift(tab, row, grids), tab, grids);
+      Keep(Lift(tab, row.row, row.former, grids), tab, grids);
     }
   }
   if (are_others) return Move_With_Names(tab, rows, grids);
@@ -248,7 +153,7 @@ void Note_Entered(Dilution_Tab tab, const Cell_Range& range, const std::vector<E
       note.lent_by = 0;
       // What is entered for a name, nothing too, is what counts for it.
       std::erase_if(grids.kept[tab], [&](const Kept_Concentration& each) {
-        return !row.name.empty() && Are_Equal(each.name, row.name);
+        return !row.name.empty() && Are_Same_Name(each.name, row.name);
       });
       if (grids(tab).IsEmptyRC(row.row, kConcentrationColumn)) {
         note.names.clear();

@@ -76,7 +76,7 @@ void Save_Project_Report(ProjectRecord& record) {
        .filters = {{"PDF Documents (*.pdf)", "*.pdf"}, {"Web Pages (*.html)", "*.html"}},
        .name = Report_Name(record.ProjectFileName, "pdf"),
        .complete = With_Ending,
-       .adds_ending = true});
+       .ending = Ending::To_Others});
   if (!chosen) return;
   const std::string path = With_Ending(*chosen);
   if (Is_A_Project(path, record)) return Tell_Failure(path, kIsAProject);

@@ -142,7 +142,7 @@ TEST_F(TextDocuments, Save_Without_A_File_Asks_For_Text_And_All_Files) {
   EXPECT_EQ(save_asked_[0].filters[0].pattern, "*.txt");
   EXPECT_EQ(save_asked_[0].filters[1].pattern, "*");
   EXPECT_FALSE(save_asked_[0].complete);
-  EXPECT_TRUE(save_asked_[0].add_extension);
+  EXPECT_EQ(save_asked_[0].ending, Ending::To_Bare_Names);
 }
 
 TEST_F(TextDocuments, Save_As_Offers_The_Texts_Name_And_Refuses_The_Open_Projects) {

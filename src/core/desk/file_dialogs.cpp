@@ -78,7 +78,7 @@ std::optional<std::string> Ask_Text_To_Save(const std::string& name) {
   if (!name.empty() && !Equal_Ignoring_Case(name, With_Extension(name, "txt"))) {
     std::ranges::reverse(request.filters);
   }
-  request.add_extension = true;
+  request.ending = Ending::To_Bare_Names;
   request.name = name;
   const auto chosen = Ask_Save_File(request);
   return chosen && !chosen->empty() ? chosen : std::nullopt;

@@ -13,6 +13,13 @@ struct File_Filter {
   std::string pattern;  // "*.DUD"; matched without regard to case
 };
 
+/// Which names to save under get the ending of the filter that is chosen, where that has one.
+enum class Ending {
+  As_Typed,       // none
+  To_Bare_Names,  // those without any
+  To_Others       // those that have none of the filters'
+};
+
 struct File_Request {
   std::string title;
   std::vector<File_Filter> filters;
@@ -20,12 +27,7 @@ struct File_Request {
   /// The path that a chosen one stands for, when a rule adds something to it: the save dialog
   /// asks before that one is replaced. May be empty.
   std::function<std::string(const std::string&)> complete = {};
-  /// Whether a name without any extension gets the one of the filter that is chosen, where that has
-  /// one.
-  bool add_extension = false;
-  /// Whether a name that has none of the filters' endings, though perhaps another one, gets that of
-  /// the chosen filter.
-  bool adds_ending = false;
+  Ending ending = Ending::As_Typed;
 };
 
 /// What shows the dialogs. Each returns the full path that was chosen, nothing on Cancel.
@@ -44,8 +46,7 @@ std::optional<std::string> Ask_Save_File(const File_Request& request);
 /// Shows the common printer set-up dialog.
 void Show_Printer_Setup();
 /// Asks for the printer and the pages of what is printed; `pages` is 0 where their number shows in
-/// the printing alone. False when the user cancels or no
-/// presenter is in place.
+/// the printing alone. False when the user cancels or no presenter is in place.
 bool Ask_Printer(const std::string& title, int pages);
 
 /// Puts another presenter in place and returns the one that was there.

@@ -1,12 +1,13 @@
 #include "platform/files/file_slices.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
+
+#include "platform/files/regular_file.h"
 
 namespace barvon {
 
@@ -18,17 +19,9 @@ int File_Slices::Open(const std::string& path) {
   if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
   trace_ = {};
   left_ = 0;
-  // A pipe that nobody writes to would be waited for.
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0) return errno;
+  int descriptor = -1;
   struct stat status {};
-  int error = ::fstat(descriptor, &status) == 0 ? 0 : errno;
-  if (error == 0 && S_ISDIR(status.st_mode)) error = EISDIR;
-  if (error == 0 && !S_ISREG(status.st_mode)) error = ENOTSUP;
-  if (error != 0) {
-    ::close(descriptor);
-    return error;
-  }
+  if (const int error = Open_Regular_File(path, descriptor, status); error != 0) return error;
   descriptor_ = descriptor;
   trace_ = Trace_Of(status);
   left_ = trace_.size;

@@ -16,6 +16,7 @@
 
 #include "platform/files/folder_names.h"
 #include "platform/files/paths.h"
+#include "platform/files/regular_file.h"
 
 namespace barvon {
 namespace {
@@ -223,14 +224,12 @@ int Write_Whole_File(const std::string& path, std::string_view bytes) {
 }
 
 int Read_Whole_File(const std::string& path, std::string& bytes) {
-  const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (descriptor < 0) return errno;
+  int descriptor = -1;
   struct stat status {};
-  int error = ::fstat(descriptor, &status) == 0 ? 0 : errno;
-  if (error == 0 && S_ISDIR(status.st_mode)) error = EISDIR;
-  if (error == 0 && !S_ISREG(status.st_mode)) error = ENOTSUP;
-  if (error == 0 && status.st_size > kLargestFile) error = EFBIG;
+  int error = Open_Regular_File(path, descriptor, status);
+  if (error != 0) return error;
   bytes.clear();
+  if (status.st_size > kLargestFile) error = EFBIG;
   std::string part(kWriteBuffer, '\0');
   while (error == 0) {
     const ssize_t got = ::read(descriptor, part.data(), part.size());

@@ -32,9 +32,7 @@ constexpr QSize kSize(680, 440);
 class File_Dialog : public QFileDialog {
  public:
   File_Dialog(const File_Request& request, AcceptMode mode)
-      : QFileDialog(Window_In_Front()),
-        complete_(request.complete),
-        adds_ending_(request.adds_ending) {
+      : QFileDialog(Window_In_Front()), complete_(request.complete), ending_(request.ending) {
     // The toolkit's own dialog: the desktop's would match "*.DUI" by case.
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
@@ -56,10 +54,6 @@ class File_Dialog : public QFileDialog {
         suffixes_ << QString::fromStdString(filter.pattern).remove(QLatin1Char('*'));
       }
       connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Follow_Filter);
-      if (request.add_extension) {
-        Add_Extension(selectedNameFilter());
-        connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Add_Extension);
-      }
     }
   }
 
@@ -97,14 +91,6 @@ class File_Dialog : public QFileDialog {
     edit->setText(name + wanted);
   }
 
-  void Add_Extension(const QString& filter) {
-    QString extension;
-    for (const QString& suffix : suffixes_) {
-      if (filter.contains(suffix)) extension = std::max(extension, suffix);
-    }
-    setDefaultSuffix(extension);
-  }
-
   void Offer(const QString& name) {
     if (!last_folder_.isEmpty()) setDirectory(last_folder_);
     if (name.isEmpty() || name.contains(QLatin1Char('*'))) return;
@@ -134,12 +120,14 @@ class File_Dialog : public QFileDialog {
     return box.exec() == QMessageBox::Yes;
   }
 
-  /// The file that is chosen, with the ending of the kind that is chosen when it has none of them.
+  /// The file that is chosen, with the ending that it gets.
   QString Chosen() const {
     QString path = selectedFiles().constFirst();
-    if (!adds_ending_) return path;
+    const bool is_bare = !QFileInfo(path).fileName().contains(QLatin1Char('.'));
+    if (ending_ == Ending::As_Typed || (ending_ == Ending::To_Bare_Names && !is_bare)) return path;
     QString wanted;
     for (const QString& suffix : suffixes_) {
+      if (suffix.isEmpty()) continue;  // of all files
       if (path.endsWith(suffix, Qt::CaseInsensitive)) return path;
       if (selectedNameFilter().contains(suffix)) wanted = suffix;
     }
@@ -147,7 +135,7 @@ class File_Dialog : public QFileDialog {
   }
 
   std::function<std::string(const std::string&)> complete_;
-  bool adds_ending_ = false;
+  Ending ending_;
   QStringList suffixes_;  // of the filters, when there are several to save by
   inline static QString last_folder_;
 };

@@ -108,13 +108,14 @@ TEST(SaveDialog, A_Bare_Name_Gets_The_Extension_Of_The_Kind_That_Is_Chosen) {
   const auto saved = [&](const char* name, int kind) {
     Modal_Replies replies({[&](QWidget* dialog) {
       auto* files = qobject_cast<QFileDialog*>(dialog);
+      files->selectNameFilter(files->nameFilters().at(kind));
       emit files->filterSelected(files->nameFilters().at(kind));
       Choose(name)(dialog);
     }});
     return Ask_Qt_Save_File(request);
   };
   EXPECT_EQ(saved("notes", 0), folder / "notes") << "unless that is not asked for";
-  request.add_extension = true;
+  request.ending = Ending::To_Bare_Names;
   {
     Modal_Replies replies({Choose("notes")});
     EXPECT_EQ(Ask_Qt_Save_File(request), folder / "notes.txt");
@@ -140,11 +141,11 @@ TEST(SaveDialog, A_Name_Without_Ending_Is_Of_The_Kind_That_Is_Chosen) {
   };
   Modal_Replies replies(
       {choose("bay", 1), choose("my.bay", 0), choose("bay.PDF", 1), choose("plain", 1)});
-  request.adds_ending = true;
+  request.ending = Ending::To_Others;
   EXPECT_EQ(Ask_Qt_Save_File(request), folder / "bay.html");
   EXPECT_EQ(Ask_Qt_Save_File(request), folder / "my.bay.pdf");
   EXPECT_EQ(Ask_Qt_Save_File(request), folder / "bay.PDF");
-  request.adds_ending = false;
+  request.ending = Ending::As_Typed;
   EXPECT_EQ(Ask_Qt_Save_File(request), folder / "plain");
 }
 
