@@ -28,7 +28,7 @@ TEST(UserFolder, Is_Made_In_The_Data_Folder_For_The_User_Alone) {
   const Environment environment("/nowhere", data.c_str());
   EXPECT_EQ(User_Folder(), data + "/barvon");
   struct stat state {};
-  ASSERT_EQ(stat((data + "/barvon".c_str(), &state), 0);
+  ASSERT_EQ(stat((data + "/barvon").c_str(), &state), 0);
   EXPECT_EQ(state.st_mode & 0777U, 0700U);
   EXPECT_EQ(User_Folder(), data + "/barvon");
 }
