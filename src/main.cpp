@@ -3,6 +3,7 @@
 #include <clocale>
 #include <string_view>
 
+#include "core/desk/settings_keys.h"
 #include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
 #include "platform/qt/end_signals.h"
@@ -24,13 +25,18 @@ int main(int given, char** arguments) {
   // The toolkit takes the desktop's locale; numbers keep their point.
   std::setlocale(LC_NUMERIC, "C");
   if (reports) return barvon::Write_Report_Pdf(arguments[2], arguments[3]);
+  // A desktop finds the program's menu entry and picture by it.
+  QApplication::setDesktopFileName(QStringLiteral("barvon"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/barvon.svg")));
   barvon::Apply_Light_Palette(application);
   const barvon::Qt_Services services;
   barvon::Stop_Run_At_Exit();
   barvon::Register_Dilution_File();
   const barvon::End_Signals end_signals(barvon::End_Program);
-  barvon::Main main(barvon::Program_Folder());
+  barvon::Take_Program_Folder(barvon::Program_Folder());
+  // Settings that a copy has kept beside it go on where it can't be written any more.
+  barvon::Copy_If_Not_Own(barvon::kSettingsFile);
+  barvon::Main main(barvon::Application_Folder());
   barvon::Register_Program_Screens(&main);
   main.show();
   barvon::Open_Tips_At_Start();

@@ -17,7 +17,7 @@ struct Batch_Options {
   Batch_Command command = Batch_Command::Check;
   std::vector<std::string> files;  // as given
   std::string output;              // export, report: where to; empty: beside the project
-  std::string solver_folder;       // run; empty: the program's folder
+  std::string solver_folder;       // run; empty: the user's or the program's
   int jobs = 1;                    // run: projects at a time
   bool despite_errors = false;     // run
   bool pdf = false;                // report

@@ -16,6 +16,7 @@
 #include "batch/scratch_application.h"
 #include "batch/side_by_side.h"
 #include "batch/target_key.h"
+#include "core/keys.h"
 #include "core/text_tools.h"
 #include "platform/ask/box_collector.h"
 #include "platform/files/app_folder.h"
@@ -24,6 +25,8 @@
 #include "platform/process/event_pump.h"
 #include "run/create_process.h"
 #include "run/run_driver.h"
+#include "run/solver_command.h"
+#include "run/solver_table.h"
 
 namespace barvon {
 namespace {
@@ -142,7 +145,11 @@ std::vector<std::string> Without_Clashes(const std::vector<std::string>& files, 
 
 int Run_Projects(const Batch_Options& given) {
   Batch_Options options = given;
-  if (options.solver_folder.empty()) options.solver_folder = Program_Folder();
+  if (options.solver_folder.empty()) {
+    const std::string delivered = Program_Folder();
+    options.solver_folder =
+        Solver_Folder(Solver_For(kBarge).command_line, Folder_For_Own_Files(delivered), delivered);
+  }
   std::error_code error;
   if (!std::filesystem::is_directory(options.solver_folder, error)) {
     Say_Problem(options.solver_folder, "no such folder for --solver-dir");

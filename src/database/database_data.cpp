@@ -13,6 +13,7 @@
 #include "database/save_site.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/app_folder.h"
+#include "platform/files/paths.h"
 #include "platform/files/text_encoding.h"
 #include "platform/text/counted.h"
 #include "platform/text/letter_case.h"
@@ -81,7 +82,19 @@ std::string Letters_That_Files_Lose(const std::string& name) {
 
 }  // namespace
 
+void Take_Delivered_Database() {
+  for (const char* name : {kSiteList, kMaterialList, kVesselList, kSiteFile, kVelocityFile,
+                           kMaterialFile, kVesselFile}) {
+    if (const int error = Copy_If_Not_Own(name); error != 0) {
+      Show_Warning("Can't copy the file of the database " + Join_Path(Delivered_Folder(), name) +
+                   " to " + Application_Folder() + ": " + std::strerror(error));
+      return;
+    }
+  }
+}
+
 Database_Lists Load_Lists(ProjectRecord& record) {
+  Take_Delivered_Database();
   const std::string& folder = Application_Folder();
   Database_Lists lists = {Load_Site(folder, record), Load_Velocity(record),
                           Load_Material(folder, record), Load_Disposal(folder, record)};

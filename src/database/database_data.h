@@ -20,6 +20,10 @@ struct List_Choice {
 using Database_Choices = std::array<List_Choice, kDatabaseLists>;
 using Database_Lists = std::array<List_Contents, kDatabaseLists>;
 
+/// Copies those of the database's files that the application directory has not from where they were
+/// delivered. The first that can't be copied is told.
+void Take_Delivered_Database();
+
 /// The four lists from the program's folder. List files that can't be read are told in one box.
 Database_Lists Load_Lists(ProjectRecord& record);
 

@@ -43,6 +43,7 @@ frmDatabaseCheck::frmDatabaseCheck(QWidget* workspace)
 }
 
 void frmDatabaseCheck::Opening() {
+  Take_Delivered_Database();
   report_ = Check_Database(Application_Folder());
   Label1->setText(Summary(report_));
   List1->clear();

@@ -42,7 +42,8 @@ std::string Shown_Lines(const std::string& output) {
 /// The command to start, and the program's name in the outcome; why there is none, too.
 Solver_Command Found_Command(const std::string& command_line, const std::string& folder,
                              Process_Outcome& outcome) {
-  Solver_Command found = Find_Solver_Command(command_line, folder);
+  Solver_Command found =
+      Find_Solver_Command(command_line, folder, Absolute_Path(Delivered_Folder()));
   outcome.program = found.command.empty() ? command_line : found.command[0];
   outcome.problem = found.problem;
   return found;

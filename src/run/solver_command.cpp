@@ -160,4 +160,36 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
   return {{}, {}, problem + Remark_On(application_folder, wanted)};
 }
 
+std::string Solver_Folder(const std::string& command_line, const std::string& own_folder,
+                          const std::string& delivered_folder) {
+  std::vector<std::string> names = Words(command_line);
+  if (names.empty()) return delivered_folder;
+  names.resize(std::min<std::size_t>(names.size(), 2));
+  names.push_back(Base_Name(names.back()));
+  if (names.size() > 2) names.push_back(names.front() + ".EXE");
+  const bool has_one = std::ranges::any_of(
+      names, [&](const std::string& name) { return !Matching_Files(own_folder, name).empty(); });
+  return has_one ? own_folder : delivered_folder;
+}
+
+Solver_Command Find_Solver_Command(const std::string& command_line,
+                                   const std::string& application_folder,
+                                   const std::string& delivered_folder) {
+  const std::string folder = Solver_Folder(command_line, application_folder, delivered_folder);
+  Solver_Command found = Find_Solver_Command(command_line, folder);
+  if (folder == application_folder) return found;
+  if (found.command.empty()) {
+    found.problem += "; a solver of your own goes into " + application_folder;
+  } else if (!found.environment.empty()) {
+    return {{},
+            {},
+            "the solver in " + folder + " is a DOS program, which can be run in " +
+                application_folder + " only; please copy it there"};
+  } else if (found.command.size() > 1) {
+    const std::vector<std::string> files = Files_Named(folder, found.command[1]);
+    if (!files.empty()) found.command[1] = files.front();
+  }
+  return found;
+}
+
 }  // namespace barvon

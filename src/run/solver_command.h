@@ -23,4 +23,18 @@ struct Solver_Command {
 Solver_Command Find_Solver_Command(const std::string& command_line,
                                    const std::string& application_folder);
 
+/// The folder in which a command line's programs are looked for: the user's own where that has a
+/// file of one of the names, also one that can't be run here, so that the delivered solver never
+/// stands in for it unnoticed; else the delivered one.
+std::string Solver_Folder(const std::string& command_line, const std::string& own_folder,
+                          const std::string& delivered_folder);
+
+/// The same command line where solvers were delivered in another folder than the application
+/// directory, which is looked through only where Solver_Folder says so. A launcher is told the full
+/// path of a delivered program; a delivered DOS program is refused, since the emulator's drive is
+/// the application directory.
+Solver_Command Find_Solver_Command(const std::string& command_line,
+                                   const std::string& application_folder,
+                                   const std::string& delivered_folder);
+
 }  // namespace barvon

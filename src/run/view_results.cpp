@@ -20,8 +20,10 @@ constexpr char kNativeGraphicsProgram[] = "kv_graph";
 constexpr char kUntitledName[] = "UNTITLED.DUI";
 
 std::optional<std::string> Find_Graphics_Program(const std::string& folder) {
-  for (const char* name : {kGraphicsProgram, kNativeGraphicsProgram}) {
-    if (auto found = Find_Path(Join_Path(folder, name))) return found;
+  for (const std::string& place : {folder, Delivered_Folder()}) {
+    for (const char* name : {kGraphicsProgram, kNativeGraphicsProgram}) {
+      if (auto found = Find_Path(Join_Path(place, name))) return found;
+    }
   }
   return std::nullopt;
 }
@@ -52,7 +54,8 @@ void Tell_How_It_Ended(const Process_Outcome& outcome) {
 }  // namespace
 
 bool Graphics_Program_Exists() {
-  return File_Exist(kGraphicsProgram) || File_Exist(kNativeGraphicsProgram);
+  return File_Exist(kGraphicsProgram) || File_Exist(kNativeGraphicsProgram) ||
+         Find_Graphics_Program(Delivered_Folder());
 }
 
 void Graph_Command(const ProjectRecord& record, int kind) {

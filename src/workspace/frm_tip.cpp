@@ -7,7 +7,6 @@
 
 #include "core/desk/screen_table.h"
 #include "platform/files/app_folder.h"
-#include "platform/files/paths.h"
 #include "platform/qt/tab_order.h"
 
 namespace barvon {
@@ -87,7 +86,7 @@ void frmTip::Build() {
 
 void frmTip::Opening() {
   chkLoadTipsAtStartup->setChecked(Tips_At_Start_Wanted());
-  if (LoadTips(Join_Path(Application_Folder(), kTipsFile), tips_)) {
+  if (LoadTips(Own_Or_Delivered(kTipsFile), tips_)) {
     DisplayCurrentTip();
   } else {
     lblTipText->setText(QString::fromStdString(Missing_Tips_Text()));

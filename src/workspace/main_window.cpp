@@ -101,7 +101,7 @@ void Main::Start_Up(const std::string& application_folder) {
   Read_Wizard_Help(record);
   move(0, 0);
   Lock_Size();
-  Set_Help_File(Join_Path(application_folder, kHelpFile));
+  Set_Help_File(Join_Path(Delivered_Folder(), kHelpFile));
   record.ScreenDataSupplied.fill(kFalse);
   record.ShowMode = 1;
   GetRecentFiles();

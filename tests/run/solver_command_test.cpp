@@ -137,6 +137,62 @@ TEST_F(SolverCommand, A_Dos_Program_Without_Dosbox_Can_Not_Be_Run) {
                                   " is a DOS program, and dosbox was not found on the search path");
 }
 
+/// The user's folder is "app"; what came with the program is in "program".
+struct DeliveredSolver : SolverCommand {
+  DeliveredSolver() { fs::create_directory(folder / "program"); }
+  Solver_Command Find_Delivered(const std::string& line = kSolver) {
+    return Find_Solver_Command(line, folder / "app", folder / "program");
+  }
+};
+
+TEST_F(DeliveredSolver, Is_Found_Where_The_User_Has_None) {
+  Script("program/merak32");
+  EXPECT_EQ(Solver_Folder(kSolver, folder / "app", folder / "program"), folder / "program");
+  EXPECT_EQ(Find_Delivered().command, (Command{folder / "program/merak32"}));
+}
+
+TEST_F(DeliveredSolver, The_Users_Comes_Before_It) {
+  Script("program/MERAK32.EXE");
+  Script("app/merak32");
+  EXPECT_EQ(Solver_Folder(kSolver, folder / "app", folder / "program"), folder / "app");
+  EXPECT_EQ(Find_Delivered().command, (Command{folder / "app/merak32"}));
+}
+
+TEST_F(DeliveredSolver, Does_Not_Stand_In_For_One_Of_The_Users_That_Can_Not_Be_Run) {
+  Script("program/merak32");
+  for (const char* name : {"merak32", "Merak32.exe", "dos4gw", "DOS4GW.EXE"}) {
+    Write_Text(folder / "app/" + name, "MZ\x90");
+    EXPECT_EQ(Find_Delivered().command, Command{}) << name;
+    fs::remove(folder / "app/" + name);
+  }
+}
+
+TEST_F(DeliveredSolver, A_Launcher_Is_Told_Its_Full_Path) {
+  Script("program/merak32.exe");
+  Script("one/DOS4GW");
+  EXPECT_EQ(Find_Delivered().command,
+            (Command{folder / "one/DOS4GW", folder / "program/merak32.exe"}));
+}
+
+TEST_F(DeliveredSolver, A_Dos_Program_Has_To_Be_The_Users) {
+  Write_Text(folder / "program/MERAK32.EXE", "MZ\x90");
+  Script("two/dosbox");
+  const Solver_Command found = Find_Delivered();
+  EXPECT_EQ(found.command, Command{});
+  EXPECT_EQ(found.problem, "the solver in " + (folder / "program") +
+                               " is a DOS program, which can be run in " + (folder / "app") +
+                               " only; please copy it there");
+}
+
+TEST_F(DeliveredSolver, Where_There_Is_None_The_Place_Of_The_Users_Is_Told) {
+  EXPECT_EQ(Find_Delivered().problem,
+            "DOS4GW was found neither in " + (folder / "program") +
+                " nor on the search path, and no MERAK32.EXE or MERAK32 in " +
+                (folder / "program") + " can be run here; a solver of your own goes into " +
+                (folder / "app"));
+  EXPECT_EQ(Find_Delivered("").problem.rfind("no program is named", 0), 0U);
+}
+
 TEST(SolverTable, Hopper_And_Barge_Have_A_Solver_That_Is_Started) {
   for (const int method : {1, 3}) {
     EXPECT_EQ(Solver_For(method).command_line, "DOS4GW MERAK32.EXE");

@@ -159,6 +159,21 @@ TEST_F(ViewResults, The_Application_Directory_Is_Where_It_Starts_From_Wherever_T
   EXPECT_TRUE(Exists(bench / "seen.txt"));
 }
 
+TEST_F(ViewResults, A_Graphics_Program_That_Came_With_The_Program_Works_In_The_Users_Folder) {
+  Save_Project();
+  bench.Install("kv_graph", "write:seen.txt=x\n");
+  std::filesystem::create_directory(bench.folder / "program");
+  for (const char* name : {"kv_graph", "test_child.steps"}) {
+    std::filesystem::rename(bench / name, bench.folder / "program" + "/" + name);
+  }
+  Set_Delivered_Folder(bench.folder / "program");
+  EXPECT_TRUE(Graphics_Program_Exists());
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  Set_Delivered_Folder("");
+  EXPECT_TRUE(Exists(bench / "seen.txt"));
+}
+
 TEST_F(ViewResults, A_Missing_Graphics_Program_Is_Told_With_Its_Path_After_The_Hand_Over) {
   Save_Project();
   Scripted_Messages messages({Answer::Ok});

@@ -6,10 +6,12 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <filesystem>
 
 #include "core/desk/screen_register.h"
 #include "core/project_record.h"
 #include "platform/ask/file_dialog.h"
+#include "platform/files/app_folder.h"
 #include "program_screens.h"
 #include "support/screen_support.h"
 
@@ -56,6 +58,17 @@ class Tip : public ::testing::Test {
  private:
   Chance former_;
 };
+
+TEST_F(Tip, Comes_From_The_Users_File_Or_From_The_One_That_Came_With_The_Program) {
+  const Scratch_Folder program;
+  Write_Text(program / "TIPOFDAY.TXT", "A tip of the program.\n");
+  Set_Delivered_Folder(program.path());
+  EXPECT_EQ(Text(Open()), "First tip.");
+  In_View()->close();
+  std::filesystem::remove(bench.folder / "TIPOFDAY.TXT");
+  EXPECT_EQ(Text(Open()), "A tip of the program.");
+  Set_Delivered_Folder("");
+}
 
 TEST_F(Tip, Shows_Its_Captions_And_A_First_Tip_By_Chance) {
   chance = 0.5;

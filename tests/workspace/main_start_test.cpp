@@ -94,6 +94,19 @@ TEST(MainStart, The_Help_File_Stands_In_The_Programs_Folder) {
   }
 }
 
+TEST(MainStart, The_Help_File_Is_The_One_That_Came_With_The_Program) {
+  testing::Scratch_Folder program;
+  Set_Delivered_Folder(program.path());
+  {
+    Main_Bench bench;
+    testing::Modal_Replies replies({testing::Press(QMessageBox::Ok)});
+    Show_Help({Help_Command::Index, 0, ""});
+    EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+              "The help file is missing: " + (program / "BARVON.HLP"));
+  }
+  Set_Delivered_Folder("");
+}
+
 TEST(MainStart, Makes_Its_Folder_The_Current_One) {
   Main_Bench bench;
   EXPECT_EQ(std::filesystem::current_path().string(), bench.folder.path());

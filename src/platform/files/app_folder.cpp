@@ -1,16 +1,33 @@
 #include "platform/files/app_folder.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 #include <utility>
+
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/files/user_folder.h"
 
 namespace barvon {
 namespace {
 
+/// What stands there is there for all users, also where root may write.
+constexpr std::array<const char*, 2> kFoldersForAll{"/usr/lib/", "/usr/local/lib/"};
+
 std::string& Folder() {
   static std::string folder = Program_Folder();
+  return folder;
+}
+
+std::string& Other_Delivered_Folder() {
+  static std::string folder;
   return folder;
 }
 
@@ -25,6 +42,40 @@ std::string Program_Folder() {
 const std::string& Application_Folder() { return Folder(); }
 
 void Set_Application_Folder(std::string folder) { Folder() = std::move(folder); }
+
+const std::string& Delivered_Folder() {
+  return Other_Delivered_Folder().empty() ? Folder() : Other_Delivered_Folder();
+}
+
+void Set_Delivered_Folder(std::string folder) { Other_Delivered_Folder() = std::move(folder); }
+
+std::string Folder_For_Own_Files(const std::string& program_folder) {
+  const bool writable = ::faccessat(AT_FDCWD, program_folder.c_str(), W_OK, AT_EACCESS) == 0;
+  const bool for_all = std::ranges::any_of(
+      kFoldersForAll, [&](const char* folder) { return program_folder.starts_with(folder); });
+  if (writable && !for_all) return program_folder;
+  return User_Folder().value_or(program_folder);
+}
+
+void Take_Program_Folder(const std::string& program_folder) {
+  Set_Application_Folder(Folder_For_Own_Files(program_folder));
+  Set_Delivered_Folder(program_folder);
+}
+
+std::string Own_Or_Delivered(const std::string& name) {
+  const std::string own = Join_Path(Application_Folder(), name);
+  return Find_Path(own) ? own : Join_Path(Delivered_Folder(), name);
+}
+
+int Copy_If_Not_Own(const std::string& name) {
+  const std::string own = Join_Path(Application_Folder(), name);
+  if (Find_Path(own)) return 0;
+  const auto delivered = Find_Path(Join_Path(Delivered_Folder(), name));
+  if (!delivered) return 0;
+  std::string bytes;
+  const int error = Read_Whole_File(*delivered, bytes);
+  return error != 0 ? error : Write_Whole_File(own, bytes);
+}
 
 bool Change_Current_Folder(const std::string& folder) { return chdir(folder.c_str()) == 0; }
 

@@ -8,8 +8,10 @@
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QStandardPaths>
 #include <QTreeView>
 
+#include "platform/files/app_folder.h"
 #include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/session_printer.h"
 
@@ -92,7 +94,12 @@ class File_Dialog : public QFileDialog {
   }
 
   void Offer(const QString& name) {
-    if (!last_folder_.isEmpty()) setDirectory(last_folder_);
+    if (!last_folder_.isEmpty()) {
+      setDirectory(last_folder_);
+    } else if (Application_Folder() != Delivered_Folder()) {
+      // The current folder is hidden among the user's files then: nobody looks for projects there.
+      setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    }
     if (name.isEmpty() || name.contains(QLatin1Char('*'))) return;
     const QFileInfo offered(name);
     if (offered.isDir()) {
