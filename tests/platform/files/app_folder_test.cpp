@@ -21,10 +21,14 @@ constexpr uid_t kNobody = 65534;
 class Ordinary_User {
  public:
   Ordinary_User() : root_(::geteuid() == 0) {
-    if (root_) EXPECT_EQ(::seteuid(kNobody), 0);
+    if (root_) {
+      EXPECT_EQ(::seteuid(kNobody), 0);
+    }
   }
   ~Ordinary_User() {
-    if (root_) EXPECT_EQ(::seteuid(0), 0);
+    if (root_) {
+      EXPECT_EQ(::seteuid(0), 0);
+    }
   }
   Ordinary_User(const Ordinary_User&) = delete;
   Ordinary_User& operator=(const Ordinary_User&) = delete;
