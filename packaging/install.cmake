@@ -35,8 +35,11 @@ barvon_install(FILES SYSTEM ${icons} PORTABLE ${icons}
                WHAT ${PROJECT_SOURCE_DIR}/resources/pictures/barvon.svg)
 
 # To read.
-file(GLOB documents CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.md)
-barvon_install(FILES SYSTEM ${doc} PORTABLE docs WHAT ${documents} ${from}/debian/copyright)
+set(documents ${from}/debian/copyright)
+foreach(document barvon-run dependencies file-formats)
+  list(APPEND documents ${PROJECT_SOURCE_DIR}/docs/${document}.md)
+endforeach()
+barvon_install(FILES SYSTEM ${doc} PORTABLE docs WHAT ${documents})
 file(GLOB projects CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/samples/*.DUI)
 barvon_install(FILES SYSTEM ${doc}/examples PORTABLE samples
                WHAT ${projects} ${PROJECT_SOURCE_DIR}/samples/README.md)

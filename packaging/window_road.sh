@@ -33,7 +33,7 @@ press() { # WINDOW NAME, "KEY KEY...", CONDITION...
   return 1
 }
 
-# Opens a project, looks at the database, runs, leaves by Ctrl+Q. The program must end by itself.
+# Opens a project, looks at the database and the help, runs, leaves by Ctrl+Q. The program must end by itself.
 drive_window() { # HOME PROGRAM PROJECT
   local home="$1" program="$2" project="$3" process code=0
   local opened="^BARVON - $project"
@@ -45,6 +45,8 @@ drive_window() { # HOME PROGRAM PROJECT
   press '^Open$' Return window "$opened" || return 1
   press "$opened" 'Escape alt+t d' window 'Data ?[Bb]ase' || return 1
   press 'Data ?[Bb]ase' Escape no_window 'Data ?[Bb]ase' || return 1
+  press "$opened" F1 window 'BARVON Help' || return 1
+  press 'BARVON Help' Escape no_window 'BARVON Help' || return 1
   press "$opened" F5 test -s "${project%.DUI}.duc" || return 1
   sleep 1  # the run's end is told
   press "$opened" 'ctrl+q alt+y' ended $process || return 1
