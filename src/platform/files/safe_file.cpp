@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "platform/files/folder_names.h"
+#include "platform/files/foreign_files.h"
 #include "platform/files/paths.h"
 #include "platform/files/regular_file.h"
 
@@ -66,6 +67,10 @@ std::string Follow_Links(std::string path, int& error) {
     std::error_code code;
     const auto target = std::filesystem::read_symlink(path, code);
     if (code) return path;
+    if (Is_Put_By_A_Stranger(path)) {
+      error = EACCES;
+      return path;
+    }
     path = target.is_absolute() ? target.string() : Join_Path(Folder_Of(path), target.string());
   }
   error = ELOOP;
