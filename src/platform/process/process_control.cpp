@@ -78,8 +78,8 @@ struct External_Process::State {
 
   void Finish() {
     int waiting = 0;
-    // Something that the program left running may hold the pipe open and go on printing: what
-    // is in the pipe now is all that is waited for.
+    // Something that the program left running may hold the pipe open for a moment: what is in the
+    // pipe now is all that is waited for.
     if (output >= 0 && ::ioctl(output, FIONREAD, &waiting) == 0 && waiting > 0) {
       Take_Output(static_cast<std::size_t>(waiting));
     }
@@ -156,6 +156,7 @@ bool External_Process::Poll() {
     if (!ended) return true;
   }
   if (!state.ended) state.ended = now;
+  if (!state.end.stopped) state.family->Kill_What_Is_Left();
   state.Finish();
   return false;
 }
