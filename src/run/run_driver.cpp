@@ -203,7 +203,13 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   }
   report.stage = report.outcome.started ? Run_Stage::Ended : Run_Stage::Not_Started;
   // Outputs that are there without a run are another one's, and older ones stay as they are.
-  if (report.outcome.started) report.Add_Outputs(outputs.Keep(base_name));
+  if (report.outcome.started) {
+    // They may be huge, and each is waited for on the disk.
+    std::vector<Kept_Output> kept;
+    report.outcome.program_ends = !Do_Aside([&] { kept = outputs.Keep(base_name); });
+    report.Add_Outputs(kept);
+    if (report.outcome.program_ends) return;
+  }
   // The graphics are of the open project, which may be another one by now.
   if (record.ProjectFileName == project) Write_Graph_File(project);
 }

@@ -13,6 +13,7 @@
 #include "core/project_record.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/files/profile_settings.h"
+#include "platform/qt/qt_document_opener.h"
 #include "support/hostile_names.h"
 #include "support/proof_scale.h"
 #include "support/screen_support.h"
@@ -56,10 +57,12 @@ class HostileNames : public ::testing::Test {
     former_dialogs_ = Set_File_Dialog_Presenter({[this](const File_Request&) { return answer_; },
                                                  [this](const File_Request&) { return answer_; },
                                                  nullptr, nullptr});
+    Register_frmNotePad(&bench.main());
     sample_ = Read_Text(std::string(BARVON_SAMPLES) + kSample);
     alone_ = Everything();
   }
   ~HostileNames() override {
+    Set_Own_Text_Window({});
     Set_File_Dialog_Presenter(std::move(former_dialogs_));
     qputenv("PATH", former_path_);
   }

@@ -2,6 +2,7 @@
 #include <malloc.h>
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QPushButton>
 #include <filesystem>
 #include <iostream>

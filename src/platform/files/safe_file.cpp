@@ -41,7 +41,7 @@ std::string& Passing_Folder() {
 }
 
 std::string Random_Mark() {
-  static std::random_device device;
+  static thread_local std::random_device device;
   static constexpr std::string_view kHex = "0123456789abcdef";
   std::string mark;
   for (std::size_t i = 0; i < kMarkLength; ++i) mark += kHex[device() % kHex.size()];

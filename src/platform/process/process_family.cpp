@@ -46,7 +46,10 @@ bool Process_Family::Read_Process(const std::string& number, Process& process) {
   return static_cast<bool>(fields >> process.start);
 }
 
-std::vector<Process_Family::Process> Process_Family::Processes_From(pid_t first) {
+std::vector<Process_Family::Process> Process_Family::Younger_Processes() const {
+  // To look at all of them holds up the interface. Numbers are given in rising order, over and
+  // over: one below the program's is older than it unless they have begun anew since.
+  const pid_t first = Last_Number() < program_ ? 0 : program_;
   std::vector<Process> all;
   std::error_code error;
   std::filesystem::directory_iterator entry("/proc", error);
@@ -94,15 +97,12 @@ std::vector<Process_Family::Process> Process_Family::Members(
 }
 
 bool Process_Family::Signal(int signal, bool only_new) {
-  return Send(Members(Processes_From(0)), signal, only_new);
+  return Send(Members(Younger_Processes()), signal, only_new);
 }
 
 void Process_Family::Kill_What_Is_Left() {
-  // Numbers are given in rising order, over and over: one below the program's is older than it
-  // unless they have begun anew since.
-  const pid_t first = Last_Number() < program_ ? 0 : program_;
   constexpr int kTries = 10;  // a process that was just being made is found by the next look
-  for (int i = 0; i < kTries && Send(Members(Processes_From(first)), SIGKILL, false); ++i) {
+  for (int i = 0; i < kTries && Send(Members(Younger_Processes()), SIGKILL, false); ++i) {
   }
 }
 

@@ -27,8 +27,7 @@ class Process_Family {
   /// any was found alive.
   bool Signal(int signal, bool only_new = false);
   /// Kills what the program has left running, once it has ended by itself: none of it may write to
-  /// files that are read from then on. As a rule there is nothing, so what can't be younger than
-  /// the program by its number is not looked at.
+  /// files that are read from then on.
   void Kill_What_Is_Left();
 
  private:
@@ -38,7 +37,7 @@ class Process_Family {
     unsigned long long start = 0;  // with the number it names one process for good
   };
   static bool Read_Process(const std::string& number, Process& process);
-  static std::vector<Process> Processes_From(pid_t first);
+  std::vector<Process> Younger_Processes() const;
   bool Send(const std::vector<Process>& members, int signal, bool only_new);
   bool Carries_Mark(pid_t pid) const;
   std::vector<Process> Members(const std::vector<Process>& all) const;
