@@ -103,6 +103,7 @@ TEST_F(BatchHostileNames, Are_Names_Of_Files_And_Nothing_Else) {
     const auto count = std::min(kAtOnce, names.size() - at);
     Do_All({first, first + static_cast<std::ptrdiff_t>(count)});
   }
+  ASSERT_FALSE(HasFailure());
   std::cout << names.size() << " names through check, export, report and run\n";
 }
 

@@ -4,11 +4,10 @@
 #include <unistd.h>
 
 #include <system_error>
-#include <utility>
 
 namespace barvon {
 
-Aside_Work::Aside_Work(std::function<void()> work)
+Aside_Work::Aside_Work(const std::function<void()>& work)
     : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
   try {
     thread_ = std::thread([this, work] { Do(work); });

@@ -11,7 +11,7 @@ namespace barvon {
 class Aside_Work {
  public:
   /// Begins at once. Where the system gives no thread, the work is done when this returns.
-  explicit Aside_Work(std::function<void()> work);
+  explicit Aside_Work(const std::function<void()>& work);
   /// Waits for the end.
   ~Aside_Work();
   Aside_Work(const Aside_Work&) = delete;

@@ -25,7 +25,9 @@ pid_t Last_Number() {
   std::string load;
   if (Read_Whole_File("/proc/loadavg", load) != 0) return 0;
   const auto last = load.rfind(' ');
-  return last == std::string::npos ? 0 : static_cast<pid_t>(std::atol(load.c_str() + last));
+  return last == std::string::npos
+             ? 0
+             : static_cast<pid_t>(std::strtol(load.c_str() + last, nullptr, 10));
 }
 
 }  // namespace
