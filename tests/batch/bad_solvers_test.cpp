@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <system_error>
 
 #include "batch/batch_fixture.h"
 #include "support/process_state.h"
@@ -38,7 +39,12 @@ class BatchBadSolvers : public BatchProgram {
     peak_ = 0;
     bool told = false;
     return Run_Program(Start_Of(arguments), [&](pid_t pid) {
-      peak_ = std::max(peak_, Memory_Of("VmHWM", pid));
+      // Before it becomes barvon-run the child has the memory of the tests.
+      std::error_code gone;
+      const fs::path program = fs::read_symlink("/proc/" + std::to_string(pid) + "/exe", gone);
+      if (program == fs::path(BARVON_RUN_PROGRAM)) {
+        peak_ = std::max(peak_, Memory_Of("VmHWM", pid));
+      }
       if (sign.empty() || told) return;
       for (const std::string& scratch : Left_Behind()) {
         told = told || Exists(folder_ / ("tmp/" + scratch + "/" + sign));

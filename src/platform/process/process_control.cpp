@@ -131,6 +131,8 @@ int External_Process::Start(const Process_Start& start) {
   const std::string mark = New_Mark();
   environment.push_back(mark);
   pid_t pid = -1;
+  // Behind the start this program may have to wait for the processor while the other one runs.
+  state.started = Clock::now();
   const int error = Spawn_Program(
       {start.command, std::move(environment), start.folder, pipe[1], Bond::Group}, pid);
   if (pipe[1] >= 0) ::close(pipe[1]);
@@ -138,7 +140,6 @@ int External_Process::Start(const Process_Start& start) {
   state.pid = pid;
   state.handle = static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
   state.family.emplace(pid, mark);
-  state.started = Clock::now();
   state.running = true;
   return 0;
 }
