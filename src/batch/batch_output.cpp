@@ -10,7 +10,9 @@ int first_error = 0;
 
 std::string One_Line(std::string text) {
   for (char& c : text) {
-    if (c == '\n' || c == '\r' || c == '\t') c = ' ';
+    // A file's name may hold what a terminal would act upon.
+    constexpr char kDelete = 0x7F;
+    if ((c >= 0 && c < ' ') || c == kDelete) c = ' ';
   }
   return text;
 }

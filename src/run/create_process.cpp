@@ -9,6 +9,7 @@
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
 #include "platform/files/text_encoding.h"
+#include "platform/process/aside_work.h"
 #include "platform/process/event_pump.h"
 #include "platform/process/viewer_program.h"
 #include "run/scratch_names.h"
@@ -19,6 +20,16 @@ namespace {
 
 /// The end is told of at once; what the program prints can wait in its pipe for a while.
 constexpr std::chrono::milliseconds kTakeOutputEvery{25};
+
+struct Work {
+  Aside_Work aside;
+  bool program_ends = false;
+};
+
+Work*& Current_Work() {
+  static Work* current = nullptr;
+  return current;
+}
 
 struct Run {
   External_Process process;
@@ -112,13 +123,27 @@ void Create_Viewer_Process(const std::string& command_line,
   if (!outcome.started) when_over(outcome);
 }
 
-bool Run_Is_Under_Way() { return Current_Run() != nullptr; }
+bool Do_Aside(const std::function<void()>& work) {
+  Work current{Aside_Work(work)};
+  Current_Work() = &current;
+  while (!current.aside.Is_Done()) {
+    Pump_Events(kTakeOutputEvery, current.aside.End_Descriptor());
+  }
+  Current_Work() = nullptr;
+  return !current.program_ends;
+}
+
+bool Run_Is_Under_Way() { return Current_Run() != nullptr || Current_Work() != nullptr; }
 
 void Stop_Run() {
-  if (Run_Is_Under_Way()) Current_Run()->process.Stop();
+  if (Current_Run() != nullptr) Current_Run()->process.Stop();
 }
 
 void Stop_Run_And_Wait() {
+  if (Work* const work = Current_Work(); work != nullptr) {
+    work->program_ends = true;
+    work->aside.Wait();
+  }
   Run* const run = Current_Run();
   if (run == nullptr || run->program_ends) return;
   run->program_ends = true;

@@ -33,13 +33,18 @@ Process_Outcome Create_Process_Code(const std::string& command_line);
 void Create_Viewer_Process(const std::string& command_line,
                            const std::function<void(const Process_Outcome&)>& when_over);
 
-/// True from the start of a solver until its wait is over.
+/// Does what belongs to a run and waits for the disk, with the interface alive. False when this
+/// program ends meanwhile: the work is done then, and the workspace must not be touched any more.
+bool Do_Aside(const std::function<void()>& work);
+
+/// True from the start of a solver until its wait is over, and during Do_Aside.
 bool Run_Is_Under_Way();
 /// Ends the solver that runs and everything that it started, first politely, then by force.
 /// Does nothing when none runs.
 void Stop_Run();
-/// The same before this program ends: does not return before they are gone. Whoever waits for the
-/// run is then expected to return without touching the workspace any more.
+/// The same before this program ends: does not return before they are gone, nor before what is done
+/// aside is done. Whoever waits for the run is then expected to return without touching the
+/// workspace any more.
 void Stop_Run_And_Wait();
 /// From here on the run also ends with this program when that leaves by std::exit, as the toolkit
 /// does when the display goes away. The workspace is not touched then.

@@ -1,5 +1,6 @@
 #include "run/run_driver.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -97,9 +98,9 @@ void Remove_Files(const std::string& folder, const char* pattern) {
   for (const std::string& path : Matching_Files(folder, pattern)) ::unlink(path.c_str());
 }
 
-/// The run's scratch files of the current directory. A project that bears a scratch name is none,
-/// nor is a link that it is opened by.
-void Remove_Scratch_Files(const std::string& project) {
+/// The run's scratch files of a folder. A project that bears a scratch name is none, nor is a link
+/// that it is opened by.
+std::vector<std::string> Scratch_Files(const std::string& folder, const std::string& project) {
   namespace fs = std::filesystem;
   const auto place = [](const std::string& path) {
     std::error_code error;
@@ -108,9 +109,31 @@ void Remove_Scratch_Files(const std::string& project) {
   std::error_code error;
   const std::string named = Path_To_Write(project);
   const fs::path file = fs::canonical(named, error);
-  for (const std::string& path : Matching_Files(".", kScratchFiles)) {
+  std::vector<std::string> paths = Matching_Files(folder, kScratchFiles);
+  std::erase_if(paths, [&](const std::string& path) {
     const fs::path scratch = place(path);
-    if (scratch != file && scratch != place(named)) ::unlink(path.c_str());
+    return scratch == file || scratch == place(named);
+  });
+  return paths;
+}
+
+void Remove_Scratch_Files(const std::string& project) {
+  for (const std::string& path : Scratch_Files(".", project)) ::unlink(path.c_str());
+}
+
+/// True for what leads a solver that writes under this name elsewhere: another name of a file, a
+/// link, a pipe.
+bool Leads_Elsewhere(const std::string& path) {
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0 && (!S_ISREG(status.st_mode) || status.st_nlink > 1);
+}
+
+/// Takes away from the solver's folder what its outputs would go through, which may be another one
+/// than the current directory. An output of an earlier run stays. What can't be taken away is told.
+void Remove_Traps(const std::string& folder, const std::string& project, std::string& problem) {
+  for (const std::string& path : Scratch_Files(folder, project)) {
+    if (!Leads_Elsewhere(path) || ::unlink(path.c_str()) == 0 || !problem.empty()) continue;
+    problem = Name_Of(path) + " leads elsewhere and could not be removed";
   }
 }
 
@@ -158,6 +181,7 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   const std::string base_name = record.BaseFileName;
   Remove_Scratch_Files(project);
   report.problem = Write_Solver_Files(record, folder);
+  Remove_Traps(folder, project, report.problem);
   Set_Application_Directory();
   const Solver solver = Solver_For(record.DisposalMethod);
   if (!solver.started) {
@@ -179,7 +203,13 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   }
   report.stage = report.outcome.started ? Run_Stage::Ended : Run_Stage::Not_Started;
   // Outputs that are there without a run are another one's, and older ones stay as they are.
-  if (report.outcome.started) report.Add_Outputs(outputs.Keep(base_name));
+  if (report.outcome.started) {
+    // They may be huge, and each is waited for on the disk.
+    std::vector<Kept_Output> kept;
+    report.outcome.program_ends = !Do_Aside([&] { kept = outputs.Keep(base_name); });
+    report.Add_Outputs(kept);
+    if (report.outcome.program_ends) return;
+  }
   // The graphics are of the open project, which may be another one by now.
   if (record.ProjectFileName == project) Write_Graph_File(project);
 }

@@ -5,12 +5,13 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
 #include <sstream>
 
+#include "platform/files/foreign_files.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
+#include "platform/process/search_path.h"
 
 namespace barvon {
 namespace {
@@ -20,19 +21,6 @@ std::vector<std::string> Words(const std::string& text) {
   std::vector<std::string> words;
   for (std::string word; stream >> word;) words.push_back(word);
   return words;
-}
-
-/// The folders of the search path, each once. Relative ones are passed over: what they name depends
-/// on where this program happens to be.
-std::vector<std::string> Search_Path() {
-  std::vector<std::string> folders;
-  const char* path = std::getenv("PATH");
-  std::istringstream stream(path == nullptr ? "" : path);
-  for (std::string folder; std::getline(stream, folder, ':');) {
-    const bool is_new = std::ranges::find(folders, folder) == folders.end();
-    if (!folder.empty() && folder.front() == '/' && is_new) folders.push_back(folder);
-  }
-  return folders;
 }
 
 enum class File_Format { None, Dos, Native };
@@ -67,13 +55,16 @@ std::vector<std::string> Files_Named(const std::string& folder, const std::strin
 
 std::optional<std::string> Program_In(const std::string& folder, const std::string& name) {
   for (const std::string& file : Files_Named(folder, name)) {
-    if (Format_Of(file) == File_Format::Native && May_Be_Executed(file)) return file;
+    if (Format_Of(file) == File_Format::Native && May_Be_Executed(file) &&
+        !Is_Put_By_A_Stranger(file)) {
+      return file;
+    }
   }
   return std::nullopt;
 }
 
 std::optional<std::string> On_Search_Path(const std::string& name) {
-  for (const std::string& folder : Search_Path()) {
+  for (const std::string& folder : Search_Folders()) {
     if (auto program = Program_In(folder, name)) return program;
   }
   return std::nullopt;
@@ -81,8 +72,9 @@ std::optional<std::string> On_Search_Path(const std::string& name) {
 
 bool Has_Dos_Program(const std::string& folder, const std::string& name) {
   const auto files = Files_Named(folder, name);
-  return std::any_of(files.begin(), files.end(),
-                     [](const std::string& file) { return Format_Of(file) == File_Format::Dos; });
+  return std::any_of(files.begin(), files.end(), [](const std::string& file) {
+    return Format_Of(file) == File_Format::Dos && !Is_Put_By_A_Stranger(file);
+  });
 }
 
 /// The drive is the current directory, which is the application directory, so that no path has to
@@ -103,6 +95,9 @@ std::string Joined(const std::vector<std::string>& words, std::size_t from) {
 std::string Remark_On(const std::string& folder, const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     for (const std::string& file : Files_Named(folder, name)) {
+      if (Is_Put_By_A_Stranger(file)) {
+        return "; " + file + " belongs to another user, in a folder that everybody can write";
+      }
       if (Format_Of(file) == File_Format::Native) return "; " + file + " is not executable";
       return "; " + file + " is no program of this system";
     }

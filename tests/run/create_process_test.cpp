@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <time.h>
 
+#include <atomic>
+
 #include "run/child_support.h"
 
 namespace barvon {
@@ -167,6 +169,36 @@ TEST_F(CreateProcess, A_Run_Does_Not_Outlive_A_Program_That_Leaves_By_Exit) {
       ::testing::ExitedWithCode(7), "");
   EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(bench / "solver")); }));
   EXPECT_TRUE(Comes_True([this] { return !Is_Alive(Pid_In(bench / "grandchild")); }));
+}
+
+TEST_F(CreateProcess, The_Interface_Lives_While_The_Disk_Is_Waited_For_And_No_Run_Begins) {
+  bench.Install("merak32", "");
+  Process_Outcome second;
+  bench.While_Waiting([&] {
+    if (bench.pumped > 1) return;
+    EXPECT_TRUE(Run_Is_Under_Way());
+    second = Create_Process_Code("DOS4GW MERAK32.EXE");
+    Stop_Run();
+    Write_Text(bench / "go", "");
+  });
+  EXPECT_TRUE(
+      Do_Aside([this] { EXPECT_TRUE(Comes_True([this] { return Exists(bench / "go"); })); }));
+  EXPECT_EQ(second.problem, "another program is still at work");
+  EXPECT_FALSE(Run_Is_Under_Way());
+}
+
+TEST_F(CreateProcess, The_Programs_End_Waits_For_What_Is_Done_Aside) {
+  std::atomic<bool> done = false;
+  bench.While_Waiting([&] {
+    if (done) return;
+    Write_Text(bench / "go", "");
+    Stop_Run_And_Wait();
+    EXPECT_TRUE(done);
+  });
+  EXPECT_FALSE(Do_Aside([&] {
+    EXPECT_TRUE(Comes_True([this] { return Exists(bench / "go"); }));
+    done = true;
+  }));
 }
 
 TEST_F(CreateProcess, Endless_Output_Stays_Bounded) {

@@ -17,6 +17,7 @@
 //   session:NAME        the same, in a session of its own
 //   orphan:NAME         the same, with no parent left, in a session of its own
 //   flood:BYTES         prints so many bytes in lines; 0: without end
+//   big:NAME=BYTES      a file of so many bytes
 //   signal:N            dies by a signal
 //   exit:N              ends with a code
 
@@ -26,6 +27,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -126,6 +128,15 @@ void Flood(long long bytes) {
   std::cout.flush();
 }
 
+void Make_Big(const std::string& name, long long bytes) {
+  const std::string part(1u << 20, 'x');
+  std::ofstream file(name, std::ios::binary);
+  for (long long left = bytes; left > 0; left -= static_cast<long long>(part.size())) {
+    file.write(part.data(),
+               static_cast<std::streamsize>(std::min(left, static_cast<long long>(part.size()))));
+  }
+}
+
 void Take_Step(const std::string& step, const std::vector<std::string>& arguments) {
   const auto colon = step.find(':');
   const std::string verb = step.substr(0, colon);
@@ -150,6 +161,7 @@ void Take_Step(const std::string& step, const std::vector<std::string>& argument
   if (verb == "session") Start_Child(value, true, false);
   if (verb == "orphan") Start_Child(value, true, true);
   if (verb == "flood") Flood(std::atoll(value.c_str()));
+  if (verb == "big") Make_Big(name, std::atoll(text.c_str()));
   if (verb == "signal") raise(std::atoi(value.c_str()));
   if (verb == "exit") std::exit(std::atoi(value.c_str()));
 }

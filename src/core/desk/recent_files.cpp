@@ -6,6 +6,7 @@
 #include "core/desk/settings_keys.h"
 #include "core/desk/workspace_port.h"
 #include "core/text_tools.h"
+#include "platform/files/profile_settings.h"
 #include "platform/text/letter_case.h"
 
 namespace barvon {
@@ -62,6 +63,8 @@ void WriteRecentFiles(const std::string& path) {
   // Only the bare names: the same name in a folder enters the list.
   const std::string upper = Upper_Case(path);
   if (std::find(kNeverListed.begin(), kNeverListed.end(), upper) != kNeverListed.end()) return;
+  // What comes back as another name would open another file, or none.
+  if (!Is_Read_Back_From_Profile(path)) return;
   const Settings_Of_Command settings;
   for (int i = kRecentFiles - 1; i >= 1; --i) {
     const std::string value = Read_Entry(i);

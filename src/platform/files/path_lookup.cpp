@@ -87,7 +87,7 @@ std::vector<std::string> Matching_Files(const std::string& folder, std::string_v
     const std::string path = Join_Path(folder, name);
     std::error_code unreadable;
     const fs::file_type type = fs::symlink_status(path, unreadable).type();
-    if (type == fs::file_type::regular || type == fs::file_type::symlink) paths.push_back(path);
+    if (type != fs::file_type::directory && type != fs::file_type::not_found) paths.push_back(path);
   }
   std::sort(paths.begin(), paths.end());
   return paths;

@@ -18,8 +18,9 @@ std::optional<std::string> Find_Path(const std::string& path);
 /// Find_Path for writing: the existing file's path, otherwise the path as given.
 std::string Path_To_Write(const std::string& path);
 
-/// Paths of the regular files of the folder whose names match the pattern ("Tmpfile.*"; '*' stands
-/// for any run of characters) without regard to case, links included, folders not. Sorted by name.
+/// Paths of what is in the folder and matches the pattern by its name ("Tmpfile.*"; '*' stands for
+/// any run of characters) without regard to case: files, links, pipes and the like, folders not.
+/// Sorted by name.
 std::vector<std::string> Matching_Files(const std::string& folder, std::string_view pattern);
 
 /// File_Exist: true when a search for the name in the current directory finds something.

@@ -136,6 +136,11 @@ bool Can_Be_In_Profile(const Profile_Entry& entry) {
          entry.value.find_first_of(kLineBreaks) == std::string::npos;
 }
 
+bool Is_Read_Back_From_Profile(const std::string& value) {
+  return value.find_first_of(kLineBreaks) == std::string::npos &&
+         Value_From(To_Settings_Bytes(value)) == value;
+}
+
 int Write_Profile_Strings(const std::string& path, const std::vector<Profile_Entry>& entries) {
   if (!std::ranges::all_of(entries, Can_Be_In_Profile)) return EINVAL;
   std::string text;

@@ -22,6 +22,10 @@ struct Profile_Entry {
 /// False for a text that can't stand there, one with a line break for instance.
 bool Can_Be_In_Profile(const Profile_Entry& entry);
 
+/// True for a value that Read_Profile_String gives back as it was set. One with blanks or quotes
+/// around it is not, nor one that is longer than kProfileBuffer or no UTF-8.
+bool Is_Read_Back_From_Profile(const std::string& value);
+
 /// Sets keys, in one write of the file; of two entries of a key the later one holds. A missing
 /// file, section or key is made; every other line keeps its text and its place. The file is
 /// replaced whole or left as it was. 0 or an errno value: EINVAL when an entry can't stand there.

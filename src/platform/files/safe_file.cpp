@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "platform/files/folder_names.h"
+#include "platform/files/foreign_files.h"
 #include "platform/files/paths.h"
 #include "platform/files/regular_file.h"
 
@@ -40,7 +41,7 @@ std::string& Passing_Folder() {
 }
 
 std::string Random_Mark() {
-  static std::random_device device;
+  static thread_local std::random_device device;
   static constexpr std::string_view kHex = "0123456789abcdef";
   std::string mark;
   for (std::size_t i = 0; i < kMarkLength; ++i) mark += kHex[device() % kHex.size()];
@@ -66,6 +67,10 @@ std::string Follow_Links(std::string path, int& error) {
     std::error_code code;
     const auto target = std::filesystem::read_symlink(path, code);
     if (code) return path;
+    if (Is_Put_By_A_Stranger(path)) {
+      error = EACCES;
+      return path;
+    }
     path = target.is_absolute() ? target.string() : Join_Path(Folder_Of(path), target.string());
   }
   error = ELOOP;

@@ -37,7 +37,8 @@ class Safe_File {
   Safe_File(const Safe_File&) = delete;
   Safe_File& operator=(const Safe_File&) = delete;
 
-  /// Opens the new file beside `path`. Fails where `path` could not be written in place either.
+  /// Opens the new file beside `path`. Fails where `path` could not be written in place either, and
+  /// with EACCES on a link that a stranger has put there (Is_Put_By_A_Stranger).
   int Open(const std::string& path);
   /// Adds bytes. The first error is kept and given back by every later call.
   int Write(std::string_view bytes);

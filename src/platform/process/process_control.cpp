@@ -78,8 +78,8 @@ struct External_Process::State {
 
   void Finish() {
     int waiting = 0;
-    // Something that the program left running may hold the pipe open and go on printing: what
-    // is in the pipe now is all that is waited for.
+    // Something that the program left running may hold the pipe open for a moment: what is in the
+    // pipe now is all that is waited for.
     if (output >= 0 && ::ioctl(output, FIONREAD, &waiting) == 0 && waiting > 0) {
       Take_Output(static_cast<std::size_t>(waiting));
     }
@@ -131,6 +131,8 @@ int External_Process::Start(const Process_Start& start) {
   const std::string mark = New_Mark();
   environment.push_back(mark);
   pid_t pid = -1;
+  // Behind the start this program may have to wait for the processor while the other one runs.
+  state.started = Clock::now();
   const int error = Spawn_Program(
       {start.command, std::move(environment), start.folder, pipe[1], Bond::Group}, pid);
   if (pipe[1] >= 0) ::close(pipe[1]);
@@ -138,7 +140,6 @@ int External_Process::Start(const Process_Start& start) {
   state.pid = pid;
   state.handle = static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
   state.family.emplace(pid, mark);
-  state.started = Clock::now();
   state.running = true;
   return 0;
 }
@@ -156,6 +157,7 @@ bool External_Process::Poll() {
     if (!ended) return true;
   }
   if (!state.ended) state.ended = now;
+  if (!state.end.stopped) state.family->Kill_What_Is_Left();
   state.Finish();
   return false;
 }

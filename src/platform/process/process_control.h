@@ -30,8 +30,8 @@ struct Process_End {
 /// and goes to a file that never grows past its limit: when there is more, the middle is left out
 /// and the file says so. The file is made anew with the first output.
 ///
-/// The program has ended when its own process has. What it leaves running is left alone, unless it
-/// was stopped: then the end is the end of everything that it started.
+/// The program has ended when its own process has. What it leaves running is killed then and not
+/// waited for; of a program that was stopped the end is the end of everything that it started.
 class External_Process {
  public:
   External_Process();

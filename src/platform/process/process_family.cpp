@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <system_error>
@@ -17,6 +18,16 @@ namespace {
 std::string Text_Of_Process(const std::string& number, const char* file) {
   std::string text;
   return Read_Whole_File("/proc/" + number + "/" + file, text) == 0 ? text : std::string();
+}
+
+/// The number that the system gave to a process last; 0 when it does not tell.
+pid_t Last_Number() {
+  std::string load;
+  if (Read_Whole_File("/proc/loadavg", load) != 0) return 0;
+  const auto last = load.rfind(' ');
+  return last == std::string::npos
+             ? 0
+             : static_cast<pid_t>(std::strtol(load.c_str() + last, nullptr, 10));
 }
 
 }  // namespace
@@ -37,13 +48,17 @@ bool Process_Family::Read_Process(const std::string& number, Process& process) {
   return static_cast<bool>(fields >> process.start);
 }
 
-std::vector<Process_Family::Process> Process_Family::All_Processes() {
+std::vector<Process_Family::Process> Process_Family::Younger_Processes() const {
+  // To look at all of them holds up the interface. Numbers are given in rising order, over and
+  // over: one below the program's is older than it unless they have begun anew since.
+  const pid_t first = Last_Number() < program_ ? 0 : program_;
   std::vector<Process> all;
   std::error_code error;
   std::filesystem::directory_iterator entry("/proc", error);
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
     const std::string number = entry->path().filename().string();
     if (number.size() > 9 || number.find_first_not_of("0123456789") != std::string::npos) continue;
+    if (std::stol(number) < first) continue;
     Process process;
     if (Read_Process(number, process)) all.push_back(process);
   }
@@ -84,7 +99,16 @@ std::vector<Process_Family::Process> Process_Family::Members(
 }
 
 bool Process_Family::Signal(int signal, bool only_new) {
-  const std::vector<Process> members = Members(All_Processes());
+  return Send(Members(Younger_Processes()), signal, only_new);
+}
+
+void Process_Family::Kill_What_Is_Left() {
+  constexpr int kTries = 10;  // a process that was just being made is found by the next look
+  for (int i = 0; i < kTries && Send(Members(Younger_Processes()), SIGKILL, false); ++i) {
+  }
+}
+
+bool Process_Family::Send(const std::vector<Process>& members, int signal, bool only_new) {
   if (!only_new) ::kill(-program_, signal);
   bool any_lives = false;
   for (const Process& process : members) {

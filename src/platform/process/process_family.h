@@ -26,6 +26,9 @@ class Process_Family {
   /// Looks for members and sends the signal to each, or only to those not seen before. True when
   /// any was found alive.
   bool Signal(int signal, bool only_new = false);
+  /// Kills what the program has left running, once it has ended by itself: none of it may write to
+  /// files that are read from then on.
+  void Kill_What_Is_Left();
 
  private:
   struct Process {
@@ -34,7 +37,8 @@ class Process_Family {
     unsigned long long start = 0;  // with the number it names one process for good
   };
   static bool Read_Process(const std::string& number, Process& process);
-  static std::vector<Process> All_Processes();
+  std::vector<Process> Younger_Processes() const;
+  bool Send(const std::vector<Process>& members, int signal, bool only_new);
   bool Carries_Mark(pid_t pid) const;
   std::vector<Process> Members(const std::vector<Process>& all) const;
 

@@ -13,20 +13,27 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/process/search_path.h"
+
 namespace barvon {
 namespace {
 
 std::string_view Name_Of_Entry(std::string_view entry) { return entry.substr(0, entry.find('=')); }
 
+/// The search path goes along without its relative entries: in the folder that the program starts
+/// in they would lead to what lies there.
 std::vector<std::string> Environment_With(std::vector<std::string> added) {
+  constexpr std::string_view kSearchPath = "PATH";
   std::vector<std::string> all = std::move(added);
+  if (const auto path = Lasting_Search_Path())
+    all.push_back(std::string(kSearchPath) + "=" + *path);
   const auto own = all.size();
   for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
     const bool replaced = std::any_of(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(own),
                                       [entry](const std::string& other) {
                                         return Name_Of_Entry(other) == Name_Of_Entry(*entry);
                                       });
-    if (!replaced) all.emplace_back(*entry);
+    if (!replaced && Name_Of_Entry(*entry) != kSearchPath) all.emplace_back(*entry);
   }
   return all;
 }

@@ -15,10 +15,11 @@ enum class Bond {
 
 /// One program to be started. No shell reads any of it.
 struct Spawn_Order {
-  std::vector<std::string> command;      // full path of the program, then its arguments
-  std::vector<std::string> environment;  // "NAME=value" on top of what this program has
-  std::string folder;                    // its current directory; empty: the present one
-  int output = -1;                       // becomes its standard output and error; -1: thrown away
+  std::vector<std::string> command;  // full path of the program, then its arguments
+  // "NAME=value" on top of what this program has; of its search path only the folders from the root
+  std::vector<std::string> environment;
+  std::string folder;  // its current directory; empty: the present one
+  int output = -1;     // becomes its standard output and error; -1: thrown away
   Bond bond = Bond::Group;
 };
 

@@ -123,5 +123,19 @@ TEST_F(RecentFiles, The_Fourth_Can_Be_Removed) {
   EXPECT_EQ(Listed(), (Paths{"/a.dui", "/b.dui", "/c.dui", "Not Used"}));
 }
 
+TEST_F(RecentFiles, A_Path_That_Would_Come_Back_As_Another_Is_Left_Out) {
+  WriteRecentFiles("/bay/a.DUI");
+  const std::string settings = Settings();
+  for (const std::string& path :
+       {std::string("/bay/b.ab "), std::string("/bay/\xE9.DUI"), std::string("/bay/a\nb.DUI"),
+        "/" + std::string(251, 'x') + ".DUI"}) {
+    WriteRecentFiles(path);
+    EXPECT_EQ(Settings(), settings) << path;
+  }
+  const std::string longest = "/" + std::string(250, 'x') + ".DUI";
+  WriteRecentFiles(longest);
+  EXPECT_EQ(Listed()[0], longest);
+}
+
 }  // namespace
 }  // namespace barvon

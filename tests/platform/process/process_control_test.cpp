@@ -118,6 +118,7 @@ TEST_F(ProcessControl, A_Program_Gets_No_Input_No_Open_Files_And_Default_Signals
 }
 
 TEST_F(ProcessControl, Added_Environment_Entries_Replace_Those_Of_The_Same_Name) {
+  const Changed_Variable path("PATH", "/usr/bin:/bin");
   ::setenv("BARVON_TEST_VALUE", "old", 1);
   start.environment = {"BARVON_TEST_VALUE=new=1"};
   ASSERT_EQ(Start({"value:BARVON_TEST_VALUE", "value:PATH"}), 0);
@@ -195,14 +196,17 @@ TEST_F(ProcessControl, Output_Is_Thrown_Away_When_No_File_Is_Named) {
   EXPECT_TRUE(Names_In(folder.path()).empty());
 }
 
-TEST_F(ProcessControl, What_Is_Left_Running_Does_Not_Hold_Up_The_End) {
-  ASSERT_EQ(Start({"child:left", "print:done", "exit:4"}), 0);
+TEST_F(ProcessControl, What_Is_Left_Running_Does_Not_Hold_Up_The_End_And_Is_Killed) {
+  ASSERT_EQ(Start({"ignore-term", "child:left", "session:apart", "orphan:alone", "await:left",
+                   "await:apart", "await:alone", "print:done", "exit:4"}),
+            0);
   Wait();
   EXPECT_EQ(process.End().exit_code, 4);
+  EXPECT_FALSE(process.End().stopped);
   EXPECT_EQ(process.Last_Output(), "done\n");
-  ASSERT_TRUE(Came("left"));
-  EXPECT_TRUE(Is_Alive(Pid_In(folder / "left")));
-  ::kill(Pid_In(folder / "left"), SIGKILL);
+  for (const char* left : {"left", "apart", "alone"}) {
+    EXPECT_TRUE(Comes_True([&] { return !Is_Alive(Pid_In(folder / left)); })) << left;
+  }
 }
 
 TEST_F(ProcessControl, Its_End_Is_Told_By_A_Descriptor) {

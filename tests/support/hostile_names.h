@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace barvon::testing {
+
+/// So many names of files that a careless program would trip over, without an extension: blanks,
+/// quotes, line breaks, dashes and dots in front, what shells, glob patterns and mark-up act upon,
+/// letters of many alphabets, bytes that are no UTF-8, up to the length that leaves room for four
+/// more bytes. No two are the same without regard to case. The same seed gives the same names.
+std::vector<std::string> Hostile_Names(unsigned seed, long count);
+
+}  // namespace barvon::testing
