@@ -247,8 +247,9 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
     const std::string states = States();
     std::snprintf(report.files, sizeof report.files, "%s", states.c_str());
     if (states.find('o') != std::string::npos) {
+      bench.told.clear();
       save_.save(bench);
-      report.refails = !Is_New_Again(States(), save_);
+      report.refails = !Is_New_Again(States(), save_) && !Was_Told(bench.told, text);
     }
   }
   report.ended = true;
@@ -283,6 +284,8 @@ std::string Attack::States() const {
 std::set<std::string> Attack::Names() const {
   std::set<std::string> names;
   for (const auto& entry : fs::recursive_directory_iterator(root_)) {
+    // A copy that mending keeps of a former file is no litter, however often it is tried.
+    if (entry.path().extension().string().starts_with(".bak")) continue;
     names.insert(entry.path().string().substr(root_.size() + 1));
   }
   return names;

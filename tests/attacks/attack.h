@@ -17,7 +17,7 @@ struct Attack_Result {
   bool told = false;
   bool ended_badly = false;  // by a signal of its own, or never
   bool killed = false;       // as planned
-  bool refails = false;      // the same save without faults does not give the new files
+  bool refails = false;      // the same save again, without faults, gives no new files or words
   int calls = 0;             // counted, up to the end of the save
   int failed = 0;            // calls that met their fault
   std::vector<std::string> call_names;

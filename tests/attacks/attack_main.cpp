@@ -23,7 +23,8 @@ using namespace barvon::testing;
 
 constexpr char kUsage[] =
     "usage: attack_saves [--save PART-OF-NAME] count\n"
-    "       attack_saves [--save PART-OF-NAME] fail [EVERY]     every so manieth case, all: 1\n"
+    "       attack_saves [--save PART-OF-NAME] fail [EVERY [CASE]]\n"
+    "           every so manieth case, all: 1; those alone whose words have CASE in them\n"
     "       attack_saves [--save PART-OF-NAME] kill COUNT SEED\n"
     "       attack_saves [--save PART-OF-NAME] full [SIZES]     in a mount name space of its own\n";
 
@@ -115,19 +116,22 @@ bool Is_About(const Failing& failing, const std::string& call) {
   return failing.span != Span::Writes_Only || writes || call.find("sync") != std::string::npos;
 }
 
-Tally Fail(Attack& attack, const std::string& name, int every, int& number) {
+Tally Fail(Attack& attack, const std::string& name, int every, const std::string& wanted,
+           int& number) {
   Tally tally;
   for (int call = 1; call <= attack.Learned().calls; ++call) {
     const std::string of = attack.Learned().call_names[static_cast<std::size_t>(call - 1)];
     for (const Failing& failing : kFailings) {
       if (!Is_About(failing, of) || number++ % every != 0) continue;
+      const std::string what =
+          name + ", call " + std::to_string(call) + " " + of + ", " + failing.name;
+      if (what.find(wanted) == std::string::npos) continue;
       Call_Plan plan;
       plan.first = call;
       plan.fault = failing.fault;
       plan.span = failing.span;
       plan.error = failing.error;
-      Add(attack.Run(plan),
-          name + ", call " + std::to_string(call) + " " + of + ", " + failing.name, tally);
+      Add(attack.Run(plan), what, tally);
     }
   }
   return tally;
@@ -199,7 +203,8 @@ int Attack_All(const std::string& root, const std::string& wanted,
       continue;
     }
     Tally tally;
-    if (command == "fail") tally = Fail(attack, name, every, number);
+    if (command == "fail")
+      tally = Fail(attack, name, every, words.size() > 2 ? words[2] : "", number);
     if (command == "full") tally = Fill(attack, name, Number(words, 1, 60));
     if (command == "kill") {
       const auto count = static_cast<int>(attacks.size());

@@ -175,8 +175,10 @@ Attacked_Save Mending() {
                      lay,
                      Open_Sample,
                      [](Attack_Bench& bench) {
-                       const Database_Mended mended =
-                           Mend_Database(bench.In("app"), Check_Database(bench.In("app")));
+                       const Database_Report found = Check_Database(bench.In("app"));
+                       for (const auto& finding : found.findings)
+                         bench.told.push_back(finding.file + " " + finding.text);
+                       const Database_Mended mended = Mend_Database(bench.In("app"), found);
                        if (mended.error != 0) bench.told.push_back("can't mend " + mended.failed);
                      }};
   save.makes_new = false;
