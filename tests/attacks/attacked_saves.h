@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,8 @@ struct Attacked_Save {
   bool makes_new = true;
   /// Settings that could not be written wait for the next that are set.
   bool keeps_settings = true;
+  /// Files that are copies of what another program wrote, which may itself have met the fault.
+  std::map<std::string, std::string> copies = {};
 };
 
 /// Those that need no toolkit, and those of pages, prints and pictures.

@@ -213,26 +213,32 @@ Attacked_Save Batch_Save(const std::string& name, Batch_Command command, const s
 }
 
 Attacked_Save Run_Save() {
-  return {"outputs of a run",
-          {"bay/a.duo", "bay/a.dup", "bay/a.dut", "bay/a.duc", kSettings},
-          [](const Attack_Bench& bench) {
-            Put_Settings(bench);
-            Put_File(bench.In("bay/a.DUI"), Sample_Bytes("Section_404_Zid.DUI"));
-            for (const char* name : {"bay/a.duo", "bay/a.dup", "bay/a.dut", "bay/a.duc"}) {
-              Put_File(bench.In(name), "of an earlier run\r\n");
-            }
-            const std::string solver = bench.In("app/merak32");
-            Put_File(solver,
-                     "#!/bin/sh\n"
-                     "for e in duo dup dut duc; do sed -n 2p Tmpfile.Due > tmpfile.$e; done\n");
-            std::filesystem::permissions(solver, std::filesystem::perms::owner_all);
-          },
-          [](Attack_Bench& bench) {
-            Open_Sample(bench);
-            bench.record->DataSaved = kTrue;
-            bench.record->AlwaysSaveBeforeRun = kFalse;
-          },
-          [](Attack_Bench& bench) { Run_Model(*bench.record); }};
+  Attacked_Save save{
+      "outputs of a run",
+      {"bay/a.duo", "bay/a.dup", "bay/a.dut", "bay/a.duc", kSettings},
+      [](const Attack_Bench& bench) {
+        Put_Settings(bench);
+        Put_File(bench.In("app/Tmpfile.log"), "what a solver printed\n");
+        Put_File(bench.In("bay/a.DUI"), Sample_Bytes("Section_404_Zid.DUI"));
+        for (const char* name : {"bay/a.duo", "bay/a.dup", "bay/a.dut", "bay/a.duc"}) {
+          Put_File(bench.In(name), "of an earlier run\r\n");
+        }
+        const std::string solver = bench.In("app/merak32");
+        Put_File(solver,
+                 "#!/bin/sh\n"
+                 "for e in duo dup dut duc; do sed -n 2p Tmpfile.Due > tmpfile.$e; done\n");
+        std::filesystem::permissions(solver, std::filesystem::perms::owner_all);
+      },
+      [](Attack_Bench& bench) {
+        Open_Sample(bench);
+        bench.record->DataSaved = kTrue;
+        bench.record->AlwaysSaveBeforeRun = kFalse;
+      },
+      [](Attack_Bench& bench) { Run_Model(*bench.record); }};
+  for (const std::string extension : {".duo", ".dup", ".dut", ".duc"}) {
+    save.copies["bay/a" + extension] = "app/tmpfile" + extension;
+  }
+  return save;
 }
 
 }  // namespace
@@ -281,11 +287,12 @@ std::string Sample_Bytes(const std::string& name) {
 }
 
 std::unique_ptr<ProjectRecord> Changed_Sample(const Attack_Bench& bench) {
-  Loaded_Record loaded = Load_Record(BARVON_SAMPLES "/Section_404_Zid.DUI");
-  loaded.record->ProjectTitle = "Changed since it was saved";
-  loaded.record->ProjectFileName = bench.In("bay/a.DUI");
-  loaded.record->BaseFileName = bench.In("bay/a");
-  return std::move(loaded.record);
+  static const Loaded_Record loaded = Load_Record(BARVON_SAMPLES "/Section_404_Zid.DUI");
+  auto record = std::make_unique<ProjectRecord>(*loaded.record);
+  record->ProjectTitle = "Changed since it was saved";
+  record->ProjectFileName = bench.In("bay/a.DUI");
+  record->BaseFileName = bench.In("bay/a");
+  return record;
 }
 
 }  // namespace barvon::testing
