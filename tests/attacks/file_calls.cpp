@@ -98,6 +98,11 @@ long Pass(const char* name, bool counts, Real real, bool is_write = false) {
   }
 }
 
+template <class Real>
+int Call(const char* name, bool counts, Real real, bool is_write = false) {
+  return static_cast<int>(Pass(name, counts, real, is_write));
+}
+
 /// A write of `size` bytes; `real` writes as many as it is told.
 template <class Real>
 ssize_t Pass_Write(const char* name, int descriptor, std::size_t size, Real real) {
@@ -162,41 +167,30 @@ const char* File_Call_Name(int number) {
 
 int File_Calls_Failed() { return failed; }
 
-// The mode is there only with O_CREAT; without it what is read in its place goes unused.
-#define BARVON_MODE(last)                   \
-  va_list list;                             \
-  va_start(list, last);                     \
-  const auto mode = va_arg(list, unsigned); \
+// The last is not always there; what is read in its place then goes unused.
+#define BARVON_LAST(named, Type)        \
+  va_list list;                         \
+  va_start(list, named);                \
+  const auto last = va_arg(list, Type); \
   va_end(list)
 
 int open(const char* path, int flags, ...) {
-  BARVON_MODE(flags);
-  return static_cast<int>(Open_At("open", AT_FDCWD, path, flags, mode));
-}
-int open64(const char* path, int flags, ...) {
-  BARVON_MODE(flags);
-  return static_cast<int>(Open_At("open", AT_FDCWD, path, flags, mode));
+  BARVON_LAST(flags, unsigned);
+  return static_cast<int>(Open_At("open", AT_FDCWD, path, flags, last));
 }
 int openat(int at, const char* path, int flags, ...) {
-  BARVON_MODE(flags);
-  return static_cast<int>(Open_At("openat", at, path, flags, mode));
-}
-int openat64(int at, const char* path, int flags, ...) {
-  BARVON_MODE(flags);
-  return static_cast<int>(Open_At("openat", at, path, flags, mode));
+  BARVON_LAST(flags, unsigned);
+  return static_cast<int>(Open_At("openat", at, path, flags, last));
 }
 int creat(const char* path, mode_t mode) {
   return static_cast<int>(Open_At("creat", AT_FDCWD, path, O_CREAT | O_WRONLY | O_TRUNC, mode));
 }
-int creat64(const char* path, mode_t mode) { return creat(path, mode); }
-
 int close(int descriptor) {
   // The system closes even where it tells of a failure.
   if (!Counts(descriptor)) return static_cast<int>(::syscall(SYS_close, descriptor));
   const long closed = ::syscall(SYS_close, descriptor);
-  return static_cast<int>(Pass("close", true, [closed] { return closed; }));
+  return Call("close", true, [closed] { return closed; });
 }
-
 ssize_t write(int descriptor, const void* bytes, std::size_t size) {
   return Pass_Write("write", descriptor, size, [=](std::size_t count) -> ssize_t {
     return ::syscall(SYS_write, descriptor, bytes, count);
@@ -207,9 +201,6 @@ ssize_t pwrite(int descriptor, const void* bytes, std::size_t size, off_t at) {
     return ::syscall(SYS_pwrite64, descriptor, bytes, count, at);
   });
 }
-ssize_t pwrite64(int descriptor, const void* bytes, std::size_t size, off64_t at) {
-  return pwrite(descriptor, bytes, size, at);
-}
 ssize_t writev(int descriptor, const struct iovec* parts, int count) {
   std::size_t size = 0;
   for (int i = 0; i < count; ++i) size += parts[i].iov_len;
@@ -219,7 +210,6 @@ ssize_t writev(int descriptor, const struct iovec* parts, int count) {
     return ::syscall(SYS_write, descriptor, parts[0].iov_base, first);
   });
 }
-
 ssize_t read(int descriptor, void* bytes, std::size_t size) {
   return Pass("read", Counts(descriptor),
               [=] { return ::syscall(SYS_read, descriptor, bytes, size); });
@@ -228,77 +218,50 @@ ssize_t pread(int descriptor, void* bytes, std::size_t size, off_t at) {
   return Pass("pread", Counts(descriptor),
               [=] { return ::syscall(SYS_pread64, descriptor, bytes, size, at); });
 }
-ssize_t pread64(int descriptor, void* bytes, std::size_t size, off64_t at) {
-  return pread(descriptor, bytes, size, at);
-}
 
 int fsync(int descriptor) {
-  return static_cast<int>(Pass(
-      "fsync", Counts(descriptor), [=] { return ::syscall(SYS_fsync, descriptor); }, true));
+  return Call(
+      "fsync", Counts(descriptor), [=] { return ::syscall(SYS_fsync, descriptor); }, true);
 }
 int fdatasync(int descriptor) {
-  return static_cast<int>(Pass(
-      "fdatasync", Counts(descriptor), [=] { return ::syscall(SYS_fdatasync, descriptor); }, true));
+  return Call(
+      "fdatasync", Counts(descriptor), [=] { return ::syscall(SYS_fdatasync, descriptor); }, true);
 }
 int ftruncate(int descriptor, off_t size) noexcept {
-  return static_cast<int>(Pass(
+  return Call(
       "ftruncate", Counts(descriptor), [=] { return ::syscall(SYS_ftruncate, descriptor, size); },
-      true));
-}
-int ftruncate64(int descriptor, off64_t size) noexcept { return ftruncate(descriptor, size); }
-int truncate(const char* path, off_t size) noexcept {
-  return static_cast<int>(Pass(
-      "truncate", Counts_Path(AT_FDCWD, path), [=] { return ::syscall(SYS_truncate, path, size); },
-      true));
+      true);
 }
 int fchmod(int descriptor, mode_t mode) noexcept {
-  return static_cast<int>(
-      Pass("fchmod", Counts(descriptor), [=] { return ::syscall(SYS_fchmod, descriptor, mode); }));
+  return Call("fchmod", Counts(descriptor),
+              [=] { return ::syscall(SYS_fchmod, descriptor, mode); });
 }
 int flock(int descriptor, int operation) noexcept {
-  return static_cast<int>(Pass("flock", Counts(descriptor),
-                               [=] { return ::syscall(SYS_flock, descriptor, operation); }));
+  return Call("flock", Counts(descriptor),
+              [=] { return ::syscall(SYS_flock, descriptor, operation); });
 }
 int fcntl(int descriptor, int command, ...) {
-  va_list list;
-  va_start(list, command);
-  void* const argument = va_arg(list, void*);
-  va_end(list);
-  return static_cast<int>(Pass("fcntl", Counts(descriptor), [=] {
-    return ::syscall(SYS_fcntl, descriptor, command, argument);
-  }));
+  BARVON_LAST(command, void*);
+  return Call("fcntl", Counts(descriptor),
+              [=] { return ::syscall(SYS_fcntl, descriptor, command, last); });
 }
-int fcntl64(int descriptor, int command, ...) {
-  va_list list;
-  va_start(list, command);
-  void* const argument = va_arg(list, void*);
-  va_end(list);
-  return fcntl(descriptor, command, argument);
-}
-
 int renameat(int from_at, const char* from, int to_at, const char* to) noexcept {
-  return static_cast<int>(Pass("rename", Counts_Path(from_at, from) || Counts_Path(to_at, to), [=] {
-    return ::syscall(SYS_renameat2, from_at, from, to_at, to, 0);
-  }));
+  return Call("rename", Counts_Path(from_at, from) || Counts_Path(to_at, to),
+              [=] { return ::syscall(SYS_renameat2, from_at, from, to_at, to, 0); });
 }
 int rename(const char* from, const char* to) noexcept {
   return renameat(AT_FDCWD, from, AT_FDCWD, to);
 }
 int linkat(int from_at, const char* from, int to_at, const char* to, int flags) noexcept {
-  return static_cast<int>(Pass("link", Counts_Path(from_at, from) || Counts_Path(to_at, to), [=] {
-    return ::syscall(SYS_linkat, from_at, from, to_at, to, flags);
-  }));
+  return Call("link", Counts_Path(from_at, from) || Counts_Path(to_at, to),
+              [=] { return ::syscall(SYS_linkat, from_at, from, to_at, to, flags); });
 }
 int link(const char* from, const char* to) noexcept {
   return linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
 }
-int symlink(const char* target, const char* path) noexcept {
-  return static_cast<int>(Pass("symlink", Counts_Path(AT_FDCWD, path),
-                               [=] { return ::syscall(SYS_symlinkat, target, AT_FDCWD, path); }));
-}
 int unlinkat(int at, const char* path, int flags) noexcept {
-  return static_cast<int>(Pass("unlink", Counts_Path(at, path),
-                               [=] { return ::syscall(SYS_unlinkat, at, path, flags); }));
+  return Call("unlink", Counts_Path(at, path),
+              [=] { return ::syscall(SYS_unlinkat, at, path, flags); });
 }
 int unlink(const char* path) noexcept { return unlinkat(AT_FDCWD, path, 0); }
 int rmdir(const char* path) noexcept { return unlinkat(AT_FDCWD, path, AT_REMOVEDIR); }
@@ -307,11 +270,10 @@ int remove(const char* path) noexcept {
   return result != 0 && errno == EISDIR ? rmdir(path) : result;
 }
 int mkdirat(int at, const char* path, mode_t mode) noexcept {
-  return static_cast<int>(
-      Pass("mkdir", Counts_Path(at, path), [=] { return ::syscall(SYS_mkdirat, at, path, mode); }));
+  return Call("mkdir", Counts_Path(at, path),
+              [=] { return ::syscall(SYS_mkdirat, at, path, mode); });
 }
 int mkdir(const char* path, mode_t mode) noexcept { return mkdirat(AT_FDCWD, path, mode); }
-
 int fstatat(int at, const char* path, struct stat* status, int flags) noexcept {
   return static_cast<int>(Status_At("stat", at, path, status, flags));
 }
@@ -336,13 +298,12 @@ int fstat64(int descriptor, struct stat64* status) noexcept {
 }
 int statx(int at, const char* path, int flags, unsigned mask, struct statx* status) noexcept {
   const bool of_descriptor = *path == '\0';
-  return static_cast<int>(Pass("statx", of_descriptor ? Counts(at) : Counts_Path(at, path), [=] {
-    return ::syscall(SYS_statx, at, path, flags, mask, status);
-  }));
+  return Call("statx", of_descriptor ? Counts(at) : Counts_Path(at, path),
+              [=] { return ::syscall(SYS_statx, at, path, flags, mask, status); });
 }
 int access(const char* path, int mode) noexcept {
-  return static_cast<int>(Pass("access", Counts_Path(AT_FDCWD, path),
-                               [=] { return ::syscall(SYS_faccessat, AT_FDCWD, path, mode); }));
+  return Call("access", Counts_Path(AT_FDCWD, path),
+              [=] { return ::syscall(SYS_faccessat, AT_FDCWD, path, mode); });
 }
 
 // A save bears its time: all are done at one.
@@ -370,6 +331,16 @@ struct dirent* readdir(DIR* open) {
   });
   return entry;
 }
+// The same calls under the names of large files.
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
+int openat64(int at, const char* path, int flags, ...) __attribute__((alias("openat")));
+int creat64(const char* path, mode_t mode) __attribute__((alias("creat")));
+ssize_t pwrite64(int descriptor, const void* bytes, std::size_t size, off64_t at)
+    __attribute__((alias("pwrite")));
+ssize_t pread64(int descriptor, void* bytes, std::size_t size, off64_t at)
+    __attribute__((alias("pread")));
+int ftruncate64(int descriptor, off64_t size) noexcept __attribute__((alias("ftruncate")));
+int fcntl64(int descriptor, int command, ...) __attribute__((alias("fcntl")));
 struct dirent64* readdir64(DIR* open) {
   return reinterpret_cast<struct dirent64*>(readdir(open));
 }
