@@ -1,6 +1,7 @@
 #include "database/database_check.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 #include <optional>
 #include <span>
@@ -34,7 +35,7 @@ std::optional<Lines_Of_File> Read_Lines(const std::string& path) {
   if (!walk.Opened()) return std::nullopt;
   Lines_Of_File file;
   while (walk.Next_Or_Last()) file.lines.push_back(walk.Line());
-  if (Read_Whole_File(*Find_Path(path), file.bytes) != 0) return std::nullopt;
+  if (Read_Whole_File(Path_To_Write(path), file.bytes) != 0) return std::nullopt;
   return file;
 }
 
@@ -269,6 +270,9 @@ Database_Mended Mend_Database(const std::string& folder, const Database_Report& 
     if (error == 0) error = Write_Whole_File(copy, bytes);
     if (error == 0) error = Write_Whole_File(path, mend.bytes);
     if (error != 0) {
+      // A copy of what is there still is not needed.
+      std::string now;
+      if (Read_Whole_File(path, now) == 0 && now == bytes) std::remove(copy.c_str());
       mended.error = error;
       mended.failed = mend.file;
       return mended;

@@ -1,6 +1,7 @@
 #include "database/save_site.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <initializer_list>
 #include <optional>
@@ -33,11 +34,10 @@ struct Appended {
 /// Reads what is to be appended to and ends its last line. 0 or an errno value.
 int Read_For_Appending(const std::string& path, Appended& file) {
   file.path = Path_To_Write(path);
-  if (Find_Path(path)) {
-    std::string bytes;
-    if (const int error = Read_Whole_File(file.path, bytes); error != 0) return error;
-    file.before = bytes;
-  }
+  std::string bytes;
+  const int error = Read_Whole_File(file.path, bytes);
+  if (error != 0 && error != ENOENT) return error;
+  if (error == 0) file.before = bytes;
   file.after = file.before.value_or("");
   if (!file.after.empty() && file.after.back() != '\n' && file.after.back() != '\r') {
     file.after += kLineEnd;
@@ -71,12 +71,16 @@ bool Bring_Into_Step(const std::string& path, std::size_t entries, std::string& 
   return lines == entries * kLinesOfEntry;
 }
 
-void Put_Back(const Appended& file) {
-  if (file.before) {
-    Write_Whole_File(file.path, *file.before);
-  } else {
-    std::remove(file.path.c_str());
-  }
+/// Puts the new bytes of a file onto the disk beside it.
+int Make_Ready(const Appended& file, const std::string& bytes, Safe_File& made) {
+  int error = made.Open(file.path);
+  if (error == 0) error = made.Write(bytes);
+  return error == 0 ? made.Settle() : error;
+}
+
+int Put_Back(const Appended& file, Safe_File& former) {
+  if (file.before) return former.Commit();
+  return std::remove(file.path.c_str()) == 0 ? 0 : errno;
 }
 
 }  // namespace
@@ -114,11 +118,20 @@ Site_Saved Save_Site(const std::string& folder, int place, const std::string& na
   }
   list.after += Site_List_Lines(code, name);
   data.after += Site_Data_Lines(code, record);
-  if (const int error = Write_Whole_File(list.path, list.after)) return {error, kSiteList};
-  if (const int error = Write_Whole_File(data.path, data.after)) {
-    Put_Back(list);
-    return {error, kSiteFile};
+  // All that needs room comes first: between the files there are only their new names then.
+  Safe_File new_list, former_list, new_data;
+  if (const int error = Make_Ready(list, list.after, new_list)) return {error, kSiteList};
+  if (list.before) {
+    if (const int error = Make_Ready(list, *list.before, former_list)) return {error, kSiteList};
   }
+  if (const int error = Make_Ready(data, data.after, new_data)) return {error, kSiteFile};
+  Unsynced_Folders folders;
+  if (const int error = new_list.Commit(&folders)) return {error, kSiteList};
+  if (const int error = new_data.Commit(&folders)) {
+    const bool named = Put_Back(list, former_list) != 0;
+    return {error, kSiteFile, false, named};
+  }
+  for (const auto& [unsynced, error] : folders.Sync()) return {error, kSiteFile};
   return {};
 }
 

@@ -7,11 +7,13 @@
 namespace barvon {
 
 /// What became of a save of a site. `file` is the name of the file that failed, with an errno
-/// value; or the list's, when the name would not come to stand at its place.
+/// value; or the list's, when the name would not come to stand at its place. `named`: the list has
+/// the name all the same and could not be put back.
 struct Site_Saved {
   int error = 0;
   std::string file = {};
   bool out_of_step = false;
+  bool named = false;
 };
 
 /// The lines that a site appends to the list and to the data file, each with its end. Numbers have

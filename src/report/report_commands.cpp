@@ -17,6 +17,7 @@
 #include "platform/ask/message_box.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/qt/printed_file.h"
 #include "platform/qt/session_printer.h"
 #include "platform/text/letter_case.h"
 #include "report/project_report.h"
@@ -106,7 +107,8 @@ void Print_Project_Report(ProjectRecord& record) {
   // The dialog may have changed the paper. Without a range both are 0.
   const Page_Range range{printer.fromPage(), printer.toPage(),
                          printer.pageOrder() == QPrinter::LastPageFirst};
-  if (!Paint_Pages(pages(), range, printer)) {
+  Printed_File printed(printer);
+  if (!Paint_Pages(pages(), range, printer) || printed.Keep() != 0) {
     return Show_Critical("The Report Could Not Be Printed.");
   }
   Port().board.show_note({"Project report printed.", {}});

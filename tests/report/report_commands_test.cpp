@@ -135,6 +135,15 @@ TEST_F(ReportCommands, A_Folder_That_Can_Not_Be_Written_To_Is_Told) {
                 ": No such file or directory.\nA file that was there before is unchanged.");
 }
 
+TEST_F(ReportCommands, A_Print_To_A_File_That_Takes_Nothing_Is_Told) {
+  Open_Sample();
+  print_file_ = "/dev/full";
+  Scripted_Messages messages({Answer::Ok});
+  Print_Project_Report(Project());
+  ASSERT_EQ(messages.shown.size(), 1u);
+  EXPECT_EQ(messages.shown[0].text, "The Report Could Not Be Printed.");
+}
+
 TEST_F(ReportCommands, A_Project_Without_A_File_Is_Not_Saved) {
   bench_.controls().SSOption1(0)->click();
   chosen_ = bench_.folder / "new.html";

@@ -487,6 +487,7 @@ TEST_F(NotePad, A_Long_Print_Shows_How_Far_It_Is_And_Can_Be_Called_Off) {
   QPrinter printer;
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QString::fromStdString(bench.folder / "text.pdf"));
+  Write_Text(bench.folder / "text.pdf", "old");
   int share = 0;
   const auto call_off = [&share](QWidget* window) {
     auto* box = qobject_cast<QProgressDialog*>(window);
@@ -500,7 +501,16 @@ TEST_F(NotePad, A_Long_Print_Shows_How_Far_It_Is_And_Can_Be_Called_Off) {
   EXPECT_EQ(replies.windows, 2);
   EXPECT_GT(share, 0);
   EXPECT_LT(share, 1000);
-  EXPECT_FALSE(Exists(bench.folder / "text.pdf")) << "a part would pass for the whole";
+  EXPECT_EQ(Saved("text.pdf"), "old") << "a part would pass for the whole";
+}
+
+TEST_F(NotePad, A_Print_That_Gets_Nowhere_Is_Not_Taken_For_Done) {
+  frmNotePad& text = Opened("one line\n");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QStringLiteral("/dev/full"));
+  EXPECT_FALSE(text.Print(printer));
+  EXPECT_EQ(printer.outputFileName(), QStringLiteral("/dev/full")) << "as it was chosen";
 }
 
 TEST_F(NotePad, A_Font_Is_Set_In_The_Text_In_Front_Alone) {

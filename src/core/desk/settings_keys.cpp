@@ -1,6 +1,7 @@
 #include "core/desk/settings_keys.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
 #include <utility>
 #include <vector>
@@ -38,6 +39,7 @@ void Put(std::vector<Profile_Entry>& entries, const Profile_Entry& entry) {
 struct Unwritten {
   std::string path;
   bool told = false;
+  int unread = 0;  // errno of a reading that failed
   std::vector<Profile_Entry> entries;
 };
 
@@ -45,7 +47,7 @@ struct Unwritten {
 Unwritten& Unwritten_Settings() {
   static Unwritten unwritten;
   const std::string path = Settings_Path();
-  if (unwritten.path != path) unwritten = {path, false, {}};
+  if (unwritten.path != path) unwritten = {path, false, 0, {}};
   return unwritten;
 }
 
@@ -67,8 +69,19 @@ const std::string* Value_In(const std::vector<Profile_Entry>& entries, const std
   return found == entries.end() ? nullptr : &found->value;
 }
 
+/// Whether the file is there and holds what could not be seen. A folder or a device of its name
+/// holds no settings.
+bool Hides_Settings(int error) { return error != 0 && error != EISDIR && error != ENOTSUP; }
+
 void Tell_Once(Unwritten& unwritten, int error) {
   if (std::exchange(unwritten.told, true)) return;
+  if (unwritten.unread != 0) {
+    Show_Warning("Can't read the settings in " + unwritten.path + ": " +
+                 Failure_Name(Failure_Of_Errno(error)) +
+                 ".\n\nThe file stays as it is.  Recent files and options are kept until BARVON is "
+                 "closed.");
+    return;
+  }
   Show_Warning(
       "Can't write the settings to " + unwritten.path + ": " +
       Failure_Name(Failure_Of_Errno(error)) +
@@ -84,7 +97,10 @@ bool Write_Now(const std::vector<Profile_Entry>& entries) {
   for (const Profile_Entry& kept : unwritten.entries) {
     if (Value_In(entries, kept.section, kept.key) == nullptr) all.push_back(kept);
   }
-  const int error = Write_Profile_Strings(unwritten.path, all);
+  // What is set may rest on defaults that were taken for what could not be read: it must not
+  // replace that, though the file be sound by now.
+  const int error =
+      unwritten.unread != 0 ? unwritten.unread : Write_Profile_Strings(unwritten.path, all);
   if (error == 0) {
     unwritten.entries.clear();
     return true;
@@ -102,11 +118,14 @@ std::string Settings_Path() {
 
 std::string Read_Setting(const std::string& section, const std::string& key,
                          const std::string& fallback) {
-  const Unwritten& unwritten = Unwritten_Settings();
+  Unwritten& unwritten = Unwritten_Settings();
   const std::string* value = Value_In(Collected_Settings().entries, section, key);
   if (value == nullptr) value = Value_In(unwritten.entries, section, key);
   if (value != nullptr) return *value;
-  return Read_Profile_String(unwritten.path, section, key, fallback);
+  int error = 0;
+  std::string read = Read_Profile_String(unwritten.path, section, key, fallback, &error);
+  if (Hides_Settings(error)) unwritten.unread = error;
+  return read;
 }
 
 bool Write_Setting(const std::string& section, const std::string& key, const std::string& value) {

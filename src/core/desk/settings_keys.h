@@ -26,7 +26,8 @@ inline constexpr char kSimTypeKey[] = "SimType";
 /// BARVON.INI in the application directory, under whatever case its name has there.
 std::string Settings_Path();
 
-/// A value of BARVON.INI; `fallback` when there is none.
+/// A value of BARVON.INI; `fallback` when there is none. After a file could not be read it is not
+/// written either: what is set since may rest on a fallback.
 std::string Read_Setting(const std::string& section, const std::string& key,
                          const std::string& fallback);
 

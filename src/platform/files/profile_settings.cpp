@@ -122,9 +122,11 @@ std::string With_Value(const std::string& text, const Profile_Entry& entry) {
 }  // namespace
 
 std::string Read_Profile_String(const std::string& path, const std::string& section,
-                                const std::string& key, const std::string& fallback) {
+                                const std::string& key, const std::string& fallback, int* error) {
   std::string text;
-  if (Read_Whole_File(path, text) != 0) return fallback;
+  const int read = Read_Whole_File(path, text);
+  if (error != nullptr) *error = read == ENOENT ? 0 : read;
+  if (read != 0) return fallback;
   const Place place = Find_Place(text, section, key);
   if (!place.key) return fallback;
   return Value_From(std::string_view(text).substr(place.value, place.value_end - place.value));

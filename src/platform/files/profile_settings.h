@@ -11,9 +11,11 @@ namespace barvon {
 inline constexpr int kProfileBuffer = 255;
 
 /// The value of a key, cut to 255 bytes; `fallback` when the file, section or key is missing.
-/// Blanks around the value and one pair of quotes around it are dropped.
+/// Blanks around the value and one pair of quotes around it are dropped. `error` is told why a file
+/// that is there could not be read, as an errno value; 0 otherwise.
 std::string Read_Profile_String(const std::string& path, const std::string& section,
-                                const std::string& key, const std::string& fallback);
+                                const std::string& key, const std::string& fallback,
+                                int* error = nullptr);
 
 struct Profile_Entry {
   std::string section, key, value;

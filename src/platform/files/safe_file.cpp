@@ -84,16 +84,18 @@ int Write_All(int descriptor, std::string_view bytes) {
       if (errno == EINTR) continue;
       return errno;
     }
+    if (written == 0) return EIO;  // it would go on for ever
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
   return 0;
 }
 
 /// The renaming itself lasts only once the folder is on disk. File systems that can't sync a
-/// folder say EINVAL; that is no failure of the save.
+/// folder say EINVAL, and one may let a person write into a folder and not look: neither is a
+/// failure of the save.
 int Sync_Folder(const std::string& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return 0;
+  if (descriptor < 0) return errno == EACCES ? 0 : errno;
   const int error = ::fsync(descriptor) == 0 || errno == EINVAL ? 0 : errno;
   ::close(descriptor);
   return error;
@@ -132,15 +134,16 @@ int Safe_File::Fail(int error) {
 }
 
 void Safe_File::Discard() {
+  bool gone = true;
   if (descriptor_ >= 0) {
-    ::unlink(working_.c_str());
+    gone = ::unlink(working_.c_str()) == 0 || errno == ENOENT;
     ::close(descriptor_);
     descriptor_ = -1;
   }
-  if (!note_.empty()) {
-    ::unlink(note_.c_str());
-    note_.clear();
-  }
+  settled_ = false;
+  // By the note of a file that can't be removed the next start finds it.
+  if (!note_.empty() && gone) ::unlink(note_.c_str());
+  note_.clear();
 }
 
 int Safe_File::Make_Working_File(mode_t mode) {
@@ -163,7 +166,9 @@ int Safe_File::Make_Working_File(mode_t mode) {
 bool Safe_File::Is_Own_Still() {
   while (::flock(descriptor_, LOCK_EX) != 0 && errno == EINTR) {
   }
-  return ::access(working_.c_str(), F_OK) == 0;
+  // Asked of the file itself: whether its name can be looked at says nothing.
+  struct stat status {};
+  return ::fstat(descriptor_, &status) != 0 || status.st_nlink > 0;
 }
 
 int Safe_File::Open(const std::string& path) {
@@ -198,12 +203,18 @@ int Safe_File::Write(std::string_view bytes) {
   return error == 0 ? 0 : Fail(error);
 }
 
-int Safe_File::Commit(Unsynced_Folders* later) {
+int Safe_File::Settle() {
   if (error_ != 0) return error_;
   if (descriptor_ < 0) return Fail(EBADF);
+  if (std::exchange(settled_, true)) return 0;
   if (const int error = Write_All(descriptor_, pending_); error != 0) return Fail(error);
-  const bool lasts = Folder() != Passing_Folder();
-  if (lasts && ::fsync(descriptor_) != 0) return Fail(errno);
+  pending_.clear();
+  if (Lasts() && ::fsync(descriptor_) != 0) return Fail(errno);
+  return 0;
+}
+
+int Safe_File::Commit(Unsynced_Folders* later) {
+  if (const int error = Settle(); error != 0) return error;
   // Closing may fail too, so it comes before the renaming. A second descriptor keeps the lock
   // until then: without it another start would take the file for abandoned.
   const int lock = ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0);
@@ -213,11 +224,13 @@ int Safe_File::Commit(Unsynced_Folders* later) {
   descriptor_ = -1;
   Discard();
   ::close(lock);
-  if (!lasts) return 0;
+  if (!Lasts()) return 0;
   if (later == nullptr) return Sync_Folder(Folder());
   later->Add(Folder());
   return 0;
 }
+
+bool Safe_File::Lasts() const { return Folder() != Passing_Folder(); }
 
 std::string Safe_File::Folder() const { return Folder_Of(target_); }
 

@@ -42,6 +42,8 @@ class Safe_File {
   int Open(const std::string& path);
   /// Adds bytes. The first error is kept and given back by every later call.
   int Write(std::string_view bytes);
+  /// Brings all bytes onto the disk, so that Commit has only names to change. No bytes follow.
+  int Settle();
   /// Puts the new file in the target's place, with the target's permissions. That this lasts is
   /// waited for here, or left to the caller when `later` is given, under Folder.
   int Commit(Unsynced_Folders* later = nullptr);
@@ -51,11 +53,13 @@ class Safe_File {
  private:
   int Make_Working_File(mode_t mode);
   bool Is_Own_Still();
+  bool Lasts() const;
   int Fail(int error);
   void Discard();
 
   int descriptor_ = -1;
   int error_ = 0;
+  bool settled_ = false;
   std::string target_;
   std::string working_;
   std::string note_;

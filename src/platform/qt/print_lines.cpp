@@ -1,11 +1,11 @@
 #include "platform/qt/print_lines.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+
+#include "platform/qt/printed_file.h"
 
 namespace barvon {
 namespace {
@@ -105,16 +105,10 @@ class Pages {
   bool page_full_ = false, printed_ = false;
 };
 
-void Call_Off(QPrinter& printer, QPainter& painter) {
-  printer.abort();
-  painter.end();
-  const QString file = printer.outputFileName();
-  if (QFileInfo(file).isFile()) QFile::remove(file);
-}
-
 }  // namespace
 
 bool Print_Lines(QPrinter& printer, const Printed_Text& text) {
+  Printed_File file(printer);
   QPainter painter;
   if (!painter.begin(&printer)) return false;
   Pages pages(printer, text, painter);
@@ -124,10 +118,10 @@ bool Print_Lines(QPrinter& printer, const Printed_Text& text) {
     if (!text.go_on || pages.page() - looked < kPagesAtATime) continue;
     looked = pages.page();
     if (text.go_on(static_cast<double>(i) / static_cast<double>(text.lines))) continue;
-    Call_Off(printer, painter);
+    printer.abort();
     return true;
   }
-  return painter.end();
+  return painter.end() && file.Keep() == 0;
 }
 
 int Estimated_Pages(QPrinter& printer, const Printed_Text& text) {

@@ -20,8 +20,8 @@ struct Printed_Text {
 
 /// Prints a text line by line: a line that is wider than the page goes on in the next, a form feed
 /// at its beginning starts a new page. Keeps to the printer's range of pages. False when the
-/// printer can't be written to. One that is called off is no failure; of a file that is printed to
-/// nothing stays.
+/// printer or the file can't be written to. One that is called off is no failure. A file that is
+/// printed to is whole in the end or as it was.
 bool Print_Lines(QPrinter& printer, const Printed_Text& text);
 
 /// How many pages of the printer's range the text fills when none of its lines is wider than the

@@ -119,6 +119,25 @@ TEST_F(SettingsThatCanNotBeWritten, Still_Show_A_File_Among_The_Recent_Ones) {
   EXPECT_EQ(messages.shown.size(), 1U);
 }
 
+TEST_F(SettingsKeys, What_Could_Not_Be_Read_Is_Not_Written_Over_When_The_Disk_Has_Recovered) {
+  Scripted_Messages messages({Answer::Ok});
+  const std::string path = folder_ / "BARVON.INI";
+  // A regular file whose first byte can't be read.
+  std::filesystem::create_symlink("/proc/self/mem", path);
+  EXPECT_EQ(Read_Setting("A", "Listsize", "0"), "0");
+  std::filesystem::remove(path);
+  Write_Text(path, "[A]\r\nListsize=8\r\n");
+  EXPECT_FALSE(Write_Setting("A", "Listsize", "1"));
+  EXPECT_FALSE(Write_Setting("A", "other", "2"));
+  EXPECT_EQ(Settings(), "[A]\r\nListsize=8\r\n");
+  EXPECT_EQ(Read_Setting("A", "Listsize", "0"), "1") << "kept as long as the program runs";
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Can't read the settings in " + path +
+                ": Device fault.\n\nThe file stays as it is.  Recent files and options are kept "
+                "until BARVON is closed.");
+}
+
 TEST_F(SettingsKeys, A_Text_That_Can_Not_Stand_There_Is_No_Fault_Of_The_File) {
   Scripted_Messages messages;
   EXPECT_FALSE(Write_Setting("A", "k", "two\nlines"));

@@ -113,6 +113,19 @@ TEST_F(SafeFile, A_Save_Waits_For_The_File_And_Its_Folder_And_Not_For_Its_Note) 
   Set_Save_Notes_Folder({});
 }
 
+TEST_F(SafeFile, What_Is_Settled_Waits_For_Its_Folder_Alone) {
+  Write_Text(folder_ / "file", "old");
+  Safe_File file;
+  EXPECT_EQ(file.Open(folder_ / "file"), 0);
+  EXPECT_EQ(file.Write("new"), 0);
+  EXPECT_EQ(file.Settle(), 0);
+  EXPECT_EQ(Read_Text(folder_ / "file"), "old");
+  const Disk_Calls calls;
+  EXPECT_EQ(file.Commit(), 0);
+  EXPECT_EQ(calls.Waits(), 1);
+  EXPECT_EQ(Read_Text(folder_ / "file"), "new");
+}
+
 TEST_F(SafeFile, Several_Files_Of_A_Folder_Wait_For_It_Once) {
   const Disk_Calls calls;
   Unsynced_Folders folders;
