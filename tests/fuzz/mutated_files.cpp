@@ -33,7 +33,7 @@ namespace {
 using namespace barvon::fuzz;
 
 constexpr std::uint64_t kFixedSeed = 20'260'101;
-constexpr int kHoldEvery = 4;        // what must hold takes several loads
+constexpr int kHoldEvery = 8;        // what must hold takes several loads
 constexpr int kLongestSeconds = 10;  // of processor time; then the input is stopped
 constexpr double kLimitMs = 100;
 

@@ -52,6 +52,7 @@ constexpr std::string_view kLetters[] = {std::string_view("\0", 1),
 
 class Mutation {
  public:
+  // One draw a statement: the order within an expression is the compiler's.
   Mutation(std::span<const std::string> samples, std::uint64_t seed)
       : samples_(samples), random_(seed), text_(samples[Any(samples.size())]) {}
 
@@ -83,13 +84,11 @@ class Mutation {
   void Change() {
     switch (Any(16)) {
       case 0:
-        if (!text_.empty()) text_[Any(text_.size())] = Byte();
-        break;
       case 1:
-        if (!text_.empty()) text_[Any(text_.size())] ^= static_cast<char>(1 << Any(8));
+        Change_Byte();
         break;
       case 2:
-        text_.erase(Place(), Any(40));
+        Erase();
         break;
       case 3:
         Cut();
@@ -117,10 +116,10 @@ class Mutation {
         Lengthen_Line();
         break;
       case 12:
-        text_.insert(Place(), 1 + Any(12), '\0');
+        Insert(std::string(1 + Any(12), '\0'));
         break;
       case 13:
-        text_.insert(Place(), kLetters[Any(std::size(kLetters))]);
+        Insert(kLetters[Any(std::size(kLetters))]);
         break;
       case 14:
         Encode();
@@ -130,14 +129,25 @@ class Mutation {
     }
   }
 
+  void Insert(std::string_view letters) { text_.insert(Place(), letters); }
+  void Change_Byte() {
+    if (text_.empty()) return;
+    char& byte = text_[Any(text_.size())];
+    byte = Any(2) == 0 ? Byte() : static_cast<char>(byte ^ 1 << Any(8));
+  }
+  void Erase() {
+    const std::size_t at = Place();
+    text_.erase(at, Any(40));
+  }
   /// Mostly near the end, where a file that is cut may still pass for a whole one.
   void Cut() {
     const std::size_t size = text_.size();
-    text_.resize(Any(2) == 0 ? Any(size + 1) : size - std::min(size, Any(200)));
+    const bool anywhere = Any(2) == 0;
+    text_.resize(anywhere ? Any(size + 1) : size - std::min(size, Any(200)));
   }
   void Double() {
-    const std::size_t from = Place();
-    text_.insert(Place(), text_.substr(from, Any(400)));
+    const std::size_t from = Place(), to = Place();
+    text_.insert(to, text_.substr(from, Any(400)));
     if (Any(20) == 0) text_ += text_.substr(0, 300'000);
   }
   void Drop_Line() {
@@ -178,9 +188,9 @@ class Mutation {
   }
   void Lengthen_Line() {
     constexpr std::size_t kLengths[] = {100, 1'000, 10'000, 100'000};
-    constexpr std::string_view kFill = "0 9\"a,\t-";
-    const std::size_t most = Any(10) == 0 ? std::size(kLengths) : 2;
-    text_.insert(Place(), kLengths[Any(most)], kFill[Any(kFill.size())]);
+    constexpr std::string_view kFill = "0 9\"a,\t-\n";
+    const std::size_t length = kLengths[Any(Any(10) == 0 ? std::size(kLengths) : 2)];
+    Insert(std::string(length, kFill[Any(kFill.size())]));
   }
   void Encode() {
     std::string other;
@@ -206,7 +216,8 @@ class Mutation {
     const std::string& other = samples_[Any(samples_.size())];
     const std::size_t size = Any(2) == 0 ? Any(300) : other.size();
     const std::size_t from = Any(other.size() + 1);
-    text_.replace(Place(), Any(300), other.substr(from, size));
+    const std::size_t place = Place();
+    text_.replace(place, Any(300), other.substr(from, size));
   }
 
   std::span<const std::string> samples_;

@@ -139,8 +139,8 @@ void Read_Pattern(std::string_view bytes) {
          "a point where the pattern has one");
   std::string digits = text;
   std::erase(digits, ',');
-  const std::size_t places =
-      pattern.find('.') == std::string_view::npos ? 0 : pattern.size() - pattern.find('.') - 1;
+  const std::string_view decimals = pattern.substr(std::min(pattern.find('.'), pattern.size()));
+  const auto places = std::ranges::count_if(decimals, [](char c) { return c == '#' || c == '0'; });
   // Rounded on 15 digits, half away from zero.
   const double unit = std::pow(10.0, -static_cast<double>(places));
   Demand(std::abs(Lenient_Number(digits) - value) <= 0.5001 * unit + 1e-14 * std::abs(value),

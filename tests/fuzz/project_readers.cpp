@@ -202,11 +202,11 @@ void Hold_Dilution(std::string_view bytes) {
 }
 
 constexpr Reader kReaders[] = {
-    {"project", 6, Projects, Open_Project_Bytes, Hold_Project, nullptr},
+    {"project", 4, Projects, Open_Project_Bytes, Hold_Project, nullptr},
     {"project_lines", 0, Patches, Open_Project_Bytes, Hold_Project, Patched_Project},
     {"columns", 0, Short_Columns, Read_Few_Columns, nullptr, nullptr},
     {"exact_values", 0, Exact_Lines, Apply_Exact_Lines, nullptr, nullptr},
-    {"dilution", 12, Dilution_Lists, Open_Dilution, Hold_Dilution, nullptr},
+    {"dilution", 22, Dilution_Lists, Open_Dilution, Hold_Dilution, nullptr},
 };
 
 }  // namespace

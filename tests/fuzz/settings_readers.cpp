@@ -101,9 +101,9 @@ void Read_Tips(std::string_view bytes) {
 }
 
 constexpr Reader kReaders[] = {
-    {"settings", 9, Settings, Read_Settings, Hold_Settings, nullptr},
-    {"materials", 7, Libraries, Read_Library, nullptr, nullptr},
-    {"tips", 4, Tips, Read_Tips, nullptr, nullptr},
+    {"settings", 14, Settings, Read_Settings, Hold_Settings, nullptr},
+    {"materials", 10, Libraries, Read_Library, nullptr, nullptr},
+    {"tips", 5, Tips, Read_Tips, nullptr, nullptr},
 };
 
 }  // namespace

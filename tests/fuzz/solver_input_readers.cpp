@@ -29,7 +29,7 @@ void Read_Marker(std::string_view bytes) {
 }
 
 constexpr Reader kReaders[] = {
-    {"model_input", 10, Inputs, Read_Input, nullptr, nullptr},
+    {"model_input", 12, Inputs, Read_Input, nullptr, nullptr},
     {"marker", 2, Markers, Read_Marker, nullptr, nullptr},
 };
 

@@ -104,7 +104,7 @@ void Hold_Content(std::string_view bytes) {
 }
 
 constexpr Reader kReaders[] = {
-    {"grid_csv", 8, Csv_Files, Read_Csv, Hold_Csv, nullptr},
+    {"grid_csv", 14, Csv_Files, Read_Csv, Hold_Csv, nullptr},
     {"clipboard", 0, Tab_Texts, Read_Clipboard, Hold_Clipboard, nullptr},
     {"text", 0, Texts, Read_Content, Hold_Content, nullptr},
 };
