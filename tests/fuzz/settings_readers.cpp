@@ -74,15 +74,15 @@ std::vector<std::string> Libraries() {
       "[Material Properties Barge]\r\nListsize=31\r\nFraction31=Clumps 1 2 3 4 5\r\n"};
 }
 
+/// A screen reads the library of its vessel.
 void Read_Library(std::string_view bytes) {
   Put(kSettingsFile, bytes);
-  for (const char* section : {kHopperLibrary, kBargeLibrary}) {
-    Material_Library library = Read_Material_List(section);
-    Demand(library.entries.size() <= kMaxLibraryEntries, "a library has an end");
-    constexpr const char* kSeeds[] = {"SAND", "SILT"};
-    Show_Material_List(library, kSeeds);
-    for (const std::string& entry : library.entries) Parse_Material(entry);
-  }
+  Material_Library library =
+      Read_Material_List(bytes.size() % 2 == 0 ? kHopperLibrary : kBargeLibrary);
+  Demand(library.entries.size() <= kMaxLibraryEntries, "a library has an end");
+  constexpr const char* kSeeds[] = {"SAND", "SILT"};
+  Show_Material_List(library, kSeeds);
+  for (const std::string& entry : library.entries) Parse_Material(entry);
 }
 
 // ---- Tips

@@ -85,7 +85,7 @@ void Hold_Content(std::string_view bytes) {
   Text_Rows rows(bytes.size());
   rows.Add(bytes);
   rows.Finish();
-  std::size_t place = 0;
+  std::size_t place = rows.Row_Of(0).start;  // behind a byte order mark
   for (std::size_t i = 0; i < rows.Rows(); ++i) {
     const Text_Rows::Row row = rows.Row_Of(i);
     Demand(row.start == place && row.end >= row.start && row.next >= row.end, "rows follow");
