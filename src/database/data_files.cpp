@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <set>
 
 #include "core/number_text.h"
 #include "core/text_tools.h"
@@ -206,6 +207,22 @@ bool Find_Velocity(const std::string& folder, ProjectRecord& record) {
     return true;
   }
   return false;
+}
+
+int Months_Missing(const std::string& folder, double code) {
+  Line_Walk walk(Join_Path(folder, kVelocityFile));
+  std::set<int> months;
+  const auto lines_behind = [](const std::string&) { return kVelocityLinesBehind; };
+  if (Walk_To(walk, code, lines_behind)) {
+    for (int place = 1; place <= kMonths && walk.Next(); ++place) {
+      const double month = Number_In(walk.Line(), kMonth);
+      if (!walk.Skip(2)) break;
+      if (month >= 1 && month <= kMonths && month == Int(month)) {
+        months.insert(static_cast<int>(month));
+      }
+    }
+  }
+  return kMonths - static_cast<int>(months.size());
 }
 
 bool Find_Material(const std::string& folder, ProjectRecord& record) {

@@ -42,6 +42,8 @@ bool Find_Site(const std::string& folder, ProjectRecord& record);
 /// A site and a month give a two-point profile; what a whole field was
 /// filled with is forgotten.
 bool Find_Velocity(const std::string& folder, ProjectRecord& record);
+/// How many of the twelve months Find_Velocity does not find for a site's code, by one walk.
+int Months_Missing(const std::string& folder, double code);
 /// A material fills the fractions with their flags, volume, moisture content and, where they have
 /// one, the site's water density. The bulk density is 0 then, or the next load would compute the
 /// water from it.

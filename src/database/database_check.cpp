@@ -154,7 +154,9 @@ class Database_Checker {
     report.findings.insert(report.findings.end(), scan.findings.begin(), scan.findings.end());
     if (&layout == &kVesselLayout) Compare_Openings(file->lines, scan);
     if (!edits.empty()) report.mends.push_back({layout.file, Edited_Bytes(file->bytes, edits)});
-    for (std::size_t i = 0; names && i < names->size(); ++i) {
+    // A file has no place for the code of an entry beyond the most; the list's check tells of it.
+    const std::size_t looked_for = names ? std::min<std::size_t>(names->size(), kMostEntries) : 0;
+    for (std::size_t i = 0; i < looked_for; ++i) {
       const std::string missing = finds(Code_Of_Place(static_cast<int>(i)));
       if (missing.empty()) continue;
       // A site that was added on the screen has no currents.
@@ -202,12 +204,7 @@ class Database_Checker {
     return Find_Site(folder_, *record_) ? "" : "the site is not found";
   }
   std::string Finds_Months(double code) {
-    record_->SelectedSiteCode = code;
-    std::size_t missing = 0;
-    for (int month = 1; month <= kMonths; ++month) {
-      record_->SelectedMonth = month;
-      if (!Find_Velocity(folder_, *record_)) ++missing;
-    }
+    const auto missing = static_cast<std::size_t>(Months_Missing(folder_, code));
     if (missing == 0) return "";
     return Counted(missing, "month") + (missing == 1 ? " is" : " are") + " not found";
   }

@@ -1,7 +1,7 @@
 #include "database/record_mends.h"
 
 #include <algorithm>
-#include <optional>
+#include <map>
 #include <set>
 
 #include "database/data_columns.h"
@@ -19,20 +19,23 @@ struct Walked {
   Lines lines;
 };
 
-/// What the walk to a site comes upon. The last line does not count as read.
-std::optional<Walked> Walk_To_Site(const Lines& lines, double code) {
+/// What the walk comes upon for each place of the list: it goes the same way for all of them. The
+/// last line does not count as read.
+std::map<int, Walked> Walked_Sites(const Lines& lines) {
+  std::map<int, Walked> sites;
+  std::set<int> met;
   for (std::size_t at = 0; at + 1 < lines.size();) {
     const std::size_t end =
         at + 1 + static_cast<std::size_t>(Site_Lines_Behind(Points_In(lines[at])));
-    if (Number_In(lines[at], data_columns::kCode) == code) {
-      if (end >= lines.size()) return std::nullopt;
+    const int place = Place_Of_Code(Number_In(lines[at], data_columns::kCode));
+    if (place >= 0 && met.insert(place).second && end < lines.size()) {
       const auto begin = lines.begin();
-      return Walked{
+      sites[place] = {
           at, {begin + static_cast<std::ptrdiff_t>(at), begin + static_cast<std::ptrdiff_t>(end)}};
     }
     at = end;
   }
-  return std::nullopt;
+  return sites;
 }
 
 /// Chooses the mends of a scanned file.
@@ -129,22 +132,27 @@ class Mend_Choice {
   /// Whether the walk finds after the edits what it found before, but for the sites that are
   /// mended, and nothing more than they and records that are whole.
   bool Keeps_The_Walk(const std::vector<Line_Edit>& edits) const {
-    if (&scan_.Layout() != &kSiteLayout) return true;
-    const Lines edited = Edited_Lines(scan_.Lines(), edits);
+    if (&scan_.Layout() != &kSiteLayout || edits.empty()) return true;
+    const auto before = Walked_Sites(scan_.Lines());
+    const auto after = Walked_Sites(Edited_Lines(scan_.Lines(), edits));
     const std::set<std::size_t> sound = Sound_Records(edits);
-    for (int place = 0; place < kMostEntries; ++place) {
-      const auto before = Walk_To_Site(scan_.Lines(), Code_Of_Place(place));
-      const auto after = Walk_To_Site(edited, Code_Of_Place(place));
-      const bool was_misread = before && std::ranges::any_of(edits, [&](const Line_Edit& edit) {
-                                 return before->first >= edit.first && before->first < edit.end;
-                               });
-      if (before && !was_misread) {
-        if (!after || after->lines != before->lines) return false;
-      } else if (after && !sound.contains(after->first)) {
-        return false;
-      }
-    }
-    return true;
+    const auto was_misread = [&](const Walked& site) {
+      return std::ranges::any_of(edits, [&](const Line_Edit& edit) {
+        return site.first >= edit.first && site.first < edit.end;
+      });
+    };
+    const auto stays = [&](const auto& place_and_site) {
+      const auto& [place, site] = place_and_site;
+      const auto same = after.find(place);
+      return was_misread(site) || (same != after.end() && same->second.lines == site.lines);
+    };
+    const auto is_sound = [&](const auto& place_and_site) {
+      const auto& [place, site] = place_and_site;
+      const auto same = before.find(place);
+      const bool is_kept = same != before.end() && !was_misread(same->second);
+      return is_kept || sound.contains(site.first);
+    };
+    return std::ranges::all_of(before, stays) && std::ranges::all_of(after, is_sound);
   }
 
   /// Where the records begin after the edits that are in columns and whole.

@@ -67,13 +67,12 @@ bool Record_Scan::Begins_Free(std::size_t at) const {
   return Place_Of_Code(numbers[0]) >= 0 && Is_Whole(numbers[1], kMaxDensityPoints);
 }
 
-bool Record_Scan::Only_Blank_From(std::size_t at) const {
-  return std::all_of(lines_.begin() + static_cast<std::ptrdiff_t>(at), lines_.end(),
-                     [](const std::string& line) { return Trimmed(line).empty(); });
-}
-
 void Record_Scan::Scan() {
-  while (at_ < lines_.size() && !Only_Blank_From(at_)) {
+  const auto last_text = std::find_if(lines_.rbegin(), lines_.rend(), [](const std::string& line) {
+    return !Trimmed(line).empty();
+  });
+  const auto text_end = static_cast<std::size_t>(lines_.rend() - last_text);
+  while (at_ < text_end) {
     const int place = Place_Of_Code(Number_In(lines_[at_], kCode));
     if (Begins_Free(at_)) {
       Take_Record(Place_Of_Code(Leading_Numbers(lines_[at_], 1).front()));

@@ -50,7 +50,6 @@ class Record_Scan {
   std::string Fault(const std::string& line, std::span<const Line_Columns> columns) const;
   void Look_For_A_Record();
   bool Begins_Free(std::size_t at) const;
-  bool Only_Blank_From(std::size_t at) const;
   int Place_At(std::size_t at) const;
   void Find(std::size_t at, const std::string& text, bool remark = false);
 

@@ -57,6 +57,10 @@ Place Find_Place(std::string_view text, std::string_view section, std::string_vi
     std::size_t end = feed == std::string_view::npos ? text.size() : feed;
     if (end > at && text[end - 1] == '\r') --end;
     const std::string_view line = text.substr(at, end - at);
+    if (line.empty()) {
+      at = next;
+      continue;
+    }
     if (const auto heading = Heading(line)) {
       if (place.section) return place;
       place.section = Names(*heading, section);

@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Reads what no program should have written, under the address and undefined-behaviour checks:
+# mutated files with a fixed seed and with one of the day, then inputs that coverage leads through
+# every reader. Ends with 1 on any crash, on anything that does not hold, and on an input that takes
+# more than 100 ms of processor time.
+#
+#   tests/fuzz/run.sh [MINUTES] [FILES]
+#
+# MINUTES for each reader that coverage leads, 2 unless told; 0 leaves them out. FILES that are
+# mutated for each of the two seeds, 100000 unless told; 0 leaves them out. BARVON_SEED is the seed
+# of the day unless set; BARVON_READERS names the readers, all unless set. What is found stays in
+# build/fuzz/finds.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+. packaging/packages.sh
+. packaging/build.sh
+
+minutes="${1:-2}"
+files="${2:-100000}"
+seed="${BARVON_SEED:-$(date +%Y%m%d)}"
+
+barvon_install_packages packaging/debian-packages.txt
+barvon_install_packages packaging/debian-packages.txt proof
+barvon_build fuzz mutated_files led_inputs
+
+programs="$PWD/build/fuzz/bin"
+corpora="$PWD/build/fuzz/corpora"
+finds="$PWD/build/fuzz/finds"
+dictionary="$PWD/tests/fuzz/letters.dict"
+TMPDIR=$(mktemp -d -p "$([ -d /dev/shm ] && echo /dev/shm || echo /tmp)")
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+failed=0
+
+if [ "$files" -gt 0 ]; then
+  for each in 20260101 "$seed"; do
+    nice -n 19 "$programs/mutated_files" --count "$files" --seed "$each" || failed=1
+  done
+fi
+
+if [ "$minutes" != 0 ]; then
+  mkdir -p "$finds"
+  "$programs/mutated_files" --samples "$corpora"
+  printf '%-14s %10s %8s %8s %8s %8s\n' reader runs edges corpus KB finds
+  for reader in ${BARVON_READERS:-$("$programs/mutated_files" --names)}; do
+    [ "$reader" != project ] || continue # project_lines reads the same, by its lines
+    corpus="$corpora/$reader"
+    log="$TMPDIR/log"
+    before=$(find "$finds" -name "$reader-*" | wc -l)
+    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
+      -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
+      -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
+      { failed=1 && tail -n 40 "$log"; }
+    # Of two inputs that reach the same edges the shorter one stays.
+    mkdir "$TMPDIR/least"
+    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" -merge=1 "$TMPDIR/least" "$corpus" \
+      >/dev/null 2>&1 || failed=1
+    rm -rf "$corpus"
+    mv "$TMPDIR/least" "$corpus"
+    printf '%-14s %10s %8s %8s %8s %8s\n' "$reader" \
+      "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" \
+      "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)" \
+      "$(find "$corpus" -type f | wc -l)" "$(du -sk --apparent-size "$corpus" | cut -f1)" \
+      "$(($(find "$finds" -name "$reader-*" | wc -l) - before))"
+  done
+fi
+exit "$failed"

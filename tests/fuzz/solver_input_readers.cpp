@@ -1,0 +1,40 @@
+#include "due_reader.h"
+#include "echo_outputs.h"
+#include "fuzz/readers.h"
+
+namespace barvon::fuzz {
+namespace {
+
+std::vector<std::string> Inputs() { return Files_Of(BARVON_TEST_DATA "/model_input", ".due"); }
+std::vector<std::string> Markers() { return {"/data/site.DUE\r\n", "site.due"}; }
+
+void Read_Input(std::string_view bytes) {
+  try {
+    const echo::Model_Input input = echo::Read_Model_Input("site.due", std::string(bytes));
+    echo::Listing(input);
+    echo::Grid_Lines(input);
+    echo::Time_Lines(input);
+    echo::Depth_Lines(input);
+  } catch (const echo::Refusal&) {
+    // In words, with the line: how an input ends that is none.
+  }
+}
+
+void Read_Marker(std::string_view bytes) {
+  try {
+    echo::Read_Marker("KOLBREE.TMP", std::string(bytes));
+  } catch (const echo::Refusal&) {
+    // As above.
+  }
+}
+
+constexpr Reader kReaders[] = {
+    {"model_input", 12, Inputs, Read_Input, nullptr, nullptr},
+    {"marker", 2, Markers, Read_Marker, nullptr, nullptr},
+};
+
+}  // namespace
+
+std::span<const Reader> Solver_Input_Readers() { return kReaders; }
+
+}  // namespace barvon::fuzz
