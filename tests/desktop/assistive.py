@@ -12,6 +12,8 @@ import pyatspi  # noqa: E402
 
 PATIENCE = 20.0  # seconds that a window may take to come up
 
+MAIN = "BARVON - "  # what the main window's title starts with
+
 
 class Missing(Exception):
     """What was waited for did not come."""
@@ -102,8 +104,13 @@ def act(node, action):
     try:
         actions.doAction(names.index(action))
     except GLib.Error as error:
-        if "imeout" not in error.message and "did not receive a reply" not in error.message.lower():
+        if not no_answer(error):
             raise
+
+
+def no_answer(error):
+    """Whether the program was asked and has not answered yet."""
+    return "imeout" in error.message or "did not receive a reply" in error.message.lower()
 
 
 class Program:
@@ -130,7 +137,8 @@ class Program:
         def look():
             for window in self.windows():
                 if window.name == title or title[-1] == " " and window.name.startswith(title):
-                    return window
+                    if title != MAIN or role(window) == "frame":
+                        return window
             return None
 
         try:
@@ -140,7 +148,7 @@ class Program:
             raise Missing(f"a window '{title}'; there are {titles}") from None
 
     def main(self):
-        return self.window("BARVON - ")
+        return self.window(MAIN)
 
     def gone(self, title):
         wait_for(f"the end of window '{title}'",
@@ -175,8 +183,11 @@ class Program:
 
     def type_into(self, node, text):
         """Replaces the text of a field."""
-        if not node.queryEditableText().setTextContents(text):
-            raise Missing(f"'{node.name}' takes no text")
+        try:
+            node.queryEditableText().setTextContents(text)
+        except GLib.Error as error:
+            if not no_answer(error):  # a box about the text came up
+                raise
         wait_for(f"'{text}' in '{node.name}', which holds '{text_of(node)}'",
                  lambda: text_of(node) == text)
 

@@ -10,7 +10,7 @@ import subprocess
 import sys
 import time
 
-from assistive import Missing, Program, children, find, is_seen, role, states, walk
+from assistive import Missing, Program, children, find, role, states, text_of, wait_for, walk
 from spoken_faults import spoken_faults
 
 
@@ -27,8 +27,11 @@ class Walk:
         self.controls += controls
         print(f"{window.name}{', ' if state else ''}{state}: {controls} controls", flush=True)
         for fault in faults:
-            print(f"    {fault}", flush=True)
-            self.faults.append(fault)
+            self.fault(fault)
+
+    def fault(self, words):
+        print(f"    {words}", flush=True)
+        self.faults.append(words)
 
     def look_at_tabs(self, window):
         bars = [n for n, _ in walk(window) if n is not None and role(n) == "page tab list"]
@@ -189,11 +192,11 @@ class Walk:
 
     def depth_grid(self):
         window = self.opened(self.edit("Site Description"))
-        for box in ("Variable Depth",):
+        for box in ("Specify Variable Depth Grid?",):
             node = find(window, "check box", box)
             if node is not None and "checked" not in states(node):
                 self.program.press(window, box, "check box", "Toggle")
-        grid = self.opened(lambda: self.program.press(window, "Variable Depth Grid"))
+        grid = self.opened(lambda: self.program.press(window, "Define Grid"))
         self.look(grid, "over the site description")
         self.leave(grid)
         self.leave(window)
@@ -201,7 +204,7 @@ class Walk:
     def tools(self):
         self.any_screen(self.tool("Graphical Site Grid"))
         self.dilution()
-        self.any_screen(lambda: self.board("Update Database"))
+        self.any_screen(self.tool("Database"), "Close")
         self.any_screen(self.tool("Check Database Files..."), "Close")
         self.text()
         self.help()
@@ -219,10 +222,18 @@ class Walk:
         self.program.menu_of(window, "File", "Close")
         window = self.opened(self.tool("Open Text File..."))
         field = self.program.control(window, "text", "File name:")
-        self.program.type_into(field, os.path.join(self.folder, "dspsites.dat"))
-        window = self.opened(lambda: self.program.press(window, "Open"))
-        self.look(window, "a file")
-        self.program.menu_of(window, "File", "Close")
+        self.program.type_into(field, os.path.join(self.folder, "walk.duo"))
+        before = [w.name for w in self.program.windows()]
+        self.program.press(window, "Open")
+        self.program.gone(window.name)
+        text = wait_for("the text's window", lambda: [
+            w for w in self.program.windows() if w.name not in before])[0]
+        self.look(text, "a file")
+        body = self.program.control(text, "text", "Text of the file")
+        with open(os.path.join(self.folder, "walk.duo"), encoding="utf-8") as file:
+            if text_of(body) != file.read():
+                self.fault(f"the text of the file is told as '{text_of(body)}'")
+        self.program.menu_of(text, "File", "Close")
 
     def help(self):
         self.program.menu("Help", "Contents")
@@ -231,22 +242,35 @@ class Walk:
         self.program.key("Escape")
 
     def wizard(self):
+        """Through all pages, with the boxes and screens that come between them."""
         window = self.opened(lambda: self.board("Data Wizard"))
         for page in range(8):
             self.look(window, f"page {page + 1}")
-            if page == 7:
-                break
-            self.program.press(window, "Next >")
-            for _ in range(10):
-                time.sleep(0.1)
-                if any(role(w) == "alert" for w in self.program.windows()):
-                    self.answer("No")
+            if page < 7:
+                self.go_on(window)
         self.leave(window)
 
+    def go_on(self, wizard):
+        step = wizard.name
+        self.program.press(wizard, "Next >")
+        for _ in range(200):
+            if wizard.name != step:
+                return
+            for window in self.program.windows():
+                if role(window) == "alert":
+                    self.answer("Yes" if find(window, "push button", "Yes") else "OK")
+                elif role(window) == "dialog" and "active" in states(window) and (
+                        find(window, "push button", "OK")):
+                    self.leave(window, "OK")
+            time.sleep(0.1)
+        raise Missing(f"the step behind {step}")
+
     def errors(self):
-        window = self.opened(self.edit("Error Check"))
-        self.look(window)
-        self.leave(window, "Close")
+        self.program.menu("File", "New")
+        time.sleep(0.5)
+        self.program.press(self.program.main(), "General Open Water Disposal Analysis",
+                           "radio button", "Toggle")
+        self.any_screen(self.edit("Error Check"), "Close")
 
 
 def main():

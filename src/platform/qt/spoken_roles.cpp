@@ -2,9 +2,11 @@
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QKeySequence>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 
@@ -38,6 +40,15 @@ class Spoken_Pages : public QAccessibleWidget {
   }
 };
 
+/// Whether a window that is to be answered first keeps the control from being clicked. An action
+/// that comes from the bus would pass it by.
+bool Waits_For_A_Box(const QWidget* control) {
+  const QWidget* box = QApplication::activeModalWidget();
+  const QWidget* at = control;
+  while (at != nullptr && at != box) at = at->parentWidget();
+  return box != nullptr && at == nullptr;
+}
+
 /// A button that is pressed or a choice that is made as by a click. The toolkit only turns the
 /// choice over, which its screen does not hear of.
 class Spoken_Button : public QAccessibleWidget {
@@ -56,6 +67,9 @@ class Spoken_Button : public QAccessibleWidget {
   }
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
+    if (const auto* push = qobject_cast<QPushButton*>(object())) {
+      state.defaultButton = push->isDefault();
+    }
     if (role() == QAccessible::Button) return state;
     state.checkable = true;
     state.checked = Button().isChecked();
@@ -69,9 +83,13 @@ class Spoken_Button : public QAccessibleWidget {
   void doAction(const QString& name) override {
     if (name != action_) return QAccessibleWidget::doAction(name);
     // Later, for it may bring up a window that waits for an answer.
-    if (Button().isEnabled()) {
-      QMetaObject::invokeMethod(object(), "click", Qt::QueuedConnection);
-    }
+    auto* button = static_cast<QAbstractButton*>(object());
+    QMetaObject::invokeMethod(
+        button,
+        [button] {
+          if (!Waits_For_A_Box(button)) button->click();
+        },
+        Qt::QueuedConnection);
   }
 
  private:
@@ -88,6 +106,10 @@ QAccessibleInterface* Spoken(const QString&, QObject* object) {
   if (auto* pages = qobject_cast<QTabWidget*>(object)) return new Spoken_Pages(pages);
   if (auto* option = qobject_cast<QRadioButton*>(object)) {
     return new Spoken_Button(option, QAccessible::RadioButton);
+  }
+  if (auto* push = qobject_cast<QPushButton*>(object)) {
+    const bool plain = !push->isCheckable() && push->menu() == nullptr;
+    return plain ? new Spoken_Button(push, QAccessible::Button) : nullptr;
   }
   auto* box = qobject_cast<QCheckBox*>(object);
   if (box != nullptr && !box->isTristate()) return new Spoken_Button(box, QAccessible::CheckBox);

@@ -11,9 +11,10 @@ namespace barvon {
 void Speak_As(QWidget* control, QAccessible::Role role);
 
 /// From now on, for every control: a frame is told by its own caption, where the toolkit gives one
-/// that stands in another frame the caption of that one; an option or a box that is chosen by
-/// assistive tools is clicked, where the toolkit turns it over and the screen hears nothing; pages
-/// with tabs are no stop of the keyboard beside their tabs. Once a process is enough.
+/// that stands in another frame the caption of that one; a button, an option or a box that
+/// assistive tools work is clicked, where the toolkit turns the choice over and the screen hears
+/// nothing, and not while another window is to be answered first; pages with tabs are no stop of
+/// the keyboard beside their tabs. Once a process is enough.
 void Mend_Spoken_Controls();
 
 }  // namespace barvon
