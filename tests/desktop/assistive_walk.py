@@ -3,7 +3,8 @@
 Ends with 1 when a control has no name, the role of something else or no value, or when two of one
 window can't be told apart. walk.sh starts it.
 
-    assistive_walk.py FOLDER      of the program, with the sample projects and the database in it"""
+    assistive_walk.py FOLDER PART...      the program's, with the samples in it; a project's name, or
+                                          what the procedures below are called"""
 
 import os
 import subprocess
@@ -207,6 +208,7 @@ class Walk:
         self.any_screen(self.tool("Database"), "Close")
         self.any_screen(self.tool("Check Database Files..."), "Close")
         self.text()
+        self.long_text()
         self.help()
 
     def dilution(self):
@@ -229,11 +231,28 @@ class Walk:
         text = wait_for("the text's window", lambda: [
             w for w in self.program.windows() if w.name not in before])[0]
         self.look(text, "a file")
-        body = self.program.control(text, "text", "Text of the file")
-        with open(os.path.join(self.folder, "walk.duo"), encoding="utf-8") as file:
-            if text_of(body) != file.read():
-                self.fault(f"the text of the file is told as '{text_of(body)}'")
+        self.told(text, "walk.duo", lambda told, kept: told == kept)
         self.program.menu_of(text, "File", "Close")
+
+    def long_text(self):
+        """One that is only read, whose words are those in view."""
+        window = self.opened(self.tool("Open Text File..."))
+        field = self.program.control(window, "text", "File name:")
+        self.program.type_into(field, os.path.join(self.folder, "long.duo"))
+        self.program.press(window, "Open")
+        self.program.gone(window.name)
+        text = self.program.window(os.path.join(self.folder, "long.duo"))
+        self.look(text, "a long line")
+        self.told(text, "long.duo", lambda told, kept: kept.startswith(told[:1000]) and
+                  len(told) > 1000)
+        self.program.menu_of(text, "File", "Close")
+
+    def told(self, window, name, is_right):
+        body = self.program.control(window, "text", "Text of the file")
+        with open(os.path.join(self.folder, name), encoding="utf-8") as file:
+            told = text_of(body)
+            if not is_right(told, file.read()):
+                self.fault(f"the text of {name} is told as '{told[:200]}'")
 
     def help(self):
         self.program.menu("Help", "Contents")
@@ -266,11 +285,21 @@ class Walk:
         raise Missing(f"the step behind {step}")
 
     def errors(self):
+        """What a save of an empty project finds."""
         self.program.menu("File", "New")
         time.sleep(0.5)
         self.program.press(self.program.main(), "General Open Water Disposal Analysis",
                            "radio button", "Toggle")
-        self.any_screen(self.edit("Error Check"), "Close")
+        self.program.menu("File", "Save")
+        dialog = self.program.window("Save As")
+        self.look(dialog)
+        field = self.program.control(dialog, "text", "File name:")
+        self.program.type_into(field, os.path.join(self.folder, "empty.DUI"))
+        self.program.press(dialog, "Save")
+        self.program.gone("Save As")
+        errors = self.opened(lambda: None, answer="Yes")
+        self.look(errors)
+        self.leave(errors, "Close")
 
 
 def main():
@@ -278,7 +307,6 @@ def main():
     program = subprocess.Popen([os.path.join(folder, "barvon")], cwd=folder)
     try:
         tour = Walk(folder)
-        tour.at_start()
         for part in sys.argv[2:]:
             if part.endswith(".DUI"):
                 tour.project(part)

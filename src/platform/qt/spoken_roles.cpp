@@ -35,19 +35,10 @@ class Spoken_Pages : public QAccessibleWidget {
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    state.focusable = false;
+    state.focusable = state.focused = false;
     return state;
   }
 };
-
-/// Whether a window that is to be answered first keeps the control from being clicked. An action
-/// that comes from the bus would pass it by.
-bool Waits_For_A_Box(const QWidget* control) {
-  const QWidget* box = QApplication::activeModalWidget();
-  const QWidget* at = control;
-  while (at != nullptr && at != box) at = at->parentWidget();
-  return box != nullptr && at == nullptr;
-}
 
 /// A button that is pressed or a choice that is made as by a click. The toolkit only turns the
 /// choice over, which its screen does not hear of.
@@ -122,6 +113,13 @@ QAccessibleInterface* Spoken(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+bool Waits_For_A_Box(const QWidget* control) {
+  const QWidget* box = QApplication::activeModalWidget();
+  const QWidget* at = control;
+  while (at != nullptr && at != box) at = at->parentWidget();
+  return box != nullptr && at == nullptr;
+}
 
 void Speak_As(QWidget* control, QAccessible::Role role) {
   Mend_Spoken_Controls();

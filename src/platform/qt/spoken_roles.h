@@ -10,6 +10,10 @@ namespace barvon {
 /// control that is told to be a button is pressed by them.
 void Speak_As(QWidget* control, QAccessible::Role role);
 
+/// Whether a window that is to be answered first keeps the control from being worked. What comes
+/// from the accessibility bus would pass that window by.
+bool Waits_For_A_Box(const QWidget* control);
+
 /// From now on, for every control: a frame is told by its own caption, where the toolkit gives one
 /// that stands in another frame the caption of that one; a button, an option or a box that
 /// assistive tools work is clicked, where the toolkit turns the choice over and the screen hears
