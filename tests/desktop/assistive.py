@@ -46,7 +46,14 @@ def role(node):
 
 
 def children(node):
-    return [node.getChildAtIndex(i) for i in range(node.childCount)]
+    """What stands in the node. A window that is being laid out may have parts without a face for a
+    moment."""
+    for _ in range(10):
+        found = [node.getChildAtIndex(i) for i in range(node.childCount)]
+        if None not in found:
+            break
+        time.sleep(0.05)
+    return found
 
 
 def walk(node, only_seen=True):

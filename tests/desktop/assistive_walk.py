@@ -164,7 +164,9 @@ class Walk:
         refused = False
         for _ in range(100):
             windows = self.program.windows()
-            new = [w for w in windows if w.name not in before and role(w) != "alert"]
+            # The help's title follows its pages.
+            new = [w for w in windows if w.name not in before and role(w) != "alert" and
+                   not w.name.endswith("BARVON Help")]
             if any(role(w) == "alert" for w in windows):
                 self.answer(answer)
                 refused = True
