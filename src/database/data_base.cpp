@@ -37,6 +37,7 @@ DataBase::DataBase(QWidget* workspace)
     Label1(i)->setBuddy(list);
     list->setAccessibleName(Label1(i)->text());
     list->setEditable(true);
+    list->lineEdit()->setAccessibleName(list->accessibleName());
     list->setInsertPolicy(QComboBox::NoInsert);
     list->setCompleter(nullptr);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

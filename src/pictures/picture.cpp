@@ -13,6 +13,7 @@
 #include "pictures/shape_painter.h"
 #include "pictures/shapes/inks.h"
 #include "platform/qt/save_picture.h"
+#include "platform/qt/spoken_roles.h"
 
 namespace barvon {
 namespace {
@@ -27,6 +28,7 @@ const QColor kCaption = To_QColor(kQuietInk);
 Picture::Picture(const QString& name, const QString& file_name, QWidget* content, QWidget* parent)
     : QWidget(parent), content_(content), caption_(new QLabel(this)), file_name_(file_name) {
   setAccessibleName(name);
+  Speak_As(this, QAccessible::Graphic);
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

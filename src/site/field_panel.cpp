@@ -55,6 +55,9 @@ QLayout* Field_Panel::Constant_Rows() {
     rows.layout()->setContentsMargins(0, 0, 0, 0);
     QLabel* label = rows.Number("Constant Velocity to be Used (fps)", Text2(i), Real_Note);
     label->setObjectName(QStringLiteral("Label2"));
+    // The same words twice: the axis tells them apart to who hears them.
+    Text2(i)->setAccessibleName(QLatin1String(kAxes[i]) + QStringLiteral("-Direction: ") +
+                                Text2(i)->accessibleName());
     label->setWordWrap(false);
     Enable_Constant(i, false);
     grid->addWidget(Check3D2(i), i, 0);

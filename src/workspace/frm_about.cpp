@@ -63,6 +63,7 @@ frmAbout::frmAbout(QWidget* workspace)
 void frmAbout::Build() {
   auto* picture = new QLabel(this);
   picture->setObjectName(QStringLiteral("picIcon"));
+  picture->setAccessibleName(QStringLiteral("The sign of BARVON"));
   picture->setPixmap(QIcon(QStringLiteral(":/pictures/barvon.svg")).pixmap(kPicture));
   QFont large = lblTitle->font();
   large.setPointSizeF(large.pointSizeF() * 1.25);

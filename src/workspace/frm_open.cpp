@@ -57,6 +57,7 @@ frmOpen::frmOpen(QWidget* workspace)
 void frmOpen::Build() {
   auto* picture = new QLabel(this);
   picture->setObjectName(QStringLiteral("Picture1"));
+  picture->setAccessibleName(QStringLiteral("A vessel that releases its load into the water"));
   picture->setPixmap(QIcon(QStringLiteral(":/pictures/start.svg")).pixmap(kPicture));
   auto* title = new QLabel(QLatin1String(kTitle), this);
   title->setObjectName(QStringLiteral("Label1"));

@@ -7,6 +7,7 @@
 
 #include "core/desk/screen_table.h"
 #include "platform/files/app_folder.h"
+#include "platform/qt/spoken_roles.h"
 #include "platform/qt/tab_order.h"
 
 namespace barvon {
@@ -43,6 +44,7 @@ frmTip::frmTip(QWidget* workspace)
 
 void frmTip::Build() {
   auto* picture = new QLabel(this);
+  picture->setAccessibleName(QStringLiteral("A lamp"));
   picture->setPixmap(QIcon(QStringLiteral(":/pictures/tip.svg")).pixmap(kPicture));
   auto* heading = new QLabel(QStringLiteral("Did you know..."), this);
   QFont large = heading->font();
@@ -56,6 +58,7 @@ void frmTip::Build() {
   lblTipText->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   lblTipText->setMargin(8);
   auto* tip = new QScrollArea(this);
+  Speak_As(tip, QAccessible::Document);
   tip->setAccessibleName(QStringLiteral("Tip"));
   tip->setWidgetResizable(true);
   tip->setMinimumSize(kTipSize);

@@ -16,6 +16,7 @@
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/qt/fields/option_paint.h"
+#include "platform/qt/spoken_roles.h"
 #include "run/run_driver.h"
 #include "run/view_results.h"
 #include "workspace/display_data.h"
@@ -199,10 +200,13 @@ Operations Menu_Operations(Main_Controls& c, ProjectRecord& record) {
   };
 }
 
+/// A hand does not reach the menus behind a box that is to be answered first; assistive tools do.
 void Connect_Action(Main_Controls& c, const char* array, int index,
                     const std::function<void(int)>& operation) {
   QObject::connect(Action_Of(c, array, index), &QAction::triggered, c.window,
-                   [operation, index] { operation(index); });
+                   [&c, operation, index] {
+                     if (!Waits_For_A_Box(c.window)) operation(index);
+                   });
 }
 
 void Connect_Menus(Main_Controls& c, ProjectRecord& record) {

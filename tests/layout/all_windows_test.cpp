@@ -453,6 +453,13 @@ TEST(AllWindows, Every_Control_Has_A_Name_To_Be_Read_Out) {
   });
 }
 
+TEST(AllWindows, Every_Control_Is_Told_As_It_Is_Seen) {
+  Walk_All_Windows([](QWidget& window, const std::string& state) {
+    const Complaints complaints = Misread_Controls(window);
+    EXPECT_TRUE(complaints.empty()) << Where(window, state) << Listed(complaints);
+  });
+}
+
 // Coming back to an input screen from one of these activates it, from any other window it does not.
 TEST(AllWindows, The_Screens_Are_The_Windows_That_The_Table_Names) {
   Walk_All_Windows([](QWidget& window, const std::string& state) {

@@ -207,6 +207,14 @@ TEST_F(WindowWalk, Finds_What_Tab_Does_Not_Reach) {
   EXPECT_EQ(Unreached_Controls(window).size(), 1U) << Listed(Unreached_Controls(window));
 }
 
+TEST_F(WindowWalk, Finds_What_Is_Told_As_Something_Else) {
+  Put(new QWidget, 10, 10)->setFocusPolicy(Qt::TabFocus);
+  for (const int y : {40, 80}) Put(new QLineEdit, 10, y)->setAccessibleName("Depth");
+  Put(new QPushButton("sound"), 10, 120);
+  Show();
+  EXPECT_EQ(Misread_Controls(window).size(), 2U) << Listed(Misread_Controls(window));
+}
+
 TEST_F(WindowWalk, Finds_A_Control_Without_A_Name) {
   Put(new QLineEdit, 10, 40);
   Put(new QPushButton, 10, 80);

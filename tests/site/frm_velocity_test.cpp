@@ -34,9 +34,8 @@ TEST_F(VelocityScreen, Captions_Stand_As_They_Are_Told) {
   EXPECT_EQ(Check3D2(0)->text(), "Initialize the X-Direction Velocity field to a constant?");
   EXPECT_EQ(Check3D2(1)->text(), "Initialize the Z-Direction Velocity field to a constant?");
   EXPECT_EQ(Child<QLabel>("Label2")->text(), "Constant Velocity to be Used (fps)");
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(Text2(i)->accessibleName(), "Constant Velocity to be Used (fps)");
-  }
+  EXPECT_EQ(Text2(0)->accessibleName(), "X-Direction: Constant Velocity to be Used (fps)");
+  EXPECT_EQ(Text2(1)->accessibleName(), "Z-Direction: Constant Velocity to be Used (fps)");
   constexpr const char* kTimes[] = {
       "Start Time Within Velocity Profile (Hrs)", "Depth Where Velocity Profile is Applied (Ft)",
       "Simulation Duration (Hrs)", "Average X-Velocity (Ft/Sec)", "Average Z-Velocity (Ft/Sec)"};

@@ -27,6 +27,10 @@ Complaints Unreached_Controls(QWidget& window);
 /// Controls that take the focus and have no name to be read out.
 Complaints Unnamed_Controls(const QWidget& window);
 
+/// Controls that take the focus and are told as a part without a meaning, texts that are told as
+/// others than are seen, and fields of one window that are told alike.
+Complaints Misread_Controls(const QWidget& window);
+
 /// All of them, one under the other.
 std::string Listed(const Complaints& complaints);
 

@@ -12,34 +12,9 @@
 #include <vector>
 
 namespace barvon {
-namespace {
-
-constexpr int kMargin = 4;
-constexpr int kTab = 8;
-
-/// As it is painted: tabs reach to the next of their stops, what has no shape is a blank.
-QString Shown(std::string_view bytes) {
-  QString text = QString::fromStdString(Row_Text(bytes));
-  if (text.contains(QLatin1Char('\t'))) {
-    QString stopped;
-    for (const QChar c : std::as_const(text)) {
-      if (c == QLatin1Char('\t')) {
-        stopped += QString(kTab - stopped.size() % kTab, QLatin1Char(' '));
-      } else {
-        stopped += c;
-      }
-    }
-    text = stopped;
-  }
-  for (QChar& c : text) {
-    if (c < QLatin1Char(' ')) c = QLatin1Char(' ');
-  }
-  return text;
-}
-
-}  // namespace
 
 Large_Text_View::Large_Text_View(QWidget* parent) : QAbstractScrollArea(parent) {
+  Speak_In_Words();
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setCursor(Qt::IBeamCursor);
   viewport()->setBackgroundRole(QPalette::Base);
@@ -56,6 +31,7 @@ void Large_Text_View::Set_Rows(Text_Rows rows) {
 void Large_Text_View::Rows_Came() {
   Set_Ranges();
   viewport()->update();
+  Tell_Reader();
 }
 
 int Large_Text_View::Row_Height() const { return std::max(1, fontMetrics().lineSpacing()); }
@@ -80,6 +56,7 @@ void Large_Text_View::Go_To(std::size_t place, bool mark) {
   if (!mark) anchor_ = caret_;
   Show_Caret();
   viewport()->update();
+  Tell_Reader();
   if (tell_) tell_();
 }
 
@@ -127,6 +104,7 @@ void Large_Text_View::Mark_All() {
   anchor_ = 0;
   caret_ = rows_.Size();
   viewport()->update();
+  Tell_Reader();
   if (tell_) tell_();
 }
 

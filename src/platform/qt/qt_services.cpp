@@ -12,6 +12,7 @@
 #include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/qt_document_opener.h"
+#include "platform/qt/spoken_roles.h"
 
 namespace barvon {
 namespace {
@@ -60,6 +61,7 @@ void Pump_Qt_Events(std::chrono::milliseconds longest, int descriptor) {
 
 Qt_Services::Qt_Services() {
   Follow_Windows_In_Front();
+  Mend_Spoken_Controls();
   messages_ = Set_Message_Presenter(Show_Qt_Message);
   file_dialogs_ = Set_File_Dialog_Presenter(
       {Ask_Qt_Open_File, Ask_Qt_Save_File, Show_Qt_Printer_Setup, Ask_Qt_Printer});

@@ -1,8 +1,10 @@
 #include "platform/qt/ask/qt_file_dialog.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
@@ -12,6 +14,7 @@
 #include <QTreeView>
 
 #include "platform/files/app_folder.h"
+#include "platform/qt/ask/qt_message_box.h"
 #include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/session_printer.h"
 
@@ -75,10 +78,20 @@ class File_Dialog : public QFileDialog {
   void Make_Room() {
     constexpr int kType = 2;
     resize(kSize);
+    Name_Lists();
     auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr) return;
     files->hideColumn(kType);
     files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  }
+
+  /// The toolkit's labels do not say whose they are.
+  void Name_Lists() {
+    for (const char* list : {"lookIn", "fileType"}) {
+      auto* label = findChild<QLabel*>(QLatin1String(list) + QStringLiteral("Label"));
+      auto* combo = findChild<QComboBox*>(QLatin1String(list) + QStringLiteral("Combo"));
+      if (label != nullptr && combo != nullptr) label->setBuddy(combo);
+    }
   }
 
   /// The name that is offered or typed goes with the kind of file that is chosen.
@@ -121,6 +134,7 @@ class File_Dialog : public QFileDialog {
     box.setWindowTitle(windowTitle());
     box.setTextFormat(Qt::PlainText);
     box.setIcon(QMessageBox::Warning);
+    Name_Picture(box);
     box.setText(QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(existing));
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);

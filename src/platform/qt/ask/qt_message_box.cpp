@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <utility>
 #include <vector>
 
 #include "platform/qt/ask/window_in_front.h"
@@ -65,12 +67,26 @@ void Make_Room_For_Title(QMessageBox& box) {
 
 }  // namespace
 
+void Name_Picture(const QMessageBox& box) {
+  static constexpr std::pair<QMessageBox::Icon, const char*> kNames[] = {
+      {QMessageBox::Critical, "Error"},
+      {QMessageBox::Question, "Question"},
+      {QMessageBox::Warning, "Warning"},
+      {QMessageBox::Information, "Information"}};
+  auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (picture == nullptr) return;
+  for (const auto& [icon, name] : kNames) {
+    if (icon == box.icon()) picture->setAccessibleName(QLatin1String(name));
+  }
+}
+
 Answer Show_Qt_Message(const Message& message) {
   QMessageBox box(Window_In_Front());
   box.setWindowTitle(QString::fromStdString(message.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(QString::fromStdString(message.text));
   box.setIcon(Box_Icon(message.icon));
+  Name_Picture(box);
   const std::vector<Answer> answers = Answers_Of(message.buttons);
   for (const Answer answer : answers) box.addButton(Box_Button(answer));
   box.setDefaultButton(Box_Button(message.on_return.value_or(answers.front())));

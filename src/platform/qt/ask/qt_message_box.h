@@ -10,4 +10,7 @@ namespace barvon {
 /// box or Escape is Answer_On_Close.
 Answer Show_Qt_Message(const Message& message);
 
+/// Gives the picture beside the words a name for those who do not see it.
+void Name_Picture(const QMessageBox& box);
+
 }  // namespace barvon

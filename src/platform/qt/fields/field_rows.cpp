@@ -3,17 +3,13 @@
 #include <QEvent>
 #include <utility>
 
+#include "platform/qt/fields/plain_caption.h"
+
 namespace barvon {
 namespace {
 
 constexpr char kTag[] = "tag";
 constexpr int kFieldCharacters = 12;
-
-QString Without_Mnemonic(QString text) {
-  return text.replace(QStringLiteral("&&"), QStringLiteral("\n"))
-      .remove(QLatin1Char('&'))
-      .replace(QLatin1Char('\n'), QLatin1Char('&'));
-}
 
 /// Enables and disables a label with its control.
 class Label_State : public QObject {
@@ -97,7 +93,7 @@ QLabel* Field_Rows::Add(const QString& text, QWidget* control) {
 
 void Rename(QLabel* label, const QString& text) {
   label->setText(text);
-  label->buddy()->setAccessibleName(Without_Mnemonic(text));
+  label->buddy()->setAccessibleName(Plain_Caption(text));
 }
 
 void Set_Tag(QWidget* field, const QString& tag) { field->setProperty(kTag, tag); }

@@ -2,10 +2,13 @@
 
 #include <utility>
 
+#include "platform/qt/spoken_roles.h"
+
 namespace barvon {
 
 Latching_Button::Latching_Button(QWidget* parent) : QToolButton(parent) {
   setCheckable(true);
+  Speak_As(this, QAccessible::Button);
   connect(this, &QToolButton::toggled, this, [this](bool down) {
     if (!down) return;
     if (action_) action_();

@@ -130,9 +130,13 @@ bool Book_Model::setData(const QModelIndex& index, const QVariant& value, int ro
 }
 
 QVariant Book_Model::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole) return QAbstractTableModel::headerData(section, orientation, role);
-  return Q(orientation == Qt::Horizontal ? table_.ColText(section + 1)
-                                         : table_.RowText(section + 1));
+  const auto text = [&] {
+    return orientation == Qt::Horizontal ? table_.ColText(section + 1)
+                                         : table_.RowText(section + 1);
+  };
+  if (role == Qt::AccessibleTextRole) return Spoken(text());
+  if (role == Qt::DisplayRole) return Q(text());
+  return QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags Book_Model::flags(const QModelIndex& index) const {
