@@ -88,7 +88,18 @@ class ErrorListScreen : public ::testing::Test {
   Help_Presenter help;
 };
 
+TEST_F(ErrorListScreen, Is_Made_When_It_Is_First_Asked_For_And_Stays) {
+  EXPECT_EQ(workspace.findChild<frmErrorList*>(), nullptr);
+  Open();
+  List().close();
+  const frmErrorList* const first = &List();
+  Open();
+  EXPECT_EQ(workspace.findChildren<frmErrorList*>().size(), 1);
+  EXPECT_EQ(&List(), first);
+}
+
 TEST_F(ErrorListScreen, Shows_Its_Captions) {
+  Open();
   EXPECT_EQ(List().windowTitle(), "Error List");
   EXPECT_EQ(List().findChild<QLabel*>()->text(),
             "List of Notes, Warnings && Errors.  Double Click on Error to Automatically Go To Form "
