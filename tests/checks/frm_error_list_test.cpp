@@ -282,8 +282,8 @@ struct Single_Click_Style : QProxyStyle {
 TEST_F(ErrorListScreen, One_Click_Only_Selects_Whatever_The_Desktop_Does_Elsewhere) {
   Current_Errors().Add("one", "frmDescription!Text1(5)");
   Single_Click_Style style;
-  List1().setStyle(&style);
   Open();
+  List1().setStyle(&style);
   QTest::mouseClick(List1().viewport(), Qt::LeftButton, {}, Place_Of(0));
   EXPECT_TRUE(opened.empty());
   EXPECT_EQ(List1().currentRow(), 0);
