@@ -136,9 +136,8 @@ void frmErrorList::SSCommand1_Click(int index) {
 }
 
 void Register_frmErrorList(QWidget* workspace) {
-  auto* screen = new frmErrorList(workspace);
-  Register_Screen(kScreen, [screen](bool blocking, const std::string&) { screen->Open(blocking); });
-  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen, nullptr); });
+  Register_Screen(kScreen, Lasting_Screen<frmErrorList>(workspace));
+  QObject::connect(workspace, &QObject::destroyed, [] { Register_Screen(kScreen, nullptr); });
 }
 
 }  // namespace barvon

@@ -74,9 +74,9 @@ void Set_Cells(QCPColorMap& map, int rows, int columns, const std::vector<double
   auto* data =
       new QCPColorMapData(columns * halves_across, rows * halves_down, range(columns), range(rows));
   for (int row = 0; row < data->valueSize(); ++row) {
+    const std::size_t first = static_cast<std::size_t>(row / halves_down) * columns;
     for (int column = 0; column < data->keySize(); ++column) {
-      const std::size_t first = static_cast<std::size_t>(row / halves_down) * columns;
-      data->setCell(column, row, values[first + column / halves_across]);
+      data->setCell(column, row, values[first + (columns == 1 ? 0 : column)]);
     }
   }
   map.setData(data);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <limits>
+#include <variant>
 #include <vector>
 
 #include "platform/table/spreadsheet_table.h"
@@ -10,13 +12,18 @@ namespace barvon {
 
 /// What a picture takes for a cell: its number, NaN where it is empty.
 inline double Drawn_Cell(const Spreadsheet_Table& table, int row, int column) {
-  return table.IsEmptyRC(row, column) ? std::numeric_limits<double>::quiet_NaN()
-                                      : table.NumberRC(row, column);
+  // Looked up once: a picture follows each key with all cells of its table.
+  const Cell_Value& value = table.ValueRC(row, column);
+  if (const auto* number = std::get_if<double>(&value)) return *number;
+  return std::holds_alternative<std::monostate>(value) ? std::numeric_limits<double>::quiet_NaN()
+                                                       : table.NumberRC(row, column);
 }
 
 /// The same for all cells, row by row.
 inline std::vector<double> Drawn_Cells(const Spreadsheet_Table& table) {
   std::vector<double> cells;
+  cells.reserve(static_cast<std::size_t>(table.MaxRow()) *
+                static_cast<std::size_t>(table.MaxCol()));
   For_Each_Cell(table,
                 [&](int row, int column) { cells.push_back(Drawn_Cell(table, row, column)); });
   return cells;

@@ -1,6 +1,7 @@
 #include "site/frm_velocity.h"
 
 #include <QIcon>
+#include <QPixmapCache>
 #include <QVBoxLayout>
 
 #include "core/desk/accepted_screen.h"
@@ -20,6 +21,17 @@ namespace {
 constexpr const Screen_Row& kScreen = Row_Of_Screen("frmVelocity");
 constexpr int kOkWithoutButton = 3, kGridWithoutButton = 4;
 constexpr QSize kIllustration{220, 160};
+
+/// Drawn once and kept: drawing the four takes longer than filling a form.
+QPixmap Illustration(const char* name) {
+  const QString file = QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(name));
+  QPixmap picture;
+  if (!QPixmapCache::find(file, &picture)) {
+    picture = QIcon(file).pixmap(kIllustration);
+    QPixmapCache::insert(file, picture);
+  }
+  return picture;
+}
 
 }  // namespace
 
@@ -64,9 +76,8 @@ QWidget* frmVelocity::Choice_Part() {
     Option3D1(form)->setText(QLatin1String(Option_Of_Form(Velocity_Form(form))));
     options->addWidget(Option3D1(form));
     connect(Option3D1(form), &QRadioButton::clicked, this, [this, form] { Option3D1_Click(form); });
-    const QString file = QStringLiteral(":/pictures/%1.svg")
-                             .arg(panels_[static_cast<std::size_t>(form)]->Illustration());
-    Picture1(form)->setPixmap(QIcon(file).pixmap(kIllustration));
+    Picture1(form)->setPixmap(
+        Illustration(panels_[static_cast<std::size_t>(form)]->Illustration()));
     Picture1(form)->setFixedSize(kIllustration);
     Picture1(form)->setAccessibleName(QLatin1String(Name_Of_Form(Velocity_Form(form))));
     Picture1(form)->hide();

@@ -151,9 +151,8 @@ bool frmOpen::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Register_frmOpen(QWidget* workspace) {
-  auto* screen = new frmOpen(workspace);
-  Register_Screen(kScreen, [screen](bool blocking, const std::string&) { screen->Open(blocking); });
-  QObject::connect(screen, &QObject::destroyed, [] { Register_Screen(kScreen, {}); });
+  Register_Screen(kScreen, Lasting_Screen<frmOpen>(workspace));
+  QObject::connect(workspace, &QObject::destroyed, [] { Register_Screen(kScreen, {}); });
 }
 
 }  // namespace barvon

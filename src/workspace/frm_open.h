@@ -33,7 +33,7 @@ class frmOpen : public QDialog {
   ControlArray<QPushButton> Command1;
 };
 
-/// Makes the dialog known under its name; it belongs to `workspace`.
+/// Makes the dialog known under its name; it belongs to `workspace` once it is made.
 void Register_frmOpen(QWidget* workspace);
 
 }  // namespace barvon

@@ -88,7 +88,18 @@ class ErrorListScreen : public ::testing::Test {
   Help_Presenter help;
 };
 
+TEST_F(ErrorListScreen, Is_Made_When_It_Is_First_Asked_For_And_Stays) {
+  EXPECT_EQ(workspace.findChild<frmErrorList*>(), nullptr);
+  Open();
+  List().close();
+  const frmErrorList* const first = &List();
+  Open();
+  EXPECT_EQ(workspace.findChildren<frmErrorList*>().size(), 1);
+  EXPECT_EQ(&List(), first);
+}
+
 TEST_F(ErrorListScreen, Shows_Its_Captions) {
+  Open();
   EXPECT_EQ(List().windowTitle(), "Error List");
   EXPECT_EQ(List().findChild<QLabel*>()->text(),
             "List of Notes, Warnings && Errors.  Double Click on Error to Automatically Go To Form "
@@ -271,8 +282,8 @@ struct Single_Click_Style : QProxyStyle {
 TEST_F(ErrorListScreen, One_Click_Only_Selects_Whatever_The_Desktop_Does_Elsewhere) {
   Current_Errors().Add("one", "frmDescription!Text1(5)");
   Single_Click_Style style;
-  List1().setStyle(&style);
   Open();
+  List1().setStyle(&style);
   QTest::mouseClick(List1().viewport(), Qt::LeftButton, {}, Place_Of(0));
   EXPECT_TRUE(opened.empty());
   EXPECT_EQ(List1().currentRow(), 0);

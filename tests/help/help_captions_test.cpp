@@ -63,8 +63,8 @@ void Add_Captions_Of(const QWidget& window, std::set<QString>& captions) {
 std::set<QString> All_Captions() {
   std::set<QString> captions;
   Main_Bench bench;
-  Register_frmErrorList(&bench.main());
-  Register_frmOpen(&bench.main());
+  new frmErrorList(&bench.main());
+  new frmOpen(&bench.main());
   new frmAbout(&bench.main());
   new frmTip(&bench.main());
   for (int type = 0; type < 3; ++type) {

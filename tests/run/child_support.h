@@ -68,8 +68,9 @@ class Changed_Variable {
 class Watched_Programs {
  public:
   Watched_Programs()
-      : former_(Set_Program_Watcher(
-            [this](std::function<bool()> goes_on) { watched_.push_back(std::move(goes_on)); })) {}
+      : former_(Set_Program_Watcher([this](int, std::function<bool()> goes_on) {
+          watched_.push_back(std::move(goes_on));
+        })) {}
   ~Watched_Programs() { Set_Program_Watcher(std::move(former_)); }
   Watched_Programs(const Watched_Programs&) = delete;
   Watched_Programs& operator=(const Watched_Programs&) = delete;

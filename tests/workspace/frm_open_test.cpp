@@ -94,7 +94,16 @@ class StartDialog : public ::testing::Test {
   Help_Presenter help_;
 };
 
+TEST_F(StartDialog, Is_Made_When_It_Is_First_Asked_For_And_Stays) {
+  EXPECT_EQ(workspace.findChild<frmOpen*>(), nullptr);
+  Open();
+  Dialog().close();
+  Open();
+  EXPECT_EQ(workspace.findChildren<frmOpen*>().size(), 1);
+}
+
 TEST_F(StartDialog, Shows_Its_Captions) {
+  Open();
   EXPECT_EQ(Dialog().windowTitle(), "BARVON");
   EXPECT_TRUE(Dialog().findChild<QLabel*>("Label1")->text().startsWith("BARVON  -  "));
   EXPECT_GT(Dialog().findChild<QLabel*>("Label1")->text().size(), 15);
@@ -112,6 +121,7 @@ TEST_F(StartDialog, Shows_Its_Captions) {
 }
 
 TEST_F(StartDialog, Shows_A_Picture) {
+  Open();
   const auto* picture = Dialog().findChild<QLabel*>("Picture1");
   ASSERT_NE(picture, nullptr);
   const QImage drawn = picture->pixmap().toImage();

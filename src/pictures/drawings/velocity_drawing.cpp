@@ -51,6 +51,7 @@ Velocity_Drawing Draw_Velocities(const Velocity_Grid& grid) {
     drawing.columns = grid.columns;
     drawing.x = grid.x;
     drawing.z = grid.z;
+    drawing.speeds.reserve(grid.x.size());
     for (std::size_t i = 0; i < grid.x.size(); ++i) {
       const double speed = std::hypot(grid.x[i], grid.z[i]);
       const bool drawn = Can_Be_Drawn(grid.x[i]) && Can_Be_Drawn(grid.z[i]) && Can_Be_Drawn(speed);

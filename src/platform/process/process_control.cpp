@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/ioctl.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -138,7 +137,7 @@ int External_Process::Start(const Process_Start& start) {
   if (pipe[1] >= 0) ::close(pipe[1]);
   if (error != 0) return error;
   state.pid = pid;
-  state.handle = static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
+  state.handle = Open_End_Descriptor(pid);
   state.family.emplace(pid, mark);
   state.running = true;
   return 0;

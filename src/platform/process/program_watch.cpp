@@ -14,12 +14,12 @@ Program_Watcher& Watcher() {
 
 }  // namespace
 
-void Watch_Program(std::function<bool()> goes_on) {
+void Watch_Program(int descriptor, std::function<bool()> goes_on) {
   if (Watcher()) {
-    Watcher()(std::move(goes_on));
+    Watcher()(descriptor, std::move(goes_on));
     return;
   }
-  while (goes_on()) Pump_Events(kWatchEvery);
+  while (goes_on()) Pump_Events(kWatchEvery, descriptor);
 }
 
 Program_Watcher Set_Program_Watcher(Program_Watcher watcher) {

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -148,5 +149,7 @@ int Spawn_Program(const Spawn_Order& order, pid_t& pid) {
   ::close(null_device);
   return error;
 }
+
+int Open_End_Descriptor(pid_t pid) { return static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)); }
 
 }  // namespace barvon

@@ -30,4 +30,8 @@ struct Spawn_Order {
 /// as this program does.
 int Spawn_Program(const Spawn_Order& order, pid_t& pid);
 
+/// A descriptor that can be read once that child has ended; -1 when the system has none to give. It
+/// is the caller's to close.
+int Open_End_Descriptor(pid_t pid);
+
 }  // namespace barvon

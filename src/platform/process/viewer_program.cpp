@@ -55,8 +55,16 @@ class Viewer_Output {
 };
 
 struct Viewer {
+  Viewer() = default;
+  ~Viewer() {
+    if (handle >= 0) ::close(handle);
+  }
+  Viewer(const Viewer&) = delete;
+  Viewer& operator=(const Viewer&) = delete;
+
   Viewer_Output output;
   pid_t pid = -1;
+  int handle = -1;  // readable once it has ended
   Viewer_Over when_over;
 };
 
@@ -85,8 +93,10 @@ int Start_Viewer(const std::vector<std::string>& command, const std::string& fol
   viewer->when_over = std::move(when_over);
   const int error =
       Spawn_Program({command, {}, folder, viewer->output.descriptor(), Bond::None}, viewer->pid);
-  if (error == 0) Watch_Program([viewer] { return Is_Open(*viewer); });
-  return error;
+  if (error != 0) return error;
+  viewer->handle = Open_End_Descriptor(viewer->pid);
+  Watch_Program(viewer->handle, [viewer] { return Is_Open(*viewer); });
+  return 0;
 }
 
 }  // namespace barvon

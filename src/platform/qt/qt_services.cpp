@@ -38,6 +38,24 @@ void Watch_By_Timer(std::function<bool()> goes_on) {
   timer->start(kWatchEvery);
 }
 
+void Watch_By_Descriptor(int descriptor, std::function<bool()> goes_on) {
+  if (descriptor < 0) {
+    Watch_By_Timer(std::move(goes_on));
+    return;
+  }
+  auto* readable = new QSocketNotifier(descriptor, QSocketNotifier::Read, qApp);
+  QObject::connect(readable, &QSocketNotifier::activated, readable,
+                   [readable, goes_on = std::move(goes_on)] {
+                     // Off first: a box that opens in here would hear of it without end.
+                     readable->setEnabled(false);
+                     if (goes_on()) {
+                       readable->setEnabled(true);
+                     } else {
+                       readable->deleteLater();
+                     }
+                   });
+}
+
 }  // namespace
 
 void Pump_Qt_Events(std::chrono::milliseconds longest, int descriptor) {
@@ -78,7 +96,7 @@ Qt_Services::Qt_Services() {
   });
   cursor_ = Set_Cursor_Presenter(Show_Wait_Cursor);
   pump_ = Set_Event_Pump(Pump_Qt_Events);
-  watcher_ = Set_Program_Watcher(Watch_By_Timer);
+  watcher_ = Set_Program_Watcher(Watch_By_Descriptor);
   help_ = Set_Help_Presenter(Show_Qt_Help);
   documents_ = Set_Document_Opener(Open_Qt_Document);
 }

@@ -1,10 +1,13 @@
 #include "platform/process/viewer_program.h"
 
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <functional>
+#include <utility>
 
 #include "run/child_support.h"
 
@@ -39,6 +42,25 @@ TEST_F(ViewerProgram, Its_End_Is_Told_Once_With_What_It_Printed) {
   EXPECT_EQ(ended, 1);
   EXPECT_EQ(end.exit_code, 4);
   EXPECT_EQ(printed, "one\ntwo\n");
+}
+
+TEST_F(ViewerProgram, Nobody_Asks_About_It_Before_Its_End) {
+  int watched = -1;
+  std::function<bool()> is_open;
+  const Program_Watcher former =
+      Set_Program_Watcher([&](int descriptor, std::function<bool()> ask) {
+        watched = descriptor;
+        is_open = std::move(ask);
+      });
+  ASSERT_EQ(Start({"await:close"}), 0);
+  Set_Program_Watcher(former);
+  pollfd readable{watched, POLLIN, 0};
+  EXPECT_EQ(::poll(&readable, 1, 0), 0);
+  Write_Text(folder / "close", "");
+  while (::poll(&readable, 1, 60'000) < 0) {
+  }
+  EXPECT_FALSE(is_open());
+  EXPECT_EQ(ended, 1);
 }
 
 TEST_F(ViewerProgram, A_Death_By_Signal_Is_Told_Apart_From_A_Code) {

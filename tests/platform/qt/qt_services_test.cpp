@@ -96,6 +96,31 @@ TEST(EventPump, Tells_A_Box_That_Is_Open_Inside_It_Of_The_Descriptor_No_More_Tha
   EXPECT_LT(wakes, 100);
 }
 
+TEST(ProgramWatcher, Asks_Only_When_The_Descriptor_Has_News) {
+  const Qt_Services services;
+  std::array<int, 2> ends{-1, -1};
+  ASSERT_EQ(::pipe(ends.data()), 0);
+  int asked = 0;
+  Watch_Program(ends[0], [&asked] { return ++asked < 2; });
+  bool over = false;
+  QTimer::singleShot(3 * kWatchEvery, [&over] { over = true; });
+  EXPECT_TRUE(testing::Wait_Until([&over] { return over; }));
+  EXPECT_EQ(asked, 0);
+  ASSERT_EQ(::write(ends[1], "x", 1), 1);
+  EXPECT_TRUE(testing::Wait_Until([&asked] { return asked == 2; }));
+  Pump_Events(std::chrono::milliseconds(0));
+  Pump_Events(std::chrono::milliseconds(0));
+  EXPECT_EQ(asked, 2);
+  for (const int end : ends) ::close(end);
+}
+
+TEST(ProgramWatcher, Asks_By_The_Clock_Without_A_Descriptor) {
+  const Qt_Services services;
+  int asked = 0;
+  Watch_Program(-1, [&asked] { return ++asked < 3; });
+  EXPECT_TRUE(testing::Wait_Until([&asked] { return asked == 3; }));
+}
+
 TEST(BusyCursor, Nests_And_Comes_Down_With_The_Last) {
   const Qt_Services services;
   {

@@ -35,6 +35,7 @@ Book_Layout::Book_Layout(QTableView& view, const Spreadsheet_Table& table)
 
 void Book_Layout::Lay_Out() {
   due_ = false;
+  laid_out_font_ = table_.LargestFont();
   const QScopedValueRollback laying_out(laying_out_, true);
   view_.verticalHeader()->setMinimumWidth(table_.RowHeadingWidth() * Digit_Pixels(view_) /
                                           kWidthsInDigit);
@@ -76,6 +77,14 @@ void Book_Layout::Lay_Out_Later() {
         if (due_) Lay_Out();
       },
       Qt::QueuedConnection);
+}
+
+void Book_Layout::Follow_Cells(const Cell_Range& range) {
+  bool hangs_on_them = table_.LargestFont() != laid_out_font_;
+  for (int col = range.col1; col <= std::min(range.col2, table_.MaxCol()); ++col) {
+    hangs_on_them = hangs_on_them || table_.ColWidth(col) == Spreadsheet_Table::kAutoWidth;
+  }
+  if (hangs_on_them) Lay_Out_Later();
 }
 
 int Book_Layout::Row_Pixels() const {

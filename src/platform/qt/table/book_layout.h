@@ -19,6 +19,9 @@ class Book_Layout : public QObject {
   void Lay_Out();
   /// The same when the events at hand are done; any number of wishes is met once.
   void Lay_Out_Later();
+  /// The same when cells have changed, if any of that hangs on them: columns as wide as their
+  /// contents, and rows as high as the largest letters.
+  void Follow_Cells(const Cell_Range& range);
   /// Room for a small table as a whole; a large one scrolls.
   QSize Size_Hint() const;
   /// From now on the hint has room for that many rows, also while there are fewer.
@@ -39,6 +42,7 @@ class Book_Layout : public QObject {
   int largest_height_;
   int asked_rows_ = 0;
   int cols_in_sight_ = 0;
+  int laid_out_font_ = 0;  // points of the largest letters then
   bool due_ = false;
   bool laying_out_ = false;
   std::map<int, int> dragged_;  // pixels, by column from 1

@@ -33,7 +33,7 @@ F1Book::F1Book(const Cell_Numbers& numbers, QWidget* parent)
   setModel(model_);
   table_.Watch({[this](const Cell_Range& range) {
                   model_->Cells_Changed(range);
-                  layout_->Lay_Out_Later();
+                  layout_->Follow_Cells(range);
                 },
                 [this] { Follow_Shape(); },
                 [this] {
