@@ -22,6 +22,7 @@ chmod 755 "$work"
 processes=()
 finish() {
   for process in "${processes[@]}"; do kill "$process" 2>/dev/null || true; done
+  chmod -R u+rwX "$work"
   rm -rf "$work"
 }
 trap finish EXIT

@@ -33,13 +33,25 @@ press() { # WINDOW NAME, "KEY KEY...", CONDITION...
   return 1
 }
 
-# Opens a project, looks at the database and the help, runs, leaves by Ctrl+Q. The program must end by itself.
+# Opens a project, looks at the database and the help, runs, leaves by Ctrl+Q. The program must end
+# by itself; one that does not is ended here, so that the next one is not taken for it.
 drive_window() { # HOME PROGRAM PROJECT
-  local home="$1" program="$2" project="$3" process code=0
-  local opened="^BARVON - $project"
-  as_user "$home" "$program" >"$work/window.said" 2>&1 &
+  local process code=0
+  as_user "$1" "$2" >"$work/window.said" 2>&1 &
   process=$!
-  processes+=($process)
+  if go_through "$3" $process; then
+    wait $process || code=$?
+  else
+    code=1
+    pkill -P $process || true
+    wait $process || true
+  fi
+  cat "$work/window.said"
+  [ $code -eq 0 ]
+}
+
+go_through() { # PROJECT PROCESS
+  local project="$1" opened="^BARVON - $1" process="$2"
   press '^BARVON - UNTITLED' ctrl+o window '^Open$' || return 1
   xdotool type --delay 20 "$project"
   press '^Open$' Return window "$opened" || return 1
@@ -49,10 +61,7 @@ drive_window() { # HOME PROGRAM PROJECT
   press 'BARVON Help' Escape no_window 'BARVON Help' || return 1
   press "$opened" F5 test -s "${project%.DUI}.duc" || return 1
   sleep 1  # the run's end is told
-  press "$opened" 'ctrl+q alt+y' ended $process || return 1
-  wait "$process" || code=$?
-  cat "$work/window.said"
-  [ "$code" -eq 0 ]
+  press "$opened" 'ctrl+q alt+y' ended "$process"
 }
 
 ended() { ! kill -0 "$1"; }
