@@ -3,7 +3,8 @@
 # once, with an error, without outputs, with some, without end, deaf to the polite end, flooding what
 # they print and write, killed by a signal, leaving children, started twice. Each must end in words,
 # with the project untouched, no process and no descriptor left, at most 16 MiB of memory more, and
-# the window's event loop back within the given time at all times.
+# the window's event loop back within the given time at all times; what it waits for a processor that
+# others have is told and not counted.
 #
 #   tests/attacks/bad_solvers.sh [ROUNDS] [LONGEST STALL IN MS] [BYTES OF THE FLOOD]
 #

@@ -59,7 +59,7 @@ class HostileNames : public ::testing::Test {
     former_dialogs_ = Set_File_Dialog_Presenter({[this](const File_Request&) { return answer_; },
                                                  [this](const File_Request&) { return answer_; },
                                                  nullptr, nullptr});
-    Register_frmNotePad(&bench.main());
+    Set_Own_Text_Window([this](const std::string& path) { return Open_Text(path, bench.main()); });
     sample_ = Read_Text(std::string(BARVON_SAMPLES) + kSample);
     alone_ = Everything();
   }

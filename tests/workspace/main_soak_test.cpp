@@ -2,9 +2,11 @@
 #include <malloc.h>
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QEventLoop>
 #include <QPushButton>
+#include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 
 #include "core/project_record.h"
@@ -43,15 +45,27 @@ class Soak : public ::testing::Test {
   }
   ~Soak() override { Set_File_Dialog_Presenter(std::move(former_dialogs_)); }
 
+  /// Does it where a person does: called by the event loop, which comes round once more behind it.
+  static void From_The_Event_Loop(const std::function<void()>& command) {
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+      command();
+      QTimer::singleShot(0, &loop, &QEventLoop::quit);
+    });
+    loop.exec();
+  }
   void Load_And_Save(long times) {
     for (long i = 0; i < times; ++i) {
-      bench.Action("mnuFileItem(1)")->trigger();
-      bench.Action("mnuFileItem(4)")->trigger();
-      QCoreApplication::processEvents();
+      From_The_Event_Loop([this] {
+        bench.Action("mnuFileItem(1)")->trigger();
+        bench.Action("mnuFileItem(4)")->trigger();
+      });
     }
   }
   void Run(long times) {
-    for (long i = 0; i < times; ++i) bench.controls().SSPanel3(1)->click();
+    for (long i = 0; i < times; ++i) {
+      From_The_Event_Loop([this] { bench.controls().SSPanel3(1)->click(); });
+    }
   }
   static Soaked Now() {
     malloc_trim(0);
