@@ -239,9 +239,11 @@ bool Update_Database(const std::string& name, ProjectRecord& record) {
     return false;
   }
   if (saved.error != 0) {
-    Show_Critical("The site was not added: can't write the file " + saved.file + ". " +
-                  std::strerror(saved.error) +
-                  (saved.named ? ". Its name could not be taken out of dspsites.dat again." : ""));
+    Show_Critical(
+        "The site was not added: can't write the file " + saved.file + ". " +
+        std::strerror(saved.error) +
+        (saved.named ? std::string(". ") + "Its name could not be taken out of dspsites.dat again."
+                     : ""));
     return false;
   }
   Port().board.set_database_line(kSites, kLists[kSites].prefix + wanted);

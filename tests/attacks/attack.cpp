@@ -195,7 +195,7 @@ Attack_Result Attack::Run(const Call_Plan& plan, double kill_after, long room) {
   result.told = report.told;
   result.told_text = report.told_text;
   result.refails = report.refails;
-  for (int i = 0; i < std::min(report.calls, kMostCalls); ++i) {
+  for (int i = 0; report.ended && i < std::min(report.calls, kMostCalls); ++i) {
     result.call_names.emplace_back(report.names[i]);
   }
   result.left = report.ended ? Split(report.left) : Litter();

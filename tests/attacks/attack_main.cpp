@@ -141,10 +141,15 @@ Tally Kill(Attack& attack, const std::string& name, int count, std::mt19937& cha
   Tally tally;
   for (int i = 0; i < count; ++i) {
     if (i % 2 == 0) {
-      const double longest = std::max(1e-4, 1.1 * attack.Learned().seconds);
-      const double seconds = std::uniform_real_distribution(0.0, longest)(chance);
-      Add(attack.Kill_After(std::max(1e-6, seconds)),
-          name + ", killed after " + std::to_string(seconds) + " s", tally);
+      // A kill that comes after the end is none: it is tried again.
+      const double longest = std::max(1e-4, attack.Learned().seconds);
+      Attack_Result result;
+      double seconds = 0;
+      for (int tries = 0; tries < 50 && !result.killed; ++tries) {
+        seconds = std::max(1e-6, std::uniform_real_distribution(0.0, longest)(chance));
+        result = attack.Kill_After(seconds);
+      }
+      Add(result, name + ", killed after " + std::to_string(seconds) + " s", tally);
       continue;
     }
     Call_Plan plan;
