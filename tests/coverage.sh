@@ -30,7 +30,7 @@ if [ $# -gt 0 ]; then
 fi
 table=build/coverage/coverage.csv
 gcovr --root . --filter src/ --object-directory build/coverage --exclude-throw-branches \
-  --exclude-unreachable-branches --csv "$table" "${pages[@]}" build/coverage
+  --exclude-unreachable-branches --gcov-ignore-parse-errors --csv "$table" "${pages[@]}" build/coverage
 awk -F, '
   function row(name, lines, reached, branches, taken) {
     printf "%-14s %7d %7d %6.1f %% %8d %8d %6.1f %%\n", name, lines, reached,

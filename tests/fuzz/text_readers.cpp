@@ -93,7 +93,8 @@ void Hold_Content(std::string_view bytes) {
     place = row.next;
   }
   Demand(place == bytes.size(), "the rows are the whole text");
-  for (std::size_t at = 0; at < std::min<std::size_t>(bytes.size(), 200); at += 7) {
+  for (std::size_t at = rows.Row_Of(0).start; at < std::min<std::size_t>(bytes.size(), 200);
+       at += 7) {
     Demand(rows.Before(at) <= at && rows.Behind(at) >= at, "characters have an order");
     rows.Where(at);
   }
