@@ -155,7 +155,12 @@ void frmNotePad::Share_Menus(const QMenu& font, const QMenu& window) {
   connect(own, &QMenu::aboutToShow, this, [own, &font] {
     if (own->isEmpty()) own->addActions(font.actions());
   });
-  menuBar()->addAction(window.menuAction());
+  // A menu that two bars share has no face for assistive tools when the first of them has gone.
+  QMenu* windows = menuBar()->addMenu(window.title());
+  connect(windows, &QMenu::aboutToShow, this, [windows, &window] {
+    windows->clear();
+    windows->addActions(window.actions());
+  });
 }
 
 void frmNotePad::Build_Status() {

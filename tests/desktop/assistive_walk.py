@@ -267,9 +267,17 @@ class Walk:
         window = self.opened(lambda: self.board("Data Wizard"))
         for page in range(8):
             self.look(window, f"page {page + 1}")
+            if page == 3:
+                self.enter_typical_values(window)
             if page < 7:
                 self.go_on(window)
         self.leave(window)
+
+    def enter_typical_values(self, wizard):
+        fields = [n for n, _ in walk(wizard) if n is not None and role(n) == "text" and
+                  "editable" in states(n)]
+        for field, text in zip(fields, ("10000", "2400", "1", "0.1", "50", "18", "30")):
+            self.program.type_into(field, text)
 
     def go_on(self, wizard):
         step = wizard.name
