@@ -4,12 +4,15 @@
 #include <string_view>
 
 #include "core/desk/settings_keys.h"
+#include "core/desk/workspace_port.h"
 #include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
 #include "program_screens.h"
+#include "recovery/frm_recovery.h"
+#include "recovery/recovery_clock.h"
 #include "report/report_commands.h"
 #include "run/create_process.h"
 #include "workspace/main_window.h"
@@ -32,13 +35,19 @@ int main(int given, char** arguments) {
   const barvon::Qt_Services services;
   barvon::Stop_Run_At_Exit();
   barvon::Register_Dilution_File();
-  const barvon::End_Signals end_signals(barvon::End_Program);
+  const barvon::End_Signals end_signals([] {
+    barvon::Port().recovery.leave_unasked();
+    barvon::End_Program();
+  });
   barvon::Take_Program_Folder(barvon::Program_Folder());
   // Settings that a copy has kept beside it go on where it can't be written any more.
   barvon::Copy_If_Not_Own(barvon::kSettingsFile);
   barvon::Main main(barvon::Application_Folder());
   barvon::Register_Program_Screens(&main);
   main.show();
-  barvon::Open_Tips_At_Start();
+  barvon::Recovery_Keeper keeper(barvon::Project());
+  const barvon::Recovery_Clock clock(keeper);
+  // One thing at a time: who goes on with yesterday's work needs no tip.
+  if (!barvon::Offer_Recovery(&main, keeper)) barvon::Open_Tips_At_Start();
   return QApplication::exec();
 }

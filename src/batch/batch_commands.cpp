@@ -14,6 +14,7 @@
 #include "batch/json_record.h"
 #include "batch/leftovers.h"
 #include "core/desk/load_record.h"
+#include "core/desk/project_hold.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
 #include "platform/files/path_lookup.h"
@@ -55,6 +56,12 @@ int New(const Batch_Options& options) {
   const auto record = Fresh_Record();
   Pack_Slots(*record);
   const std::string target = Path_To_Write(path);
+  Lock_File lock;
+  if (lock.Take(Lock_Path_Of(target)) == Lock_File::Outcome::Held) {
+    Say_Problem(file, "is open in a window: " +
+                          (lock.Holder() ? Holder_In_Words(*lock.Holder()) : "nobody knows whose"));
+    return kNotDone;
+  }
   if (const int error = Write_Whole_File(target, Save_Project(target, *record)); error != 0) {
     Say_Problem(file, std::string("can't be written: ") + std::strerror(error));
     return kNotDone;

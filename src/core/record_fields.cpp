@@ -59,6 +59,19 @@ void Set_Element(ProjectRecord& record, int i, int j, double value) {
   }
 }
 
+template <auto Member>
+void Set_Text_Element([[maybe_unused]] ProjectRecord& record, [[maybe_unused]] int i,
+                      [[maybe_unused]] int j, [[maybe_unused]] const std::string& text) {
+  using Element = typename Shape<
+      std::remove_cvref_t<decltype(std::declval<const ProjectRecord&>().*Member)>>::Element;
+  if constexpr (std::is_same_v<Element, std::string>) {
+    const_cast<Element&>(Element_Of<Member>(record, i, j)) = text;
+  } else if constexpr (std::is_same_v<Element, char>) {
+    const std::string bytes = To_File_Bytes(text);
+    const_cast<Element&>(Element_Of<Member>(record, i, j)) = bytes.empty() ? '\0' : bytes.front();
+  }
+}
+
 double No_Number(const ProjectRecord&, int, int) { return 0; }
 std::string No_Text(const ProjectRecord&, int, int) { return {}; }
 
@@ -67,8 +80,9 @@ constexpr Record_Field Field_Of(const char* name) {
   using Field_Shape =
       Shape<std::remove_cvref_t<decltype(std::declval<const ProjectRecord&>().*Member)>>;
   using Element = typename Field_Shape::Element;
-  Record_Field field{name,       Type_Of<Element>(), Field_Shape::kCount, Field_Shape::kAcross,
-                     &No_Number, &No_Text,           &Set_Element<Member>};
+  Record_Field field{
+      name,       Type_Of<Element>(), Field_Shape::kCount,  Field_Shape::kAcross,
+      &No_Number, &No_Text,           &Set_Element<Member>, &Set_Text_Element<Member>};
   if constexpr (std::is_same_v<Element, std::string>) {
     field.text = [](const ProjectRecord& r, int i, int j) { return Element_Of<Member>(r, i, j); };
   } else if constexpr (std::is_same_v<Element, char>) {
@@ -188,7 +202,8 @@ constexpr std::array kFields = {
     Record_Field{
         "TracerName", Field_Type::Text, 0, 0, &No_Number,
         [](const ProjectRecord& r, int, int) { return r.TracerName(); },
-        [](ProjectRecord& r, int, int, double value) { r.TracerName() = Plain_Number(value); }},
+        [](ProjectRecord& r, int, int, double value) { r.TracerName() = Plain_Number(value); },
+        [](ProjectRecord& r, int, int, const std::string& text) { r.TracerName() = text; }},
     Field_Of<&ProjectRecord::SolidSG>("SolidSG"),
     Field_Of<&ProjectRecord::SolidVolFraction>("SolidVolFraction"),
     Field_Of<&ProjectRecord::SolidFallVelocity>("SolidFallVelocity"),

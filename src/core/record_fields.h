@@ -26,6 +26,8 @@ struct Record_Field {
   // Puts a value there whatever the type, cut to what the field can hold: a text takes the number's
   // text, a character the byte. What fills a whole record goes by it.
   void (*set)(ProjectRecord&, int i, int j, double value) = nullptr;
+  // Puts a text there, UTF-8; of a character the first. Text and Character, else nothing.
+  void (*set_text)(ProjectRecord&, int i, int j, const std::string& text) = nullptr;
 };
 
 /// Every field, in the order of the record: what shows a whole record or compares two goes by it.

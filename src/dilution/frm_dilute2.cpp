@@ -168,6 +168,7 @@ void frmDilute2::Fill_Port() {
   };
   Port().dilution.clear = [this] { Clear_Screen(); };
   Port().dilution.leave = [this] { return Leave(); };
+  Port().dilution.name_project = [this](ProjectRecord& copy) { Name_Project(copy); };
   port_is_filled_ = true;
 }
 

@@ -70,6 +70,7 @@ class frmDilute2 : public Input_Screen {
   bool Settle_Typed();
   bool Take_Typed();
   void Give_Project_Back();
+  void Name_Project(ProjectRecord& record) const;
 
   ProjectRecord& record_;
   QLineEdit* Text1;

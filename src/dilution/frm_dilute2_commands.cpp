@@ -147,10 +147,15 @@ bool frmDilute2::Leave() {
 
 void frmDilute2::Give_Project_Back() {
   if (!project_is_changed_) return;
+  Name_Project(record_);
   project_is_changed_ = false;
-  record_.ProjectFileName = project_.file;
-  record_.ProjectTitle = project_.title;
   Port().board.set_caption(project_.caption);
+}
+
+void frmDilute2::Name_Project(ProjectRecord& record) const {
+  if (!project_is_changed_) return;
+  record.ProjectFileName = project_.file;
+  record.ProjectTitle = project_.title;
 }
 
 bool frmDilute2::Holds_Unsaved_Input() {

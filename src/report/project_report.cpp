@@ -2,12 +2,12 @@
 
 #include <sys/stat.h>
 
-#include <array>
 #include <ctime>
 #include <memory>
 #include <utility>
 
 #include "core/text_tools.h"
+#include "platform/files/lock_holder.h"
 #include "platform/files/paths.h"
 #include "report/report_sections.h"
 #include "site/site_data.h"
@@ -16,14 +16,6 @@ namespace barvon {
 namespace {
 
 constexpr char kNotSaved[] = "not saved";
-
-std::string In_Words(std::time_t time) {
-  std::tm parts{};
-  std::array<char, 32> text{};
-  if (localtime_r(&time, &parts) == nullptr) return "";
-  const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &parts);
-  return {text.data(), length};
-}
 
 void Put_File(Report_Maker& report, const Report_Facts& facts) {
   if (facts.file.empty()) {
@@ -43,10 +35,10 @@ Report_Facts Facts_Of(const ProjectRecord& record) {
   Report_Facts facts;
   facts.file = record.ProjectFileName;
   facts.saved = record.DataSaved != kFalse;
-  facts.date = In_Words(std::time(nullptr));
+  facts.date = Time_In_Words(std::time(nullptr));
   struct stat status {};
   if (!facts.file.empty() && ::stat(facts.file.c_str(), &status) == 0) {
-    facts.changed = In_Words(status.st_mtime);
+    facts.changed = Time_In_Words(status.st_mtime);
   }
   return facts;
 }

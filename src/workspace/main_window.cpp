@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "checks/check_data.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
 #include "core/desk/screen_register.h"
@@ -80,6 +81,8 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
   Set_Program_End([this] {
     Show_Help({Help_Command::Quit, 0, ""});
     Stop_Run_And_Wait();
+    Port().recovery.leave();
+    Release_Project();
     end_process_();
   });
   Start_Up(application_folder);
@@ -89,6 +92,7 @@ Main::Main(const std::string& application_folder, std::function<void()> end_proc
 Main::~Main() {
   Discard_Texts();
   Documents().Reset();
+  Release_Project();
   Reset_Port();
   Set_Program_End({});
 }

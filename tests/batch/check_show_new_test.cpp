@@ -5,6 +5,7 @@
 
 #include "batch/batch_fixture.h"
 #include "core/record_fields.h"
+#include "platform/files/lock_file.h"
 
 namespace barvon::testing {
 namespace {
@@ -190,6 +191,16 @@ TEST_F(BatchNew, Replaces_A_File_On_Request) {
   EXPECT_EQ(Batch({"new", "--force", "site.dui"}).code, 0);
   EXPECT_TRUE(Read_Text(Path("SITE.DUI")).starts_with("   DUMP    1\r\n"));
   EXPECT_FALSE(Exists(Path("site.dui")));
+}
+
+TEST_F(BatchNew, Leaves_A_Project_That_A_Window_Has_As_It_Is) {
+  Write_Text(Path("site.DUI"), "mine");
+  Lock_File lock;
+  ASSERT_EQ(lock.Take(Path(".site.DUI.barvon-lock")), Lock_File::Outcome::Taken);
+  const Program_Result result = Batch({"new", "--force", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_TRUE(result.err.starts_with("site.DUI: is open in a window: ")) << result.err;
+  EXPECT_EQ(Read_Text(Path("site.DUI")), "mine");
 }
 
 TEST_F(BatchNew, Refuses_A_Name_That_Is_No_Projects) {

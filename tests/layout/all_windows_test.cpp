@@ -24,6 +24,7 @@
 #include "platform/qt/input_screen.h"
 #include "platform/qt/screen_window.h"
 #include "program_screens.h"
+#include "recovery/frm_recovery.h"
 #include "support/screen_support.h"
 #include "support/window_walk.h"
 #include "workspace/note_pads.h"
@@ -350,6 +351,25 @@ void Look_At_Database(Main_Bench& bench, const Look& look) {
   Unload(check);
 }
 
+/// What two ended windows left, one of it damaged.
+void Look_At_Recovery(Main_Bench& bench, const Look& look) {
+  std::vector<Recovery_Row> rows(2);
+  rows[0].name = "RIVER.DUI";
+  rows[0].state = "/home/anna/projects/RIVER.DUI has been changed since.";
+  rows[0].column = "In the file";
+  rows[0].left.copy.emplace();
+  rows[0].differences = {{"Site Description", "Depth", "10 ft", "12 ft"}};
+  rows[1].name = "4711-1764000000-0.barvon-copy";
+  rows[1].state = "This copy is damaged.";
+  Recovery_Keeper keeper(Project());
+  frmRecovery screen(&bench.main(), std::move(rows), keeper, Project());
+  screen.Open(false);
+  look(screen, "with what differs");
+  screen.findChild<QListWidget*>("List1")->setCurrentRow(1);
+  look(screen, "with a damaged copy");
+  Unload(screen);
+}
+
 void Look_At_Progress(const Look& look) {
   frmProgress_Bar progress(nullptr);
   progress.Open("Reading Velocity Data...");
@@ -409,6 +429,7 @@ void Walk_All_Windows(const Look& look) {
   Look_At_Text(bench, settled);
   Look_At_Site(settled);
   Look_At_Database(bench, settled);
+  Look_At_Recovery(bench, settled);
   Look_At_Progress(settled);
   Look_At_File_Dialogs(settled);
   Look_At_Wizard(settled);

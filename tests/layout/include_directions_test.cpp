@@ -52,6 +52,7 @@ const std::map<std::string, Room_Rule>& Table() {
        {{"core", "platform", "pictures/shapes", "pictures/drawings", "checks/check_data",
          "checks/error_entries", "checks/remarks", "site", "material", "params"},
         {"platform/qt", "pictures"}}},
+      {"recovery", {{"core", "platform", "report/project_differences"}, {"platform/qt"}}},
       {"workspace",
        {{"core", "platform", "pictures/shapes", "pictures/drawings", "run", "checks/check_data",
          "checks/error_entries"},

@@ -20,6 +20,7 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableView>
+#include <QTableWidget>
 #include <QTest>
 #include <QToolBar>
 #include <QTreeView>
@@ -245,7 +246,9 @@ bool Group_Is_Reached(const QRadioButton* option, const std::set<const QWidget*>
 
 /// Out of a table, whose cells Tab goes through, leads Tab with Ctrl.
 void Press_Tab(QWidget* control) {
-  const bool in_a_table = qobject_cast<QTableView*>(control) != nullptr;
+  // A table that is only read lets Tab go.
+  const bool in_a_table = qobject_cast<QTableView*>(control) != nullptr &&
+                          qobject_cast<QTableWidget*>(control) == nullptr;
   QTest::keyClick(control, Qt::Key_Tab, in_a_table ? Qt::ControlModifier : Qt::NoModifier);
 }
 

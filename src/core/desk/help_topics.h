@@ -22,6 +22,7 @@ inline constexpr int kDataBase = 2590;
 inline constexpr int kDilution = 2590;
 inline constexpr int kErrorList = 2650;
 inline constexpr int kTextViewer = 2720;
+inline constexpr int kRecovery = 2730;
 inline constexpr int kSimulation = 3000;
 inline constexpr int kWaterDensity = 3030;
 inline constexpr int kWizardOptions = 2660;

@@ -5,6 +5,7 @@
 #include "core/desk/analysis_keys.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/file_kinds.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/reset_vars.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
@@ -90,11 +91,17 @@ bool Open_File(const std::string& path, ProjectRecord& record) {
   }
   // What was said of the project before no longer holds.
   Port().board.show_note({result.remark, {}});
+  if (Last_Three_Letters(path) == kDilutionLetters) Port().recovery.dilutions_settled();
   return true;
 }
 
 bool Open_Project(const std::string& path, ProjectRecord& record) {
+  // A list of dilutions takes no project's place.
+  const bool is_project = Last_Three_Letters(path) == kProjectLetters && Find_Path(path);
+  Project_Claim claim;
+  if (is_project && !claim.To_Open(path)) return false;
   if (!Open_File(path, record)) return false;
+  if (is_project) claim.Keep();
   record.ProjectFileName = path;
   record.BaseFileName = Base_Name(path);
   Port().board.set_caption("BARVON - " + path);
@@ -103,6 +110,7 @@ bool Open_Project(const std::string& path, ProjectRecord& record) {
     record.FileKind = kProjectKind;
     Port().board.open_menus();
   }
+  if (is_project) Port().recovery.settled();
   return true;
 }
 

@@ -16,7 +16,8 @@ bool Open_File(const std::string& path, ProjectRecord& record);
 /// Says that the file could not be opened.
 void Tell_Not_Opened(const std::string& path);
 
-/// Open_File, and on success ProjectFileName, BaseFileName and the caption follow. They stay as
+/// Open_File, once a person has agreed where another window has the project, which is this window's
+/// from then on. On success ProjectFileName, BaseFileName and the caption follow. They stay as
 /// they were when nothing was loaded, so that a later save never takes an output that was picked
 /// in the dialog for the project's file.
 bool Open_Project(const std::string& path, ProjectRecord& record);

@@ -1,5 +1,6 @@
 #include "core/desk/reset_vars.h"
 
+#include "core/desk/project_hold.h"
 #include "core/desk/text_prompt.h"
 #include "core/desk/workspace_port.h"
 #include "core/project_defaults.h"
@@ -17,7 +18,10 @@ bool Reset_Vars(ProjectRecord& record) {
   // Outputs are named from it: a run of the new project must not find the old one's file.
   record.BaseFileName.clear();
   record.WizardActive = record.WizardAccepted = kFalse;
+  Release_Project();
   Port().board.refresh_for_new_project();
+  Port().recovery.settled();
+  Port().recovery.dilutions_settled();
   return true;
 }
 

@@ -10,6 +10,7 @@
 #include "core/desk/analysis_keys.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/file_kinds.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/show_screen.h"
 #include "core/desk/workspace_port.h"
@@ -64,6 +65,11 @@ bool Lead_To_One_File(const std::string& path, const std::string& other) {
 }
 
 bool Write_Project(const std::string& path, ProjectRecord& record) {
+  Project_Claim claim;
+  if (!claim.To_Save(path)) {
+    Port().board.show_note({Name_Of(path) + " was not saved.", {}});
+    return false;
+  }
   std::string model_input;
   Failure model_failure = Failure::None;
   const bool written = Write_File(path, kProjectKind, [&] {
@@ -82,6 +88,7 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
     return bytes;
   });
   if (!written) return false;
+  claim.Keep(State_Of_File(path));
   record.FileTypeTag = "DUE";
   const std::string name = With_Extension(path, "DUE");
   const std::string lacking =
@@ -161,6 +168,11 @@ bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   }
   Port().board.set_caption("BARVON - " + path);
   Update_Recent_Files(path);
+  if (kind == kDilutionKind) {
+    Port().recovery.dilutions_settled();
+  } else {
+    Port().recovery.settled();
+  }
   return true;
 }
 

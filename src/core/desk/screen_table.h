@@ -82,6 +82,7 @@ consteval auto Make() {
       {"frmNotePad",      kTextViewer},
       {"Open_Text_File", kContents, Command},
       {"Project_Report", kContents, Command},
+      {"frmRecovery",     kRecovery},
       {"frmTip"},
       {"frmAbout"},
       {"frmAboutMore"},

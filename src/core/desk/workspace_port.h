@@ -7,6 +7,7 @@
 
 namespace barvon {
 
+struct ProjectRecord;
 struct Screen_Row;
 
 enum class Status_Colour { Black, Blue };
@@ -110,6 +111,19 @@ struct Dilution_Port {
   /// Before the program ends: closes the calculator and gives the project its name back. False when
   /// a person wants to stay with what was typed.
   std::function<bool()> leave = [] { return true; };
+  /// Gives a copy of the record the project's name and title, which the list's stand in for while
+  /// the calculator is open.
+  std::function<void(ProjectRecord& copy)> name_project = [](ProjectRecord&) {};
+};
+
+/// What is kept of unsaved work for the day the program ends unasked.
+struct Recovery_Port {
+  /// The project has just been loaded, saved or reset; the list of dilutions has.
+  std::function<void()> settled = [] {};
+  std::function<void()> dilutions_settled = [] {};
+  /// The program ends: a person has been asked, or was not.
+  std::function<void()> leave = [] {};
+  std::function<void()> leave_unasked = [] {};
 };
 
 /// What the floors below may ask of the windows above them. The owner of a group fills it; every
@@ -121,6 +135,7 @@ struct Workspace_Port {
   Report_Port report;
   Wizard_Port wizard;
   Dilution_Port dilution;
+  Recovery_Port recovery;
 };
 
 /// The table, each entry callable even when nobody filled it.

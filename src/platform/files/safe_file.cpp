@@ -262,10 +262,10 @@ int Read_Whole_File(const std::string& path, std::string& bytes) {
   return error;
 }
 
-int Write_Exclusive_File(const std::string& path, std::string_view bytes) {
+int Write_Exclusive_File(const std::string& path, std::string_view bytes, mode_t mode) {
   if (::unlink(path.c_str()) != 0 && errno != ENOENT) return errno;
   const int descriptor =
-      ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+      ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode);
   if (descriptor < 0) return errno;
   int error = Write_All(descriptor, bytes);
   if (::close(descriptor) != 0 && error == 0) error = errno;

@@ -75,8 +75,9 @@ int Read_Whole_File(const std::string& path, std::string& bytes);
 
 /// Makes a new file that no link can lead elsewhere: what is under the name is removed first,
 /// and the file is created exclusively. It is for programs that run now and is not waited for on
-/// the disk. 0 or an errno value; nothing stays after a failure.
-int Write_Exclusive_File(const std::string& path, std::string_view bytes);
+/// the disk. `mode` is what the process's mask leaves of its permissions. 0 or an errno value;
+/// nothing stays after a failure.
+int Write_Exclusive_File(const std::string& path, std::string_view bytes, mode_t mode = 0666);
 
 /// Where a save notes the name of its working file while it lasts, so that the next start can
 /// remove what a kill left behind. Empty: no notes are taken.

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/files/lock_file.h"
+
+namespace barvon {
+
+// The project that is open in this window is held by a lock file beside it, so that whoever opens
+// it in another window, of this host or another, is told. Its names and links are one project; of
+// hard links in several folders the windows of one user know. Where the folder takes no file there
+// is no lock, and nobody is told. What stands on the disk is noted at every load and save.
+
+/// What the file of a project was when it was loaded or saved.
+struct File_State {
+  std::int64_t changed = 0;  // nanoseconds since 1970
+  std::int64_t size = 0;     // bytes
+  bool operator==(const File_State&) const = default;
+};
+/// Nothing where there is no file.
+std::optional<File_State> State_Of_File(const std::string& path);
+
+/// The locks of one project.
+struct Project_Locks {
+  Lock_File beside;
+  Lock_File shared;  // in the folder per user, of a file that has hard links
+};
+
+/// A project that is about to be opened or saved under a path. Unless it is kept, what it has
+/// locked is let go of.
+class Project_Claim {
+ public:
+  /// Locks the project; one that somebody holds is opened all the same when a person wants that.
+  /// False when not.
+  bool To_Open(const std::string& path);
+  /// Locks the project; a person is asked before one that somebody holds, or that has changed on
+  /// the disk since it was loaded, is written over. False when it is not to be.
+  bool To_Save(const std::string& path);
+  /// The project has been loaded or saved: it is this window's, and the former one is not. A
+  /// state that is given is what is taken for its file's.
+  void Keep();
+  void Keep(std::optional<File_State> state);
+
+ private:
+  bool Lock(const std::string& question);
+
+  std::string path_;
+  std::optional<File_State> state_;
+  std::optional<Project_Locks> locks_;  // nothing: the window has them already
+};
+
+/// The window works on no project that has a file.
+void Release_Project();
+
+/// The path of the project that the window works on, "" when it has no file; and what its file was.
+const std::string& Held_Project();
+std::optional<File_State> Held_State();
+
+/// The name of the lock file of a project, beside what its links lead to.
+std::string Lock_Path_Of(const std::string& project);
+
+}  // namespace barvon

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+
+#include "platform/files/lock_holder.h"
+
+namespace barvon {
+
+/// A file that says who works with something, for as long as that lasts. It is made whole or not
+/// at all, and of several programs that make it at the same time one succeeds. The maker keeps the
+/// file locked as well: a lock that the system has let go of belongs to no running program of this
+/// host, whatever its text says.
+class Lock_File {
+ public:
+  enum class Outcome {
+    Taken,         // it is this program's until Release
+    Held,          // by somebody else, see Holder
+    Not_Possible,  // the folder takes no new file, or something else has the name
+  };
+
+  Lock_File() = default;
+  ~Lock_File() { Release(); }
+  Lock_File(Lock_File&& other) noexcept;
+  Lock_File& operator=(Lock_File&& other) noexcept;
+  Lock_File(const Lock_File&) = delete;
+  Lock_File& operator=(const Lock_File&) = delete;
+
+  /// Makes the file under that path, after Release. What an ended program of this host left is
+  /// taken over; what is another host's, or nobody's that can be told, only when `asked` says that
+  /// a person wants it. What a running program has is never taken.
+  Outcome Take(const std::string& path, bool asked = false);
+  /// Removes the file if it is still this program's.
+  void Release();
+
+  bool Is_Held() const { return descriptor_ >= 0; }
+  const std::string& Path() const { return path_; }
+  /// Who had the lock at the last Take; nothing when its file does not say.
+  const std::optional<Lock_Holder>& Holder() const { return holder_; }
+
+ private:
+  enum class Step { Taken, There_Is_One, Not_Possible, Held, Again };
+  Step Make();
+  Step Make_In_Steps();
+  Step Look_At_Former(bool asked);
+
+  int descriptor_ = -1;
+  std::string path_;
+  std::optional<Lock_Holder> holder_;
+};
+
+}  // namespace barvon

@@ -1,0 +1,88 @@
+#include "recovery/recovery_keeper.h"
+
+#include <system_error>
+
+#include "core/desk/workspace_port.h"
+#include "core/record_bytes.h"
+#include "platform/files/check_sum.h"
+
+namespace barvon {
+namespace {
+
+std::uint64_t Sum_Of(const ProjectRecord& record, bool (*counts)(const Record_Field&)) {
+  return Check_Sum(Record_Bytes(record, counts));
+}
+
+}  // namespace
+
+Recovery_Keeper::Recovery_Keeper(const ProjectRecord& record)
+    : record_(record),
+      project_(Sum_Of(record, Is_Project_Data)),
+      dilutions_(Sum_Of(record, Is_Dilution_Data)) {}
+
+bool Recovery_Keeper::Project_Is_Unsaved() const {
+  return record_.DataSaved == kFalse && Sum_Of(record_, Is_Project_Data) != project_;
+}
+
+bool Recovery_Keeper::Dilutions_Are_Unsaved() const {
+  return Sum_Of(record_, Is_Dilution_Data) != dilutions_;
+}
+
+void Recovery_Keeper::Look() {
+  if (ended_) return;
+  if (Project_Is_Unsaved() || Dilutions_Are_Unsaved()) {
+    Keep();
+  } else {
+    own_.Remove();
+  }
+}
+
+bool Recovery_Keeper::Keep() {
+  Recovery_Copy copy{std::make_unique<ProjectRecord>(record_), std::time(nullptr), Held_State(),
+                     Project_Is_Unsaved(), Dilutions_Are_Unsaved()};
+  Port().dilution.name_project(*copy.record);
+  const std::string name = copy.record->ProjectFileName + "\n" + copy.record->BaseFileName;
+  const std::uint64_t now = Sum_Of(*copy.record, Is_Project_Data) ^ Check_Sum(name) ^
+                            Sum_Of(record_, Is_Dilution_Data) << 1;
+  if (own_.Stands() && now == kept_) return true;
+  const int error = own_.Write(Copy_Bytes(copy));
+  if (error == 0) kept_ = now;
+  if (error != 0 && !told_) {
+    Port().board.show_note({"No copy can be kept of what is not saved yet: " +
+                                std::generic_category().message(error) + ".",
+                            {}});
+  }
+  told_ = error != 0;
+  return error == 0;
+}
+
+void Recovery_Keeper::Settle() {
+  project_ = Sum_Of(record_, Is_Project_Data);
+  Look();
+}
+
+void Recovery_Keeper::Settle_Dilutions() {
+  dilutions_ = Sum_Of(record_, Is_Dilution_Data);
+  Look();
+}
+
+bool Recovery_Keeper::Take_Over(const Recovery_Copy& copy) {
+  // A sum that the record does not have.
+  project_ = Sum_Of(record_, Is_Project_Data) + (copy.project_is_unsaved ? 1 : 0);
+  dilutions_ = Sum_Of(record_, Is_Dilution_Data) + (copy.dilutions_are_unsaved ? 1 : 0);
+  return Keep();
+}
+
+void Recovery_Keeper::Leave() {
+  if (ended_) return;
+  own_.Remove();
+  ended_ = true;
+}
+
+void Recovery_Keeper::Leave_Unasked() {
+  Look();
+  own_.Leave();
+  ended_ = true;
+}
+
+}  // namespace barvon
