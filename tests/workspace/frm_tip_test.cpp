@@ -63,8 +63,9 @@ TEST_F(Tip, Comes_From_The_Users_File_Or_From_The_One_That_Came_With_The_Program
   const Scratch_Folder program;
   Write_Text(program / "TIPOFDAY.TXT", "A tip of the program.\n");
   Set_Delivered_Folder(program.path());
-  EXPECT_EQ(Text(Open()), "First tip.");
-  In_View()->close();
+  frmTip& own = Open();
+  EXPECT_EQ(Text(own), "First tip.");
+  own.Unload();
   std::filesystem::remove(bench.folder / "TIPOFDAY.TXT");
   EXPECT_EQ(Text(Open()), "A tip of the program.");
   Set_Delivered_Folder("");

@@ -11,6 +11,7 @@
 #include <optional>
 #include <set>
 
+#include "core/desk/project_hold.h"
 #include "core/desk/recent_files.h"
 #include "core/project_record.h"
 #include "platform/ask/file_dialog.h"
@@ -144,6 +145,7 @@ class HostileNames : public ::testing::Test {
                              "tmpfile.dut", "tmpfile.duc"}) {
       wanted.insert(bench.folder / name);
     }
+    if (!Held_Project().empty()) wanted.insert(Lock_Path_Of(Held_Project()));
     // Names with a line break leave it unmade.
     wanted.insert(bench.folder / "BARVON.INI");
     std::set<std::string> there = Everything();
