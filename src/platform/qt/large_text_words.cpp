@@ -36,7 +36,7 @@ class Spoken_Text : public QAccessibleWidget, public QAccessibleTextInterface {
 
   int selectionCount() const override { return view_.Mark() == view_.Place() ? 0 : 1; }
   void selection(int, int* from, int* to) const override {
-    const auto [first, last] = std::minmax(view_.Mark(), view_.Place());
+    const auto [first, last] = std::minmax({view_.Mark(), view_.Place()});
     *from = view_.Offset_In_View(first);
     *to = view_.Offset_In_View(last);
   }
