@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "core/desk/project_hold.h"
 #include "core/desk/workspace_port.h"
 
 namespace barvon {
@@ -17,7 +18,10 @@ Recovery_Clock::Recovery_Clock(Recovery_Keeper& keeper) {
   Port().recovery.dilutions_settled = [&keeper] { keeper.Settle_Dilutions(); };
   Port().recovery.leave = [&keeper] { keeper.Leave(); };
   Port().recovery.leave_unasked = [&keeper] { keeper.Leave_Unasked(); };
-  QObject::connect(&timer_, &QTimer::timeout, &timer_, [&keeper] { keeper.Look(); });
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [&keeper] {
+    keeper.Look();
+    Hold_What_Was_Let_Go_Of();
+  });
   timer_.start(std::chrono::seconds(10));
 }
 

@@ -1,7 +1,9 @@
 #include "recovery/recovery_data.h"
 
+#include <cerrno>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "core/coefficients.h"
@@ -152,8 +154,9 @@ bool Throw_Copy_Away(Recovery_Row& row) {
                         "be brought back.",
                     kMessageTitle, Buttons::YesNo, Icon::Warning, Answer::No, Answer::No});
   if (answer != Answer::Yes) return false;
-  Remove_Left_Copy(row.left);
-  return true;
+  if (Remove_Left_Copy(row.left)) return true;
+  Show_Message({"The copy could not be removed: " + std::generic_category().message(errno) + "."});
+  return false;
 }
 
 }  // namespace barvon

@@ -60,7 +60,7 @@ int Own_Copy::Take_Name() {
     const std::string stem = Join_Path(*folder, name + std::to_string(i));
     if (Exists(With_Ending(stem, kCopy))) continue;
     const auto outcome = lock_.Take(With_Ending(stem, kLock));
-    if (outcome == Lock_File::Outcome::Not_Possible) return EACCES;
+    if (outcome == Lock_File::Outcome::Not_Possible) return lock_.Error();
     if (outcome == Lock_File::Outcome::Held) continue;
     path_ = With_Ending(stem, kCopy);
     return 0;
@@ -69,7 +69,8 @@ int Own_Copy::Take_Name() {
 }
 
 int Own_Copy::Write(const std::string& bytes) {
-  if (!lock_.Is_Held()) {
+  // Somebody may have removed the folder: a copy without its lock would be another window's.
+  if (!lock_.Is_Held() || !Exists(lock_.Path())) {
     if (const int error = Take_Name(); error != 0) return error;
   }
   const std::string part = With_Ending(Stem_Of(path_), kPart);
@@ -81,6 +82,8 @@ int Own_Copy::Write(const std::string& bytes) {
   if (error == 0) stands_ = true;
   return error;
 }
+
+bool Own_Copy::Stands() const { return stands_ && Exists(path_); }
 
 void Own_Copy::Remove() {
   if (stands_) ::unlink(path_.c_str());
@@ -102,7 +105,10 @@ std::vector<Left_Copy> Take_Left_Copies() {
   for (const std::string& name : stems) {
     const std::string stem = Join_Path(*folder, name);
     Left_Copy left{With_Ending(stem, kCopy), {}, 0, std::nullopt};
-    if (left.lock.Take(With_Ending(stem, kLock)) == Lock_File::Outcome::Held) continue;
+    // A host's name may have changed since. A living window's lock the system still has.
+    const auto outcome =
+        left.lock.Take(With_Ending(stem, kLock), Lock_File::Foreign::Goes_When_Let_Go_Of);
+    if (outcome == Lock_File::Outcome::Held) continue;
     ::unlink(With_Ending(stem, kPart).c_str());
     struct stat status {};
     if (::lstat(left.path.c_str(), &status) != 0) continue;
@@ -115,9 +121,10 @@ std::vector<Left_Copy> Take_Left_Copies() {
   return found;
 }
 
-void Remove_Left_Copy(Left_Copy& left) {
-  ::unlink(left.path.c_str());
+bool Remove_Left_Copy(Left_Copy& left) {
+  if (::unlink(left.path.c_str()) != 0 && errno != ENOENT) return false;
   left.lock.Release();
+  return true;
 }
 
 }  // namespace barvon

@@ -20,7 +20,7 @@ class Own_Copy {
   /// Replaces the copy whole. It is for the day that this program ends, not that the power fails:
   /// nothing waits for the disk. 0 or an errno value, with the former copy as it was.
   int Write(const std::string& bytes);
-  bool Stands() const { return stands_; }
+  bool Stands() const;
   void Remove();
   /// The copy stays, for the next start.
   void Leave();
@@ -33,7 +33,7 @@ class Own_Copy {
   bool stands_ = false;
 };
 
-/// A copy that an ended window of this host left, and that no other window looks at meanwhile.
+/// A copy that an ended window left, and that no other window looks at meanwhile.
 struct Left_Copy {
   std::string path;
   Lock_File lock;
@@ -43,7 +43,7 @@ struct Left_Copy {
 
 /// All of them, the latest first. What else a killed window left in the folder is removed.
 std::vector<Left_Copy> Take_Left_Copies();
-/// Removes the file, and lets go of it.
-void Remove_Left_Copy(Left_Copy& left);
+/// Removes the file, and lets go of it. False, with errno set, when it stays.
+bool Remove_Left_Copy(Left_Copy& left);
 
 }  // namespace barvon

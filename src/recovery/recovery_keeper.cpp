@@ -1,5 +1,6 @@
 #include "recovery/recovery_keeper.h"
 
+#include <string>
 #include <system_error>
 
 #include "core/desk/workspace_port.h"
@@ -41,8 +42,12 @@ bool Recovery_Keeper::Keep() {
   Recovery_Copy copy{std::make_unique<ProjectRecord>(record_), std::time(nullptr), Held_State(),
                      Project_Is_Unsaved(), Dilutions_Are_Unsaved()};
   Port().dilution.name_project(*copy.record);
-  const std::string name = copy.record->ProjectFileName + "\n" + copy.record->BaseFileName;
-  const std::uint64_t now = Sum_Of(*copy.record, Is_Project_Data) ^ Check_Sum(name) ^
+  const File_State file = copy.file.value_or(File_State());
+  const std::string around = copy.record->ProjectFileName + "\n" + copy.record->BaseFileName +
+                             "\n" + std::to_string(file.changed) + " " + std::to_string(file.size) +
+                             (copy.project_is_unsaved ? "p" : "") +
+                             (copy.dilutions_are_unsaved ? "d" : "");
+  const std::uint64_t now = Sum_Of(*copy.record, Is_Project_Data) ^ Check_Sum(around) ^
                             Sum_Of(record_, Is_Dilution_Data) << 1;
   if (own_.Stands() && now == kept_) return true;
   const int error = own_.Write(Copy_Bytes(copy));

@@ -191,8 +191,38 @@ TEST_F(Recovery, Of_A_Running_Window_Nothing_Is_Offered_And_Of_A_Killed_One_Ever
   }
   std::vector<Left_Copy> again = Take_Left_Copies();
   ASSERT_EQ(again.size(), 1U);
-  Remove_Left_Copy(again[0]);
+  EXPECT_TRUE(Remove_Left_Copy(again[0]));
   EXPECT_EQ(Names_In(folder), std::vector<std::string>{});
+}
+
+TEST_F(Recovery, A_Copy_Of_A_Host_That_Had_Another_Name_Is_Offered) {
+  fs::create_directories(folder);
+  fs::permissions(folder, fs::perms::owner_all);
+  Lock_Holder former = This_Program();
+  former.host += "-before";
+  Write_Text(folder + "/1-1-0.barvon-lock", Holder_Lines(former));
+  Write_Text(folder + "/1-1-0.barvon-copy", "whatever");
+  EXPECT_EQ(Take_Left_Copies().size(), 1U);
+}
+
+TEST_F(Recovery, A_Folder_That_Was_Removed_Is_Made_Anew_With_Copy_And_Lock) {
+  Recovery_Keeper keeper(*record);
+  record->DEPC0 = 16;
+  keeper.Look();
+  fs::remove_all(folder);
+  keeper.Look();
+  EXPECT_EQ(Copies().size(), 1U);
+  EXPECT_EQ(Names_In(folder).size(), 2U) << "the copy and its lock";
+  keeper.Leave();
+  EXPECT_EQ(Names_In(folder), std::vector<std::string>{});
+}
+
+TEST_F(Recovery, A_Copy_That_Can_Not_Be_Removed_Is_Said_To_Stay) {
+  fs::create_directories(folder + "/1-1-0.barvon-copy/full");
+  fs::permissions(folder, fs::perms::owner_all);
+  std::vector<Left_Copy> left = Take_Left_Copies();
+  ASSERT_EQ(left.size(), 1U);
+  EXPECT_FALSE(Remove_Left_Copy(left[0]));
 }
 
 TEST_F(Recovery, What_Else_A_Killed_Window_Left_Goes_And_Other_Files_Stay) {

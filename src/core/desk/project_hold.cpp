@@ -96,7 +96,7 @@ bool Project_Claim::Lock(const std::string& question) {
         Show_Message({Name_Of(path_) + " is open in another window: " + Name_Of_Holder(lock) +
                           ".\n\n" + question,
                       kMessageTitle, Buttons::YesNo, Icon::Warning, Answer::No, Answer::No});
-    if (answer == Answer::Yes) lock.Take(path, true);
+    if (answer == Answer::Yes) lock.Take(path, Lock_File::Foreign::Goes);
     return answer == Answer::Yes;
   };
   if (!has_beside && !take(locks_->beside, beside)) return false;
@@ -144,6 +144,12 @@ void Project_Claim::Keep(std::optional<File_State> state) {
   }
   hold.locks.shared = std::move(locks_->shared);
   locks_.reset();
+}
+
+void Hold_What_Was_Let_Go_Of() {
+  Hold& hold = This_Hold();
+  if (hold.path.empty() || hold.locks.beside.Is_Held()) return;
+  hold.locks.beside.Take(Lock_Path_Of(hold.path));
 }
 
 void Release_Project() { This_Hold() = {}; }

@@ -51,6 +51,10 @@ class Project_Claim {
   std::optional<Project_Locks> locks_;  // nothing: the window has them already
 };
 
+/// Locks the project that was opened although somebody else had it, once that window has let go of
+/// it. Asks nobody.
+void Hold_What_Was_Let_Go_Of();
+
 /// The window works on no project that has a file.
 void Release_Project();
 

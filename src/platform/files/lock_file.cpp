@@ -18,9 +18,12 @@ namespace {
 constexpr int kMostTries = 100;
 constexpr mode_t kMode = 0644;  // whoever comes next may read whose it is
 
-bool Write_Lines(int descriptor) {
+/// 0 or an errno value.
+int Write_Lines(int descriptor) {
   const std::string lines = Holder_Lines(This_Program());
-  return ::write(descriptor, lines.data(), lines.size()) == static_cast<ssize_t>(lines.size());
+  const ssize_t written = ::write(descriptor, lines.data(), lines.size());
+  if (written < 0) return errno;
+  return written == static_cast<ssize_t>(lines.size()) ? 0 : ENOSPC;
 }
 
 /// Whether the name still leads to the open file, not to another's that took its place.
@@ -47,13 +50,13 @@ Lock_File& Lock_File::operator=(Lock_File&& other) noexcept {
   return *this;
 }
 
-Lock_File::Outcome Lock_File::Take(const std::string& path, bool asked) {
+Lock_File::Outcome Lock_File::Take(const std::string& path, Foreign foreign) {
   Release();
   path_ = path;
   holder_.reset();
   for (int i = 0; i < kMostTries; ++i) {
     Step step = Make();
-    if (step == Step::There_Is_One) step = Look_At_Former(asked);
+    if (step == Step::There_Is_One) step = Look_At_Former(foreign);
     if (step == Step::Taken) return Outcome::Taken;
     if (step == Step::Held) return Outcome::Held;
     if (step == Step::Not_Possible) return Outcome::Not_Possible;
@@ -68,47 +71,50 @@ Lock_File::Step Lock_File::Make() {
   if (descriptor < 0) return Make_In_Steps();
   ::flock(descriptor, LOCK_EX | LOCK_NB);
   const std::string nameless = "/proc/self/fd/" + std::to_string(descriptor);
-  const bool written = Write_Lines(descriptor);
-  if (written &&
+  const int unwritten = Write_Lines(descriptor);
+  if (unwritten == 0 &&
       ::linkat(AT_FDCWD, nameless.c_str(), AT_FDCWD, path_.c_str(), AT_SYMLINK_FOLLOW) == 0) {
     descriptor_ = descriptor;
     return Step::Taken;
   }
   const int error = errno;
   ::close(descriptor);
-  if (written && error == EEXIST) return Step::There_Is_One;
-  return written ? Make_In_Steps() : Step::Not_Possible;
+  if (unwritten != 0) return Impossible(unwritten);
+  return error == EEXIST ? Step::There_Is_One : Make_In_Steps();
 }
 
 /// Where a file system knows no files without a name.
 Lock_File::Step Lock_File::Make_In_Steps() {
   const int descriptor =
       ::open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode);
-  if (descriptor < 0) return errno == EEXIST ? Step::There_Is_One : Step::Not_Possible;
+  if (descriptor < 0) return errno == EEXIST ? Step::There_Is_One : Impossible(errno);
   ::flock(descriptor, LOCK_EX);
   descriptor_ = descriptor;
   if (!Is_Under_Its_Name(descriptor, path_)) {
     ::close(std::exchange(descriptor_, -1));
     return Step::Again;
   }
-  if (Write_Lines(descriptor)) return Step::Taken;
+  const int unwritten = Write_Lines(descriptor);
+  if (unwritten == 0) return Step::Taken;
   Release();
-  return Step::Not_Possible;
+  return Impossible(unwritten);
 }
 
 /// Whoever removes a former lock holds the system's lock on that very file and has seen that it
 /// still has the name: of two that find it abandoned, the second finds the first one's.
-Lock_File::Step Lock_File::Look_At_Former(bool asked) {
+Lock_File::Step Lock_File::Look_At_Former(Foreign foreign) {
   constexpr int kFlags = O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
   int descriptor = ::open(path_.c_str(), O_RDWR | kFlags);
   if (descriptor < 0) descriptor = ::open(path_.c_str(), O_RDONLY | kFlags);
-  if (descriptor < 0) return errno == ENOENT ? Step::Again : Step::Not_Possible;
+  if (descriptor < 0) return errno == ENOENT ? Step::Again : Impossible(errno);
   struct stat status {};
   if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
     ::close(descriptor);
-    return Step::Not_Possible;
+    return Impossible(EEXIST);
   }
-  const bool in_use = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  // Where the file system knows no locks, nothing tells that one was let go of.
+  const bool let_go_of = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+  const bool in_use = !let_go_of && errno == EWOULDBLOCK;
   std::array<char, 4096> bytes{};
   const ssize_t read = ::read(descriptor, bytes.data(), bytes.size());
   holder_ = Read_Holder({bytes.data(), static_cast<std::size_t>(read < 0 ? 0 : read)});
@@ -121,12 +127,18 @@ Lock_File::Step Lock_File::Look_At_Former(bool asked) {
     if (in_use) {
       // Somebody is just taking it over, or has not written all of it.
       if (ended || !holder_) step = Step::Again;
-    } else if (ended || (asked && state == Holder_State::Elsewhere)) {
-      step = ::unlink(path_.c_str()) == 0 ? Step::Again : Step::Not_Possible;
+    } else if (ended || (foreign == Foreign::Goes && state == Holder_State::Elsewhere) ||
+               (foreign == Foreign::Goes_When_Let_Go_Of && let_go_of)) {
+      step = ::unlink(path_.c_str()) == 0 ? Step::Again : Impossible(errno);
     }
   }
   ::close(descriptor);
   return step;
+}
+
+Lock_File::Step Lock_File::Impossible(int error) {
+  error_ = error;
+  return Step::Not_Possible;
 }
 
 void Lock_File::Release() {

@@ -21,6 +21,13 @@ class Lock_File {
     Not_Possible,  // the folder takes no new file, or something else has the name
   };
 
+  /// What becomes of a lock of another host, or of nobody that can be told.
+  enum class Foreign {
+    Stays,
+    Goes_When_Let_Go_Of,  // by the system: for folders that only one user's windows use
+    Goes,                 // a person wants it
+  };
+
   Lock_File() = default;
   ~Lock_File() { Release(); }
   Lock_File(Lock_File&& other) noexcept;
@@ -29,14 +36,15 @@ class Lock_File {
   Lock_File& operator=(const Lock_File&) = delete;
 
   /// Makes the file under that path, after Release. What an ended program of this host left is
-  /// taken over; what is another host's, or nobody's that can be told, only when `asked` says that
-  /// a person wants it. What a running program has is never taken.
-  Outcome Take(const std::string& path, bool asked = false);
+  /// taken over. What a running program of this host has is never taken.
+  Outcome Take(const std::string& path, Foreign foreign = Foreign::Stays);
   /// Removes the file if it is still this program's.
   void Release();
 
   bool Is_Held() const { return descriptor_ >= 0; }
   const std::string& Path() const { return path_; }
+  /// Why the last Take was not possible, as an errno value.
+  int Error() const { return error_; }
   /// Who had the lock at the last Take; nothing when its file does not say.
   const std::optional<Lock_Holder>& Holder() const { return holder_; }
 
@@ -44,9 +52,11 @@ class Lock_File {
   enum class Step { Taken, There_Is_One, Not_Possible, Held, Again };
   Step Make();
   Step Make_In_Steps();
-  Step Look_At_Former(bool asked);
+  Step Look_At_Former(Foreign foreign);
+  Step Impossible(int error);
 
   int descriptor_ = -1;
+  int error_ = 0;
   std::string path_;
   std::optional<Lock_Holder> holder_;
 };

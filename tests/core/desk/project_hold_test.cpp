@@ -278,5 +278,33 @@ TEST_F(ProjectHold, A_Project_That_Another_Process_Saves_Is_Always_Read_Whole) {
   std::printf("%d reads of %zu versions, %d broken\n", reads, titles.size(), broken);
 }
 
+TEST_F(ProjectHold, Opened_All_The_Same_Is_Held_Once_The_Other_Window_Has_Let_Go_Of_It) {
+  Held_Elsewhere();
+  int gate[2];
+  ASSERT_EQ(::pipe(gate), 0);
+  const pid_t other = ::fork();
+  if (other == 0) {
+    Lock_File held;
+    const bool taken = held.Take(lock, Lock_File::Foreign::Goes) == Lock_File::Outcome::Taken;
+    if (::write(gate[1], taken ? "y" : "n", 1) == 1) ::pause();
+    ::_exit(1);
+  }
+  char taken = 0;
+  ASSERT_EQ(::read(gate[0], &taken, 1), 1);
+  ASSERT_EQ(taken, 'y');
+  {
+    const Scripted_Messages messages({Answer::Yes});
+    EXPECT_TRUE(Open_Project(path, *record));
+    EXPECT_EQ(messages.shown.size(), 1U);
+  }
+  Hold_What_Was_Let_Go_Of();
+  EXPECT_FALSE(Is_Mine());
+  ::kill(other, SIGKILL);
+  ::waitpid(other, nullptr, 0);
+  const Scripted_Messages nothing_is_asked;
+  Hold_What_Was_Let_Go_Of();
+  EXPECT_TRUE(Is_Mine());
+}
+
 }  // namespace
 }  // namespace barvon

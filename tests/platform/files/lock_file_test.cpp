@@ -17,6 +17,7 @@ namespace {
 
 using namespace testing;
 using Outcome = Lock_File::Outcome;
+using Foreign = Lock_File::Foreign;
 
 /// Another process that does this and ends with its result.
 pid_t In_A_Process(const std::function<int()>& act) {
@@ -75,9 +76,9 @@ TEST_F(Lock, Is_A_File_That_Says_Whose_It_Is_And_Goes_With_Its_Holder) {
 
 TEST_F(Lock, Of_A_Running_Process_Is_Told_And_Never_Taken) {
   const pid_t process = Holder_Of(path);
-  for (const bool asked : {false, true}) {
+  for (const auto foreign : {Foreign::Stays, Foreign::Goes_When_Let_Go_Of, Foreign::Goes}) {
     Lock_File lock;
-    EXPECT_EQ(lock.Take(path, asked), Outcome::Held);
+    EXPECT_EQ(lock.Take(path, foreign), Outcome::Held);
     ASSERT_TRUE(lock.Holder());
     EXPECT_EQ(lock.Holder()->process, process);
   }
@@ -118,8 +119,26 @@ TEST_F(Lock, Of_Another_Host_Is_Taken_Only_When_A_Person_Wants_It) {
   EXPECT_EQ(lock.Take(path), Outcome::Held);
   EXPECT_EQ(lock.Holder()->user, "anna");
   EXPECT_EQ(Read_Text(path), Holder_Lines(foreign));
-  EXPECT_EQ(lock.Take(path, true), Outcome::Taken);
+  EXPECT_EQ(lock.Take(path, Foreign::Goes), Outcome::Taken);
   EXPECT_EQ(Read_Holder(Read_Text(path))->process, ::getpid());
+}
+
+TEST_F(Lock, Of_Another_Hosts_Name_Goes_When_The_System_Has_Let_Go_Of_It) {
+  Lock_Holder renamed = This_Program();
+  renamed.host += "-2";
+  for (const std::string& text : {Holder_Lines(renamed), std::string("torn")}) {
+    Write_Text(path, text);
+    Lock_File lock;
+    EXPECT_EQ(lock.Take(path, Foreign::Goes_When_Let_Go_Of), Outcome::Taken);
+    EXPECT_EQ(Read_Holder(Read_Text(path))->process, ::getpid());
+  }
+}
+
+TEST_F(Lock, That_Is_Not_Possible_Tells_Why) {
+  std::filesystem::create_directory(path);
+  Lock_File lock;
+  EXPECT_EQ(lock.Take(path), Outcome::Not_Possible);
+  EXPECT_NE(lock.Error(), 0);
 }
 
 TEST_F(Lock, That_Says_Nothing_Is_Somebodys) {
@@ -130,7 +149,7 @@ TEST_F(Lock, That_Says_Nothing_Is_Somebodys) {
     Lock_File lock;
     EXPECT_EQ(lock.Take(path), Outcome::Held);
     EXPECT_FALSE(lock.Holder());
-    EXPECT_EQ(lock.Take(path, true), Outcome::Taken);
+    EXPECT_EQ(lock.Take(path, Foreign::Goes), Outcome::Taken);
   }
 }
 
@@ -149,7 +168,7 @@ TEST_F(Lock, Is_Not_Possible_Where_No_File_Can_Be_Or_A_Link_Has_The_Name) {
   EXPECT_EQ(lock.Take(folder / "none/lock"), Outcome::Not_Possible);
   Write_Text(folder / "precious", "x");
   std::filesystem::create_symlink(folder / "precious", path);
-  EXPECT_EQ(lock.Take(path, true), Outcome::Not_Possible);
+  EXPECT_EQ(lock.Take(path, Foreign::Goes), Outcome::Not_Possible);
   EXPECT_EQ(Read_Text(folder / "precious"), "x");
 }
 
