@@ -23,8 +23,10 @@ using namespace barvon::testing;
 
 constexpr char kUsage[] =
     "usage: attack_saves [--save PART-OF-NAME | --row NAME] count\n"
-    "       attack_saves [--save PART-OF-NAME] fail [EVERY [CASE]]\n"
-    "           every so manieth case, all: 1; those alone whose words have CASE in them\n"
+    "       attack_saves [--save PART-OF-NAME] fail [EVERY [FIRST [CASE]]]\n"
+    "           every so manieth case, all: 1, from FIRST on, 0; those alone whose words have CASE "
+    "in\n"
+    "           them\n"
     "       attack_saves [--save PART-OF-NAME] kill COUNT SEED\n"
     "       attack_saves [--save PART-OF-NAME] full [SIZES]     in a mount name space of its own\n";
 
@@ -116,13 +118,13 @@ bool Is_About(const Failing& failing, const std::string& call) {
   return failing.span != Span::Writes_Only || writes || call.find("sync") != std::string::npos;
 }
 
-Tally Fail(Attack& attack, const std::string& name, int every, const std::string& wanted,
+Tally Fail(Attack& attack, const std::string& name, int every, int first, const std::string& wanted,
            int& number) {
   Tally tally;
   for (int call = 1; call <= attack.Learned().calls; ++call) {
     const std::string of = attack.Learned().call_names[static_cast<std::size_t>(call - 1)];
     for (const Failing& failing : kFailings) {
-      if (!Is_About(failing, of) || number++ % every != 0) continue;
+      if (!Is_About(failing, of) || number++ % every != first) continue;
       const std::string what =
           name + ", call " + std::to_string(call) + " " + of + ", " + failing.name;
       if (what.find(wanted) == std::string::npos) continue;
@@ -223,7 +225,8 @@ int Attack_All(std::vector<Attack> attacks, const std::vector<std::string>& word
     }
     Tally tally;
     if (command == "fail")
-      tally = Fail(attack, name, every, words.size() > 2 ? words[2] : "", number);
+      tally = Fail(attack, name, every, words.size() > 2 ? std::atoi(words[2].c_str()) : 0,
+                   words.size() > 3 ? words[3] : "", number);
     if (command == "full") tally = Fill(attack, name, Number(words, 1, 60));
     if (command == "kill") {
       const auto count = static_cast<int>(attacks.size());

@@ -25,27 +25,54 @@ scratch="$(mktemp -d)"
 trap 'rm -rf "$scratch"' EXIT
 
 "$bin/attack_saves" --save "$save" count | tee "$scratch/count"
-# The saves with the most calls come first: they take the longest.
+# The saves with the most calls come first, in parts of about 30 calls: a line has the save's name,
+# how many parts it has and which this is.
 sed -nE 's/^([^ ].*[^ ]) +([0-9]+)( +0){6} \|.*/\2 \1/p' "$scratch/count" | grep -v ' all$' |
-  sort -rn | cut -d' ' -f2- >"$scratch/rows"
+  sort -rn | awk '{
+    parts = int($1 / 30) + 1
+    sub(/^[0-9]+ /, "")
+    for (part = 0; part < parts; ++part) print $0 "\t" parts "\t" part
+  }' >"$scratch/jobs"
+do_job() {
+  local row parts part code=0
+  IFS=$'\t' read -r row parts part <<<"$1"
+  "$bin/attack_saves" --row "$row" fail $((every * parts)) $((every * part)) \
+    >"$scratch/$row $part" || code=$?
+  grep '^ ' "$scratch/$row $part" || true # finds
+  tail -1 "$scratch/$row $part" | sed "s/^all/$row/" >>"$scratch/seen"
+  return "$code"
+}
+export -f do_job
+export bin every scratch
 missed=0
-xargs -d '\n' -a "$scratch/rows" -P "$processes" -I{} \
-  sh -c '"$1" --row "$2" fail "$3" >"$4" && code=0 || code=$?
-         grep -vE "^(fail|all) " "$4"; exit "$code"' \
-  - "$bin/attack_saves" {} "$every" "$scratch/row-{}" | tee "$scratch/seen" || missed=1
-[ "$(grep -c ' | ' "$scratch/seen")" = "$(wc -l <"$scratch/rows")" ] || missed=1
-awk '/ \| / {
-       split($0, halves, " [|] ")
-       count = split(halves[1], left, " ")
-       for (i = 1; i <= 7; ++i) sums[i] += left[count - 7 + i]
-       count = split(halves[2], right, " ")
-       for (i = 1; i <= 5; ++i) finds[i] += right[i]
+xargs -d '\n' -a "$scratch/jobs" -P "$processes" -I{} bash -c 'do_job "$1"' - {} || missed=1
+[ "$(wc -l <"$scratch/seen")" = "$(wc -l <"$scratch/jobs")" ] || missed=1
+awk 'function sum_up(name, i, count, words) {
+       count = split($0, words, /[ |]+/)
+       calls[name] = words[count - 11]
+       for (i = 2; i <= 12; ++i) sums[name, i] += words[count - 12 + i]
+     }
+     function show(name, calls, i) {
+       printf "%-34s %5d", name, calls
+       for (i = 2; i <= 12; ++i) printf "%s %6d", i == 8 ? " | " : "", sums[name, i]
+       print ""
+     }
+     BEGIN {
+       print "save                               calls  cases    met    old    new   new+   left |" \
+             " damaged silent litter  again    bad"
+     }
+     {
+       name = $0
+       sub(/ +[0-9].*/, "", name)
+       if (!(name in calls)) names[++rows] = name
+       sum_up(name)
+       sum_up("all")
      }
      END {
-       printf "%-32s %5d", "all", sums[1]
-       for (i = 2; i <= 7; ++i) printf " %6d", sums[i]
-       printf " | %7d", finds[1]
-       for (i = 2; i <= 5; ++i) printf " %6d", finds[i]
-       print ""
+       for (row = 1; row <= rows; ++row) {
+         all += calls[names[row]]
+         show(names[row], calls[names[row]])
+       }
+       show("all", all)
      }' "$scratch/seen"
 exit "$missed"
