@@ -27,7 +27,7 @@ bool Is_Whole_Pdf(const std::string& bytes) {
   // Where the table of its parts begins is told at its end: nothing is missing in between.
   const std::size_t told = bytes.rfind("startxref\n");
   if (told == std::string::npos) return false;
-  const long table = std::atol(bytes.c_str() + told + std::strlen("startxref\n"));
+  const long table = std::strtol(bytes.c_str() + told + std::strlen("startxref\n"), nullptr, 10);
   return bytes.compare(static_cast<std::size_t>(table), 4, "xref") == 0;
 }
 
