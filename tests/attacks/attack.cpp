@@ -16,11 +16,11 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 #include <utility>
 
+#include "attacks/same_files.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/workspace_port.h"
 #include "platform/files/app_folder.h"
@@ -61,32 +61,6 @@ Function* In_Library(const char* name) {
     std::exit(2);
   }
   return reinterpret_cast<Function*>(found);
-}
-
-std::optional<std::string> Bytes_Of(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  std::ostringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
-}
-
-/// Two reports of a project differ in what is known of its file, and as PDF in their identity:
-/// those that are not letter for letter the same must be whole.
-bool Is_Same(const std::string& name, const std::optional<std::string>& seen,
-             const std::optional<std::string>& wanted) {
-  if (seen == wanted || !seen || !wanted) return seen == wanted;
-  if (name.ends_with(".html")) {
-    return seen->starts_with("<!DOCTYPE html>") && seen->ends_with("</html>\n");
-  }
-  if (!name.ends_with(".pdf") || !seen->starts_with("%PDF-") || !seen->ends_with("\n%%EOF\n")) {
-    return false;
-  }
-  // Where the table of its parts begins is told at its end: nothing is missing in between.
-  const std::size_t told = seen->rfind("startxref\n");
-  if (told == std::string::npos) return false;
-  const long table = std::atol(seen->c_str() + told + std::strlen("startxref\n"));
-  return seen->compare(static_cast<std::size_t>(table), 4, "xref") == 0;
 }
 
 /// What could not be written of the settings is kept and goes there with the next that are set: the
@@ -133,14 +107,16 @@ Attack::Attack(std::string root, Attacked_Save save, bool fresh)
 
 bool Attack::Learn() {
   Changed_Sample({root_, nullptr, {}});  // read once, before there are processes
-  learning_ = true;
+  learning_ = Learning::Old;
+  Run(Call_Plan{}, 0, -1);
+  expected_ = Names();
+  learning_ = Learning::New;
   learned_ = Run(Call_Plan{}, 0, -1);
-  learning_ = false;
-  new_ = Read_Files();
   expected_.merge(Names());
+  learning_ = Learning::Nothing;
   usual_words_ = Split(learned_.told_text.c_str());
   for (const auto& [name, bytes] : new_) {
-    if (!bytes || bytes == old_[name]) {
+    if (!bytes || Is_Same(name, bytes, old_[name])) {
       learned_.told_text = name + " is not written: " + learned_.told_text;
       return false;
     }
@@ -164,10 +140,6 @@ Attack_Result Attack::Run(const Call_Plan& plan, double kill_after, long room) {
   if (room >= 0) Set_Room(root_, kWholeRoom);
   Attack_Bench bench{root_, nullptr, {}};
   Lay(bench);
-  if (learning_) {
-    old_ = Read_Files();
-    expected_ = Names();
-  }
   std::fflush(nullptr);
   const pid_t child = ::fork();
   if (child == 0) {
@@ -193,12 +165,14 @@ Attack_Result Attack::Run(const Call_Plan& plan, double kill_after, long room) {
   result.seconds = report.seconds;
   result.files = report.ended ? report.files : States();
   result.told = report.told;
+  result.may_be_silent = save_.is_lock;
   result.told_text = report.told_text;
   result.refails = report.refails;
   for (int i = 0; report.ended && i < std::min(report.calls, kMostCalls); ++i) {
     result.call_names.emplace_back(report.names[i]);
   }
   result.left = report.ended ? Split(report.left) : Litter();
+  if (learning_ != Learning::Nothing) (learning_ == Learning::Old ? old_ : new_) = Read_Files();
   // What the program does when it starts.
   Set_Application_Folder(bench.In("app"));
   Set_Save_Notes_Folder(bench.In("app"));
@@ -209,6 +183,7 @@ Attack_Result Attack::Run(const Call_Plan& plan, double kill_after, long room) {
     if (!path.empty()) folders.push_back(fs::path(path).parent_path());
   }
   Remove_Leftover_Saves(folders);
+  save_.start(bench);
   result.left_after = Litter();
   return result;
 }
@@ -234,7 +209,7 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
   const auto began = Clock::now();
   report.began = true;
   begin(&here);
-  save_.save(bench);
+  if (learning_ != Learning::Old) save_.save(bench);
   report.calls = end();
   report.seconds = std::chrono::duration<double>(Clock::now() - began).count();
   report.failed = failed();
@@ -243,7 +218,7 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
   std::string text;
   report.told = Was_Told(bench.told, text);
   std::snprintf(report.told_text, sizeof report.told_text, "%s", text.c_str());
-  if (!learning_) {
+  if (learning_ == Learning::Nothing) {
     std::snprintf(report.left, sizeof report.left, "%s", Joined(Litter()).c_str());
     const std::string states = States();
     std::snprintf(report.files, sizeof report.files, "%s", states.c_str());
@@ -270,21 +245,20 @@ void Attack::Lay(Attack_Bench& bench) const {
 
 Attack::Contents Attack::Read_Files() const {
   Contents contents;
-  for (const std::string& file : save_.files) contents[file] = Bytes_Of(root_ + "/" + file);
+  for (const std::string& file : save_.files) contents[file] = Bytes_Of(Find_File(root_, file));
   return contents;
 }
 
 std::string Attack::States() const {
   std::string states;
+  if (learning_ != Learning::Nothing) return states;
   for (const std::string& file : save_.files) {
-    const std::optional<std::string> seen = Bytes_Of(root_ + "/" + file);
-    if (learning_) continue;
+    const std::optional<std::string> seen = Bytes_Of(Find_File(root_, file));
     const auto copied = save_.copies.find(file);
     const bool is_copy =
         seen && copied != save_.copies.end() && seen == Bytes_Of(root_ + "/" + copied->second);
-    states += is_copy || Is_Same(file, seen, new_.at(file)) ? 'n'
-              : seen == old_.at(file)                       ? 'o'
-                                                            : 'x';
+    const bool is_old = Is_Same(file, seen, old_.at(file)) || (save_.is_lock && !seen);
+    states += is_copy || Is_Same(file, seen, new_.at(file)) ? 'n' : is_old ? 'o' : 'x';
   }
   return states;
 }
@@ -294,7 +268,8 @@ std::set<std::string> Attack::Names() const {
   for (const auto& entry : fs::recursive_directory_iterator(root_)) {
     // A copy that mending keeps of a former file is no litter, however often it is tried.
     if (entry.path().extension().string().starts_with(".bak")) continue;
-    names.insert(entry.path().string().substr(root_.size() + 1));
+    const fs::path folder = entry.path().parent_path();
+    names.insert((folder / Common_Name(entry.path().filename())).string().substr(root_.size() + 1));
   }
   return names;
 }

@@ -15,6 +15,7 @@ namespace barvon::testing {
 struct Attack_Result {
   std::string files;
   bool told = false;
+  bool may_be_silent = false;
   bool ended_badly = false;  // by a signal of its own, or never
   bool killed = false;       // as planned
   bool refails = false;      // the same save again, without faults, gives no new files or words
@@ -28,7 +29,7 @@ struct Attack_Result {
 
   bool All_New() const { return files.find_first_not_of('n') == std::string::npos; }
   bool Damaged() const { return files.find('x') != std::string::npos; }
-  bool Silent() const { return !All_New() && !told && !killed; }
+  bool Silent() const { return !All_New() && !told && !killed && !may_be_silent; }
 };
 
 /// One save that is done over and over, each time by a process of its own, in a folder that is made
@@ -56,6 +57,7 @@ class Attack {
   Attack_Result Run_In_Room(long bytes);
 
  private:
+  enum class Learning { Nothing, Old, New };
   using Contents = std::map<std::string, std::optional<std::string>>;  // by file
 
   Attack_Result Run(const Call_Plan& plan, double kill_after, long room);
@@ -70,7 +72,7 @@ class Attack {
   std::string root_;
   Attacked_Save save_;
   bool fresh_;
-  bool learning_ = false;
+  Learning learning_ = Learning::Nothing;
   Contents old_, new_;
   std::set<std::string> expected_;
   std::set<std::string> usual_words_;

@@ -22,9 +22,11 @@ namespace {
 using namespace barvon::testing;
 
 constexpr char kUsage[] =
-    "usage: attack_saves [--save PART-OF-NAME] count\n"
-    "       attack_saves [--save PART-OF-NAME] fail [EVERY [CASE]]\n"
-    "           every so manieth case, all: 1; those alone whose words have CASE in them\n"
+    "usage: attack_saves [--save PART-OF-NAME | --row NAME] count\n"
+    "       attack_saves [--save PART-OF-NAME] fail [EVERY [FIRST [CASE]]]\n"
+    "           every so manieth case, all: 1, from FIRST on, 0; those alone whose words have CASE "
+    "in\n"
+    "           them\n"
     "       attack_saves [--save PART-OF-NAME] kill COUNT SEED\n"
     "       attack_saves [--save PART-OF-NAME] full [SIZES]     in a mount name space of its own\n";
 
@@ -116,13 +118,13 @@ bool Is_About(const Failing& failing, const std::string& call) {
   return failing.span != Span::Writes_Only || writes || call.find("sync") != std::string::npos;
 }
 
-Tally Fail(Attack& attack, const std::string& name, int every, const std::string& wanted,
+Tally Fail(Attack& attack, const std::string& name, int every, int first, const std::string& wanted,
            int& number) {
   Tally tally;
   for (int call = 1; call <= attack.Learned().calls; ++call) {
     const std::string of = attack.Learned().call_names[static_cast<std::size_t>(call - 1)];
     for (const Failing& failing : kFailings) {
-      if (!Is_About(failing, of) || number++ % every != 0) continue;
+      if (!Is_About(failing, of) || number++ % every != first) continue;
       const std::string what =
           name + ", call " + std::to_string(call) + " " + of + ", " + failing.name;
       if (what.find(wanted) == std::string::npos) continue;
@@ -184,24 +186,38 @@ int Number(const std::vector<std::string>& words, std::size_t at, int otherwise)
   return at < words.size() ? std::max(1, std::atoi(words[at].c_str())) : otherwise;
 }
 
-int Attack_All(const std::string& root, const std::string& wanted,
-               const std::vector<std::string>& words) {
+std::string Row_Name(const Attack& attack) {
+  return attack.save().name + (attack.fresh() ? " (first)" : "");
+}
+
+/// The saves that are wanted: all whose names have that in them, or the one of that very name.
+std::vector<Attack> Wanted_Attacks(const std::string& root, const std::string& wanted, bool is_row,
+                                   bool with_first) {
+  std::vector<Attack> attacks;
+  const auto add = [&](const Attacked_Save& save, bool fresh) {
+    Attack attack(root, save, fresh);
+    const bool counts =
+        is_row ? Row_Name(attack) == wanted : save.name.find(wanted) != save.name.npos;
+    if (counts) attacks.push_back(std::move(attack));
+  };
+  for (const std::vector<Attacked_Save>& saves : {Plain_Saves(), Kept_Saves(), Page_Saves()}) {
+    for (const Attacked_Save& save : saves) {
+      add(save, false);
+      if (save.makes_new && with_first) add(save, true);
+    }
+  }
+  return attacks;
+}
+
+int Attack_All(std::vector<Attack> attacks, const std::vector<std::string>& words) {
   const std::string& command = words.front();
   const int every = Number(words, 1, 1);
   std::mt19937 chance(static_cast<unsigned>(Number(words, 2, 1)));
-  std::vector<Attack> attacks;
-  for (std::vector<Attacked_Save> saves : {Plain_Saves(), Page_Saves()}) {
-    for (Attacked_Save& save : saves) {
-      if (save.name.find(wanted) == std::string::npos) continue;
-      attacks.emplace_back(root, save, false);
-      if (save.makes_new && command != "kill") attacks.emplace_back(root, save, true);
-    }
-  }
   Tally all;
   int all_calls = 0, number = 0, place = 0, unlearned = 0;
   Print_Head(command.c_str());
   for (Attack& attack : attacks) {
-    const std::string name = attack.save().name + (attack.fresh() ? " (first)" : "");
+    const std::string name = Row_Name(attack);
     if (!attack.Learn()) {
       std::printf("%s: %s\n", name.c_str(), attack.Learned().told_text.c_str());
       ++unlearned;
@@ -209,7 +225,8 @@ int Attack_All(const std::string& root, const std::string& wanted,
     }
     Tally tally;
     if (command == "fail")
-      tally = Fail(attack, name, every, words.size() > 2 ? words[2] : "", number);
+      tally = Fail(attack, name, every, words.size() > 2 ? std::atoi(words[2].c_str()) : 0,
+                   words.size() > 3 ? words[3] : "", number);
     if (command == "full") tally = Fill(attack, name, Number(words, 1, 60));
     if (command == "kill") {
       const auto count = static_cast<int>(attacks.size());
@@ -229,8 +246,10 @@ int Attack_All(const std::string& root, const std::string& wanted,
 int main(int count, char** given) {
   std::vector<std::string> words(given + 1, given + count);
   std::string wanted;
-  if (words.size() > 2 && words[0] == "--save") {
+  bool is_row = false;
+  if (words.size() > 2 && (words[0] == "--save" || words[0] == "--row")) {
     wanted = words[1];
+    is_row = words[0] == "--row";
     words.erase(words.begin(), words.begin() + 2);
   }
   const std::vector<std::string> commands = {"count", "fail", "kill", "full"};
@@ -252,7 +271,8 @@ int main(int count, char** given) {
     std::perror("mount");
     return 2;
   }
-  const int code = Attack_All(root, wanted, words);
+  ::setenv("XDG_DATA_HOME", (root + "/data").c_str(), 1);
+  const int code = Attack_All(Wanted_Attacks(root, wanted, is_row, words[0] != "kill"), words);
   std::filesystem::current_path("/");
   if (words[0] == "full") ::umount(root.c_str());
   std::filesystem::remove_all(root);

@@ -36,10 +36,16 @@ struct Attacked_Save {
   bool keeps_settings = true;
   /// Files that are copies of what another program wrote, which may itself have met the fault.
   std::map<std::string, std::string> copies = {};
+  /// A lock: that it can't be made is no complaint, and none at all is as good as the former.
+  bool is_lock = false;
+  /// What the program does at its next start besides clearing what saves left.
+  std::function<void(const Attack_Bench&)> start = [](const Attack_Bench&) {};
 };
 
-/// Those that need no toolkit, and those of pages, prints and pictures.
+/// Those that need no toolkit; what is kept beside the projects for the windows that come after;
+/// those of pages, prints and pictures.
 std::vector<Attacked_Save> Plain_Saves();
+std::vector<Attacked_Save> Kept_Saves();
 std::vector<Attacked_Save> Page_Saves();
 
 /// Makes the bench's folders and hears what the program says from now on. Every choice in a file

@@ -21,6 +21,7 @@
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/app_folder.h"
+#include "platform/files/lock_file.h"
 #include "platform/files/safe_file.h"
 #include "run/run_driver.h"
 #include "site/grid_csv_file.h"
@@ -196,20 +197,25 @@ Attacked_Save Table_Save() {
 }
 
 Attacked_Save Batch_Save(const std::string& name, Batch_Command command, const std::string& file) {
-  return {name,
-          {file},
-          [file](const Attack_Bench& bench) {
-            Put_File(bench.In("bay/a.DUI"), Sample_Bytes("Section_404_Zid.DUI"));
-            Put_File(bench.In(file), "an earlier one\r\n");
-          },
-          Open_Sample,
-          [command](Attack_Bench& bench) {
-            Batch_Options options;
-            options.command = command;
-            options.force = true;
-            options.files = {command == Batch_Command::New ? "b.DUI" : "a.DUI"};
-            if (Do_Batch_Command(options) == kNotDone) bench.told.push_back("exit code");
-          }};
+  Attacked_Save save{name,
+                     {file},
+                     [file](const Attack_Bench& bench) {
+                       Put_File(bench.In("bay/a.DUI"), Sample_Bytes("Section_404_Zid.DUI"));
+                       Put_File(bench.In(file), "an earlier one\r\n");
+                     },
+                     Open_Sample,
+                     [command](Attack_Bench& bench) {
+                       Batch_Options options;
+                       options.command = command;
+                       options.force = true;
+                       options.files = {command == Batch_Command::New ? "b.DUI" : "a.DUI"};
+                       if (Do_Batch_Command(options) == kNotDone) bench.told.push_back("exit code");
+                     }};
+  // A lock that could not be removed is gone once somebody works with the project again.
+  save.start = [](const Attack_Bench& bench) {
+    Lock_File().Take(bench.In("bay/.b.DUI.barvon-lock"));
+  };
+  return save;
 }
 
 Attacked_Save Run_Save() {
