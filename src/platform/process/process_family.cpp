@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 #include <sstream>
 #include <system_error>
 
@@ -75,16 +76,21 @@ bool Process_Family::Carries_Mark(pid_t pid) const {
 std::vector<Process_Family::Process> Process_Family::Members(
     const std::vector<Process>& all) const {
   unsigned long long first_start = 0;
+  std::set<pid_t> numbers;
   for (const Process& process : all) {
     if (process.pid == program_) first_start = process.start;
+    numbers.insert(process.pid);
   }
+  // Who has a parent here is a member by it or not at all. To ask a process for its environment
+  // can take long while that is just being made.
+  const auto is_orphan = [&](const Process& process) { return !numbers.contains(process.parent); };
   std::vector<Process> members, others;
   for (const Process& process : all) {
     const bool seen =
         std::find(seen_.begin(), seen_.end(), std::pair(process.pid, process.start)) != seen_.end();
-    const bool member =
-        process.pid != ::getpid() && process.start >= first_start &&
-        (seen || process.pid == program_ || process.group == program_ || Carries_Mark(process.pid));
+    const bool member = process.pid != ::getpid() && process.start >= first_start &&
+                        (seen || process.pid == program_ || process.group == program_ ||
+                         (is_orphan(process) && Carries_Mark(process.pid)));
     (member ? members : others).push_back(process);
   }
   for (std::size_t i = 0; i < members.size(); ++i) {
