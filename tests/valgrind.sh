@@ -20,7 +20,7 @@ if [ $# -eq 0 ]; then
   barvon_install_packages packaging/debian-packages.txt
   barvon_build debug plain_tests
 fi
-RC_PARAMS="max_success=5" nice -n 19 valgrind --quiet --leak-check=full \
+RC_PARAMS="max_success=5" nice -n 10 valgrind --quiet --leak-check=full \
   --errors-for-leak-kinds=definite --show-leak-kinds=definite --error-exitcode=1 \
   --exit-on-first-error=no --num-callers=20 \
   "$program" --gtest_brief=1 --gtest_filter="$filter"

@@ -35,7 +35,7 @@ failed=0
 if [ "$files" -gt 0 ]; then
   passes=()
   for each in 20260101 "$seed"; do
-    nice -n 19 "$programs/mutated_files" --count "$files" --seed "$each" >"$TMPDIR/$each" &
+    nice -n 10 "$programs/mutated_files" --count "$files" --seed "$each" >"$TMPDIR/$each" &
     passes+=("$!:$TMPDIR/$each")
   done
   for pass in "${passes[@]}"; do
@@ -50,13 +50,13 @@ lead() {
   local corpus="$corpora/$reader" log="$TMPDIR/$reader.log" least="$TMPDIR/$reader.least"
   local before
   before=$(find "$finds" -name "$reader-*" | wc -l)
-  BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
+  BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
     -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
     -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
     { found=1 && tail -n 40 "$log"; }
   # Of two inputs that reach the same edges the shorter one stays.
   mkdir "$least"
-  BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" -merge=1 "$least" "$corpus" \
+  BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" -merge=1 "$least" "$corpus" \
     >/dev/null 2>&1 || found=1
   rm -rf "$corpus"
   mv "$least" "$corpus"
