@@ -47,6 +47,12 @@ TEST_F(LargeDatabase, Entries_Beyond_The_Most_Are_Told_By_One_Line) {
   EXPECT_EQ(Count("dspsites.dat", "Site 100"), 0);
 }
 
+TEST_F(LargeDatabase, Empty_Entries_Beyond_The_Most_Are_Told_By_One_Line) {
+  Write("dspsites.dat", std::string(3 * 1000, '\n') + "100\r\nNorth\r\n\r\n");
+  EXPECT_EQ(Count("dspsites.dat", "has more than 99 entries"), 1);
+  EXPECT_EQ(Count("dspsites.dat", "the name is empty"), 99);
+}
+
 // Each of them once searched all others for text, and was a line of its own of the findings.
 TEST_F(LargeDatabase, Empty_Lines_In_Front_Of_A_Record_Are_Told_By_One_Line) {
   constexpr int kEmptyLines = 50'000;
