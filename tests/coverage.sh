@@ -20,7 +20,7 @@ export QT_QPA_PLATFORM=offscreen
 # files. What is measured is what was reached, also by a test that failed for being slow.
 failed=0
 for tests in plain_tests screen_tests; do
-  nice -n 19 build/coverage/bin/$tests --gtest_brief=1 --gtest_filter="${BARVON_FILTER:-*}" || failed=1
+  nice -n 10 build/coverage/bin/$tests --gtest_brief=1 --gtest_filter="${BARVON_FILTER:-*}" || failed=1
 done
 
 pages=()

@@ -113,7 +113,9 @@ class Database_Checker {
     const std::size_t whole = (end + lines_of_entry - 1) / lines_of_entry * lines_of_entry;
     const std::size_t behind = lines.size() - std::min(lines.size(), whole);
     lines.resize(whole);
-    for (std::size_t at = 0; at < whole; at += lines_of_entry) {
+    // Those beyond the most have been told together.
+    const std::size_t looked_at = std::min(whole, kMostEntries * lines_of_entry);
+    for (std::size_t at = 0; at < looked_at; at += lines_of_entry) {
       if (lines_of_entry == kTwo && Is_Empty(lines[at])) {
         Find(file, at + 1, "an empty line ends the list; the entries behind it are not shown");
         return;

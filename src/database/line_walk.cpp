@@ -21,7 +21,7 @@ Line_Walk::Line_Walk(const std::string& path) {
 bool Line_Walk::Next_Or_Last() {
   if (at_ >= text_.size()) return false;
   const std::size_t end = text_.find_first_of("\r\n", at_);
-  line_ = text_.substr(at_, end - at_);
+  line_.assign(text_, at_, end - at_);
   ++number_;
   if (end == std::string::npos) {
     at_ = text_.size();
@@ -42,6 +42,7 @@ bool Line_Walk::Skip(int lines) {
 }
 
 std::string Text_In(const std::string& line, Line_Columns columns) {
+  if (line.size() < columns.first) return {};  // a file may have empty lines by the thousand
   const std::string up_to = First_Characters(line, columns.last);
   const std::string before = First_Characters(line, columns.first - 1);
   return up_to.substr(before.size());

@@ -79,15 +79,25 @@ void Record_Scan::Scan() {
     } else if (place >= 0) {
       Take_Record(place);
     } else if (Trimmed(lines_[at_]).empty()) {
-      Find(at_, "an empty line stands where a record begins");
-      blanks_ = true;
-      ++at_;
+      Pass_Empty_Lines();
     } else {
       Find(at_, "a record should begin here, but columns 1 to 4 hold no code");
       Look_For_A_Record();
     }
   }
   strays_behind = strays_;
+}
+
+/// Those in front of a line with text are told together: a list of thousands helps nobody.
+void Record_Scan::Pass_Empty_Lines() {
+  const std::size_t first = at_;
+  do {
+    ++at_;
+  } while (Trimmed(lines_[at_]).empty());
+  const std::size_t count = at_ - first;
+  Find(first, count == 1 ? "an empty line stands where a record begins"
+                         : Counted(count, "empty line") + " stand where a record begins");
+  blanks_ = true;
 }
 
 /// The next line with a code.

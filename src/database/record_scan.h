@@ -43,6 +43,7 @@ class Record_Scan {
 
  private:
   void Scan();
+  void Pass_Empty_Lines();
   void Take_Record(int place);
   void Take_Lines(Scanned_Record& record, int behind);
   void Take_Line(Scanned_Record& record, std::span<const Line_Columns> columns);

@@ -40,8 +40,9 @@ struct Folder_Of_Process {
 
 std::vector<Reader> Readers() {
   std::vector<Reader> all;
-  for (const auto some : {Project_Readers(), Database_Readers(), Settings_Readers(), Text_Readers(),
-                          Number_Readers(), Solver_Input_Readers()}) {
+  for (const auto some :
+       {Project_Readers(), Database_Readers(), Settings_Readers(), Left_File_Readers(),
+        Text_Readers(), Number_Readers(), Solver_Input_Readers()}) {
     all.insert(all.end(), some.begin(), some.end());
   }
   return all;

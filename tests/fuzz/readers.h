@@ -28,6 +28,7 @@ std::vector<Reader> Readers();
 std::span<const Reader> Project_Readers();
 std::span<const Reader> Database_Readers();
 std::span<const Reader> Settings_Readers();
+std::span<const Reader> Left_File_Readers();
 std::span<const Reader> Text_Readers();
 std::span<const Reader> Number_Readers();
 std::span<const Reader> Solver_Input_Readers();

@@ -33,35 +33,51 @@ trap 'rm -rf "$TMPDIR"' EXIT
 failed=0
 
 if [ "$files" -gt 0 ]; then
+  passes=()
   for each in 20260101 "$seed"; do
-    nice -n 19 "$programs/mutated_files" --count "$files" --seed "$each" || failed=1
+    nice -n 10 "$programs/mutated_files" --count "$files" --seed "$each" >"$TMPDIR/$each" &
+    passes+=("$!:$TMPDIR/$each")
+  done
+  for pass in "${passes[@]}"; do
+    wait "${pass%%:*}" || failed=1
+    cat "${pass#*:}"
   done
 fi
+
+# One reader: its row of the table. The process fails where something was found.
+lead() {
+  local reader="$1" found=0
+  local corpus="$corpora/$reader" log="$TMPDIR/$reader.log" least="$TMPDIR/$reader.least"
+  local before
+  before=$(find "$finds" -name "$reader-*" | wc -l)
+  BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
+    -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
+    -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
+    { found=1 && tail -n 40 "$log"; }
+  # Of two inputs that reach the same edges the shorter one stays.
+  mkdir "$least"
+  BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" -merge=1 "$least" "$corpus" \
+    >/dev/null 2>&1 || found=1
+  rm -rf "$corpus"
+  mv "$least" "$corpus"
+  printf '%-14s %10s %8s %8s %8s %8s\n' "$reader" \
+    "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" \
+    "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)" \
+    "$(find "$corpus" -type f | wc -l)" "$(du -sk --apparent-size "$corpus" | cut -f1)" \
+    "$(($(find "$finds" -name "$reader-*" | wc -l) - before))"
+  return "$found"
+}
 
 if [ "$minutes" != 0 ]; then
   mkdir -p "$finds"
   "$programs/mutated_files" --samples "$corpora"
   printf '%-14s %10s %8s %8s %8s %8s\n' reader runs edges corpus KB finds
-  for reader in ${BARVON_READERS:-$("$programs/mutated_files" --names)}; do
-    [ "$reader" != project ] || continue # project_lines reads the same, by its lines
-    corpus="$corpora/$reader"
-    log="$TMPDIR/log"
-    before=$(find "$finds" -name "$reader-*" | wc -l)
-    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
-      -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
-      -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
-      { failed=1 && tail -n 40 "$log"; }
-    # Of two inputs that reach the same edges the shorter one stays.
-    mkdir "$TMPDIR/least"
-    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" -merge=1 "$TMPDIR/least" "$corpus" \
-      >/dev/null 2>&1 || failed=1
-    rm -rf "$corpus"
-    mv "$TMPDIR/least" "$corpus"
-    printf '%-14s %10s %8s %8s %8s %8s\n' "$reader" \
-      "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" \
-      "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)" \
-      "$(find "$corpus" -type f | wc -l)" "$(du -sk --apparent-size "$corpus" | cut -f1)" \
-      "$(($(find "$finds" -name "$reader-*" | wc -l) - before))"
-  done
+  # project_lines and recovery_short read what project and recovery do, shorter.
+  readers="${BARVON_READERS:-$("$programs/mutated_files" --names | grep -vx 'project\|recovery')}"
+  export minutes programs corpora finds dictionary
+  export -f lead
+  # shellcheck disable=SC2086 # one word a reader
+  printf '%s\n' $readers | xargs -P "$(nproc)" -I '{}' bash -c 'set -uo pipefail; lead {}' ||
+    failed=1
 fi
 exit "$failed"

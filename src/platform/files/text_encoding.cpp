@@ -89,9 +89,16 @@ std::string To_File_Bytes(std::string_view text) {
 std::string From_File_Bytes(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    Append_UTF8(text, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80u] : byte);
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    // ASCII, which is nearly all of most files, is taken in one go.
+    const std::string_view rest = bytes.substr(at);
+    const auto end = std::ranges::find_if(rest, [](char c) { return (c & 0x80) != 0; });
+    const auto ascii = static_cast<std::size_t>(end - rest.begin());
+    text.append(rest.substr(0, ascii));
+    at += ascii;
+    if (at == bytes.size()) break;
+    const auto byte = static_cast<unsigned char>(bytes[at]);
+    Append_UTF8(text, byte < 0xA0 ? kUpperControls[byte - 0x80u] : byte);
   }
   return text;
 }
