@@ -119,7 +119,7 @@ void Read_Lock(std::string_view bytes) {
 void Hold_Lock(std::string_view bytes) {
   Put(kLock, bytes);
   Lock_File lock;
-  const auto outcome = lock.Take(Work_Folder() + "/" + kLock, true);
+  const auto outcome = lock.Take(Work_Folder() + "/" + kLock, Lock_File::Foreign::Goes);
   Demand(outcome == Lock_File::Outcome::Taken ||
              (lock.Holder() && State_Of(*lock.Holder()) == Holder_State::Runs),
          "a lock that a person wants is taken from all but a running program");
