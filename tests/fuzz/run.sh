@@ -2,7 +2,7 @@
 # Reads what no program should have written, under the address and undefined-behaviour checks:
 # mutated files with a fixed seed and with one of the day, then inputs that coverage leads through
 # every reader. Ends with 1 on any crash, on anything that does not hold, and on an input that takes
-# more than 100 ms of processor time.
+# more than 100 ms of processor time: both programs measure each reading.
 #
 #   tests/fuzz/run.sh [MINUTES] [FILES]
 #
@@ -47,6 +47,7 @@ if [ "$minutes" != 0 ]; then
     corpus="$corpora/$reader"
     log="$TMPDIR/log"
     before=$(find "$finds" -name "$reader-*" | wc -l)
+    # led_inputs holds the 100 ms; -timeout stops, in seconds, what would never end.
     BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
       -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
       -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
