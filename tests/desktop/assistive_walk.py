@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Opens every window of the program through the accessibility bus and looks at every control in it.
-Ends with 1 when a control has no name, the role of something else or no value, or when two of one
-window can't be told apart. walk.sh starts it.
+Ends with 1 when a control has no name, the role of something else or no value, when two of one
+window can't be told apart, or when a part has not seen every window of expected_windows.py. walk.sh
+starts it.
 
     assistive_walk.py FOLDER PART...      the program's, with the samples in it; a project's name, or
                                           what the procedures below are called"""
@@ -12,6 +13,7 @@ import sys
 import time
 
 from assistive import Missing, Program, children, find, role, states, text_of, wait_for, walk
+from expected_windows import not_seen
 from spoken_faults import spoken_faults
 
 
@@ -20,19 +22,31 @@ class Walk:
         self.folder = folder
         self.program = Program()
         self.windows, self.controls, self.faults = 0, 0, []
+        self.seen = []  # by the part that is under way
 
     def look(self, window, state=""):
         time.sleep(0.15)  # what follows an action by a timer has been told then
         controls, faults = spoken_faults(window)
         self.windows += 1
         self.controls += controls
-        print(f"{window.name}{', ' if state else ''}{state}: {controls} controls", flush=True)
+        looked_at = f"{window.name}{', ' if state else ''}{state}"
+        self.seen.append(looked_at.replace(os.path.join(self.folder, ""), ""))
+        print(f"{looked_at}: {controls} controls", flush=True)
         for fault in faults:
             self.fault(fault)
 
     def fault(self, words):
         print(f"    {words}", flush=True)
         self.faults.append(words)
+
+    def walk_part(self, part):
+        self.seen = []
+        if part.endswith(".DUI"):
+            self.project(part)
+        else:
+            getattr(self, part)()
+        for window in not_seen(part, self.seen):
+            self.fault(f"{part}: '{window}' was not seen")
 
     def look_at_tabs(self, window):
         bars = [n for n, _ in walk(window) if n is not None and role(n) == "page tab list"]
@@ -318,10 +332,7 @@ def main():
     try:
         tour = Walk(folder)
         for part in sys.argv[2:]:
-            if part.endswith(".DUI"):
-                tour.project(part)
-            else:
-                getattr(tour, part)()
+            tour.walk_part(part)
     finally:
         program.terminate()
         program.wait()

@@ -19,6 +19,11 @@ desktop_session() {
     unset WAYLAND_DISPLAY XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME AT_SPI_BUS_ADDRESS
     export QT_ACCESSIBILITY=1 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb
     openbox >"$home/openbox.log" 2>&1 &
+    # A window that comes up before its manager is not given the keyboard.
+    for _ in $(seq 100); do
+      xdotool get_num_desktops >/dev/null 2>&1 && break
+      sleep 0.1
+    done
     dbus-run-session -- bash -c '
       /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &
       bus=$!

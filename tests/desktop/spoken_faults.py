@@ -1,6 +1,8 @@
 """What is wrong with a window for those who are told it: controls without a name, with the role of
 something else, with a value that is not there, and controls that can't be told apart."""
 
+import math
+
 from assistive import children, labels, role, states, text_of, walk
 
 # What a person works with, by the role that it must have.
@@ -14,7 +16,9 @@ AROUND = {"frame", "dialog", "alert", "panel", "filler", "label", "tool bar", "m
           "menu item", "menu", "progress bar", "popup menu", "scroll bar", "viewport", "window",
           "tool tip", "list item", "table cell", "table row", "unknown", "column header",
           "row header", "table column header", "table row header", "paragraph"}
-MAY_BE_EMPTY = {"text", "password text", "combo box", "spin button"}
+WITH_VALUE = {"spin button", "slider", "dial", "progress bar"}
+# Tables that a person fills from nothing and no project fills: the walk sees them as they are then.
+EMPTY_AT_FIRST = {"Parameters in bulk sediment", "Parameters in elutriate"}
 MOST_CELLS = 400  # of a table that are read; the first and the last rows and columns
 
 
@@ -30,8 +34,25 @@ def some(count, most):
     return list(range(most // 2)) + list(range(count - most // 2, count))
 
 
+def value_of(node):
+    """What stands between two ends; none where nothing is told."""
+    try:
+        value = node.queryValue().currentValue
+    except NotImplementedError:
+        return None
+    return None if value is None or math.isnan(value) else value
+
+
+def says_something(cell):
+    return bool(cell.name.strip() or (text_of(cell) or "").strip() or role(cell) == "check box")
+
+
 def faults_of_a_table(node):
-    table = node.queryTable()
+    try:
+        table = node.queryTable()
+    except NotImplementedError:
+        yield "has no cells"
+        return
     rows, columns = table.nRows, table.nColumns
     for row in some(rows, 20):
         heading = table.getRowHeader(row)
@@ -41,13 +62,18 @@ def faults_of_a_table(node):
         heading = table.getColumnHeader(column)
         if heading is None or not heading.name.strip():
             yield f"column {column + 1} has no heading"
+    cells, saying = 0, 0
     for row in some(rows, 20):
         for column in some(columns, MOST_CELLS // 20):
+            cells += 1
             cell = table.getAccessibleAt(row, column)
             if cell is None:
                 yield f"row {row + 1}, column {column + 1} is no cell"
             elif role(cell) not in ("table cell", "check box"):
                 yield f"row {row + 1}, column {column + 1} is a {role(cell)}"
+            saying += cell is not None and says_something(cell)
+    if cells and not saying and node.name not in EMPTY_AT_FIRST:
+        yield "says nothing in any cell"
 
 
 def faults_of_a_control(node, parents):
@@ -73,11 +99,8 @@ def faults_of_a_control(node, parents):
             yield "has no lines to choose from"
     if kind == "image" and not node.description.strip() and "focusable" in told:
         yield "says nothing of what it shows"
-    if kind == "progress bar":
-        try:
-            node.queryValue().currentValue
-        except NotImplementedError:
-            yield "has no value"
+    if kind in WITH_VALUE and value_of(node) is None:
+        yield "has no value"
     if kind == "table":
         yield from faults_of_a_table(node)
     if kind == "page tab list" and not all(tab.name.strip() for tab in children(node)):

@@ -10,7 +10,6 @@
 #include <sys/mman.h>
 #include <sys/time.h>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -35,7 +34,6 @@ using namespace barvon::fuzz;
 constexpr std::uint64_t kFixedSeed = 20'260'101;
 constexpr int kHoldEvery = 8;        // what must hold takes several loads
 constexpr int kLongestSeconds = 10;  // of processor time; then the input is stopped
-constexpr double kLimitMs = 100;
 
 struct Settings {
   std::uint64_t count = 2000, seed = kFixedSeed, only = 0;
@@ -51,12 +49,6 @@ struct Progress {
   double slowest_ms = 0;
   std::uint64_t slowest = 0;  // its number
 };
-
-double Processor_Ms() {
-  timespec now{};
-  ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
 
 /// A number of its own for each input, whatever the order of the readers.
 std::uint64_t Seed_Of(const Settings& settings, const Reader& reader, std::uint64_t number) {

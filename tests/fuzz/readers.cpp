@@ -1,5 +1,6 @@
 #include "fuzz/readers.h"
 
+#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -46,6 +47,12 @@ std::vector<Reader> Readers() {
     all.insert(all.end(), some.begin(), some.end());
   }
   return all;
+}
+
+double Processor_Ms() {
+  timespec now{};
+  ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
 void Demand(bool holds, const char* what) {

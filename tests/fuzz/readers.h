@@ -33,6 +33,11 @@ std::span<const Reader> Text_Readers();
 std::span<const Reader> Number_Readers();
 std::span<const Reader> Solver_Input_Readers();
 
+/// The processor time in ms that an input may take to be read; beyond it is a find.
+inline constexpr double kLimitMs = 100;
+/// The processor time in ms that this process has taken.
+double Processor_Ms();
+
 /// Ends the program with the words, as a crash does, where something does not hold.
 void Demand(bool holds, const char* what);
 
