@@ -19,8 +19,8 @@ constexpr int kEvaluations = 3;
 
 constexpr const char* kSimulationHints[kAnalysisTypes] = {
     "Choose Diffusion Option for Transport of Solids Or Tracer in the Water Column",
-    "Choose Diffusion Option for Initial Mixing Calculations for MPRSA 103 Water Column "
-    "Evaluations.",
+    ("Choose Diffusion Option for Initial Mixing Calculations for MPRSA 103 Water Column "
+     "Evaluations."),
     "Choose Diffusion for Initial Mixing Calculations for CWA 404(b)(1) Water Column Evaluations."};
 constexpr const char* kGeneralHints[kEvaluations] = {
     "Computations Are Made For Solid Fraction Only",

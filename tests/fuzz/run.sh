@@ -50,6 +50,7 @@ lead() {
   local corpus="$corpora/$reader" log="$TMPDIR/$reader.log" least="$TMPDIR/$reader.least"
   local before
   before=$(find "$finds" -name "$reader-*" | wc -l)
+  # led_inputs holds the 100 ms; -timeout stops, in seconds, what would never end.
   BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
     -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
     -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
@@ -72,7 +73,6 @@ if [ "$minutes" != 0 ]; then
   mkdir -p "$finds"
   "$programs/mutated_files" --samples "$corpora"
   printf '%-14s %10s %8s %8s %8s %8s\n' reader runs edges corpus KB finds
-<<<<<<< HEAD
   # project_lines and recovery_short read what project and recovery do, shorter.
   readers="${BARVON_READERS:-$("$programs/mutated_files" --names | grep -vx 'project\|recovery')}"
   export minutes programs corpora finds dictionary
@@ -80,29 +80,5 @@ if [ "$minutes" != 0 ]; then
   # shellcheck disable=SC2086 # one word a reader
   printf '%s\n' $readers | xargs -P "$(nproc)" -I '{}' bash -c 'set -uo pipefail; lead {}' ||
     failed=1
-=======
-  for reader in ${BARVON_READERS:-$("$programs/mutated_files" --names)}; do
-    [ "$reader" != project ] || continue # project_lines reads the same, by its lines
-    corpus="$corpora/$reader"
-    log="$TMPDIR/log"
-    before=$(find "$finds" -name "$reader-*" | wc -l)
-    # led_inputs holds the 100 ms; -timeout stops, in seconds, what would never end.
-    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
-      -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
-      -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
-      { failed=1 && tail -n 40 "$log"; }
-    # Of two inputs that reach the same edges the shorter one stays.
-    mkdir "$TMPDIR/least"
-    BARVON_READER="$reader" nice -n 19 "$programs/led_inputs" -merge=1 "$TMPDIR/least" "$corpus" \
-      >/dev/null 2>&1 || failed=1
-    rm -rf "$corpus"
-    mv "$TMPDIR/least" "$corpus"
-    printf '%-14s %10s %8s %8s %8s %8s\n' "$reader" \
-      "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" \
-      "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)" \
-      "$(find "$corpus" -type f | wc -l)" "$(du -sk --apparent-size "$corpus" | cut -f1)" \
-      "$(($(find "$finds" -name "$reader-*" | wc -l) - before))"
-  done
->>>>>>> mendd
 fi
 exit "$failed"
