@@ -4,16 +4,22 @@
 # numbers of the same files. Medians of interleaved rounds. The goals are held against the processor
 # time: an export also waits for the disk, which the script does not. Ends with 1 when a goal is
 # missed: a project's share never above 1.5 of that of 10 projects, an export at most 1.5 of the
-# script.
+# script; or, with the reason, when a command fails or an export leaves a project without its file.
 #
 #   bench/batch_cost.sh [FOLDER OF barvon-run] [ROUNDS] [MOST PROJECTS]
 #
-# The share is compared with 10 projects, not with one: in that the start of the program counts.
+# The share is compared with 10 projects, not with one: in that the start of the program counts. So
+# 10 are the fewest.
 set -euo pipefail
+export LC_ALL=C # the decimal points of the times
 source=$(cd "$(dirname "$0")/.." && pwd)
 program=$(cd "${1:-$source/build/release/bin}" && pwd)/barvon-run
 rounds=${2:-7}
 most=${3:-1000}
+if ! [[ $rounds =~ ^[1-9][0-9]*$ && $most =~ ^[1-9][0-9]+$ ]]; then
+  echo "$0: the rounds are a whole number from 1 on, the most projects one from 10 on" >&2
+  exit 1
+fi
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder"
@@ -33,9 +39,20 @@ for my $name (@ARGV) {
 print "$sum\n";
 PERL
 
-check() { "$program" check "$@" > said.txt 2>&1 || true; }
-export_all() { "$program" export "$@" > said.txt 2>&1; }
-parse() { perl parse.pl "$@" > said.txt; }
+# What is measured has its own standard error.
+exec 3>&2
+measured() { # what, then the command
+  local what=$1
+  shift
+  "$@" > said.txt 2>&1 || {
+    echo "$what ended with $?:" >&3
+    cat said.txt >&3
+    exit 1
+  }
+}
+check() { measured "check of $# projects" "$program" check "$@"; }
+export_all() { measured "export of $# projects" "$program" export "$@"; }
+parse() { measured "the script for $# projects" perl parse.pl "$@"; }
 # Milliseconds that a command takes, and of the processor, its children's included.
 time_of() {
   local begun ended TIMEFORMAT='%3U %3S'
@@ -48,22 +65,35 @@ time_of() {
 # Of a file's column.
 median() { sort -n -k"$2,$2" "$1" | awk -v c="$2" '{v[NR] = $c} END {print v[int((NR + 1) / 2)]}'; }
 
+counts=(1 10)
+[ "$most" -le 100 ] || counts+=(100)
+[ "$most" -eq 10 ] || counts+=("$most")
 missed=0
 for round in $(seq "$rounds"); do
-  for count in 1 10 100 "$most"; do
+  for count in "${counts[@]}"; do
     [ "$count" -le 100 ] || [ "$((round % 3))" -eq 1 ] || continue
     mapfile -t files < <(seq -f 'site%.0f.DUI' "$count")
+    : > begun.txt
     for command in check export_all parse; do
       time_of "$command" "${files[@]}" >> "$command.$count"
     done
+    seen=$(find . -name '*.DUE' -newer begun.txt -size +0 | wc -l)
+    [ "$seen" -eq "$count" ] || { echo "$seen exports of $count projects" >&2; exit 1; }
   done
 done
 for command in check export_all; do
   ten=$(median "$command.10" 2)
-  for count in 1 10 100 "$most"; do
+  for count in "${counts[@]}"; do
     echo "$(median "$command.$count" 2) $ten $(median "parse.$count" 2)" \
       "$(median "$command.$count" 1) $(median "parse.$count" 1)" |
       awk -v n="$count" -v what="$command" '{
+        # A figure that is missing would shift the others, and none compares with NaN.
+        whole = NF == 5
+        for (i = 1; i <= NF; ++i) whole = whole && $i > 0 && $i ~ /^[0-9]+([.][0-9]+)?$/
+        if (!whole) {
+          printf "%-10s %4d projects: no figures (%s)  MISSED\n", what, n, $0
+          exit 1
+        }
         share = $1 / n
         flat = share / ($2 / 10)
         beside = $1 / $3

@@ -2,18 +2,24 @@
 # What a run costs beside the solver's own time: waits for the disk and questions about files of one
 # run, and the time that a project takes above the solver alone, for 1, 10, 100 and more projects in
 # one call. The solver writes its four outputs at once and ends. Medians of interleaved rounds. Ends
-# with 1 when a goal is missed: 20 ms a project above the solver, and no number of projects more
-# than 1.5 times as dear for each of them as one alone.
+# with 1 when a goal is missed: 5 waits and 60 questions, 20 ms a project above the solver, and no
+# number of projects more than 1.5 times as dear for each of them as one alone; or, with the reason,
+# when a run fails or leaves a project without its outputs.
 #
 #   bench/run_cost.sh [FOLDER OF barvon-run] [ROUNDS] [MOST PROJECTS]
 #
 # Counting needs strace; without it only the times are printed. The largest number is measured in
 # every seventh round alone.
 set -euo pipefail
+export LC_ALL=C # the decimal points of the times
 source=$(cd "$(dirname "$0")/.." && pwd)
 program=$(cd "${1:-$source/build/release/bin}" && pwd)/barvon-run
 rounds=${2:-21}
 most=${3:-1000}
+if ! [[ $rounds =~ ^[1-9][0-9]*$ && $most =~ ^[1-9][0-9]*$ ]]; then
+  echo "$0: the rounds and the most projects are whole numbers from 1 on" >&2
+  exit 1
+fi
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder"
@@ -26,14 +32,43 @@ for i in $(seq "$most"); do
   cp "$source/samples/Hopper_Six_Openings.DUI" "projects/site$i.DUI"
 done
 
-run() { "$program" run --solver-dir solver "$@" > said.txt 2>&1 || { cat said.txt; exit 1; }; }
+# What is measured has its own standard error.
+exec 3>&2
+run() {
+  "$program" run --solver-dir solver "$@" > said.txt 2>&1 || {
+    echo "a run of $# projects ended with $?:" >&3
+    cat said.txt >&3
+    exit 1
+  }
+}
+# All four outputs of so many projects, written since begun.txt.
+see_outputs() {
+  local seen
+  seen=$(find projects -name '*.du[optc]' -newer begun.txt -size +0 | wc -l)
+  [ "$seen" -eq "$((4 * $1))" ] || {
+    echo "$seen outputs of $1 projects instead of $((4 * $1))" >&3
+    exit 1
+  }
+}
 
+missed=0
 if command -v strace > where.txt; then
-  strace -qq -o calls.txt -e trace=fsync,fdatasync,stat,lstat,newfstatat,statx,access,faccessat \
-    "$program" run --solver-dir solver projects/site1.DUI > said.txt
-  echo "waits for the disk:    $(grep -cE '^f(data)?sync' calls.txt || true)"
+  : > begun.txt
+  strace -f -qq -o calls.txt -e trace=fsync,fdatasync,stat,lstat,newfstatat,statx,access,faccessat \
+    "$program" run --solver-dir solver projects/site1.DUI > said.txt 2>&1 ||
+    { echo "the counted run ended with $?:" >&2; cat said.txt >&2; exit 1; }
+  see_outputs 1
+  # The number of the thread comes first in a line.
+  waits=$(grep -cE 'f(data)?sync\(' calls.txt || true)
   # A descriptor that is asked about itself is no question to the disk.
-  echo "questions about files: $(grep -vE '^f(data)?sync|, "",' calls.txt | grep -c '"')"
+  questions=$(grep -vE 'f(data)?sync|, "",' calls.txt | grep -c '"' || true)
+  judge() { # what, seen, goal: none at all was not counted
+    local verdict=met
+    [ "$2" -ge 1 ] && [ "$2" -le "$3" ] || verdict=MISSED missed=1
+    printf '%-22s %d (goal %d)  %s\n' "$1:" "$2" "$3" "$verdict"
+  }
+  judge "waits for the disk" "$waits" 5
+  judge "questions about files" "$questions" 60
 fi
 
 # Milliseconds that a command takes, and of the processor, its children's included.
@@ -49,24 +84,35 @@ alone() { (cd alone && ../solver/merak32); }
 # Of a file's column.
 median() { sort -n -k"$2,$2" "$1" | awk -v c="$2" '{v[NR] = $c} END {print v[int((NR + 1) / 2)]}'; }
 
-counts=(1 10 100)
-[ "$most" -le 100 ] || counts+=("$most")
+counts=()
+for count in 1 10 100; do
+  [ "$count" -ge "$most" ] || counts+=("$count")
+done
+counts+=("$most")
 for round in $(seq "$rounds"); do
   time_of alone >> alone.txt
   for count in "${counts[@]}"; do
     [ "$count" -le 100 ] || [ "$((round % 7))" -eq 1 ] || continue
+    : > begun.txt
     # shellcheck disable=SC2046
     time_of run $(seq -f 'projects/site%.0f.DUI' "$count") >> "times$count.txt"
+    see_outputs "$count"
   done
 done
 echo "load:                  $(cut -d' ' -f1-3 /proc/loadavg)"
 echo "the solver alone:      $(median alone.txt 1) ms, $(median alone.txt 2) ms of the processor"
-missed=0
 one=$(median times1.txt 1)
 for count in "${counts[@]}"; do
   echo "$(median "times$count.txt" 1) $(median alone.txt 1) $one" \
     "$(median "times$count.txt" 2) $(median alone.txt 2)" |
     awk -v n="$count" '{
+      # A figure that is missing would shift the others, and none compares with NaN.
+      whole = NF == 5 && $1 > 0 && $2 > 0 && $3 > 0
+      for (i = 1; i <= NF; ++i) whole = whole && $i ~ /^[0-9]+([.][0-9]+)?$/
+      if (!whole) {
+        printf "%4d at once: no figures (%s)  MISSED\n", n, $0
+        exit 1
+      }
       above = $1 / n - $2
       grown = ($1 / n) / $3
       processor = $4 / n - $5

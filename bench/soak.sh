@@ -11,6 +11,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
 . packaging/build.sh
+. tests/attacks/build.sh
 export BARVON_PROOF_LOADS=${1:-10000} BARVON_PROOF_RUNS=${2:-200} QT_QPA_PLATFORM=offscreen
 
 bin=${BARVON_PROOF_BIN:-}
@@ -19,4 +20,4 @@ if [ -z "$bin" ]; then
   barvon_build release screen_tests
   bin=build/release/bin
 fi
-"$bin"/screen_tests --gtest_brief=1 --gtest_filter='Soak.*'
+barvon_run_tests "$bin"/screen_tests 'Soak.*'

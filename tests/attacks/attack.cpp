@@ -41,7 +41,7 @@ struct Report {
   int calls, failed;
   double seconds;
   char files[16];
-  bool told, refails;
+  bool told, refails, unsynced;
   char told_text[4000];
   char left[2000];
   const char* names[kMostCalls];  // of the library that both have loaded
@@ -168,6 +168,7 @@ Attack_Result Attack::Run(const Call_Plan& plan, double kill_after, long room) {
   result.may_be_silent = save_.is_lock;
   result.told_text = report.told_text;
   result.refails = report.refails;
+  result.unsynced = report.unsynced;
   for (int i = 0; report.ended && i < std::min(report.calls, kMostCalls); ++i) {
     result.call_names.emplace_back(report.names[i]);
   }
@@ -193,6 +194,7 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
   const auto end = In_Library<int()>("End_File_Calls");
   const auto name_of = In_Library<const char*(int)>("File_Call_Name");
   const auto failed = In_Library<int()>("File_Calls_Failed");
+  const auto unsynced = In_Library<bool(const char*)>("Is_Unsynced");
   ::alarm(kLongestSave);
   if (const int nowhere = ::open("/dev/null", O_WRONLY); std::getenv("ATTACK_WORDS") == nullptr) {
     ::dup2(nowhere, STDOUT_FILENO);
@@ -213,6 +215,11 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
   report.calls = end();
   report.seconds = std::chrono::duration<double>(Clock::now() - began).count();
   report.failed = failed();
+  for (const std::string& file : save_.files) {
+    const std::string path = Find_File(root_, file);
+    report.unsynced =
+        report.unsynced || unsynced(path.c_str()) || unsynced(fs::path(path).parent_path().c_str());
+  }
   for (int i = 0; i < std::min(report.calls, kMostCalls); ++i) report.names[i] = name_of(i + 1);
   if (room >= 0) Set_Room(root_, kWholeRoom);
   std::string text;

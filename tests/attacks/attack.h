@@ -15,6 +15,7 @@ namespace barvon::testing {
 struct Attack_Result {
   std::string files;
   bool told = false;
+  bool unsynced = false;  // met a failed fsync or close of a file of its own or its folder
   bool may_be_silent = false;
   bool ended_badly = false;  // by a signal of its own, or never
   bool killed = false;       // as planned
@@ -30,6 +31,8 @@ struct Attack_Result {
   bool All_New() const { return files.find_first_not_of('n') == std::string::npos; }
   bool Damaged() const { return files.find('x') != std::string::npos; }
   bool Silent() const { return !All_New() && !told && !killed && !may_be_silent; }
+  /// All is there, and may be gone when the power fails, without a word.
+  bool Untold_Sync() const { return unsynced && !told && !killed && !may_be_silent; }
 };
 
 /// One save that is done over and over, each time by a process of its own, in a folder that is made

@@ -35,8 +35,8 @@ constexpr int kMostFindsShown = 40;  // of a save
 /// What is summed up over the cases of a save.
 struct Tally {
   int cases = 0, met = 0, kept = 0, replaced = 0, told_though_new = 0, left = 0;
-  int damaged = 0, silent = 0, litter = 0, refails = 0, bad_ends = 0;
-  int Finds() const { return damaged + silent + litter + refails + bad_ends; }
+  int damaged = 0, silent = 0, unsynced = 0, litter = 0, refails = 0, bad_ends = 0;
+  int Finds() const { return damaged + silent + unsynced + litter + refails + bad_ends; }
   void operator+=(const Tally& other) {
     cases += other.cases;
     met += other.met;
@@ -46,6 +46,7 @@ struct Tally {
     left += other.left;
     damaged += other.damaged;
     silent += other.silent;
+    unsynced += other.unsynced;
     litter += other.litter;
     refails += other.refails;
     bad_ends += other.bad_ends;
@@ -53,14 +54,16 @@ struct Tally {
 };
 
 void Print_Head(const char* what) {
-  std::printf("%-32s %5s %6s %6s %6s %6s %6s %6s | %7s %6s %6s %6s %6s\n", what, "calls", "cases",
-              "met", "old", "new", "new+", "left", "damaged", "silent", "litter", "again", "bad");
+  std::printf("%-32s %5s %6s %6s %6s %6s %6s %6s | %7s %6s %6s %6s %6s %6s\n", what, "calls",
+              "cases", "met", "old", "new", "new+", "left", "damaged", "silent", "unsync", "litter",
+              "again", "bad");
 }
 
 void Print_Row(const std::string& name, int calls, const Tally& tally) {
-  std::printf("%-32s %5d %6d %6d %6d %6d %6d %6d | %7d %6d %6d %6d %6d\n", name.c_str(), calls,
+  std::printf("%-32s %5d %6d %6d %6d %6d %6d %6d | %7d %6d %6d %6d %6d %6d\n", name.c_str(), calls,
               tally.cases, tally.met, tally.kept, tally.replaced, tally.told_though_new, tally.left,
-              tally.damaged, tally.silent, tally.litter, tally.refails, tally.bad_ends);
+              tally.damaged, tally.silent, tally.unsynced, tally.litter, tally.refails,
+              tally.bad_ends);
   std::fflush(stdout);
 }
 
@@ -78,6 +81,7 @@ void Add(const Attack_Result& result, const std::string& what, Tally& tally) {
   };
   note(result.Damaged(), tally.damaged, "DAMAGED");
   note(result.Silent(), tally.silent, "SILENT");
+  note(result.Untold_Sync(), tally.unsynced, "UNSYNCED");
   note(!result.left_after.empty(), tally.litter, "LITTER");
   note(result.refails, tally.refails, "AGAIN-FAILS");
   note(result.ended_badly, tally.bad_ends, "BAD-END");
@@ -238,6 +242,12 @@ int Attack_All(std::vector<Attack> attacks, const std::vector<std::string>& word
     all_calls += attack.Learned().calls;
   }
   Print_Row("all", all_calls, all);
+  // One of many parts may have no case of its own.
+  const bool is_part = command == "count" || words.size() == 3;
+  if (attacks.empty() || (all.cases == 0 && !is_part)) {
+    std::fputs("nothing was attacked\n", stderr);
+    return 1;
+  }
   return all.Finds() + unlearned == 0 ? 0 : 1;
 }
 

@@ -14,6 +14,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . packaging/packages.sh
 . packaging/build.sh
+. tests/attacks/build.sh
 rounds=${1:-1}
 export BARVON_PROOF_STALL=${2:-50} BARVON_PROOF_FLOOD=${3:-1073741824} QT_QPA_PLATFORM=offscreen
 
@@ -26,8 +27,8 @@ fi
 missed=0
 for round in $(seq "$rounds"); do
   echo "Round $round: in the window"
-  "$bin"/screen_tests --gtest_brief=1 --gtest_filter='BadSolvers.*' || missed=1
+  barvon_run_tests "$bin"/screen_tests 'BadSolvers.*' || missed=1
   echo "Round $round: through barvon-run"
-  "$bin"/plain_tests --gtest_brief=1 --gtest_filter='BatchBadSolvers.*' || missed=1
+  barvon_run_tests "$bin"/plain_tests 'BatchBadSolvers.*' || missed=1
 done
 exit "$missed"

@@ -49,17 +49,17 @@ xargs -d '\n' -a "$scratch/jobs" -P "$processes" -I{} bash -c 'do_job "$1"' - {}
 [ "$(wc -l <"$scratch/seen")" = "$(wc -l <"$scratch/jobs")" ] || missed=1
 awk 'function sum_up(name, i, count, words) {
        count = split($0, words, /[ |]+/)
-       calls[name] = words[count - 11]
-       for (i = 2; i <= 12; ++i) sums[name, i] += words[count - 12 + i]
+       calls[name] = words[count - 12]
+       for (i = 2; i <= 13; ++i) sums[name, i] += words[count - 13 + i]
      }
      function show(name, calls, i) {
        printf "%-34s %5d", name, calls
-       for (i = 2; i <= 12; ++i) printf "%s %6d", i == 8 ? " | " : "", sums[name, i]
+       for (i = 2; i <= 13; ++i) printf "%s %6d", i == 8 ? " | " : "", sums[name, i]
        print ""
      }
      BEGIN {
        print "save                               calls  cases    met    old    new   new+   left |" \
-             " damaged silent litter  again    bad"
+             " damaged silent unsync litter  again    bad"
      }
      {
        name = $0

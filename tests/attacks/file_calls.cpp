@@ -19,6 +19,9 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <mutex>
+#include <set>
+#include <utility>
 
 using barvon::testing::Call_Plan;
 using barvon::testing::Fault;
@@ -35,6 +38,11 @@ std::size_t folder_size = 0;
 std::atomic<bool> counting{false};
 std::atomic<int> calls{0}, failed{0}, writes{0};
 const char* names[kMostCalls + 1];
+
+std::mutex files_mutex;
+// Known by what they are: a working file is renamed.
+std::set<std::pair<dev_t, ino_t>> written;  // and not closed since
+std::set<std::pair<dev_t, ino_t>> unsynced;
 
 bool Is_Inside(const char* path) {
   return std::strncmp(path, folder, folder_size) == 0 &&
@@ -62,6 +70,27 @@ bool Counts_Path(int at, const char* path) {
   if (!counting || path == nullptr) return false;
   if (*path == '/') return Is_Inside(path);
   return at == AT_FDCWD ? Link_Is_Inside("/proc/self/cwd", path) : Counts(at, path);
+}
+
+std::pair<dev_t, ino_t> Identity(int descriptor) {
+  struct stat status {};
+  ::syscall(SYS_fstat, descriptor, &status);
+  return {status.st_dev, status.st_ino};
+}
+
+void Note_Written(int descriptor) {
+  const std::lock_guard lock(files_mutex);
+  written.insert(Identity(descriptor));
+}
+
+void Note_Sync(int descriptor, bool done) {
+  const std::pair<dev_t, ino_t> identity = Identity(descriptor);
+  const std::lock_guard lock(files_mutex);
+  if (done) {
+    unsynced.erase(identity);
+  } else {
+    unsynced.insert(identity);
+  }
 }
 
 [[noreturn]] void Die() {
@@ -106,7 +135,9 @@ int Call(const char* name, bool counts, Real real, bool is_write = false) {
 /// A write of `size` bytes; `real` writes as many as it is told.
 template <class Real>
 ssize_t Pass_Write(const char* name, int descriptor, std::size_t size, Real real) {
-  if (!Counts(descriptor) || !Is_Due(name, true)) return real(size);
+  if (!Counts(descriptor)) return real(size);
+  Note_Written(descriptor);
+  if (!Is_Due(name, true)) return real(size);
   const std::size_t half = size > 1 ? size / 2 : size;
   switch (plan.fault) {
     case Fault::Kill:
@@ -124,6 +155,16 @@ ssize_t Pass_Write(const char* name, int descriptor, std::size_t size, Real real
       errno = plan.error;
       return -1;
   }
+}
+
+template <class Real>
+int Pass_Sync(const char* name, int descriptor, Real real) {
+  const bool counts = Counts(descriptor);
+  const int result = Call(name, counts, real, true);
+  const int error = errno;
+  if (counts) Note_Sync(descriptor, result == 0);
+  errno = error;
+  return result;
 }
 
 long Open_At(const char* name, int at, const char* path, int flags, mode_t mode) {
@@ -153,6 +194,8 @@ void Begin_File_Calls(const Call_Plan* wanted) {
   std::snprintf(folder, sizeof folder, "%s", wanted->folder);
   folder_size = std::strlen(folder);
   calls = failed = writes = 0;
+  written.clear();
+  unsynced.clear();
   counting = true;
 }
 
@@ -166,6 +209,13 @@ const char* File_Call_Name(int number) {
 }
 
 int File_Calls_Failed() { return failed; }
+
+bool Is_Unsynced(const char* path) {
+  struct stat status {};
+  const bool is_there = ::syscall(SYS_newfstatat, AT_FDCWD, path, &status, 0) == 0;
+  const std::lock_guard lock(files_mutex);
+  return is_there && unsynced.contains({status.st_dev, status.st_ino});
+}
 
 // The last is not always there; what is read in its place then goes unused.
 #define BARVON_LAST(named, Type)        \
@@ -188,8 +238,15 @@ int creat(const char* path, mode_t mode) {
 int close(int descriptor) {
   // The system closes even where it tells of a failure.
   if (!Counts(descriptor)) return static_cast<int>(::syscall(SYS_close, descriptor));
+  const std::pair<dev_t, ino_t> identity = Identity(descriptor);
   const long closed = ::syscall(SYS_close, descriptor);
-  return Call("close", true, [closed] { return closed; });
+  const int result = Call("close", true, [closed] { return closed; });
+  const int error = errno;
+  // Of a file that is open twice the first close tells what became of its bytes.
+  const std::unique_lock lock(files_mutex);
+  if (written.erase(identity) > 0 && result != 0) unsynced.insert(identity);
+  errno = error;
+  return result;
 }
 ssize_t write(int descriptor, const void* bytes, std::size_t size) {
   return Pass_Write("write", descriptor, size, [=](std::size_t count) -> ssize_t {
@@ -220,12 +277,10 @@ ssize_t pread(int descriptor, void* bytes, std::size_t size, off_t at) {
 }
 
 int fsync(int descriptor) {
-  return Call(
-      "fsync", Counts(descriptor), [=] { return ::syscall(SYS_fsync, descriptor); }, true);
+  return Pass_Sync("fsync", descriptor, [=] { return ::syscall(SYS_fsync, descriptor); });
 }
 int fdatasync(int descriptor) {
-  return Call(
-      "fdatasync", Counts(descriptor), [=] { return ::syscall(SYS_fdatasync, descriptor); }, true);
+  return Pass_Sync("fdatasync", descriptor, [=] { return ::syscall(SYS_fdatasync, descriptor); });
 }
 int ftruncate(int descriptor, off_t size) noexcept {
   return Call(

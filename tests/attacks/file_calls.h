@@ -37,4 +37,7 @@ int End_File_Calls();
 const char* File_Call_Name(int number);
 /// How many calls were due and met their fault.
 int File_Calls_Failed();
+/// Whether a fault may cost the bytes of the file or folder that has this path: it did not get to
+/// the disk and never did later, or the first close after its last write failed.
+bool Is_Unsynced(const char* path);
 }

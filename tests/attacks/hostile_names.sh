@@ -13,6 +13,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . packaging/packages.sh
 . packaging/build.sh
+. tests/attacks/build.sh
 export BARVON_PROOF_NAMES=${1:-2000} BARVON_PROOF_SEED=${2:-$(date +%Y%m%d)}
 export QT_QPA_PLATFORM=offscreen
 
@@ -24,7 +25,6 @@ if [ -z "$bin" ]; then
 fi
 echo "Seed $BARVON_PROOF_SEED"
 missed=0
-"$bin"/screen_tests --gtest_brief=1 --gtest_filter='HostileNames.*' || missed=1
-"$bin"/plain_tests --gtest_brief=1 \
-  --gtest_filter='BatchHostileNames.*:PlantedFiles.*:StrangersFiles.*' || missed=1
+barvon_run_tests "$bin"/screen_tests 'HostileNames.*' || missed=1
+barvon_run_tests "$bin"/plain_tests 'BatchHostileNames.*:PlantedFiles.*:StrangersFiles.*' || missed=1
 exit "$missed"

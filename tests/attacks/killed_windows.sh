@@ -6,7 +6,7 @@
 #
 # FOLDER is that of the built program, "build/release/bin"; 3 rounds when nothing is given. It needs
 # xvfb, openbox and xdotool (lines "proof" of packaging/debian-packages.txt). Ends with 1 when the
-# work of a round is lost.
+# work of a round is lost, or when a copy comes more than 30 s after the change.
 set -euo pipefail
 
 folder=$(cd "${1:?"usage: $0 FOLDER [ROUNDS]"}" && pwd)
@@ -98,4 +98,5 @@ for ((round = 1; round <= rounds; ++round)); do
   no_copies
   echo "round $round: restored and saved"
 done
+((longest <= 30)) || { echo "a copy came $longest s after the change, goal 30" >&2; exit 1; }
 echo "killed windows: $rounds of $rounds restored; a copy at most $longest s after the change"

@@ -6,23 +6,26 @@
 #
 # FOLDER is that of the built tests, "build/release/bin". 20,000 reads and 20 times the race of the
 # tests (60 takings by three processes each) when nothing is given. Ends with 1 when a read was
-# broken, when a lock had two winners or none, or when another test of the two subjects fails.
+# broken, when a lock had two winners or none, when another test of the two subjects fails, or when
+# a part takes more than ten minutes.
 set -euo pipefail
 
+. "$(dirname "$0")/build.sh"
 program=${1:?"usage: $0 FOLDER [READS] [ROUNDS]"}/plain_tests
 reads=${2:-20000}
 rounds=${3:-20}
 [ -x "$program" ] || { echo "$program is not built" >&2; exit 2; }
+limited() { timeout 600 "$program" "$@"; }
 whole='ProjectHold.A_Project_That_Another_Process_Saves_Is_Always_Read_Whole'
 
 # In parts, so that one sees how it goes on.
 part=1000
 for ((done = 0; done < reads; done += part)); do
   BARVON_READS=$((reads - done < part ? reads - done : part)) \
-    "$program" --gtest_brief=1 --gtest_filter="$whole" | grep reads
+    barvon_run_tests limited "$whole" | grep reads
 done
 for ((round = 1; round <= rounds; ++round)); do
-  "$program" --gtest_brief=1 --gtest_filter="Lock.*:ProjectHold.*-$whole" >/dev/null ||
+  barvon_run_tests limited 'Lock.*:ProjectHold.*' "$whole" >/dev/null ||
     { echo "round $round failed" >&2; exit 1; }
 done
 echo "two windows: $reads reads whole, $((rounds * 60)) takings with one winner each"
