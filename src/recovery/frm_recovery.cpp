@@ -77,7 +77,8 @@ int frmRecovery::Chosen() const { return List1->currentRow(); }
 void frmRecovery::Show_Rows() {
   List1->clear();
   for (const Recovery_Row& row : rows_) {
-    List1->addItem(Text(row.name + ", changes up to " + Time_In_Words(row.left.written)));
+    const char* const what = row.left.copy ? ", changes up to " : ", damaged, of ";
+    List1->addItem(Text(row.name + what + Time_In_Words(row.left.written)));
   }
   List1->setCurrentRow(0);
 }

@@ -52,7 +52,10 @@ void Compare_With_File(Recovery_Row& row) {
   Loaded_Record there;
   row.column = "In the file";
   if (!Has_Project_File(record)) {
-    row.state = "It has never been saved.";
+    // A list of dilutions that was opened beside a project has put its name in the project's place.
+    row.state = record.ProjectFileName.empty()
+                    ? "It has never been saved."
+                    : "Of the project itself no file is known. Save asks for a name.";
   } else if (!Find_Path(path)) {
     row.state = path + " is no longer there. Save writes it anew.";
   } else if (there = Load_Record(path); there.record == nullptr) {

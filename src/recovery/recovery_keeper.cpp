@@ -1,5 +1,6 @@
 #include "recovery/recovery_keeper.h"
 
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -39,8 +40,11 @@ void Recovery_Keeper::Look() {
 }
 
 bool Recovery_Keeper::Keep() {
-  Recovery_Copy copy{std::make_unique<ProjectRecord>(record_), std::time(nullptr), Held_State(),
-                     Project_Is_Unsaved(), Dilutions_Are_Unsaved()};
+  // A name that was typed for a save that did not come about is not the file that was opened.
+  const bool is_held = Held_Project() == record_.ProjectFileName;
+  Recovery_Copy copy{std::make_unique<ProjectRecord>(record_), std::time(nullptr),
+                     is_held ? Held_State() : std::nullopt, Project_Is_Unsaved(),
+                     Dilutions_Are_Unsaved()};
   Port().dilution.name_project(*copy.record);
   const File_State file = copy.file.value_or(File_State());
   const std::string around = copy.record->ProjectFileName + "\n" + copy.record->BaseFileName +

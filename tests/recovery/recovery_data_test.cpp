@@ -205,5 +205,39 @@ TEST_F(RecoveryData, A_Damaged_Copy_Is_Told_Can_Not_Be_Restored_And_Stays) {
   EXPECT_EQ(Read_Text(copy), bytes);
 }
 
+TEST_F(RecoveryData, A_Name_That_Was_Typed_For_A_Save_That_Did_Not_Come_About_Is_Asked_About) {
+  Crash(
+      [&](ProjectRecord& record) {
+        record.ProjectTitle = "typed";
+        record.ProjectFileName = path;
+      },
+      false);
+  auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].state,
+            path + " has been changed since. A save asks before it writes over that.");
+  const auto record = Fresh_Record();
+  Recovery_Keeper keeper(*record);
+  ASSERT_TRUE(Restore_Project(rows[0], keeper, *record));
+  const std::string before = Read_Text(path);
+  const Scripted_Messages messages({Answer::No});
+  EXPECT_FALSE(Save_File(path, kProjectKind, *record));
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(
+      messages.shown[0].text,
+      "site.DUI has been changed on the disk since it was opened or saved here. Save over it?");
+  EXPECT_EQ(Read_Text(path), before);
+}
+
+TEST_F(RecoveryData, A_List_Of_Dilutions_Beside_A_Project_Is_Not_Taken_For_A_New_Project) {
+  Crash([&](ProjectRecord& record) {
+    record.ProjectTitle = "typed";
+    record.ProjectFileName = scratch / "l.DUD";
+  });
+  const auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].state, "Of the project itself no file is known. Save asks for a name.");
+}
+
 }  // namespace
 }  // namespace barvon

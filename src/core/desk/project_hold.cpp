@@ -120,9 +120,8 @@ bool Project_Claim::To_Save(const std::string& path) {
   }
   const Hold& hold = This_Hold();
   state_ = State_Of_File(path);
-  if (!state_ || !hold.state || *state_ == *hold.state || !Is_One_Project(path, hold.path)) {
-    return true;
-  }
+  // A file that was not there, or not known, when the project was taken up is another's now.
+  if (!state_ || state_ == hold.state || !Is_One_Project(path, hold.path)) return true;
   return Show_Message({Name_Of(path) +
                            " has been changed on the disk since it was opened or saved here. Save "
                            "over it?",
