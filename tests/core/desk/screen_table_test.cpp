@@ -66,8 +66,9 @@ TEST(ScreenTable, The_Two_Material_Screens_Share_An_Entry_By_The_Vessel) {
 }
 
 TEST(ScreenTable, Topics_Are_Those_Of_The_Screens_And_Of_The_Wizards_Steps) {
-  EXPECT_EQ(Help_Topics(), (std::vector<int>{420, 800, 2450, 2460, 2470, 2490, 2500, 2510, 2530,
-                                             2540, 2550, 2590, 2650, 2660, 2720, 2730, 3000, 3030}));
+  EXPECT_EQ(Help_Topics(),
+            (std::vector<int>{420, 800, 2450, 2460, 2470, 2490, 2500, 2510, 2530, 2540, 2550, 2590,
+                              2650, 2660, 2720, 2730, 3000, 3030}));
 }
 
 }  // namespace
