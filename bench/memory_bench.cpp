@@ -15,6 +15,7 @@
 
 #include "checks/check_data.h"
 #include "core/desk/open_file.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/screen_register.h"
 #include "core/project_record.h"
 #include "figures.h"
@@ -60,6 +61,7 @@ Memory Memory_Now() {
 
 [[noreturn]] void Give_Up(const char* what) {
   std::fprintf(stderr, "%s: does not open as it should\n", what);
+  Release_Project();  // no lock stays beside the sample
   std::_Exit(2);
 }
 
@@ -137,5 +139,6 @@ int main(int count, char** values) {
   figures.Note("growth by all screens and the help, in all", at_end.total - loaded.total, "MiB");
   figures.Judge("memory after every screen, its own", at_end.own, "MiB", kMostOwn);
   std::fflush(nullptr);
+  Release_Project();  // no lock stays beside the sample
   std::_Exit(figures.Exit_Code());
 }

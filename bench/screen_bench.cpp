@@ -20,6 +20,7 @@
 
 #include "core/book_numbers.h"
 #include "core/desk/open_file.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/screen_register.h"
 #include "core/keys.h"
 #include "core/project_record.h"
@@ -289,5 +290,6 @@ int main(int count, char** values) {
     Measure_Editing(Row_Of_Screen("frmVelocity"), "F1Book2(0)", "VelocityArrows", rounds, figures);
   }
   std::fflush(nullptr);
+  Release_Project();  // no lock stays beside the sample
   std::_Exit(figures.Exit_Code());
 }

@@ -19,6 +19,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/desk/project_hold.h"
 #include "core/project_record.h"
 #include "figures.h"
 #include "platform/files/app_folder.h"
@@ -155,5 +156,6 @@ int main(int count, char** values) {
   std::fflush(nullptr);
   std::error_code error;
   std::filesystem::remove_all(here, error);
+  Release_Project();  // no lock stays beside the sample
   std::_Exit(figures.Exit_Code());
 }
