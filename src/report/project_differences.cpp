@@ -113,18 +113,9 @@ std::vector<Told> What_Is_Told(const ProjectRecord& project) {
   const auto record = std::make_unique<ProjectRecord>(project);
   Store_Dimensions(*record);
   Report_Maker report(*record);
-  Report_Study(report);
-  Report_Site(report);
-  Report_Densities(report);
-  Report_Velocities(report);
-  Report_Material(report);
-  Report_Operation(report);
-  Report_Evaluation(report);
-  Report_Times(report);
-  Report_Coefficients(report);
-  Report_Unused_Values(report);
-  Report_Kept_Values(report);
-  Report_Grids(report);
+  for (const Report_Section& section : kReportSections) {
+    if (section.tells_entries) section.write(report);
+  }
   Teller teller;
   teller.Chapter("Study");
   teller.Tell("", "Project Title", Trimmed(record->ProjectTitle));

@@ -56,20 +56,7 @@ Report_Document Project_Report(const ProjectRecord& project, const Report_Facts&
       facts.file.empty() || facts.saved ? name : name + ", with changes " + kNotSaved;
   report.document.date = facts.date;
   Put_File(report, facts);
-  Report_Study(report);
-  Report_Findings(report);
-  Report_Site(report);
-  Report_Densities(report);
-  Report_Velocities(report);
-  Report_Material(report);
-  Report_Operation(report);
-  Report_Evaluation(report);
-  Report_Times(report);
-  Report_Coefficients(report);
-  Report_Unused_Values(report);
-  Report_As_Solved(report);
-  Report_Kept_Values(report);
-  Report_Grids(report);
+  for (const Report_Section& section : kReportSections) section.write(report);
   return std::move(report.document);
 }
 

@@ -31,4 +31,18 @@ void Report_Grids(Report_Maker& report);
 /// How large a picture is drawn.
 inline constexpr Canvas kReportCanvas = {620, 340, 12}, kReportMap = {620, 430, 12};
 
+/// The sections of a report, in their order. Those that only tell what follows from the others are
+/// left out where two projects are compared.
+struct Report_Section {
+  void (*write)(Report_Maker&);
+  bool tells_entries = true;
+};
+inline constexpr Report_Section kReportSections[] = {
+    {Report_Study},        {Report_Findings, false}, {Report_Site},
+    {Report_Densities},    {Report_Velocities},      {Report_Material},
+    {Report_Operation},    {Report_Evaluation},      {Report_Times},
+    {Report_Coefficients}, {Report_Unused_Values},   {Report_As_Solved, false},
+    {Report_Kept_Values},  {Report_Grids},
+};
+
 }  // namespace barvon
