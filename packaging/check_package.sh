@@ -127,6 +127,8 @@ processes+=($!)
 wait_for 100 xdotool getmouselocation
 openbox --sm-disable >"$work/openbox" 2>&1 &
 processes+=($!)
+# A window that comes up before its manager is not given the keyboard.
+wait_for 100 xdotool get_num_desktops
 
 window_road() { # NAME PROGRAM [NAME OF THE HOME]
   local name="$1" home="$work/window-home-${3:-$1}" place="$work/window"

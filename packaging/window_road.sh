@@ -21,7 +21,8 @@ press() { # WINDOW NAME, "KEY KEY...", CONDITION...
   for round in $(seq 12); do
     wait_for 100 window "$name" || true
     id=$(window "$name") || continue
-    xdotool windowactivate --sync "$id" 2>/dev/null || xdotool windowfocus "$id" || true
+    # It waits for ever where the manager does not give the window the keyboard.
+    timeout 5 xdotool windowactivate --sync "$id" 2>/dev/null || xdotool windowfocus "$id" || true
     for key in $keys; do
       xdotool key "$key"
       sleep 0.3

@@ -16,12 +16,7 @@ using Lines = std::vector<std::string>;
 class DatabaseData : public Recorded_Workspace {
  protected:
   DatabaseData() {
-    Write("dspsites.dat", "1\r\nNorth\r\n\r\n2\r\nSouth\r\n\r\n");
-    Write("sites.dat", "1\r\nBar\r\n\r\n");
-    Write("vessels.dat", "1\r\nAuk\r\n2\r\nBittern\r\n");
-    Write("dispdb.dat", Site_Record(" 100", "    10") + "\r\n");
-    Write("veldb.dat", Velocity_Block(" 100") + "\r\n");
-    Write("matdb.dat", Material_Record(" 100", "Sand") + "\r\n");
+    Write_Small_Database(folder_);
     Write("vesdb.dat", Vessel_Record(" 100", "10", 1) + Vessel_Record(" 200", "20", 1) + "\r\n");
     Board_Port& board = Port().board;
     board.set_database_used = [this] { log_.push_back("used"); };

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/plain_support.h"
+
 namespace barvon::testing {
 
 // Records as the walk wants them, short and with values that tell them apart.
@@ -42,6 +44,18 @@ inline std::string Vessel_Record(const std::string& code, const std::string& len
                        std::to_string(openings) + "\r\n";
   for (int i = 1; i <= openings; ++i) vessel += "   1.5    0.25\r\n";
   return vessel + "0\r\n7\r\n8\r\n9\r\n";
+}
+
+/// A database of two sites, of which the first has data, one material, and two vessels, of which
+/// only the first is in the file of vessels.
+inline void Write_Small_Database(const Scratch_Folder& folder) {
+  Write_Text(folder / "dspsites.dat", "1\r\nNorth\r\n\r\n2\r\nSouth\r\n\r\n");
+  Write_Text(folder / "sites.dat", "1\r\nBar\r\n\r\n");
+  Write_Text(folder / "vessels.dat", "1\r\nAuk\r\n2\r\nBittern\r\n");
+  Write_Text(folder / "dispdb.dat", Site_Record(" 100", "    10") + "\r\n");
+  Write_Text(folder / "veldb.dat", Velocity_Block(" 100") + "\r\n");
+  Write_Text(folder / "matdb.dat", Material_Record(" 100", "Sand") + "\r\n");
+  Write_Text(folder / "vesdb.dat", Vessel_Record(" 100", "10", 1) + "\r\n");
 }
 
 }  // namespace barvon::testing

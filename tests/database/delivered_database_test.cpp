@@ -14,18 +14,11 @@ using Lines = std::vector<std::string>;
 class DeliveredDatabase : public Recorded_Workspace {
  protected:
   DeliveredDatabase() {
-    Write("dspsites.dat", "1\r\nNorth\r\n\r\n2\r\nSouth\r\n\r\n");
-    Write("sites.dat", "1\r\nBar\r\n\r\n");
-    Write("vessels.dat", "1\r\nAuk\r\n2\r\nBittern\r\n");
-    Write("dispdb.dat", Site_Record(" 100", "    10") + "\r\n");
-    Write("veldb.dat", Velocity_Block(" 100") + "\r\n");
-    Write("matdb.dat", Material_Record(" 100", "Sand") + "\r\n");
-    Write("vesdb.dat", Vessel_Record(" 100", "10", 1) + "\r\n");
+    Write_Small_Database(folder_);
     Set_Delivered_Folder(folder_.path());
     Set_Application_Folder(user_.path());
   }
   ~DeliveredDatabase() override { Set_Delivered_Folder(""); }
-  void Write(const char* file, const std::string& text) { Write_Text(folder_ / file, text); }
 
   Scratch_Folder user_;
 };

@@ -17,12 +17,16 @@ bool Entry_Is_A_Strangers(const std::string& path) {
   if (::lstat(path.c_str(), &entry) != 0 || ::stat(Folder_Of(path).c_str(), &folder) != 0) {
     return false;
   }
-  const bool open_to_all = (folder.st_mode & S_IWOTH) != 0;
-  return open_to_all && entry.st_uid != ::geteuid() && entry.st_uid != 0 &&
-         entry.st_uid != folder.st_uid;
+  return Is_A_Strangers({entry.st_uid, folder.st_uid, folder.st_mode}, ::geteuid());
 }
 
 }  // namespace
+
+bool Is_A_Strangers(const Folder_Entry& entry, uid_t user) {
+  const bool open_to_all = (entry.folder_mode & S_IWOTH) != 0;
+  return open_to_all && entry.owner != user && entry.owner != 0 &&
+         entry.owner != entry.folder_owner;
+}
 
 bool Is_Put_By_A_Stranger(const std::string& path) {
   if (Entry_Is_A_Strangers(path)) return true;
