@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <optional>
 #include <system_error>
-#include <utility>
 
 #include "checks/check_data.h"
 #include "checks/remarks.h"
@@ -44,10 +43,8 @@ bool Project_Exists(const ProjectRecord& record, const char* extension) {
 std::optional<Run_Stage> Save_As(ProjectRecord& record, Run_Stage on_cancel) {
   const auto name = File_SaveAs_Dialog(record.ProjectFileName, kProjectKind);
   if (!name) return on_cancel;
-  std::string former = std::exchange(record.ProjectFileName, *name);
-  if (Save_File(*name, kProjectKind, record)) return std::nullopt;
-  record.ProjectFileName = std::move(former);
-  return Run_Stage::Save_Failed;
+  if (!Save_File(*name, kProjectKind, record)) return Run_Stage::Save_Failed;
+  return std::nullopt;
 }
 
 /// Sees to it that the project has a file. Nothing when the run may go on.

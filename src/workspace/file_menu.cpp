@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "checks/check_data.h"
 #include "core/coefficients.h"
@@ -11,6 +10,7 @@
 #include "core/desk/file_dialogs.h"
 #include "core/desk/file_kinds.h"
 #include "core/desk/open_file.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/reset_vars.h"
 #include "core/desk/save_file.h"
@@ -21,6 +21,7 @@
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
 #include "platform/text/counted.h"
 #include "workspace/quit_rules.h"
 #include "workspace/text_commands.h"
@@ -92,11 +93,18 @@ bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
   return answer == Answer::No;
 }
 
-/// The name is the project's from here on; only a save that fails takes it back.
+/// A save that does not come about changes nothing: the project keeps its file, and the next Save
+/// goes there.
 void Save_Under(const std::string& name, ProjectRecord& record) {
-  const std::string former = std::exchange(record.ProjectFileName, name);
-  if (!Save_In_Spite_Of_Findings(record)) return;
-  if (!Save_File(name, kProjectKind, record)) record.ProjectFileName = former;
+  if (Save_In_Spite_Of_Findings(record)) {
+    Save_File(name, kProjectKind, record);
+  } else if (name != record.ProjectFileName) {
+    const std::string& former = Held_Project();
+    Port().board.show_note(
+        {Name_Of(name) + " was not saved. The project " +
+             (former.empty() ? "has no file yet." : "is still " + Name_Of(former) + "."),
+         {}});
+  }
 }
 
 void Save(ProjectRecord& record) {

@@ -2,6 +2,8 @@
 
 #include "checks/check_data.h"
 #include "core/desk/file_kinds.h"
+#include "core/desk/open_file.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/recent_files.h"
 #include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
@@ -342,14 +344,41 @@ TEST_F(FileMenu, Cancel_In_The_Save_Dialog_Leaves_ProjectFileName_As_It_Was) {
   EXPECT_EQ(record_.ProjectFileName, "/data/site.dui");
 }
 
-TEST_F(FileMenu, Findings_That_Stop_A_Save_As_Keep_The_Chosen_Name) {
-  Scripted_Messages messages({Answer::Cancel});
-  Name_Project("/data/site.dui");
+TEST_F(FileMenu, Findings_That_Stop_A_Save_As_Leave_The_Project_Its_File) {
+  Register_Screen(Row_Of_Screen("frmErrorList"), [](bool, const std::string&) {});
+  const std::string old = Make_Project("old.DUI");
+  const std::string before = Read_Text(old);
+  ASSERT_TRUE(Open_Project(old, record_));
+  Scripted_Messages messages({Answer::Cancel, Answer::Yes, Answer::No});
   chosen_ = folder_ / "new.DUI";
-  Click(kFileSaveAs);
+  for (int i = 0; i < 2; ++i) {
+    Click(kFileSaveAs);
+    EXPECT_EQ(notes_.back(), "new.DUI was not saved. The project is still old.DUI.");
+    EXPECT_EQ(record_.ProjectFileName, old);
+    EXPECT_EQ(record_.BaseFileName, folder_ / "old");
+    EXPECT_EQ(caption_, "BARVON - " + old);
+    EXPECT_EQ(Held_Project(), old);
+    EXPECT_TRUE(Exists(Lock_Path_Of(old)));
+    EXPECT_FALSE(Exists(Lock_Path_Of(folder_ / "new.DUI")));
+  }
+  Register_Screen(Row_Of_Screen("frmErrorList"), {});
+  record_.ProjectTitle = "Mended";
+  Click(kFileSave);
+  EXPECT_NE(Read_Text(old), before);
+  EXPECT_FALSE(Exists(folder_ / "new.DUI"));
+  Release_Project();
+}
+
+TEST_F(FileMenu, A_Project_Whose_First_Save_The_Findings_Stop_Stays_Unnamed) {
+  Scripted_Messages messages({Answer::Cancel, Answer::No});
+  chosen_ = folder_ / "new.DUI";
+  Click(kFileSave);
+  EXPECT_EQ(notes_.back(), "new.DUI was not saved. The project has no file yet.");
+  EXPECT_EQ(record_.ProjectFileName, "");
+  Click(kFileSave);
+  EXPECT_EQ(save_asked_.size(), 2u) << "the next save asks again";
   EXPECT_EQ(record_.ProjectFileName, folder_ / "new.DUI");
-  EXPECT_EQ(record_.BaseFileName, "/data/site");
-  EXPECT_EQ(caption_, "");
+  Release_Project();
 }
 
 TEST_F(FileMenu, A_Save_As_That_Fails_Does_Not_Claim_The_New_Name) {

@@ -161,6 +161,7 @@ bool Save_File(const std::string& path, int kind, ProjectRecord& record) {
   if (kind == kTextKind) return true;
   // A list of dilutions says nothing of the project: it is as unsaved as before, and no output is
   // named from the list.
+  if (kind == kProjectKind) record.ProjectFileName = path;
   if (kind != kDilutionKind) {
     record.BaseFileName = Base_Name(path);
     record.DataSaved = kTrue;
