@@ -20,7 +20,7 @@ Recovery_Clock::Recovery_Clock(Recovery_Keeper& keeper) {
   Port().recovery.leave_unasked = [&keeper] { keeper.Leave_Unasked(); };
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [&keeper] {
     keeper.Look();
-    Hold_What_Was_Let_Go_Of();
+    Hold_What_Is_Free();
   });
   timer_.start(std::chrono::seconds(10));
 }

@@ -96,14 +96,13 @@ bool Save_In_Spite_Of_Findings(const ProjectRecord& record) {
 /// A save that does not come about changes nothing: the project keeps its file, and the next Save
 /// goes there.
 void Save_Under(const std::string& name, ProjectRecord& record) {
+  Take_Back_Unsaved_Note();
   if (Save_In_Spite_Of_Findings(record)) {
     Save_File(name, kProjectKind, record);
   } else if (name != record.ProjectFileName) {
     const std::string& former = Held_Project();
-    Port().board.show_note(
-        {Name_Of(name) + " was not saved. The project " +
-             (former.empty() ? "has no file yet." : "is still " + Name_Of(former) + "."),
-         {}});
+    Note_Unsaved(Name_Of(name) + " was not saved. The project " +
+                 (former.empty() ? "has no file yet." : "is still " + Name_Of(former) + "."));
   }
 }
 

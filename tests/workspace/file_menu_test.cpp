@@ -366,6 +366,7 @@ TEST_F(FileMenu, Findings_That_Stop_A_Save_As_Leave_The_Project_Its_File) {
   Click(kFileSave);
   EXPECT_NE(Read_Text(old), before);
   EXPECT_FALSE(Exists(folder_ / "new.DUI"));
+  EXPECT_EQ(notes_.at(4), "") << "what was said is taken back";
   Release_Project();
 }
 

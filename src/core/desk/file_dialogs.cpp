@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/desk/file_kinds.h"
+#include "core/desk/project_hold.h"
 #include "core/keys.h"
 #include "core/text_tools.h"
 #include "platform/ask/file_dialog.h"
@@ -17,8 +18,18 @@ bool Is_Dilution_Name(const std::string& name) {
   return Last_Three_Letters(name) == kDilutionLetters;
 }
 
+/// The project's own file where its folder is called now.
+std::string Held_Project_Now() {
+  const std::string& project = Held_Project();
+  const std::string folder = Find_Path(Folder_Of(project)) ? "" : Folder_Of_Held_Project();
+  return folder.empty() ? project : Join_Path(folder, Name_Of(project));
+}
+
 /// The name that a file of the kind has beside that of another one.
 std::string Name_Of_Kind(const std::string& name, int kind) {
+  const bool is_held = !Held_Project().empty() && kind != kDilutionKind;
+  // A list of dilutions that was opened beside a project has put its name in the project's place.
+  if (is_held && (name == Held_Project() || Is_Dilution_Name(name))) return Held_Project_Now();
   if (name.empty() || Is_Dilution_Name(name) == (kind == kDilutionKind)) return name;
   return With_Extension(name, kind == kDilutionKind ? kDilutionLetters : kProjectLetters);
 }

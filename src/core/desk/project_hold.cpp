@@ -8,6 +8,7 @@
 #include <system_error>
 #include <utility>
 
+#include "core/desk/workspace_port.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/check_sum.h"
 #include "platform/files/path_lookup.h"
@@ -23,6 +24,7 @@ struct Hold {
   std::string path;  // as it was opened
   std::optional<File_State> state;
   Project_Locks locks;
+  bool unsaved_is_said = false;
 };
 
 Hold& This_Hold() {
@@ -86,7 +88,7 @@ bool Project_Claim::Lock(const std::string& question) {
   const Hold& hold = This_Hold();
   const std::string beside = Lock_Path_Of(path_);
   const std::string shared = Shared_Lock_Path(path_);
-  const bool has_beside = hold.locks.beside.Is_Held() && hold.locks.beside.Path() == beside;
+  const bool has_beside = hold.locks.beside.Is_Under(beside);
   const bool has_shared = hold.locks.shared.Is_Held() && hold.locks.shared.Path() == shared;
   if (has_beside && (shared.empty() || has_shared)) return true;
   locks_.emplace();
@@ -120,8 +122,11 @@ bool Project_Claim::To_Save(const std::string& path) {
   }
   const Hold& hold = This_Hold();
   state_ = State_Of_File(path);
+  // The folder may have another name since.
+  const bool is_open_one =
+      Is_One_Project(path, hold.path) || hold.locks.beside.Is_Under(Lock_Path_Of(path));
   // A file that was not there, or not known, when the project was taken up is another's now.
-  if (!state_ || state_ == hold.state || !Is_One_Project(path, hold.path)) return true;
+  if (!state_ || state_ == hold.state || !is_open_one) return true;
   return Show_Message({Name_Of(path) +
                            " has been changed on the disk since it was opened or saved here. Save "
                            "over it?",
@@ -135,20 +140,40 @@ void Project_Claim::Keep(std::optional<File_State> state) {
   Hold& hold = This_Hold();
   hold.path = path_;
   hold.state = state;
-  if (!locks_) return;
-  const std::string beside = Lock_Path_Of(path_);
+  hold.unsaved_is_said = false;
   // What the window had already was not taken again.
-  if (locks_->beside.Is_Held() || hold.locks.beside.Path() != beside) {
+  if (locks_ && !hold.locks.beside.Is_Under(Lock_Path_Of(path_))) {
     hold.locks.beside = std::move(locks_->beside);
   }
-  hold.locks.shared = std::move(locks_->shared);
+  const std::string shared = Shared_Lock_Path(path_);
+  if (locks_ && locks_->shared.Is_Held()) hold.locks.shared = std::move(locks_->shared);
+  // The links that a save has parted the name from are somebody else's.
+  if (hold.locks.shared.Path() != shared) hold.locks.shared.Release();
   locks_.reset();
 }
 
-void Hold_What_Was_Let_Go_Of() {
+void Hold_What_Is_Free() {
   Hold& hold = This_Hold();
-  if (hold.path.empty() || hold.locks.beside.Is_Held()) return;
-  hold.locks.beside.Take(Lock_Path_Of(hold.path));
+  if (hold.path.empty()) return;
+  if (!hold.locks.beside.Is_Held()) hold.locks.beside.Take(Lock_Path_Of(hold.path));
+  const std::string shared = Shared_Lock_Path(hold.path);
+  if (!shared.empty() && !(hold.locks.shared.Is_Held() && hold.locks.shared.Path() == shared)) {
+    hold.locks.shared.Take(shared);
+  }
+}
+
+std::string Folder_Of_Held_Project() {
+  const std::string lock = This_Hold().locks.beside.Present_Path();
+  return lock.empty() ? std::string() : Folder_Of(lock);
+}
+
+void Note_Unsaved(const std::string& text) {
+  Port().board.show_note({text, {}});
+  This_Hold().unsaved_is_said = true;
+}
+
+void Take_Back_Unsaved_Note() {
+  if (std::exchange(This_Hold().unsaved_is_said, false)) Port().board.show_note({});
 }
 
 void Release_Project() { This_Hold() = {}; }

@@ -51,9 +51,15 @@ class Project_Claim {
   std::optional<Project_Locks> locks_;  // nothing: the window has them already
 };
 
-/// Locks the project that was opened although somebody else had it, once that window has let go of
-/// it. Asks nobody.
-void Hold_What_Was_Let_Go_Of();
+/// Locks what the open project lacks and nobody else has: a project that was opened although
+/// another window had it, once that has let go of it, and hard links that were made since. Asks
+/// nobody.
+void Hold_What_Is_Free();
+
+/// Says in the status area that the project was not saved, and why; and takes that back before the
+/// next save, when nothing was loaded or saved since.
+void Note_Unsaved(const std::string& text);
+void Take_Back_Unsaved_Note();
 
 /// The window works on no project that has a file.
 void Release_Project();
@@ -61,6 +67,10 @@ void Release_Project();
 /// The path of the project that the window works on, "" when it has no file; and what its file was.
 const std::string& Held_Project();
 std::optional<File_State> Held_State();
+
+/// The folder that the open project is in now, which may have been renamed; "" when its lock does
+/// not tell.
+std::string Folder_Of_Held_Project();
 
 /// The name of the lock file of a project, beside what its links lead to.
 std::string Lock_Path_Of(const std::string& project);

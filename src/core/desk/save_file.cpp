@@ -64,12 +64,23 @@ bool Lead_To_One_File(const std::string& path, const std::string& other) {
   return std::filesystem::equivalent(Path_To_Write(path), Path_To_Write(other), error);
 }
 
+/// A box has said that the project's file can't be opened; where the person finds it instead.
+void Tell_Of_Lost_Folder(const std::string& path) {
+  if (path != Held_Project() || Find_Path(Folder_Of(path))) return;
+  const std::string folder = Folder_Of_Held_Project();
+  Note_Unsaved(Name_Of(path) + " was not saved: its folder " +
+               (folder.empty() ? "is no longer there. Save As keeps it elsewhere."
+                               : "is " + folder + " now. Save As keeps it there."));
+}
+
 bool Write_Project(const std::string& path, ProjectRecord& record) {
   Project_Claim claim;
+  const bool was_there = path == Held_Project() && Held_State();
   if (!claim.To_Save(path)) {
-    Port().board.show_note({Name_Of(path) + " was not saved.", {}});
+    Note_Unsaved(Name_Of(path) + " was not saved.");
     return false;
   }
+  const bool is_gone = was_there && !State_Of_File(path);
   std::string model_input;
   Failure model_failure = Failure::None;
   const bool written = Write_File(path, kProjectKind, [&] {
@@ -87,12 +98,20 @@ bool Write_Project(const std::string& path, ProjectRecord& record) {
     record.KEY4 = key4;
     return bytes;
   });
-  if (!written) return false;
+  if (!written) {
+    Tell_Of_Lost_Folder(path);
+    return false;
+  }
   claim.Keep(State_Of_File(path));
   record.FileTypeTag = "DUE";
   const std::string name = With_Extension(path, "DUE");
+  const std::string saved =
+      Name_Of(path) + (is_gone
+                           ? " was no longer there: it is written anew, in " + Folder_Of(path) + "."
+                           : " is saved.");
   const std::string lacking =
-      Name_Of(path) + " is saved. Its model input " + Name_Of(name) + " could not be written: ";
+      saved + " Its model input " + Name_Of(name) + " could not be written: ";
+  if (is_gone) Port().board.show_note({saved, {}});
   if (Lead_To_One_File(path, name)) {
     Port().board.show_note({lacking + "that is where the project stands.", {}});
     return true;

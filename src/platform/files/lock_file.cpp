@@ -8,6 +8,8 @@
 
 #include <array>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/files/paths.h"
@@ -141,9 +143,24 @@ Lock_File::Step Lock_File::Impossible(int error) {
   return Step::Not_Possible;
 }
 
+bool Lock_File::Is_Under(const std::string& path) const {
+  return descriptor_ >= 0 && Is_Under_Its_Name(descriptor_, path);
+}
+
+std::string Lock_File::Present_Path() const {
+  if (descriptor_ < 0 || Is_Under(path_)) return descriptor_ < 0 ? std::string() : path_;
+  // The system follows the folder. Of a file that was made without a name it tells another one.
+  std::error_code error;
+  const std::string link = "/proc/self/fd/" + std::to_string(descriptor_);
+  const std::string now = std::filesystem::read_symlink(link, error).string();
+  if (error) return {};
+  const std::string path = Join_Path(Folder_Of(now), Name_Of(path_));
+  return Is_Under(path) ? path : std::string();
+}
+
 void Lock_File::Release() {
   if (descriptor_ < 0) return;
-  if (Is_Under_Its_Name(descriptor_, path_)) ::unlink(path_.c_str());
+  if (const std::string path = Present_Path(); !path.empty()) ::unlink(path.c_str());
   ::close(std::exchange(descriptor_, -1));
 }
 

@@ -38,11 +38,15 @@ class Lock_File {
   /// Makes the file under that path, after Release. What an ended program of this host left is
   /// taken over. What a running program of this host has is never taken.
   Outcome Take(const std::string& path, Foreign foreign = Foreign::Stays);
-  /// Removes the file if it is still this program's.
+  /// Removes the file if it is still this program's, also from a folder that was renamed since.
   void Release();
 
   bool Is_Held() const { return descriptor_ >= 0; }
   const std::string& Path() const { return path_; }
+  /// Whether the file is held and has this name, whatever its folder was called when it was made.
+  bool Is_Under(const std::string& path) const;
+  /// Where the file is now; "" when it is gone, or not held.
+  std::string Present_Path() const;
   /// Why the last Take was not possible, as an errno value.
   int Error() const { return error_; }
   /// Who had the lock at the last Take; nothing when its file does not say.

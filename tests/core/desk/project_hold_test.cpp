@@ -303,13 +303,202 @@ TEST_F(ProjectHold, Opened_All_The_Same_Is_Held_Once_The_Other_Window_Has_Let_Go
     EXPECT_TRUE(Open_Project(path, *record));
     EXPECT_EQ(messages.shown.size(), 1U);
   }
-  Hold_What_Was_Let_Go_Of();
+  Hold_What_Is_Free();
   EXPECT_FALSE(Is_Mine());
   ::kill(other, SIGKILL);
   ::waitpid(other, nullptr, 0);
   const Scripted_Messages nothing_is_asked;
-  Hold_What_Was_Let_Go_Of();
+  Hold_What_Is_Free();
   EXPECT_TRUE(Is_Mine());
+}
+
+/// The project in a folder of its own, which somebody else renames while it is open.
+struct RenamedFolder : ProjectHold {
+  RenamedFolder() {
+    fs::create_directory(folder / "old");
+    fs::copy_file(path, named);
+    Port().board.show_note = [this](const Status_Note& note) { notes.push_back(note.text); };
+    EXPECT_TRUE(Open_Project(named, *record));
+    fs::rename(folder / "old", folder / "new");
+    record->ProjectTitle = "changed";
+  }
+  ~RenamedFolder() override { Reset_Port(); }
+
+  const std::string named = folder / "old/site.DUI";
+  const std::string renamed = folder / "new/site.DUI";
+  std::vector<std::string> notes;
+};
+
+TEST_F(RenamedFolder, A_Save_Says_Where_It_Is_And_Save_As_Goes_There_Unasked) {
+  {
+    Scripted_Messages messages({Answer::Ok});
+    EXPECT_FALSE(Save_File(named, kProjectKind, *record));
+    EXPECT_EQ(messages.shown.at(0).text, "Can't open file: " + named);
+  }
+  EXPECT_EQ(notes.back(), "site.DUI was not saved: its folder is " + (folder / "new") +
+                              " now. Save As keeps it there.");
+  EXPECT_EQ(record->ProjectFileName, named);
+  EXPECT_FALSE(Exists(folder / "old"));
+  {
+    Scripted_Messages nothing_is_asked;
+    EXPECT_TRUE(Save_File(renamed, kProjectKind, *record));
+  }
+  EXPECT_EQ(Load_Record(renamed).record->ProjectTitle, "changed");
+  EXPECT_EQ(Names_In(folder / "new"),
+            (std::vector<std::string>{".site.DUI.barvon-lock", "site.DUI"}));
+  Release_Project();
+  EXPECT_FALSE(Exists(Lock_Path_Of(renamed)));
+}
+
+TEST_F(RenamedFolder, What_Another_Has_Saved_There_Is_Not_Saved_Over_Unasked) {
+  Write_Text(renamed, Read_Text(renamed) + "another program's line\n");
+  Scripted_Messages messages({Answer::No});
+  EXPECT_FALSE(Save_File(renamed, kProjectKind, *record));
+  EXPECT_EQ(messages.shown.at(0).text, std::string("site.DUI ") + kChanged);
+}
+
+TEST_F(RenamedFolder, The_Mark_Goes_With_The_Program) {
+  EXPECT_TRUE(Exists(Lock_Path_Of(renamed)));
+  Release_Project();
+  EXPECT_FALSE(Exists(Lock_Path_Of(renamed)));
+}
+
+TEST_F(RenamedFolder, Another_Folder_Of_The_Old_Name_Is_Asked_About_And_Gets_The_Mark) {
+  fs::create_directory(folder / "old");
+  Write_Text(named, "another project\n");
+  {
+    Scripted_Messages messages({Answer::No});
+    EXPECT_FALSE(Save_File(named, kProjectKind, *record));
+    EXPECT_EQ(messages.shown.at(0).text, std::string("site.DUI ") + kChanged);
+    EXPECT_EQ(Read_Text(named), "another project\n");
+    EXPECT_FALSE(Exists(Lock_Path_Of(named)));
+    EXPECT_TRUE(Exists(Lock_Path_Of(renamed)));
+  }
+  Scripted_Messages messages({Answer::Yes});
+  EXPECT_TRUE(Save_File(named, kProjectKind, *record));
+  EXPECT_TRUE(Exists(Lock_Path_Of(named)));
+  EXPECT_FALSE(Exists(Lock_Path_Of(renamed)));
+  EXPECT_EQ(Load_Record(renamed).record->ProjectTitle, "first");
+}
+
+TEST_F(RenamedFolder, Another_Folder_Of_The_Old_Name_That_A_Window_Works_In_Is_Told) {
+  fs::create_directory(folder / "old");
+  fs::copy_file(renamed, named);
+  With_Holder(Lock_Path_Of(named), [&](pid_t) {
+    Scripted_Messages messages({Answer::No});
+    EXPECT_FALSE(Save_File(named, kProjectKind, *record));
+    EXPECT_NE(messages.shown.at(0).text.find(kOpened), std::string::npos);
+  });
+}
+
+TEST_F(RenamedFolder, An_Empty_Folder_Of_The_Old_Name_Gets_The_File_And_That_Is_Told) {
+  fs::create_directory(folder / "old");
+  Scripted_Messages nothing_is_asked;
+  EXPECT_TRUE(Save_File(named, kProjectKind, *record));
+  const std::string told =
+      "site.DUI was no longer there: it is written anew, in " + (folder / "old") + ".";
+  EXPECT_EQ(notes.at(1), told);
+  EXPECT_EQ(notes.back().find(told + " Its model input"), 0U) << "a grid without spacing has none";
+  EXPECT_EQ(Load_Record(named).record->ProjectTitle, "changed");
+  EXPECT_EQ(Load_Record(renamed).record->ProjectTitle, "first");
+}
+
+TEST_F(RenamedFolder, One_That_Is_Removed_Is_Told_Too) {
+  fs::remove_all(folder / "new");
+  Scripted_Messages messages({Answer::Ok});
+  EXPECT_FALSE(Save_File(named, kProjectKind, *record));
+  EXPECT_EQ(notes.back(),
+            "site.DUI was not saved: its folder is no longer there. Save As keeps it elsewhere.");
+}
+
+/// A process of its own, made before this one opens anything, whose locks it would share. It acts
+/// once and lives on with its locks until it is killed.
+class Other_Window {
+ public:
+  explicit Other_Window(const std::function<bool()>& act) {
+    EXPECT_EQ(::pipe(go_), 0);
+    EXPECT_EQ(::pipe(done_), 0);
+    process_ = ::fork();
+    if (process_ != 0) return;
+    char byte = 0;
+    if (::read(go_[0], &byte, 1) != 1) ::_exit(1);
+    const char did = act() ? 1 : 0;
+    if (::write(done_[1], &did, 1) == 1) ::pause();
+    ::_exit(1);
+  }
+  ~Other_Window() {
+    ::kill(process_, SIGKILL);
+    ::waitpid(process_, nullptr, 0);
+    for (const int end : {go_[0], go_[1], done_[0], done_[1]}) ::close(end);
+  }
+  Other_Window(const Other_Window&) = delete;
+  Other_Window& operator=(const Other_Window&) = delete;
+
+  bool Acts() {
+    char did = 0;
+    return ::write(go_[1], &did, 1) == 1 && ::read(done_[0], &did, 1) == 1 && did == 1;
+  }
+
+ private:
+  pid_t process_ = -1;
+  int go_[2] = {-1, -1}, done_[2] = {-1, -1};
+};
+
+struct HardLinkMadeLater : ProjectHold {
+  void Open_And_Link() {
+    ASSERT_TRUE(Open_Project(path, *record));
+    fs::create_hard_link(path, hard);
+  }
+  const std::string hard = folder / "hard.DUI";
+};
+
+TEST_F(HardLinkMadeLater, Is_That_Project_At_The_Next_Look) {
+  Other_Window other([&] {
+    Scripted_Messages messages({Answer::No});
+    return !Open_Project(hard, *Fresh_Record()) && messages.shown.size() == 1;
+  });
+  Open_And_Link();
+  Hold_What_Is_Free();
+  EXPECT_TRUE(other.Acts());
+}
+
+TEST_F(HardLinkMadeLater, Opened_Before_The_Next_Look_Is_Asked_About_At_The_Save) {
+  Other_Window other([&] { return Open_Project(hard, *Fresh_Record()); });
+  Open_And_Link();
+  ASSERT_TRUE(other.Acts());
+  Hold_What_Is_Free();
+  Scripted_Messages messages({Answer::No});
+  EXPECT_FALSE(Save_File(path, kProjectKind, *record));
+  EXPECT_NE(messages.shown.at(0).text.find(kOpened), std::string::npos);
+}
+
+TEST_F(HardLinkMadeLater, Saves_Under_Both_Names_Leave_Each_Its_Own) {
+  Other_Window other([&] {
+    const auto theirs = Fresh_Record();
+    if (!Open_Project(hard, *theirs)) return false;
+    theirs->ProjectTitle = "theirs";
+    return Save_File(hard, kProjectKind, *theirs);
+  });
+  Open_And_Link();
+  ASSERT_TRUE(other.Acts());
+  // The save has parted the names: this one's file is as it was opened.
+  Scripted_Messages nothing_is_asked;
+  record->ProjectTitle = "mine";
+  EXPECT_TRUE(Save_File(path, kProjectKind, *record));
+  EXPECT_EQ(Load_Record(path).record->ProjectTitle, "mine");
+  EXPECT_EQ(Load_Record(hard).record->ProjectTitle, "theirs");
+}
+
+TEST_F(HardLinkMadeLater, Is_Free_Once_A_Save_Has_Parted_From_It) {
+  Other_Window other([&] {
+    Scripted_Messages nothing_is_asked;
+    return Open_Project(hard, *Fresh_Record());
+  });
+  Open_And_Link();
+  fs::create_hard_link(path, folder / "third.DUI");
+  Hold_What_Is_Free();
+  ASSERT_TRUE(Save_File(path, kProjectKind, *record));
+  EXPECT_TRUE(other.Acts());
 }
 
 }  // namespace

@@ -174,6 +174,48 @@ TEST_F(Lock, Is_Not_Possible_Where_No_File_Can_Be_Or_A_Link_Has_The_Name) {
 }
 
 // Every round starts with what a killed program left, so that the takers race for taking it over.
+TEST_F(Lock, In_A_Folder_That_Is_Renamed_Is_Still_The_Holders_And_Goes_With_It) {
+  namespace fs = std::filesystem;
+  fs::create_directory(folder / "one");
+  Lock_File lock;
+  ASSERT_EQ(lock.Take(folder / "one/.a"), Outcome::Taken);
+  fs::rename(folder / "one", folder / "two");
+  EXPECT_FALSE(lock.Is_Under(folder / "one/.a"));
+  EXPECT_TRUE(lock.Is_Under(folder / "two/.a"));
+  EXPECT_EQ(lock.Present_Path(), folder / "two/.a");
+  const pid_t other = In_A_Process([&] {
+    Lock_File second;
+    return second.Take(folder / "two/.a") == Outcome::Held ? 0 : 1;
+  });
+  EXPECT_EQ(Result_Of(other), 0);
+  // What has the old name now is somebody else's.
+  fs::create_directory(folder / "one");
+  Write_Text(folder / "one/.a", "x");
+  lock.Release();
+  EXPECT_FALSE(Exists(folder / "two/.a"));
+  EXPECT_EQ(Read_Text(folder / "one/.a"), "x");
+}
+
+TEST_F(Lock, Of_A_Killed_Process_In_A_Renamed_Folder_Is_Taken_Over) {
+  namespace fs = std::filesystem;
+  fs::create_directory(folder / "one");
+  const pid_t holder = Holder_Of(folder / "one/.a");
+  fs::rename(folder / "one", folder / "two");
+  Lock_File lock;
+  EXPECT_EQ(lock.Take(folder / "two/.a"), Outcome::Held);
+  Kill(holder);
+  EXPECT_EQ(lock.Take(folder / "two/.a"), Outcome::Taken);
+}
+
+TEST_F(Lock, That_Somebody_Removed_Has_No_Place) {
+  Lock_File lock;
+  EXPECT_EQ(lock.Present_Path(), "");
+  ASSERT_EQ(lock.Take(path), Outcome::Taken);
+  std::filesystem::remove(path);
+  EXPECT_EQ(lock.Present_Path(), "");
+  EXPECT_FALSE(lock.Is_Under(path));
+}
+
 TEST_F(Lock, Of_Two_Processes_That_Want_It_At_Once_One_Gets_It) {
   Lock_Holder former = This_Program();
   former.start = "1";
