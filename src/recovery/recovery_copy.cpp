@@ -11,7 +11,7 @@
 namespace barvon {
 namespace {
 
-constexpr std::string_view kFirstLine = "BARVON recovery copy 1\n";
+constexpr std::string_view kFirstLine = "BARVON recovery copy 2\n";
 constexpr std::size_t kSumLength = sizeof(std::uint64_t);
 
 bool Is_Kept(const Record_Field& field) { return !Is_Program_State(field); }
@@ -40,6 +40,7 @@ std::string Copy_Bytes(const Recovery_Copy& copy) {
         std::int64_t{copy.dilutions_are_unsaved ? 1 : 0}}) {
     Append_Text(bytes, std::to_string(number));
   }
+  Append_Text(bytes, copy.project);
   Append_Text(bytes, Record_Bytes(*copy.record, Is_Kept));
   return bytes + Sum_Of(bytes);
 }
@@ -58,13 +59,15 @@ std::optional<Recovery_Copy> Read_Copy(std::string_view bytes) {
   const auto size = Whole_Number(reader.Text());
   const auto project = Whole_Number(reader.Text());
   const auto dilutions = Whole_Number(reader.Text());
+  const std::optional<std::string> own = reader.Text();
   const std::optional<std::string> fields = reader.Text();
-  if (!made || !has_file || !changed || !size || !project || !dilutions || !fields ||
+  if (!made || !has_file || !changed || !size || !project || !dilutions || !own || !fields ||
       !reader.Is_At_End()) {
     return std::nullopt;
   }
-  Recovery_Copy copy{Fresh_Record(), static_cast<std::time_t>(*made), std::nullopt, *project != 0,
-                     *dilutions != 0};
+  Recovery_Copy copy{Fresh_Record(),  static_cast<std::time_t>(*made),
+                     std::nullopt,    *project != 0,
+                     *dilutions != 0, *own};
   if (*has_file != 0) copy.file = File_State{*changed, *size};
   if (!Set_Record_Bytes(*fields, *copy.record)) return std::nullopt;
   return copy;

@@ -15,9 +15,12 @@ namespace barvon {
 struct Recovery_Copy {
   std::unique_ptr<ProjectRecord> record;  // without the state of the program
   std::time_t made = 0;
-  std::optional<File_State> file;  // what the project's file was; nothing: there was none
+  std::optional<File_State> file;  // what the project's file was; nothing: not known
   bool project_is_unsaved = false;
   bool dilutions_are_unsaved = false;
+  // The project's own file, "" when it has none. The record has one name for the project and for a
+  // list of dilutions that was opened beside it.
+  std::string project = {};
 };
 
 /// The bytes of a copy, which end in a check sum.

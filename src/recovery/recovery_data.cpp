@@ -26,19 +26,26 @@ namespace {
 
 constexpr char kUnnamed[] = "UNTITLED.DUI";
 
-bool Has_Project_File(const ProjectRecord& record) {
-  return !record.ProjectFileName.empty() &&
-         Last_Three_Letters(record.ProjectFileName) == kProjectLetters;
+/// A list of dilutions that was opened has put its name in the project's place.
+bool Bears_Name_Of_List(const ProjectRecord& record) {
+  return Last_Three_Letters(record.ProjectFileName) == kDilutionLetters;
 }
 
-std::string Name_Of_Project(const ProjectRecord& record) {
-  return record.ProjectFileName.empty() ? kUnnamed : Name_Of(record.ProjectFileName);
+/// The project's file, "" when it has none.
+std::string File_Of(const Recovery_Copy& copy) {
+  if (!copy.project.empty() || Bears_Name_Of_List(*copy.record)) return copy.project;
+  return copy.record->ProjectFileName;
+}
+
+std::string Name_Of_Project(const Recovery_Copy& copy) {
+  const std::string file = File_Of(copy);
+  return file.empty() ? kUnnamed : Name_Of(file);
 }
 
 /// Whether a save of the copy would write the bytes that are on the disk.
 bool Is_On_Disk(const Recovery_Copy& copy) {
-  if (!Has_Project_File(*copy.record) || copy.dilutions_are_unsaved) return false;
-  const std::string path = Path_To_Write(copy.record->ProjectFileName);
+  if (File_Of(copy).empty() || copy.dilutions_are_unsaved) return false;
+  const std::string path = Path_To_Write(File_Of(copy));
   std::string bytes;
   if (Read_Whole_File(path, bytes) != 0) return false;
   const auto record = std::make_unique<ProjectRecord>(*copy.record);
@@ -48,14 +55,11 @@ bool Is_On_Disk(const Recovery_Copy& copy) {
 
 void Compare_With_File(Recovery_Row& row) {
   const ProjectRecord& record = *row.left.copy->record;
-  const std::string& path = record.ProjectFileName;
+  const std::string path = File_Of(*row.left.copy);
   Loaded_Record there;
   row.column = "In the file";
-  if (!Has_Project_File(record)) {
-    // A list of dilutions that was opened beside a project has put its name in the project's place.
-    row.state = record.ProjectFileName.empty()
-                    ? "It has never been saved."
-                    : "Of the project itself no file is known. Save asks for a name.";
+  if (path.empty()) {
+    row.state = "It has never been saved.";
   } else if (!Find_Path(path)) {
     row.state = path + " is no longer there. Save writes it anew.";
   } else if (there = Load_Record(path); there.record == nullptr) {
@@ -64,6 +68,11 @@ void Compare_With_File(Recovery_Row& row) {
     row.state = path + " has been changed since. A save asks before it writes over that.";
   } else {
     row.state = path + " is as it was.";
+  }
+  if (Bears_Name_Of_List(record)) {
+    row.state += " The list of dilutions " + record.ProjectFileName +
+                 " was opened after it and gives the title: Save asks for the project's name" +
+                 (path.empty() ? "." : ", and offers the old one.");
   }
   if (there.record == nullptr) {
     there.record = Fresh_Record();
@@ -80,7 +89,7 @@ Recovery_Row Row_Of(Left_Copy left) {
   Recovery_Row row;
   row.left = std::move(left);
   if (row.left.copy) {
-    row.name = Name_Of_Project(*row.left.copy->record);
+    row.name = Name_Of_Project(*row.left.copy);
     Compare_With_File(row);
   } else {
     row.name = Name_Of(row.left.path);
@@ -90,9 +99,8 @@ Recovery_Row Row_Of(Left_Copy left) {
   return row;
 }
 
-void Show_Status_Lines(const ProjectRecord& record) {
+void Show_Status_Lines(bool from_file, const ProjectRecord& record) {
   // What comes from a file counts as entered; otherwise only what was.
-  const bool from_file = !record.ProjectFileName.empty();
   for (const Screen_Row& row : kScreens) {
     if (!row.status_line || !row.supplied) continue;
     if (!from_file && record.ScreenDataSupplied.at(*row.supplied) == kFalse) continue;
@@ -107,15 +115,16 @@ void Show_Status_Lines(const ProjectRecord& record) {
   Port().board.set_status_line(*kCoefficients.status_line, words.text, words.colour);
 }
 
-void Show_Restored(ProjectRecord& record) {
+void Show_Restored(const Recovery_Copy& copy, ProjectRecord& record) {
   const std::string& path = record.ProjectFileName;
   Port().board.set_caption(path.empty() ? kUntitledCaption : "BARVON - " + path);
-  const bool has_menus = Has_Project_File(record) || record.KEY4 != kNoStudy;
+  const bool has_file = !File_Of(copy).empty();
+  const bool has_menus = has_file || record.KEY4 != kNoStudy;
   if (has_menus && record.FileKind != kDilutionKind) Port().board.open_menus();
   Show_Project(record);
-  Show_Status_Lines(record);
+  Show_Status_Lines(has_file, record);
   Port().board.show_note(
-      {Name_Of_Project(record) + " is restored, with the changes that were not saved.", {}});
+      {Name_Of_Project(copy) + " is restored, with the changes that were not saved.", {}});
   Port().board.show_main_board();
 }
 
@@ -137,15 +146,16 @@ bool Restore_Project(Recovery_Row& row, Recovery_Keeper& keeper, ProjectRecord& 
   if (!row.left.copy) return false;
   const Recovery_Copy& copy = *row.left.copy;
   Project_Claim claim;
-  const bool has_file = Has_Project_File(*copy.record);
-  if (has_file && !claim.To_Open(copy.record->ProjectFileName)) return false;
+  const std::string file = File_Of(copy);
+  const bool has_file = !file.empty();
+  if (has_file && !claim.To_Open(file)) return false;
   if (has_file) {
     claim.Keep(copy.file);
   } else {
     Release_Project();
   }
   Put_Copy(copy, record);
-  Show_Restored(record);
+  Show_Restored(copy, record);
   // A kill in between leaves one of the two, or both.
   if (keeper.Take_Over(copy)) Remove_Left_Copy(row.left);
   return true;

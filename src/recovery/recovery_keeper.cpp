@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "core/desk/workspace_port.h"
 #include "core/record_bytes.h"
@@ -22,8 +23,14 @@ Recovery_Keeper::Recovery_Keeper(const ProjectRecord& record)
       project_(Sum_Of(record, Is_Project_Data)),
       dilutions_(Sum_Of(record, Is_Dilution_Data)) {}
 
-bool Recovery_Keeper::Project_Is_Unsaved() const {
-  return record_.DataSaved == kFalse && Sum_Of(record_, Is_Project_Data) != project_;
+std::unique_ptr<ProjectRecord> Recovery_Keeper::Accepted() const {
+  auto accepted = std::make_unique<ProjectRecord>(record_);
+  Port().wizard.take_back(*accepted);
+  return accepted;
+}
+
+bool Recovery_Keeper::Is_Unsaved(const ProjectRecord& accepted) const {
+  return record_.DataSaved == kFalse && Sum_Of(accepted, Is_Project_Data) != project_;
 }
 
 bool Recovery_Keeper::Dilutions_Are_Unsaved() const {
@@ -32,24 +39,23 @@ bool Recovery_Keeper::Dilutions_Are_Unsaved() const {
 
 void Recovery_Keeper::Look() {
   if (ended_) return;
-  if (Project_Is_Unsaved() || Dilutions_Are_Unsaved()) {
-    Keep();
+  std::unique_ptr<ProjectRecord> accepted = Accepted();
+  if (Is_Unsaved(*accepted) || Dilutions_Are_Unsaved()) {
+    Keep(std::move(accepted));
   } else {
     own_.Remove();
   }
 }
 
-bool Recovery_Keeper::Keep() {
-  // A name that was typed for a save that did not come about is not the file that was opened.
-  const bool is_held = Held_Project() == record_.ProjectFileName;
-  Recovery_Copy copy{std::make_unique<ProjectRecord>(record_), std::time(nullptr),
-                     is_held ? Held_State() : std::nullopt, Project_Is_Unsaved(),
-                     Dilutions_Are_Unsaved()};
+bool Recovery_Keeper::Keep(std::unique_ptr<ProjectRecord> accepted) {
+  const bool is_unsaved = Is_Unsaved(*accepted);
+  Recovery_Copy copy{std::move(accepted), std::time(nullptr),      Held_State(),
+                     is_unsaved,          Dilutions_Are_Unsaved(), Held_Project()};
   Port().dilution.name_project(*copy.record);
   const File_State file = copy.file.value_or(File_State());
   const std::string around = copy.record->ProjectFileName + "\n" + copy.record->BaseFileName +
-                             "\n" + std::to_string(file.changed) + " " + std::to_string(file.size) +
-                             (copy.project_is_unsaved ? "p" : "") +
+                             "\n" + copy.project + "\n" + std::to_string(file.changed) + " " +
+                             std::to_string(file.size) + (copy.project_is_unsaved ? "p" : "") +
                              (copy.dilutions_are_unsaved ? "d" : "");
   const std::uint64_t now = Sum_Of(*copy.record, Is_Project_Data) ^ Check_Sum(around) ^
                             Sum_Of(record_, Is_Dilution_Data) << 1;
@@ -79,7 +85,7 @@ bool Recovery_Keeper::Take_Over(const Recovery_Copy& copy) {
   // A sum that the record does not have.
   project_ = Sum_Of(record_, Is_Project_Data) + (copy.project_is_unsaved ? 1 : 0);
   dilutions_ = Sum_Of(record_, Is_Dilution_Data) + (copy.dilutions_are_unsaved ? 1 : 0);
-  return Keep();
+  return Keep(Accepted());
 }
 
 void Recovery_Keeper::Leave() {

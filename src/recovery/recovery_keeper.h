@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "core/project_record.h"
 #include "recovery/recovery_folder.h"
@@ -32,9 +33,10 @@ class Recovery_Keeper {
   void Leave_Unasked();
 
  private:
-  bool Project_Is_Unsaved() const;
+  std::unique_ptr<ProjectRecord> Accepted() const;
+  bool Is_Unsaved(const ProjectRecord& accepted) const;
   bool Dilutions_Are_Unsaved() const;
-  bool Keep();
+  bool Keep(std::unique_ptr<ProjectRecord> accepted);
 
   const ProjectRecord& record_;
   Own_Copy own_;

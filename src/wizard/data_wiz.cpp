@@ -97,6 +97,7 @@ void Data_Wiz::Connect() {
 void Data_Wiz::Opening() {
   record_.WizardActive = kTrue;
   walk_.emplace(record_);
+  Port().wizard.take_back = [this](ProjectRecord& copy) { Take_Back_Walk(*walk_, copy); };
   Read_Wizard_Help(record_);
   if (record_.WizardHelpOn == kFalse) Close_Help();
   Check2->setChecked(record_.WizardHelpOn == kFalse);
@@ -252,6 +253,7 @@ void Data_Wiz::Show_Commands() {
 void Data_Wiz::Finish() {
   Close_Help();
   ApplyWizardToProject(Entry(), walk_->accepted, record_);
+  Port().wizard.take_back = [](ProjectRecord&) {};
   Remark_On_Time_Step(record_);
   const bool makes_depth_constant = Ask_About_Two_Points(record_);
   Unload();
@@ -265,6 +267,7 @@ void Data_Wiz::Cancel() {
 }
 
 void Data_Wiz::Closed() {
+  Port().wizard.take_back = [](ProjectRecord&) {};
   walk_.reset();
   record_.WizardActive = kFalse;
   Take_Back_Answers();

@@ -1,6 +1,8 @@
 #include "wizard/wizard_apply.h"
 
+#include <cstddef>
 #include <tuple>
+#include <utility>
 
 #include "core/desk/analysis_choices.h"
 #include "core/desk/workspace_port.h"
@@ -41,6 +43,13 @@ auto Boundary_Of(Record& r) {
   return std::tie(r.SiteTop, r.SiteLeft, r.SiteBottom, r.SiteRight, r.ZidFlag);
 }
 
+/// All that the wizard may write on its way.
+template <class Record>
+auto All_Of(Record& r) {
+  return std::tuple_cat(Choices_Of(r), Contaminant_Of(r), Site_Of(r), Vessel_Of(r), Boundary_Of(r),
+                        std::tie(r.VelocityProfileType, r.SimulationDuration));
+}
+
 void Write_Velocity_Type(int form, ProjectRecord& record) {
   if (Form_Of_Type(record.VelocityProfileType) == form) return;  // with its logarithm
   record.VelocityProfileType = Type_Of_Form(static_cast<Velocity_Form>(form));
@@ -51,15 +60,18 @@ void Write_Velocity_Type(int form, ProjectRecord& record) {
 Wizard_Copy::Wizard_Copy(const ProjectRecord& record)
     : former_(std::make_unique<ProjectRecord>(record)) {}
 
-void Wizard_Copy::Bring_Back(ProjectRecord& record) const {
-  const ProjectRecord& former = *former_;
-  Choices_Of(record) = Choices_Of(former);
-  Contaminant_Of(record) = Contaminant_Of(former);
-  Site_Of(record) = Site_Of(former);
-  record.VelocityProfileType = former.VelocityProfileType;
-  record.SimulationDuration = former.SimulationDuration;
-  Vessel_Of(record) = Vessel_Of(former);
-  Boundary_Of(record) = Boundary_Of(former);
+void Wizard_Copy::Bring_Back(ProjectRecord& record) const { All_Of(record) = All_Of(*former_); }
+
+void Wizard_Copy::Bring_Back_What_Stands(const ProjectRecord& left, ProjectRecord& record) const {
+  const auto was_left = All_Of(left), former = All_Of(std::as_const(*former_));
+  const auto now = All_Of(record);
+  const auto bring_back = [&]<std::size_t... i>(std::index_sequence<i...>) {
+    const auto one = [](auto& value, const auto& before, const auto& at_start) {
+      if (value == before) value = at_start;
+    };
+    (one(std::get<i>(now), std::get<i>(was_left), std::get<i>(former)), ...);
+  };
+  bring_back(std::make_index_sequence<std::tuple_size_v<decltype(now)>>());
 }
 
 void Wizard_Copy::Bring_Back_Contaminant(ProjectRecord& record) const {

@@ -24,6 +24,9 @@ class Wizard_Copy {
 
   /// OK of the screen: what it accepted is not to come back as it was before.
   void Keep_Accepted(const Screen_Row& screen, const ProjectRecord& record);
+  /// Brings back what still is as the wizard has left it: what somebody else has changed since is
+  /// not the wizard's.
+  void Bring_Back_What_Stands(const ProjectRecord& left, ProjectRecord& record) const;
 
  private:
   std::unique_ptr<ProjectRecord> former_;

@@ -64,7 +64,9 @@ bool Lead_To(
   Write_Choices(entry, record);
   prepare();
   const Acceptance acceptance(screen);
+  walk.leads = true;
   Open_Screen_Or_Tell(screen, true);
+  walk.leads = false;
   record.WizardActive = kTrue;
   if (!acceptance.Is_There()) {
     before.Bring_Back(record);
@@ -72,6 +74,7 @@ bool Lead_To(
     return false;
   }
   walk.copy.Keep_Accepted(screen, record);
+  walk.left = std::make_unique<ProjectRecord>(record);
   return true;
 }
 
@@ -209,6 +212,14 @@ void Open_Graphical_Page(const Wizard_Entry& entry, Wizard_Walk& walk, ProjectRe
 void Call_Off_Walk(const Wizard_Walk& walk, ProjectRecord& record) {
   walk.copy.Bring_Back(record);
   Port().board.display_data();
+}
+
+void Take_Back_Walk(const Wizard_Walk& walk, ProjectRecord& copy) {
+  if (walk.leads) {
+    walk.copy.Bring_Back(copy);
+  } else if (walk.left) {
+    walk.copy.Bring_Back_What_Stands(*walk.left, copy);
+  }
 }
 
 std::string Grid_Text(const Wizard_Entry& entry) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "core/project_record.h"
@@ -34,6 +35,8 @@ struct Wizard_Walk {
   Wizard_Copy copy;  // for Cancel
   Wizard_Placing placing;
   Accepted_Data accepted;
+  bool leads = false;                   // to a screen that is open and blocks
+  std::unique_ptr<ProjectRecord> left;  // the record behind the last one; nothing before it
 };
 
 /// Next leaves the page: what is asked and done, and the screen that opens behind it. It opens
@@ -46,6 +49,10 @@ void Open_Graphical_Page(const Wizard_Entry& entry, Wizard_Walk& walk, ProjectRe
 
 /// "Cancel": all is as it was when the wizard opened, but for what screens have accepted since.
 void Call_Off_Walk(const Wizard_Walk& walk, ProjectRecord& record);
+
+/// Takes out of a copy of the record what the walk has put there for its screens, and they have not
+/// accepted.
+void Take_Back_Walk(const Wizard_Walk& walk, ProjectRecord& copy);
 
 /// Text4(3), the grid as the type of analysis sees it.
 std::string Grid_Text(const Wizard_Entry& entry);

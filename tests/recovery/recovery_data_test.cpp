@@ -6,12 +6,14 @@
 #include <filesystem>
 #include <memory>
 
+#include "core/desk/file_dialogs.h"
 #include "core/desk/load_record.h"
 #include "core/desk/open_file.h"
 #include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
 #include "dilution/dilution_file.h"
+#include "platform/ask/file_dialog.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -229,14 +231,90 @@ TEST_F(RecoveryData, A_Name_That_Was_Typed_For_A_Save_That_Did_Not_Come_About_Is
   EXPECT_EQ(Read_Text(path), before);
 }
 
-TEST_F(RecoveryData, A_List_Of_Dilutions_Beside_A_Project_Is_Not_Taken_For_A_New_Project) {
+TEST_F(RecoveryData, A_List_Of_Dilutions_Beside_A_Project_Leaves_The_Project_Its_File) {
+  const std::string list = scratch / "l.DUD";
   Crash([&](ProjectRecord& record) {
-    record.ProjectTitle = "typed";
+    record.ProjectTitle = "of the list";
+    record.ProjectFileName = list;
+  });
+  auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].name, "site.DUI");
+  EXPECT_EQ(rows[0].state, path + " is as it was. The list of dilutions " + list +
+                               " was opened after it and gives the title: Save asks for the "
+                               "project's name, and offers the old one.");
+  EXPECT_EQ(rows[0].column, "In the file");
+  ASSERT_EQ(rows[0].differences.size(), 1U);
+  EXPECT_EQ(rows[0].differences[0].other, "of the list");
+
+  const auto record = Fresh_Record();
+  Recovery_Keeper keeper(*record);
+  ASSERT_TRUE(Restore_Project(rows[0], keeper, *record));
+  EXPECT_EQ(record->ProjectFileName, list);
+  EXPECT_EQ(Held_Project(), path);
+  EXPECT_TRUE(Exists(Lock_Path_Of(path)));
+  // The dialog offers the project's own file, and what another has saved there is asked about.
+  std::string offered;
+  const auto former = Set_File_Dialog_Presenter({nullptr,
+                                                 [&](const File_Request& request) {
+                                                   offered = request.name;
+                                                   return std::optional(request.name);
+                                                 },
+                                                 nullptr});
+  EXPECT_EQ(Ask_Name_To_Save(*record), path);
+  Set_File_Dialog_Presenter(former);
+  EXPECT_EQ(offered, path);
+  Write_Text(path, Read_Text(path) + "another program's line\n");
+  Scripted_Messages messages({Answer::No});
+  EXPECT_FALSE(Save_File(path, kProjectKind, *record));
+  EXPECT_NE(messages.shown.at(0).text.find("has been changed on the disk"), std::string::npos);
+}
+
+TEST_F(RecoveryData, A_List_Of_Dilutions_Without_A_Project_Is_Told_As_That) {
+  const std::string list = scratch / "l.DUD";
+  Crash([&](ProjectRecord& record) { record.ProjectFileName = list; }, false);
+  Crash(
+      [&](ProjectRecord& record) {
+        record.ProjectFileName = list;
+        record.DEPC0 = 17;
+      },
+      false);
+  const auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].name, "UNTITLED.DUI");
+  EXPECT_EQ(rows[0].state, "It has never been saved. The list of dilutions " + list +
+                               " was opened after it and gives the title: Save asks for the "
+                               "project's name.");
+}
+
+TEST_F(RecoveryData, The_Open_Calculators_List_Does_Not_Stand_In_For_The_Projects_File) {
+  Port().dilution.name_project = [&](ProjectRecord& copy) {
+    copy.ProjectFileName = path;
+    copy.ProjectTitle = "of the project";
+  };
+  Crash([&](ProjectRecord& record) {
+    record.ProjectTitle = "of the list";
     record.ProjectFileName = scratch / "l.DUD";
+    record.DEPC0 = 17;
   });
   const auto rows = Recovery_Rows();
   ASSERT_EQ(rows.size(), 1U);
-  EXPECT_EQ(rows[0].state, "Of the project itself no file is known. Save asks for a name.");
+  EXPECT_EQ(rows[0].state, path + " is as it was.");
+}
+
+TEST_F(RecoveryData, What_An_Open_Wizard_Has_Put_Into_The_Record_Is_No_Change) {
+  const std::int16_t points = Load_Record(path).record->NMAX0;
+  Port().wizard.take_back = [points](ProjectRecord& copy) { copy.NMAX0 = points; };
+  Crash([](ProjectRecord& record) { record.NMAX0 = 65; });
+  EXPECT_TRUE(Recovery_Rows().empty());
+  Crash([](ProjectRecord& record) {
+    record.NMAX0 = 65;
+    record.ProjectTitle = "accepted before";
+  });
+  const auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].left.copy->record->NMAX0, points);
+  EXPECT_EQ(rows[0].left.copy->record->ProjectTitle, "accepted before");
 }
 
 }  // namespace

@@ -338,6 +338,52 @@ TEST_F(WizardSteps, Cancel_Brings_Everything_Back_But_What_Screens_Accepted) {
   EXPECT_EQ(record_.KEY4, before->KEY4);
 }
 
+/// What a copy of the record would be, were the program to end now.
+struct Kept {
+  explicit Kept(const Wizard_Walk& walk, const ProjectRecord& record)
+      : copy(std::make_unique<ProjectRecord>(record)) {
+    Take_Back_Walk(walk, *copy);
+  }
+  ProjectRecord* operator->() const { return copy.get(); }
+  std::unique_ptr<ProjectRecord> copy;
+};
+
+TEST_F(WizardSteps, What_No_Screen_Has_Accepted_Is_Taken_Out_Of_A_Copy) {
+  entry.analysis = 1;
+  const auto looks_untouched = [&] {
+    const Kept kept(*walk, record_);
+    Names changed = Differing_Fields(*before, *kept.copy);
+    EXPECT_EQ(changed, Names{});
+  };
+  looks_untouched();
+  screens.acts["frmDescription"] = [&] {
+    EXPECT_EQ(record_.NMAX0, 65);
+    looks_untouched();
+    record_.DEPC0 = 71;  // OK stores it
+  };
+  Leave_Site(Answer::Yes);
+  const Kept kept(*walk, record_);
+  EXPECT_EQ(kept->NMAX0, 65);
+  EXPECT_EQ(kept->DEPC0, 71);
+  EXPECT_EQ(kept->AnalysisType, before->AnalysisType);
+  EXPECT_EQ(kept->KEY4, before->KEY4);
+  EXPECT_NE(record_.KEY4, before->KEY4);
+}
+
+TEST_F(WizardSteps, What_Somebody_Else_Has_Changed_Meanwhile_Stays_In_A_Copy) {
+  entry.analysis = 1;
+  screens.accepts = false;
+  Leave_Site(Answer::Yes);
+  record_.NMAX0 = 30;  // from the database
+  EXPECT_EQ(Kept(*walk, record_)->NMAX0, 30) << "the walk has left nothing yet";
+  screens.accepts = true;
+  Leave(kVelocityPage);
+  record_.SiteTop = 900;
+  const Kept kept(*walk, record_);
+  EXPECT_EQ(kept->SiteTop, 900);
+  EXPECT_EQ(kept->KEY4, before->KEY4);
+}
+
 TEST_F(WizardSteps, Variable_Depth_Accepted_On_The_Way_Keeps_The_Velocity_That_It_Displaced) {
   record_.VelocityProfileType = kTwoPointVelocity;
   Begin();

@@ -100,6 +100,8 @@ struct Report_Port {
 struct Wizard_Port {
   /// OK of a screen has stored what was entered.
   std::function<void(const Screen_Row& screen)> screen_accepted = [](const Screen_Row&) {};
+  /// Takes out of a copy of the record what the open wizard has put there and nobody has accepted.
+  std::function<void(ProjectRecord& copy)> take_back = [](ProjectRecord&) {};
 };
 
 /// The dilution calculator.
