@@ -25,6 +25,7 @@
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
+#include "platform/process/stray_processes.h"
 #include "run/scratch_names.h"
 #include "run/solver_table.h"
 
@@ -174,6 +175,8 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
     report.stage = Run_Stage::Refused;
     return;
   }
+  // What a killed program's solver has left running would write its files over this run's.
+  if (!Matching_Files(folder, kMarkerFile).empty()) Kill_Strays_In(folder);
   const std::string project = record.ProjectFileName;
   const std::string base_name = record.BaseFileName;
   Remove_Scratch_Files(project);

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <filesystem>
 
 #include "core/desk/file_dialogs.h"
@@ -211,6 +214,46 @@ TEST_F(RunDriver, What_A_Project_Is_Opened_By_And_Leads_To_Survives_Its_Run) {
   Run();
   EXPECT_EQ(Read_Text(bench / "Tmpfile.DUI"), "as saved");
   EXPECT_FALSE(fs::is_symlink(bench / "tmpfile.duo"));
+}
+
+/// A process in the folder that a program started, which the mark names; it does nothing.
+pid_t Left_Solver(const std::string& folder, pid_t starter) {
+  const std::string mark = "BARVON_CHILD=" + std::to_string(starter) + ".1.1";
+  const pid_t process = ::fork();
+  if (process != 0) return process;
+  const char* const command[] = {"/bin/sleep", "600", nullptr};
+  const char* const environment[] = {mark.c_str(), nullptr};
+  if (::chdir(folder.c_str()) == 0) {
+    ::execve(command[0], const_cast<char* const*>(command), const_cast<char* const*>(environment));
+  }
+  ::_exit(1);
+}
+
+/// The number of a process that is no more.
+pid_t Ended_Process() {
+  const pid_t process = ::fork();
+  if (process == 0) ::_exit(0);
+  ::waitpid(process, nullptr, 0);
+  return process;
+}
+
+TEST_F(RunDriver, What_A_Killed_Programs_Solver_Left_Running_Is_Ended_Before_The_Next_Run) {
+  Install(kWritesAll);
+  Write_Text(bench / "KOLBREE.TMP", "of the run that was killed");
+  const pid_t stray = Left_Solver(bench.folder.path(), Ended_Process());
+  const pid_t others = Left_Solver(bench.folder.path(), ::getppid());
+  const auto runs = [](pid_t process) {
+    return fs::read_symlink("/proc/" + std::to_string(process) + "/exe").filename() == "sleep";
+  };
+  // Until then they have not their marks yet.
+  ASSERT_TRUE(Comes_True([&] { return runs(stray) && runs(others); }));
+  EXPECT_EQ(Run().stage, Run_Stage::Ended);
+  int status = 0;
+  EXPECT_EQ(::waitpid(stray, &status, 0), stray);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_TRUE(Is_Alive(others)) << "its starter lives";
+  ::kill(others, SIGKILL);
+  ::waitpid(others, nullptr, 0);
 }
 
 TEST_F(RunDriver, Scratch_Files_Are_Deleted_In_The_Current_Directory_Only) {

@@ -3,6 +3,8 @@
 #include <signal.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -15,11 +17,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool Carries_Any_Mark(const fs::path& process) {
+/// The process that has started this one's family, which the mark begins with; 0 without a mark.
+pid_t Starter_Of(const fs::path& process) {
   std::string environment;
-  if (Read_Whole_File((process / "environ").string(), environment) != 0) return false;
+  if (Read_Whole_File((process / "environ").string(), environment) != 0) return 0;
   const std::string entry = std::string(kFamilyMark) + "=";
-  return environment.starts_with(entry) || environment.find('\0' + entry) != std::string::npos;
+  const auto inside = environment.find('\0' + entry);
+  if (!environment.starts_with(entry) && inside == std::string::npos) return 0;
+  const auto at = environment.starts_with(entry) ? 0 : inside + 1;
+  return static_cast<pid_t>(std::strtol(environment.c_str() + at + entry.size(), nullptr, 10));
+}
+
+bool Is_Stray(const fs::path& process) {
+  const pid_t starter = Starter_Of(process);
+  if (starter <= 0) return false;
+  return starter == ::getpid() || (::kill(starter, 0) != 0 && errno == ESRCH);
 }
 
 bool Works_In(const fs::path& process, const std::string& folder) {
@@ -39,7 +51,7 @@ void Kill_Strays_In(const std::string& folder) {
     const std::string number = entry->path().filename().string();
     if (number.size() > 9 || number.find_first_not_of("0123456789") != std::string::npos) continue;
     const auto pid = static_cast<pid_t>(std::stol(number));
-    if (pid != ::getpid() && Works_In(entry->path(), real) && Carries_Any_Mark(entry->path())) {
+    if (pid != ::getpid() && Works_In(entry->path(), real) && Is_Stray(entry->path())) {
       ::kill(pid, SIGKILL);
     }
   }
