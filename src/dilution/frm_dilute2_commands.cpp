@@ -4,6 +4,7 @@
 #include "core/desk/file_dialogs.h"
 #include "core/desk/file_kinds.h"
 #include "core/desk/open_file.h"
+#include "core/desk/project_hold.h"
 #include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
@@ -24,6 +25,11 @@ constexpr Cell_Range kNumberCells{1, kConcentrationColumn, kMaxDilutionRows, kLa
 
 bool Is_Project_Name(const std::string& path) {
   return Last_Three_Letters(path) == kProjectLetters;
+}
+
+/// A save of the project beside the open calculator has taken the name back from the list.
+bool Has_Project_Name(const ProjectRecord& record) {
+  return !Held_Project().empty() && record.ProjectFileName == Held_Project();
 }
 
 }  // namespace
@@ -147,14 +153,15 @@ bool frmDilute2::Leave() {
 
 void frmDilute2::Give_Project_Back() {
   if (!project_is_changed_) return;
+  const bool is_saved_since = Has_Project_Name(record_);
   Name_Project(record_);
   project_is_changed_ = false;
-  Port().board.set_caption(project_.caption);
+  if (!is_saved_since) Port().board.set_caption(project_.caption);
 }
 
 void frmDilute2::Name_Project(ProjectRecord& record) const {
   if (!project_is_changed_) return;
-  record.ProjectFileName = project_.file;
+  if (!Has_Project_Name(record)) record.ProjectFileName = project_.file;
   record.ProjectTitle = project_.title;
 }
 

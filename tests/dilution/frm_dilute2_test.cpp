@@ -10,6 +10,8 @@
 #include <memory>
 
 #include "core/desk/file_kinds.h"
+#include "core/desk/project_hold.h"
+#include "core/desk/save_file.h"
 #include "core/desk/screen_register.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
@@ -611,6 +613,20 @@ TEST_F(DiluteScreen, Another_Project_Closes_It_And_Keeps_Its_Own_Name) {
   EXPECT_EQ(Screen(), nullptr);
   EXPECT_EQ(record.ProjectFileName, sample);
   EXPECT_EQ(Port().board.caption(), "BARVON - " + sample);
+}
+
+TEST_F(DiluteScreen, A_Project_That_Is_Saved_Meanwhile_Keeps_The_Name_It_Was_Given) {
+  Scripted_Messages messages;
+  Enter_Two();
+  Save_List("list.DUD");
+  const std::string path = bench.folder / "other.DUI";
+  EXPECT_TRUE(barvon::Save_File(path, kProjectKind, record));
+  Click(Button(1));
+  EXPECT_EQ(Screen(), nullptr);
+  EXPECT_EQ(record.ProjectFileName, path);
+  EXPECT_EQ(Port().board.caption(), "BARVON - " + path);
+  EXPECT_EQ(record.ProjectTitle, "My project");
+  Release_Project();
 }
 
 TEST_F(DiluteScreen, A_New_Project_Is_Not_Given_The_Name_Of_The_Former) {
