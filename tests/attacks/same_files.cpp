@@ -33,7 +33,7 @@ bool Is_Whole_Pdf(const std::string& bytes) {
 
 bool Is_Same_Copy(const std::string& seen, const std::string& wanted) {
   const std::optional<Recovery_Copy> here = Read_Copy(seen), there = Read_Copy(wanted);
-  return here && there &&
+  return here && there && here->project == there->project &&
          Record_Bytes(*here->record, Is_Any) == Record_Bytes(*there->record, Is_Any);
 }
 

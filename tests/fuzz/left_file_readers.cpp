@@ -37,10 +37,11 @@ std::string With_Sum(std::string_view bytes) {
 }
 
 std::string Short_Copy(const ProjectRecord& record) {
-  std::string bytes = "BARVON recovery copy 1\n";
+  std::string bytes = "BARVON recovery copy 2\n";
   for (const char* number : {"1795338000", "1", "1795337000123456789", "-1", "1", "0"}) {
     Append_Text(bytes, number);
   }
+  Append_Text(bytes, "/data/site.DUI");
   Append_Text(bytes, Record_Bytes(record, Is_Short));
   return With_Sum(bytes + "01234567");
 }
@@ -57,7 +58,7 @@ std::vector<std::string> Short_Copies() {
 
 std::vector<std::string> Copies() {
   std::vector<std::string> copies = Short_Copies();
-  Recovery_Copy copy{Fresh_Record(), 1'795'338'000, std::nullopt, true, false};
+  Recovery_Copy copy{Fresh_Record(), 1'795'338'000, std::nullopt, true, false, "/data/site.DUI"};
   copies.push_back(Copy_Bytes(copy));
   return copies;
 }

@@ -654,6 +654,28 @@ TEST_F(DataWizard, A_Two_Point_Profile_Over_Varying_Depths_Leads_To_The_Site) {
   EXPECT_EQ(screens.opened, Names{"frmDescription"});
 }
 
+TEST_F(DataWizard, A_Copy_Of_The_Record_Has_Its_Choices_Once_It_Is_Finished) {
+  const auto kept_key4 = [this] {
+    const auto copy = std::make_unique<ProjectRecord>(record);
+    Port().wizard.take_back(*copy);
+    return copy->KEY4;
+  };
+  const std::int16_t former = record.KEY4;
+  Open();
+  Choose("SSOption2(1)");
+  std::int16_t while_screen_is_open = 99;
+  screens.acts["frmDescription"] = [&] { while_screen_is_open = kept_key4(); };
+  Go_To(7);
+  EXPECT_EQ(while_screen_is_open, former);
+  EXPECT_EQ(kept_key4(), former);
+  EXPECT_NE(record.KEY4, former) << "a Section 103 analysis";
+  Next();
+  Scripted_Messages messages;
+  Click(Command(2));
+  EXPECT_EQ(Wizard(), nullptr);
+  EXPECT_EQ(kept_key4(), record.KEY4);
+}
+
 TEST_F(DataWizard, Return_Goes_On_From_A_Field) {
   Open();
   QTest::keyClick(Child<QLineEdit>("Text1"), Qt::Key_Return);
