@@ -1,6 +1,8 @@
 #include "platform/files/folder_names.h"
 
 #include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <utility>
 
@@ -8,11 +10,26 @@ namespace barvon {
 
 std::vector<std::string> Names_In_Folder(const std::string& folder) {
   std::vector<std::string> names;
-  DIR* const open = ::opendir(folder.c_str());
-  if (open == nullptr) return names;
+  for (Folder_Name& entry : Read_Folder(folder)) names.push_back(std::move(entry.name));
+  return names;
+}
+
+std::vector<Folder_Name> Read_Folder(const std::string& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  return descriptor < 0 ? std::vector<Folder_Name>() : Read_Open_Folder(descriptor);
+}
+
+std::vector<Folder_Name> Read_Open_Folder(int descriptor) {
+  std::vector<Folder_Name> names;
+  DIR* const open = ::fdopendir(descriptor);
+  if (open == nullptr) {
+    ::close(descriptor);
+    return names;
+  }
   while (const dirent* entry = ::readdir(open)) {
     std::string name = entry->d_name;
-    if (name != "." && name != "..") names.push_back(std::move(name));
+    if (name == "." || name == "..") continue;
+    names.push_back({std::move(name), entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN});
   }
   ::closedir(open);
   return names;
