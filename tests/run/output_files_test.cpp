@@ -4,7 +4,10 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
+#include "platform/files/local_files.h"
+#include "support/disk_calls.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -116,6 +119,27 @@ TEST_F(OutputFiles, A_Project_Of_The_Scratch_Name_Keeps_Its_Output_In_Place) {
   const auto kept = outputs.Keep(app + "/tmpfile", folders);
   EXPECT_EQ(kept[0].path, app + "/tmpfile.duo");
   EXPECT_EQ(Read_Text(app + "/tmpfile.duo"), "o");
+}
+
+TEST_F(OutputFiles, Of_Many_Runs_In_A_Folder_Not_Each_Reads_Its_Names) {
+  if (!Is_On_Local_Files(folder.path())) GTEST_SKIP() << "the system does not tell of all changes";
+  const Output_Files outputs(app);
+  for (const char* extension : kOutputExtensions) New(std::string("tmpfile") + extension, "new");
+  const auto calls_of_a_run = [&](int run) {
+    const Disk_Calls calls;
+    outputs.Keep(base + std::to_string(run), folders);
+    return std::pair(calls.Readings(), calls.Questions());
+  };
+  // Four looks beside the project, and four for the solver's names in its own folder.
+  EXPECT_EQ(calls_of_a_run(0).first, 8);
+  for (int run = 1; run < 20; ++run) calls_of_a_run(run);
+  const auto [readings, questions] = calls_of_a_run(20);
+  EXPECT_EQ(readings, 4);
+  for (int run = 21; run < 60; ++run) {
+    EXPECT_EQ(calls_of_a_run(run), std::pair(readings, questions)) << run;
+  }
+  Write_Text(folder / "bay/SITE60.DUO", "older, put there meanwhile");
+  EXPECT_EQ(outputs.Keep(base + "60", folders)[0].path, folder / "bay/SITE60.DUO");
 }
 
 TEST_F(OutputFiles, A_Large_Output_Is_Copied_Byte_For_Byte) {
