@@ -85,12 +85,12 @@ bool Project_Guard::Leads_To_A_Project(const std::string& file) const {
   if (projects_.size() <= kFewProjects || !has_one_name) return One_Leads_To(projects_, status);
   // Its one name is no project's: only a project that is a link can lead to it.
   if (One_Leads_To(oddly_named_, status)) return true;
-  return std::ranges::any_of(by_folder_, [&](const auto& projects) {
-    const auto& [folder, names] = projects;
-    return std::ranges::any_of(folders_.Links(folder), [&](const std::string& link) {
-      return names.contains(link) && Leads_To(Join_Path(folder, link), status);
-    });
-  });
+  for (const auto& [folder, names] : by_folder_) {
+    for (const std::string& link : folders_.Links(folder)) {
+      if (names.contains(link) && Leads_To(Join_Path(folder, link), status)) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace barvon

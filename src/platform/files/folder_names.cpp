@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace barvon {
@@ -15,24 +16,29 @@ std::vector<std::string> Names_In_Folder(const std::string& folder) {
 }
 
 std::vector<Folder_Name> Read_Folder(const std::string& folder) {
+  std::vector<Folder_Name> names;
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  return descriptor < 0 ? std::vector<Folder_Name>() : Read_Open_Folder(descriptor);
+  if (descriptor >= 0) Read_Open_Folder(descriptor, names);  // what can't be read is not there
+  return names;
 }
 
-std::vector<Folder_Name> Read_Open_Folder(int descriptor) {
-  std::vector<Folder_Name> names;
+int Read_Open_Folder(int descriptor, std::vector<Folder_Name>& names) {
   DIR* const open = ::fdopendir(descriptor);
   if (open == nullptr) {
+    const int error = errno;
     ::close(descriptor);
-    return names;
+    return error;
   }
+  errno = 0;  // by which alone the end and a failure differ
   while (const dirent* entry = ::readdir(open)) {
     std::string name = entry->d_name;
     if (name == "." || name == "..") continue;
     names.push_back({std::move(name), entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN});
+    errno = 0;
   }
+  const int error = errno;
   ::closedir(open);
-  return names;
+  return error;
 }
 
 }  // namespace barvon

@@ -17,7 +17,8 @@ std::vector<std::string> Names_In_Folder(const std::string& folder);
 
 /// The same with what the folder itself knows of each.
 std::vector<Folder_Name> Read_Folder(const std::string& folder);
-/// Of a folder that has just been opened for reading; closes it.
-std::vector<Folder_Name> Read_Open_Folder(int descriptor);
+/// Of a folder that has just been opened for reading; closes it. 0, or an errno value when some of
+/// the names could not be read.
+int Read_Open_Folder(int descriptor, std::vector<Folder_Name>& names);
 
 }  // namespace barvon

@@ -112,9 +112,14 @@ Known_Folders::Folder* Known_Folders::Watch(const std::string& path) {
     ::close(descriptor);
     return nullptr;
   }
+  std::vector<Folder_Name> entries;
+  if (Read_Open_Folder(descriptor, entries) != 0) {
+    ::inotify_rm_watch(changes_, watch);
+    return nullptr;
+  }
   Folder& folder = watched_[{status.st_dev, status.st_ino}];
   folder = {watch, {}, {}, {}};
-  for (const Folder_Name& entry : Read_Open_Folder(descriptor)) {
+  for (const Folder_Name& entry : entries) {
     folder.names[Folded_Name(entry.name)].insert(entry.name);
     if (entry.may_be_link) folder.links.insert(entry.name);
   }
