@@ -82,15 +82,23 @@ bool Project_Guard::Leads_To_A_Project(const std::string& file) const {
   if (::stat(file.c_str(), &status) != 0) return false;
   const bool has_one_name =
       S_ISREG(status.st_mode) && status.st_nlink == 1 && Is_On_Local_Files(file);
-  if (projects_.size() <= kFewProjects || !has_one_name) return One_Leads_To(projects_, status);
-  // Its one name is no project's: only a project that is a link can lead to it.
-  if (One_Leads_To(oddly_named_, status)) return true;
-  for (const auto& [folder, names] : by_folder_) {
-    for (const std::string& link : folders_.Links(folder)) {
-      if (names.contains(link) && Leads_To(Join_Path(folder, link), status)) return true;
-    }
-  }
-  return false;
+  return has_one_name ? A_Link_Leads_To(status) : One_Leads_To(projects_, status);
+}
+
+/// For a file whose one name is no project's: a project that leads to it is a link.
+bool Project_Guard::A_Link_Leads_To(const struct stat& file) const {
+  if (One_Leads_To(oddly_named_, file)) return true;
+  return std::ranges::any_of(by_folder_, [&](const auto& projects) {
+    const std::string& folder = projects.first;
+    const std::set<std::string>& names = projects.second;
+    const auto leads = [&](const std::string& name) {
+      return Leads_To(Join_Path(folder, name), file);
+    };
+    const auto links = names.size() > kFewProjects ? folders_.Links(folder) : std::nullopt;
+    if (!links) return std::ranges::any_of(names, leads);
+    return std::ranges::any_of(
+        *links, [&](const std::string& link) { return names.contains(link) && leads(link); });
+  });
 }
 
 }  // namespace barvon

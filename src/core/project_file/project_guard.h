@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <cstddef>
 #include <map>
 #include <set>
@@ -19,7 +21,7 @@ bool Leads_To_A_Project(const std::string& target, const std::vector<std::string
 /// projects of a folder.
 class Project_Guard {
  public:
-  /// So many are asked for each file, as long as there are no more.
+  /// So many of a folder are asked for each file, as long as there are no more.
   static constexpr std::size_t kFewProjects = 16;
 
   /// `folders` lives as long as this.
@@ -28,6 +30,8 @@ class Project_Guard {
   bool Leads_To_A_Project(const std::string& file) const;
 
  private:
+  bool A_Link_Leads_To(const struct stat& file) const;
+
   std::vector<std::string> projects_;
   std::vector<std::string> oddly_named_;                    // those of them that don't end in .DUI
   std::map<std::string, std::set<std::string>> by_folder_;  // the names of the others

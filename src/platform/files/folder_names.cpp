@@ -10,16 +10,16 @@
 namespace barvon {
 
 std::vector<std::string> Names_In_Folder(const std::string& folder) {
+  std::vector<Folder_Name> entries;
+  Read_Folder(folder, entries);
   std::vector<std::string> names;
-  for (Folder_Name& entry : Read_Folder(folder)) names.push_back(std::move(entry.name));
+  for (Folder_Name& entry : entries) names.push_back(std::move(entry.name));
   return names;
 }
 
-std::vector<Folder_Name> Read_Folder(const std::string& folder) {
-  std::vector<Folder_Name> names;
+int Read_Folder(const std::string& folder, std::vector<Folder_Name>& names) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor >= 0) Read_Open_Folder(descriptor, names);  // what can't be read is not there
-  return names;
+  return descriptor < 0 ? errno : Read_Open_Folder(descriptor, names);
 }
 
 int Read_Open_Folder(int descriptor, std::vector<Folder_Name>& names) {

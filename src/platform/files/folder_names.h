@@ -15,10 +15,10 @@ struct Folder_Name {
 /// bears them. None when the folder can't be read.
 std::vector<std::string> Names_In_Folder(const std::string& folder);
 
-/// The same with what the folder itself knows of each.
-std::vector<Folder_Name> Read_Folder(const std::string& folder);
-/// Of a folder that has just been opened for reading; closes it. 0, or an errno value when some of
-/// the names could not be read.
+/// Adds the same with what the folder itself knows of each. 0, or an errno value when not all of
+/// them could be read.
+int Read_Folder(const std::string& folder, std::vector<Folder_Name>& names);
+/// Of a folder that has just been opened for reading; closes it.
 int Read_Open_Folder(int descriptor, std::vector<Folder_Name>& names);
 
 }  // namespace barvon

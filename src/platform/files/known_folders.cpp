@@ -53,23 +53,27 @@ std::vector<std::string> Known_Folders::Alike(const std::string& folder, std::st
     if (alike == known->names.end()) return {};
     return {alike->second.begin(), alike->second.end()};
   }
+  std::vector<Folder_Name> entries;
+  Read_Folder(folder, entries);
   std::vector<std::string> found;
-  for (Folder_Name& entry : Read_Folder(folder)) {
+  for (Folder_Name& entry : entries) {
     if (entry.name.size() != folded.size() || Folded_Name(entry.name) != folded) continue;
     found.push_back(std::move(entry.name));
   }
   return found;
 }
 
-std::vector<std::string> Known_Folders::Links(const std::string& folder) {
+std::optional<std::vector<std::string>> Known_Folders::Links(const std::string& folder) {
   if (Folder* const known = Known(folder)) {
     for (const std::string& name : std::exchange(known->unseen, {})) {
       if (Is_Link(Join_Path(folder, name))) known->links.insert(name);
     }
-    return {known->links.begin(), known->links.end()};
+    return std::vector<std::string>(known->links.begin(), known->links.end());
   }
+  std::vector<Folder_Name> entries;
+  if (Read_Folder(folder, entries) != 0) return std::nullopt;
   std::vector<std::string> found;
-  for (Folder_Name& entry : Read_Folder(folder)) {
+  for (Folder_Name& entry : entries) {
     if (entry.may_be_link) found.push_back(std::move(entry.name));
   }
   return found;

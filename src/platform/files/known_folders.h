@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -32,8 +33,9 @@ class Known_Folders {
   /// The names in the folder that differ from this one in the case of letters only, if at all, in
   /// no order. None when the folder can't be read.
   std::vector<std::string> Alike(const std::string& folder, std::string_view name);
-  /// The names in the folder that are symbolic links, or may be, in no order.
-  std::vector<std::string> Links(const std::string& folder);
+  /// The names in the folder that are symbolic links, or may be, in no order. Nothing when not all
+  /// names can be read.
+  std::optional<std::vector<std::string>> Links(const std::string& folder);
 
  private:
   using Identity = std::pair<dev_t, ino_t>;

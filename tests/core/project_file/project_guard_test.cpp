@@ -96,6 +96,19 @@ TEST_F(ManyProjects, One_That_Becomes_A_Link_Meanwhile_Is_Known) {
   EXPECT_TRUE(Leads("site3.DUE"));
 }
 
+TEST_F(ManyProjects, In_A_Folder_That_Can_Not_Be_Read_Each_Is_Asked) {
+  std::filesystem::create_directory(folder / "out");
+  std::filesystem::rename(folder / "site9.DUI", folder / "out/nine.DUE");
+  std::filesystem::create_symlink("out/nine.DUE", folder / "site9.DUI");
+  Write_Text(folder / "out/ten.DUE", "x");
+  Make_Guard();
+  EXPECT_TRUE(Leads("out/nine.DUE"));
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_exec);
+  EXPECT_TRUE(Leads("out/nine.DUE"));
+  EXPECT_FALSE(Leads("out/ten.DUE"));
+  std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+}
+
 TEST_F(ManyProjects, Not_All_Are_Asked_For_Each_File) {
   if (!Is_On_Local_Files(folder.path())) GTEST_SKIP() << "names of a file are not counted here";
   Make_Guard();
