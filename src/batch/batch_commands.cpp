@@ -17,6 +17,7 @@
 #include "core/desk/project_hold.h"
 #include "core/project_file/project_writer.h"
 #include "core/project_file/value_slots.h"
+#include "platform/files/known_folders.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 #include "platform/files/safe_file.h"
@@ -24,19 +25,19 @@
 namespace barvon {
 namespace {
 
-int Check(const Batch_Options& options) {
+int Check(const Batch_Options& options, Known_Folders& folders) {
   int worst = kDone;
   for (const std::string& file : options.files) {
     if (Interrupt_Seen() != 0) return kNotDone;
-    const auto record = Open_Project(file);
+    const auto record = Open_Project(file, folders);
     worst = std::max(worst, record ? Say_Findings(file, *record) : kNotDone);
     if (record) Say_Remarks(file, *record);
   }
   return worst;
 }
 
-int Show(const Batch_Options& options) {
-  const auto record = Open_Project(options.files.front());
+int Show(const Batch_Options& options, Known_Folders& folders) {
+  const auto record = Open_Project(options.files.front(), folders);
   if (!record) return kNotDone;
   Say_Text(options.json ? Json_Of(*record) : Listing_Of(*record));
   return kDone;
@@ -74,17 +75,18 @@ int New(const Batch_Options& options) {
 
 int Do_Batch_Command(const Batch_Options& options) {
   Clear_Leftovers(options);
+  Known_Folders folders;
   switch (options.command) {
     case Batch_Command::Check:
-      return Check(options);
+      return Check(options, folders);
     case Batch_Command::Export:
-      return Export_Projects(options);
+      return Export_Projects(options, folders);
     case Batch_Command::Report:
-      return Report_Projects(options);
+      return Report_Projects(options, folders);
     case Batch_Command::Run:
-      return Run_Projects(options);
+      return Run_Projects(options, folders);
     case Batch_Command::Show:
-      return Show(options);
+      return Show(options, folders);
     case Batch_Command::Check_Database:
       return Check_Database_Files(options);
     case Batch_Command::New:

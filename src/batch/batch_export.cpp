@@ -14,8 +14,8 @@
 namespace barvon {
 namespace {
 
-int Export(const std::string& file, const std::string& target) {
-  const auto record = Open_Project(file);
+int Export(const std::string& file, const std::string& target, Known_Folders& folders) {
+  const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   Say_Remarks(file, *record);
   std::string text;
@@ -37,10 +37,11 @@ int Export(const std::string& file, const std::string& target) {
 
 }  // namespace
 
-int Export_Projects(const Batch_Options& options) {
+int Export_Projects(const Batch_Options& options, Known_Folders& folders) {
   return Write_Products(options,
                         {"model input", "DUE",
-                         "several projects can only be exported into an existing folder", Export});
+                         "several projects can only be exported into an existing folder", Export},
+                        folders);
 }
 
 }  // namespace barvon

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "batch/batch_output.h"
@@ -22,30 +23,34 @@ bool Is_Folder(const std::string& path) {
   return std::filesystem::is_directory(path, error);
 }
 
-std::string Target_Of(const std::string& file, const std::string& output, const char* extension) {
-  const std::string beside = With_Extension(Project_Path(file), extension);
-  if (output.empty()) return Path_To_Write(beside);
+std::string Target_Of(const std::string& file, const std::string& output, const char* extension,
+                      Known_Folders& folders) {
+  const std::string beside = With_Extension(Project_Path(file, folders), extension);
+  if (output.empty()) return Path_To_Write(beside, folders);
   const std::string path = Absolute_Path(output);
-  return Path_To_Write(Is_Folder(path) ? Join_Path(path, Name_Of(beside)) : path);
+  return Path_To_Write(Is_Folder(path) ? Join_Path(path, Name_Of(beside)) : path, folders);
 }
 
 }  // namespace
 
-int Write_Products(const Batch_Options& options, const Batch_Product& product) {
+int Write_Products(const Batch_Options& options, const Batch_Product& product,
+                   Known_Folders& folders) {
   const bool to_folder = !options.output.empty() && Is_Folder(Absolute_Path(options.output));
   if (options.files.size() > 1 && !options.output.empty() && !to_folder) {
     Say_Problem(options.output, product.to_folder);
     return kNotDone;
   }
   std::vector<std::string> projects;
-  for (const std::string& file : options.files) projects.push_back(Project_Path(file));
+  for (const std::string& file : options.files) projects.push_back(Project_Path(file, folders));
+  const Project_Guard guard(std::move(projects), folders);
   int worst = kDone;
   std::map<std::string, std::string> sources;  // by what they write
   for (const std::string& file : options.files) {
     if (Interrupt_Seen() != 0) return kNotDone;
-    const std::string target = Target_Of(file, options.output, product.extension);
+    const std::string target = Target_Of(file, options.output, product.extension, folders);
     const auto [other, first] = sources.emplace(Target_Key(target), file);
-    if (!first && Target_Key(Project_Path(other->second)) == Target_Key(Project_Path(file))) {
+    if (!first && Target_Key(Project_Path(other->second, folders)) ==
+                      Target_Key(Project_Path(file, folders))) {
       continue;  // the same project again: it is written
     }
     if (!first) {
@@ -54,13 +59,13 @@ int Write_Products(const Batch_Options& options, const Batch_Product& product) {
       worst = kNotDone;
       continue;
     }
-    if (Leads_To_A_Project(target, projects)) {
+    if (guard.Leads_To_A_Project(target)) {
       Say_Problem(file,
                   std::string("a ") + product.name + " is not written over a project: " + target);
       worst = kNotDone;
       continue;
     }
-    worst = std::max(worst, product.write(file, target));
+    worst = std::max(worst, product.write(file, target, folders));
   }
   return worst;
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "batch/batch_options.h"
+#include "platform/files/known_folders.h"
 
 namespace barvon {
 
@@ -13,12 +14,14 @@ struct Batch_Product {
   const char* extension;  // without the point
   const char* to_folder;  // what several projects ask of --output, in words
   /// Makes the file of a project under a path; an exit code.
-  std::function<int(const std::string& file, const std::string& target)> write;
+  std::function<int(const std::string& file, const std::string& target, Known_Folders& folders)>
+      write;
 };
 
 /// Makes the file of each project: beside it, into a folder, or for a single project under the name
 /// that --output gives. Two projects never write the same file, and none is written over a project.
 /// Returns the worst exit code.
-int Write_Products(const Batch_Options& options, const Batch_Product& product);
+int Write_Products(const Batch_Options& options, const Batch_Product& product,
+                   Known_Folders& folders);
 
 }  // namespace barvon

@@ -31,8 +31,8 @@ Report_Facts Facts_Of_File(const ProjectRecord& record) {
   return facts;
 }
 
-int Write_Html(const std::string& file, const std::string& target) {
-  const auto record = Open_Project(file);
+int Write_Html(const std::string& file, const std::string& target, Known_Folders& folders) {
+  const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   const std::string html = Report_Html(Project_Report(*record, Facts_Of_File(*record)));
   if (const int error = Write_Whole_File(target, html); error != 0) {
@@ -59,8 +59,8 @@ bool Runs_To_The_End(const std::string& program, const std::string& project,
   return end.signal == 0 && end.exit_code == 0 && !end.stopped;
 }
 
-int Write_Pdf(const std::string& file, const std::string& target) {
-  const auto record = Open_Project(file);
+int Write_Pdf(const std::string& file, const std::string& target, Known_Folders& folders) {
+  const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   const std::string program = Join_Path(Program_Folder(), kWindowProgram);
   if (::access(program.c_str(), X_OK) != 0) {
@@ -83,10 +83,10 @@ int Write_Pdf(const std::string& file, const std::string& target) {
 
 }  // namespace
 
-int Report_Projects(const Batch_Options& options) {
+int Report_Projects(const Batch_Options& options, Known_Folders& folders) {
   constexpr char kToFolder[] = "several reports can only be written into an existing folder";
-  if (options.pdf) return Write_Products(options, {"report", "pdf", kToFolder, Write_Pdf});
-  return Write_Products(options, {"report", "html", kToFolder, Write_Html});
+  if (options.pdf) return Write_Products(options, {"report", "pdf", kToFolder, Write_Pdf}, folders);
+  return Write_Products(options, {"report", "html", kToFolder, Write_Html}, folders);
 }
 
 }  // namespace barvon

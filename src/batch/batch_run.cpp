@@ -81,7 +81,7 @@ int Say_Report(const std::string& file, const Run_Report& report, const std::str
 /// Runs the project with the scratch folder as application directory and as current one: the
 /// driver clears the current directory of old "Tmpfile.*", and that must not be the caller's.
 int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& record,
-           const Batch_Options& options) {
+           const Batch_Options& options, Known_Folders& folders) {
   std::error_code error;
   const std::string former_current = std::filesystem::current_path(error).string();
   if (!Change_Current_Folder(scratch)) {
@@ -96,7 +96,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   {
     Box_Collector boxes;
     boxes.Answer_No();
-    report = Run_Model(record);
+    report = Run_Model(record, folders);
   }
   Set_Event_Pump(former_pump);
   Set_Passing_Folder({});
@@ -105,8 +105,8 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   return Say_Report(file, report, With_Lasting_Paths(report.text, scratch, options.solver_folder));
 }
 
-int Run(const std::string& file, const Batch_Options& options) {
-  const auto record = Open_Project(file);
+int Run(const std::string& file, const Batch_Options& options, Known_Folders& folders) {
+  const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   const int found = Say_Findings(file, *record);
   Say_Remarks(file, *record);
@@ -117,21 +117,24 @@ int Run(const std::string& file, const Batch_Options& options) {
     Say_Problem(file, problem);
     return kNotDone;
   }
-  return Run_In(scratch->Path(), file, *record, options);
+  return Run_In(scratch->Path(), file, *record, options, folders);
 }
 
 /// The files that can run without writing each other's outputs. The rest is told on standard
 /// error; `worst` becomes kNotDone when one of them is another project.
-std::vector<std::string> Without_Clashes(const std::vector<std::string>& files, int& worst) {
+std::vector<std::string> Without_Clashes(const std::vector<std::string>& files,
+                                         Known_Folders& folders, int& worst) {
   std::vector<std::string> kept;
   std::map<std::string, std::string> by_outputs;
   for (const std::string& file : files) {
-    const std::string path = Project_Path(file);
+    const std::string path = Project_Path(file, folders);
     const auto [other, first] = by_outputs.emplace(Target_Key(Base_Name(path)), file);
     if (first) {
       kept.push_back(file);
-    } else if (Target_Key(Project_Path(other->second)) == Target_Key(path) &&
-               Name_Of(Project_Path(other->second)) == Name_Of(path)) {
+      continue;
+    }
+    const std::string former = Project_Path(other->second, folders);
+    if (Target_Key(former) == Target_Key(path) && Name_Of(former) == Name_Of(path)) {
       Say_Warning(file, "given more than once; it is run once");
     } else {
       Say_Problem(file, "not run: its outputs would overwrite those of " + other->second);
@@ -143,7 +146,7 @@ std::vector<std::string> Without_Clashes(const std::vector<std::string>& files, 
 
 }  // namespace
 
-int Run_Projects(const Batch_Options& given) {
+int Run_Projects(const Batch_Options& given, Known_Folders& folders) {
   Batch_Options options = given;
   if (options.solver_folder.empty()) {
     const std::string delivered = Program_Folder();
@@ -157,13 +160,13 @@ int Run_Projects(const Batch_Options& given) {
   }
   options.solver_folder = Absolute_Path(options.solver_folder);
   int worst = kDone;
-  options.files = Without_Clashes(options.files, worst);
+  options.files = Without_Clashes(options.files, folders, worst);
   if (options.jobs > 1 && options.files.size() > 1) {
     return std::max(worst, Run_Side_By_Side(options));
   }
   for (const std::string& file : options.files) {
     if (Interrupt_Seen() != 0) return kNotDone;
-    worst = std::max(worst, Run(file, options));
+    worst = std::max(worst, Run(file, options, folders));
   }
   return worst;
 }

@@ -99,23 +99,24 @@ Output_Files::Found Output_Files::Find(const std::string& extension,
   return best;
 }
 
-std::vector<Kept_Output> Output_Files::Keep(const std::string& base_name) const {
+std::vector<Kept_Output> Output_Files::Keep(const std::string& base_name,
+                                            Known_Folders& folders) const {
   const std::map<std::string, File_Trace> now = Traces(folder_);
   std::vector<Kept_Output> outputs;
   std::vector<std::string> copied_to;  // the folder of each output's copy
-  Unsynced_Folders folders;
+  Unsynced_Folders unsynced;
   for (const char* extension : kOutputExtensions) {
     const Found found = Find(extension, now);
     Kept_Output output{extension, found.written, {}, 0};
     copied_to.emplace_back();
     if (!found.path.empty()) {
-      const std::string target = Path_To_Write(base_name + extension);
-      output.error = Copy_Whole_File(found.path, target, folders, copied_to.back());
+      const std::string target = Path_To_Write(base_name + extension, folders);
+      output.error = Copy_Whole_File(found.path, target, unsynced, copied_to.back());
       if (output.error == 0) output.path = target;
     }
     outputs.push_back(output);
   }
-  const std::map<std::string, int> failed = folders.Sync();
+  const std::map<std::string, int> failed = unsynced.Sync();
   for (std::size_t i = 0; i < outputs.size(); ++i) {
     const auto error = failed.find(copied_to[i]);
     if (error == failed.end() || outputs[i].path.empty()) continue;

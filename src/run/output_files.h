@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/files/file_trace.h"
+#include "platform/files/known_folders.h"
 
 namespace barvon {
 
@@ -28,7 +29,7 @@ class Output_Files {
 
   /// Copies each output that is there to the project's base name, over an older one of any case.
   /// A copy is whole or not made; one that fails is passed over.
-  std::vector<Kept_Output> Keep(const std::string& base_name) const;
+  std::vector<Kept_Output> Keep(const std::string& base_name, Known_Folders& folders) const;
 
  private:
   struct Found {

@@ -35,8 +35,9 @@ namespace {
 constexpr std::size_t kScratchNameWidth = 8;
 constexpr char kErrorTitle[] = "BARVON Error";
 
-bool Project_Exists(const ProjectRecord& record, const char* extension) {
-  return !record.BaseFileName.empty() && Find_Path(record.BaseFileName + extension).has_value();
+bool Project_Exists(const ProjectRecord& record, const char* extension, Known_Folders& folders) {
+  return !record.BaseFileName.empty() &&
+         Find_Path(record.BaseFileName + extension, folders).has_value();
 }
 
 /// Save As with the present name offered, then the save. Nothing when the project is on disk;
@@ -49,15 +50,15 @@ std::optional<Run_Stage> Save_As(ProjectRecord& record, Run_Stage on_cancel) {
 }
 
 /// Sees to it that the project has a file. Nothing when the run may go on.
-std::optional<Run_Stage> Check_File(ProjectRecord& record) {
+std::optional<Run_Stage> Check_File(ProjectRecord& record, Known_Folders& folders) {
   constexpr char kNoFile[] = "Please Specify a File Before Running Model";
   if (record.FileKind == kDilutionKind) {
-    if (Project_Exists(record, ".DUD")) return std::nullopt;
+    if (Project_Exists(record, ".DUD", folders)) return std::nullopt;
     Show_Critical(kNoFile, kErrorTitle);
     return Run_Stage::No_File;
   }
   if (Is_Model_Project(record)) {
-    if (Project_Exists(record, ".DUI")) return std::nullopt;
+    if (Project_Exists(record, ".DUI", folders)) return std::nullopt;
     Show_Critical(kNoFile, kErrorTitle);
     return Save_As(record, Run_Stage::No_File);
   }
@@ -81,10 +82,11 @@ std::optional<Run_Stage> Offer_Findings(const ProjectRecord& record, Run_Report&
 }
 
 /// Everything before the point from which failures no longer stop the flow.
-std::optional<Run_Stage> Prepare(ProjectRecord& record, Run_Report& report) {
+std::optional<Run_Stage> Prepare(ProjectRecord& record, Known_Folders& folders,
+                                 Run_Report& report) {
   // What is run is what the boards show; a choice made on them may still wait for its refresh.
   if (Is_Model_Project(record)) Show_Project(record);
-  if (auto stage = Check_File(record)) return stage;
+  if (auto stage = Check_File(record, folders)) return stage;
   if (auto stage = Offer_Findings(record, report)) return stage;
   if (record.DataSaved == kFalse && record.AlwaysSaveBeforeRun != kFalse) {
     return Save_As(record, Run_Stage::Cancelled);
@@ -167,7 +169,7 @@ std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder)
   return problem;
 }
 
-void Run_Solver(ProjectRecord& record, Run_Report& report) {
+void Run_Solver(ProjectRecord& record, Known_Folders& folders, Run_Report& report) {
   const std::string folder = Absolute_Path(Application_Folder());
   // Solvers meet in this folder under the same names, whichever program started them.
   const Folder_Lock lock(folder);
@@ -206,7 +208,7 @@ void Run_Solver(ProjectRecord& record, Run_Report& report) {
   if (report.outcome.started) {
     // They may be huge, and each is waited for on the disk.
     std::vector<Kept_Output> kept;
-    report.outcome.program_ends = !Do_Aside([&] { kept = outputs.Keep(base_name); });
+    report.outcome.program_ends = !Do_Aside([&] { kept = outputs.Keep(base_name, folders); });
     report.Add_Outputs(kept);
     if (report.outcome.program_ends) return;
   }
@@ -228,13 +230,18 @@ Status_Note Note_Of(const Run_Report& report) {
 }  // namespace
 
 Run_Report Run_Model(ProjectRecord& record) {
+  Known_Folders folders;
+  return Run_Model(record, folders);
+}
+
+Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders) {
   Run_Report report;
   if (Run_Is_Under_Way()) {
     report.stage = Run_Stage::Refused;
-  } else if (const auto stage = Prepare(record, report)) {
+  } else if (const auto stage = Prepare(record, folders, report)) {
     report.stage = *stage;
   } else {
-    Run_Solver(record, report);
+    Run_Solver(record, folders, report);
   }
   report.text = Status_Text(report);
   if (report.outcome.program_ends) return report;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/project_record.h"
+#include "platform/files/known_folders.h"
 #include "run/run_report.h"
 
 namespace barvon {
@@ -14,6 +15,9 @@ namespace barvon {
 /// under another name meanwhile. When this program ends during the run, the outputs, the settings
 /// and the workspace stay as they are.
 Run_Report Run_Model(ProjectRecord& record);
+/// The same as one of many runs. `folders` is asked for the case of the names beside the project;
+/// nobody else uses it meanwhile.
+Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders);
 
 /// Makes the application directory the current one.
 void Set_Application_Directory();

@@ -1,5 +1,7 @@
 #include "support/disk_calls.h"
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -11,6 +13,7 @@ namespace {
 
 std::atomic<int> waits{0};
 std::atomic<int> questions{0};
+std::atomic<int> readings{0};
 
 int Ask(int folder, const char* path, struct stat* status, int flags) {
   ++questions;
@@ -47,13 +50,27 @@ int access(const char* path, int mode) noexcept {
   return static_cast<int>(::syscall(SYS_faccessat, AT_FDCWD, path, mode));
 }
 
+DIR* opendir(const char* path) {
+  static const auto next = reinterpret_cast<DIR* (*)(const char*)>(::dlsym(RTLD_NEXT, "opendir"));
+  ++readings;
+  return next(path);
+}
+
+DIR* fdopendir(int descriptor) {
+  static const auto next = reinterpret_cast<DIR* (*)(int)>(::dlsym(RTLD_NEXT, "fdopendir"));
+  ++readings;
+  return next(descriptor);
+}
+
 }  // extern "C"
 
 namespace barvon::testing {
 
-Disk_Calls::Disk_Calls() : waits_before_(waits), questions_before_(questions) {}
+Disk_Calls::Disk_Calls()
+    : waits_before_(waits), questions_before_(questions), readings_before_(readings) {}
 
 int Disk_Calls::Waits() const { return waits - waits_before_; }
 int Disk_Calls::Questions() const { return questions - questions_before_; }
+int Disk_Calls::Readings() const { return readings - readings_before_; }
 
 }  // namespace barvon::testing

@@ -11,9 +11,11 @@ class Disk_Calls {
   int Waits() const;
   /// Questions about a path: stat, lstat, fstatat and access.
   int Questions() const;
+  /// Folders opened to read what names they hold.
+  int Readings() const;
 
  private:
-  int waits_before_, questions_before_;
+  int waits_before_, questions_before_, readings_before_;
 };
 
 }  // namespace barvon::testing
