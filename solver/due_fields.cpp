@@ -35,8 +35,8 @@ int Significant_Digits(std::string_view mantissa) {
   return digits;
 }
 
-/// True for the default text form and nothing else: no "+", no leading or trailing zeros, no more
-/// than 15 digits. That strictness is what tells two numbers apart that run into each other.
+}  // namespace
+
 bool Is_Number(std::string_view text) {
   if (!text.empty() && text.front() == '-') text.remove_prefix(1);
   const std::size_t whole = Skip_Digits(text, 0);
@@ -59,6 +59,8 @@ bool Is_Number(std::string_view text) {
   const std::size_t digits = Skip_Digits(text, exponent) - exponent;
   return exponent + digits == text.size() && (digits == 2 || digits == 3);
 }
+
+namespace {
 
 /// The beginning of a number: what is left when a text is cut after its tenth character.
 bool Is_Cut_Number(std::string_view text) {

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The model input is read by a layout of its own, on purpose without the code that writes it: two
@@ -35,6 +36,10 @@ struct Refusal : std::runtime_error {
 struct No_Physics : Refusal {
   using Refusal::Refusal;
 };
+
+/// True for the default text form and nothing else: no "+", no leading or trailing zeros, no more
+/// than 15 digits. That strictness is what tells two numbers apart that run into each other.
+bool Is_Number(std::string_view text);
 
 /// The lines of a text, without their ends, CR LF or LF.
 std::vector<std::string> Lines_Of(const std::string& bytes);
