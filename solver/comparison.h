@@ -33,7 +33,7 @@ struct Comparison {
   double from = 0;  // s, earlier times do not count
   bool ever = false;
   double first = 0, last = 0;  // s, when it was exceeded
-  Spot worst;
+  Spot worst{};
 
   void Look(double time, const Spot& largest);
   /// "exceeded from t1 to t2, worst v at (X, Z)" or "not exceeded at the times looked at".
