@@ -31,7 +31,7 @@ struct Cloud_Start {
   bool aboard = false;                    // its time is not before the end: it is not run
 
   double Volume() const;                        // ft3
-  double Mass(const Model_Input& input) const;  // g/cc ft3, solids by the first batch's densities
+  double Mass(const Model_Input& input) const;  // g/cc ft3, solids by its own batch's densities
 };
 
 /// How a batch leaves.
@@ -39,7 +39,7 @@ struct Batch_Start {
   double begin = 0, duration = 0;  // s
   double x = 0, z = 0;             // ft, of the vessel at `begin`
   double draft = 0;                // ft, at the middle of its volume
-  double fall_time = 0;            // s, of the whole batch as one cloud
+  double fall_time = 0;            // s, of the whole batch as one cloud; 0: it leaves at once
   int clouds = 0;
 };
 
@@ -53,8 +53,13 @@ struct Release {
 /// for the toxicity evaluations; 0 where there is none.
 double Tracer_Amount(const Model_Input& input, const Batch& batch);
 
+/// Radius of a capsule of a volume, ft3, that is `whole` ft long from end to end; of a ball where
+/// the volume is too large for that. Any volume, 0 gives 0.
+double Capsule_Radius(double volume, double whole);
+
 /// Cuts the load into clouds that leave one after the other. `fall_time` tells how long a cloud
-/// falls, s; it is asked about each batch as one cloud; not above 0: the batch doesn't fall.
+/// falls, s, as if the run had no end; it is asked about each batch as one cloud that leaves at the
+/// middle of its time. What is not above 0 is not for cutting by.
 Release Release_Load(const Model_Input& input, const Water& water,
                      const std::function<double(const Cloud_Start&)>& fall_time);
 
