@@ -24,8 +24,8 @@ Evaluation_Keeper::Evaluation_Keeper(const Model_Input& input, const Water& wate
       water_(water),
       areas_(input),
       raster_(input.points_x, input.points_z, input.spacing_x, input.spacing_z) {
-  const auto cells = static_cast<std::size_t>(input.points_x) *
-                     static_cast<std::size_t>(input.points_z);
+  const auto cells =
+      static_cast<std::size_t>(input.points_x) * static_cast<std::size_t>(input.points_z);
   masks_.assign(cells, 0);
   for (int i = 0; i < input.points_x; ++i) {
     for (int k = 0; k < input.points_z; ++k) {
@@ -35,8 +35,8 @@ Evaluation_Keeper::Evaluation_Keeper(const Model_Input& input, const Water& wate
       }
     }
   }
-  most_.assign(input.Species(), std::vector<std::vector<double>>(
-                                    input.output_depths.size(), std::vector<double>(cells, 0.0)));
+  most_.assign(input.Species(), std::vector<std::vector<double>>(input.output_depths.size(),
+                                                                 std::vector<double>(cells, 0.0)));
   kept_.cell_spots.assign(input.Species(), std::vector<Area_Spots>(input.output_depths.size()));
   kept_.point_spots.assign(input.Species(), {});
   kept_.comparisons = std::move(comparisons);
@@ -85,7 +85,8 @@ void Evaluation_Keeper::Look_At_Cells(double time, const std::vector<Column>& co
       most[cell] = std::max(most[cell], excess);
       for (const Area area : kEveryArea) {
         Spot& spot = now[At(area)];
-        if ((masks_[cell] & Bit(area)) == 0 || (spot.found && excess + base <= spot.value)) continue;
+        if ((masks_[cell] & Bit(area)) == 0 || (spot.found && excess + base <= spot.value))
+          continue;
         spot = {true, excess + base, time, i * input_.spacing_x, k * input_.spacing_z, y};
       }
     }
@@ -99,15 +100,14 @@ void Evaluation_Keeper::Look_At_Cells(double time, const std::vector<Column>& co
       const Spot& spot = now[At(area)];
       return spot.found ? spot.value : base;
     };
-    kept_.maxima.push_back({time, species, y, value(Area::Inside), value(Area::Outside),
-                            value(Area::Outside_Zid)});
+    kept_.maxima.push_back(
+        {time, species, y, value(Area::Inside), value(Area::Outside), value(Area::Outside_Zid)});
   }
   if (!map) return;
   parts_.clear();
   Parts_At_Depth(moving.falling, species, y, parts_);
   raster_.Add(parts_);
-  Cell_Map shown =
-      Windowed(raster_.Values(), input_.points_x, input_.points_z, scale, base);
+  Cell_Map shown = Windowed(raster_.Values(), input_.points_x, input_.points_z, scale, base);
   shown.time = time;
   shown.number = static_cast<int>(species) + 1;
   shown.depth = y;
@@ -118,9 +118,9 @@ Spot Evaluation_Keeper::Highest(double time, const std::vector<Column>& columns,
                                 const Moving& moving, std::size_t species, Area area,
                                 double at_least) const {
   const double scale = Unit_Factor(input_, species), base = Base_Of(input_, species);
-  const auto found = Highest_Point(columns, moving.collapsing, species,
-                                   std::max(0.0, (at_least - base) / scale),
-                                   [&](double x, double z) { return Counts_At(area, x, z); });
+  const auto found =
+      Highest_Point(columns, moving.collapsing, species, std::max(0.0, (at_least - base) / scale),
+                    [&](double x, double z) { return Counts_At(area, x, z); });
   if (!found) return {};
   return {true, found->value * scale + base, time, found->x, found->z, found->y};
 }
@@ -172,8 +172,7 @@ void Evaluation_Keeper::Finish(const Additions& additions, Outcome& outcome) {
     for (Area_Spots& spots : kept_.cell_spots[species]) fill(spots, base);
     fill(kept_.point_spots[species], base);
     for (std::size_t depth = 0; depth < input_.output_depths.size(); ++depth) {
-      Cell_Map map =
-          Windowed(most_[species][depth], input_.points_x, input_.points_z, 1, base);
+      Cell_Map map = Windowed(most_[species][depth], input_.points_x, input_.points_z, 1, base);
       map.time = input_.duration;
       map.number = static_cast<int>(species) + 1;
       map.depth = input_.output_depths[depth];

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "solver/additions.h"
+#include "solver/column.h"
 #include "solver/comparison.h"
 #include "solver/model_input.h"
 #include "solver/near_field.h"
@@ -44,7 +45,7 @@ class Evaluation_Keeper {
   Areas areas_;
   Raster raster_;
   std::vector<Part> parts_;
-  std::vector<std::uint8_t> masks_;  // of each cell, a bit an area; none of land
+  std::vector<std::uint8_t> masks_;                     // of each cell, a bit an area; none of land
   std::vector<std::vector<std::vector<double>>> most_;  // [species][depth][cell], over the base
   std::vector<Area_Spots> largest_now_;                 // [species], cells of all depths
   Outcome kept_;
