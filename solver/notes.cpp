@@ -12,8 +12,6 @@ namespace companion {
 namespace {
 
 constexpr int kTidal = 5;
-constexpr double kNoFrontSpeed =
-    0.25;  // CDRAG up to which a spreading front has no speed of its own
 
 void Note_Grid(const Model_Input& input, const Additions& additions,
                std::vector<std::string>& notes) {
@@ -59,11 +57,6 @@ void Note_Water(const Model_Input& input, const Additions& additions,
                       Plain(input.profile_depths[i]) + " ft: it counts as not layered there.");
     }
   }
-  if (input.coefficients.CDRAG <= kNoFrontSpeed) {
-    notes.push_back("CDRAG is " + Plain(input.coefficients.CDRAG) +
-                    ": up to 1/4 the front has no speed of its own, and friction alone slows a "
-                    "spreading cloud.");
-  }
 }
 
 bool Same_Material(const Solid& a, const Solid& b) {
@@ -75,10 +68,9 @@ bool Same_Material(const Solid& a, const Solid& b) {
 void Note_Load(const Model_Input& input, std::vector<std::string>& notes) {
   const Batch& first = input.batches.front();
   const std::string batch_word = input.barge ? "Layer " : "Opening ";
-  bool no_moisture = false, less = false;
+  bool less = false;
   for (std::size_t j = 0; j < input.batches.size(); ++j) {
     const Batch& batch = input.batches[j];
-    no_moisture = no_moisture || batch.moisture == 0;
     if (batch.fluid.density != input.load_density) {
       notes.push_back(batch_word + std::to_string(j + 1) + " gives its fluid the density " +
                       Plain(batch.fluid.density, 6) + " g/cc; that of the vessel's line holds, " +
@@ -96,10 +88,6 @@ void Note_Load(const Model_Input& input, std::vector<std::string>& notes) {
     notes.push_back("The load holds no more of " + Species_Name(input, input.Solids()) +
                     " than the water around, or less, at least in part: no excess of it is "
                     "followed there.");
-  }
-  if (input.moisture_adjusts && no_moisture) {
-    notes.push_back(
-        "A moisture of 0 counts as not given: entrainment and drag stay as the coefficients say.");
   }
 }
 
