@@ -6,8 +6,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <functional>
-#include <limits>
 #include <vector>
 
 #include "solver/det_math.h"
