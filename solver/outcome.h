@@ -16,7 +16,7 @@ namespace companion {
 /// every cell is the base.
 struct Cell_Map {
   double time = 0;  // s
-  std::size_t species = 0;
+  int number = 0;   // of the species as the outputs count them, from 1; 0: all solids
   double depth = 0;  // ft
   double base = 0;
   int top = 0, bottom = -1, left = 0, right = -1;
