@@ -65,6 +65,20 @@ void Hand_Over(const Cloud& cloud, bool with_tracer, double bed, bool held,
 void Hand_Over_Light(const Cloud& cloud, const Model_Input& input, double bed,
                      std::vector<Source>& sources);
 
+/// Why a phase is over, or what is nearest to ending it. Reasons are told in the order of their
+/// rank: the first that holds stays.
+struct Ending {
+  double past = -1e30;  // at least 0: over
+  const char* why = "";
+
+  bool Over() const { return past >= 0; }
+  void Consider(double how_far, const char* reason) {
+    if (Over() || !(how_far > past)) return;
+    past = how_far;
+    why = reason;
+  }
+};
+
 /// Keeps some hundred rows of a phase, evenly: every second one goes when there are too many.
 class Row_Keeper {
  public:
