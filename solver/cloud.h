@@ -12,8 +12,12 @@
 namespace companion {
 
 inline constexpr double kHinderedPower = 4.65;    // of 1 - c: Richardson and Zaki (1954)
+inline constexpr double kAllLost = 50;            // of `lost` in Left_Of, from which on it is all
 inline constexpr double kPlanMoments = 2;         // of a handed-over cloud, times its own
 inline constexpr double kLeastMassFactor = 0.01;  // CM below it counts as this
+
+/// What is left of an amount after losses whose rates over it sum up to `lost`.
+double Left_Of(double amount, double lost);
 
 /// A cloud at one moment, between its phases. Its plan is a rectangle of `length` by twice `radius`
 /// with a half disk at each end.

@@ -152,7 +152,7 @@ Collapse::Work::View Collapse::Work::Look(double time, const Integrator::Values&
   cloud.velocity_z = state[kSpeedZ];
   cloud.downward = state[kDownward];
   for (std::size_t i = 0; i < cloud.solids.size(); ++i)
-    if (state[kFirstLost + i] > 0) cloud.solids[i] = origin.solids[i] * Exp(-state[kFirstLost + i]);
+    cloud.solids[i] = Left_Of(origin.solids[i], state[kFirstLost + i]);
   seen.volume = cloud.Volume();
   seen.mass = Cloud_Mass(cloud.fluid_mass, kinds, cloud.solids);
   seen.area = Plan_Area(cloud.radius, cloud.length);
