@@ -8,6 +8,11 @@
 
 namespace companion {
 
+double Left_Of(double amount, double lost) {
+  if (!(lost > 0)) return amount;
+  return lost < kAllLost ? amount * Exp(-lost) : 0;
+}
+
 double Cloud::Volume() const {
   double volume = fluid_volume;
   for (const double solid : solids) volume += solid;

@@ -12,8 +12,12 @@
 namespace companion {
 
 inline constexpr double kHinderedPower = 4.65;    // of 1 - c: Richardson and Zaki (1954)
+inline constexpr double kAllLost = 50;            // of `lost` in Left_Of, from which on it is all
 inline constexpr double kPlanMoments = 2;         // of a handed-over cloud, times its own
 inline constexpr double kLeastMassFactor = 0.01;  // CM below it counts as this
+
+/// What is left of an amount after losses whose rates over it sum up to `lost`.
+double Left_Of(double amount, double lost);
 
 /// A cloud at one moment, between its phases. Its plan is a rectangle of `length` by twice `radius`
 /// with a half disk at each end.
@@ -64,6 +68,20 @@ void Hand_Over(const Cloud& cloud, bool with_tracer, double bed, bool held,
 /// to the depth at which the water has the density of the cloud's fluid, or to the cloud's top.
 void Hand_Over_Light(const Cloud& cloud, const Model_Input& input, double bed,
                      std::vector<Source>& sources);
+
+/// Why a phase is over, or what is nearest to ending it. Reasons are told in the order of their
+/// rank: the first that holds stays.
+struct Ending {
+  double past = -1e30;  // at least 0: over
+  const char* why = "";
+
+  bool Over() const { return past >= 0; }
+  void Consider(double how_far, const char* reason) {
+    if (Over() || !(how_far > past)) return;
+    past = how_far;
+    why = reason;
+  }
+};
 
 /// Keeps some hundred rows of a phase, evenly: every second one goes when there are too many.
 class Row_Keeper {

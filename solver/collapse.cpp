@@ -104,8 +104,8 @@ struct Collapse::Work {
   double Spreading_Rate(const View& view, double inflow) const;
   double Inflow(const View& view) const;
   void Losses(const View& view, Integrator::Values& rates) const;
-  bool Turbulence_Wins(const View& view) const;
-  const char* Over(const View& view) const;
+  double Turbulence_Wins(const View& view) const;
+  Ending Over(const View& view) const;
   bool Fits_The_Hole(const View& view) const;
   Cloud_State Row() const;
   void Leave();
@@ -152,7 +152,7 @@ Collapse::Work::View Collapse::Work::Look(double time, const Integrator::Values&
   cloud.velocity_z = state[kSpeedZ];
   cloud.downward = state[kDownward];
   for (std::size_t i = 0; i < cloud.solids.size(); ++i)
-    if (state[kFirstLost + i] > 0) cloud.solids[i] = origin.solids[i] * Exp(-state[kFirstLost + i]);
+    cloud.solids[i] = Left_Of(origin.solids[i], state[kFirstLost + i]);
   seen.volume = cloud.Volume();
   seen.mass = Cloud_Mass(cloud.fluid_mass, kinds, cloud.solids);
   seen.area = Plan_Area(cloud.radius, cloud.length);
@@ -268,29 +268,30 @@ void Collapse::Work::Rates(double time, const Integrator::Values& state,
   rates[kSpeedZ] /= seen.mass;
 }
 
-/// The spreading slows down and is below what diffusion or the current's turbulence makes of a
-/// cloud of that size.
-bool Collapse::Work::Turbulence_Wins(const View& seen) const {
+/// At least 0 once the spreading slows down and is below what diffusion, or the current's
+/// turbulence, makes of a cloud of that size.
+double Collapse::Work::Turbulence_Wins(const View& seen) const {
   const Cloud& cloud = seen.cloud;
   const double size = kEdgeOfDiffusion * cloud.radius;
   const double diffusion = 4 * coefficients.ALAMDA * size * Cbrt(size) / cloud.radius;
-  const double least =
-      std::max(diffusion, kTurbulentSpeeds * water.Shear_Velocity(cloud.x, cloud.z, cloud.time));
-  if (cloud.spreading > least) return false;
-  if (!on_bed && std::abs(cloud.downward) > least) return false;
-  return Spreading_Rate(seen, Inflow(seen)) <= 0;
+  const double turbulence = kTurbulentSpeeds * water.Shear_Velocity(cloud.x, cloud.z, cloud.time);
+  const double least = std::max(diffusion, turbulence);
+  const double slower = least - std::max(cloud.spreading, on_bed ? 0 : std::abs(cloud.downward));
+  return std::min(slower, -Spreading_Rate(seen, Inflow(seen)));
 }
 
-const char* Collapse::Work::Over(const View& seen) const {
+Ending Collapse::Work::Over(const View& seen) const {
   const Cloud& cloud = seen.cloud;
-  if (!(seen.mass > 0)) return "light";
+  Ending ending;
   if (on_bed) {
-    if (seen.mass <= seen.water_density * seen.volume) return "light";
+    ending.Consider(seen.water_density - seen.mass / seen.volume, "light");
   } else {
-    if (cloud.y + cloud.height / 2 >= seen.bed) return "bed";
-    if (cloud.y - cloud.height / 2 <= 0 && cloud.downward <= 0) return "surface";
+    const double half = cloud.height / 2;
+    ending.Consider(cloud.y + half - seen.bed, "bed");
+    ending.Consider(std::min(half - cloud.y, -cloud.downward), "surface");
   }
-  return Turbulence_Wins(seen) ? "spread" : nullptr;
+  ending.Consider(Turbulence_Wins(seen), "spread");
+  return ending;
 }
 
 /// Too low, and too slow to rise over the rim of the depression.
@@ -327,9 +328,9 @@ void Collapse::Work::Leave() {
 void Collapse::Work::Advance(double time) {
   const auto past = [this](double when, const Integrator::Values& state) {
     const View seen = Look(when, state);
-    if (seen.cloud.radius >= next_radius) return true;
-    if (!past_hole && seen.cloud.radius >= hole_radius) return true;
-    return Over(seen) != nullptr;
+    double nearest = std::max(Over(seen).past, seen.cloud.radius - next_radius);
+    if (!past_hole) nearest = std::max(nearest, seen.cloud.radius - hole_radius);
+    return nearest;
   };
   const auto tell_stop = [this] {
     if (stop >= stops.size() || stops[stop] > integrator->Time()) return;
@@ -351,7 +352,7 @@ void Collapse::Work::Advance(double time) {
       Leave();
       next_radius = view.cloud.radius * kRadiusStep;
     }
-    if (const char* why = Over(view)) end = why;
+    if (const Ending ending = Over(view); ending.Over()) end = ending.why;
     if (!past_hole && view.cloud.radius >= hole_radius) {
       past_hole = true;
       if (end.empty() && Fits_The_Hole(view)) end = "held";
@@ -393,7 +394,7 @@ Collapse::Collapse(const Model_Input& input, const Water& water, Cloud start, bo
   work.hole_radius = std::sqrt(std::max(0.0, input.hole_x * input.hole_z) / kPi);
   work.past_hole =
       !on_bed || !water.In_Depression(cloud.x, cloud.z) || cloud.radius >= work.hole_radius;
-  if (const char* why = work.Over(work.view)) work.end = why;
+  if (const Ending ending = work.Over(work.view); ending.Over()) work.end = ending.why;
   if (work.end == "spread" && !work.past_hole && work.Fits_The_Hole(work.view)) work.end = "held";
 }
 
@@ -424,7 +425,7 @@ void Collapse::Join(const Cloud& landing) {
   work.Begin();
   work.trail.Begin(work.view.cloud, work.amounts);
   work.rows.Add(work.Row());
-  if (const char* why = work.Over(work.view)) work.end = why;
+  if (const Ending ending = work.Over(work.view); ending.Over()) work.end = ending.why;
 }
 
 const std::string& Collapse::End() const { return work_->end; }

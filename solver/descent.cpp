@@ -56,8 +56,7 @@ class Faller {
   Integrator::Values Floors() const;
   View Look(double time, const Integrator::Values& state) const;
   void Rates(double time, const Integrator::Values& state, Integrator::Values& rates);
-  /// Why the fall is over, nothing where it goes on.
-  const char* Over(const View& view) const;
+  Ending Over(const View& view) const;
   bool Light_At(const View& view) const;
   const std::vector<Solid>& Kinds() const { return *kinds_; }
   Cloud_State Row(const View& view) const;
@@ -131,12 +130,11 @@ Faller::View Faller::Look(double time, const Integrator::Values& state) const {
   cloud.axis_x = start_.axis_x;
   cloud.axis_z = start_.axis_z;
   cloud.inflow_factor = inflow_;
-  cloud.tracer = start_.tracer * (state[kWashed] > 0 ? Exp(-state[kWashed]) : 1);
+  cloud.tracer = Left_Of(start_.tracer, state[kWashed]);
   cloud.solids.resize(start_.solids.size());
-  for (std::size_t i = 0; i < cloud.solids.size(); ++i) {
-    const double lost = state[kFirstFallen + i] + ((*kinds_)[i].stripped ? state[kWashed] : 0);
-    cloud.solids[i] = lost > 0 ? start_.solids[i] * Exp(-lost) : start_.solids[i];
-  }
+  for (std::size_t i = 0; i < cloud.solids.size(); ++i)
+    cloud.solids[i] = Left_Of(
+        start_.solids[i], state[kFirstFallen + i] + ((*kinds_)[i].stripped ? state[kWashed] : 0));
   view.volume = cloud.Volume();
   view.mass = Cloud_Mass(cloud.fluid_mass, *kinds_, cloud.solids);
   view.density = view.volume > 0 ? view.mass / view.volume : 0;
@@ -196,14 +194,15 @@ void Faller::Rates(double time, const Integrator::Values& state, Integrator::Val
       (view.mass - view.water_density * view.volume) * kGravity - (drag + lost) * cloud.downward;
 }
 
-const char* Faller::Over(const View& view) const {
+Ending Faller::Over(const View& view) const {
   const Cloud& cloud = view.cloud;
-  if (cloud.y + cloud.radius >= water_.Bed(cloud.x, cloud.z)) return "bed";
-  if (view.volume < kWashedAway * volume_) return "washed away";
-  if (view.density <= view.water_density) return "neutral";
-  if (view.through < kCalmSpeed && kGravity * (view.density - view.water_density) < kCalmExcess)
-    return "calm";
-  return nullptr;
+  Ending ending;
+  ending.Consider(cloud.y + cloud.radius - water_.Bed(cloud.x, cloud.z), "bed");
+  ending.Consider(kWashedAway - view.volume / volume_, "washed away");
+  ending.Consider(view.water_density - view.density, "neutral");
+  const double excess = kGravity * (view.density - view.water_density);
+  ending.Consider(std::min(kCalmSpeed - view.through, kCalmExcess - excess), "calm");
+  return ending;
 }
 
 bool Faller::Light_At(const View& view) const {
@@ -274,18 +273,19 @@ Fall Fall_Of(const Model_Input& input, const Water& water, const Cloud_Start& st
   int part = 1;
   std::size_t stop = static_cast<std::size_t>(
       std::lower_bound(stops.begin(), stops.end(), start.time) - stops.begin());
-  const char* why = nullptr;
+  std::string why;
   const auto past = [&](double time, const Integrator::Values& state) {
-    if (part < kPartsOfFall && state[kDown] >= start.y + way * part / kPartsOfFall) return true;
-    return faller.Over(faller.Look(time, state)) != nullptr;
+    const double ending = faller.Over(faller.Look(time, state)).past;
+    if (part >= kPartsOfFall) return ending;
+    return std::max(ending, state[kDown] - (start.y + way * part / kPartsOfFall));
   };
   if (view.density <= view.water_density) {
     why = "light";
     fall.light = true;
-  } else {
-    why = faller.Over(view);
+  } else if (const Ending ending = faller.Over(view); ending.Over()) {
+    why = ending.why;
   }
-  while (why == nullptr) {
+  while (why.empty()) {
     if (stop < stops.size() && stops[stop] <= integrator.Time()) {
       trail.Leave_Sources(water.Bed(view.cloud.x, view.cloud.z), sources);
       tell(stop++, view.cloud);
@@ -304,15 +304,17 @@ Fall Fall_Of(const Model_Input& input, const Water& water, const Cloud_Start& st
     amounts = std::move(now);
     trail.Pass(view.cloud, amounts);
     rows.Add(faller.Row(view));
-    why = faller.Over(view);
-    if (why == nullptr && integrator.Exhausted()) why = "steps";
+    if (const Ending ending = faller.Over(view); ending.Over())
+      why = ending.why;
+    else if (integrator.Exhausted())
+      why = "steps";
     if (part < kPartsOfFall && view.cloud.y >= start.y + way * part / kPartsOfFall) {
       trail.Leave_Sources(water.Bed(view.cloud.x, view.cloud.z), sources);
       ++part;
     }
   }
   trail.Leave_Sources(water.Bed(view.cloud.x, view.cloud.z), sources);
-  if (why == std::string("neutral") && faller.Light_At(view)) {
+  if (why == "neutral" && faller.Light_At(view)) {
     why = "light";
     fall.light = true;
   }

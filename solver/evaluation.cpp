@@ -200,7 +200,7 @@ Cell_Map Windowed(const std::vector<double>& values, int points_x, int points_z,
   map.base = base;
   double largest = 0;
   for (const double value : values) largest = std::max(largest, value);
-  if (largest <= 0) return map;
+  if (largest * scale < kLeastShown) return map;
   const double least = kWindowShare * largest;
   map.top = points_x;
   map.left = points_z;

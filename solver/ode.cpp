@@ -20,6 +20,7 @@ constexpr double kWeights[kStages][kStages - 1] = {
     {9017.0 / 3168, -355.0 / 33, 46732.0 / 5247, 49.0 / 176, -5103.0 / 18656},
     {35.0 / 384, 0, 500.0 / 1113, 125.0 / 192, -2187.0 / 6784, 11.0 / 84}};
 constexpr double kHopeless = 1e30;  // an error above it, or no number
+constexpr double kTiny = 1e-300;
 
 constexpr double kErrors[kStages] = {71.0 / 57600,      0,          -71.0 / 16695, 71.0 / 1920,
                                      -17253.0 / 339200, 22.0 / 525, -1.0 / 40};
@@ -76,6 +77,40 @@ double Integrator::Error(double step, const Values& end) const {
   return worst;
 }
 
+/// The shortest step behind the event, in `trial_`: secants between a step before it and one behind
+/// it, where an end that stays has its value halved (the Illinois rule), and a bisection now and
+/// then against what no secant suits.
+double Integrator::Find(double step, double at_end, const Past& past) {
+  double before = 0, behind = step;
+  double value_before = std::min(past(time_, values_), -kTiny), value_behind = at_end;
+  bool last_before = false, last_behind = false;
+  for (int round = 1; behind - before > kEventTime; ++round) {
+    const double wide = behind - before;
+    double middle = before + wide / 2;
+    if (round % 4 != 0) {
+      middle = before + wide * (-value_before / (value_behind - value_before));
+      const double edge = std::min(kEventTime / 2, wide / 2);
+      middle = std::clamp(middle, before + edge, behind - edge);
+    }
+    if (!(middle > before && middle < behind)) break;
+    Try(middle, trial_);
+    const double value = past(time_ + middle, trial_);
+    if (value >= 0) {
+      behind = middle;
+      value_behind = value;
+      if (last_behind) value_before /= 2;
+    } else {
+      before = middle;
+      value_before = value;
+      if (last_before) value_behind /= 2;
+    }
+    last_behind = value >= 0;
+    last_before = !last_behind;
+  }
+  Try(behind, trial_);
+  return behind;
+}
+
 bool Integrator::Step(double limit, const Past& past) {
   double step = step_;
   for (;;) {
@@ -95,18 +130,9 @@ bool Integrator::Step(double limit, const Past& past) {
     }
     // A step cut short by a stop says little of the next.
     step_ = cut ? std::max(step_, step * change) : step * change;
-    double taken = step;
-    const bool event = past(cut ? limit : time_ + step, trial_);
-    if (event) {
-      double before = 0;
-      while (taken - before > kEventTime) {
-        const double middle = before + (taken - before) / 2;
-        if (!(middle > before && middle < taken)) break;
-        Try(middle, trial_);
-        (past(time_ + middle, trial_) ? taken : before) = middle;
-      }
-      Try(taken, trial_);
-    }
+    const double at_end = past(cut ? limit : time_ + step, trial_);
+    const bool event = at_end >= 0;
+    const double taken = event ? Find(step, at_end, past) : step;
     time_ = cut && taken == step ? limit : time_ + taken;
     values_.swap(trial_);
     slopes_[0].swap(slopes_[6]);

@@ -19,15 +19,16 @@ class Integrator {
  public:
   using Values = std::vector<double>;
   using Rates = std::function<void(double time, const Values& values, Values& rates)>;
-  using Past = std::function<bool(double time, const Values& values)>;
+  /// How far an event is past: at least 0 from its moment on, below 0 before it, and continuous.
+  using Past = std::function<double(double time, const Values& values)>;
 
   /// The error of a step is held to `tolerance` of each value, or of its floor where the value is
   /// smaller. `floors` has as many as there are values, all above 0.
   Integrator(Rates rates, double tolerance, Values floors);
 
   void Start(double time, Values values);
-  /// One step, to `limit` at the most. Where `past` turns true in it, it ends at the first moment
-  /// of that, to 1e-9 s, and the answer is yes.
+  /// One step, to `limit` at the most. Where `past` comes to 0 in it, it ends there, within 1e-9 s
+  /// behind that moment, and the answer is yes.
   bool Step(double limit, const Past& past);
 
   double Time() const { return time_; }
@@ -37,6 +38,7 @@ class Integrator {
 
  private:
   void Try(double step, Values& end);
+  double Find(double step, double at_end, const Past& past);
   double Error(double step, const Values& end) const;
   double First_Step() const;
 

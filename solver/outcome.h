@@ -49,6 +49,9 @@ struct Mass_Row {
   double Difference() const { return released - suspended - on_grid - off_grid; }
 };
 
+/// Less of anything is next to nothing: the listing shows it as 0, and a map of it is empty.
+inline constexpr double kLeastShown = 1e-12;
+
 /// Below this part of what was released a difference is the rounding of the sums.
 inline constexpr double kRounding = 1e-12;
 
