@@ -95,11 +95,13 @@ Column Part_Of(const Column& column, const Axis& axis, int side) {
 bool Cut(std::vector<Column>& columns, std::size_t families, const Model_Input& input,
          const Water& water, double time, double outlook) {
   struct Wish {
-    double bend = 0;
+    double gain = 0;
     std::size_t column = 0;
     Axis axis;
   };
   const double narrowest = 0.5 * std::max(input.spacing_x, input.spacing_z);
+  std::vector<double> received(families);
+  for (const Column& column : columns) received[column.family] += column.received;
   std::vector<Wish> wishes;
   for (std::size_t c = 0; c < columns.size(); ++c) {
     if (columns[c].held) continue;
@@ -107,10 +109,11 @@ bool Cut(std::vector<Column>& columns, std::size_t families, const Model_Input& 
     const Axis axis = Longer_Axis(figure.mean.spread);
     if (figure.mean.amount <= 0 || axis.sigma < narrowest) continue;
     const double bend = Bend(figure, axis, water, time, outlook);
-    if (bend > 1) wishes.push_back({bend, c, axis});
+    if (bend <= 1) continue;
+    wishes.push_back({bend * figure.mean.amount / received[columns[c].family], c, axis});
   }
   std::stable_sort(wishes.begin(), wishes.end(),
-                   [](const Wish& a, const Wish& b) { return a.bend > b.bend; });
+                   [](const Wish& a, const Wish& b) { return a.gain > b.gain; });
   bool any = false;
   for (const Wish& wish : wishes) {
     if (columns.size() + 2 > families + kMostCut) break;

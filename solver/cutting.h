@@ -21,7 +21,9 @@ inline constexpr std::size_t kMostCut = 200;    // columns that cutting may add
 /// Each becomes three along its longer axis, by the three-part split of a normal distribution
 /// (weights and places of DeMars, Bishop and Jah 2013; the variance is what is left): amount,
 /// centre and second moments of each layer stay. No cloud that is narrower than a cell is cut.
-/// The most bent are cut first, up to kMostCut columns above one a family.
+/// First come those of the largest bend times share of what their family received (200 columns in
+/// eddies of 2400 ft: 11 % off the exact means, 14 % by the bend alone), up to kMostCut columns
+/// above one a family.
 /// Returns whether any was cut.
 bool Cut(std::vector<Column>& columns, std::size_t families, const Model_Input& input,
          const Water& water, double time, double outlook);
