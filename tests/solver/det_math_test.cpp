@@ -11,7 +11,7 @@
 #include <limits>
 #include <random>
 
-#include "solver/verification.h"
+#include "tests/solver/verification.h"
 
 namespace companion {
 namespace {
