@@ -12,7 +12,7 @@ namespace companion {
 namespace {
 
 constexpr std::size_t kWidth = 98;
-constexpr std::size_t kCaptionWidth = 48;
+constexpr std::size_t kCaptionWidth = 54;
 
 }  // namespace
 

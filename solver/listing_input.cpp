@@ -44,7 +44,7 @@ std::string Site_Lines(const Model_Input& input, const Additions& additions) {
                      Depth_Of(depths, bottom, 0) + ", " + Depth_Of(depths, bottom, right) + " ft");
   }
   text += Caption_Line("Disposal point X, Z", Pair(input.vessel_x, input.vessel_z) + " ft");
-  text += Caption_Line("Slope of the bed along X, Z (+ pushes towards growing X, Z)",
+  text += Caption_Line("Slope along X, Z (+ pushes towards growing X, Z)",
                        Pair(input.slope_x, input.slope_z) + " deg");
   if (input.hole_depth > 0) {
     text += Caption_Line("Depression X, Z, depth",

@@ -22,6 +22,11 @@ std::string Amount_Unit(const Model_Input& input, std::size_t species) {
   return Tracer_Unit(input) == "%" ? "% ft3" : "mg/l ft3";
 }
 
+/// For reading: what is next to nothing is 0.
+std::string Shown(double value, int digits = 5) {
+  return Plain(std::abs(value) < kLeastShown ? 0 : value, digits);
+}
+
 /// Rows of a phase that are shown: its first, its last and others evenly between them.
 std::vector<std::size_t> Shown_Rows(std::size_t rows) {
   std::vector<std::size_t> shown;
@@ -52,7 +57,7 @@ std::string Phase_Rows(const Model_Input& input, const Phase& phase) {
             Right(Fixed(row.height, 2), 10) + Right(Fixed(row.speed, 3), 10) +
             Right(Fixed(row.downward, 3), 10) + Right(Fixed(row.density, 5), 10) +
             Right(Fixed(row.volume, 0), 12);
-    for (const double solid : row.solids) text += Right(Plain(solid, 6), 12);
+    for (const double solid : row.solids) text += Right(Shown(solid, 6), 12);
     text += kLineEnd;
   }
   return text;
@@ -107,16 +112,16 @@ std::string Zone_Text(const Model_Input& input, const std::string& what, const Z
 
 std::string Phases_Section(const Model_Input& input, const Outcome& outcome) {
   std::string text = Section_Heading("PHASES");
-  text += "       from        to     depth    radius    height   density  ended\r\n";
-  text += "          s         s        ft        ft        ft      g/cc\r\n";
+  text += "  Depth of the centre, radius, height and density are those at the end.\r\n";
+  text += "      from        to     depth    radius    height   density  phase; why it ended\r\n";
+  text += "         s         s        ft        ft        ft      g/cc\r\n";
   for (const Phase& phase : outcome.near_field.phases) {
-    text += "  " + phase.name + kLineEnd;
     if (phase.rows.empty()) continue;
     const Cloud_State& last = phase.rows.back();
-    text += Right(Fixed(phase.rows.front().t, 2), 11) + Right(Fixed(last.t, 2), 10) +
+    text += Right(Fixed(phase.rows.front().t, 2), 10) + Right(Fixed(last.t, 2), 10) +
             Right(Fixed(last.y, 2), 10) + Right(Fixed(last.radius, 1), 10) +
             Right(Fixed(last.height, 2), 10) + Right(Fixed(last.density, 5), 10) + "  " +
-            phase.end + kLineEnd;
+            phase.name + "; " + phase.end + kLineEnd;
   }
   for (const Phase& phase : outcome.near_field.phases) {
     const bool falls = phase.kind == Phase_Kind::Descent;
@@ -135,7 +140,7 @@ std::string Balance_Section(const Model_Input& input, const Outcome& outcome) {
     const Mass_Row& row = outcome.masses[first + s];
     text += "  " + Left(Species_Name(input, s), 12) + Right(Amount_Unit(input, s), 10);
     for (const double amount : {row.released, row.suspended, row.on_grid, row.off_grid}) {
-      text += Right(Plain(amount, 6), 16);
+      text += Right(Shown(amount, 6), 16);
     }
     text += Right(Plain(std::abs(row.Difference()) < kRounding * std::abs(row.released)
                             ? 0
@@ -154,6 +159,9 @@ std::string Balance_Section(const Model_Input& input, const Outcome& outcome) {
     }
     text += kLineEnd;
   }
+  text += kLineEnd;
+  text += Caption_Line("Largest difference at any output time, of the release",
+                       Plain(outcome.worst_balance, 2));
   if (!outcome.drift.empty()) {
     text += kLineEnd;
     text += "  What is suspended: share of the release, centre, spread in plan\r\n";
@@ -181,31 +189,31 @@ std::string Maxima_Section(const Model_Input& input, const Outcome& outcome) {
   text +=
       "  Falling clouds count in none of them. With the background.\r\n" + std::string(kLineEnd);
   text += "  Means over a cell\r\n";
-  text += "  species      depth  area            value  unit       at t        X        Z\r\n";
-  text += "                  ft                                       s       ft       ft\r\n";
+  text += "  species      depth  area              value  unit       at t        X        Z\r\n";
+  text += "                  ft                                         s       ft       ft\r\n";
   for (std::size_t s = 0; s < input.Species(); ++s) {
     for (std::size_t d = 0; d < input.output_depths.size(); ++d) {
       for (const Named_Area& area : areas) {
         const Spot& spot = outcome.cell_spots[s][d][static_cast<std::size_t>(area.area)];
         text += "  " + Left(Species_Name(input, s), 10) + Right(Plain(input.output_depths[d]), 8) +
-                "  " + Left(area.name, 12) + Right(Plain(spot.value), 9) + "  " +
+                "  " + Left(area.name, 12) + Right(Shown(spot.value), 11) + "  " +
                 Left(Unit_Of(input, s), 4);
-        if (spot.found && spot.value > Base_Of(input, s)) text += Place(spot);
+        if (spot.found && spot.value > Base_Of(input, s) + kLeastShown) text += Place(spot);
         text += kLineEnd;
       }
     }
   }
   text += kLineEnd;
   text += "  At any point and depth (no matter how wide a cell is)\r\n";
-  text += "  species      depth  area            value  unit       at t        X        Z\r\n";
-  text += "                  ft                                       s       ft       ft\r\n";
+  text += "  species      depth  area              value  unit       at t        X        Z\r\n";
+  text += "                  ft                                         s       ft       ft\r\n";
   for (std::size_t s = 0; s < input.Species(); ++s) {
     for (const Named_Area& area : areas) {
       const Spot& spot = outcome.point_spots[s][static_cast<std::size_t>(area.area)];
-      const bool above = spot.found && spot.value > Base_Of(input, s);
+      const bool above = spot.found && spot.value > Base_Of(input, s) + kLeastShown;
       text += "  " + Left(Species_Name(input, s), 10) +
               Right(above ? Fixed(spot.depth, 1) : "-", 8) + "  " + Left(area.name, 12) +
-              Right(Plain(spot.value), 9) + "  " + Left(Unit_Of(input, s), 4);
+              Right(Shown(spot.value), 11) + "  " + Left(Unit_Of(input, s), 4);
       if (above) text += Place(spot);
       text += kLineEnd;
     }

@@ -16,7 +16,7 @@ namespace companion {
 /// every cell is the base.
 struct Cell_Map {
   double time = 0;  // s
-  std::size_t species = 0;
+  int number = 0;   // of the species as the outputs count them, from 1; 0: all solids
   double depth = 0;  // ft
   double base = 0;
   int top = 0, bottom = -1, left = 0, right = -1;
@@ -48,6 +48,9 @@ struct Mass_Row {
 
   double Difference() const { return released - suspended - on_grid - off_grid; }
 };
+
+/// Less of anything is next to nothing: the listing shows it as 0, and a map of it is empty.
+inline constexpr double kLeastShown = 1e-12;
 
 /// Below this part of what was released a difference is the rounding of the sums.
 inline constexpr double kRounding = 1e-12;

@@ -246,4 +246,29 @@ void Check_Load(const std::string& file, const Model_Input& input, double tracer
   }
 }
 
+void Check_Land(const std::string& file, const Model_Input& input, const Additions& additions) {
+  if (input.constant_depth) return;
+  const auto& depths = additions.depths.empty() ? input.depths : additions.depths;
+  int line = 1;
+  for (const Entry& entry : input.entries) {
+    if (entry.name == "ConstantDepthFlag") line = entry.line;
+  }
+  const auto wet = [](double depth) { return depth > 0; };
+  if (std::none_of(depths.begin(), depths.end(), [&](const std::vector<double>& row) {
+        return std::any_of(row.begin(), row.end(), wet);
+      })) {
+    throw Refusal(file, line, "DepthGrid is land everywhere: no depth is above 0");
+  }
+  const double x = input.vessel_x / input.spacing_x, z = input.vessel_z / input.spacing_z;
+  const auto at = [](double place, std::size_t points) {
+    return static_cast<std::size_t>(
+        std::clamp(std::floor(place), 0.0, static_cast<double>(points - 2)));
+  };
+  const std::size_t i = at(x, depths.size()), k = at(z, depths.front().size());
+  if (!wet(depths[i][k]) && !wet(depths[i + 1][k]) && !wet(depths[i][k + 1]) &&
+      !wet(depths[i + 1][k + 1])) {
+    throw Refusal(file, line, "DepthGrid is land around the disposal point");
+  }
+}
+
 }  // namespace companion

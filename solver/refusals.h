@@ -30,4 +30,7 @@ void Check_Values(const std::string& file, const Additions& additions);
 /// of what the fluid carries. `tracer` is that excess of the whole load.
 void Check_Load(const std::string& file, const Model_Input& input, double tracer);
 
+/// Refuses a depth grid that is land alone, or land around the disposal point.
+void Check_Land(const std::string& file, const Model_Input& input, const Additions& additions);
+
 }  // namespace companion

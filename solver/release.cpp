@@ -113,13 +113,13 @@ double Tracer_Amount(const Model_Input& input, const Batch& batch) {
     case Evaluation::Tracer:
     case Evaluation::Criterion:
     case Evaluation::Zone_Criterion:
-      return (fluid.concentration - fluid.background) * fluid_volume;
+      return std::max(0.0, (fluid.concentration - fluid.background) * fluid_volume);
     case Evaluation::Toxicity:
     case Evaluation::Zone_Toxicity:
       return 100 * fluid_volume;
     case Evaluation::Sediment:
     case Evaluation::Zone_Sediment:
-      return fluid.concentration * volume - fluid.background * fluid_volume;
+      return std::max(0.0, fluid.concentration * volume - fluid.background * fluid_volume);
   }
   return 0;
 }

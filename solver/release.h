@@ -50,7 +50,7 @@ struct Release {
 };
 
 /// What the fluid of a batch carries over the background, by the evaluation: (mg/l) ft3, or % ft3
-/// for the toxicity evaluations; 0 where there is none.
+/// for the toxicity evaluations; 0 where there is none, and where it holds less than the water.
 double Tracer_Amount(const Model_Input& input, const Batch& batch);
 
 /// Radius of a capsule of a volume, ft3, that is `whole` ft long from end to end; of a ball where

@@ -19,7 +19,7 @@ std::string Sci_Row(std::initializer_list<double> values) {
 }
 
 void Append_Map(std::string& text, const char* tag, const Cell_Map& map) {
-  text += tag + Sci(map.time) + Int(Number_Of(map.species)) + Sci(map.depth) + Sci(map.base);
+  text += tag + Sci(map.time) + Int(map.number) + Sci(map.depth) + Sci(map.base);
   for (const int edge : {map.top, map.bottom, map.left, map.right}) text += Int(edge + 1);
   text += kLineEnd;
   std::size_t at = 0;
