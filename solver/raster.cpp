@@ -10,6 +10,8 @@ namespace companion {
 namespace {
 
 constexpr double kUpright = 1e-7;     // correlation up to which a part counts as not tilted
+constexpr double kWidestStrip = 1.5;  // conditional standard deviations that a strip may carry
+constexpr int kMostPieces = 8;        // of a strip
 constexpr double kThinStrip = 1e-14;  // share of a strip below which its middle stands for it
 
 /// A part as its distribution along X and the one along Z at a place of X.
@@ -116,11 +118,21 @@ void Raster::Put(const Part& part, double squared_reach) {
     fill(part.z, upright_sigma, strip_first, strip_last);
   }
 
-  double lower = ((first - 0.5) * spacing_x_ - part.x) * per_sigma;
+  // Where the tilt carries a strip across more than its own width, it is taken in pieces.
+  const double carried = std::abs(tilt.slope) * spacing_x_;
+  const int pieces = carried > kWidestStrip * upright_sigma
+                         ? static_cast<int>(std::ceil(std::min<double>(
+                               kMostPieces, carried / (kWidestStrip * upright_sigma))))
+                         : 1;
+  const double width = spacing_x_ / pieces;
+  const double start = (first - 0.5) * spacing_x_ - part.x;
+  double lower = start * per_sigma;
   double below = normal.Below(lower);
   double lower_density = tilt.slope == 0 ? 0 : normal.Density(lower);
-  for (int i = first; i <= last; ++i) {
-    const double upper = ((i + 0.5) * spacing_x_ - part.x) * per_sigma;
+  const int strips = (last - first + 1) * pieces;
+  for (int strip = 0; strip < strips; ++strip) {
+    const int i = first + strip / pieces;
+    const double upper = (start + (strip + 1) * width) * per_sigma;
     const double upto = normal.Below(upper);
     const double share = std::max(0.0, upto - below);
     const double nearest = lower > 0 ? lower : upper < 0 ? upper : 0;
@@ -141,7 +153,7 @@ void Raster::Put(const Part& part, double squared_reach) {
       variance = std::clamp(variance, 0.0, most) * tilt.variance_x;
       const double sigma = std::sqrt(tilt.variance_z + tilt.slope * tilt.slope * variance);
       const double centre = part.z + tilt.slope * tilt.sigma_x * middle;
-      const double wide = rest * upright_sigma + std::abs(tilt.slope) * spacing_x_;
+      const double wide = rest * upright_sigma + std::abs(tilt.slope) * width;
       Cells_Between(centre - wide, centre + wide, spacing_z_, points_z_, from, to);
       if (from <= to) fill(centre, sigma, from, to);
     }
