@@ -38,7 +38,16 @@ enum Index : std::size_t {
   kFirstLost,  // of each fraction, logarithm
 };
 
-constexpr double kSpeedFloor = 0.001;  // ft/s, below which a speed's error counts as of this
+constexpr double kLossFloor = 10;       // of the logarithm of a loss, which kinks with the speed
+constexpr double kSmoothSpeed = 0.001;  // ft/s, over which a speed's size turns at 0
+
+/// |speed| without a kink, which would cost a cloud that floats up and down most of its steps.
+double Smooth_Size(double speed) {
+  const double square = speed * speed;
+  return square / std::sqrt(square + kSmoothSpeed * kSmoothSpeed);
+}
+
+constexpr double kSpeedFloor = 0.1;  // ft/s, below which a speed's error counts as of this
 
 }  // namespace
 
@@ -134,7 +143,7 @@ void Collapse::Work::Begin() {
   state[kSpeedX] = origin.velocity_x;
   state[kSpeedZ] = origin.velocity_z;
   state[kDownward] = on_bed ? 0 : origin.downward;
-  Integrator::Values floors(kFirstLost + solids, 1);
+  Integrator::Values floors(kFirstLost + solids, kLossFloor);
   floors[kX] = floors[kZ] = floors[kDown] = floors[kRadius] = std::max(origin.radius, 1e-3);
   floors[kFluid] = std::max(origin.Volume(), 1e-9);
   floors[kFluidMass] = floors[kFluid];
@@ -238,7 +247,7 @@ void Collapse::Work::Losses(const View& seen, Integrator::Values& rates) const {
       if (kind.critical_shear > 0) leaving *= std::max(0.0, 1 - stress / kind.critical_shear);
     } else {
       leaving = coefficients.BETA * leaving +
-                (1 - coefficients.BETA) * std::max(0.0, leaving - std::abs(cloud.downward));
+                (1 - coefficients.BETA) * std::max(0.0, leaving - Smooth_Size(cloud.downward));
     }
     rates[kFirstLost + i] = std::max(0.0, leaving / cloud.height);
   }
@@ -278,10 +287,10 @@ void Collapse::Work::Rates(double time, const Integrator::Values& state,
     rates[kSpeedZ] += weight * slope_z - rubbing * cloud.velocity_z;
   } else {
     rates[kDown] = cloud.downward;
-    rates[kDownward] =
-        (weight - half * coefficients.CD4 * seen.area * std::abs(cloud.downward) * cloud.downward) /
-            (mass_factor * seen.mass) -
-        seen.water_density * inflow * cloud.downward / seen.mass;
+    rates[kDownward] = (weight - half * coefficients.CD4 * seen.area * Smooth_Size(cloud.downward) *
+                                     cloud.downward) /
+                           (mass_factor * seen.mass) -
+                       seen.water_density * inflow * cloud.downward / seen.mass;
   }
   rates[kSpeedX] /= seen.mass;
   rates[kSpeedZ] /= seen.mass;
