@@ -77,6 +77,7 @@ struct Entry {
   std::string name;
   std::string unit;
   std::string text;
+  int line = 0;  // of the input, from 1
 };
 
 /// Every quantity of the model input, in the units of the input. X runs from top to bottom and is

@@ -28,16 +28,22 @@ struct Phase {
   std::string name;                  // "Descent of cloud 1 of layer 2"
   std::string end;                   // why it ended: "bed", "neutral", ...
   std::vector<Cloud_State> rows;     // every accepted step's end or a thinned choice of them
+  // What left on the way, a species: off the skin, out of the foot, onto the bed; and what is left
+  // at the end.
+  std::vector<double> washed, fallen, settled, left;
 };
 
 /// The clouds in motion at a moment, as their hand-over at that moment would be.
 struct Moving {
   double time = 0;
+  std::vector<double> released;    // a species: what has left the vessel by then
   std::vector<Source> falling;     // counts in maps and balance
   std::vector<Source> collapsing;  // counts in maxima as well
 };
 
-/// Everything up to the passive transport.
+/// Everything up to the passive transport. At every stop a species' released amount is what
+/// the clouds in motion, the sources and the deposits up to then hold, to rounding. A cloud that is
+/// in motion when the run ends stands in the last stop alone: no source hands it over.
 struct Near_Field {
   std::vector<Phase> phases;
   std::vector<Source> sources;     // in the order of their times

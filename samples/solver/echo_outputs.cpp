@@ -32,7 +32,7 @@ std::string Head(const Model_Input& input, const std::string& what) {
 
 std::string Listing(const Model_Input& input) {
   std::string text = Head(input, "Every value");
-  for (const Entry& entry : input.entries) {
+  for (const companion::Entry& entry : input.entries) {
     if (entry.name.empty()) {
       text += kEnd + entry.text + kEnd;
       continue;

@@ -2,9 +2,11 @@
 
 #include <string>
 
-#include "due_reader.h"
+#include "solver/model_input.h"
 
 namespace echo {
+
+using companion::Model_Input;
 
 /// The contents of the four outputs. Each says in its first line that nothing was simulated.
 std::string Listing(const Model_Input& input);      // tmpfile.duo: every value

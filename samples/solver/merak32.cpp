@@ -14,8 +14,9 @@
 #include <utility>
 #include <vector>
 
-#include "due_reader.h"
 #include "echo_outputs.h"
+#include "solver/due_reader.h"
+#include "solver/marker.h"
 
 namespace {
 
@@ -68,11 +69,11 @@ bool Write(const std::string& name, const std::string& bytes) {
 
 int main() {
   std::printf("%s\n", echo::kNothingSimulated);
-  echo::Model_Input input;
+  companion::Model_Input input;
   try {
     const std::string marker = Found_Name("KOLBREE.TMP");
-    const std::string due = Found_Name(echo::Read_Marker(marker, Contents(marker)));
-    input = echo::Read_Model_Input(due, Contents(due));
+    const std::string due = Found_Name(companion::Read_Marker(marker, Contents(marker)));
+    input = companion::Read_Model_Input(due, Contents(due));
   } catch (const std::exception& refusal) {
     std::fprintf(stderr, "merak32 (input echo): %s\n", refusal.what());
     return kRefused;

@@ -1,6 +1,7 @@
-#include "due_reader.h"
 #include "echo_outputs.h"
 #include "fuzz/readers.h"
+#include "solver/due_reader.h"
+#include "solver/marker.h"
 
 namespace barvon::fuzz {
 namespace {
@@ -10,20 +11,21 @@ std::vector<std::string> Markers() { return {"/data/site.DUE\r\n", "site.due"}; 
 
 void Read_Input(std::string_view bytes) {
   try {
-    const echo::Model_Input input = echo::Read_Model_Input("site.due", std::string(bytes));
+    const companion::Model_Input input =
+        companion::Read_Model_Input("site.due", std::string(bytes));
     echo::Listing(input);
     echo::Grid_Lines(input);
     echo::Time_Lines(input);
     echo::Depth_Lines(input);
-  } catch (const echo::Refusal&) {
+  } catch (const companion::Refusal&) {
     // In words, with the line: how an input ends that is none.
   }
 }
 
 void Read_Marker(std::string_view bytes) {
   try {
-    echo::Read_Marker("KOLBREE.TMP", std::string(bytes));
-  } catch (const echo::Refusal&) {
+    companion::Read_Marker("KOLBREE.TMP", std::string(bytes));
+  } catch (const companion::Refusal&) {
     // As above.
   }
 }

@@ -1,12 +1,13 @@
-#include "due_fields.h"
+#include "solver/due_fields.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <string_view>
+#include <system_error>
 
-namespace echo {
+namespace companion {
 namespace {
 
 constexpr std::size_t kLongestLine = 4096;
@@ -34,8 +35,8 @@ int Significant_Digits(std::string_view mantissa) {
   return digits;
 }
 
-/// True for the default text form and nothing else: no "+", no leading or trailing zeros, no more
-/// than 15 digits. That strictness is what tells two numbers apart that run into each other.
+}  // namespace
+
 bool Is_Number(std::string_view text) {
   if (!text.empty() && text.front() == '-') text.remove_prefix(1);
   const std::size_t whole = Skip_Digits(text, 0);
@@ -59,6 +60,8 @@ bool Is_Number(std::string_view text) {
   return exponent + digits == text.size() && (digits == 2 || digits == 3);
 }
 
+namespace {
+
 /// The beginning of a number: what is left when a text is cut after its tenth character.
 bool Is_Cut_Number(std::string_view text) {
   if (!text.empty() && text.front() == '-') text.remove_prefix(1);
@@ -69,25 +72,25 @@ bool Is_Cut_Number(std::string_view text) {
   return Is_Number(text);
 }
 
-bool Fits(std::string_view text, Kind kind) {
+bool Fits(std::string_view text, Field_Kind kind) {
   switch (kind) {
-    case Kind::Integer:
+    case Field_Kind::Integer:
       return Is_Integer(text);
-    case Kind::Number:
+    case Field_Kind::Number:
       return Is_Number(text);
-    case Kind::Cut_Number:
+    case Field_Kind::Cut_Number:
       return Is_Cut_Number(text);
-    case Kind::Print_Time:
+    case Field_Kind::Print_Time:
       return text.size() > 2 && text.substr(text.size() - 2) == ".0" &&
              Is_Number(text.substr(0, text.size() - 2));
-    case Kind::Name:
+    case Field_Kind::Name:
       break;
   }
   return true;
 }
 
-std::string_view Without_Padding(std::string_view column, Kind kind) {
-  if (kind == Kind::Name) {
+std::string_view Without_Padding(std::string_view column, Field_Kind kind) {
+  if (kind == Field_Kind::Name) {
     while (!column.empty() && column.back() == ' ') column.remove_suffix(1);
   } else {
     while (!column.empty() && column.front() == ' ') column.remove_prefix(1);
@@ -97,11 +100,11 @@ std::string_view Without_Padding(std::string_view column, Kind kind) {
 
 /// A column of this width holds the field: padded when it is of the field's own width, without a
 /// blank to spare when it is wider.
-bool Column_Fits(std::string_view column, const Field& field) {
+bool Column_Fits(std::string_view column, const Due_Field& field) {
   if (column.size() > static_cast<std::size_t>(field.width)) {
     if (column.front() == ' ' || column.back() == ' ') return false;
-    if (field.kind == Kind::Cut_Number) return false;
-    if (field.kind != Kind::Name && column.size() > kWidestNumber) return false;
+    if (field.kind == Field_Kind::Cut_Number) return false;
+    if (field.kind != Field_Kind::Name && column.size() > kWidestNumber) return false;
   }
   return Fits(Without_Padding(column, field.kind), field.kind);
 }
@@ -110,7 +113,7 @@ bool Column_Fits(std::string_view column, const Field& field) {
 /// are (2 stands for more than one) to read fields f and following from column `at`.
 class Divider {
  public:
-  Divider(std::string_view line, const std::vector<Field>& fields)
+  Divider(std::string_view line, const std::vector<Due_Field>& fields)
       : line_(line),
         fields_(fields),
         ways_(fields.size() + 1, std::vector<int>(line.size() + 1, 0)) {
@@ -144,7 +147,8 @@ class Divider {
   int Count(std::size_t f, std::size_t at) const {
     int ways = 0;
     std::size_t widest = line_.size() - at;
-    if (fields_[f].kind != Kind::Name) widest = std::min(widest, std::max(kWidestNumber, Least(f)));
+    if (fields_[f].kind != Field_Kind::Name)
+      widest = std::min(widest, std::max(kWidestNumber, Least(f)));
     for (std::size_t width = Least(f); width <= widest && ways < 2; ++width) {
       if (Leads_On(f, at, width)) ways += ways_[f + 1][at + width];
     }
@@ -152,7 +156,7 @@ class Divider {
   }
 
   std::string_view line_;
-  const std::vector<Field>& fields_;
+  const std::vector<Due_Field>& fields_;
   std::vector<std::vector<int>> ways_;
 };
 
@@ -161,14 +165,14 @@ std::string Columns(std::size_t from, std::size_t width) {
 }
 
 /// The first field that its own columns don't hold; empty when all of them do.
-std::string First_Fault(std::string_view line, const std::vector<Field>& fields) {
+std::string First_Fault(std::string_view line, const std::vector<Due_Field>& fields) {
   std::size_t at = 0;
-  for (const Field& field : fields) {
+  for (const Due_Field& field : fields) {
     const auto width = static_cast<std::size_t>(field.width);
     const std::string_view column = line.substr(at, width);
     if (!Column_Fits(column, field)) {
       return Columns(at, width) + ": \"" + std::string(column) + "\" is no " +
-             (field.kind == Kind::Integer ? "whole number" : "number") + " for " + field.name;
+             (field.kind == Field_Kind::Integer ? "whole number" : "number") + " for " + field.name;
     }
     at += width;
   }
@@ -178,11 +182,27 @@ std::string First_Fault(std::string_view line, const std::vector<Field>& fields)
 }  // namespace
 
 Refusal::Refusal(const std::string& file, int line, const std::string& reason)
-    : std::runtime_error(file + ", line " + std::to_string(line) + ": " + reason) {}
+    : std::runtime_error(file + ", line " + std::to_string(line) + ": " + reason),
+      file_(file),
+      line_(line),
+      reason_(reason) {}
 
-std::vector<std::string> Split_Line(const std::string& line, const std::vector<Field>& fields) {
+std::vector<std::string> Lines_Of(const std::string& bytes) {
+  std::vector<std::string> lines;
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    const std::size_t end = std::min(bytes.find('\n', at), bytes.size());
+    std::string line = bytes.substr(at, end - at);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(std::move(line));
+    at = end + 1;
+  }
+  return lines;
+}
+
+std::vector<std::string> Split_Line(const std::string& line, const std::vector<Due_Field>& fields) {
   std::size_t expected = 0;
-  for (const Field& field : fields) expected += static_cast<std::size_t>(field.width);
+  for (const Due_Field& field : fields) expected += static_cast<std::size_t>(field.width);
   const std::string counts = std::to_string(line.size()) + " columns where " +
                              std::to_string(expected) + " are expected, for " +
                              fields.front().name +
@@ -198,12 +218,16 @@ std::vector<std::string> Split_Line(const std::string& line, const std::vector<F
   throw fault.empty() ? counts : fault;
 }
 
-double Value_Of(const std::string& text, Kind kind) {
-  if (kind == Kind::Name) return 0;
-  const std::size_t size = text.size() - (kind == Kind::Print_Time ? 2 : 0);
+double Value_Of(const std::string& text, Field_Kind kind) {
+  if (kind == Field_Kind::Name) return 0;
+  const std::size_t size = text.size() - (kind == Field_Kind::Print_Time ? 2 : 0);
   double value = 0;
-  std::from_chars(text.data(), text.data() + size, value);
+  const auto read = std::from_chars(text.data(), text.data() + size, value);
+  if (read.ec == std::errc::result_out_of_range) {
+    if (text.find("E-") == std::string::npos) throw text + " is larger than any number";
+    return 0;
+  }
   return value;
 }
 
-}  // namespace echo
+}  // namespace companion

@@ -1,0 +1,116 @@
+#include "solver/drift.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "solver/det_math.h"
+
+namespace companion {
+namespace {
+
+/// C <- M C M^T, M = 1 + A + A2/2: the strain A over a time to the second order.
+void Deform(Plan_Moments& moments, const std::array<double, 4>& strain, double seconds) {
+  const double a = strain[0] * seconds, b = strain[1] * seconds;
+  const double c = strain[2] * seconds, d = strain[3] * seconds;
+  const double xx = 1 + a + 0.5 * (a * a + b * c), xz = b + 0.5 * b * (a + d);
+  const double zx = c + 0.5 * c * (a + d), zz = 1 + d + 0.5 * (b * c + d * d);
+  const Plan_Moments old = moments;
+  const double up = xx * old.xx + xz * old.xz, right = xx * old.xz + xz * old.zz;
+  const double low = zx * old.xx + zz * old.xz, across = zx * old.xz + zz * old.zz;
+  moments.xx = up * xx + right * xz;
+  moments.xz = up * zx + right * zz;
+  moments.zz = low * zx + across * zz;
+}
+
+}  // namespace
+
+double Growth(double determinant, double dissipation, double seconds) {
+  if (dissipation <= 0) return 0;
+  // 4^(4/3)
+  constexpr double kPowerOfWidth = 6.3496042078727974;
+  static_assert(kDiffusionWidth == 4);
+  const double root = Cbrt(std::sqrt(std::max(determinant, 0.0)));
+  const double more = 2.0 / 3 * kPowerOfWidth * dissipation * seconds;
+  const double later = root + more;
+  return more * (later * later + later * root + root * root);
+}
+
+Drift::Drift(const Model_Input& input, const Water& water, int layers)
+    : input_(input),
+      water_(water),
+      uniform_(input.constant_depth && input.velocity_type != 4),
+      level_(input.constant_depth && !(input.hole_depth > 0)),
+      currents_(static_cast<std::size_t>(layers)) {
+  for (int l = 0; l < layers; ++l) middles_.push_back(Middle_Share(l, layers));
+  for (int i = 0; i < input.points_x && !has_land_; ++i)
+    for (int k = 0; k < input.points_z && !has_land_; ++k) has_land_ = water.Land_Point(i, k);
+}
+
+void Drift::Drift_Uniform(Column& column, double time, double seconds) {
+  const double middle = time + 0.5 * seconds;
+  const bool steady = input_.velocity_type != 5;
+  if (known_time_ < 0 || (!steady && known_time_ != middle)) {
+    known_time_ = middle;
+    for (std::size_t l = 0; l < currents_.size(); ++l)
+      currents_[l] = water_.Current_At_Share(0, 0, middles_[l], middle);
+  }
+  for (std::size_t l = 0; l < currents_.size(); ++l) {
+    column.layers[l].x += currents_[l].x * seconds;
+    column.layers[l].z += currents_[l].z * seconds;
+  }
+}
+
+void Drift::Drift_Layer(Layer& layer, double share, double time, double seconds) {
+  int parts = 1;
+  for (int part = 0; part < parts; ++part) {
+    if (has_land_ && water_.Land_Cell(layer.x, layer.z)) return;
+    const double length = seconds / parts;
+    const double start = time + part * length;
+    const Velocity first = water_.Current_At_Share(layer.x, layer.z, share, start);
+    const double x = layer.x + 0.5 * length * first.x, z = layer.z + 0.5 * length * first.z;
+    std::array<double, 4> strain{};
+    if (water_.Strains()) strain = water_.Strain(x, z, share, start + 0.5 * length);
+    if (parts == 1) {
+      double most = 0;
+      for (const double entry : strain) most = std::max(most, std::abs(entry) * seconds);
+      double wanted = most / kGreatestTurn;
+      // Land must not be stepped over.
+      if (has_land_)
+        wanted = std::max({wanted, 2 * std::abs(first.x) * seconds / input_.spacing_x,
+                           2 * std::abs(first.z) * seconds / input_.spacing_z});
+      if (wanted > 1) {
+        parts = wanted < kMostParts ? static_cast<int>(std::ceil(wanted)) : kMostParts;
+        part = -1;
+        continue;
+      }
+    }
+    const Velocity middle = water_.Current_At_Share(x, z, share, start + 0.5 * length);
+    layer.x += length * middle.x;
+    layer.z += length * middle.z;
+    if (water_.Strains()) Deform(layer.spread, strain, length);
+  }
+}
+
+void Drift::Move(Column& column, double time, double seconds) {
+  const double dissipation = input_.coefficients.ALAMDA;
+  const bool moves = !column.held;
+  if (moves && uniform_) Drift_Uniform(column, time, seconds);
+  for (std::size_t l = 0; l < column.layers.size(); ++l) {
+    Layer& layer = column.layers[l];
+    if (layer.amount <= 0) continue;
+    // Half the diffusion before the strain and half behind it.
+    Plan_Moments& s = layer.spread;
+    const double half = 0.5 * Growth(s.xx * s.zz - s.xz * s.xz, dissipation, seconds);
+    s.xx += half;
+    s.zz += half;
+    if (moves && !uniform_) Drift_Layer(layer, middles_[l], time, seconds);
+    s.xx += half;
+    s.zz += half;
+  }
+  if (!moves || level_) return;
+  const Layer whole = Whole(column);
+  if (whole.amount <= 0 || (has_land_ && water_.Land_Cell(whole.x, whole.z))) return;
+  column.depth = water_.Bed(whole.x, whole.z);
+}
+
+}  // namespace companion

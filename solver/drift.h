@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "solver/column.h"
+#include "solver/model_input.h"
+#include "solver/water.h"
+
+namespace companion {
+
+inline constexpr double kDiffusionWidth = 4;   // standard deviations in the 4/3 law's width
+inline constexpr double kGreatestTurn = 0.25;  // of an entry of the strain over one part of a step
+inline constexpr int kMostParts = 64;          // of a step that is cut
+
+/// Growth of a variance over a time by the 4/3 law (Richardson 1926; Okubo 1971), ft2: diffusivity
+/// ALAMDA (4 sigma)^(4/3), solved exactly for a round cloud, sigma2 the root of the determinant.
+double Growth(double determinant, double dissipation, double seconds);
+
+/// What acts within the layers of a column: drift, strain, horizontal diffusion.
+class Drift {
+ public:
+  Drift(const Model_Input& input, const Water& water, int layers);
+
+  /// Moves the centres by the midpoint rule, the spread by the strain of the current and by
+  /// diffusion. Over land, and in a column that the depression holds, diffusion alone acts. The
+  /// column's depth follows its centre unless that lies over land.
+  void Move(Column& column, double time, double seconds);
+
+ private:
+  void Drift_Uniform(Column& column, double time, double seconds);
+  void Drift_Layer(Layer& layer, double share, double time, double seconds);
+
+  const Model_Input& input_;
+  const Water& water_;
+  bool uniform_, level_, has_land_ = false;
+  std::vector<double> middles_;
+  std::vector<Velocity> currents_;  // of uniform water
+  double known_time_ = -1;          // of the currents
+};
+
+}  // namespace companion

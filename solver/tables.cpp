@@ -1,0 +1,91 @@
+#include "solver/tables.h"
+
+#include <initializer_list>
+
+#include "solver/number_text.h"
+
+namespace companion {
+namespace {
+
+constexpr std::size_t kNameColumns = 10;
+constexpr std::size_t kUnitColumns = 4;
+
+long Number_Of(std::size_t species) { return static_cast<long>(species) + 1; }
+
+std::string Sci_Row(std::initializer_list<double> values) {
+  std::string text;
+  for (const double value : values) text += Sci(value);
+  return text;
+}
+
+void Append_Map(std::string& text, const char* tag, const Cell_Map& map) {
+  text += tag + Sci(map.time) + Int(map.number) + Sci(map.depth) + Sci(map.base);
+  for (const int edge : {map.top, map.bottom, map.left, map.right}) text += Int(edge + 1);
+  text += kLineEnd;
+  std::size_t at = 0;
+  for (int i = map.top; i <= map.bottom; ++i) {
+    for (int k = map.left; k <= map.right; ++k) text += Map_Number(map.values[at++]);
+    text += kLineEnd;
+  }
+}
+
+}  // namespace
+
+std::string Label() {
+  return std::string("COMPANION SOLVER ") + kVersion +
+         " - a model of its own from general fluid dynamics; not a validated code for permits.";
+}
+
+std::string Head(const Model_Input& input, const std::string& what) {
+  return Label() + kLineEnd + what + " of \"" + input.title + "\"" + kLineEnd;
+}
+
+std::string Phase_Table(const Model_Input& input, const Outcome& outcome) {
+  std::string text = Head(input, "Descent and collapse");
+  long number = 0;
+  for (const Phase& phase : outcome.near_field.phases) {
+    text += "PHAS " + Int(++number) + "  " + phase.name + "; ended: " + phase.end + kLineEnd;
+    for (const Cloud_State& row : phase.rows) {
+      text += "STEP " + Sci_Row({row.t, row.x, row.z, row.y, row.radius, row.height, row.speed,
+                                 row.downward, row.density, row.volume});
+      for (const double solid : row.solids) text += Sci(solid);
+      text += kLineEnd;
+    }
+  }
+  return text;
+}
+
+std::string Series_Table(const Model_Input& input, const Outcome& outcome) {
+  std::string text = Head(input, "Time series");
+  for (std::size_t species = 0; species < input.Species(); ++species) {
+    const std::string unit = species < input.Solids() ? "mg/l" : Tracer_Unit(input);
+    text += "SPEC " + Int(Number_Of(species)) + "  " +
+            Left(Species_Name(input, species), kNameColumns) + Left(unit, kUnitColumns) + kLineEnd;
+  }
+  for (const Maxima_Row& row : outcome.maxima) {
+    text += "MAXI " + Sci(row.time) + Int(Number_Of(row.species)) +
+            Sci_Row({row.depth, row.inside, row.outside, row.outside_zid}) + kLineEnd;
+  }
+  for (const Peak_Row& row : outcome.peaks) {
+    const Spot& spot = row.spot;
+    text += "PEAK " + Sci(spot.time) + Int(Number_Of(row.species)) +
+            Sci_Row({spot.value, spot.x, spot.z, spot.depth}) + kLineEnd;
+  }
+  for (const Mass_Row& row : outcome.masses) {
+    text += "MASS " + Sci(row.time) + Int(Number_Of(row.species)) +
+            Sci_Row({row.suspended, row.on_grid, row.off_grid, row.released}) + kLineEnd;
+  }
+  return text;
+}
+
+std::string Map_Table(const Model_Input& input, const Outcome& outcome) {
+  std::string text = Head(input, "Maps");
+  text += "GRID " + Int(input.points_x) + Int(input.points_z) + Sci(input.spacing_x) +
+          Sci(input.spacing_z) + kLineEnd;
+  for (const Cell_Map& map : outcome.maps) Append_Map(text, "MAP  ", map);
+  for (const Cell_Map& map : outcome.beds) Append_Map(text, "BED  ", map);
+  for (const Cell_Map& map : outcome.most) Append_Map(text, "MOST ", map);
+  return text;
+}
+
+}  // namespace companion

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "solver/model_input.h"
+#include "solver/outcome.h"
+
+namespace companion {
+
+inline constexpr char kVersion[] = "1.0";
+inline constexpr char kLineEnd[] = "\r\n";
+
+/// First line of every output and of standard output.
+std::string Label();
+/// Two lines: the label, and what it is of which project.
+std::string Head(const Model_Input& input, const std::string& what);
+
+std::string Phase_Table(const Model_Input& input, const Outcome& outcome);   // .dup
+std::string Series_Table(const Model_Input& input, const Outcome& outcome);  // .dut
+std::string Map_Table(const Model_Input& input, const Outcome& outcome);     // .duc
+
+}  // namespace companion
