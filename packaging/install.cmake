@@ -36,7 +36,7 @@ barvon_install(FILES SYSTEM ${icons} PORTABLE ${icons}
 
 # To read.
 set(documents ${from}/debian/copyright)
-foreach(document barvon-run dependencies file-formats)
+foreach(document barvon-run companion-solver dependencies file-formats)
   list(APPEND documents ${PROJECT_SOURCE_DIR}/docs/${document}.md)
 endforeach()
 barvon_install(FILES SYSTEM ${doc} PORTABLE docs WHAT ${documents})

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "batch/batch_fixture.h"
+#include "run/solver_command.h"
 
 namespace barvon::testing {
 namespace {
@@ -97,6 +98,18 @@ TEST_F(BatchCompanion, Runs_In_Jobs_Too) {
   for (const std::size_t line : {0u, 5u}) {
     EXPECT_NE(lines[line].find("\tran\tcompanion solver 1.0 ended with code 0"), std::string::npos);
   }
+}
+
+TEST_F(BatchRun, The_Companion_That_Was_Built_Is_Of_The_Version_That_Is_Told) {
+  Put_Sample("Section_404_Sediment.DUI", "site.DUI");
+  const Program_Result result = Batch({"run", "--solver", "companion", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_TRUE(result.out.starts_with(std::string("site.DUI\tran\t") + kCompanionName + " ended"));
+  const std::string label = std::string("COMPANION SOLVER ") + BARVON_COMPANION_VERSION + " - ";
+  for (const char* output : {"site.duo", "site.dup", "site.dut", "site.duc"}) {
+    EXPECT_TRUE(Read_Text(Path(output)).starts_with(label)) << output;
+  }
+  EXPECT_EQ(Left_Behind(), Lines{});
 }
 
 TEST_F(BatchRun, The_Additions_To_The_Model_Input_Stand_In_The_Runs_Own_Folder) {
