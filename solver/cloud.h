@@ -12,8 +12,12 @@
 namespace companion {
 
 inline constexpr double kHinderedPower = 4.65;    // of 1 - c: Richardson and Zaki (1954)
+inline constexpr double kAllLost = 50;            // of `lost` in Left_Of, from which on it is all
 inline constexpr double kPlanMoments = 2;         // of a handed-over cloud, times its own
 inline constexpr double kLeastMassFactor = 0.01;  // CM below it counts as this
+
+/// What is left of an amount after losses whose rates over it sum up to `lost`.
+double Left_Of(double amount, double lost);
 
 /// A cloud at one moment, between its phases. Its plan is a rectangle of `length` by twice `radius`
 /// with a half disk at each end.
@@ -55,6 +59,15 @@ double Hindrance(double share);
 /// The depth, from `foot` upwards, at which the water has a density; 0 where all of it is heavier,
 /// `foot` where the water there is not.
 double Level_Of(const Model_Input& input, double density, double foot);
+
+/// The water over a range of depths: its mean density and N2 of the straight line that fits its
+/// densities best, not below 0. A body of one density that floats there is pushed apart as by that
+/// line; and nothing jumps when its edge passes a jump of the profile.
+struct Layering {
+  double density = 0;            // g/cc
+  double squared_frequency = 0;  // 1/s2
+};
+Layering Layering_Of(const Model_Input& input, double top, double foot);
 
 /// What hands a cloud over: every amount over its height, as a normal distribution with twice the
 /// moments of its plan, so that the peak is the cloud's own concentration.

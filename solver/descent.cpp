@@ -130,12 +130,11 @@ Faller::View Faller::Look(double time, const Integrator::Values& state) const {
   cloud.axis_x = start_.axis_x;
   cloud.axis_z = start_.axis_z;
   cloud.inflow_factor = inflow_;
-  cloud.tracer = start_.tracer * (state[kWashed] > 0 ? Exp(-state[kWashed]) : 1);
+  cloud.tracer = Left_Of(start_.tracer, state[kWashed]);
   cloud.solids.resize(start_.solids.size());
-  for (std::size_t i = 0; i < cloud.solids.size(); ++i) {
-    const double lost = state[kFirstFallen + i] + ((*kinds_)[i].stripped ? state[kWashed] : 0);
-    cloud.solids[i] = lost > 0 ? start_.solids[i] * Exp(-lost) : start_.solids[i];
-  }
+  for (std::size_t i = 0; i < cloud.solids.size(); ++i)
+    cloud.solids[i] = Left_Of(
+        start_.solids[i], state[kFirstFallen + i] + ((*kinds_)[i].stripped ? state[kWashed] : 0));
   view.volume = cloud.Volume();
   view.mass = Cloud_Mass(cloud.fluid_mass, *kinds_, cloud.solids);
   view.density = view.volume > 0 ? view.mass / view.volume : 0;

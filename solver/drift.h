@@ -30,10 +30,13 @@ class Drift {
  private:
   void Drift_Uniform(Column& column, double time, double seconds);
   void Drift_Layer(Layer& layer, double share, double time, double seconds);
+  void Find_Land();
+  int Cells_To_Land(double x, double z) const;
 
   const Model_Input& input_;
   const Water& water_;
-  bool uniform_, level_, has_land_ = false;
+  bool uniform_, level_;
+  std::vector<int> cells_to_land_;  // of each cell between four points, in rows; empty: no land
   std::vector<double> middles_;
   std::vector<Velocity> currents_;  // of uniform water
   double known_time_ = -1;          // of the currents
