@@ -73,7 +73,7 @@ tar xzf "$archive" -C "$work/unpacked"
 portable=$(ls -d "$work"/unpacked/barvon-*)
 [ "$(id -u)" -ne 0 ] || chown -R "$user:$user" "$portable"
 installed="$root/usr/lib/barvon"
-beside() { (cd "$1" && find . -maxdepth 1 -type f \( -name '*.dat' -o -name 'merak32' -o \
+beside() { (cd "$1" && find . -maxdepth 1 -type f \( -name '*.dat' -o \
   -name '*.HLP' -o -name 'TIP*' -o -name 'barvon*' \) -exec md5sum {} + | sort -k 2); }
 check "both hold the same program, help, tips, database and solver" \
   diff <(beside "$installed") <(beside "$portable")
@@ -111,8 +111,8 @@ batch_road portable "$portable/barvon-run"
 batch_road installed "$root/usr/bin/barvon-run"
 check "barvon-run makes the same files, byte for byte" diff -r "$work/portable" "$work/installed"
 check "barvon-run says the same" diff "$work/portable.said" "$work/installed.said"
-check "it ran the seven hopper and barge samples" \
-  test "$(grep -c $'\tran\t' "$work/installed.said")" = 7
+check "it ran the seven hopper and barge samples by the companion solver" \
+  test "$(grep -c $'\tran\tcompanion solver ' "$work/installed.said")" = 7
 check "it wrote the eight reports, which the window program prints" \
   test "$(grep -c 'written.*\.pdf$' "$work/installed.said")" = 8
 check "the database of the installed program has no fault" \
@@ -150,7 +150,7 @@ check "nothing of the installed program has changed" \
 own="$work/window-home-installed/.local/share/barvon"
 # What the program writes beside it where it can: in the one folder, and in the other.
 written() { (cd "$1" && find . -maxdepth 1 -type f -printf '%f\n' | grep -vxE \
-  'barvon|barvon-run|merak32|BARVON.HLP|TIPOFDAY.TXT|README.md|CHANGELOG.md' | sort); }
+  'barvon|barvon-run|barvon-solver|BARVON.HLP|TIPOFDAY.TXT|README.md|CHANGELOG.md' | sort); }
 check "the user's folder holds what the portable program keeps beside it" \
   diff <(written "$portable") <(written "$own")
 check "settings, scratch files and the database are among them" \
@@ -173,7 +173,7 @@ printf '#!/bin/sh\nfor e in duo dup dut duc; do echo mine > tmpfile.$e; done\n' 
 install -m 755 "$work/merak32" "$own/merak32"
 make_folder "$projects"
 cp "$portable/samples/Hopper_Six_Openings.DUI" "$projects/site.DUI"
-check "a solver in the user's folder comes before the delivered one" \
+check "a solver in the user's folder comes before the companion" \
   as_user "$work/window-home-locked" "$portable/barvon-run" run "$projects/site.DUI"
 check "its output is what is kept" grep -qx mine "$projects/site.duo"
 window_road own-solver "$portable/barvon" locked

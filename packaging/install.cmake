@@ -15,7 +15,7 @@ set(made ${CMAKE_CURRENT_BINARY_DIR}/packaging)
 set(doc share/doc/barvon)
 
 # Beside the program.
-barvon_install(TARGETS SYSTEM lib/barvon PORTABLE . WHAT barvon barvon-run merak32)
+barvon_install(TARGETS SYSTEM lib/barvon PORTABLE . WHAT barvon barvon-run barvon-solver)
 barvon_install(FILES SYSTEM lib/barvon PORTABLE . WHAT ${BARVON_HELP_FILE} ${BARVON_BESIDE_PROGRAM})
 file(MAKE_DIRECTORY ${made}/bin)
 foreach(command barvon barvon-run)
@@ -36,7 +36,7 @@ barvon_install(FILES SYSTEM ${icons} PORTABLE ${icons}
 
 # To read.
 set(documents ${from}/debian/copyright)
-foreach(document barvon-run dependencies file-formats)
+foreach(document barvon-run companion-solver dependencies file-formats)
   list(APPEND documents ${PROJECT_SOURCE_DIR}/docs/${document}.md)
 endforeach()
 barvon_install(FILES SYSTEM ${doc} PORTABLE docs WHAT ${documents})
@@ -80,10 +80,11 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Describes one release of dredged material from a hopper dredge, a pipeline or
 a split-hull barge: the site, its water and currents, the material, the vessel
 and how it empties. BARVON checks the description, keeps it in a text file,
-writes the model input, starts an external solver on it and keeps the outputs.
+writes the model input, starts a solver on it and keeps the outputs.
 .
-The solver is a program of its own; an input echo, which simulates nothing,
-stands in its place. barvon-run does the same without a window.")
+An external solver is taken where there is one. Otherwise the companion solver
+runs: a model of its own from general fluid dynamics, not a validated code for
+permits. barvon-run does the same without a window.")
 
 # Compressed as Debian wants it, and bearing the source's time rather than the build's.
 string(TIMESTAMP BARVON_BUILT_AT "%a, %d %b %Y %H:%M:%S +0000" UTC)

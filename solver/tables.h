@@ -7,7 +7,7 @@
 
 namespace companion {
 
-inline constexpr char kVersion[] = "1.0";
+inline constexpr char kVersion[] = COMPANION_VERSION;  // set beside the programs that name it
 inline constexpr char kLineEnd[] = "\r\n";
 
 /// First line of every output and of standard output.

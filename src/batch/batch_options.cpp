@@ -13,8 +13,16 @@ constexpr char kAbout[] =
 
 constexpr int kMostJobs = 1024;
 
+constexpr char kCompanion[] = "companion", kExternal[] = "external";  // --solver
+
 void Add_Files(CLI::App* command, Batch_Options& options) {
   command->add_option("FILE", options.files, "project files (.DUI)")->required();
+}
+
+std::nullopt_t Wrong(const std::string& why, int& exit_code) {
+  Say_Problem("", why + " (see barvon-run --help)");
+  exit_code = kNotDone;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -44,8 +52,13 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
 
   CLI::App* run = app.add_subcommand("run", "run the solver on projects and keep its outputs");
   Add_Files(run, options);
+  std::string solver;
+  run->add_option("--solver", solver,
+                  "companion: the program's own; external: one of the solvers' folder;\n"
+                  "if not given, an external one where there is one")
+      ->check(CLI::IsMember({kCompanion, kExternal}));
   run->add_option("--solver-dir", options.solver_folder,
-                  "folder that holds the solvers; the program's own if not given");
+                  "folder that holds external solvers; the user's or the program's if not given");
   run->add_option("--jobs", options.jobs, "projects that run at the same time")
       ->check(CLI::Range(1, kMostJobs));
   run->add_flag("--despite-errors", options.despite_errors, "run projects that have errors too");
@@ -82,9 +95,14 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
     exit_code = kDone;
     return std::nullopt;
   } catch (const CLI::ParseError& wrong) {
-    Say_Problem("", std::string(wrong.what()) + " (see barvon-run --help)");
-    exit_code = kNotDone;
-    return std::nullopt;
+    return Wrong(wrong.what(), exit_code);
+  }
+  if (solver == kCompanion && !options.solver_folder.empty()) {
+    return Wrong("--solver companion takes no --solver-dir, which is for external solvers",
+                 exit_code);
+  }
+  if (!solver.empty()) {
+    options.solver = solver == kCompanion ? Solver_Choice::Companion : Solver_Choice::External;
   }
   return options;
 }

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "run/solver_command.h"
+
 namespace barvon {
 
 inline constexpr int kDone = 0;      // everything was done
@@ -18,13 +20,14 @@ struct Batch_Options {
   std::vector<std::string> files;  // as given
   std::string output;              // export, report: where to; empty: beside the project
   std::string solver_folder;       // run; empty: the user's or the program's
-  int jobs = 1;                    // run: projects at a time
-  bool despite_errors = false;     // run
-  bool pdf = false;                // report
-  bool json = false;               // show
-  bool force = false;              // new
-  std::string folder;              // database check
-  bool mend = false;               // database check
+  Solver_Choice solver = Solver_Choice::External_First;  // run
+  int jobs = 1;                                          // run: projects at a time
+  bool despite_errors = false;                           // run
+  bool pdf = false;                                      // report
+  bool json = false;                                     // show
+  bool force = false;                                    // new
+  std::string folder;                                    // database check
+  bool mend = false;                                     // database check
 };
 
 /// Reads the command line. Nothing when there is nothing left to do: help or version have been

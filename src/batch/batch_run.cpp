@@ -96,7 +96,7 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   {
     Box_Collector boxes;
     boxes.Answer_No();
-    report = Run_Model(record, folders);
+    report = Run_Model(record, folders, options.solver);
   }
   Set_Event_Pump(former_pump);
   Set_Passing_Folder({});
@@ -144,15 +144,27 @@ std::vector<std::string> Without_Clashes(const std::vector<std::string>& files,
   return kept;
 }
 
+/// Which solver, and the folder with it: of a call's projects none runs with another one.
+void Choose_Solver(Batch_Options& options) {
+  if (!options.solver_folder.empty()) {
+    options.solver = Solver_Choice::External;
+    return;
+  }
+  const std::string command_line = Solver_For(kBarge).command_line;
+  const std::string delivered = Program_Folder(), own = Folder_For_Own_Files(delivered);
+  if (options.solver == Solver_Choice::External_First) {
+    options.solver = Chosen_Solver(command_line, own, delivered);
+  }
+  options.solver_folder = options.solver == Solver_Choice::Companion
+                              ? delivered
+                              : Solver_Folder(command_line, own, delivered);
+}
+
 }  // namespace
 
 int Run_Projects(const Batch_Options& given, Known_Folders& folders) {
   Batch_Options options = given;
-  if (options.solver_folder.empty()) {
-    const std::string delivered = Program_Folder();
-    options.solver_folder =
-        Solver_Folder(Solver_For(kBarge).command_line, Folder_For_Own_Files(delivered), delivered);
-  }
+  Choose_Solver(options);
   std::error_code error;
   if (!std::filesystem::is_directory(options.solver_folder, error)) {
     Say_Problem(options.solver_folder, "no such folder for --solver-dir");

@@ -33,7 +33,12 @@ struct Job {
 };
 
 std::vector<std::string> Command_For(const Job& job, const Batch_Options& options) {
-  std::vector<std::string> command = {"barvon-run", "run", "--solver-dir", options.solver_folder};
+  std::vector<std::string> command = {"barvon-run", "run"};
+  if (options.solver == Solver_Choice::Companion) {
+    command.insert(command.end(), {"--solver", "companion"});
+  } else {
+    command.insert(command.end(), {"--solver-dir", options.solver_folder});
+  }
   if (options.despite_errors) command.emplace_back("--despite-errors");
   command.emplace_back("--");
   command.push_back(job.file);

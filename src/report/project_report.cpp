@@ -2,13 +2,18 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <ctime>
+#include <fstream>
 #include <memory>
 #include <utility>
 
 #include "core/text_tools.h"
 #include "platform/files/lock_holder.h"
+#include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
+#include "platform/files/text_encoding.h"
 #include "report/report_sections.h"
 #include "site/site_data.h"
 
@@ -27,6 +32,30 @@ void Put_File(Report_Maker& report, const Report_Facts& facts) {
     if (!facts.saved) report.Words("Changes Since Then", kNotSaved);
   }
   report.Words("Date of This Report", facts.date);
+  if (facts.listing.empty()) return;
+  report.Words("Output of the Last Run", facts.listing + ", " + facts.listing_date);
+  report.Words("It Begins With", facts.listing_begins);
+}
+
+/// The first line of a file as text that can be shown, whatever wrote it.
+std::string First_Line(const std::string& path) {
+  constexpr std::size_t kMostShown = 200;
+  std::string bytes(kMostShown, '\0');
+  std::ifstream file(path, std::ios::binary);
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  bytes.resize(std::min(bytes.size(), bytes.find_first_of("\r\n")));
+  std::erase_if(bytes, [](char c) { return static_cast<unsigned char>(c) < ' '; });
+  return Trimmed(From_File_Bytes(bytes));
+}
+
+void Look_At_Listing(const std::string& base_name, Report_Facts& facts) {
+  const auto path = Find_Path(base_name + ".duo");
+  struct stat status {};
+  if (!path || ::stat(path->c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return;
+  facts.listing = Name_Of(*path);
+  facts.listing_date = Time_In_Words(status.st_mtime);
+  facts.listing_begins = First_Line(*path);
 }
 
 }  // namespace
@@ -40,6 +69,7 @@ Report_Facts Facts_Of(const ProjectRecord& record) {
   if (!facts.file.empty() && ::stat(facts.file.c_str(), &status) == 0) {
     facts.changed = Time_In_Words(status.st_mtime);
   }
+  if (!facts.file.empty()) Look_At_Listing(Base_Name(facts.file), facts);
   return facts;
 }
 

@@ -13,6 +13,9 @@ struct Report_Facts {
   std::string changed;  // when the file was written, in words; empty where that is not known
   bool saved = true;    // false: the project has changes that the file does not have
   std::string date;     // of the report
+  // The listing of a run that lies beside the file: its name, when it was written, and how it
+  // begins, which says what solver wrote it. Empty where there is none.
+  std::string listing{}, listing_date{}, listing_begins{};
 };
 
 /// The facts about the record's file, at this hour.

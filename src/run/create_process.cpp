@@ -13,7 +13,6 @@
 #include "platform/process/event_pump.h"
 #include "platform/process/viewer_program.h"
 #include "run/scratch_names.h"
-#include "run/solver_command.h"
 
 namespace barvon {
 namespace {
@@ -33,7 +32,7 @@ Work*& Current_Work() {
 
 struct Run {
   External_Process process;
-  std::string program;
+  std::string name;
   bool program_ends = false;
 };
 
@@ -51,11 +50,12 @@ std::string Shown_Lines(const std::string& output) {
 }
 
 /// The command to start, and the program's name in the outcome; why there is none, too.
-Solver_Command Found_Command(const std::string& command_line, const std::string& folder,
-                             Process_Outcome& outcome) {
+Solver_Command Found_Command(const std::string& command_line, Solver_Choice choice,
+                             const std::string& folder, Process_Outcome& outcome) {
   Solver_Command found =
-      Find_Solver_Command(command_line, folder, Absolute_Path(Delivered_Folder()));
+      Find_Solver(command_line, choice, folder, Absolute_Path(Delivered_Folder()));
   outcome.program = found.command.empty() ? command_line : found.command[0];
+  outcome.name = found.name.empty() ? outcome.program : found.name;
   outcome.problem = found.problem;
   return found;
 }
@@ -68,27 +68,27 @@ void Note_Start(int error, Process_Outcome& outcome) {
 
 }  // namespace
 
-Process_Outcome Create_Process_Code(const std::string& command_line) {
+Process_Outcome Create_Process_Code(const std::string& command_line, Solver_Choice choice) {
   Process_Outcome outcome;
   if (Run_Is_Under_Way()) {
-    outcome.program = command_line;
+    outcome.program = outcome.name = command_line;
     outcome.problem = "another program is still at work";
     return outcome;
   }
   Process_Start start;
   start.folder = Absolute_Path(Application_Folder());
-  Solver_Command found = Found_Command(command_line, start.folder, outcome);
+  Solver_Command found = Found_Command(command_line, choice, start.folder, outcome);
   if (found.command.empty()) return outcome;
 
   Run run;
   start.command = std::move(found.command);
   start.environment = std::move(found.environment);
   start.output_file = Join_Path(start.folder, kPrintedFile);
-  run.program = outcome.program;
+  run.name = outcome.name;
   Note_Start(run.process.Start(start), outcome);
   if (!outcome.started) return outcome;
   Current_Run() = &run;
-  Port().run.state(true, run.program);
+  Port().run.state(true, run.name);
   while (run.process.Poll()) {
     Pump_Events(kTakeOutputEvery, run.process.End_Descriptor());
   }
@@ -99,7 +99,7 @@ Process_Outcome Create_Process_Code(const std::string& command_line) {
   outcome.last_output = Shown_Lines(run.process.Last_Output());
   if (!outcome.last_output.empty()) outcome.output_file = start.output_file;
   outcome.program_ends = run.program_ends;
-  if (!run.program_ends) Port().run.state(false, run.program);
+  if (!run.program_ends) Port().run.state(false, run.name);
   return outcome;
 }
 
@@ -108,7 +108,8 @@ void Create_Viewer_Process(const std::string& command_line,
   Process_Outcome outcome;
   const std::string folder = Absolute_Path(Application_Folder());
   // What the command wants in its environment hides its window; a viewer is to be seen.
-  const std::vector<std::string> command = Found_Command(command_line, folder, outcome).command;
+  const std::vector<std::string> command =
+      Found_Command(command_line, Solver_Choice::External, folder, outcome).command;
   if (!command.empty()) {
     outcome.started = true;
     const int error = Start_Viewer(
@@ -149,7 +150,7 @@ void Stop_Run_And_Wait() {
   run->program_ends = true;
   run->process.Stop_And_Wait();
   // Said here, while the caller, who ends this program, is still there to hear it.
-  Port().run.state(false, run->program);
+  Port().run.state(false, run->name);
 }
 
 void Stop_Run_At_Exit() {

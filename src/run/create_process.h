@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/process/process_control.h"
+#include "run/solver_command.h"
 
 namespace barvon {
 
@@ -13,6 +14,7 @@ namespace barvon {
 struct Process_Outcome {
   bool started = false;
   std::string program;  // full path of what was started, or what was looked for
+  std::string name;     // what the user is told ran: the path, or the companion's name
   std::string problem;  // why it was not started
   Process_End end;
   std::chrono::milliseconds duration{0};
@@ -21,11 +23,12 @@ struct Process_Outcome {
   bool program_ends = false;  // Stop_Run_And_Wait was called: this program is on its way out
 };
 
-/// Starts a solver's command line by the rules of Find_Solver_Command, in the application
-/// directory, and waits for its end with the interface alive and the processor next to idle. Only
-/// one solver runs at a time; while one does, another call starts nothing and says so. The
-/// workspace hears of start and end through run_state.
-Process_Outcome Create_Process_Code(const std::string& command_line);
+/// Starts a solver's command line, or the companion in its place, by the rules of Find_Solver, in
+/// the application directory, and waits for its end with the interface alive and the processor next
+/// to idle. Only one solver runs at a time; while one does, another call starts nothing and says
+/// so. The workspace hears of start and end through run_state.
+Process_Outcome Create_Process_Code(const std::string& command_line,
+                                    Solver_Choice choice = Solver_Choice::External);
 
 /// Starts a program that shows results by the same rules, beside a run and beside other viewers.
 /// It is the user's: no call here ends it, and it lives on when this program ends. `when_over` is

@@ -17,6 +17,7 @@
 #include "core/desk/workspace_port.h"
 #include "core/failure.h"
 #include "core/keys.h"
+#include "core/model_input/additions.h"
 #include "core/model_input/model_input.h"
 #include "core/text_tools.h"
 #include "platform/ask/message_box.h"
@@ -94,8 +95,13 @@ std::optional<Run_Stage> Prepare(ProjectRecord& record, Known_Folders& folders,
   return std::nullopt;
 }
 
-void Remove_Files(const std::string& folder, const char* pattern) {
-  for (const std::string& path : Matching_Files(folder, pattern)) ::unlink(path.c_str());
+/// False when one of them is still there.
+bool Remove_Files(const std::string& folder, const char* pattern) {
+  bool all = true;
+  for (const std::string& path : Matching_Files(folder, pattern)) {
+    all = ::unlink(path.c_str()) == 0 && all;
+  }
+  return all;
 }
 
 /// The run's scratch files of a folder. A project that bears a scratch name is none, nor is a link
@@ -155,21 +161,33 @@ std::string Marker_Line() {
          Left_Justified(kNameInMarker, kScratchNameWidth) + ",                           ,\r\n";
 }
 
-/// Writes model input and marker. Returns what failed first, as text.
+/// Makes the file of the additions where there are any. Where there are none, those of another
+/// project must not be taken for this one's.
+void Make_Additions(const std::string& folder, std::string_view bytes, std::string& problem) {
+  if (!bytes.empty()) return Make_File(folder, kAdditionsFile, bytes, problem);
+  if (Remove_Files(folder, kAdditionsFile) || !problem.empty()) return;
+  problem = std::string(kAdditionsFile) + " of an earlier run could not be removed";
+}
+
+/// Writes model input, additions and marker. Returns what failed first, as text.
 std::string Write_Solver_Files(ProjectRecord& record, const std::string& folder) {
   std::string problem;
-  std::string input;
-  if (const Failure failure = Make_Model_Input(record, input); failure != Failure::None) {
+  std::string input, additions;
+  Failure failure = Make_Model_Input(record, input);
+  if (failure == Failure::None) failure = Write_Additions(record, additions);
+  if (failure != Failure::None) {
     Remove_Files(folder, kModelInputFile);
     problem = std::string("the model input could not be written (") + Failure_Name(failure) + ")";
   } else {
     Make_File(folder, kModelInputFile, input, problem);
   }
+  Make_Additions(folder, additions, problem);
   Make_File(folder, kMarkerFile, Marker_Line(), problem);
   return problem;
 }
 
-void Run_Solver(ProjectRecord& record, Known_Folders& folders, Run_Report& report) {
+void Run_Solver(ProjectRecord& record, Solver_Choice choice, Known_Folders& folders,
+                Run_Report& report) {
   const std::string folder = Absolute_Path(Application_Folder());
   // Solvers meet in this folder under the same names, whichever program started them.
   const Folder_Lock lock(folder);
@@ -198,7 +216,7 @@ void Run_Solver(ProjectRecord& record, Known_Folders& folders, Run_Report& repor
     return;
   }
   const Output_Files outputs(folder);
-  report.outcome = Create_Process_Code(solver.command_line);
+  report.outcome = Create_Process_Code(solver.command_line, choice);
   if (report.outcome.end.stopped || report.outcome.program_ends) {
     report.stage = Run_Stage::Stopped;
     return;
@@ -229,19 +247,19 @@ Status_Note Note_Of(const Run_Report& report) {
 
 }  // namespace
 
-Run_Report Run_Model(ProjectRecord& record) {
+Run_Report Run_Model(ProjectRecord& record, Solver_Choice choice) {
   Known_Folders folders;
-  return Run_Model(record, folders);
+  return Run_Model(record, folders, choice);
 }
 
-Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders) {
+Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders, Solver_Choice choice) {
   Run_Report report;
   if (Run_Is_Under_Way()) {
     report.stage = Run_Stage::Refused;
   } else if (const auto stage = Prepare(record, folders, report)) {
     report.stage = *stage;
   } else {
-    Run_Solver(record, folders, report);
+    Run_Solver(record, choice, folders, report);
   }
   report.text = Status_Text(report);
   if (report.outcome.program_ends) return report;

@@ -14,10 +14,11 @@ namespace barvon {
 /// The outputs go to the project that was run, also when the user has opened another one or saved
 /// under another name meanwhile. When this program ends during the run, the outputs, the settings
 /// and the workspace stay as they are.
-Run_Report Run_Model(ProjectRecord& record);
+Run_Report Run_Model(ProjectRecord& record, Solver_Choice choice = Solver_Choice::External_First);
 /// The same as one of many runs. `folders` is asked for the case of the names beside the project;
 /// nobody else uses it meanwhile.
-Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders);
+Run_Report Run_Model(ProjectRecord& record, Known_Folders& folders,
+                     Solver_Choice choice = Solver_Choice::External_First);
 
 /// Makes the application directory the current one.
 void Set_Application_Directory();

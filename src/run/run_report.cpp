@@ -91,12 +91,12 @@ std::string Status_Text(const Run_Report& report) {
     case Run_Stage::Not_Started:
       return "Not run: " + outcome.problem + ".";
     case Run_Stage::Stopped:
-      return outcome.program + " was stopped after " + Seconds(outcome.duration) +
+      return outcome.name + " was stopped after " + Seconds(outcome.duration) +
              "; no outputs kept.";
     case Run_Stage::Ended:
       break;
   }
-  return outcome.program + " " + How_It_Ended(outcome.end) + " after " + Seconds(outcome.duration) +
+  return outcome.name + " " + How_It_Ended(outcome.end) + " after " + Seconds(outcome.duration) +
          "; " + What_Was_Kept(report) + ".";
 }
 

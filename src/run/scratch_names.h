@@ -7,6 +7,8 @@ namespace barvon {
 inline constexpr char kScratchName[] = "Tmpfile";
 inline constexpr char kScratchFiles[] = "Tmpfile.*";
 inline constexpr char kModelInputFile[] = "Tmpfile.Due";
+/// What the model input can't carry; only where there is any.
+inline constexpr char kAdditionsFile[] = "Tmpfile.Add";
 /// What the solver prints; among the scratch files, so that the next run removes it.
 inline constexpr char kPrintedFile[] = "Tmpfile.log";
 

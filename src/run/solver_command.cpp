@@ -85,6 +85,17 @@ Solver_Command Through_Dosbox(const std::string& dosbox, const std::string& dos_
           {}};
 }
 
+/// One of the names of a command line's launcher or program.
+bool Has_A_File_Of(const std::string& command_line, const std::string& folder) {
+  std::vector<std::string> names = Words(command_line);
+  if (names.empty()) return false;
+  names.resize(std::min<std::size_t>(names.size(), 2));
+  names.push_back(Base_Name(names.back()));
+  if (names.size() > 2) names.push_back(names.front() + ".EXE");
+  return std::ranges::any_of(
+      names, [&](const std::string& name) { return !Matching_Files(folder, name).empty(); });
+}
+
 std::string Joined(const std::vector<std::string>& words, std::size_t from) {
   std::string text;
   for (std::size_t i = from; i < words.size(); ++i) text += (i == from ? "" : " ") + words[i];
@@ -103,6 +114,16 @@ std::string Remark_On(const std::string& folder, const std::vector<std::string>&
     }
   }
   return {};
+}
+
+Solver_Command Find_Companion(const std::string& folder) {
+  if (const auto program = Program_In(folder, kCompanionProgram)) {
+    return {{*program}, {}, {}, kCompanionName};
+  }
+  return {{},
+          {},
+          std::string("the companion solver, ") + kCompanionProgram + ", can't be run in " +
+              folder + Remark_On(folder, {kCompanionProgram})};
 }
 
 }  // namespace
@@ -157,14 +178,7 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
 
 std::string Solver_Folder(const std::string& command_line, const std::string& own_folder,
                           const std::string& delivered_folder) {
-  std::vector<std::string> names = Words(command_line);
-  if (names.empty()) return delivered_folder;
-  names.resize(std::min<std::size_t>(names.size(), 2));
-  names.push_back(Base_Name(names.back()));
-  if (names.size() > 2) names.push_back(names.front() + ".EXE");
-  const bool has_one = std::ranges::any_of(
-      names, [&](const std::string& name) { return !Matching_Files(own_folder, name).empty(); });
-  return has_one ? own_folder : delivered_folder;
+  return Has_A_File_Of(command_line, own_folder) ? own_folder : delivered_folder;
 }
 
 Solver_Command Find_Solver_Command(const std::string& command_line,
@@ -185,6 +199,26 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
     if (!files.empty()) found.command[1] = files.front();
   }
   return found;
+}
+
+Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& application_folder,
+                            const std::string& delivered_folder) {
+  const bool has_external = Has_A_File_Of(command_line, application_folder) ||
+                            Has_A_File_Of(command_line, delivered_folder);
+  return has_external || Matching_Files(delivered_folder, kCompanionProgram).empty()
+             ? Solver_Choice::External
+             : Solver_Choice::Companion;
+}
+
+Solver_Command Find_Solver(const std::string& command_line, Solver_Choice choice,
+                           const std::string& application_folder,
+                           const std::string& delivered_folder) {
+  if (choice == Solver_Choice::External_First) {
+    choice = Chosen_Solver(command_line, application_folder, delivered_folder);
+  }
+  return choice == Solver_Choice::Companion
+             ? Find_Companion(delivered_folder)
+             : Find_Solver_Command(command_line, application_folder, delivered_folder);
 }
 
 }  // namespace barvon

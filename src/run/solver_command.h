@@ -5,11 +5,22 @@
 
 namespace barvon {
 
+/// The solver that comes with the program, and what a run says it is.
+inline constexpr char kCompanionProgram[] = "barvon-solver";
+inline constexpr char kCompanionName[] = "companion solver " BARVON_COMPANION_VERSION;
+
+enum class Solver_Choice {
+  External_First,  // the companion where nobody has put another one
+  External,
+  Companion
+};
+
 /// How a command line is started on this system.
 struct Solver_Command {
   std::vector<std::string> command;      // full path and arguments; empty: nothing here can run it
   std::vector<std::string> environment;  // "NAME=value" to be added
   std::string problem;                   // why not, for the status area
+  std::string name{};                    // what to call it in the place of its path; mostly empty
 };
 
 /// "DOS4GW MERAK32.EXE" in a given application directory: the launcher is looked for there, then
@@ -36,5 +47,17 @@ std::string Solver_Folder(const std::string& command_line, const std::string& ow
 Solver_Command Find_Solver_Command(const std::string& command_line,
                                    const std::string& application_folder,
                                    const std::string& delivered_folder);
+
+/// What External_First comes to: External where one of the folders has a file of one of the command
+/// line's names, also one that can't be run here, or the delivered one has no companion. A launcher
+/// on the search path alone is no solver.
+Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& application_folder,
+                            const std::string& delivered_folder);
+
+/// The solver of a run: the command line's by the rules above, or the companion in the delivered
+/// folder, which takes no arguments.
+Solver_Command Find_Solver(const std::string& command_line, Solver_Choice choice,
+                           const std::string& application_folder,
+                           const std::string& delivered_folder);
 
 }  // namespace barvon

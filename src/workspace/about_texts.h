@@ -30,8 +30,10 @@ inline constexpr char kMoreComputed[] =
     "require.";
 inline constexpr char kMoreLeft[] =
     "What is left to others: descent, collapse and diffusion belong to the solver, a program of "
-    "its own whose documents count for its numerics. Pictures of its results belong to the "
-    "graphics "
+    "its own whose documents count for its numerics. Where there is no external one it is the "
+    "companion solver " BARVON_COMPANION_VERSION
+    ", a model of its own from general fluid dynamics and not a validated code for permits. "
+    "Pictures of its results belong to the graphics "
     "program. Criteria and standards are typed in; the program brings none.";
 inline constexpr char kMoreReferences[] =
     "References:\n"

@@ -18,7 +18,8 @@ TEST_F(CommandLine, Help_Names_Every_Command_And_The_Exit_Codes) {
 TEST_F(CommandLine, Help_Of_A_Command_Names_Its_Options) {
   const Program_Result result = Batch({"run", "--help"});
   EXPECT_EQ(result.code, 0);
-  for (const char* word : {"--solver-dir", "--jobs", "--despite-errors"}) {
+  for (const char* word :
+       {"--solver ", "companion", "external", "--solver-dir", "--jobs", "--despite-errors"}) {
     EXPECT_NE(result.out.find(word), std::string::npos) << word;
   }
 }
@@ -37,6 +38,10 @@ TEST_F(CommandLine, What_Makes_No_Sense_Is_Told_In_One_Line_And_Could_Not_Be_Don
       {"check", "--jobs", "2", "x.DUI"},
       {"run", "--jobs", "0", "x.DUI"},
       {"run", "--jobs", "two", "x.DUI"},
+      {"run", "--solver", "echo", "x.DUI"},
+      {"run", "--solver", "", "x.DUI"},
+      {"run", "--solver", "companion", "--solver-dir", "solvers", "x.DUI"},
+      {"export", "--solver", "companion", "x.DUI"},
       {"show", "x.DUI", "y.DUI"},
       {"export", "x.DUI", "-o"},
   };

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "batch/batch_fixture.h"
+#include "run/solver_command.h"
 
 namespace barvon::testing {
 namespace {
@@ -19,14 +20,107 @@ bool Is_Gone(pid_t process) {
 
 pid_t Number_In(const std::string& path) { return std::stoi(Read_Text(path)); }
 
-TEST_F(BatchRun, The_Input_Echo_Beside_The_Program_Is_The_Solver_By_Default) {
-  Put_Sample(kHopper, "sub/site.DUI");
-  const Program_Result result = Batch({"run", "sub/site.DUI"});
+/// A copy of the program in a folder of its own, with a script as the companion beside it.
+struct BatchCompanion : BatchProgram {
+  BatchCompanion() {
+    std::filesystem::create_directory(Path("program"));
+    std::filesystem::copy_file(BARVON_RUN_PROGRAM, Path("program/barvon-run"));
+    Put_Program("barvon-solver", "the companion's");
+    Put_Sample(kHopper, "site.DUI");
+  }
+  void Put_Program(const std::string& name, const std::string& output) {
+    const std::string path = Path("program/" + name);
+    Write_Text(path, "#!/bin/sh\nfor e in duo dup dut duc; do echo \"" + output +
+                         "\" > tmpfile.$e; done\n");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+  }
+  Program_Result Run_Site(std::vector<std::string> options) {
+    Program_Start start = Start_Of({"run", "site.DUI"});
+    start.command[0] = Path("program/barvon-run");
+    start.command.insert(start.command.end(), options.begin(), options.end());
+    const Program_Result result = Run_Program(start);
+    EXPECT_EQ(Left_Behind(), Lines{});
+    return result;
+  }
+  std::string Ran(const std::vector<std::string>& options) {
+    const Program_Result result = Run_Site(options);
+    EXPECT_EQ(result.code, 0) << result.err;
+    const std::string line = Printed_Lines(result.out).at(0);
+    EXPECT_TRUE(line.starts_with("site.DUI\tran\t")) << line;
+    return line.substr(13, line.find(" ended with code 0") - 13);
+  }
+};
+
+TEST_F(BatchCompanion, Is_The_Solver_By_Default_And_Named) {
+  EXPECT_EQ(Ran({}), "companion solver 1.0");
+  EXPECT_EQ(Read_Text(Path("site.duo")), "the companion's\n");
+  EXPECT_EQ(Names_In(Path("program")), (Lines{"barvon-run", "barvon-solver"}));
+}
+
+TEST_F(BatchCompanion, Comes_Behind_An_External_Solver_Beside_The_Program) {
+  Put_Program("merak32", "the other's");
+  EXPECT_EQ(Ran({}), Path("program/merak32"));
+  EXPECT_EQ(Ran({"--solver", "external"}), Path("program/merak32"));
+  EXPECT_EQ(Read_Text(Path("site.duo")), "the other's\n");
+  EXPECT_EQ(Ran({"--solver", "companion"}), "companion solver 1.0");
+  EXPECT_EQ(Read_Text(Path("site.duo")), "the companion's\n");
+}
+
+TEST_F(BatchCompanion, Does_Not_Stand_In_For_An_External_Solver_That_Is_Asked_For) {
+  std::filesystem::create_directory(Path("solvers"));
+  for (const std::vector<std::string>& options :
+       {Lines{"--solver-dir", "solvers"}, Lines{"--solver", "external"},
+        Lines{"--solver", "external", "--solver-dir", "solvers"}}) {
+    const Program_Result result = Run_Site(options);
+    EXPECT_EQ(result.code, 2);
+    const std::string folder = Path(options.back() == "solvers" ? "solvers" : "program");
+    EXPECT_TRUE(result.err.starts_with("site.DUI: Not run: DOS4GW was found neither in " + folder))
+        << result.err;
+    EXPECT_FALSE(Exists(Path("site.duo")));
+  }
+}
+
+TEST_F(BatchCompanion, That_Is_Missing_Is_Told_Where_It_Is_Asked_For) {
+  std::filesystem::remove(Path("program/barvon-solver"));
+  const Program_Result result = Run_Site({"--solver", "companion"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "site.DUI: Not run: the companion solver, barvon-solver, can't be run in " +
+                            Path("program") + ".\n");
+  EXPECT_TRUE(Run_Site({}).err.starts_with("site.DUI: Not run: DOS4GW was found neither in "));
+}
+
+TEST_F(BatchCompanion, Runs_In_Jobs_Too) {
+  Put_Sample(kBarge, "second.DUI");
+  const Program_Result result = Run_Site({"second.DUI", "--jobs", "2"});
   EXPECT_EQ(result.code, 0) << result.err;
-  EXPECT_EQ(Names_In(Path("sub")),
-            (Lines{"site.DUI", "site.duc", "site.duo", "site.dup", "site.dut"}));
-  EXPECT_NE(Read_Text(Path("sub/site.duo")).find("simulates nothing"), std::string::npos);
+  const Lines lines = Printed_Lines(result.out);
+  ASSERT_EQ(lines.size(), 10u) << result.out;
+  for (const std::size_t line : {0u, 5u}) {
+    EXPECT_NE(lines[line].find("\tran\tcompanion solver 1.0 ended with code 0"), std::string::npos);
+  }
+}
+
+TEST_F(BatchRun, The_Companion_That_Was_Built_Is_Of_The_Version_That_Is_Told) {
+  Put_Sample("Section_404_Sediment.DUI", "site.DUI");
+  const Program_Result result = Batch({"run", "--solver", "companion", "site.DUI"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_TRUE(result.out.starts_with(std::string("site.DUI\tran\t") + kCompanionName + " ended"));
+  const std::string label = std::string("COMPANION SOLVER ") + BARVON_COMPANION_VERSION + " - ";
+  for (const char* output : {"site.duo", "site.dup", "site.dut", "site.duc"}) {
+    EXPECT_TRUE(Read_Text(Path(output)).starts_with(label)) << output;
+  }
   EXPECT_EQ(Left_Behind(), Lines{});
+}
+
+TEST_F(BatchRun, The_Additions_To_The_Model_Input_Stand_In_The_Runs_Own_Folder) {
+  Put_Sample("Tidal_Estuary.DUI", "site.DUI");
+  Put_Solver("cp Tmpfile.Add " + Path("seen") + "\n" + kAllOutputsScript);
+  Write_Text(Path("Tmpfile.Add"), "the caller's");
+  Write_Text(Path("solvers/Tmpfile.Add"), "the solvers'");
+  ASSERT_EQ(Batch({"run", "--solver-dir", "solvers", "site.DUI"}).code, 0);
+  EXPECT_EQ(Read_Text(Path("Tmpfile.Add")), "the caller's");
+  EXPECT_EQ(Read_Text(Path("solvers/Tmpfile.Add")), "the solvers'");
+  EXPECT_TRUE(Read_Text(Path("seen")).starts_with("BARVON additions: 1\r\nTideStart: "));
 }
 
 TEST_F(BatchRun, Says_What_Ran_And_What_Was_Kept) {
@@ -174,7 +268,8 @@ TEST_F(BatchRun, What_Can_Be_Done_Is_Done_And_The_Code_Is_The_Worst) {
 TEST_F(BatchRun, The_Projects_File_Stays_As_It_Was) {
   Put_Sample("Tidal_Estuary.DUI", "site.DUI");
   const std::string before = Read_Text(Path("site.DUI"));
-  ASSERT_EQ(Batch({"run", "site.DUI"}).code, 0);
+  Put_Solver(kAllOutputsScript);
+  ASSERT_EQ(Batch({"run", "--solver-dir", "solvers", "site.DUI"}).code, 0);
   EXPECT_TRUE(Read_Text(Path("site.DUI")) == before);
 }
 

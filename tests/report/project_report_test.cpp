@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "checks/check_data.h"
@@ -87,6 +89,35 @@ TEST(ProjectReport, The_Facts_Are_Those_Of_The_Record) {
   Write_Text(record->ProjectFileName, "x");
   EXPECT_EQ(Facts_Of(*record).changed.size(), std::string("2026-01-02 03:04").size());
   EXPECT_TRUE(Facts_Of(*record).saved);
+}
+
+TEST(ProjectReport, The_Output_Beside_The_File_Says_What_Solver_Wrote_It) {
+  const auto record = Sound();
+  Scratch_Folder folder;
+  record->ProjectFileName = folder / "A.DUI";
+  EXPECT_EQ(Value_Of(Project_Report(*record, Facts_Of(*record)), "Output of the Last Run"), "");
+  Write_Text(folder / "A.DUO", "COMPANION SOLVER 1.0 - a model\r\nResults\r\n");
+  const Report_Facts facts = Facts_Of(*record);
+  const Report_Document report = Project_Report(*record, facts);
+  EXPECT_EQ(Value_Of(report, "Output of the Last Run"), "A.DUO, " + facts.listing_date);
+  EXPECT_EQ(Value_Of(report, "It Begins With"), "COMPANION SOLVER 1.0 - a model");
+}
+
+TEST(ProjectReport, An_Output_Of_Any_Kind_Gives_A_Line_That_Can_Be_Shown) {
+  const auto record = Sound();
+  Scratch_Folder folder;
+  record->ProjectFileName = folder / "A.DUI";
+  std::filesystem::create_directory(folder / "A.duo");
+  EXPECT_EQ(Facts_Of(*record).listing, "");
+  std::filesystem::remove(folder / "A.duo");
+  for (const auto& [bytes, line] : {std::pair<std::string, std::string>{"", ""},
+                                    {"\n", ""},
+                                    {std::string(5, '\0') + "\x07 \xB5g \n", "\xC2\xB5g"},
+                                    {std::string(300, 'x'), std::string(200, 'x')}}) {
+    Write_Text(folder / "A.duo", bytes);
+    EXPECT_EQ(Facts_Of(*record).listing, "A.duo");
+    EXPECT_EQ(Facts_Of(*record).listing_begins, line);
+  }
 }
 
 TEST(ProjectReport, The_Study_Is_Told_In_Words) {

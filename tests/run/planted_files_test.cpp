@@ -27,7 +27,8 @@ constexpr std::array kPlants = {Plant::Link, Plant::Second_Name, Plant::Dangling
 /// Names that a run uses in the application directory, as solvers and this program spell them.
 constexpr std::array kRunNames = {"Tmpfile.Due", "TMPFILE.DUE", "Tmpfile.log", "tmpfile.duo",
                                   "TMPFILE.DUO", "tmpfile.dup", "tmpfile.dut", "tmpfile.duc",
-                                  "Tmpfile.old", "KOLBREE.TMP", "kolbree.tmp"};
+                                  "Tmpfile.old", "Tmpfile.Add", "tmpfile.add", "KOLBREE.TMP",
+                                  "kolbree.tmp"};
 
 /// A file that nobody may change, and things planted that lead to it.
 struct PlantedFiles : RunDriver {

@@ -55,6 +55,47 @@ TEST_F(RunDriver, The_Solver_Finds_Model_Input_And_Marker) {
   EXPECT_TRUE(Exists(bench / "seen.due"));
 }
 
+TEST_F(RunDriver, The_Companion_Runs_Where_There_Is_No_Other_Solver_And_Is_Named) {
+  bench.Install("barvon-solver", std::string("note:note\n") + kWritesAll);
+  const Run_Report report = Run();
+  EXPECT_TRUE(report.Succeeded());
+  EXPECT_EQ(report.outcome.program, bench / "barvon-solver");
+  EXPECT_EQ(Note().substr(0, Note().find(" after")), "companion solver 1.0 ended with code 0");
+  EXPECT_EQ(bench.states,
+            (std::vector<std::string>{"on companion solver 1.0", "off companion solver 1.0"}));
+  EXPECT_EQ(Read_Text(bench / "note").find("argument"), std::string::npos);
+  EXPECT_EQ(Kept(".duo"), "o");
+}
+
+TEST_F(RunDriver, A_Solver_Of_The_Users_Comes_Before_The_Companion) {
+  bench.Install("barvon-solver", kWritesAll);
+  Write_Text(bench / "merak32", "no program");
+  EXPECT_EQ(Run().stage, Run_Stage::Not_Started);
+  EXPECT_TRUE(bench.states.empty());
+  fs::remove(bench / "merak32");
+  Install(kWritesAll);
+  EXPECT_EQ(Run().outcome.name, bench / "merak32");
+}
+
+TEST_F(RunDriver, What_The_Model_Input_Can_Not_Carry_Stands_Beside_It) {
+  record.KEY3 = 4;
+  record.NumOutputDepths = 1;
+  record.CriterionConcentration = 0.05;
+  Install("copy:Tmpfile.Add=seen.add\n");
+  Run({Answer::No});
+  EXPECT_EQ(Read_Text(bench / "seen.add"), "BARVON additions: 1\r\nCriterion: 0.05\r\n");
+}
+
+TEST_F(RunDriver, Additions_Of_Another_Project_Are_Gone_Wherever_The_User_Stands) {
+  fs::current_path("/");
+  Write_Text(bench / "Tmpfile.Add", "old");
+  Write_Text(bench / "TMPFILE.ADD", "old");
+  Install("copy:Tmpfile.Add=seen1\ncopy:TMPFILE.ADD=seen2\n");
+  Run();
+  EXPECT_EQ(Read_Text(bench / "seen1") + Read_Text(bench / "seen2"), "");
+  EXPECT_FALSE(Exists(bench / "Tmpfile.Add"));
+}
+
 TEST_F(RunDriver, The_Model_Input_Is_That_Of_The_Record) {
   Install("copy:Tmpfile.Due=seen.due\n");
   Run();
@@ -311,6 +352,15 @@ TEST_F(RunDriver, A_Model_Input_That_Can_Not_Be_Written_Starts_Nothing) {
   EXPECT_EQ(Note(), "Not run: Tmpfile.Due could not be written (Path not usable).");
   EXPECT_TRUE(Exists(bench / "KOLBREE.TMP"));
   EXPECT_FALSE(Exists(bench / "BARVON.INI"));
+}
+
+TEST_F(RunDriver, Additions_That_Can_Not_Be_Written_Start_Nothing) {
+  fs::create_directory(bench / "Tmpfile.Add");
+  record.VelocityProfileType = 5;
+  Install(kWritesAll);
+  EXPECT_EQ(Run({Answer::No, Answer::Ok}).stage, Run_Stage::Input_Failed);
+  EXPECT_EQ(Note(), "Not run: Tmpfile.Add could not be written (Path not usable).");
+  EXPECT_TRUE(bench.states.empty());
 }
 
 TEST_F(RunDriver, A_Marker_That_Can_Not_Be_Written_Starts_Nothing) {

@@ -14,7 +14,7 @@ Run_Report Ended_Run() {
   Run_Report report;
   report.stage = Run_Stage::Ended;
   report.outcome.started = true;
-  report.outcome.program = "/app/merak32";
+  report.outcome.program = report.outcome.name = "/app/merak32";
   report.outcome.duration = milliseconds(2340);
   return report;
 }
@@ -33,6 +33,18 @@ TEST(RunReport, A_Run_That_Wrote_And_Kept_All_Four_Outputs_Succeeded) {
   EXPECT_EQ(Status_Text(report),
             "/app/merak32 ended with code 0 after 2.3 s; "
             "kept site.duo, site.dup, site.dut, site.duc in /bay.");
+}
+
+TEST(RunReport, The_Text_Calls_The_Companion_By_Its_Name) {
+  Run_Report report = Ended_Run();
+  report.outcome.program = "/app/barvon-solver";
+  report.outcome.name = kCompanionName;
+  report.Add_Outputs(All_Kept());
+  EXPECT_EQ(Status_Text(report),
+            "companion solver 1.0 ended with code 0 after 2.3 s; "
+            "kept site.duo, site.dup, site.dut, site.duc in /bay.");
+  report.stage = Run_Stage::Stopped;
+  EXPECT_EQ(Status_Text(report), "companion solver 1.0 was stopped after 2.3 s; no outputs kept.");
 }
 
 TEST(RunReport, Anything_Less_Is_No_Success) {

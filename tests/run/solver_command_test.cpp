@@ -193,6 +193,79 @@ TEST_F(DeliveredSolver, Where_There_Is_None_The_Place_Of_The_Users_Is_Told) {
   EXPECT_EQ(Find_Delivered("").problem.rfind("no program is named", 0), 0U);
 }
 
+/// With the companion beside the program.
+struct CompanionSolver : DeliveredSolver {
+  CompanionSolver() { Script("program/barvon-solver"); }
+  Solver_Command Find(Solver_Choice choice = Solver_Choice::External_First) {
+    return Find_Solver(kSolver, choice, folder / "app", folder / "program");
+  }
+  Solver_Choice Chosen() { return Chosen_Solver(kSolver, folder / "app", folder / "program"); }
+};
+
+TEST_F(CompanionSolver, Runs_Where_Nobody_Has_Put_Another_One_And_Is_Named) {
+  EXPECT_EQ(Chosen(), Solver_Choice::Companion);
+  EXPECT_EQ(Find().command, (Command{folder / "program/barvon-solver"}));
+  EXPECT_EQ(Find().name, "companion solver 1.0");
+  EXPECT_EQ(Find().problem, "");
+}
+
+TEST_F(CompanionSolver, Comes_Behind_A_Solver_In_Either_Folder) {
+  for (const char* folder_of_it : {"app", "program"}) {
+    for (const char* name : {"merak32", "MERAK32.EXE"}) {
+      const std::string solver = std::string(folder_of_it) + "/" + name;
+      Script(solver);
+      EXPECT_EQ(Chosen(), Solver_Choice::External) << solver;
+      EXPECT_EQ(Find().command, (Command{folder / solver}));
+      EXPECT_EQ(Find().name, "");
+      fs::remove(folder / solver);
+    }
+  }
+}
+
+TEST_F(CompanionSolver, Comes_Behind_A_Launcher_With_Its_Program) {
+  Script("one/dos4gw");
+  EXPECT_EQ(Find().command, (Command{folder / "program/barvon-solver"}));
+  Write_Text(folder / "app/MERAK32.EXE", "MZ\x90");
+  EXPECT_EQ(Find().command, (Command{folder / "one/dos4gw", "MERAK32.EXE"}));
+}
+
+TEST_F(CompanionSolver, Does_Not_Stand_In_For_One_Of_The_Users_That_Can_Not_Be_Run) {
+  for (const char* name : {"merak32", "Merak32.exe", "dos4gw", "DOS4GW.EXE"}) {
+    Write_Text(folder / "app/" + name, "MZ\x90");
+    EXPECT_EQ(Find().command, Command{}) << name;
+    EXPECT_NE(Find().problem, "");
+    EXPECT_EQ(Find(Solver_Choice::Companion).command, (Command{folder / "program/barvon-solver"}));
+    fs::remove(folder / "app/" + name);
+  }
+}
+
+TEST_F(CompanionSolver, Is_The_Programs_Own_And_Looked_For_Nowhere_Else) {
+  fs::remove(folder / "program/barvon-solver");
+  Script("app/barvon-solver");
+  Script("one/barvon-solver");
+  EXPECT_EQ(Chosen(), Solver_Choice::External);
+  EXPECT_EQ(Find().problem, Find_Delivered().problem);
+  EXPECT_EQ(Find(Solver_Choice::Companion).command, Command{});
+  EXPECT_EQ(Find(Solver_Choice::Companion).problem,
+            "the companion solver, barvon-solver, can't be run in " + (folder / "program"));
+}
+
+TEST_F(CompanionSolver, That_Can_Not_Be_Run_Is_Told) {
+  fs::permissions(folder / "program/barvon-solver", fs::perms::owner_read);
+  EXPECT_EQ(Find().command, Command{});
+  EXPECT_EQ(Find().problem, "the companion solver, barvon-solver, can't be run in " +
+                                (folder / "program") + "; " + (folder / "program/barvon-solver") +
+                                " is not executable");
+}
+
+TEST_F(CompanionSolver, Either_One_Can_Be_Asked_For) {
+  Script("app/merak32");
+  EXPECT_EQ(Find(Solver_Choice::External).command, (Command{folder / "app/merak32"}));
+  EXPECT_EQ(Find(Solver_Choice::Companion).command, (Command{folder / "program/barvon-solver"}));
+  fs::remove(folder / "app/merak32");
+  EXPECT_EQ(Find(Solver_Choice::External).problem, Find_Delivered().problem);
+}
+
 TEST(SolverTable, Hopper_And_Barge_Have_A_Solver_That_Is_Started) {
   for (const int method : {1, 3}) {
     EXPECT_EQ(Solver_For(method).command_line, "DOS4GW MERAK32.EXE");

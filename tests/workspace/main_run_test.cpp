@@ -112,6 +112,17 @@ TEST_F(MainRun, The_Window_Stays_Alive_While_The_Solver_Works) {
   EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
 }
 
+TEST_F(MainRun, The_Companion_Is_Named_While_It_Works_And_At_Its_End) {
+  std::filesystem::rename(bench.folder / "merak32", bench.folder / "barvon-solver");
+  Run_And([this] {
+    EXPECT_EQ(bench.Child<QLabel>("StatusProgram")->text(), "Running companion solver 1.0");
+    Write_Text(bench.folder / "go", "");
+  });
+  EXPECT_EQ(Read_Text(bench.folder / "bay.duo"), "result\n");
+  const QString note = bench.Child<QLabel>("StatusNote")->text();
+  EXPECT_TRUE(note.contains("companion solver 1.0 ended with code 0 after")) << note.toStdString();
+}
+
 TEST_F(MainRun, A_Text_That_Is_Saved_Before_The_Run_Names_None_Of_Its_Outputs) {
   Write_Text(bench.folder / "other.duo", "of another project");
   Port().text.active = [] { return std::string("notes"); };
