@@ -68,11 +68,11 @@ void Passive::Enter(Family& family, const Source& source) {
 void Passive::Step(Column& column, double from, double seconds) {
   const double half = 0.5 * seconds;
   vertical_.Prepare(column, from + half);
-  vertical_.Settle(column, half);
   vertical_.Diffuse(column, half);
+  vertical_.Settle(column, half);
   drift_.Move(column, from, seconds);
-  vertical_.Diffuse(column, half);
   vertical_.Settle(column, half);
+  vertical_.Diffuse(column, half);
 }
 
 void Passive::Follow(Family& family, double from, double to) {

@@ -18,9 +18,9 @@ inline constexpr double kLongestStep = 30;       // s, of the passive transport
 inline constexpr double kLastOfAColumn = 1e-13;  // of what it received: settles at once
 
 /// Transport of what no longer falls or spreads of itself: one column a cloud and species (more
-/// where they are cut), each moved by symmetric steps: settling, vertical diffusion, drift with
-/// horizontal diffusion, and the first two again (Strang 1968). Columns act on nothing but
-/// themselves, so the steps of each end at its own sources.
+/// where they are cut), each moved by symmetric steps (Strang 1968): half the vertical diffusion,
+/// half the settling, drift with horizontal diffusion, and the halves turned round. Columns act on
+/// nothing but themselves, so the steps of each end at its own sources.
 class Passive {
  public:
   Passive(const Model_Input& input, const Water& water, int layers = kLayers,

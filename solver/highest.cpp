@@ -21,8 +21,10 @@ struct Body {
   bool Empty() const { return variance <= 0; }
 
   void Cover(const Part& part) {
+    const Plan_Moments& s = part.spread;
+    const double apart = 0.5 * (s.xx - s.zz);
     const double most =
-        std::max(part.spread.xx, kLeastVariance) + std::max(part.spread.zz, kLeastVariance);
+        std::max(0.5 * (s.xx + s.zz) + std::sqrt(apart * apart + s.xz * s.xz), kLeastVariance);
     if (Empty()) {
       x_low = x_high = part.x;
       z_low = z_high = part.z;

@@ -17,30 +17,41 @@ struct Layer_Place {
 
   Layer_Place(const Column& column, double y) {
     const int layers = static_cast<int>(column.layers.size());
+    const double step = 1.0 / layers;
+    const auto face = [step](int layer) {
+      const double even = layer * step;
+      return even * (kThinnestLayer + (1 - kThinnestLayer) * even);
+    };
     const double share = 1 - y / column.depth;
-    // The layer whose faces are around the share: the inverse of Face_Share.
+    // The layer whose faces are around the share: the inverse of the faces' own formula.
     constexpr double kGrowth = 1 - kThinnestLayer;
+    constexpr double kPerGrowth = 1 / (2 * kGrowth);
     const double even =
         (std::sqrt(kThinnestLayer * kThinnestLayer + 4 * kGrowth * (share > 0 ? share : 0)) -
-         kThinnestLayer) /
-        (2 * kGrowth);
+         kThinnestLayer) *
+        kPerGrowth;
     int layer = static_cast<int>(even * layers);
     if (layer > layers - 1) layer = layers - 1;
-    if (share < Middle_Share(layer, layers)) --layer;
-    // Between the middles of `layer` and the next one.
-    const int below = layer < 0 ? 0 : layer;
-    const int above = layer + 1 < layers ? layer + 1 : layers - 1;
-    lower = static_cast<std::size_t>(below);
-    upper = static_cast<std::size_t>(above);
-    double up = 0;
-    if (below != above) {
-      const double from = Middle_Share(below, layers), to = Middle_Share(above, layers);
-      up = (share - from) / (to - from);
+    const double foot = face(layer), top = face(layer + 1);
+    const double middle = 0.5 * (foot + top);
+    const double per_depth = 1 / column.depth;
+    lower = upper = static_cast<std::size_t>(layer);
+    per_foot_lower = per_depth / (top - foot);
+    if (share < middle) {
+      if (layer == 0) return;
+      --lower;
+      const double last = face(layer - 1);
+      const double up = (share - 0.5 * (last + foot)) / (0.5 * (top - last));
+      per_foot_upper = up * per_foot_lower;
+      per_foot_lower = (1 - up) * per_depth / (foot - last);
+    } else {
+      if (layer == layers - 1) return;
+      ++upper;
+      const double next = face(layer + 2);
+      const double up = (share - middle) / (0.5 * (next - foot));
+      per_foot_upper = up * per_depth / (next - top);
+      per_foot_lower *= 1 - up;
     }
-    per_foot_lower =
-        (1 - up) / (column.depth * (Face_Share(below + 1, layers) - Face_Share(below, layers)));
-    per_foot_upper =
-        up / (column.depth * (Face_Share(above + 1, layers) - Face_Share(above, layers)));
   }
 };
 

@@ -9,13 +9,21 @@
 namespace companion {
 namespace {
 
-/// Two layers that differ so little that their sum is again a normal distribution, as good as.
+/// Two layers that differ so little that their sum is again a normal distribution, as good as: the
+/// distance of their centres and the difference of their moments, both measured by the moments.
 bool Alike(const Layer& a, const Layer& b) {
   const Plan_Moments& s = a.spread;
-  const double dx = a.x - b.x, dz = a.z - b.z;
-  const double xx = kSameSpread * s.xx, zz = kSameSpread * s.zz;
-  return std::abs(b.spread.xx - s.xx) <= xx && std::abs(b.spread.zz - s.zz) <= zz &&
-         (b.spread.xz - s.xz) * (b.spread.xz - s.xz) <= xx * zz && dx * dx <= xx && dz * dz <= zz;
+  const double determinant = s.xx * s.zz - s.xz * s.xz;
+  if (determinant <= 0) return false;
+  const double dx = b.x - a.x, dz = b.z - a.z;
+  const double squared = s.zz * dx * dx - 2 * s.xz * dx * dz + s.xx * dz * dz;
+  if (squared > kSamePlace * kSamePlace * determinant) return false;
+  const double xx = b.spread.xx - s.xx, xz = b.spread.xz - s.xz, zz = b.spread.zz - s.zz;
+  // The squares of the difference in units of the moments: trace of (C^-1 D)^2.
+  const double first = s.zz * xx - s.xz * xz, second = s.xx * zz - s.xz * xz;
+  const double mixed = (s.zz * xz - s.xz * zz) * (s.xx * xz - s.xz * xx);
+  return first * first + 2 * mixed + second * second <=
+         kSameSpread * kSameSpread * determinant * determinant;
 }
 
 }  // namespace

@@ -11,8 +11,9 @@
 
 namespace companion {
 
-inline constexpr double kSameSpread =
-    0.003;  // of a variance, by which layers put as one may differ
+// By what two layers that go to the grid as one may differ: their peak is then 1e-4 off at most.
+inline constexpr double kSamePlace = 0.2;    // standard deviations between their centres
+inline constexpr double kSameSpread = 0.02;  // of their variances
 
 /// Adds to `parts` what the columns of a species hold at a depth, amounts per ft of depth: straight
 /// between the layers' middles, constant beyond the first and the last, nothing below a column's

@@ -55,7 +55,9 @@ class Raster {
            static_cast<std::size_t>(k);
   }
   double Highest_Cell(const Part& part) const;
-  void Put(const Part& part, double squared_reach);
+  /// `whole`: the shares add up to all there is over the grid.
+  void Put(const Part& part, double squared_reach, bool whole);
+  static void Fill_Narrow(double first, double width, double* shares, int cells);
 
   int points_x_, points_z_;
   double spacing_x_, spacing_z_;

@@ -12,13 +12,13 @@ constexpr double kSeries = 1e-3;          // concentration up to which two terms
 constexpr double kDensestSettling = 0.9;  // a concentration beyond is not looked at
 constexpr double kMilligrams = 1e6;       // mg/l of 1 g/cc
 
-/// Slope of the amounts within a layer from those beside it (van Leer 1974), held so that no value
+/// Slope of the amounts within a layer from those beside it (van Leer 1977), held so that no value
 /// within the layer passes a neighbour's mean.
 double Limited_Slope(double here, double below, double above, double height, double below_distance,
                      double above_distance) {
   const double lower = (here - below) / below_distance, upper = (above - here) / above_distance;
   if (!(lower * upper > 0)) return 0;
-  const double slope = 2 * lower * upper / (lower + upper);
+  const double slope = 0.5 * (lower + upper);
   const double most = 2 * std::min({std::abs(here - below), std::abs(above - here), here}) / height;
   return std::clamp(slope, -most, most);
 }
