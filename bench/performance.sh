@@ -4,7 +4,7 @@
 #
 #   bench/performance.sh [ROUNDS]
 #
-# Single figures: project_file, start, memory, screens, wait, run, batch behind the rounds.
+# Single figures: project_file, start, memory, screens, wait, run, batch, companion behind the rounds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
@@ -12,12 +12,12 @@ cd "$(dirname "$0")/.."
 rounds=${1:-21}
 [ $# -eq 0 ] || shift
 parts=("$@")
-[ ${#parts[@]} -gt 0 ] || parts=(project_file start memory screens wait run batch)
+[ ${#parts[@]} -gt 0 ] || parts=(project_file start memory screens wait run batch companion)
 
 barvon_install_packages packaging/debian-packages.txt
 barvon_install_packages packaging/debian-packages.txt proof
-barvon_build release barvon barvon-run merak32 help_file project_file_bench screen_bench \
-  memory_bench wait_bench stub_solver bare_window start_bench first_paint
+barvon_build release barvon barvon-run barvon-solver merak32 help_file project_file_bench \
+  screen_bench memory_bench wait_bench stub_solver bare_window start_bench first_paint solver_bench
 bin="$PWD/build/release/bin"
 plugins="$PWD/build/release/bench/plugins"
 source="$PWD"
@@ -36,6 +36,7 @@ wait_for_solver() {
 }
 run() { "$source/bench/run_cost.sh" "$bin" "$rounds"; }
 batch() { "$source/bench/batch_cost.sh" "$bin"; }
+companion() { "$source/bench/companion.sh" "$bin" "$rounds"; }
 
 missed=()
 echo "load: $(cut -d' ' -f1-3 /proc/loadavg), cores: $(nproc)"

@@ -8,6 +8,12 @@
 
 namespace companion {
 
+namespace {
+
+constexpr double kThinnest = 1e-3;  // ft, of a range of depths
+
+}  // namespace
+
 double Left_Of(double amount, double lost) {
   if (!(lost > 0)) return amount;
   return lost < kAllLost ? amount * Exp(-lost) : 0;
@@ -93,6 +99,32 @@ double Level_Of(const Model_Input& input, double density, double foot) {
     here = densities[i];
   }
   return 0;
+}
+
+Layering Layering_Of(const Model_Input& input, double top, double foot) {
+  const std::vector<double>& depths = input.profile_depths;
+  const std::vector<double>& densities = input.profile_densities;
+  foot = std::max(foot, top + kThinnest);
+  const double middle = (top + foot) / 2, height = foot - top;
+  double sum = 0, moment = 0;
+  const auto add = [&](double from, double to, double upper, double slope, double at) {
+    from = std::max(from, top);
+    to = std::min(to, foot);
+    if (!(to > from)) return;
+    const double length = to - from, centre = (from + to) / 2;
+    const double density = upper + slope * (centre - at);
+    sum += length * density;
+    moment += length * (density * (centre - middle) + slope * length * length / 12);
+  };
+  add(top, depths.front(), densities.front(), 0, 0);
+  for (std::size_t i = 1; i < depths.size(); ++i)
+    if (depths[i] > depths[i - 1])
+      add(depths[i - 1], depths[i], densities[i - 1],
+          (densities[i] - densities[i - 1]) / (depths[i] - depths[i - 1]), depths[i - 1]);
+  add(depths.back(), foot, densities.back(), 0, 0);
+  const double density = sum / height;
+  const double gradient = 12 * moment / (height * height * height);
+  return {density, std::max(0.0, kGravity * gradient / density)};
 }
 
 namespace {

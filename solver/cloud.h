@@ -60,6 +60,15 @@ double Hindrance(double share);
 /// `foot` where the water there is not.
 double Level_Of(const Model_Input& input, double density, double foot);
 
+/// The water over a range of depths: its mean density and N2 of the straight line that fits its
+/// densities best, not below 0. A body of one density that floats there is pushed apart as by that
+/// line; and nothing jumps when its edge passes a jump of the profile.
+struct Layering {
+  double density = 0;            // g/cc
+  double squared_frequency = 0;  // 1/s2
+};
+Layering Layering_Of(const Model_Input& input, double top, double foot);
+
 /// What hands a cloud over: every amount over its height, as a normal distribution with twice the
 /// moments of its plan, so that the peak is the cloud's own concentration.
 void Hand_Over(const Cloud& cloud, bool with_tracer, double bed, bool held,

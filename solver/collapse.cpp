@@ -38,7 +38,16 @@ enum Index : std::size_t {
   kFirstLost,  // of each fraction, logarithm
 };
 
-constexpr double kSpeedFloor = 0.001;  // ft/s, below which a speed's error counts as of this
+constexpr double kLossFloor = 10;       // of the logarithm of a loss, which kinks with the speed
+constexpr double kSmoothSpeed = 0.001;  // ft/s, over which a speed's size turns at 0
+
+/// |speed| without a kink, which would cost a cloud that floats up and down most of its steps.
+double Smooth_Size(double speed) {
+  const double square = speed * speed;
+  return square / std::sqrt(square + kSmoothSpeed * kSmoothSpeed);
+}
+
+constexpr double kSpeedFloor = 0.1;  // ft/s, below which a speed's error counts as of this
 
 }  // namespace
 
@@ -47,7 +56,8 @@ struct Collapse::Work {
   struct View {
     Cloud cloud;
     double area = 0, volume = 0, mass = 0;  // ft2, ft3, g/cc ft3
-    double water_density = 0, bed = 0;
+    double water_density = 0, bed = 0;      // on the bed at its middle, at a level over its height
+    double squared_frequency = 0;           // 1/s2, at a level
     Velocity current;
   };
 
@@ -97,6 +107,7 @@ struct Collapse::Work {
         origin(std::move(start)),
         trail(origin.number) {}
 
+  void Fit_Under_The_Surface();
   void Begin();
   View Look(double time, const Integrator::Values& state) const;
   void Rates(double time, const Integrator::Values& state, Integrator::Values& rates) const;
@@ -112,6 +123,14 @@ struct Collapse::Work {
   void Advance(double time);
 };
 
+/// A wider one where `origin` would be higher than 0.9 of the depth.
+void Collapse::Work::Fit_Under_The_Surface() {
+  const double volume = origin.Volume();
+  const double highest = kLargestBedHeight * water.Bed(origin.x, origin.z);
+  if (volume > highest * Plan_Area(origin.radius, origin.length))
+    origin.radius = Plan_Radius(volume / highest, origin.length);
+}
+
 /// Sets the equations off from `origin`.
 void Collapse::Work::Begin() {
   const std::size_t solids = origin.solids.size();
@@ -124,7 +143,7 @@ void Collapse::Work::Begin() {
   state[kSpeedX] = origin.velocity_x;
   state[kSpeedZ] = origin.velocity_z;
   state[kDownward] = on_bed ? 0 : origin.downward;
-  Integrator::Values floors(kFirstLost + solids, 1);
+  Integrator::Values floors(kFirstLost + solids, kLossFloor);
   floors[kX] = floors[kZ] = floors[kDown] = floors[kRadius] = std::max(origin.radius, 1e-3);
   floors[kFluid] = std::max(origin.Volume(), 1e-9);
   floors[kFluidMass] = floors[kFluid];
@@ -159,7 +178,14 @@ Collapse::Work::View Collapse::Work::Look(double time, const Integrator::Values&
   cloud.height = seen.volume / seen.area;
   seen.bed = water.Bed(cloud.x, cloud.z);
   cloud.y = on_bed ? std::max(seen.bed - cloud.height / 2, seen.bed / 2) : state[kDown];
-  seen.water_density = water.Density(cloud.y);
+  if (on_bed) {
+    seen.water_density = water.Density(cloud.y);
+  } else {
+    const double half = cloud.height / 2;
+    const Layering layering = Layering_Of(input, cloud.y - half, cloud.y + half);
+    seen.water_density = layering.density;
+    seen.squared_frequency = layering.squared_frequency;
+  }
   seen.current = water.Current(cloud.x, cloud.z, cloud.y, time);
   return seen;
 }
@@ -172,11 +198,11 @@ double Collapse::Work::Push(const View& seen) const {
     const double excess = kGravity * (seen.mass - seen.water_density * seen.volume);
     return rim * 0.5 * excess / seen.volume * h * h;
   }
-  const double squared = water.Squared_Frequency(cloud.y - h / 2, cloud.y + h / 2);
-  return rim * seen.water_density * squared * (1 - coefficients.GAMA) * h * h * h / 12;
+  return rim * seen.water_density * seen.squared_frequency * (1 - coefficients.GAMA) * h * h * h /
+         12;
 }
 
-/// ft3/s that the rim and the faces in the water take in.
+/// ft3/s that the rim and the faces in the water take in; on the bed while there is water over it.
 double Collapse::Work::Inflow(const View& seen) const {
   const Cloud& cloud = seen.cloud;
   const double u = cloud.spreading, h = cloud.height;
@@ -184,9 +210,11 @@ double Collapse::Work::Inflow(const View& seen) const {
   const double rim = 2 * (kPi * cloud.radius + cloud.length);
   const double squared =
       on_bed ? std::max(0.0, kGravity * (seen.mass / (seen.water_density * seen.volume) - 1) * h)
-             : water.Squared_Frequency(cloud.y - h / 2, cloud.y + h / 2) * h * h / 4;
+             : seen.squared_frequency * h * h / 4;
   const double faces = on_bed ? 1 : 2;
-  return cloud.inflow_factor * coefficients.ALPHAC * u *
+  const double over =
+      on_bed ? std::clamp((1 - h / seen.bed) / (1 - kLargestBedHeight), 0.0, 1.0) : 1;
+  return over * cloud.inflow_factor * coefficients.ALPHAC * u *
          (rim * h + faces * (2.0 / 3) * seen.area * Inflow_Share(squared / (u * u)));
 }
 
@@ -219,7 +247,7 @@ void Collapse::Work::Losses(const View& seen, Integrator::Values& rates) const {
       if (kind.critical_shear > 0) leaving *= std::max(0.0, 1 - stress / kind.critical_shear);
     } else {
       leaving = coefficients.BETA * leaving +
-                (1 - coefficients.BETA) * std::max(0.0, leaving - std::abs(cloud.downward));
+                (1 - coefficients.BETA) * std::max(0.0, leaving - Smooth_Size(cloud.downward));
     }
     rates[kFirstLost + i] = std::max(0.0, leaving / cloud.height);
   }
@@ -259,10 +287,10 @@ void Collapse::Work::Rates(double time, const Integrator::Values& state,
     rates[kSpeedZ] += weight * slope_z - rubbing * cloud.velocity_z;
   } else {
     rates[kDown] = cloud.downward;
-    rates[kDownward] =
-        (weight - half * coefficients.CD4 * seen.area * std::abs(cloud.downward) * cloud.downward) /
-            (mass_factor * seen.mass) -
-        seen.water_density * inflow * cloud.downward / seen.mass;
+    rates[kDownward] = (weight - half * coefficients.CD4 * seen.area * Smooth_Size(cloud.downward) *
+                                     cloud.downward) /
+                           (mass_factor * seen.mass) -
+                       seen.water_density * inflow * cloud.downward / seen.mass;
   }
   rates[kSpeedX] /= seen.mass;
   rates[kSpeedZ] /= seen.mass;
@@ -373,13 +401,8 @@ Collapse::Collapse(const Model_Input& input, const Water& water, Cloud start, bo
     : work_(std::make_unique<Work>(input, water, std::move(start), on_bed, until, stops, tolerance,
                                    std::move(tell), sources, deposits)) {
   Work& work = *work_;
-  Cloud& cloud = work.origin;
-  const double volume = cloud.Volume();
-  if (on_bed && volume > 0) {
-    const double highest = kLargestBedHeight * water.Bed(cloud.x, cloud.z);
-    if (volume > highest * Plan_Area(cloud.radius, cloud.length))
-      cloud.radius = Plan_Radius(volume / highest, cloud.length);
-  }
+  if (on_bed) work.Fit_Under_The_Surface();
+  const Cloud& cloud = work.origin;
   work.Begin();
   work.phase.kind = on_bed ? Phase_Kind::Bed_Collapse : Phase_Kind::Level_Collapse;
   work.phase.batch = cloud.batch;
@@ -422,6 +445,7 @@ void Collapse::Join(const Cloud& landing) {
   joined.tracer += landing.tracer;
   for (std::size_t i = 0; i < joined.solids.size(); ++i) joined.solids[i] += landing.solids[i];
   work.origin = std::move(joined);
+  work.Fit_Under_The_Surface();
   work.Begin();
   work.trail.Begin(work.view.cloud, work.amounts);
   work.rows.Add(work.Row());

@@ -16,7 +16,7 @@ namespace companion {
 
 inline constexpr double kRadiusStep = 1.08;        // of what leaves a spreading cloud, times radius
 inline constexpr double kSpreadingInertia = 0.25;  // of the mass: the round similarity solution
-inline constexpr double kLargestBedHeight = 0.9;   // of the depth, at the start on the bed
+inline constexpr double kLargestBedHeight = 0.9;   // of the depth, at a landing; inflow ebbs above
 inline constexpr double kEdgeOfDiffusion = 2;    // radii that the 4/3 law takes for a cloud's size
 inline constexpr double kTurbulentSpeeds = 2;    // of the shear velocity, which outdo the weight
 inline constexpr double kHeadRichardson = 1.25;  // e(Ri) = (1 - 1.25 Ri)/(1 + 5 Ri)

@@ -30,6 +30,22 @@ constexpr double kGreatestAngle = 1e5;
 constexpr double kTwoPerRootPi = 1.1283791670955126;
 constexpr double kRootOfTwo = 1.4142135623730951;
 
+// 2 to the power 0, 1/32 ... 31/32.
+// clang-format off
+constexpr std::array<double, 32> kRootsOfTwo = {
+    1.0, 1.0218971486541166, 1.0442737824274138, 1.0671404006768237,
+    1.0905077326652577, 1.1143867425958924, 1.1387886347566916, 1.1637248587775775,
+    1.189207115002721, 1.215247359980469, 1.241857812073484, 1.2690509571917332,
+    1.2968395546510096, 1.3252366431597413, 1.3542555469368927, 1.383909881963832,
+    1.4142135623730951, 1.4451808069770467, 1.4768261459394993, 1.5091644275934228,
+    1.5422108254079407, 1.5759808451078865, 1.6104903319492543, 1.645755478153965,
+    1.681792830507429, 1.718619298122478, 1.7562521603732995, 1.7947090750031072,
+    1.8340080864093424, 1.8741676341103, 1.9152065613971474, 1.9571441241754002};
+// clang-format on
+
+/// The nearest whole number, for sizes that an int has.
+int Nearest(double x) { return static_cast<int>(x < 0 ? x - 0.5 : x + 0.5); }
+
 /// A number as the sum of two, the second far below the last digit of the first.
 struct Pair {
   double high = 0, low = 0;
@@ -88,19 +104,11 @@ Parts Balanced_Parts(double x) {
 
 /// What follows 2 s in log((1 + s)/(1 - s)), for |s| < 0.172: 2 s^3/3 + 2 s^5/5 + ...
 double Log_Tail(double s) {
-  const double z = s * s;
-  double sum = 2.0 / 23;
-  sum = sum * z + 2.0 / 21;
-  sum = sum * z + 2.0 / 19;
-  sum = sum * z + 2.0 / 17;
-  sum = sum * z + 2.0 / 15;
-  sum = sum * z + 2.0 / 13;
-  sum = sum * z + 2.0 / 11;
-  sum = sum * z + 2.0 / 9;
-  sum = sum * z + 2.0 / 7;
-  sum = sum * z + 2.0 / 5;
-  sum = sum * z + 2.0 / 3;
-  return s * z * sum;
+  const double z = s * s, w = z * z;
+  const double even =
+      2.0 / 3 + w * (2.0 / 7 + w * (2.0 / 11 + w * (2.0 / 15 + w * (2.0 / 19 + w * (2.0 / 23)))));
+  const double odd = 2.0 / 5 + w * (2.0 / 9 + w * (2.0 / 13 + w * (2.0 / 17 + w * (2.0 / 21))));
+  return s * z * (even + z * odd);
 }
 
 /// The logarithm to some 60 bits, so that a power keeps its digits.
@@ -201,22 +209,14 @@ double Exp(double x) {
   if (x != x) return x;
   if (x > 709.79) return kInfinity;
   if (x < -745.2) return 0;
-  const double whole = std::floor(x * kPerLn2 + 0.5);
-  const double r = (x - whole * kLn2High) - whole * kLn2Low;
-  double sum = 1 / 6227020800.0;
-  sum = sum * r + 1 / 479001600.0;
-  sum = sum * r + 1 / 39916800.0;
-  sum = sum * r + 1 / 3628800.0;
-  sum = sum * r + 1 / 362880.0;
-  sum = sum * r + 1 / 40320.0;
-  sum = sum * r + 1 / 5040.0;
-  sum = sum * r + 1 / 720.0;
-  sum = sum * r + 1 / 120.0;
-  sum = sum * r + 1 / 24.0;
-  sum = sum * r + 1 / 6.0;
-  sum = sum * r + 0.5;
-  const double value = 1 + (r + r * r * sum);
-  const int power = static_cast<int>(whole);
+  // x is a whole number of 32nds of log 2 and r, which is at most half of one.
+  const int whole = Nearest(x * (32 * kPerLn2));
+  const double r = (x - whole * (kLn2High / 32)) - whole * (kLn2Low / 32);
+  const double z = r * r;
+  const double sum = r + z * ((0.5 + r * (1 / 6.0)) + z * ((1 / 24.0 + r * (1 / 120.0)) + z / 720));
+  const double root = kRootsOfTwo[static_cast<std::size_t>(whole & 31)];
+  const double value = root + root * sum;
+  const int power = (whole - (whole & 31)) / 32;
   if (power >= -1022 && power <= 1023) return value * Power_Of_Two(power);
   const int half = power / 2;
   return value * Power_Of_Two(half) * Power_Of_Two(power - half);
@@ -238,12 +238,11 @@ double Cbrt(double x) {
   // The exponent to a multiple of 3, downward: the number left is from 1 to below 8.
   const int third = (parts.exponent + 1200) / 3 - 400;
   const double left = parts.mantissa * Power_Of_Two(parts.exponent - 3 * third);
-  // Within 4 %; Halley's step cubes the error, Newton's last one leaves half a digit.
-  double y = 0.72 + left * (0.27 - 0.0138 * left);
-  for (int step = 0; step < 2; ++step) {
-    const double cube = y * y * y;
-    y = y * (cube + 2 * left) / (2 * cube + left);
-  }
+  // Within 0.2 %; Halley's step cubes the error, Newton's squares it and leaves half a digit.
+  double y = 0.6272947 +
+             left * (0.4491937 + left * (-0.08377507 + left * (0.009583818 - left * 0.0004321008)));
+  const double cube = y * y * y;
+  y = y * (cube + 2 * left) / (2 * cube + left);
   y = y - (y - left / (y * y)) / 3;
   y *= Power_Of_Two(third);
   return x < 0 ? -y : y;
@@ -258,9 +257,12 @@ double Erf(double x) {
     const int piece = static_cast<int>(size * 16 + 0.5);
     const double h = size - piece / 16.0;
     const std::array<double, kErfTerms>& terms = series[static_cast<std::size_t>(piece)];
-    double sum = terms[kErfTerms - 1];
-    for (std::size_t n = kErfTerms - 1; n-- > 1;) sum = sum * h + terms[n];
-    value = terms[0] + sum * h;
+    const double z = h * h;
+    const double odd =
+        terms[1] +
+        z * (terms[3] + z * (terms[5] + z * (terms[7] + z * (terms[9] + z * terms[11]))));
+    const double even = terms[2] + z * (terms[4] + z * (terms[6] + z * (terms[8] + z * terms[10])));
+    value = terms[0] + h * (odd + h * even);
   }
   return x < 0 ? -value : value;
 }
@@ -282,11 +284,11 @@ double Sin(double radians) {
   if (!(std::abs(radians) < kInfinity)) return kNoNumber;
   double angle = radians;
   if (std::abs(angle) > kGreatestAngle) angle = std::fmod(angle, 2 * kPi);
-  const double quarters = std::floor(angle * kPerHalfPi + 0.5);
+  const int quarters = Nearest(angle * kPerHalfPi);
   const double high = angle - quarters * kHalfPiHigh;
   const Pair r = Exact_Sum(high, -quarters * kHalfPiMiddle);
   const double near = r.high + (r.low - quarters * kHalfPiLow);
-  switch (static_cast<int>(quarters) & 3) {
+  switch (quarters & 3) {
     case 0:
       return Sin_Near_0(near);
     case 1:

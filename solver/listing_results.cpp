@@ -63,6 +63,25 @@ std::string Phase_Rows(const Model_Input& input, const Phase& phase) {
   return text;
 }
 
+/// What became of each phase's cloud, a line a species: all that such a run has to tell.
+std::string Clouds_At_Their_End(const Model_Input& input, const Outcome& outcome) {
+  std::string text = kLineEnd;
+  text += "  What left the clouds on the way, and what is left of them at the end\r\n";
+  text += "  species      amount in      washed off      fallen out         settled            left"
+          "\r\n";
+  for (const Phase& phase : outcome.near_field.phases) {
+    text += "  " + phase.name + "; " + phase.end + kLineEnd;
+    for (std::size_t s = 0; s < input.Species(); ++s) {
+      text += "    " + Left(Species_Name(input, s), 10) + Right(Amount_Unit(input, s), 10);
+      for (const auto* amounts : {&phase.washed, &phase.fallen, &phase.settled, &phase.left}) {
+        text += Right(s < amounts->size() ? Shown((*amounts)[s], 6) : "-", 16);
+      }
+      text += kLineEnd;
+    }
+  }
+  return text;
+}
+
 std::string Place(const Spot& spot) {
   return Right(Plain(spot.time, 7), 11) + Right(Fixed(spot.x, 0), 9) + Right(Fixed(spot.z, 0), 9);
 }
@@ -123,6 +142,7 @@ std::string Phases_Section(const Model_Input& input, const Outcome& outcome) {
             Right(Fixed(last.height, 2), 10) + Right(Fixed(last.density, 5), 10) + "  " +
             phase.name + "; " + phase.end + kLineEnd;
   }
+  if (input.key2 != 0) text += Clouds_At_Their_End(input, outcome);
   for (const Phase& phase : outcome.near_field.phases) {
     const bool falls = phase.kind == Phase_Kind::Descent;
     if (falls ? input.print_descent : input.print_collapse) text += Phase_Rows(input, phase);

@@ -2,11 +2,15 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace companion {
 namespace {
 
 constexpr std::size_t kLongestNumber = 400;  // the largest double without an exponent has 309
+
+/// Nothing where the exponent would need a third digit: every number has its columns.
+double In_Two_Digits(double value) { return std::abs(value) < kLeastWritten ? 0 : value; }
 
 std::string Text(double value, std::chars_format format, int digits) {
   if (value == 0) value = 0;  // of either sign
@@ -27,13 +31,13 @@ std::string Left(std::string text, std::size_t columns) {
 }
 
 std::string Sci(double value) {
-  return Right(Text(value, std::chars_format::scientific, kSciDigits - 1), kSciColumns);
+  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kSciDigits - 1), kSciColumns);
 }
 
 std::string Int(long value) { return Right(std::to_string(value), kIntColumns); }
 
 std::string Map_Number(double value) {
-  return Right(Text(value, std::chars_format::scientific, kMapDigits - 1), kMapColumns);
+  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kMapDigits - 1), kMapColumns);
 }
 
 std::string Plain(double value, int digits) {

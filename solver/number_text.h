@@ -13,6 +13,7 @@ inline constexpr int kSciDigits = 7;
 inline constexpr std::size_t kIntColumns = 5;
 inline constexpr std::size_t kMapColumns = 11;
 inline constexpr int kMapDigits = 5;
+inline constexpr double kLeastWritten = 1e-99;  // of any quantity: less is written as 0
 
 /// Right-justified; a text that is as wide or wider stays as it is behind one blank.
 std::string Right(const std::string& text, std::size_t columns);

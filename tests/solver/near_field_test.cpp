@@ -163,6 +163,41 @@ TEST(NearField, The_Level_Of_A_Density_Is_Sought_Upwards_From_The_Foot) {
   EXPECT_EQ(Level_Of(input, 1.5, 50), 50);
 }
 
+TEST(NearField, The_Layering_Of_A_Range_Is_Its_Mean_And_Its_Best_Line) {
+  Model_Input input = Solver_Case();
+  input.profile_depths = {10, 50};
+  input.profile_densities = {1.0, 1.04};
+  Layering layering = Layering_Of(input, 20, 40);
+  EXPECT_NEAR(layering.density, 1.02, 1e-12);
+  EXPECT_NEAR(layering.squared_frequency, kGravity * 0.001 / 1.02, 1e-12);
+  layering = Layering_Of(input, 55, 60);
+  EXPECT_NEAR(layering.density, 1.04, 1e-12);
+  EXPECT_EQ(layering.squared_frequency, 0);
+  // A jump in the middle of 8 ft: the best line has a slope of 3/2 of the jump over the height.
+  input.profile_depths = {0, 30, 30, 60};
+  input.profile_densities = {1.0, 1.0, 1.01, 1.01};
+  layering = Layering_Of(input, 26, 34);
+  EXPECT_NEAR(layering.density, 1.005, 1e-12);
+  EXPECT_NEAR(layering.squared_frequency, kGravity * 1.5 * 0.01 / 8 / 1.005, 1e-12);
+  // An edge that comes over the jump finds nothing of it yet.
+  EXPECT_NEAR(Layering_Of(input, 22, 30 + 1e-9).squared_frequency, 0, 1e-9);
+  input.profile_densities = {1.01, 1.01, 1.0, 1.0};
+  EXPECT_EQ(Layering_Of(input, 26, 34).squared_frequency, 0);
+}
+
+TEST(NearField, A_Cloud_Rests_On_A_Jump_Of_The_Profile) {
+  Model_Input input = Case_With_Tracer();
+  input.depth = 200;
+  input.profile_depths = {0, 80, 80, 200};
+  input.profile_densities = {1.0, 1.0, 1.03, 1.03};
+  for (Solid& solid : input.batches.front().solids) solid.fraction = 0.02;
+  const Near_Field field = Followed(input);
+  const Phase& level = First(field, Phase_Kind::Level_Collapse);
+  EXPECT_EQ(level.end, "spread");
+  EXPECT_NEAR(level.rows.back().y, 80, level.rows.back().height);
+  EXPECT_LE(Worst_Balance(input, field), 1e-12);
+}
+
 TEST(NearField, The_Depression_Holds_A_Cloud_That_Is_Too_Slow_To_Leave_It) {
   Model_Input input = Case_With_Tracer();
   input.hole_x = input.hole_z = 400;

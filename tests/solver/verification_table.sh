@@ -26,7 +26,7 @@ BARVON_VERIFICATION=$folder/cases "$tests" --gtest_brief=1 > "$folder/said" ||
     { key = $1 "\t" $2 }
     !(key in got) || $3 + 0 > got[key] + 0 { got[key] = $3 }
     !(key in bound) || $4 + 0 > bound[key] + 0 { bound[key] = $4 }
-    END { for (key in got) print key "\t" got[key] "\t" bound[key] }' "$folder/cases" | sort |
+    END { for (key in got) print key "\t" got[key] "\t" bound[key] }' "$folder/cases" | sort -f |
     awk -F '\t' '{ printf "| %s | %s | %s | %s |\n", $1, $2, $3, $4 }'
 } > "$folder/verification"
 
