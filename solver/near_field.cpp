@@ -16,6 +16,9 @@ namespace companion {
 
 namespace {
 
+// Whatever the tolerance of a run, so that each cuts the load into the same clouds.
+constexpr double kFallTimeTolerance = 1e-8;
+
 std::string Figure(double value) {
   char text[32];
   const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 4);
@@ -69,7 +72,7 @@ Follower::Follower(const Model_Input& input, const Water& water, const std::vect
   out_.released.assign(input.Species(), 0);
   out_.aboard = out_.released;
   const Release release = Release_Load(input, water, [&](const Cloud_Start& start) {
-    return Fall_Time(input, water, start, tolerance);
+    return Fall_Time(input, water, start, kFallTimeTolerance);
   });
   Tell_Load(release);
   std::size_t number = 0;

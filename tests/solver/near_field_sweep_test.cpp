@@ -77,7 +77,9 @@ void Draw_Load(Draw& draw, Model_Input& input) {
   batch.fluid.density = input.load_density = draw.Even(0.99, 1.03);
   const int fractions = draw.Count(1, 4);
   for (int i = 0; i < fractions; ++i) {
-    Solid solid = Test_Solid("S", draw.Logarithmic(1e-4, 0.2), draw.Logarithmic(1e-4, 3));
+    // One draw a statement: compilers differ in the order in which they take arguments.
+    const double fraction = draw.Logarithmic(1e-4, 0.2);
+    Solid solid = Test_Solid("S", fraction, draw.Logarithmic(1e-4, 3));
     solid.sg = draw.Even(1.1, 3);
     solid.cohesive = draw.Once_In(2);
     solid.stripped = draw.Once_In(2);
@@ -91,7 +93,8 @@ void Draw_Load(Draw& draw, Model_Input& input) {
     each.moisture = draw.Once_In(4) ? 0 : draw.Even(0.1, 4);
     each.velocity_x = draw.Once_In(2) ? 0 : draw.Even(-8, 8);
   }
-  if (!draw.Once_In(4)) Give_Tracer(input, draw.Logarithmic(1e-3, 1e5), draw.Even(0, 1));
+  const double concentration = draw.Logarithmic(1e-3, 1e5);
+  if (!draw.Once_In(4)) Give_Tracer(input, concentration, draw.Even(0, 1));
 }
 
 Model_Input Drawn(std::uint64_t seed) {
