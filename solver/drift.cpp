@@ -9,18 +9,24 @@
 namespace companion {
 namespace {
 
-/// C <- M C M^T, M = 1 + A + A2/2: the strain A over a time to the second order.
-void Deform(Plan_Moments& moments, const std::array<double, 4>& strain, double seconds) {
+/// C <- M C M^T, M = 1 + A + A2/2: the strain A over a time to the second order. A place where the
+/// current runs together or apart for hours would end in a line or in more than the grid: what is
+/// thinner than kThinnest beside its length, or would grow beyond `widest` ft2, keeps its form.
+void Deform(Plan_Moments& moments, const std::array<double, 4>& strain, double seconds,
+            double widest) {
   const double a = strain[0] * seconds, b = strain[1] * seconds;
   const double c = strain[2] * seconds, d = strain[3] * seconds;
   const double xx = 1 + a + 0.5 * (a * a + b * c), xz = b + 0.5 * b * (a + d);
   const double zx = c + 0.5 * c * (a + d), zz = 1 + d + 0.5 * (b * c + d * d);
-  const Plan_Moments old = moments;
+  const Plan_Moments& old = moments;
   const double up = xx * old.xx + xz * old.xz, right = xx * old.xz + xz * old.zz;
   const double low = zx * old.xx + zz * old.xz, across = zx * old.xz + zz * old.zz;
-  moments.xx = up * xx + right * xz;
-  moments.xz = up * zx + right * zz;
-  moments.zz = low * zx + across * zz;
+  const Plan_Moments later{up * xx + right * xz, up * zx + right * zz, low * zx + across * zz};
+  const double determinant = later.xx * later.zz - later.xz * later.xz;
+  const bool thin =
+      determinant < kThinnest * later.xx * later.zz || determinant < kSmallest * kSmallest;
+  const bool wide = later.xx > std::max(widest, old.xx) || later.zz > std::max(widest, old.zz);
+  if (!thin && !wide) moments = later;
 }
 
 }  // namespace
@@ -43,6 +49,8 @@ Drift::Drift(const Model_Input& input, const Water& water, int layers)
       level_(input.constant_depth && !(input.hole_depth > 0)),
       currents_(static_cast<std::size_t>(layers)) {
   for (int l = 0; l < layers; ++l) middles_.push_back(Middle_Share(l, layers));
+  const double x = input.points_x * input.spacing_x, z = input.points_z * input.spacing_z;
+  widest_ = x * x + z * z;
   Find_Land();
 }
 
@@ -133,7 +141,7 @@ void Drift::Drift_Layer(Layer& layer, double share, double time, double seconds)
     const Velocity middle = water_.Current_At_Share(x, z, share, start + 0.5 * length);
     layer.x += length * middle.x;
     layer.z += length * middle.z;
-    if (water_.Strains()) Deform(layer.spread, strain, length);
+    if (water_.Strains()) Deform(layer.spread, strain, length, widest_);
   }
 }
 
