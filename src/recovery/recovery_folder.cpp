@@ -49,6 +49,9 @@ std::optional<std::string> Recovery_Folder() {
 
 bool Exists(const std::string& path) { return ::access(path.c_str(), F_OK) == 0; }
 
+/// What can't be looked at for a moment is still there.
+bool Is_Gone(const std::string& path) { return !Exists(path) && errno == ENOENT; }
+
 }  // namespace
 
 int Own_Copy::Take_Name() {
@@ -70,7 +73,7 @@ int Own_Copy::Take_Name() {
 
 int Own_Copy::Write(const std::string& bytes) {
   // Somebody may have removed the folder: a copy without its lock would be another window's.
-  if (!lock_.Is_Held() || !Exists(lock_.Path())) {
+  if (!lock_.Is_Held() || Is_Gone(lock_.Path())) {
     if (const int error = Take_Name(); error != 0) return error;
   }
   const std::string part = With_Ending(Stem_Of(path_), kPart);
@@ -83,7 +86,7 @@ int Own_Copy::Write(const std::string& bytes) {
   return error;
 }
 
-bool Own_Copy::Stands() const { return stands_ && Exists(path_); }
+bool Own_Copy::Stands() const { return stands_ && !Is_Gone(path_); }
 
 void Own_Copy::Remove() {
   if (stands_) ::unlink(path_.c_str());

@@ -196,7 +196,8 @@ void Run_Solver(ProjectRecord& record, Solver_Choice choice, Known_Folders& fold
     return;
   }
   // What a killed program's solver has left running would write its files over this run's.
-  if (!Matching_Files(folder, kMarkerFile).empty()) Kill_Strays_In(folder);
+  const std::string mark = Join_Path(folder, kRunMark);
+  if (::access(mark.c_str(), F_OK) == 0) Kill_Strays_In(folder);
   const std::string project = record.ProjectFileName;
   const std::string base_name = record.BaseFileName;
   Remove_Scratch_Files(project);
@@ -216,7 +217,10 @@ void Run_Solver(ProjectRecord& record, Solver_Choice choice, Known_Folders& fold
     return;
   }
   const Output_Files outputs(folder);
+  ::unlink(mark.c_str());
+  Write_Exclusive_File(mark, "");
   report.outcome = Create_Process_Code(solver.command_line, choice);
+  ::unlink(mark.c_str());
   if (report.outcome.end.stopped || report.outcome.program_ends) {
     report.stage = Run_Stage::Stopped;
     return;

@@ -99,6 +99,7 @@ TEST_F(PlantedFiles, Under_The_Names_Of_The_Project_They_Are_Replaced_Or_Told) {
       Put(plant, base + extension);
       const Scripted_Messages messages({Answer::Ok});
       bench.notes.clear();
+      Release_Project();  // that the file of the open one is gone would be told
       const bool saved = Save_File(base + ".DUI", kProjectKind, record);
       const bool told = !messages.shown.empty() || !bench.notes.empty();
       Expect_No_Harm(plant, base + extension);
