@@ -153,8 +153,9 @@ TEST_F(BatchRun, Runs_Without_Touching_The_Callers_Or_The_Solvers_Folder) {
   }
   EXPECT_EQ(Names_In(Path("solvers")), before);
   // What the solver saw: its own files, and those of this run only.
-  EXPECT_EQ(Printed_Lines(Read_Text(Path("seen"))),
-            (Lines{"KOLBREE.TMP", "Tmpfile.Due", "listing.txt", "merak32", "table.dat"}));
+  EXPECT_EQ(
+      Printed_Lines(Read_Text(Path("seen"))),
+      (Lines{"KOLBREE.TMP", "Tmpfile.Due", "Tmpfile.run", "listing.txt", "merak32", "table.dat"}));
 }
 
 TEST_F(BatchRun, A_Solver_Finds_The_Subfolders_Of_Its_Folder) {

@@ -371,6 +371,7 @@ TEST_F(FileMenu, Findings_That_Stop_A_Save_As_Leave_The_Project_Its_File) {
 }
 
 TEST_F(FileMenu, A_Project_Whose_First_Save_The_Findings_Stop_Stays_Unnamed) {
+  Release_Project();  // of the tests before
   Scripted_Messages messages({Answer::Cancel, Answer::No});
   chosen_ = folder_ / "new.DUI";
   Click(kFileSave);
