@@ -2,24 +2,31 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "solver/det_math.h"
 
 namespace companion {
 namespace {
 
-/// C <- M C M^T, M = 1 + A + A2/2: the strain A over a time to the second order.
-void Deform(Plan_Moments& moments, const std::array<double, 4>& strain, double seconds) {
+/// C <- M C M^T, M = 1 + A + A2/2: the strain A over a time to the second order. A place where the
+/// current runs together or apart for hours would end in a line or in more than the grid: what is
+/// thinner than kThinnest beside its length, or would grow beyond `widest` ft2, keeps its form.
+void Deform(Plan_Moments& moments, const std::array<double, 4>& strain, double seconds,
+            double widest) {
   const double a = strain[0] * seconds, b = strain[1] * seconds;
   const double c = strain[2] * seconds, d = strain[3] * seconds;
   const double xx = 1 + a + 0.5 * (a * a + b * c), xz = b + 0.5 * b * (a + d);
   const double zx = c + 0.5 * c * (a + d), zz = 1 + d + 0.5 * (b * c + d * d);
-  const Plan_Moments old = moments;
+  const Plan_Moments& old = moments;
   const double up = xx * old.xx + xz * old.xz, right = xx * old.xz + xz * old.zz;
   const double low = zx * old.xx + zz * old.xz, across = zx * old.xz + zz * old.zz;
-  moments.xx = up * xx + right * xz;
-  moments.xz = up * zx + right * zz;
-  moments.zz = low * zx + across * zz;
+  const Plan_Moments later{up * xx + right * xz, up * zx + right * zz, low * zx + across * zz};
+  const double determinant = later.xx * later.zz - later.xz * later.xz;
+  const bool thin =
+      determinant < kThinnest * later.xx * later.zz || determinant < kSmallest * kSmallest;
+  const bool wide = later.xx > std::max(widest, old.xx) || later.zz > std::max(widest, old.zz);
+  if (!thin && !wide) moments = later;
 }
 
 }  // namespace
@@ -42,8 +49,54 @@ Drift::Drift(const Model_Input& input, const Water& water, int layers)
       level_(input.constant_depth && !(input.hole_depth > 0)),
       currents_(static_cast<std::size_t>(layers)) {
   for (int l = 0; l < layers; ++l) middles_.push_back(Middle_Share(l, layers));
-  for (int i = 0; i < input.points_x && !has_land_; ++i)
-    for (int k = 0; k < input.points_z && !has_land_; ++k) has_land_ = water.Land_Point(i, k);
+  const double x = input.points_x * input.spacing_x, z = input.points_z * input.spacing_z;
+  widest_ = x * x + z * z;
+  Find_Land();
+}
+
+/// How many cells each cell is from land, straight or across: two passes over the grid.
+void Drift::Find_Land() {
+  const int rows = input_.points_x - 1, columns = input_.points_z - 1;
+  const int far = rows + columns;
+  std::vector<int> cells(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns), far);
+  const auto at = [&](int i, int k) -> int& {
+    return cells[static_cast<std::size_t>(i) * static_cast<std::size_t>(columns) +
+                 static_cast<std::size_t>(k)];
+  };
+  bool any = false;
+  for (int i = 0; i < rows; ++i)
+    for (int k = 0; k < columns; ++k)
+      if (water_.Land_Point(i, k) && water_.Land_Point(i + 1, k) && water_.Land_Point(i, k + 1) &&
+          water_.Land_Point(i + 1, k + 1)) {
+        at(i, k) = 0;
+        any = true;
+      }
+  if (!any) return;
+  const auto look = [&](int i, int k, int di, int dk) {
+    if (i + di < 0 || i + di >= rows || k + dk < 0 || k + dk >= columns) return;
+    at(i, k) = std::min(at(i, k), at(i + di, k + dk) + 1);
+  };
+  for (int i = 0; i < rows; ++i)
+    for (int k = 0; k < columns; ++k) {
+      for (const int dk : {-1, 0, 1}) look(i, k, -1, dk);
+      look(i, k, 0, -1);
+    }
+  for (int i = rows - 1; i >= 0; --i)
+    for (int k = columns - 1; k >= 0; --k) {
+      for (const int dk : {-1, 0, 1}) look(i, k, 1, dk);
+      look(i, k, 0, 1);
+    }
+  cells_to_land_ = std::move(cells);
+}
+
+int Drift::Cells_To_Land(double x, double z) const {
+  const int rows = input_.points_x - 1, columns = input_.points_z - 1;
+  const auto held = [](double place, int cells) {
+    return place > 0 ? static_cast<int>(std::min<double>(place, cells - 1)) : 0;
+  };
+  return cells_to_land_[static_cast<std::size_t>(held(x / input_.spacing_x, rows)) *
+                            static_cast<std::size_t>(columns) +
+                        static_cast<std::size_t>(held(z / input_.spacing_z, columns))];
 }
 
 void Drift::Drift_Uniform(Column& column, double time, double seconds) {
@@ -63,7 +116,8 @@ void Drift::Drift_Uniform(Column& column, double time, double seconds) {
 void Drift::Drift_Layer(Layer& layer, double share, double time, double seconds) {
   int parts = 1;
   for (int part = 0; part < parts; ++part) {
-    if (has_land_ && water_.Land_Cell(layer.x, layer.z)) return;
+    const int to_land = cells_to_land_.empty() ? 1 : Cells_To_Land(layer.x, layer.z);
+    if (to_land == 0) return;
     const double length = seconds / parts;
     const double start = time + part * length;
     const Velocity first = water_.Current_At_Share(layer.x, layer.z, share, start);
@@ -74,10 +128,10 @@ void Drift::Drift_Layer(Layer& layer, double share, double time, double seconds)
       double most = 0;
       for (const double entry : strain) most = std::max(most, std::abs(entry) * seconds);
       double wanted = most / kGreatestTurn;
-      // Land must not be stepped over.
-      if (has_land_)
-        wanted = std::max({wanted, 2 * std::abs(first.x) * seconds / input_.spacing_x,
-                           2 * std::abs(first.z) * seconds / input_.spacing_z});
+      const double cells = std::max(std::abs(first.x) * seconds / input_.spacing_x,
+                                    std::abs(first.z) * seconds / input_.spacing_z);
+      // Land that may be reached must not be stepped over; a current may double on its way there.
+      if (!cells_to_land_.empty() && 2 * cells + 1 >= to_land) wanted = std::max(wanted, 2 * cells);
       if (wanted > 1) {
         parts = wanted < kMostParts ? static_cast<int>(std::ceil(wanted)) : kMostParts;
         part = -1;
@@ -87,7 +141,7 @@ void Drift::Drift_Layer(Layer& layer, double share, double time, double seconds)
     const Velocity middle = water_.Current_At_Share(x, z, share, start + 0.5 * length);
     layer.x += length * middle.x;
     layer.z += length * middle.z;
-    if (water_.Strains()) Deform(layer.spread, strain, length);
+    if (water_.Strains()) Deform(layer.spread, strain, length, widest_);
   }
 }
 
@@ -109,7 +163,7 @@ void Drift::Move(Column& column, double time, double seconds) {
   }
   if (!moves || level_) return;
   const Layer whole = Whole(column);
-  if (whole.amount <= 0 || (has_land_ && water_.Land_Cell(whole.x, whole.z))) return;
+  if (whole.amount <= 0 || water_.Land_Cell(whole.x, whole.z)) return;
   column.depth = water_.Bed(whole.x, whole.z);
 }
 

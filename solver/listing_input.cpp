@@ -149,7 +149,9 @@ std::string Batch_Lines(const Model_Input& input, const Outcome& outcome) {
   text += std::string("  ") + (input.barge ? "Layer" : "Opening") +
           "  volume  leaves from        to         X         Z     draft   density  moisture"
           "  clouds\r\n";
-  text += "           cu yd            s         s        ft        ft        ft      g/cc\r\n";
+  const std::size_t number_columns = input.barge ? 7 : 9;
+  text += std::string(number_columns, ' ') +
+          "   cu yd            s         s        ft        ft        ft      g/cc\r\n";
   double begin = 0, x = input.vessel_x, z = input.vessel_z, gone = 0;
   for (std::size_t j = 0; j < input.batches.size(); ++j) {
     const Batch& batch = input.batches[j];
@@ -161,8 +163,8 @@ std::string Batch_Lines(const Model_Input& input, const Outcome& outcome) {
     for (const Phase& phase : outcome.near_field.phases) {
       if (phase.kind == Phase_Kind::Descent && phase.batch == j) clouds.insert(phase.cloud);
     }
-    text += Right(std::to_string(j + 1), input.barge ? 7 : 9) + Right(Plain(batch.volume), 8) +
-            Right(Plain(begin, 6), input.barge ? 13 : 13) + Right(Plain(begin + lasts, 6), 10) +
+    text += Right(std::to_string(j + 1), number_columns) + Right(Plain(batch.volume), 8) +
+            Right(Plain(begin, 6), 13) + Right(Plain(begin + lasts, 6), 10) +
             Right(Plain(x, 6), 10) + Right(Plain(z, 6), 10) + Right(Plain(draft), 10) +
             Right(Fixed(Bulk_Density(input, batch), 4), 10) +
             Right(batch.moisture > 0 ? Plain(batch.moisture) : "-", 10) +

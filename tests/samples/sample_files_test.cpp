@@ -158,6 +158,19 @@ TEST(SampleFiles, Export_And_The_Input_Echo_Reads_What_A_Solver_Would_Get) {
   }
 }
 
+TEST(SampleFiles, Export_What_The_Companions_Tests_Read) {
+  for (const Sample& sample : samples::Samples()) {
+    const auto record = Loaded(sample);
+    record->FileTypeTag = "DUE";
+    std::string text;
+    ASSERT_EQ(Write_Model_Input(*record, text), Failure::None) << sample.file;
+    const std::string name = sample.file;
+    const std::string kept =
+        BARVON_SOURCE "/tests/solver/inputs/" + name.substr(0, name.rfind('.')) + ".due";
+    EXPECT_TRUE(Read_Text(kept) == text) << kept << " is no longer what the sample exports";
+  }
+}
+
 TEST(SampleFiles, Show_Every_Kind_Of_Project) {
   std::set<int> key3;
   std::set<double> velocity_types;

@@ -97,6 +97,26 @@ class Mutator {
   std::mt19937 random_;
 };
 
+/// Additions that fit the sample.
+std::string Additions_Of(const std::string& sample) {
+  std::string text = "BARVON additions: 1\r\nCriterion: 0.05\r\nZidStandard: 0.4\r\n";
+  if (sample == "Tidal_Estuary") {
+    text += "TideStart: 1.5\r\n";
+    for (const char* name : {"TideX:", "TideZ:"}) {
+      text += name;
+      for (int i = 0; i < kTidePoints; ++i) text += i % 12 < 6 ? " 0.5" : " -0.25";
+      text += "\r\n";
+    }
+  }
+  const Model_Input input = Sample_Input(sample);
+  for (const auto& row : input.depths) {
+    text += "DepthRow:";
+    for (const double depth : row) text += " " + std::to_string(static_cast<int>(depth));
+    text += "\r\n";
+  }
+  return text;
+}
+
 /// What the program does with the bytes; "refused" or "simulated".
 std::string Outcome_Of(const std::string& bytes, const std::string& added) {
   try {
@@ -141,12 +161,16 @@ TEST(MutatedInputs, End_In_Words) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     Mutator mutator(static_cast<unsigned>(seed));
     const std::string& sample = Samples()[mutator.Below(Samples().size())];
-    const std::string bytes = mutator.Mutated(Sample_Bytes(sample));
+    std::string bytes = Sample_Bytes(sample), added;
+    if (mutator.Below(5) != 0) bytes = mutator.Mutated(bytes);
+    if (mutator.Below(3) == 0) added = Additions_Of(sample);
+    if (mutator.Below(2) == 0) added = mutator.Mutated(added);
     if (std::getenv("BARVON_MUTATIONS") != nullptr) {
-      std::ofstream("mutated_input.due", std::ios::binary) << bytes;  // what a crash was about
+      std::ofstream("mutated.due", std::ios::binary) << bytes;  // what a crash was about
+      std::ofstream("mutated.add", std::ios::binary) << added;
     }
     const std::clock_t begin = std::clock();
-    if (Outcome_Of(bytes, "") == "simulated") ++simulated;
+    if (Outcome_Of(bytes, added) == "simulated") ++simulated;
     const double took = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
     if (took > slowest) {
       slowest = took;
