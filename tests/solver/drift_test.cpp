@@ -134,6 +134,44 @@ TEST(Drift, What_Comes_Ashore_Stands_Still_In_The_First_Land_Cell) {
   }
 }
 
+TEST(Drift, No_Current_Steps_Over_A_Strip_Of_Land) {
+  Model_Input input = Still_Basin();
+  input.constant_depth = false;
+  input.mean_x = 9;  // 270 ft in a step
+  input.mean_depth = 0;
+  input.depths.assign(41, std::vector<double>(41, 30.0));
+  for (const std::size_t row : {33u, 34u}) input.depths[row].assign(41, 0.0);
+  const Water water(input, {});
+  Passive passive(input, water);
+  passive.Add(Round_Source(input, 100));
+  passive.Advance(600);
+  const Layer whole = Whole(passive.Columns().front());
+  EXPECT_GE(whole.x, 3300);
+  EXPECT_LE(whole.x, 3400);
+}
+
+TEST(Drift, A_Current_That_Runs_Together_Makes_No_Line_Of_A_Cloud) {
+  Model_Input input = Still_Basin();
+  input.velocity_type = 4;
+  input.points_x = input.points_z = 41;
+  for (int i = 0; i < 41; ++i) {
+    input.field_x.emplace_back(41, 0.02 * (20 - i) * 100);
+    input.field_z.emplace_back();
+    for (int k = 0; k < 41; ++k) input.field_z.back().push_back(0.02 * (k - 20) * 100);
+  }
+  const Water water(input, {});
+  Passive passive(input, water);
+  passive.Add(Round_Source(input, 40));
+  passive.Advance(7200);
+  for (const Column& column : passive.Columns())
+    for (const Layer& layer : column.layers) {
+      const Plan_Moments& s = layer.spread;
+      EXPECT_GE(s.xx * s.zz - s.xz * s.xz, 0.99 * kSmallest * kSmallest);
+      EXPECT_LE(s.zz, 2 * 4100.0 * 4100 * (1 + 1e-9));
+    }
+  EXPECT_NEAR(In_Water(passive), 1000, 1e-9);
+}
+
 TEST(Drift, A_Cloud_In_Still_Water_Settles_With_Its_Own_Symmetry) {
   Model_Input input = Still_Basin();
   input.coefficients.AKY0 = 0.05;

@@ -171,5 +171,30 @@ TEST(Parts, A_Cloud_In_Motion_Is_Even_Over_Its_Height) {
   EXPECT_EQ(parts.size(), 1u);
 }
 
+TEST(Parts, The_Highest_Point_Counts_Clouds_In_Motion_And_Keeps_To_Its_Area) {
+  Column column;
+  column.depth = 60;
+  column.layers.resize(1);
+  column.layers[0] = {60, 1000, 1000, {100 * 100, 0, 100 * 100}};
+  Source cloud;
+  cloud.amount = 24;
+  cloud.x = cloud.z = 1000;
+  cloud.spread = {50 * 50, 0, 50 * 50};
+  cloud.top = 20;
+  cloud.foot = 28;
+  const double own = 1 / (2 * kPiHere * 100 * 100), more = 3 / (2 * kPiHere * 50 * 50);
+  const auto both = Highest_Point({column}, {cloud}, 0);
+  ASSERT_TRUE(both);
+  EXPECT_NEAR(both->value, own + more, 1e-12 * more);
+  EXPECT_EQ(both->y, 24);
+  EXPECT_FALSE(Highest_Point({column}, {cloud}, 0, 1.001 * (own + more)));
+  EXPECT_FALSE(Highest_Point({column}, {cloud}, 1));
+  cloud.x = 3000;
+  const auto near =
+      Highest_Point({column}, {cloud}, 0, 0, [](double x, double) { return x < 2000; });
+  ASSERT_TRUE(near);
+  EXPECT_NEAR(near->value, own, 1e-12 * own);
+}
+
 }  // namespace
 }  // namespace companion
