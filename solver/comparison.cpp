@@ -45,6 +45,10 @@ void Comparison::Look(double time, const Spot& largest) {
 }
 
 std::string Comparison::Verdict(const std::string& unit) const {
+  if (background > value) {
+    return "exceeded everywhere and always: the background alone is " + Plain(background) + " " +
+           unit;
+  }
   if (!ever) return "not exceeded at the times looked at";
   return "exceeded from " + Plain(first, 7) + " s to " + Plain(last, 7) + " s, worst " +
          Plain(worst.value) + " " + unit + " at (" + Plain(worst.x, 6) + ", " + Plain(worst.z, 6) +
@@ -117,16 +121,21 @@ std::vector<Comparison> Comparisons(const Model_Input& input, const Additions& a
                                     std::vector<std::string>& notes) {
   std::vector<Comparison> made;
   if (input.evaluation == Evaluation::None || input.evaluation == Evaluation::Tracer) return made;
+  if (input.key2 != 0) {
+    notes.push_back("Descent and collapse alone compare nothing: no verdict.");
+    return made;
+  }
   const std::string limit = Toxicity(input) ? "dilution" : "criterion";
   const std::string area = Zone_Evaluation(input) ? "mixing zone" : "disposal site";
+  const double background = Base_Of(input, input.Solids());
   const double site_limit = Limit_Of_Site(input, additions);
   if (site_limit > 0) {
     if (!Mixing_Zone_Asked(input)) {
-      made.push_back({limit + " outside the " + area, site_limit, Area::Outside, 0});
+      made.push_back({limit + " outside the " + area, site_limit, Area::Outside, 0, background});
     }
     if (!Zone_Evaluation(input) && input.duration >= kInitialMixing) {
       made.push_back({limit + " anywhere, from " + Plain(kInitialMixing) + " s on", site_limit,
-                      Area::Anywhere, kInitialMixing});
+                      Area::Anywhere, kInitialMixing, background});
     }
   } else if (input.evaluation == Evaluation::Sediment && !additions.criterion) {
     notes.push_back("The criterion is not in the input for this evaluation: no verdict.");
@@ -139,7 +148,7 @@ std::vector<Comparison> Comparisons(const Model_Input& input, const Additions& a
     if (!Zid_Asked(input)) {
       made.push_back({std::string(Toxicity(input) ? "dilution" : "standard") +
                           " outside the zone of initial dilution (ZID)",
-                      zid_limit, Area::Outside_Zid, 0});
+                      zid_limit, Area::Outside_Zid, 0, background});
     }
   } else if (input.evaluation == Evaluation::Zone_Criterion && !additions.zid_standard) {
     notes.push_back("The ZID standard is not in the input: no verdict outside the ZID.");

@@ -30,7 +30,8 @@ struct Comparison {
   std::string of;    // "criterion outside the disposal site"
   double value = 0;  // mg/l or %
   Area area = Area::Outside;
-  double from = 0;  // s, earlier times do not count
+  double from = 0;        // s, earlier times do not count
+  double background = 0;  // mg/l, in the water anyway
   bool ever = false;
   double first = 0, last = 0;  // s, when it was exceeded
   Spot worst{};

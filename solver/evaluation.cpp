@@ -162,6 +162,7 @@ void Evaluation_Keeper::Finish(const Additions& additions, Outcome& outcome) {
   outcome.peaks = std::move(kept_.peaks);
   outcome.maps = std::move(kept_.maps);
   outcome.comparisons = std::move(kept_.comparisons);
+  if (outcome.times_looked_at == 0) return;
   const auto fill = [](Area_Spots& spots, double base) {
     for (Spot& spot : spots) {
       if (!spot.found) spot.value = base;

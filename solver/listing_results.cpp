@@ -67,8 +67,9 @@ std::string Phase_Rows(const Model_Input& input, const Phase& phase) {
 std::string Clouds_At_Their_End(const Model_Input& input, const Outcome& outcome) {
   std::string text = kLineEnd;
   text += "  What left the clouds on the way, and what is left of them at the end\r\n";
-  text += "  species      amount in      washed off      fallen out         settled            left"
-          "\r\n";
+  text +=
+      "  species      amount in      washed off      fallen out         settled            left"
+      "\r\n";
   for (const Phase& phase : outcome.near_field.phases) {
     text += "  " + phase.name + "; " + phase.end + kLineEnd;
     for (std::size_t s = 0; s < input.Species(); ++s) {
@@ -247,7 +248,7 @@ std::string Verdict_Section(const Model_Input& input, const Additions& additions
   for (const Comparison& comparison : outcome.comparisons) {
     text += "  " + comparison.of + ", " + Plain(comparison.value) + " " + Tracer_Unit(input) + ":" +
             kLineEnd + "    " + comparison.Verdict(Tracer_Unit(input)) + kLineEnd;
-    if (!comparison.ever && comparison.worst.found) {
+    if (!comparison.ever && comparison.worst.found && comparison.background <= comparison.value) {
       text += "    (largest " + Plain(comparison.worst.value) + " " + Tracer_Unit(input) + " at " +
               Plain(comparison.worst.time, 7) + " s)" + kLineEnd;
     }

@@ -61,8 +61,9 @@ class Checker {
     if (value < 0) Refuse_Value(name, value, "and can't be below 0");
     Up_To(name, value, most);
   }
-  void Above_Zero(const std::string& name, double value, double most) const {
+  void Above_Zero(const std::string& name, double value, double least, double most) const {
     if (value <= 0) Refuse_Value(name, value, "and must be above 0");
+    if (value < least) Refuse_Value(name, value, "less than " + Plain(least));
     Up_To(name, value, most);
   }
 
@@ -73,13 +74,21 @@ class Checker {
       From_Zero(Indexed("OutputDepths", i + 1), input_.output_depths[i], kLargestLength);
     }
     if (input_.constant_depth) {
-      Above_Zero("DEPC0", input_.depth, kLargestDepth);
+      Above_Zero("DEPC0", input_.depth, kLeastLength, kLargestDepth);
     } else {
       Up_To("DEPC0", input_.depth, kLargestDepth);
     }
-    Above_Zero("DX0", input_.spacing_x, kLargestLength);
-    Above_Zero("DZ0", input_.spacing_z, kLargestLength);
+    Above_Zero("DX0", input_.spacing_x, kLeastLength, kLargestLength);
+    Above_Zero("DZ0", input_.spacing_z, kLeastLength, kLargestLength);
     Check_Field("DepthGrid", input_.depths, kLargestDepth);
+    for (std::size_t a = 0; a < input_.depths.size(); ++a) {
+      for (std::size_t b = 0; b < input_.depths[a].size(); ++b) {
+        const double depth = input_.depths[a][b];
+        if (depth <= 0 || depth >= kLeastLength) continue;
+        Refuse_Value(Indexed(Indexed("DepthGrid", a + 1), b + 1), depth,
+                     "neither land nor " + Plain(kLeastLength) + " ft deep");
+      }
+    }
   }
 
   void Check_Field(const std::string& name, const std::vector<std::vector<double>>& field,
@@ -113,7 +122,8 @@ class Checker {
       }
     }
     for (std::size_t i = 0; i < input_.profile_densities.size(); ++i) {
-      Above_Zero(Indexed("Densities", i + 1), input_.profile_densities[i], kLargestDensity);
+      Above_Zero(Indexed("Densities", i + 1), input_.profile_densities[i], kLeastDensity,
+                 kLargestDensity);
     }
   }
 
@@ -132,8 +142,8 @@ class Checker {
   }
 
   void Operation() const {
-    Above_Zero("SimulationDuration", input_.duration, kLongestRun);
-    Above_Zero("LongTermTimeStep", input_.step, kLargestAmount);
+    Above_Zero("SimulationDuration", input_.duration, kLeastTime, kLongestRun);
+    Above_Zero("LongTermTimeStep", input_.step, kLeastTime, kLargestAmount);
     if (input_.duration / input_.step > kMostTimes) {
       Refuse_Value("LongTermTimeStep", input_.step,
                    "which makes more than " + Plain(kMostTimes) + " times of the run");
@@ -143,7 +153,7 @@ class Checker {
     From_Zero(input_.barge ? "BargeWidth" : "Footprint width", input_.width, kLargestLength);
     From_Zero("DREL1", input_.draft_full, kLargestLength);
     From_Zero("DREL2", input_.draft_empty, kLargestLength);
-    Above_Zero("SiteDensity", input_.load_density, kLargestDensity);
+    Above_Zero("SiteDensity", input_.load_density, kLeastDensity, kLargestDensity);
   }
 
   void Coefficient_Values() const {
@@ -163,11 +173,15 @@ class Checker {
     Up_To("LayerVelX", batch.velocity_x, kLargestSpeed);
     Up_To("LayerVelZ", batch.velocity_z, kLargestSpeed);
     From_Zero(input_.barge ? "LayerVolume" : "TotalVolume / NOPENS", batch.volume, kLargestVolume);
+    if (batch.volume > 0 && batch.volume < kLeastVolume) {
+      Refuse_Value(input_.barge ? "LayerVolume" : "TotalVolume / NOPENS", batch.volume,
+                   "less than " + Plain(kLeastVolume));
+    }
     From_Zero("MoistureContent", batch.moisture, kLargestFactor);
     double sum = 0;
     for (std::size_t s = 0; s < batch.solids.size(); ++s) {
       const Solid& solid = batch.solids[s];
-      Above_Zero(Indexed("SolidSG", s + 1), solid.sg, kLargestDensity);
+      Above_Zero(Indexed("SolidSG", s + 1), solid.sg, kLeastDensity, kLargestDensity);
       From_Zero(Indexed("SolidVolFraction", s + 1), solid.fraction, 1);
       From_Zero(Indexed("SolidFallVelocity", s + 1), solid.fall_velocity, kLargestSpeed);
       From_Zero(Indexed("SolidVoidRatio", s + 1), solid.void_ratio, kLargestFactor);
@@ -211,6 +225,13 @@ void Check_Values(const std::string& file, const Additions& additions) {
     for (const double depth : row) {
       if (std::abs(depth) > kLargestDepth)
         refuse("a depth of " + Plain(depth) + " ft is too large");
+    }
+  }
+  for (const auto& row : additions.depths) {
+    for (const double depth : row) {
+      if (depth > 0 && depth < kLeastLength) {
+        refuse("a depth of " + Plain(depth) + " ft is neither land nor water");
+      }
     }
   }
   if (!additions.tide) return;

@@ -9,14 +9,19 @@ namespace companion {
 
 // What no site, vessel or load of this world reaches. Beyond it the arithmetic would give numbers
 // that mean nothing, or would not end.
-inline constexpr double kLargestLength = 1e6;         // ft
-inline constexpr double kLargestDepth = 4e4;          // ft
-inline constexpr double kLargestSpeed = 100;          // ft/s
-inline constexpr double kLargestDensity = 30;         // g/cc
-inline constexpr double kLargestVolume = 1e8;         // cu yd
-inline constexpr double kLargestAmount = 1e12;        // mg/l, mg/kg, %
-inline constexpr double kLargestFactor = 1e3;         // coefficients, void ratios, moisture
-inline constexpr double kLeastApparentMass = 1e-3;    // CM divides
+inline constexpr double kLargestLength = 1e6;       // ft
+inline constexpr double kLargestDepth = 4e4;        // ft
+inline constexpr double kLargestSpeed = 100;        // ft/s
+inline constexpr double kLargestDensity = 30;       // g/cc
+inline constexpr double kLargestVolume = 1e8;       // cu yd
+inline constexpr double kLargestAmount = 1e12;      // mg/l, mg/kg, %
+inline constexpr double kLargestFactor = 1e3;       // coefficients, void ratios, moisture
+inline constexpr double kLeastApparentMass = 1e-3;  // CM divides
+// What is above nothing, but so little that the arithmetic has no room for it.
+inline constexpr double kLeastLength = 1e-2;          // ft, depths and spacings
+inline constexpr double kLeastTime = 1e-2;            // s, the run and its step
+inline constexpr double kLeastDensity = 1e-2;         // g/cc
+inline constexpr double kLeastVolume = 1e-6;          // cu yd of a batch that has any
 inline constexpr double kSteepestSlope = 90;          // degrees
 inline constexpr double kLongestRun = 604800;         // s, seven days
 inline constexpr double kMostTimes = 10000;           // times of the series

@@ -105,6 +105,16 @@ TEST(Evaluation, Verdicts_Say_When_And_Where) {
             "exceeded from 200 s to 420 s, worst 5 mg/l at (400, 1250)");
 }
 
+TEST(Evaluation, A_Background_Above_The_Limit_Exceeds_It_By_Itself) {
+  Model_Input input = Case_Of(Evaluation::Criterion);
+  input.batches[0].fluid.background = 3;
+  std::vector<std::string> notes;
+  const std::vector<Comparison> comparisons = Comparisons(input, {}, notes);
+  ASSERT_EQ(comparisons.size(), 1U);
+  EXPECT_EQ(comparisons[0].Verdict("mg/l"),
+            "exceeded everywhere and always: the background alone is 3 mg/l");
+}
+
 TEST(Evaluation, A_Site_Holds_Its_Four_Indices) {
   const Model_Input input = Case_Of(Evaluation::Criterion);
   const Areas areas(input);

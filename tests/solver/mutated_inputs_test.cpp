@@ -22,6 +22,7 @@ namespace companion {
 namespace {
 
 constexpr int kInSuite = 150;             // mutations of the short form
+constexpr int kTold = 500;                // seeds between two lines of the long form
 constexpr double kLongestFollowed = 240;  // s of an accepted run that are simulated
 constexpr double kBalance = 1e-9;         // of an input of any kind
 
@@ -168,6 +169,10 @@ TEST(MutatedInputs, End_In_Words) {
     if (std::getenv("BARVON_MUTATIONS") != nullptr) {
       std::ofstream("mutated.due", std::ios::binary) << bytes;  // what a crash was about
       std::ofstream("mutated.add", std::ios::binary) << added;
+    }
+    if (seed % kTold == 0 && std::getenv("BARVON_MUTATIONS") != nullptr) {
+      std::printf("seed %d, %d simulated\n", seed, simulated);
+      std::fflush(stdout);
     }
     const std::clock_t begin = std::clock();
     if (Outcome_Of(bytes, added) == "simulated") ++simulated;

@@ -31,6 +31,8 @@ TEST(Refusals, Take_What_The_Samples_Hold) {
 
 TEST(Refusals, Name_The_Value_And_Its_Line) {
   EXPECT_EQ(Refused([](Model_Input& i) { i.depth = 0; }), "10: DEPC0 is 0, and must be above 0");
+  EXPECT_EQ(Refused([](Model_Input& i) { i.depth = 1e-300; }),
+            "10: DEPC0 is 1e-300, less than 0.01");
   EXPECT_EQ(Refused([](Model_Input& i) { i.spacing_x = -80; }),
             "10: DX0 is -80, and must be above 0");
   EXPECT_EQ(Refused([](Model_Input& i) { i.profile_densities[2] = 0; }),

@@ -237,7 +237,15 @@ TEST(Simulation, Every_Evaluation_Ends_With_A_Listing) {
 TEST(Simulation, Descent_And_Collapse_Alone_Carry_Nothing_On) {
   Model_Input input = Dyed_Case();
   input.key2 = 1;
+  input.evaluation = Evaluation::Criterion;
+  input.batches[0].fluid.criterion = 0.001;
   const Outcome outcome = Simulated(input);
+  EXPECT_TRUE(outcome.comparisons.empty());
+  EXPECT_EQ(Listing(input, {}, outcome).find("not exceeded"), std::string::npos);
+  Model_Input zone = input;
+  zone.evaluation = Evaluation::Zone_Criterion;
+  EXPECT_FALSE(Simulated(zone).zone_computed);
+  EXPECT_TRUE(outcome.most.empty());
   EXPECT_TRUE(outcome.maps.empty());
   EXPECT_TRUE(outcome.maxima.empty());
   EXPECT_FALSE(outcome.beds.empty());
