@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What no compiler says. "format": every source is laid out as .clang-format wants it. "tidy": the
-# checks of .clang-tidy find nothing in src/, or only in the given sources of it. Without a word
+# checks of .clang-tidy find nothing in src/ and solver/, or only in the given sources of it. Without a word
 # both, the quick one first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 
 barvon_check_format() {
   echo "Checking the format"
-  find src tests help samples bench -name '*.cpp' -o -name '*.h' | sort |
+  find src solver tests help samples bench -name '*.cpp' -o -name '*.h' | sort |
     xargs clang-format --dry-run -Werror || {
     echo "lint: not laid out as .clang-format wants it; clang-format -i mends it" >&2
     return 1
@@ -21,7 +21,7 @@ barvon_check_tidy() {
   local sources=("$@")
   barvon_configure release
   cmake --build --preset release --target build.ninja  # configures again if a build file has changed
-  [ $# -gt 0 ] || mapfile -t sources < <(find src -name '*.cpp' | sort)
+  [ $# -gt 0 ] || mapfile -t sources < <(find src solver -name '*.cpp' | sort)
   echo "Checking ${#sources[@]} sources with clang-tidy"
   # The compiler's own warnings are the build's matter, and it has some that clang does not know.
   # How many warnings of the libraries were passed over is nobody's.

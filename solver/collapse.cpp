@@ -38,8 +38,7 @@ enum Index : std::size_t {
   kFirstLost,  // of each fraction, logarithm
 };
 
-constexpr double kLossFloor = 10;       // of the logarithm of a loss, which kinks with the speed
-constexpr double kSmoothSpeed = 0.001;  // ft/s, over which a speed's size turns at 0
+constexpr double kLossFloor = 10;  // of the logarithm of a loss, which kinks with the speed
 
 /// |speed| without a kink, which would cost a cloud that floats up and down most of its steps.
 double Smooth_Size(double speed) {

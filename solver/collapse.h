@@ -21,6 +21,7 @@ inline constexpr double kEdgeOfDiffusion = 2;    // radii that the 4/3 law takes
 inline constexpr double kTurbulentSpeeds = 2;    // of the shear velocity, which outdo the weight
 inline constexpr double kHeadRichardson = 1.25;  // e(Ri) = (1 - 1.25 Ri)/(1 + 5 Ri)
 inline constexpr double kTailRichardson = 5;     // e(Ri), after Ellison and Turner (1959)
+inline constexpr double kSmoothSpeed = 0.001;    // ft/s, over which |w| turns at 0
 inline constexpr double kFlocFrom = 200;         // mg/l from which flocs settle faster
 inline constexpr double kMostOfFlocs = 5;        // of the fall velocity
 inline constexpr double kMilligramsPerLitre = 1e6;  // of 1 g/cc

@@ -254,7 +254,7 @@ double Erf(double x) {
   const double size = std::abs(x);
   double value = 1;
   if (size < 6) {
-    const int piece = static_cast<int>(size * 16 + 0.5);
+    const int piece = Nearest(size * 16);
     const double h = size - piece / 16.0;
     const std::array<double, kErfTerms>& terms = series[static_cast<std::size_t>(piece)];
     const double z = h * h;

@@ -124,7 +124,9 @@ bool Integrator::Step(double limit, const Past& past) {
     const double change = fourth_root > 0
                               ? std::clamp(kStepSafety / fourth_root, kLeastChange, kGreatestChange)
                               : kGreatestChange;
-    if (error > 1 && step > kLeastStep) {
+    if (error > (step > kLeastStep ? 1 : kForcedError)) {
+      if (step <= kLeastStep) tries_ = kMostSteps;
+      if (Exhausted()) return false;
       step = std::max(step * change, kLeastStep);
       continue;
     }

@@ -7,7 +7,8 @@
 namespace companion {
 
 inline constexpr double kEventTime = 1e-9;    // s, to which the moment of an event is found
-inline constexpr double kLeastStep = 1e-7;    // s, a step this short is taken whatever its error
+inline constexpr double kLeastStep = 1e-9;    // s, a step this short may be off by kForcedError
+inline constexpr double kForcedError = 1e3;   // of the tolerance
 inline constexpr int kMostSteps = 20000;      // of a phase, tries included
 inline constexpr double kStepSafety = 0.9;    // of the step that the error would allow
 inline constexpr double kLeastChange = 0.2;   // of one step to the next
@@ -28,7 +29,7 @@ class Integrator {
 
   void Start(double time, Values values);
   /// One step, to `limit` at the most. Where `past` comes to 0 in it, it ends there, within 1e-9 s
-  /// behind that moment, and the answer is yes.
+  /// behind that moment, and the answer is yes. Where no step suits, it stays and is exhausted.
   bool Step(double limit, const Past& past);
 
   double Time() const { return time_; }

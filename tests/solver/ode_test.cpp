@@ -70,6 +70,8 @@ TEST(Ode, Rates_That_Are_No_Numbers_Use_Up_The_Steps_And_End) {
   while (!integrator.Exhausted() && integrator.Time() < 2 && ++steps < 2 * kMostSteps)
     integrator.Step(2, Never);
   EXPECT_TRUE(integrator.Exhausted());
+  EXPECT_NEAR(integrator.Now()[0], 1, 1e-8);
+  EXPECT_NEAR(integrator.Time(), integrator.Now()[0], 1e-12);
 }
 
 }  // namespace
