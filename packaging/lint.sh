@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # What no compiler says. "format": every source is laid out as .clang-format wants it. "tidy": the
-# checks of .clang-tidy find nothing in src/ and solver/, or only in the given sources of it. Without a word
-# both, the quick one first.
+# checks of .clang-tidy find nothing in src/ and solver/, or only in the given sources of them.
+# Without a word both, the quick one first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh

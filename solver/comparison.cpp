@@ -186,7 +186,9 @@ Zone Smallest_Zone(const Model_Input& input, const std::vector<std::vector<doubl
   for (const auto& map : most) {
     for (int i = 0; i < input.points_x; ++i) {
       for (int k = 0; k < input.points_z; ++k) {
-        if (map[static_cast<std::size_t>(i * input.points_z + k)] <= value) continue;
+        if (map[static_cast<std::size_t>(i) * static_cast<std::size_t>(input.points_z) +
+                static_cast<std::size_t>(k)] <= value)
+          continue;
         zone.any = true;
         zone.top = std::min(zone.top, i + 1);
         zone.bottom = std::max(zone.bottom, i + 1);

@@ -90,11 +90,13 @@ std::string Assumed_Section() {
 }
 
 std::string Left_Out_Section() {
+  static constexpr char kMound[] =
+      "The mound under the point of impact: all that lands goes through the cloud on the bed, so "
+      "that the thickness there is a lower bound, the area an upper one.";
   std::string text = Section_Heading("WHAT THIS MODEL LEAVES OUT");
   for (const char* left_out :
-       {"The mound under the point of impact: all that lands goes through the cloud on the bed, so "
-        "that the thickness there is a lower bound, the area an upper one.",
-        "Mixing of a light cloud on its way up.", "Clouds that fall into each other's wake.",
+       {kMound, "Mixing of a light cloud on its way up.",
+        "Clouds that fall into each other's wake.",
         "The jet of a slow release: a succession of clouds stands for it.", "Waves and wind.",
         "Pick-up from the bed, and flow of the deposit.",
         "Reversal of the tide where the run knows its average alone.",

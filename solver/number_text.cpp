@@ -31,13 +31,15 @@ std::string Left(std::string text, std::size_t columns) {
 }
 
 std::string Sci(double value) {
-  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kSciDigits - 1), kSciColumns);
+  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kSciDigits - 1),
+               kSciColumns);
 }
 
 std::string Int(long value) { return Right(std::to_string(value), kIntColumns); }
 
 std::string Map_Number(double value) {
-  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kMapDigits - 1), kMapColumns);
+  return Right(Text(In_Two_Digits(value), std::chars_format::scientific, kMapDigits - 1),
+               kMapColumns);
 }
 
 std::string Plain(double value, int digits) {

@@ -15,8 +15,8 @@ namespace companion {
 /// A map by cells: the rectangle of grid points (from 0, last below first: empty) outside which
 /// every cell is the base.
 struct Cell_Map {
-  double time = 0;  // s
-  int number = 0;   // of the species as the outputs count them, from 1; 0: all solids
+  double time = 0;   // s
+  int number = 0;    // of the species as the outputs count them, from 1; 0: all solids
   double depth = 0;  // ft
   double base = 0;
   int top = 0, bottom = -1, left = 0, right = -1;

@@ -51,7 +51,7 @@ std::string Write_All(const std::vector<Output_File>& files) {
 
 std::string Write_Outputs(const std::vector<Output_File>& files) {
   const auto before = std::signal(SIGTERM, Remember_To_End);
-  const std::string failed = Write_All(files);
+  std::string failed = Write_All(files);
   std::signal(SIGTERM, before == SIG_ERR ? SIG_DFL : before);
   if (told_to_end != 0) std::raise(SIGTERM);
   return failed;
