@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <QSettings>
 #include <clocale>
 #include <string_view>
 
@@ -40,11 +41,14 @@ int main(int given, char** arguments) {
     barvon::End_Program();
   });
   barvon::Take_Program_Folder(barvon::Program_Folder());
-  // Settings that a copy has kept beside it go on where it can't be written any more.
-  barvon::Copy_If_Not_Own(barvon::kSettingsFile);
+  // The toolkit's file dialog keeps its own settings, which stand with the others.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QString::fromStdString(barvon::Application_Folder()));
+  barvon::Take_Delivered_Settings();
   barvon::Main main(barvon::Application_Folder());
   barvon::Register_Program_Screens(&main);
   main.show();
+  barvon::Tell_Settings_Left();
   barvon::Recovery_Keeper keeper(barvon::Project());
   const barvon::Recovery_Clock clock(keeper);
   // One thing at a time: who goes on with yesterday's work needs no tip.

@@ -102,7 +102,11 @@ int Run_In(const std::string& scratch, const std::string& file, ProjectRecord& r
   Set_Passing_Folder({});
   Set_Application_Folder(former_application);
   if (!former_current.empty()) Change_Current_Folder(former_current);
-  return Say_Report(file, report, With_Lasting_Paths(report.text, scratch, options.solver_folder));
+  // What could not be written could not be written where the run was, not where its solver is kept.
+  return Say_Report(file, report,
+                    report.problem.empty()
+                        ? With_Lasting_Paths(report.text, scratch, options.solver_folder)
+                        : report.text);
 }
 
 int Run(const std::string& file, const Batch_Options& options, Known_Folders& folders) {

@@ -29,6 +29,9 @@ constexpr std::string_view kFolderName = "barvon-run-";
 /// In each folder, and locked by the program that made it for as long as that lives.
 constexpr char kOwnerFile[] = ".barvon-run";
 
+/// A folder that no solvers' folder has.
+constexpr char kNowhere[] = ".barvon-run-nowhere";
+
 std::string Scratch_Base() {
   const char* base = std::getenv("TMPDIR");
   return Absolute_Path(base != nullptr && *base != '\0' ? base : "/tmp");
@@ -70,10 +73,15 @@ std::error_code Link_Subfolder(const fs::path& from, const fs::path& into) {
   return {};  // one that can't be read is none of the solver's either
 }
 
-/// A folder behind a link is handed over as the link that it is: it may lead in a circle.
+/// A folder behind a link is handed over as the link that it is: it may lead in a circle. One that
+/// leads nowhere leads nowhere here too, so that nothing is written through it outside.
 std::error_code Link_Entry(const fs::directory_entry& entry, const fs::path& link) {
   std::error_code unknown;  // a link that leads nowhere is no file
   std::error_code error;
+  if (entry.is_symlink() && !entry.exists(unknown)) {
+    fs::create_symlink(fs::path(kNowhere) / link.filename(), link, error);
+    return error;
+  }
   if (entry.is_regular_file(unknown) || (entry.is_symlink() && entry.is_directory(unknown))) {
     fs::create_symlink(entry.path(), link, error);
     return error;

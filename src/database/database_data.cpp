@@ -13,7 +13,9 @@
 #include "database/save_site.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/app_folder.h"
+#include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/files/text_encoding.h"
 #include "platform/text/counted.h"
 #include "platform/text/letter_case.h"
@@ -80,21 +82,48 @@ std::string Letters_That_Files_Lose(const std::string& name) {
   return Listed(lost);
 }
 
+/// Whether both files are there and hold the same.
+bool Same_Bytes(const std::string& path, const std::string& other) {
+  std::string bytes, others;
+  return Read_Whole_File(Path_To_Write(path), bytes) == 0 &&
+         Read_Whole_File(Path_To_Write(other), others) == 0 && bytes == others;
+}
+
 }  // namespace
 
-void Take_Delivered_Database() {
+bool Take_Delivered_Database() {
+  std::vector<std::string> lacking;
+  bool has_others = false;
   for (const char* name : {kSiteList, kMaterialList, kVesselList, kSiteFile, kVelocityFile,
                            kMaterialFile, kVesselFile}) {
-    if (const int error = Copy_If_Not_Own(name); error != 0) {
-      Show_Warning("Can't copy the file of the database " + Join_Path(Delivered_Folder(), name) +
-                   " to " + Application_Folder() + ": " + std::strerror(error));
-      return;
+    const std::string own = Join_Path(Application_Folder(), name);
+    const std::string delivered = Join_Path(Delivered_Folder(), name);
+    if (Find_Path(own)) {
+      has_others = has_others || !Same_Bytes(own, delivered);
+    } else if (Find_Path(delivered)) {
+      lacking.push_back(name);
     }
   }
+  if (lacking.empty()) return true;
+  if (has_others) {
+    std::string names;
+    for (const std::string& name : lacking) names += "\n" + name;
+    Show_Warning("These files are missing in your copy of the database in " + Application_Folder() +
+                 ":" + names +
+                 "\n\nThe ones that came with the program are not put beside yours, since lists "
+                 "and data of two databases give wrong numbers.  Put yours back, or delete what is "
+                 "left of it to get all seven.");
+    return false;
+  }
+  const Copies_Made made = Copy_Together(lacking);
+  if (made.error == 0) return true;
+  Show_Warning("Can't copy the file of the database " + Join_Path(Delivered_Folder(), made.failed) +
+               " to " + Application_Folder() + ": " + std::strerror(made.error));
+  return false;
 }
 
 Database_Lists Load_Lists(ProjectRecord& record) {
-  Take_Delivered_Database();
+  const bool is_told = !Take_Delivered_Database();
   const std::string& folder = Application_Folder();
   Database_Lists lists = {Load_Site(folder, record), Load_Velocity(record),
                           Load_Material(folder, record), Load_Disposal(folder, record)};
@@ -102,7 +131,7 @@ Database_Lists Load_Lists(ProjectRecord& record) {
   for (const List_Contents& list : lists) {
     if (!list.missing_file.empty()) missing += "\n" + list.missing_file;
   }
-  if (!missing.empty()) {
+  if (!missing.empty() && !is_told) {
     Show_Warning("These files of the database can't be read in the program's folder:" + missing,
                  "BARVON DataBase");
   }

@@ -20,9 +20,11 @@ struct List_Choice {
 using Database_Choices = std::array<List_Choice, kDatabaseLists>;
 using Database_Lists = std::array<List_Contents, kDatabaseLists>;
 
-/// Copies those of the database's files that the application directory has not from where they were
-/// delivered. The first that can't be copied is told.
-void Take_Delivered_Database();
+/// Copies the database's files from where they were delivered for a user who has none: all seven or
+/// none, since the lists and their data belong together. One who has some gets the others only
+/// where his are still as delivered, else he is told which are missing; so is a copy that fails.
+/// False when something was told.
+bool Take_Delivered_Database();
 
 /// The four lists from the program's folder. List files that can't be read are told in one box.
 Database_Lists Load_Lists(ProjectRecord& record);

@@ -139,7 +139,7 @@ bool Leads_Elsewhere(const std::string& path) {
 void Remove_Traps(const std::string& folder, const std::string& project, std::string& problem) {
   for (const std::string& path : Scratch_Files(folder, project)) {
     if (!Leads_Elsewhere(path) || ::unlink(path.c_str()) == 0 || !problem.empty()) continue;
-    problem = Name_Of(path) + " leads elsewhere and could not be removed";
+    problem = path + " leads elsewhere and could not be removed";
   }
 }
 
@@ -150,8 +150,8 @@ void Make_File(const std::string& folder, const char* name, std::string_view byt
   Remove_Files(folder, name);
   const int error = Write_Exclusive_File(Join_Path(folder, name), bytes);
   if (error != 0 && problem.empty()) {
-    problem =
-        std::string(name) + " could not be written (" + Failure_Name(Failure_Of_Errno(error)) + ")";
+    problem = std::string(name) + " could not be written into " + folder + " (" +
+              Failure_Name(Failure_Of_Errno(error)) + ")";
   }
 }
 
@@ -166,7 +166,7 @@ std::string Marker_Line() {
 void Make_Additions(const std::string& folder, std::string_view bytes, std::string& problem) {
   if (!bytes.empty()) return Make_File(folder, kAdditionsFile, bytes, problem);
   if (Remove_Files(folder, kAdditionsFile) || !problem.empty()) return;
-  problem = std::string(kAdditionsFile) + " of an earlier run could not be removed";
+  problem = Join_Path(folder, kAdditionsFile) + " of an earlier run could not be removed";
 }
 
 /// Writes model input, additions and marker. Returns what failed first, as text.

@@ -31,13 +31,17 @@ std::string How_It_Ended(const Process_End& end) {
   return "ended with code " + std::to_string(end.exit_code);
 }
 
-std::string What_Was_Kept(const Run_Report& report) {
-  std::string text = "no outputs kept";
-  if (!report.kept.empty()) {
-    std::vector<std::string> names;
-    for (const std::string& path : report.kept) names.push_back(Name_Of(path));
-    text = "kept " + Joined(names) + " in " + Folder_Of(report.kept.front());
-  }
+std::string Kept_Files(const Run_Report& report) {
+  if (report.kept.empty()) return "";
+  std::vector<std::string> names;
+  for (const std::string& path : report.kept) names.push_back(Name_Of(path));
+  return "; kept " + Joined(names) + " in " + Folder_Of(report.kept.front());
+}
+
+std::string What_Is_Amiss(const Run_Report& report) {
+  const std::size_t kept = report.kept.size() - report.earlier.size();
+  std::string text =
+      std::to_string(kept) + " of " + std::to_string(kOutputExtensions.size()) + " outputs kept";
   if (!report.not_written.empty()) {
     text += "; not written by this run: " + Joined(report.not_written);
   }
@@ -46,6 +50,21 @@ std::string What_Was_Kept(const Run_Report& report) {
   }
   if (!report.not_kept.empty()) text += "; could not be kept: " + Joined(report.not_kept);
   return text;
+}
+
+/// The line of a solver that ended by itself. It is cut where its window ends, so that what is
+/// amiss comes before everything that a good run tells too, and a long path last.
+std::string Text_Of_End(const Run_Report& report) {
+  const Process_Outcome& outcome = report.outcome;
+  const std::string ended = " " + How_It_Ended(outcome.end) + " after " + Seconds(outcome.duration);
+  if (report.Succeeded()) return outcome.name + ended + Kept_Files(report) + ".";
+  const std::string name = Name_Of(outcome.name);
+  const bool well = outcome.end.signal == 0 && outcome.end.exit_code == 0;
+  std::string text = well ? What_Is_Amiss(report) + "; " + name + ended
+                          : name + ended + "; " + What_Is_Amiss(report);
+  text += Kept_Files(report);
+  if (name != outcome.name) text += "; the solver was " + outcome.name;
+  return text + ".";
 }
 
 }  // namespace
@@ -96,8 +115,7 @@ std::string Status_Text(const Run_Report& report) {
     case Run_Stage::Ended:
       break;
   }
-  return outcome.name + " " + How_It_Ended(outcome.end) + " after " + Seconds(outcome.duration) +
-         "; " + What_Was_Kept(report) + ".";
+  return Text_Of_End(report);
 }
 
 }  // namespace barvon

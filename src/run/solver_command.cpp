@@ -43,6 +43,12 @@ File_Format Format_Of(const std::string& path) {
   return start.substr(0, 2) == "MZ" ? File_Format::Dos : File_Format::None;
 }
 
+bool Leads_Nowhere(const std::string& path) {
+  struct stat status {};
+  return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) &&
+         ::stat(path.c_str(), &status) != 0;
+}
+
 bool May_Be_Executed(const std::string& path) { return ::access(path.c_str(), X_OK) == 0; }
 
 /// Files of that name in any case, the name as given first.
@@ -109,6 +115,7 @@ std::string Remark_On(const std::string& folder, const std::vector<std::string>&
       if (Is_Put_By_A_Stranger(file)) {
         return "; " + file + " belongs to another user, in a folder that everybody can write";
       }
+      if (Leads_Nowhere(file)) return "; " + file + " is a link that leads nowhere";
       if (Format_Of(file) == File_Format::Native) return "; " + file + " is not executable";
       return "; " + file + " is no program of this system";
     }

@@ -225,6 +225,25 @@ TEST_F(BatchRun, A_Missing_Solver_Is_Told) {
   EXPECT_EQ(Left_Behind(), Lines{});
 }
 
+TEST_F(BatchRun, A_Solver_That_Is_A_Link_To_Nowhere_Is_Told_As_That) {
+  Put_Sample(kHopper, "site.DUI");
+  std::filesystem::create_directory(Path("solvers"));
+  std::filesystem::create_symlink(Path("gone"), Path("solvers/merak32"));
+  const Program_Result result = Batch({"run", "--solver-dir", "solvers", "site.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_NE(result.err.find("; " + Path("solvers/merak32") + " is a link that leads nowhere."),
+            std::string::npos)
+      << result.err;
+}
+
+TEST_F(BatchRun, Nothing_Is_Written_Through_A_Link_To_Nowhere_Of_The_Solvers_Folder) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver("echo x > table.dat; for e in duo dup dut duc; do echo 1 > tmpfile.$e; done\n");
+  std::filesystem::create_symlink(Path("gone"), Path("solvers/table.dat"));
+  EXPECT_EQ(Batch({"run", "--solver-dir", "solvers", "site.DUI"}).code, 0);
+  EXPECT_FALSE(Exists(Path("gone")));
+}
+
 TEST_F(BatchRun, A_Missing_Solver_Folder_Is_Told_Once) {
   Put_Sample(kHopper, "a.DUI");
   Put_Sample(kHopper, "b.DUI");

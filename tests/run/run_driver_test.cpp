@@ -156,7 +156,7 @@ TEST_F(RunDriver, A_Solver_That_Dies_By_A_Signal_Is_No_Success) {
   Install("signal:11\n");
   EXPECT_FALSE(Run().Succeeded());
   EXPECT_NE(Note().find("was ended by signal 11 (SEGV) after"), std::string::npos);
-  EXPECT_NE(Note().find("no outputs kept"), std::string::npos);
+  EXPECT_NE(Note().find("0 of 4 outputs kept"), std::string::npos);
 }
 
 TEST_F(RunDriver, A_Solver_That_Is_Missing_Shows_No_Box_And_Leaves_Older_Outputs) {
@@ -189,7 +189,7 @@ TEST_F(RunDriver, Missing_Outputs_Are_Skipped) {
   EXPECT_EQ(Kept(".duo"), "o");
   EXPECT_EQ(Kept(".dut"), "older");
   EXPECT_FALSE(Exists(base + ".dup"));
-  EXPECT_NE(Note().find("not written by this run: .dup, .dut."), std::string::npos);
+  EXPECT_NE(Note().find("not written by this run: .dup, .dut;"), std::string::npos);
 }
 
 TEST_F(RunDriver, A_Copy_That_Fails_Is_Passed_Over) {
@@ -350,7 +350,8 @@ TEST_F(RunDriver, A_Model_Input_That_Can_Not_Be_Written_Starts_Nothing) {
   Expect_One_Box("Could not Excecute Preprocessor!", "BARVON", Icon::None);
   EXPECT_TRUE(bench.states.empty());
   EXPECT_FALSE(Exists(bench / "tmpfile.duo"));
-  EXPECT_EQ(Note(), "Not run: Tmpfile.Due could not be written (Path not usable).");
+  EXPECT_EQ(Note(), "Not run: Tmpfile.Due could not be written into " + Application_Folder() +
+                        " (Path not usable).");
   EXPECT_TRUE(Exists(bench / "KOLBREE.TMP"));
   EXPECT_FALSE(Exists(bench / "BARVON.INI"));
 }
@@ -360,7 +361,8 @@ TEST_F(RunDriver, Additions_That_Can_Not_Be_Written_Start_Nothing) {
   record.VelocityProfileType = 5;
   Install(kWritesAll);
   EXPECT_EQ(Run({Answer::No, Answer::Ok}).stage, Run_Stage::Input_Failed);
-  EXPECT_EQ(Note(), "Not run: Tmpfile.Add could not be written (Path not usable).");
+  EXPECT_EQ(Note(), "Not run: Tmpfile.Add could not be written into " + Application_Folder() +
+                        " (Path not usable).");
   EXPECT_TRUE(bench.states.empty());
 }
 
@@ -368,7 +370,8 @@ TEST_F(RunDriver, A_Marker_That_Can_Not_Be_Written_Starts_Nothing) {
   fs::create_directory(bench / "KOLBREE.TMP");
   Install(kWritesAll);
   EXPECT_EQ(Run({Answer::Ok}).stage, Run_Stage::Input_Failed);
-  EXPECT_EQ(Note(), "Not run: KOLBREE.TMP could not be written (Path not usable).");
+  EXPECT_EQ(Note(), "Not run: KOLBREE.TMP could not be written into " + Application_Folder() +
+                        " (Path not usable).");
   EXPECT_TRUE(bench.states.empty());
 }
 

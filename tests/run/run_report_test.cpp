@@ -73,9 +73,32 @@ TEST(RunReport, The_Text_Tells_What_This_Run_Did_Not_Write) {
                       {".dut", false, "", 0},
                       {".duc", true, "", EACCES}});
   EXPECT_EQ(Status_Text(report),
-            "/app/merak32 ended with code 3 after 2.3 s; kept site.duo, site.dup in /bay; "
+            "merak32 ended with code 3 after 2.3 s; 1 of 4 outputs kept; "
             "not written by this run: .dup, .dut; kept from an earlier run: .dup; "
-            "could not be kept: .duc (Permission denied).");
+            "could not be kept: .duc (Permission denied); kept site.duo, site.dup in /bay; "
+            "the solver was /app/merak32.");
+}
+
+TEST(RunReport, What_Is_Amiss_Comes_First_In_The_Text_Of_A_Solver_That_Ended_Well) {
+  Run_Report report = Ended_Run();
+  report.outcome.program = report.outcome.name = "/home/somebody/with/a/long/path/merak32";
+  report.Add_Outputs({{".duo", true, "/bay/site.duo", 0},
+                      {".dup", false, "", 0},
+                      {".dut", false, "", 0},
+                      {".duc", false, "", 0}});
+  EXPECT_EQ(Status_Text(report),
+            "1 of 4 outputs kept; not written by this run: .dup, .dut, .duc; "
+            "merak32 ended with code 0 after 2.3 s; kept site.duo in /bay; "
+            "the solver was /home/somebody/with/a/long/path/merak32.");
+  Run_Report full = Ended_Run();
+  full.outcome.name = kCompanionName;
+  std::vector<Kept_Output> outputs = All_Kept();
+  outputs[3] = {".duc", true, "", ENOSPC};
+  full.Add_Outputs(outputs);
+  EXPECT_EQ(Status_Text(full),
+            "3 of 4 outputs kept; could not be kept: .duc (No space left on device); "
+            "companion solver 1.0 ended with code 0 after 2.3 s; "
+            "kept site.duo, site.dup, site.dut in /bay.");
 }
 
 TEST(RunReport, The_Text_Tells_The_Signal) {
@@ -84,24 +107,24 @@ TEST(RunReport, The_Text_Tells_The_Signal) {
   report.outcome.duration = milliseconds(49);
   report.Add_Outputs({{".duo", false, "", 0}});
   EXPECT_EQ(Status_Text(report),
-            "/app/merak32 was ended by signal 11 (SEGV) after 0.0 s; no outputs kept; "
-            "not written by this run: .duo.");
+            "merak32 was ended by signal 11 (SEGV) after 0.0 s; 0 of 4 outputs kept; "
+            "not written by this run: .duo; the solver was /app/merak32.");
 }
 
 TEST(RunReport, The_Text_Tells_Why_Nothing_Was_Run) {
   Run_Report report;
   report.outcome.problem = "no program is named";
-  report.problem = "Tmpfile.Due could not be written (Disk full)";
+  report.problem = "Tmpfile.Due could not be written into /app (Disk full)";
   const auto text = [&](Run_Stage stage) {
     report.stage = stage;
     return Status_Text(report);
   };
   EXPECT_EQ(text(Run_Stage::Not_Started), "Not run: no program is named.");
   EXPECT_EQ(text(Run_Stage::Input_Failed),
-            "Not run: Tmpfile.Due could not be written (Disk full).");
+            "Not run: Tmpfile.Due could not be written into /app (Disk full).");
   EXPECT_EQ(text(Run_Stage::No_Model),
             "Not run: no model is available for this discharge case; "
-            "Tmpfile.Due could not be written (Disk full).");
+            "Tmpfile.Due could not be written into /app (Disk full).");
   for (const Run_Stage stage : {Run_Stage::Refused, Run_Stage::No_File, Run_Stage::Invalid_Type,
                                 Run_Stage::Errors, Run_Stage::Cancelled, Run_Stage::Save_Failed}) {
     EXPECT_EQ(text(stage).substr(0, 9), "Not run: ");

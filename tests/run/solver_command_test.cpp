@@ -108,6 +108,13 @@ TEST_F(SolverCommand, What_Can_Not_Be_Executed_Is_Passed_Over_And_Told) {
   EXPECT_EQ(Find(kSolver).command, (Command{folder / "app/merak32.exe"}));
 }
 
+TEST_F(SolverCommand, A_Link_To_Nowhere_Is_Told_As_That) {
+  fs::create_symlink(folder / "gone", folder / "app/merak32");
+  EXPECT_NE(
+      Problem(kSolver).find("; " + (folder / "app/merak32") + " is a link that leads nowhere"),
+      std::string::npos);
+}
+
 TEST_F(SolverCommand, A_Native_Program_Is_Preferred_To_A_Dos_Program) {
   Write_Text(folder / "app/MERAK32.EXE", "MZ\x90");
   Script("app/merak32");

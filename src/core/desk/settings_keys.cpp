@@ -39,7 +39,8 @@ void Put(std::vector<Profile_Entry>& entries, const Profile_Entry& entry) {
 struct Unwritten {
   std::string path;
   bool told = false;
-  int unread = 0;  // errno of a reading that failed
+  int unread = 0;        // errno of a reading that failed
+  bool is_left = false;  // what could not be read is the delivered file
   std::vector<Profile_Entry> entries;
 };
 
@@ -47,7 +48,7 @@ struct Unwritten {
 Unwritten& Unwritten_Settings() {
   static Unwritten unwritten;
   const std::string path = Settings_Path();
-  if (unwritten.path != path) unwritten = {path, false, 0, {}};
+  if (unwritten.path != path) unwritten = {path, false, 0, false, {}};
   return unwritten;
 }
 
@@ -75,6 +76,14 @@ bool Hides_Settings(int error) { return error != 0 && error != EISDIR && error !
 
 void Tell_Once(Unwritten& unwritten, int error) {
   if (std::exchange(unwritten.told, true)) return;
+  if (unwritten.is_left) {
+    Show_Warning("Can't take over the settings in " +
+                 Path_To_Write(Join_Path(Delivered_Folder(), kSettingsFile)) + " to " +
+                 unwritten.path + ": " + Failure_Name(Failure_Of_Errno(error)) +
+                 ".\n\nThe next start of BARVON tries again.  Recent files and options are kept "
+                 "until BARVON is closed.");
+    return;
+  }
   if (unwritten.unread != 0) {
     Show_Warning("Can't read the settings in " + unwritten.path + ": " +
                  Failure_Name(Failure_Of_Errno(error)) +
@@ -145,6 +154,19 @@ bool Settings_Of_Command::Write() {
   if (!std::exchange(collects_, false)) return true;
   Collected& collected = Collected_Settings();
   return --collected.depth > 0 || Write_Now(std::exchange(collected.entries, {}));
+}
+
+void Take_Delivered_Settings() {
+  const int error = Copy_If_Not_Own(kSettingsFile);
+  if (!Hides_Settings(error)) return;
+  Unwritten& unwritten = Unwritten_Settings();
+  unwritten.unread = error;
+  unwritten.is_left = true;
+}
+
+void Tell_Settings_Left() {
+  Unwritten& unwritten = Unwritten_Settings();
+  if (unwritten.is_left) Tell_Once(unwritten, unwritten.unread);
 }
 
 bool Write_Graph_File(const std::string& project_path) {

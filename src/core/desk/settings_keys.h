@@ -37,6 +37,13 @@ std::string Read_Setting(const std::string& section, const std::string& key,
 /// next one that can be written.
 bool Write_Setting(const std::string& section, const std::string& key, const std::string& value);
 
+/// Settings that a copy of the program has kept beside it go on where it can't be written any more:
+/// they are copied for the user who has none. While that fails none of his are written, or the ones
+/// left would never be taken over.
+void Take_Delivered_Settings();
+/// Tells that they could not be taken over, unless that is told already.
+void Tell_Settings_Left();
+
 /// The settings that one command sets: while it lives, they are collected, and read as if they were
 /// in the file; then all go there in one write. Within another one this is a part of it.
 class Settings_Of_Command {

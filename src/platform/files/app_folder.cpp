@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -75,6 +76,33 @@ int Copy_If_Not_Own(const std::string& name) {
   std::string bytes;
   const int error = Read_Whole_File(*delivered, bytes);
   return error != 0 ? error : Write_Whole_File(own, bytes);
+}
+
+Copies_Made Copy_Together(const std::vector<std::string>& names) {
+  std::deque<Safe_File> files;
+  for (const std::string& name : names) {
+    std::string bytes;
+    Safe_File& file = files.emplace_back();
+    int error = Read_Whole_File(Path_To_Write(Join_Path(Delivered_Folder(), name)), bytes);
+    if (error == 0) error = file.Open(Join_Path(Application_Folder(), name));
+    if (error == 0) error = file.Write(bytes);
+    if (error == 0) error = file.Settle();
+    if (error != 0) return {error, name};
+  }
+  Unsynced_Folders folders;
+  Copies_Made made;
+  std::size_t there = 0;
+  for (; there < names.size() && made.error == 0; there += made.error == 0 ? 1 : 0) {
+    made = {files[there].Commit(&folders), names[there]};
+  }
+  for (const auto& [folder, error] : folders.Sync()) {
+    if (made.error == 0) made.error = error;
+  }
+  if (made.error == 0) return {};
+  for (std::size_t i = 0; i < there; ++i) {
+    ::unlink(Join_Path(Application_Folder(), names[i]).c_str());
+  }
+  return made;
 }
 
 bool Change_Current_Folder(const std::string& folder) { return chdir(folder.c_str()) == 0; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace barvon {
 
@@ -34,6 +35,16 @@ std::string Own_Or_Delivered(const std::string& name);
 /// Copies a delivered file into the application directory where that has none of that name. 0, also
 /// when there is nothing to copy, or an errno value; no part of a file stays after a failure.
 int Copy_If_Not_Own(const std::string& name);
+
+/// A file that was not copied and why, as an errno value; 0 when all are.
+struct Copies_Made {
+  int error = 0;
+  std::string failed;
+};
+
+/// Copies delivered files into the application directory, which has none of these names: all of
+/// them, or none when one fails.
+Copies_Made Copy_Together(const std::vector<std::string>& names);
 
 /// Makes the folder the current one. False when it can't be entered.
 bool Change_Current_Folder(const std::string& folder);

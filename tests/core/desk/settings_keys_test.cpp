@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/desk/recent_files.h"
+#include "platform/files/app_folder.h"
 #include "support/recorded_workspace.h"
 
 namespace barvon {
@@ -136,6 +137,59 @@ TEST_F(SettingsKeys, What_Could_Not_Be_Read_Is_Not_Written_Over_When_The_Disk_Ha
             "Can't read the settings in " + path +
                 ": Device fault.\n\nThe file stays as it is.  Recent files and options are kept "
                 "until BARVON is closed.");
+}
+
+/// A program that could be written once, and a user's folder without settings.
+class SettingsLeft : public SettingsKeys {
+ protected:
+  SettingsLeft() { Set_Delivered_Folder(program_.path()); }
+  ~SettingsLeft() override { Set_Delivered_Folder(""); }
+
+  Scratch_Folder program_;
+  const std::string left_ = program_ / "BARVON.INI";
+};
+
+TEST_F(SettingsLeft, Are_Taken_Over_By_A_User_Without_Any) {
+  Scripted_Messages no_boxes;
+  Write_Text(left_, "[A]\r\nk=theirs\r\n");
+  Take_Delivered_Settings();
+  Tell_Settings_Left();
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "theirs");
+  EXPECT_TRUE(Write_Setting("A", "k", "mine"));
+  Take_Delivered_Settings();
+  EXPECT_EQ(Settings(), "[A]\r\nk=mine\r\n");
+}
+
+TEST_F(SettingsLeft, That_Can_Not_Be_Read_Are_Told_Once_And_Taken_Over_Later) {
+  Scripted_Messages messages({Answer::Ok});
+  // A regular file whose first byte can't be read.
+  std::filesystem::create_symlink("/proc/self/mem", left_);
+  Take_Delivered_Settings();
+  EXPECT_TRUE(messages.shown.empty()) << "before there is a window";
+  Tell_Settings_Left();
+  EXPECT_FALSE(Write_Setting("A", "k", "mine"));
+  EXPECT_EQ(Read_Setting("A", "k", "none"), "mine");
+  EXPECT_FALSE(Exists(folder_ / "BARVON.INI")) << "or the next start would leave theirs";
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Can't take over the settings in " + left_ + " to " + (folder_ / "BARVON.INI") +
+                ": Device fault.\n\nThe next start of BARVON tries again.  Recent files and "
+                "options are kept until BARVON is closed.");
+  std::filesystem::remove(left_);
+  Write_Text(left_, "[A]\r\nk=theirs\r\n");
+  Take_Delivered_Settings();
+  EXPECT_EQ(Settings(), "[A]\r\nk=theirs\r\n");
+}
+
+TEST_F(SettingsLeft, That_Can_Not_Be_Copied_Are_Told_With_The_First_Value_At_The_Latest) {
+  Scripted_Messages messages({Answer::Ok});
+  Write_Text(left_, "[A]\r\nk=theirs\r\n");
+  Set_Application_Folder(folder_ / "gone");
+  Take_Delivered_Settings();
+  EXPECT_FALSE(Write_Setting("A", "k", "mine"));
+  Tell_Settings_Left();
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_TRUE(messages.shown[0].text.starts_with("Can't take over the settings in " + left_));
 }
 
 TEST_F(SettingsKeys, A_Text_That_Can_Not_Stand_There_Is_No_Fault_Of_The_File) {

@@ -1,15 +1,20 @@
 #include "platform/qt/ask/qt_file_dialog.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTreeView>
 
@@ -34,6 +39,9 @@ QString Existing_File(const QString& path) {
 
 constexpr QSize kSize(680, 440);
 
+/// The toolkit reads several names in quotation marks out of the field, so that a name which holds
+/// some would be another one, and it reads variables and users' names. Here what stands in the
+/// field counts letter for letter, and it is read in one place (Path).
 class File_Dialog : public QFileDialog {
  public:
   File_Dialog(const File_Request& request, AcceptMode mode)
@@ -52,6 +60,7 @@ class File_Dialog : public QFileDialog {
       filters << name;
     }
     setNameFilters(filters);
+    Read_The_Name();
     Offer(QString::fromStdString(request.name));
     Make_Room();
     if (mode == AcceptSave && request.filters.size() > 1) {
@@ -63,17 +72,101 @@ class File_Dialog : public QFileDialog {
   }
 
   std::optional<std::string> Ask() {
-    if (exec() != Accepted || selectedFiles().isEmpty()) return std::nullopt;
+    if (exec() != Accepted) return std::nullopt;
     last_folder_ = directory().absolutePath();
-    return Chosen().toStdString();
+    return chosen_.toStdString();
   }
 
   void accept() override {
-    if (acceptMode() == AcceptSave && !May_Be_Written()) return;
-    QFileDialog::accept();
+    const QString folder = Selected_Folder();
+    const QString path = folder.isEmpty() ? Path() : folder;
+    if (path.isEmpty()) return;
+    if (QFileInfo(path).isDir()) {
+      Enter(path);
+    } else if (path.endsWith(QLatin1Char('/'))) {
+      Tell(path + QStringLiteral("\nDirectory not found.\nPlease verify the correct directory name "
+                                 "was given."));
+    } else if (acceptMode() == AcceptOpen && !QFileInfo::exists(path)) {
+      Tell(QFileInfo(path).fileName() +
+           QStringLiteral("\nFile not found.\nPlease verify the correct file name was given."));
+    } else if (acceptMode() == AcceptOpen || May_Be_Written(With_Ending(path))) {
+      chosen_ = acceptMode() == AcceptOpen ? path : With_Ending(path);
+      QDialog::accept();
+    }
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == button_ && event->type() == QEvent::EnabledChange) Enable_Button();
+    return QFileDialog::eventFilter(watched, event);
   }
 
  private:
+  /// Puts the reading here in the place of the toolkit's, which follows the field as it changes.
+  void Read_The_Name() {
+    name_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    files_ = findChild<QListView*>(QStringLiteral("listView"));
+    button_ =
+        findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))
+            ->button(acceptMode() == AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+    disconnect(name_, &QLineEdit::textChanged, this, nullptr);
+    connect(name_, &QLineEdit::textChanged, this, &File_Dialog::Follow_Name);
+    // The toolkit greys the button for what it can't make out, on several occasions.
+    button_->installEventFilter(this);
+  }
+
+  /// The path that the field stands for; empty when that is empty. "~" is the home folder where no
+  /// file is called so.
+  QString Path() const {
+    const QString name = name_->text();
+    if (name.isEmpty() || name.startsWith(QLatin1Char('/'))) return name;
+    const QString here = directory().absolutePath();
+    const QString path = here + (here.endsWith(QLatin1Char('/')) ? "" : "/") + name;
+    const bool is_home = name == QLatin1Char('~') || name.startsWith(QLatin1String("~/"));
+    return is_home && !QFileInfo::exists(path) ? QDir::homePath() + name.mid(1) : path;
+  }
+
+  /// The folder that is chosen in the list; choosing one leaves the field as it is.
+  QString Selected_Folder() const {
+    const QModelIndexList rows = files_->selectionModel()->selectedRows();
+    if (rows.size() != 1) return {};
+    const QString path = rows.constFirst().data(QFileSystemModel::FilePathRole).toString();
+    return QFileInfo(path).isDir() ? path : QString();
+  }
+
+  /// Shows in the list what the field names.
+  void Follow_Name() {
+    const auto* model = qobject_cast<QFileSystemModel*>(files_->model());
+    const QModelIndex named = model->index(Path());
+    QItemSelectionModel* selection = files_->selectionModel();
+    if (!named.isValid() || named.parent() != files_->rootIndex()) {
+      selection->clearSelection();
+    } else if (!selection->isRowSelected(named.row(), named.parent()) ||
+               selection->selectedRows().size() != 1) {
+      selection->select(named, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    Enable_Button();
+  }
+
+  void Enable_Button() {
+    button_->setEnabled(!name_->text().isEmpty() || !Selected_Folder().isEmpty());
+  }
+
+  void Enter(const QString& folder) {
+    const bool was_typed = QDir::cleanPath(folder) == QDir::cleanPath(Path());
+    setDirectory(folder);
+    if (was_typed) name_->clear();
+  }
+
+  void Tell(const QString& text) {
+    QMessageBox box(this);
+    box.setWindowTitle(windowTitle());
+    box.setTextFormat(Qt::PlainText);
+    box.setIcon(QMessageBox::Warning);
+    Name_Picture(box);
+    box.setText(text);
+    box.exec();
+  }
+
   /// Names, sizes and dates are shown whole; what kind of file it is the filter says already.
   void Make_Room() {
     constexpr int kType = 2;
@@ -96,14 +189,13 @@ class File_Dialog : public QFileDialog {
 
   /// The name that is offered or typed goes with the kind of file that is chosen.
   void Follow_Filter(const QString& filter) {
-    auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (edit == nullptr || edit->text().isEmpty()) return;
-    QString name = edit->text(), wanted;
+    if (name_->text().isEmpty()) return;
+    QString name = name_->text(), wanted;
     for (const QString& suffix : suffixes_) {
       if (filter.contains(suffix)) wanted = suffix;
       if (name.endsWith(suffix, Qt::CaseInsensitive)) name.chop(suffix.size());
     }
-    edit->setText(name + wanted);
+    name_->setText(name + wanted);
   }
 
   void Offer(const QString& name) {
@@ -111,24 +203,22 @@ class File_Dialog : public QFileDialog {
       setDirectory(last_folder_);
     } else if (Application_Folder() != Delivered_Folder()) {
       // The current folder is hidden among the user's files then: nobody looks for projects there.
-      setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+      setDirectory(Documents_Folder());
     }
-    if (name.isEmpty() || name.contains(QLatin1Char('*'))) return;
+    if (name.isEmpty()) return;
     const QFileInfo offered(name);
     if (offered.isDir()) {
       setDirectory(name);
       return;
     }
     if (offered.isAbsolute()) setDirectory(offered.absolutePath());
-    selectFile(offered.fileName());
+    name_->setText(offered.fileName());
   }
 
-  bool May_Be_Written() {
-    const QStringList files = selectedFiles();
-    if (files.isEmpty() || QFileInfo(files.constFirst()).isDir()) return true;
-    std::string path = Chosen().toStdString();
-    if (complete_) path = complete_(path);
-    const QString existing = Existing_File(QString::fromStdString(path));
+  bool May_Be_Written(const QString& path) {
+    const QString written =
+        complete_ ? QString::fromStdString(complete_(path.toStdString())) : path;
+    const QString existing = Existing_File(written);
     if (existing.isEmpty()) return true;
     QMessageBox box(this);
     box.setWindowTitle(windowTitle());
@@ -141,9 +231,8 @@ class File_Dialog : public QFileDialog {
     return box.exec() == QMessageBox::Yes;
   }
 
-  /// The file that is chosen, with the ending that it gets.
-  QString Chosen() const {
-    QString path = selectedFiles().constFirst();
+  /// A path to save under, with the ending that it gets.
+  QString With_Ending(const QString& path) const {
     const bool is_bare = !QFileInfo(path).fileName().contains(QLatin1Char('.'));
     if (ending_ == Ending::As_Typed || (ending_ == Ending::To_Bare_Names && !is_bare)) return path;
     QString wanted;
@@ -158,10 +247,19 @@ class File_Dialog : public QFileDialog {
   std::function<std::string(const std::string&)> complete_;
   Ending ending_;
   QStringList suffixes_;  // of the filters, when there are several to save by
+  QString chosen_;
+  QLineEdit* name_ = nullptr;
+  QListView* files_ = nullptr;
+  QPushButton* button_ = nullptr;
   inline static QString last_folder_;
 };
 
 }  // namespace
+
+QString Documents_Folder() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
 
 std::optional<std::string> Ask_Qt_Open_File(const File_Request& request) {
   return File_Dialog(request, QFileDialog::AcceptOpen).Ask();

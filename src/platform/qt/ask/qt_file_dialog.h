@@ -6,10 +6,17 @@
 
 namespace barvon {
 
-/// The open dialog with its filters, matched without regard to case.
+/// Where a person looks for files of his own: his documents, or his home folder when he has no
+/// folder for them.
+QString Documents_Folder();
+
+/// The open dialog with its filters, matched without regard to case. What is typed, offered or
+/// chosen is the name letter for letter; "~" alone or before a "/" is the home folder unless a file
+/// is called so, and a folder is gone into.
 std::optional<std::string> Ask_Qt_Open_File(const File_Request& request);
 
-/// The save dialog. Asks before a file is named that exists, under whatever case its name has.
+/// The save dialog, which reads names in the same way. Asks before a file is named that exists,
+/// under whatever case its name has.
 std::optional<std::string> Ask_Qt_Save_File(const File_Request& request);
 
 /// The common printer set-up dialog; what is set there holds until the program ends.

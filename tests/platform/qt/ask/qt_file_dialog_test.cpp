@@ -2,9 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialogButtonBox>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QTest>
+#include <algorithm>
+#include <filesystem>
 
+#include "run/child_support.h"
 #include "support/screen_support.h"
 
 namespace barvon {
@@ -206,6 +212,290 @@ TEST(SaveDialog, Asks_About_The_File_That_The_Name_Stands_For) {
   Modal_Replies replies({Choose("bay"), Press(QMessageBox::Yes)});
   EXPECT_EQ(Ask_Qt_Save_File(request), folder / "bay");
   EXPECT_EQ(replies.seen.size(), 1u);
+}
+
+/// Names that a shell, an address or a list of names would read as something else.
+const std::vector<std::string> kOddNames{R"(a'b"c.DUI)",
+                                         R"(my "bay" site.DUI)",
+                                         R"("bay.DUI")",
+                                         R"("bay.DUI" "c.DUI")",
+                                         R"(")",
+                                         R"("")",
+                                         R"(bay.DUI")",
+                                         R"("c.DUI)",
+                                         R"(back\slash.DUI)",
+                                         R"(\\bay.DUI)",
+                                         R"(bay\)",
+                                         "  bay.DUI",
+                                         "bay.DUI  ",
+                                         " ",
+                                         "~bay.DUI",
+                                         "~root",
+                                         "$HOME",
+                                         "${HOME}.DUI",
+                                         "%41.DUI",
+                                         ":bay.DUI",
+                                         "file:bay.DUI",
+                                         "a#b?c=d&e;f.DUI",
+                                         "a*b[1].DUI",
+                                         "...",
+                                         "-bay.DUI"};
+
+constexpr char kAll[] = "*";
+
+/// Types the name in the place of what the field holds, and ends with Return.
+Reply Type_Name(const std::string& name) {
+  return [name](QWidget* dialog) {
+    QLineEdit* field = Name_Field(dialog);
+    field->setFocus();
+    field->selectAll();
+    testing::Type(field, QString::fromStdString(name));
+    QTest::keyClick(field, Qt::Key_Return);
+  };
+}
+
+QAbstractButton* Accept_Button(QWidget* dialog) {
+  const auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
+  const QList<QAbstractButton*> buttons = box->buttons();
+  return *std::ranges::find_if(buttons, [&](QAbstractButton* button) {
+    return box->buttonRole(button) == QDialogButtonBox::AcceptRole;
+  });
+}
+
+Reply Click_In_List(const std::string& name) {
+  return [name](QWidget* dialog) {
+    auto* list = dialog->findChild<QListView*>("listView");
+    auto* table = dialog->findChild<QAbstractItemView*>("treeView");
+    QAbstractItemView* view = list->isVisible() ? list : table;
+    const QString wanted = QString::fromStdString(name);
+    ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains(wanted); })) << name;
+    for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row) {
+      const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+      if (index.data().toString() != wanted) continue;
+      view->scrollTo(index);
+      QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                        view->visualRect(index).center());
+    }
+    EXPECT_EQ(Name_Field(dialog)->text(), wanted);
+    testing::Click(Accept_Button(dialog));
+  };
+}
+
+TEST(SaveDialog, A_Typed_Name_Counts_Letter_For_Letter) {
+  for (const std::string& name : kOddNames) {
+    Scratch_Folder folder;
+    // What such a name was read as before.
+    for (const char* other : {"c.DUI", "bay.DUI", "bay", "A.DUI"}) Write_Text(folder / other, "x");
+    Modal_Replies replies({Type_Name(name)});
+    EXPECT_EQ(Ask_Qt_Save_File({"", {{"All", kAll}}, folder / "offered.DUI"}), folder / name);
+    EXPECT_EQ(replies.windows, 1) << name;
+  }
+}
+
+TEST(SaveDialog, An_Offered_Name_Counts_Letter_For_Letter) {
+  for (const std::string& name : kOddNames) {
+    Scratch_Folder folder;
+    Write_Text(folder / "c.DUI", "x");
+    Write_Text(folder / "bay.DUI", "x");
+    Modal_Replies replies({[&](QWidget* dialog) {
+      EXPECT_EQ(Name_Field(dialog)->text().toStdString(), name);
+      QTest::keyClick(Name_Field(dialog), Qt::Key_Return);
+    }});
+    EXPECT_EQ(Ask_Qt_Save_File({"", {{"All", kAll}}, folder / name}), folder / name);
+    EXPECT_EQ(replies.windows, 1) << name;
+  }
+}
+
+TEST(SaveDialog, Asks_About_The_Very_File_That_Is_Written) {
+  for (const std::string& name : kOddNames) {
+    Scratch_Folder folder;
+    for (const char* other : {"c.DUI", "bay.DUI"}) Write_Text(folder / other, "x");
+    Write_Text(folder / name, "x");
+    Modal_Replies replies({Type_Name(name), Press(QMessageBox::Yes)});
+    EXPECT_EQ(Ask_Qt_Save_File({"", {{"All", kAll}}, folder.path()}), folder / name);
+    ASSERT_EQ(replies.seen.size(), 1U) << name;
+    EXPECT_EQ(replies.seen[0].text.toStdString(),
+              name + " already exists.\nDo you want to replace it?");
+    EXPECT_EQ(replies.seen[0].format, Qt::PlainText);
+  }
+}
+
+TEST(SaveDialog, The_Ending_Goes_Behind_The_Letters_Of_The_Name) {
+  Scratch_Folder folder;
+  Write_Text(folder / "bay.pdf", "x");
+  File_Request request{
+      "", {{"PDF Documents (*.pdf)", "*.pdf"}, {"Web Pages (*.html)", "*.html"}}, folder.path()};
+  request.ending = Ending::To_Others;
+  Modal_Replies replies({Type_Name(R"("bay")"), Type_Name(R"(my "bay" site)")});
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / R"("bay".pdf)");
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / R"(my "bay" site.pdf)");
+}
+
+TEST(OpenDialog, A_Typed_Name_Counts_Letter_For_Letter) {
+  for (const std::string& name : kOddNames) {
+    Scratch_Folder folder;
+    for (const char* other : {"c.DUI", "bay.DUI", "bay"}) Write_Text(folder / other, "x");
+    Write_Text(folder / name, "x");
+    Modal_Replies replies({Type_Name(name), Type_Name(folder / name)});
+    EXPECT_EQ(Ask_Qt_Open_File({"", {{"All", kAll}}, folder.path()}), folder / name);
+    EXPECT_EQ(Ask_Qt_Open_File({"", {{"All", kAll}}, folder.path()}), folder / name);
+    EXPECT_EQ(replies.windows, 2) << name;
+  }
+}
+
+TEST(OpenDialog, A_Name_That_Is_Clicked_Counts_Letter_For_Letter) {
+  for (const std::string& name : kOddNames) {
+    if (name == "...") continue;  // hidden from the list
+    Scratch_Folder folder;
+    for (const char* other : {"c.DUI", "bay.DUI", "bay"}) Write_Text(folder / other, "x");
+    Write_Text(folder / name, "x");
+    Modal_Replies replies({Click_In_List(name)});
+    EXPECT_EQ(Ask_Qt_Open_File({"", {{"All", kAll}}, folder.path()}), folder / name);
+  }
+}
+
+TEST(SaveDialog, A_Name_That_Is_Clicked_Counts_Letter_For_Letter) {
+  Scratch_Folder folder;
+  for (const char* name : {"c.DUI", R"(a'b"c.DUI)"}) Write_Text(folder / name, "x");
+  Modal_Replies replies({Click_In_List(R"(a'b"c.DUI)"), Press(QMessageBox::Yes)});
+  EXPECT_EQ(Ask_Qt_Save_File({"", {kProjects}, folder / "new.DUI"}), folder / R"(a'b"c.DUI)");
+  EXPECT_EQ(replies.seen.at(0).text.toStdString(),
+            "a'b\"c.DUI already exists.\nDo you want to replace it?");
+}
+
+TEST(OpenDialog, A_Name_With_A_Line_Break_Is_Opened_By_The_List) {
+  Scratch_Folder folder;
+  Write_Text(folder / "a\nb.DUI", "x");
+  Modal_Replies replies({Click_In_List("a\nb.DUI")});
+  EXPECT_EQ(Ask_Qt_Open_File({"", {kProjects}, folder.path()}), folder / "a\nb.DUI");
+}
+
+TEST(OpenDialog, A_Name_That_Is_Not_There_Is_Told) {
+  Scratch_Folder folder;
+  Write_Text(folder / "bay.DUI", "x");
+  Modal_Replies replies({[&](QWidget* dialog) {
+                           Type_Name(R"(my "bay" site.DUI)")(dialog);
+                           EXPECT_TRUE(dialog->isVisible());
+                           EXPECT_EQ(Name_Field(dialog)->text(), R"(my "bay" site.DUI)");
+                           dialog->close();
+                         },
+                         Press(QMessageBox::Ok),
+                         [&](QWidget* dialog) {
+                           Type_Name("none/")(dialog);
+                           dialog->close();
+                         },
+                         Press(QMessageBox::Ok)});
+  const File_Request request{"", {kProjects}, folder.path()};
+  EXPECT_FALSE(Ask_Qt_Open_File(request).has_value());
+  EXPECT_FALSE(Ask_Qt_Save_File(request).has_value());
+  ASSERT_EQ(replies.seen.size(), 2U);
+  EXPECT_EQ(replies.seen[0].text,
+            "my \"bay\" site.DUI\nFile not found.\nPlease verify the correct file name was given.");
+  EXPECT_EQ(replies.seen[1].text.toStdString(),
+            (folder / "none/") +
+                "\nDirectory not found.\nPlease verify the correct directory name was given.");
+}
+
+TEST(FileDialogs, A_Typed_Folder_Is_Gone_Into) {
+  Scratch_Folder folder;
+  std::filesystem::create_directories(folder / R"(the "c.DUI" folder/deep)");
+  const testing::Changed_Variable home("HOME", folder.path());
+  const QString base = QString::fromStdString(folder.path());
+  const QString quoted = base + R"(/the "c.DUI" folder)";
+  for (const auto& ask : {Ask_Qt_Open_File, Ask_Qt_Save_File}) {
+    Modal_Replies replies({[&](QWidget* dialog) {
+      const auto goes_to = [&](const std::string& typed, const QString& expected) {
+        Type_Name(typed)(dialog);
+        EXPECT_EQ(qobject_cast<QFileDialog*>(dialog)->directory().absolutePath(), expected)
+            << typed;
+        EXPECT_TRUE(Name_Field(dialog)->text().isEmpty()) << typed;
+        EXPECT_TRUE(dialog->isVisible()) << typed;
+      };
+      goes_to(R"(the "c.DUI" folder)", quoted);
+      goes_to("deep", quoted + "/deep");
+      goes_to("..", quoted);
+      goes_to("../", base);
+      goes_to(quoted.toStdString() + "/deep/", quoted + "/deep");
+      goes_to("~", base);
+      goes_to(R"(~/the "c.DUI" folder)", quoted);
+      goes_to("/", "/");
+      goes_to(base.toStdString(), base);
+      dialog->close();
+    }});
+    EXPECT_FALSE(ask({"", {kProjects}, folder.path()}).has_value());
+  }
+}
+
+TEST(FileDialogs, A_Relative_Path_Begins_In_The_Folder_That_Shows) {
+  Scratch_Folder folder;
+  std::filesystem::create_directories(folder / "sub");
+  std::filesystem::create_directories(folder / "other");
+  const testing::Changed_Variable home("HOME", folder / "other");
+  Write_Text(folder / R"(sub/a"b.DUI)", "x");
+  Write_Text(folder / R"(other/a"b.DUI)", "x");
+  for (const auto& ask : {Ask_Qt_Open_File, Ask_Qt_Save_File}) {
+    const bool saves = ask == Ask_Qt_Save_File;
+    const auto given = [&](const std::string& typed) {
+      std::vector<Reply> answers{Type_Name(typed)};
+      if (saves) answers.push_back(Press(QMessageBox::Yes));
+      Modal_Replies replies(answers);
+      const auto path = ask({"", {kProjects}, folder.path()});
+      return path ? std::filesystem::weakly_canonical(*path).string() : std::string();
+    };
+    EXPECT_EQ(given(R"(sub/a"b.DUI)"), folder / R"(sub/a"b.DUI)");
+    EXPECT_EQ(given(R"(./sub/a"b.DUI)"), folder / R"(sub/a"b.DUI)");
+    EXPECT_EQ(given(R"(sub/../other/a"b.DUI)"), folder / R"(other/a"b.DUI)");
+    EXPECT_EQ(given(R"(~/a"b.DUI)"), folder / R"(other/a"b.DUI)");
+  }
+}
+
+TEST(FileDialogs, A_File_Called_Tilde_Comes_Before_The_Home_Folder) {
+  Scratch_Folder folder;
+  Write_Text(folder / "~", "x");
+  Modal_Replies replies({Type_Name("~")});
+  EXPECT_EQ(Ask_Qt_Open_File({"", {{"All", kAll}}, folder.path()}), folder / "~");
+}
+
+TEST(SaveDialog, A_Folder_Chosen_In_The_List_Leaves_The_Name) {
+  Scratch_Folder folder;
+  std::filesystem::create_directories(folder / "sub");
+  Modal_Replies replies({[&](QWidget* dialog) {
+    auto* list = dialog->findChild<QListView*>("listView");
+    auto* model = qobject_cast<QFileSystemModel*>(list->model());
+    ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains("sub"); }));
+    list->selectionModel()->select(model->index(QString::fromStdString(folder / "sub")),
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    QMetaObject::invokeMethod(dialog, "accept");
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(Name_Field(dialog)->text(), "bay.DUI");
+    QMetaObject::invokeMethod(dialog, "accept");
+  }});
+  EXPECT_EQ(Ask_Qt_Save_File({"", {kProjects}, folder / "bay.DUI"}), folder / "sub/bay.DUI");
+}
+
+TEST(FileDialogs, The_Button_Can_Be_Pressed_As_Soon_As_There_Is_A_Name) {
+  Scratch_Folder folder;
+  Modal_Replies replies({[&](QWidget* dialog) {
+    QAbstractButton* button = Accept_Button(dialog);
+    EXPECT_FALSE(button->isEnabled());
+    testing::Type(Name_Field(dialog), R"(a'b"c.DUI)");
+    EXPECT_TRUE(button->isEnabled());
+    Name_Field(dialog)->clear();
+    EXPECT_FALSE(button->isEnabled());
+    QTest::keyClick(Name_Field(dialog), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->close();
+  }});
+  EXPECT_FALSE(Ask_Qt_Open_File({"", {kProjects}, folder.path()}).has_value());
+}
+
+TEST(FileDialogs, Begin_In_The_Home_Folder_Where_There_Are_No_Documents) {
+  Scratch_Folder folder;
+  const testing::Changed_Variable home("HOME", folder.path());
+  const testing::Changed_Variable settings("XDG_CONFIG_HOME", folder.path());
+  EXPECT_EQ(Documents_Folder().toStdString(), folder.path());
+  std::filesystem::create_directory(folder / "Documents");
+  EXPECT_EQ(Documents_Folder().toStdString(), folder / "Documents");
 }
 
 TEST(PrinterSetup, Comes_Up_And_Can_Be_Left) {
