@@ -277,7 +277,8 @@ TEST(ReportPages, A_Wide_Grid_Is_Made_Narrower_Than_Its_Page) {
     grid.rows[0].cells.push_back("12345.678");
   }
   report.parts.emplace_back(grid);
-  for (const Shape& shape : Report_Pages(report).front().shapes) {
+  const std::vector<Shape_List> pages = Report_Pages(report);
+  for (const Shape& shape : pages.front().shapes) {
     const auto* text = std::get_if<Text_Shape>(&shape);
     if (text == nullptr) continue;
     EXPECT_LE(text->place.x, 612 - 54 + 0.01) << text->text;
