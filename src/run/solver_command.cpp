@@ -102,6 +102,16 @@ bool Has_A_File_Of(const std::string& command_line, const std::string& folder) {
       names, [&](const std::string& name) { return !Matching_Files(folder, name).empty(); });
 }
 
+/// The program that a command line's launcher starts, or a command's own. A launcher alone starts
+/// nothing, so that it is no solver.
+bool Has_A_Program_Of(const std::string& command_line, const std::string& folder) {
+  const std::vector<std::string> words = Words(command_line);
+  if (words.empty()) return false;
+  const std::string& program = words[words.size() > 1 ? 1 : 0];
+  return !Matching_Files(folder, program).empty() ||
+         !Matching_Files(folder, Base_Name(program)).empty();
+}
+
 std::string Joined(const std::vector<std::string>& words, std::size_t from) {
   std::string text;
   for (std::size_t i = from; i < words.size(); ++i) text += (i == from ? "" : " ") + words[i];
@@ -210,8 +220,8 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
 
 Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& application_folder,
                             const std::string& delivered_folder) {
-  const bool has_external = Has_A_File_Of(command_line, application_folder) ||
-                            Has_A_File_Of(command_line, delivered_folder);
+  const bool has_external = Has_A_Program_Of(command_line, application_folder) ||
+                            Has_A_Program_Of(command_line, delivered_folder);
   return has_external || Matching_Files(delivered_folder, kCompanionProgram).empty()
              ? Solver_Choice::External
              : Solver_Choice::Companion;
@@ -220,12 +230,14 @@ Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& 
 Solver_Command Find_Solver(const std::string& command_line, Solver_Choice choice,
                            const std::string& application_folder,
                            const std::string& delivered_folder) {
-  if (choice == Solver_Choice::External_First) {
-    choice = Chosen_Solver(command_line, application_folder, delivered_folder);
+  const bool any = choice == Solver_Choice::External_First;
+  if (any) choice = Chosen_Solver(command_line, application_folder, delivered_folder);
+  if (choice == Solver_Choice::Companion) return Find_Companion(delivered_folder);
+  Solver_Command found = Find_Solver_Command(command_line, application_folder, delivered_folder);
+  if (any && found.command.empty() && Matching_Files(delivered_folder, kCompanionProgram).empty()) {
+    found.problem += std::string("; nor is ") + kCompanionProgram + " in " + delivered_folder;
   }
-  return choice == Solver_Choice::Companion
-             ? Find_Companion(delivered_folder)
-             : Find_Solver_Command(command_line, application_folder, delivered_folder);
+  return found;
 }
 
 }  // namespace barvon

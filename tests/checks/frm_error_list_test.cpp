@@ -421,7 +421,7 @@ TEST_F(ErrorListScreen, A_Blocking_List_Stays_While_Its_Findings_Are_Mended_One_
     screen.exec();
   };
   bool stood = false;
-  QTimer::singleShot(0, &List(), [&] {
+  QTimer::singleShot(0, &workspace, [&] {
     Double_Click(Place_Of(0));
     Double_Click(Place_Of(1));
     stood = List().isVisible();

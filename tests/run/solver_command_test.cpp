@@ -237,7 +237,7 @@ TEST_F(CompanionSolver, Comes_Behind_A_Launcher_With_Its_Program) {
 }
 
 TEST_F(CompanionSolver, Does_Not_Stand_In_For_One_Of_The_Users_That_Can_Not_Be_Run) {
-  for (const char* name : {"merak32", "Merak32.exe", "dos4gw", "DOS4GW.EXE"}) {
+  for (const char* name : {"merak32", "Merak32.exe"}) {
     Write_Text(folder / "app/" + name, "MZ\x90");
     EXPECT_EQ(Find().command, Command{}) << name;
     EXPECT_NE(Find().problem, "");
@@ -246,12 +246,22 @@ TEST_F(CompanionSolver, Does_Not_Stand_In_For_One_Of_The_Users_That_Can_Not_Be_R
   }
 }
 
+TEST_F(CompanionSolver, Runs_Where_A_Launcher_Stands_Alone) {
+  for (const char* launcher : {"app/dos4gw", "app/DOS4GW.EXE", "program/DOS4GW"}) {
+    Script(launcher);
+    EXPECT_EQ(Chosen(), Solver_Choice::Companion) << launcher;
+    EXPECT_EQ(Find().command, (Command{folder / "program/barvon-solver"}));
+    fs::remove(folder / launcher);
+  }
+}
+
 TEST_F(CompanionSolver, Is_The_Programs_Own_And_Looked_For_Nowhere_Else) {
   fs::remove(folder / "program/barvon-solver");
   Script("app/barvon-solver");
   Script("one/barvon-solver");
   EXPECT_EQ(Chosen(), Solver_Choice::External);
-  EXPECT_EQ(Find().problem, Find_Delivered().problem);
+  EXPECT_EQ(Find().problem,
+            Find_Delivered().problem + "; nor is barvon-solver in " + (folder / "program"));
   EXPECT_EQ(Find(Solver_Choice::Companion).command, Command{});
   EXPECT_EQ(Find(Solver_Choice::Companion).problem,
             "the companion solver, barvon-solver, can't be run in " + (folder / "program"));
