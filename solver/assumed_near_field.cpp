@@ -8,7 +8,6 @@ namespace companion {
 
 std::string Assumed_Descent_And_Collapse() {
   std::string text = std::string("  Descent and collapse") + kLineEnd;
-  text += Constant_Line("Hindered settling, power of the water's share", kHinderedPower);
   text += Constant_Line("Plan moments of a hand-over, times the cloud's own", kPlanMoments);
   text += Constant_Line("Parts of the way to the bed for what leaves", kPartsOfFall);
   text += Constant_Line("Calm: speed through the water below", kCalmSpeed, "ft/s");
@@ -25,8 +24,6 @@ std::string Assumed_Descent_And_Collapse() {
   text += Constant_Line("  or its speed, in shear velocities", kTurbulentSpeeds);
   text += Constant_Line("Inflow from above, (1 - a Ri)/(1 + b Ri): a", kHeadRichardson);
   text += Constant_Line("  b", kTailRichardson);
-  text += Constant_Line("Flocs settle faster from", kFlocFrom, "mg/l");
-  text += Constant_Line("  at most, times the fall velocity", kMostOfFlocs);
   return text;
 }
 

@@ -9,6 +9,7 @@
 #include "solver/outcome.h"
 #include "solver/raster.h"
 #include "solver/release.h"
+#include "solver/settling.h"
 #include "solver/simulation.h"
 #include "solver/tables.h"
 #include "solver/vertical.h"
@@ -37,6 +38,14 @@ std::string Assumed_Water_And_Release() {
   return text;
 }
 
+std::string Assumed_Settling() {
+  std::string text = std::string("  Settling, in clouds and in what drifts") + kLineEnd;
+  text += Constant_Line("Hindered settling, power of the water's share", kHinderedPower);
+  text += Constant_Line("Flocs settle faster from", kFlocFrom, "mg/l");
+  text += Constant_Line("  at most, times the fall velocity", kMostOfFlocs);
+  return text;
+}
+
 std::string Assumed_Transport() {
   std::string text = std::string("  Passive transport") + kLineEnd;
   text += Constant_Line("Layers of a column", kLayers);
@@ -52,9 +61,6 @@ std::string Assumed_Transport() {
   text += Constant_Line("  shear, of U/H", kPritchardShear);
   text += Constant_Line("  Ri at most", kPritchardLimit);
   text += Constant_Line("  at least", kPritchardLeast, "ft2/s");
-  text += Constant_Line("Hindered settling, power of the water's share", kHinderedPower);
-  text += Constant_Line("Flocs settle faster from", kFlocConcentration, "mg/l");
-  text += Constant_Line("  at most, times the fall velocity", kFlocLimit);
   text += Constant_Line("What grains feel, of a layer's peak", kTypicalOfPeak);
   text += Constant_Line("Last of a column settles at once, of what it received", kLastOfAColumn);
   text += Constant_Line("Columns are cut every", kCutEvery, "s");
@@ -86,7 +92,7 @@ std::string Assumed_Evaluation() {
 
 std::string Assumed_Section() {
   return Section_Heading("ASSUMED") + Assumed_Water_And_Release() + Assumed_Descent_And_Collapse() +
-         Assumed_Transport() + Assumed_Evaluation();
+         Assumed_Settling() + Assumed_Transport() + Assumed_Evaluation();
 }
 
 std::string Left_Out_Section() {

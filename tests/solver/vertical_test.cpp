@@ -142,19 +142,6 @@ TEST(Vertical, Diffusivity_In_Layered_Water_Is_As_Worked_Out_By_Hand) {
   EXPECT_EQ(Pritchard(0, 30, 60, 1e-4), 1e-5);
 }
 
-TEST(Vertical, Grains_Hinder_Each_Other_And_Flocs_Hurry) {
-  Solid solid;
-  solid.sg = 2.5;
-  EXPECT_EQ(Settling_Factor(solid, 0), 1);
-  EXPECT_NEAR(Settling_Factor(solid, 0.2), std::pow(0.8, 4.65), 1e-12);
-  EXPECT_NEAR(Settling_Factor(solid, 1e-3), std::pow(1 - 1e-3, 4.65), 2e-8);
-  solid.cohesive = true;
-  EXPECT_NEAR(Settling_Factor(solid, 60e-6), 1, 1e-3);   // 150 mg/l
-  EXPECT_NEAR(Settling_Factor(solid, 160e-6), 2, 2e-3);  // 400 mg/l
-  EXPECT_NEAR(Settling_Factor(solid, 800e-6), 5, 2e-2);  // 2 g/l
-  EXPECT_GT(Settling_Factor(solid, 1), 0);
-}
-
 TEST(Vertical, A_Sheared_Current_Spreads_A_Cloud_As_It_Should) {
   // A straight profile of the difference U over H disperses with U2 H2/(120 K).
   Model_Input input = Still_Basin();
