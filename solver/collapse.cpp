@@ -53,7 +53,9 @@ void Collapse::Work::Begin() {
   integrator.emplace([this](double time, const Integrator::Values& values,
                             Integrator::Values& rates) { Rates(time, values, rates); },
                      tolerance, Floors());
-  integrator->Start(origin.time, State());
+  Integrator::Values state = State();
+  integrator->Rise_From(state.size() - origin.solids.size());  // what each fraction lost
+  integrator->Start(origin.time, std::move(state));
   view = Look(origin.time, integrator->Now());
   amounts = view.cloud.Amounts(input.Has_Tracer());
 }

@@ -262,6 +262,7 @@ Fall Fall_Of(const Model_Input& input, const Water& water, const Cloud_Start& st
   Integrator integrator([&faller](double time, const Integrator::Values& state,
                                   Integrator::Values& rates) { faller.Rates(time, state, rates); },
                         tolerance, faller.Floors());
+  integrator.Rise_From(kWashed);
   integrator.Start(start.time, faller.Start());
   Faller::View view = faller.Look(start.time, integrator.Now());
   std::vector<double> amounts = view.cloud.Amounts(with_tracer);

@@ -60,6 +60,8 @@ void Integrator::Try(double step, Values& end) {
         sum += kWeights[stage][k] * slopes_[static_cast<std::size_t>(k)][i];
       into[i] = values_[i] + step * sum;
     }
+    if (stage + 1 == kStages)
+      for (std::size_t i = rising_; i < values_.size(); ++i) end[i] = std::max(end[i], values_[i]);
     rates_(time_ + kNodes[stage] * step, into, slopes_[static_cast<std::size_t>(stage)]);
   }
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace companion {
@@ -27,6 +29,9 @@ class Integrator {
   /// smaller. `floors` has as many as there are values, all above 0.
   Integrator(Rates rates, double tolerance, Values floors);
 
+  /// The values from this one on only rise: where a step's error would let one fall, it stays.
+  void Rise_From(std::size_t first) { rising_ = first; }
+
   void Start(double time, Values values);
   /// One step, to `limit` at the most. Where `past` comes to 0 in it, it ends there, within 1e-9 s
   /// behind that moment, and the answer is yes. Where no step suits, it stays and is exhausted.
@@ -48,6 +53,7 @@ class Integrator {
   Values floors_;
   double time_ = 0, step_ = 0;
   int tries_ = 0;
+  std::size_t rising_ = std::numeric_limits<std::size_t>::max();
   Values values_, trial_, stage_;
   std::array<Values, 7> slopes_;
 };

@@ -53,6 +53,16 @@ TEST(Simulation, Samples_Balance_At_Every_Output_Time) {
   }
 }
 
+TEST(Simulation, No_Cloud_Takes_Grains_Back) {
+  Model_Input input = Sample_Input("Section_404_Zid");
+  input.slope_x = 0.05;
+  input.batches[1].solids[1].fall_velocity = 10;
+  const Outcome outcome = Simulated(input);
+  for (const Source& source : outcome.near_field.sources) EXPECT_GE(source.amount, 0);
+  for (const Deposit& deposit : outcome.near_field.deposits) EXPECT_GE(deposit.amount, 0);
+  EXPECT_LE(outcome.worst_balance, 1e-12);
+}
+
 TEST(Simulation, What_Drifts_Arrives_With_The_Current) {
   const Outcome outcome = Simulated(Dyed_Case());
   const auto at = [&](double time) {
