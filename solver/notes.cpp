@@ -50,6 +50,11 @@ void Note_Water(const Model_Input& input, const Additions& additions,
                         : "The current is the tide's average: its table is not in the input, and "
                           "there are no additions that hold it.");
   }
+  if (input.hole_depth > 0) {
+    notes.push_back(
+        "The layers of what drifts out of the depression become as thin as the water beside it has "
+        "them: values rise there in the ratio of the two depths, and fall by it on the way in.");
+  }
   for (std::size_t i = 1; i < input.profile_densities.size(); ++i) {
     if (input.profile_densities[i] < input.profile_densities[i - 1]) {
       notes.push_back("The water is denser above than below between " +
@@ -99,7 +104,10 @@ std::vector<std::string> Input_Notes(const Model_Input& input, const Additions& 
   Note_Water(input, additions, notes);
   Note_Load(input, notes);
   for (const double time : input.print_times) {
-    if (time > input.duration) {
+    if (time <= 0) {
+      notes.push_back("The print time " + Plain(time, 7) +
+                      " s is not behind the start and left out.");
+    } else if (time > input.duration) {
       notes.push_back("The print time " + Plain(time, 7) + " s is behind the end and left out.");
     }
   }

@@ -9,7 +9,7 @@
 namespace companion {
 namespace {
 
-/// Slope of the amounts within a layer from those beside it (van Leer 1977), held so that no value
+/// Slope of the amounts within a layer from those beside it (van Leer 1974), held so that no value
 /// within the layer passes a neighbour's mean.
 double Limited_Slope(double here, double below, double above, double height, double below_distance,
                      double above_distance) {

@@ -38,7 +38,7 @@ class Vertical {
   /// Implicit, so that every step moves shares of amounts alone.
   void Diffuse(Column& column, double seconds);
   /// Every face is followed back to where it fell from; between two such places the amounts lie
-  /// straight within each layer (van Leer 1977), so no step is too long. What reaches the bed and
+  /// straight within each layer (van Leer 1974), so no step is too long. What reaches the bed and
   /// may not stay there goes back into the lowest layer.
   void Settle(Column& column, double seconds);
 
