@@ -73,7 +73,7 @@ std::string Assumed_Transport() {
   text += Constant_Line("  Ri at most", kPritchardLimit);
   text += Constant_Line("  at least", kPritchardLeast, "ft2/s");
   text += Constant_Line("What grains feel, of a layer's peak", kTypicalOfPeak);
-  text += Constant_Line("Last of a column settles at once, of what it received", kLastOfAColumn);
+  text += Constant_Line("Last of a column settles at once, of what it got", kLastOfAColumn);
   text += Constant_Line("Columns are cut every", kCutEvery, "s");
   text += Constant_Line("  looking ahead at most", kCutOutlook, "s");
   text += Constant_Line("  where the current's curvature displaces, of sigma", kCutLimit);

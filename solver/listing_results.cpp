@@ -228,6 +228,9 @@ std::string Maxima_Section(const Model_Input& input, const Outcome& outcome) {
       }
     }
   }
+  if (input.evaluation == Evaluation::Sediment || input.evaluation == Evaluation::Zone_Sediment) {
+    text += "  All of the contaminant counts as dissolved: its values are upper bounds.\r\n";
+  }
   text += kLineEnd;
   text += "  At any point and depth: the middles of clouds and layers, and the means above\r\n";
   text += "  species      depth  area              value  unit       at t        X        Z\r\n";

@@ -90,6 +90,44 @@ TEST(Listing, Tells_What_It_Leaves_Out_Of_The_Times_And_Of_The_Depression) {
   EXPECT_TELLS(text, "The layers of what drifts out of the depression become as thin");
 }
 
+TEST(Listing, Tells_Where_The_Tides_Table_Does_Not_Reach) {
+  Model_Input input = Compared_Case(Evaluation::Tracer);
+  input.velocity_type = 5;
+  Additions additions;
+  const std::string begins =
+      "The tide's table begins 1800 s after the start: until then the water "
+      "stands still.";
+  const std::string ends =
+      "The tide's table ends at 2000 s of the run: from there on its last "
+      "value holds.";
+  additions.tide = Tide{{1800, 3600}, {0, 1}, {0, 0}};
+  std::string text = Told(input, additions);
+  EXPECT_TELLS(text, begins);
+  EXPECT_EQ(text.find("The tide's table ends"), std::string::npos);
+  additions.tide = Tide{{-1600, 2000}, {0, 1}, {0, 0}};
+  text = Told(input, additions);
+  EXPECT_TELLS(text, ends);
+  EXPECT_EQ(text.find("The tide's table begins"), std::string::npos);
+}
+
+TEST(Listing, Tells_Where_The_Disposal_Points_Nearest_Grid_Point_Is_Land) {
+  Model_Input input = Compared_Case(Evaluation::Tracer);
+  input.constant_depth = false;
+  input.depths.assign(41, std::vector<double>(41, 60));
+  EXPECT_TELLS(Told(input), "Depth at the disposal point 60 ft");
+  input.depths[20][20] = 0;
+  EXPECT_TELLS(Told(input), "Depth at the disposal point land at the nearest grid point");
+}
+
+TEST(Listing, Tells_Of_Maps_That_No_Print_Time_Makes) {
+  Model_Input input = Compared_Case(Evaluation::Sediment);
+  input.print_times = {7200};
+  const std::string text = Told(input);
+  EXPECT_TELLS(text,
+               "No print time lies within the run: the maps are those of the largest values.");
+  EXPECT_TELLS(text, "All of the contaminant counts as dissolved: its values are upper bounds.");
+}
+
 TEST(Listing, No_Mean_Of_A_Cell_Is_Above_The_Largest_At_Any_Point_Of_Its_Area) {
   // A site that the cloud's middle doesn't leave: cells outside it have something all the same.
   Model_Input input = Compared_Case(Evaluation::Criterion);
