@@ -11,6 +11,7 @@ std::string Constant_Line(std::string_view meaning, double value, std::string_vi
 
 std::string Assumed_Water_And_Release();
 std::string Assumed_Descent_And_Collapse();
+std::string Assumed_Settling();
 std::string Assumed_Transport();
 std::string Assumed_Evaluation();
 

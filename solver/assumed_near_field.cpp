@@ -2,13 +2,14 @@
 #include "solver/cloud.h"
 #include "solver/collapse.h"
 #include "solver/descent.h"
+#include "solver/ode.h"
 #include "solver/tables.h"
 
 namespace companion {
 
 std::string Assumed_Descent_And_Collapse() {
   std::string text = std::string("  Descent and collapse") + kLineEnd;
-  text += Constant_Line("Hindered settling, power of the water's share", kHinderedPower);
+  text += Constant_Line("Least apparent mass (CM) in the equations", kLeastMassFactor);
   text += Constant_Line("Plan moments of a hand-over, times the cloud's own", kPlanMoments);
   text += Constant_Line("Parts of the way to the bed for what leaves", kPartsOfFall);
   text += Constant_Line("Calm: speed through the water below", kCalmSpeed, "ft/s");
@@ -25,8 +26,15 @@ std::string Assumed_Descent_And_Collapse() {
   text += Constant_Line("  or its speed, in shear velocities", kTurbulentSpeeds);
   text += Constant_Line("Inflow from above, (1 - a Ri)/(1 + b Ri): a", kHeadRichardson);
   text += Constant_Line("  b", kTailRichardson);
-  text += Constant_Line("Flocs settle faster from", kFlocFrom, "mg/l");
-  text += Constant_Line("  at most, times the fall velocity", kMostOfFlocs);
+  text += Constant_Line("Size of a speed up and down turns at 0 over", kSmoothSpeed, "ft/s");
+  text += Constant_Line("All has left where its rates sum up to", kAllLost);
+  text += Constant_Line("Steps of a phase at most, tries included", kMostSteps);
+  text += Constant_Line("  of what the error would allow", kStepSafety);
+  text += Constant_Line("  change from one to the next at least, times", kLeastChange);
+  text += Constant_Line("  at most, times", kGreatestChange);
+  text += Constant_Line("  taken at any rate when as short as", kLeastStep, "s");
+  text += Constant_Line("  with an error of at most, in tolerances", kForcedError);
+  text += Constant_Line("Moment of an event found to", kEventTime, "s");
   return text;
 }
 

@@ -75,8 +75,6 @@ Plan_Moments Moments_Of_Plan(double radius, double length, double axis_x, double
           across / area + difference * axis_z * axis_z};
 }
 
-double Hindrance(double share) { return Pow(std::max(0.0, 1 - share), kHinderedPower); }
-
 double Level_Of(const Model_Input& input, double density, double foot) {
   const std::vector<double>& depths = input.profile_depths;
   const std::vector<double>& densities = input.profile_densities;

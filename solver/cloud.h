@@ -11,7 +11,6 @@
 
 namespace companion {
 
-inline constexpr double kHinderedPower = 4.65;    // of 1 - c: Richardson and Zaki (1954)
 inline constexpr double kAllLost = 50;            // of `lost` in Left_Of, from which on it is all
 inline constexpr double kPlanMoments = 2;         // of a handed-over cloud, times its own
 inline constexpr double kLeastMassFactor = 0.01;  // CM below it counts as this
@@ -51,10 +50,6 @@ double Plan_Area(double radius, double length);
 double Plan_Radius(double area, double length);
 /// Second moments of that area about its centre, over the area, ft2.
 Plan_Moments Moments_Of_Plan(double radius, double length, double axis_x, double axis_z);
-
-/// Share of the fall velocity that is left among solids of a volume share c: (1 - c)^4.65,
-/// Richardson and Zaki (1954).
-double Hindrance(double share);
 
 /// The depth, from `foot` upwards, at which the water has a density; 0 where all of it is heavier,
 /// `foot` where the water there is not.

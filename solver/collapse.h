@@ -22,13 +22,6 @@ inline constexpr double kTurbulentSpeeds = 2;    // of the shear velocity, which
 inline constexpr double kHeadRichardson = 1.25;  // e(Ri) = (1 - 1.25 Ri)/(1 + 5 Ri)
 inline constexpr double kTailRichardson = 5;     // e(Ri), after Ellison and Turner (1959)
 inline constexpr double kSmoothSpeed = 0.001;    // ft/s, over which |w| turns at 0
-inline constexpr double kFlocFrom = 200;         // mg/l from which flocs settle faster
-inline constexpr double kMostOfFlocs = 5;        // of the fall velocity
-inline constexpr double kMilligramsPerLitre = 1e6;  // of 1 g/cc
-
-/// Fall velocity of flocs over that of their grains: their concentration over 200 mg/l, between 1
-/// and 5; 1 for a fraction that is not cohesive. `share` is a volume share.
-double Floc_Factor(const Solid& solid, double share);
 
 /// The share of an inflow that weight lets into a spreading cloud's faces (Ellison and Turner 1959,
 /// in the form of Turner 1986): 1 at none, 0 from a Richardson number of 0.8 on.

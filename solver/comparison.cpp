@@ -9,8 +9,6 @@
 namespace companion {
 namespace {
 
-constexpr double kSolidMilligrams = 1e6;  // mg/l of 1 g/cc
-
 bool Toxicity(const Model_Input& input) {
   return input.evaluation == Evaluation::Toxicity || input.evaluation == Evaluation::Zone_Toxicity;
 }
@@ -172,7 +170,8 @@ std::string Species_Name(const Model_Input& input, std::size_t species) {
 }
 
 double Unit_Factor(const Model_Input& input, std::size_t species) {
-  return species < input.Solids() ? kSolidMilligrams * input.batches.front().solids[species].sg : 1;
+  return species < input.Solids() ? kMilligramsPerLitre * input.batches.front().solids[species].sg
+                                  : 1;
 }
 
 Zone Smallest_Zone(const Model_Input& input, const std::vector<std::vector<double>>& most,

@@ -6,6 +6,7 @@
 
 #include "solver/det_math.h"
 #include "solver/ode.h"
+#include "solver/settling.h"
 #include "solver/trail.h"
 
 namespace companion {

@@ -170,7 +170,13 @@ void Evaluation_Keeper::Finish(const Additions& additions, Outcome& outcome) {
   };
   for (std::size_t species = 0; species < input_.Species(); ++species) {
     const double base = Base_Of(input_, species);
-    for (Area_Spots& spots : kept_.cell_spots[species]) fill(spots, base);
+    // The middles that were looked at may all lie beyond an area into which a cloud reaches: some
+    // point of a cell has its mean at least.
+    for (Area_Spots& spots : kept_.cell_spots[species]) {
+      for (const Area area : kEveryArea)
+        Raise(kept_.point_spots[species][At(area)], spots[At(area)]);
+      fill(spots, base);
+    }
     fill(kept_.point_spots[species], base);
     for (std::size_t depth = 0; depth < input_.output_depths.size(); ++depth) {
       Cell_Map map = Windowed(most_[species][depth], input_.points_x, input_.points_z, 1, base);

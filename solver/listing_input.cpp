@@ -36,7 +36,9 @@ std::string Site_Lines(const Model_Input& input, const Additions& additions) {
     const std::size_t bottom = depths.size() - 1, right = depths.front().size() - 1;
     text += Caption_Line("Water depth", added ? "grid, as the additions have it"
                                               : "grid, rows of the input along X");
-    text += Caption_Line("Depth at the disposal point", Depth_Of(depths, i, k) + " ft");
+    const bool land = depths[i][k] <= 0;
+    text += Caption_Line("Depth at the disposal point",
+                         Depth_Of(depths, i, k) + (land ? " at the nearest grid point" : " ft"));
     text += Caption_Line("Depth at the corners (top left, top right,",
                          Depth_Of(depths, 0, 0) + ", " + Depth_Of(depths, 0, right) + ",");
     text +=
@@ -90,11 +92,12 @@ std::string Current_Lines(const Model_Input& input, const Additions& additions) 
     text += Caption_Line("  X, Z at the disposal point",
                          Pair(input.field_x[a][b], input.field_z[a][b]) + " ft/s");
   } else {
-    text +=
-        Caption_Line("  Mean X, Z in a depth of",
-                     Pair(input.mean_x, input.mean_z) + " ft/s in " +
-                         (input.mean_depth > 0 ? Plain(input.mean_depth) + " ft" : "any depth"));
-    if (additions.tide && type == 5) {
+    const bool turns = additions.tide && type == 5;
+    text += Caption_Line(
+        turns ? "  Average X, Z of the tide (the table holds) in" : "  Mean X, Z in a depth of",
+        Pair(input.mean_x, input.mean_z) + " ft/s in " +
+            (input.mean_depth > 0 ? Plain(input.mean_depth) + " ft" : "any depth"));
+    if (turns) {
       text += Caption_Line("  The tide's table, from the additions",
                            Pair(additions.tide->times.front(), additions.tide->times.back()) +
                                " s of the run, first and last point");

@@ -108,6 +108,10 @@ std::vector<Named_Area> Named_Areas(const Model_Input& input) {
 std::string Zone_Text(const Model_Input& input, const std::string& what, const Zone& zone,
                       double value) {
   const std::string unit = " " + Tracer_Unit(input);
+  if (const double base = Base_Of(input, input.Solids()); base > value) {
+    return Caption_Line(what, "none: the background alone is " + Plain(base) + unit + ", above " +
+                                  Plain(value) + unit);
+  }
   if (!zone.any) {
     return Caption_Line(what,
                         "no cell ever passes " + Plain(value) + unit + " at the output depths");
@@ -224,8 +228,11 @@ std::string Maxima_Section(const Model_Input& input, const Outcome& outcome) {
       }
     }
   }
+  if (input.evaluation == Evaluation::Sediment || input.evaluation == Evaluation::Zone_Sediment) {
+    text += "  All of the contaminant counts as dissolved: its values are upper bounds.\r\n";
+  }
   text += kLineEnd;
-  text += "  At any point and depth (no matter how wide a cell is)\r\n";
+  text += "  At any point and depth: the middles of clouds and layers, and the means above\r\n";
   text += "  species      depth  area              value  unit       at t        X        Z\r\n";
   text += "                  ft                                         s       ft       ft\r\n";
   for (std::size_t s = 0; s < input.Species(); ++s) {
@@ -253,7 +260,20 @@ std::string Verdict_Section(const Model_Input& input, const Additions& additions
               Plain(comparison.worst.time, 7) + " s)" + kLineEnd;
     }
   }
-  if (outcome.comparisons.empty()) text += "  None: nothing is compared in this run.\r\n";
+  if (outcome.comparisons.empty()) {
+    const bool compares =
+        input.evaluation != Evaluation::None && input.evaluation != Evaluation::Tracer;
+    if (outcome.zone_computed || outcome.zid_computed) {
+      text += "  None: what is asked for is a zone, below.\r\n";
+    } else {
+      text += compares ? "  None: the notes say why.\r\n"
+                       : "  None: nothing is compared in this run.\r\n";
+    }
+  } else {
+    text += Paragraph(
+        "A verdict looks at more times than the series of the .dut file, which holds those of "
+        "output alone.");
+  }
   if (input.evaluation == Evaluation::Sediment || input.evaluation == Evaluation::Zone_Sediment) {
     text += Paragraph(
         "The contaminant of the sediment counts as dissolved at release and stays in the water, "

@@ -7,9 +7,10 @@
 
 namespace companion {
 
-inline constexpr double kGravity = 32.174;       // ft/s2
-inline constexpr double kSlugsPerGramCc = 1.94;  // slug/ft3 of 1 g/cc
-inline constexpr double kCubicFeetPerYard = 27;  // ft3 of 1 cu yd
+inline constexpr double kGravity = 32.174;          // ft/s2
+inline constexpr double kSlugsPerGramCc = 1.94;     // slug/ft3 of 1 g/cc
+inline constexpr double kCubicFeetPerYard = 27;     // ft3 of 1 cu yd
+inline constexpr double kMilligramsPerLitre = 1e6;  // of 1 g/cc
 
 /// What the model compares the fluid with, by the number in the input.
 enum class Evaluation {

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "solver/comparison.h"
+#include "solver/look_times.h"
 #include "solver/number_text.h"
 #include "solver/release.h"
 
@@ -49,6 +50,19 @@ void Note_Water(const Model_Input& input, const Additions& additions,
                           "between its times."
                         : "The current is the tide's average: its table is not in the input, and "
                           "there are no additions that hold it.");
+    if (additions.tide && additions.tide->times.front() > 0) {
+      notes.push_back("The tide's table begins " + Plain(additions.tide->times.front(), 7) +
+                      " s after the start: until then the water stands still.");
+    }
+    if (additions.tide && additions.tide->times.back() < input.duration) {
+      notes.push_back("The tide's table ends at " + Plain(additions.tide->times.back(), 7) +
+                      " s of the run: from there on its last value holds.");
+    }
+  }
+  if (input.hole_depth > 0) {
+    notes.push_back(
+        "The layers of what drifts out of the depression become as thin as the water beside it has "
+        "them: values rise there in the ratio of the two depths, and fall by it on the way in.");
   }
   for (std::size_t i = 1; i < input.profile_densities.size(); ++i) {
     if (input.profile_densities[i] < input.profile_densities[i - 1]) {
@@ -99,9 +113,15 @@ std::vector<std::string> Input_Notes(const Model_Input& input, const Additions& 
   Note_Water(input, additions, notes);
   Note_Load(input, notes);
   for (const double time : input.print_times) {
-    if (time > input.duration) {
+    if (time <= 0) {
+      notes.push_back("The print time " + Plain(time, 7) +
+                      " s is not behind the start and left out.");
+    } else if (time > input.duration) {
       notes.push_back("The print time " + Plain(time, 7) + " s is behind the end and left out.");
     }
+  }
+  if (!input.print_times.empty() && Map_Times(input).empty()) {
+    notes.push_back("No print time lies within the run: the maps are those of the largest values.");
   }
   if (input.key2 != 0) {
     notes.push_back(

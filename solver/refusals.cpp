@@ -278,7 +278,10 @@ void Check_Land(const std::string& file, const Model_Input& input, const Additio
   if (std::none_of(depths.begin(), depths.end(), [&](const std::vector<double>& row) {
         return std::any_of(row.begin(), row.end(), wet);
       })) {
-    throw Refusal(file, line, "DepthGrid is land everywhere: no depth is above 0");
+    throw Refusal(file, line,
+                  std::string("DepthGrid") +
+                      (additions.depths.empty() ? "" : ", as the additions have it,") +
+                      " is land everywhere: no depth is above 0");
   }
   const double x = input.vessel_x / input.spacing_x, z = input.vessel_z / input.spacing_z;
   const auto at = [](double place, std::size_t points) {

@@ -6,13 +6,9 @@
 
 #include "solver/collapse.h"
 #include "solver/det_math.h"
+#include "solver/settling.h"
 
 namespace companion {
-
-double Floc_Factor(const Solid& solid, double share) {
-  if (!solid.cohesive) return 1;
-  return std::clamp(kMilligramsPerLitre * solid.sg * share / kFlocFrom, 1.0, kMostOfFlocs);
-}
 
 double Inflow_Share(double richardson) {
   return std::max(0.0, (1 - kHeadRichardson * richardson) / (1 + kTailRichardson * richardson));

@@ -4,15 +4,12 @@
 #include <cmath>
 
 #include "solver/det_math.h"
+#include "solver/settling.h"
 
 namespace companion {
 namespace {
 
-constexpr double kSeries = 1e-3;          // concentration up to which two terms of a series do
-constexpr double kDensestSettling = 0.9;  // a concentration beyond is not looked at
-constexpr double kMilligrams = 1e6;       // mg/l of 1 g/cc
-
-/// Slope of the amounts within a layer from those beside it (van Leer 1977), held so that no value
+/// Slope of the amounts within a layer from those beside it (van Leer 1974), held so that no value
 /// within the layer passes a neighbour's mean.
 double Limited_Slope(double here, double below, double above, double height, double below_distance,
                      double above_distance) {
@@ -45,18 +42,6 @@ double Pritchard(double speed, double y, double depth, double squared_frequency)
   const double height = depth - y;
   const double size = speed * y * y * height * height / (depth * depth * depth);
   return std::max(kPritchardLeast, kPritchardFactor * size / (damping * damping));
-}
-
-double Settling_Factor(const Solid& solid, double concentration) {
-  const double c = std::min(concentration, kDensestSettling);
-  double factor = 1;
-  if (c > kSeries)
-    factor = Pow(1 - c, kHinderedPower);
-  else
-    factor = 1 - kHinderedPower * c * (1 - 0.5 * (kHinderedPower - 1) * c);
-  if (solid.cohesive)
-    factor *= std::clamp(kMilligrams * solid.sg * c / kFlocConcentration, 1.0, kFlocLimit);
-  return factor;
 }
 
 Vertical::Vertical(const Model_Input& input, const Water& water, int layers)

@@ -18,10 +18,7 @@ inline constexpr double kPritchardRichardson = 0.276;  // of the Richardson numb
 inline constexpr double kPritchardShear = 0.7;         // of U/H
 inline constexpr double kPritchardLimit = 100;         // the largest Richardson number counted
 inline constexpr double kPritchardLeast = 1e-5;        // ft2/s
-inline constexpr double kHinderedPower = 4.65;     // of the water's share (Richardson, Zaki 1954)
-inline constexpr double kFlocConcentration = 200;  // mg/l at which flocs begin to grow
-inline constexpr double kFlocLimit = 5;            // times the fall velocity
-inline constexpr double kTypicalOfPeak = 0.5;      // of a layer's peak: what grains feel
+inline constexpr double kTypicalOfPeak = 0.5;          // of a layer's peak: what grains feel
 
 /// Vertical diffusion by the damping of turbulence in layered water, ft2/s:
 /// AKY0 (1 + 3.33 Ri)^-1.5 (Munk and Anderson 1948), Ri = N2/S2 up to 1 (Odd and Rodger 1978).
@@ -30,11 +27,6 @@ double Munk_Anderson(double still, double squared_frequency, double squared_shea
 /// The same by Pritchard, ft2/s: 8.59e-3 U y2 (H-y)2/H3 (1 + 0.276 Ri)^-2, Ri = N2/(0.7 U/H)2 up
 /// to 100, at least 1e-5 (Kent and Pritchard 1959; Pritchard 1960, as quoted in Officer 1976).
 double Pritchard(double speed, double y, double depth, double squared_frequency);
-
-/// Fall velocity over that of one grain in still water: at a concentration by volume, hindered by
-/// the grains around (Richardson and Zaki 1954); cohesive ones as flocs that settle as their
-/// concentration, between 200 mg/l and five times that (Whitehouse and others 2000).
-double Settling_Factor(const Solid& solid, double concentration);
 
 /// What acts within a column: diffusion between its layers, settling, deposit on the bed.
 class Vertical {
@@ -46,7 +38,7 @@ class Vertical {
   /// Implicit, so that every step moves shares of amounts alone.
   void Diffuse(Column& column, double seconds);
   /// Every face is followed back to where it fell from; between two such places the amounts lie
-  /// straight within each layer (van Leer 1977), so no step is too long. What reaches the bed and
+  /// straight within each layer (van Leer 1974), so no step is too long. What reaches the bed and
   /// may not stay there goes back into the lowest layer.
   void Settle(Column& column, double seconds);
 

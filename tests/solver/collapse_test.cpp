@@ -98,15 +98,6 @@ TEST(Collapse, The_Inflow_Share_Falls_With_The_Richardson_Number) {
   EXPECT_EQ(Inflow_Share(100), 0);
 }
 
-TEST(Collapse, Flocs_Settle_Faster_With_Their_Concentration_Up_To_Five_Times) {
-  Solid solid = Test_Solid("CLAY", 0.1, 0.001);
-  EXPECT_EQ(Floc_Factor(solid, 1e-3), 1);
-  solid.cohesive = true;
-  EXPECT_EQ(Floc_Factor(solid, 0), 1);
-  EXPECT_NEAR(Floc_Factor(solid, 600 / 2.65e6), 3, 1e-12);
-  EXPECT_EQ(Floc_Factor(solid, 1e-2), 5);
-}
-
 TEST(Collapse, The_Plan_Of_A_Capsule_Has_The_Moments_Of_Its_Parts) {
   const Plan_Moments disk = Moments_Of_Plan(4, 0, 0.6, 0.8);
   EXPECT_NEAR(disk.xx, 4, 1e-12);

@@ -64,6 +64,7 @@ inline void Expect_Sound_Source(const Model_Input& input, const Water& water,
                                 const Source& source) {
   const bool tracer = source.species == input.Solids();
   EXPECT_TRUE(std::isfinite(source.amount));
+  EXPECT_GE(source.amount, 0);
   EXPECT_TRUE(tracer || source.amount > 0);
   Expect_Sound_Plan(source.spread);
   EXPECT_GE(source.top, 0);

@@ -86,6 +86,17 @@ TEST(Refusals, Tell_A_Disposal_Point_On_Land) {
   EXPECT_NO_THROW(Check_Land("x", input, deep));
   input.depths.assign(41, std::vector<double>(41, -1));
   EXPECT_THROW(Check_Land("x", input, none), Refusal);
+  // It says whose depths they are.
+  deep.depths.assign(41, std::vector<double>(41, 0));
+  try {
+    Check_Land("x", input, deep);
+    ADD_FAILURE() << "not refused";
+  } catch (const Refusal& refusal) {
+    EXPECT_NE(
+        std::string(refusal.what()).find("DepthGrid, as the additions have it, is land everywhere"),
+        std::string::npos)
+        << refusal.what();
+  }
 }
 
 }  // namespace
