@@ -1,6 +1,7 @@
 #include "batch/batch_export.h"
 
 #include <cstring>
+#include <functional>
 #include <string>
 
 #include "batch/batch_findings.h"
@@ -14,7 +15,8 @@
 namespace barvon {
 namespace {
 
-int Export(const std::string& file, const std::string& target, Known_Folders& folders) {
+int Export(const std::string& file, const std::string& target, Known_Folders& folders,
+           const std::function<bool()>& may_write) {
   const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   Say_Remarks(file, *record);
@@ -27,6 +29,7 @@ int Export(const std::string& file, const std::string& target, Known_Folders& fo
     Say_Problem(file, "there is no model input for its disposal method");
     return kNotDone;
   }
+  if (!may_write()) return kNotDone;
   if (const int error = Write_Whole_File(target, text); error != 0) {
     Say_Problem(file, target + " can't be written: " + std::strerror(error));
     return kNotDone;

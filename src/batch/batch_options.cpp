@@ -57,8 +57,9 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
                   "companion: the program's own; external: one of the solvers' folder;\n"
                   "if not given, an external one where there is one")
       ->check(CLI::IsMember({kCompanion, kExternal}));
-  run->add_option("--solver-dir", options.solver_folder,
-                  "folder that holds external solvers; the user's or the program's if not given");
+  const CLI::Option* solver_folder = run->add_option(
+      "--solver-dir", options.solver_folder,
+      "folder that holds external solvers; the user's or the program's if not given");
   run->add_option("--jobs", options.jobs, "projects that run at the same time")
       ->check(CLI::Range(1, kMostJobs));
   run->add_flag("--despite-errors", options.despite_errors, "run projects that have errors too");
@@ -96,6 +97,9 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
     return std::nullopt;
   } catch (const CLI::ParseError& wrong) {
     return Wrong(wrong.what(), exit_code);
+  }
+  if (solver_folder->count() > 0 && options.solver_folder.empty()) {
+    return Wrong("--solver-dir names no folder", exit_code);  // an empty variable of a script
   }
   if (solver == kCompanion && !options.solver_folder.empty()) {
     return Wrong("--solver companion takes no --solver-dir, which is for external solvers",

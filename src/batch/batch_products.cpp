@@ -59,13 +59,14 @@ int Write_Products(const Batch_Options& options, const Batch_Product& product,
       worst = kNotDone;
       continue;
     }
-    if (guard.Leads_To_A_Project(target)) {
+    const auto may_write = [&] {
+      if (!guard.Leads_To_A_Project(target)) return true;
       Say_Problem(file,
                   std::string("a ") + product.name + " is not written over a project: " + target);
-      worst = kNotDone;
-      continue;
-    }
-    worst = std::max(worst, product.write(file, target, folders));
+      return false;
+    };
+    worst =
+        std::max(worst, may_write() ? product.write(file, target, folders, may_write) : kNotDone);
   }
   return worst;
 }

@@ -13,8 +13,11 @@ struct Batch_Product {
   const char* name;       // "model input"
   const char* extension;  // without the point
   const char* to_folder;  // what several projects ask of --output, in words
-  /// Makes the file of a project under a path; an exit code.
-  std::function<int(const std::string& file, const std::string& target, Known_Folders& folders)>
+  /// Makes the file of a project under a path; an exit code. Reading the project takes its time, in
+  /// which a name can become a link to another: `may_write` is asked right before the write, and
+  /// says itself why not.
+  std::function<int(const std::string& file, const std::string& target, Known_Folders& folders,
+                    const std::function<bool()>& may_write)>
       write;
 };
 

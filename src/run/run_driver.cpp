@@ -197,7 +197,9 @@ void Run_Solver(ProjectRecord& record, Solver_Choice choice, Known_Folders& fold
   }
   // What a killed program's solver has left running would write its files over this run's.
   const std::string mark = Join_Path(folder, kRunMark);
-  if (::access(mark.c_str(), F_OK) == 0) Kill_Strays_In(folder);
+  // A link to nowhere under the mark's name is a mark that somebody has changed.
+  struct stat status {};
+  if (::lstat(mark.c_str(), &status) == 0) Kill_Strays_In(folder);
   const std::string project = record.ProjectFileName;
   const std::string base_name = record.BaseFileName;
   Remove_Scratch_Files(project);

@@ -25,11 +25,13 @@ struct BatchProducts : ::testing::Test {
   static std::string Site(int i) { return "site" + std::to_string(i); }
 
   int Write(Known_Folders& folders) {
-    product.write = [this](const std::string& file, const std::string& target, Known_Folders&) {
+    product.write = [this](const std::string& file, const std::string& target, Known_Folders&,
+                           const std::function<bool()>& may_write) {
       targets[Name_Of(Base_Name(file))] = Name_Of(target);
       if (before_a_write) before_a_write(Name_Of(Base_Name(file)));
+      if (!may_write()) return static_cast<int>(kNotDone);
       Write_Text(target, "product");
-      return kDone;
+      return static_cast<int>(kDone);
     };
     return Write_Products(options, product, folders);
   }
@@ -44,6 +46,17 @@ struct BatchProducts : ::testing::Test {
   std::function<void(const std::string& site)> before_a_write;
   std::map<std::string, std::string> targets;  // by the project
 };
+
+TEST_F(BatchProducts, A_Name_That_Becomes_A_Link_While_A_Project_Is_Read_Is_Not_Written) {
+  Put_Projects(100);
+  before_a_write = [this](const std::string& site) {
+    if (site != Site(40) && site != Site(90)) return;
+    std::filesystem::create_symlink(folder / (Site(7) + ".DUI"), folder / (site + ".DUE"));
+  };
+  EXPECT_EQ(Write(), kNotDone);
+  EXPECT_EQ(Read_Text(folder / (Site(7) + ".DUI")), "project");
+  EXPECT_EQ(Read_Text(folder / (Site(89) + ".DUE")), "product");
+}
 
 TEST_F(BatchProducts, A_Project_Costs_The_Same_However_Many_There_Are) {
   if (!Is_On_Local_Files(folder.path())) GTEST_SKIP() << "each reads the folder here";

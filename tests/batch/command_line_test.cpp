@@ -41,6 +41,7 @@ TEST_F(CommandLine, What_Makes_No_Sense_Is_Told_In_One_Line_And_Could_Not_Be_Don
       {"run", "--solver", "echo", "x.DUI"},
       {"run", "--solver", "", "x.DUI"},
       {"run", "--solver", "companion", "--solver-dir", "solvers", "x.DUI"},
+      {"run", "--solver-dir", "", "x.DUI"},
       {"export", "--solver", "companion", "x.DUI"},
       {"show", "x.DUI", "y.DUI"},
       {"export", "x.DUI", "-o"},

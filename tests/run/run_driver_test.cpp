@@ -278,6 +278,19 @@ pid_t Ended_Process() {
   return process;
 }
 
+TEST_F(RunDriver, A_Mark_That_Has_Become_A_Link_To_Nowhere_Is_A_Mark) {
+  Install(kWritesAll);
+  fs::create_symlink("nowhere", std::string(bench / "Tmpfile.run"));
+  const std::string application = fs::path(bench / "merak32").parent_path();
+  const pid_t stray = Left_Solver(application, Ended_Process());
+  ASSERT_TRUE(Comes_True([&] {
+    return fs::read_symlink("/proc/" + std::to_string(stray) + "/exe").filename() == "sleep";
+  }));
+  EXPECT_EQ(Run().stage, Run_Stage::Ended);
+  EXPECT_TRUE(Comes_True([&] { return !Is_Alive(stray); }));
+  ::waitpid(stray, nullptr, 0);
+}
+
 TEST_F(RunDriver, What_A_Killed_Programs_Solver_Left_Running_Is_Ended_Before_The_Next_Run) {
   Install(kWritesAll);
   Write_Text(bench / "Tmpfile.run", "");  // of the run that was killed
