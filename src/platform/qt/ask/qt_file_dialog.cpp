@@ -91,7 +91,7 @@ class File_Dialog : public QFileDialog {
            QStringLiteral("\nFile not found.\nPlease verify the correct file name was given."));
     } else if (acceptMode() == AcceptOpen || May_Be_Written(With_Ending(path))) {
       chosen_ = acceptMode() == AcceptOpen ? path : With_Ending(path);
-      QDialog::accept();
+      done(Accepted);
     }
   }
 
@@ -117,7 +117,7 @@ class File_Dialog : public QFileDialog {
   /// The path that the field stands for; empty when that is empty. "~" is the home folder where no
   /// file is called so.
   QString Path() const {
-    const QString name = name_->text();
+    QString name = name_->text();
     if (name.isEmpty() || name.startsWith(QLatin1Char('/'))) return name;
     const QString here = directory().absolutePath();
     const QString path = here + (here.endsWith(QLatin1Char('/')) ? "" : "/") + name;
