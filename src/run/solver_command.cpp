@@ -230,11 +230,13 @@ Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& 
 Solver_Command Find_Solver(const std::string& command_line, Solver_Choice choice,
                            const std::string& application_folder,
                            const std::string& delivered_folder) {
-  const bool any = choice == Solver_Choice::External_First;
-  if (any) choice = Chosen_Solver(command_line, application_folder, delivered_folder);
+  const bool first = choice == Solver_Choice::External_First;
+  if (first) choice = Chosen_Solver(command_line, application_folder, delivered_folder);
   if (choice == Solver_Choice::Companion) return Find_Companion(delivered_folder);
   Solver_Command found = Find_Solver_Command(command_line, application_folder, delivered_folder);
-  if (any && found.command.empty() && Matching_Files(delivered_folder, kCompanionProgram).empty()) {
+  const bool has_external = Has_A_Program_Of(command_line, application_folder) ||
+                            Has_A_Program_Of(command_line, delivered_folder);
+  if (first && !has_external && found.command.empty()) {
     found.problem += std::string("; nor is ") + kCompanionProgram + " in " + delivered_folder;
   }
   return found;

@@ -25,6 +25,7 @@
 #include "core/desk/workspace_port.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/safe_file.h"
+#include "run/scratch_names.h"
 
 namespace barvon::testing {
 namespace {
@@ -275,6 +276,8 @@ std::set<std::string> Attack::Names() const {
   for (const auto& entry : fs::recursive_directory_iterator(root_)) {
     // A copy that mending keeps of a former file is no litter, however often it is tried.
     if (entry.path().extension().string().starts_with(".bak")) continue;
+    // The mark of a run that was killed tells the next run what to end.
+    if (entry.path().filename() == kRunMark) continue;
     const fs::path folder = entry.path().parent_path();
     names.insert((folder / Common_Name(entry.path().filename())).string().substr(root_.size() + 1));
   }

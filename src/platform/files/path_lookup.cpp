@@ -49,7 +49,9 @@ std::optional<std::string> Find_Path(const std::string& path, Known_Folders& fol
   if (Path_Exists(path)) return path;
   const std::string name = Name_Of(path);
   if (name.empty()) return std::nullopt;
-  const std::optional<std::string> folder = Find_Path(Folder_Of(path), folders);
+  const std::string above = Folder_Of(path);
+  if (above == path) return std::nullopt;  // "." itself can't be looked at
+  const std::optional<std::string> folder = Find_Path(above, folders);
   if (!folder) return std::nullopt;
 
   std::optional<std::string> found;
