@@ -40,13 +40,16 @@ bool Has_Ending(const std::string& path, const std::string& ending) {
          Equal_Ignoring_Case(path.substr(path.size() - ending.size()), ending);
 }
 
-std::optional<std::string> Ask_Export_File(const std::string& title,
-                                           const std::vector<File_Filter>& filters,
-                                           const QString& text, const Results& results) {
+std::optional<std::string> Ask_Export_File(
+    const std::string& title, const std::vector<File_Filter>& filters, const QString& text,
+    const Results& results, const std::function<std::string(const std::string&)>& stands_for) {
   const auto complete = [&filters](const std::string& path) {
     const bool known = std::ranges::any_of(
         filters, [&](const File_Filter& filter) { return Has_Ending(path, Ending_Of(filter)); });
     return known ? path : path + Ending_Of(filters.front());
+  };
+  const auto written = [&](const std::string& path) {
+    return stands_for ? stands_for(complete(path)) : complete(path);
   };
   const std::string project = Name_Of(Base_Name(results.path));
   const std::string name =
@@ -56,7 +59,7 @@ std::optional<std::string> Ask_Export_File(const std::string& title,
   const auto chosen = Ask_Save_File({.title = title,
                                      .filters = filters,
                                      .name = Join_Path(folder, name + Ending_Of(filters.front())),
-                                     .complete = complete,
+                                     .complete = written,
                                      .ending = Ending::To_Others});
   if (!chosen || chosen->empty()) return std::nullopt;
   Last_Folder() = Folder_Of(*chosen);

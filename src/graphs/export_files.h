@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,9 +16,10 @@ std::string As_File_Name(const QString& text);
 
 /// Asks for a name to save under: in the folder that was saved to last, at first that of the
 /// outputs, as "PROJECT, TEXT". A name with none of the filters' endings gets the chosen one's.
-std::optional<std::string> Ask_Export_File(const std::string& title,
-                                           const std::vector<File_Filter>& filters,
-                                           const QString& text, const Results& results);
+/// Where the name stands for another file, that is the one which the dialog asks about.
+std::optional<std::string> Ask_Export_File(
+    const std::string& title, const std::vector<File_Filter>& filters, const QString& text,
+    const Results& results, const std::function<std::string(const std::string&)>& stands_for = {});
 
 /// The path ends so, in whatever case: ".png".
 bool Has_Ending(const std::string& path, const std::string& ending);

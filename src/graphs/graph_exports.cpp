@@ -38,21 +38,21 @@ std::string As_Cells(const std::string& csv) {
 
 }  // namespace
 
-std::string Save_Picture_As(Graph_Page& page, const Results& results) {
+std::string Save_Picture_As(Graph_Page& page, const Results_Held& results) {
   const auto path = Ask_Export_File("Save Picture As",
                                     {{"PNG Pictures (*.png)", "*.png"},
                                      {"SVG Pictures (*.svg)", "*.svg"},
                                      {"PDF Documents (*.pdf)", "*.pdf"}},
-                                    page.Picture_Name(), results);
+                                    page.Picture_Name(), *results);
   if (!path) return {};
   const Busy_Cursor waiting;
-  return Write_Export(*path, Picture_For(*path, page, results).toStdString());
+  return Write_Export(*path, Picture_For(*path, page, *results).toStdString());
 }
 
-std::string Save_Numbers_As(const Graph_Page& page, const Results& results) {
+std::string Save_Numbers_As(const Graph_Page& page, const Results_Held& results) {
   const auto path =
       Ask_Export_File("Save Numbers As", {{"Comma Separated Values (*.csv)", "*.csv"}},
-                      page.Picture_Name(), results);
+                      page.Picture_Name(), *results);
   if (!path) return {};
   const Busy_Cursor waiting;
   return Write_Export(*path, page.Numbers());
@@ -73,18 +73,18 @@ std::string Copy_Picture(Graph_Page& page) {
   return "Picture and numbers copied";
 }
 
-std::string Print_Picture(Graph_Page& page, const Results& results) {
+std::string Print_Picture(Graph_Page& page, const Results_Held& results) {
   const std::string name =
-      Name_Of(Base_Name(results.path)) + ", " + page.Picture_Name().toStdString();
+      Name_Of(Base_Name(results->path)) + ", " + page.Picture_Name().toStdString();
   QPrinter& printer = Session_Printer();
   printer.setPageOrientation(QPageLayout::Landscape);
   printer.setDocName(QString::fromStdString(name));
-  Offer_Print_File(Join_Path(Folder_Of(Absolute_Path(results.path)),
+  Offer_Print_File(Join_Path(Folder_Of(Absolute_Path(results->path)),
                              As_File_Name(QString::fromStdString(name)) + ".pdf"));
   if (!Ask_Printer("Print Picture", 1)) return {};
   const Busy_Cursor waiting;
   Printed_File file(printer);
-  if (!Paint_Picture_Page(Shown_On_Paper(page, results), printer) || file.Keep() != 0) {
+  if (!Paint_Picture_Page(Shown_On_Paper(page, *results), printer) || file.Keep() != 0) {
     Show_Critical("The picture could not be printed.");
     return {};
   }

@@ -8,7 +8,7 @@
 namespace barvon {
 namespace {
 
-constexpr int kMostParts = 16;       // that a cell's side is cut into
+constexpr int kMostParts = 16;        // that a cell's side is cut into
 constexpr double kSameLength = 1e-9;  // of a length, within which two are one
 constexpr int kEdgeDecimals = 6, kSideDecimals = 10;
 constexpr char kLineEnd[] = "\r\n";
@@ -96,8 +96,8 @@ std::optional<North_Grid> To_North(const Cell_Values& cells, const Map_Place& pl
   grid.exact = common.has_value();
   grid.left = west;
   grid.bottom = south;
-  grid.cell = Units_Per_Foot(place.unit) *
-              common.value_or(std::min(cells.spacing_x, cells.spacing_z) / 2);
+  grid.cell =
+      Units_Per_Foot(place.unit) * common.value_or(std::min(cells.spacing_x, cells.spacing_z) / 2);
   const auto squares = [&](double length) {
     const double count = length / grid.cell;
     return static_cast<int>(grid.exact ? std::round(count) : std::ceil(count - kSameLength));

@@ -10,8 +10,8 @@
 namespace barvon {
 namespace {
 
-constexpr double kFarthest = 1e8;     // of any system of a plane on the Earth, in feet
-constexpr double kMostTurned = 360;   // degrees
+constexpr double kFarthest = 1e8;    // of any system of a plane on the Earth, in feet
+constexpr double kMostTurned = 360;  // degrees
 constexpr std::size_t kLongestSystem = 200;
 // Systems of longitude and latitude that are in common use.
 constexpr std::array kDegrees = {4326, 4269, 4267, 4258, 4979, 4759, 6318, 4283, 7844};
@@ -31,8 +31,9 @@ std::optional<double> Take(const std::string& text, const std::string& name, Pla
   }
   const auto value = Number_Of(text);
   if (!value) {
-    fault = {field, name + " is not a number.  Digits and one decimal point are, without any "
-                           "other mark: 583960.5"};
+    fault = {field, name +
+                        " is not a number.  Digits and one decimal point are, without any "
+                        "other mark: 583960.5"};
     return std::nullopt;
   }
   if (std::abs(*value) > most) {

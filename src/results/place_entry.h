@@ -9,9 +9,9 @@ namespace barvon {
 
 /// A place as it is typed.
 struct Place_Entry {
-  std::string easting, northing, turn;
+  std::string easting = {}, northing = {}, turn = "0";
   Place_Unit unit = Place_Unit::metre;
-  std::string system;
+  std::string system = {};
 
   bool operator==(const Place_Entry&) const = default;
 };
