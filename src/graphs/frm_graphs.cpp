@@ -159,6 +159,8 @@ void frmGraphs::End_Comparison() {
 }
 
 void frmGraphs::Look_Again() {
+  // A dialog is about what is shown.
+  if (QApplication::activeModalWidget() != nullptr) return;
   if (own_) Look_At_Own();
   if (other_) Look_At_Other();
 }

@@ -40,6 +40,9 @@ class frmGraphs : public QMainWindow {
   /// Texts of the whole program become larger or smaller by so many steps; 0: as at first.
   void Change_Text_Size(int steps);
 
+  /// A line of the window's own for the status bar.
+  void Say(const std::string& state);
+
   const Shown_Results& shown() const { return shown_; }
   QTabWidget& tabs() { return *tabs_; }
   Notice_Page& notice() { return *notice_; }
@@ -62,7 +65,6 @@ class frmGraphs : public QMainWindow {
   void Show_Titles();
   void Look_At_Own();
   void Look_At_Other();
-  void Say(const std::string& state);
 
   std::optional<Watched_Outputs> own_, other_;
   Shown_Results shown_;

@@ -4,10 +4,15 @@
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
+#include <array>
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "graphs/frm_graphs.h"
+#include "graphs/graph_exports.h"
+#include "graphs/map_exports.h"
+#include "graphs/picture_sequence.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 
@@ -26,13 +31,45 @@ QAction* Add(QMenu* menu, const char* caption, const char* key, const char* name
   return item;
 }
 
-/// Offered while there are pictures.
-void Needs_Pictures(frmGraphs& window, const QList<QAction*>& items) {
-  const auto show = [&window, items] {
-    for (QAction* item : items) item->setEnabled(window.Page_In_Front() != nullptr);
+/// Offered while the condition holds: as it stands when something of the window changes.
+void Offer_While(frmGraphs& window, const QList<QAction*>& items, std::function<bool()> holds) {
+  const auto show = [items, holds = std::move(holds)] {
+    for (QAction* item : items) item->setEnabled(holds());
   };
   QObject::connect(&window, &frmGraphs::Things_Changed, &window, show);
   show();
+}
+
+/// Offered in an open menu alone by a condition that takes a while to be found out. A key is always
+/// heard.
+void Offer_In_Menu(QMenu* menu, const QList<QAction*>& items, std::function<bool()> holds) {
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [items, holds = std::move(holds)] {
+    for (QAction* item : items) item->setEnabled(holds());
+  });
+  QObject::connect(menu, &QMenu::aboutToHide, menu, [items] {
+    for (QAction* item : items) item->setEnabled(true);
+  });
+}
+
+bool Has_Map(const frmGraphs& window) {
+  const Graph_Page* page = window.Page_In_Front();
+  return page != nullptr && page->Map_Shown().has_value();
+}
+
+bool Has_Sequence(const frmGraphs& window) {
+  const Graph_Page* page = window.Page_In_Front();
+  return page != nullptr && page->Sequence_Length() > 1;
+}
+
+/// A command for the picture in front. What it says comes to the status line.
+template <class Command>
+std::function<void()> For_Page(frmGraphs& window, Command command) {
+  return [&window, command] {
+    Graph_Page* page = window.Page_In_Front();
+    // Held: an answer in a dialog must not find them gone.
+    const Results_Held results = window.shown().own;
+    if (page != nullptr) window.Say(command(*page, results));
+  };
 }
 
 void Build_File_Menu(frmGraphs& window, QMenu* file) {
@@ -42,27 +79,52 @@ void Build_File_Menu(frmGraphs& window, QMenu* file) {
       Add(file, "Compare &with...", "Ctrl+Shift+O", "mnuCompare", [w] { w->Compare(); });
   QAction* alone = Add(file, "&No comparison", "", "mnuNoComparison", [w] { w->End_Comparison(); });
   file->addSeparator();
+  QAction* picture =
+      Add(file, "&Save picture...", "Ctrl+S", "mnuSavePicture", For_Page(window, Save_Picture_As));
+  QAction* numbers = Add(file, "Save n&umbers...", "Ctrl+Shift+S", "mnuSaveNumbers",
+                         For_Page(window, Save_Numbers_As));
+  QAction* sequence =
+      Add(file, "Save se&quence...", "", "mnuSaveSequence", For_Page(window, Save_Sequence));
+  file->addSeparator();
+  QAction* map =
+      Add(file, "Save &map for a GIS...", "", "mnuSaveMap", For_Page(window, Save_Map_For_Gis));
+  QAction* place = Add(file, "Place of the &grid...", "", "mnuPlace",
+                       For_Page(window, [](Graph_Page&, const Results_Held& results) {
+                         return Change_Place(results);
+                       }));
+  file->addSeparator();
+  QAction* print = Add(file, "&Print...", "Ctrl+P", "mnuPrint", For_Page(window, Print_Picture));
+  file->addSeparator();
   Add(file, "&Close", "Ctrl+W", "mnuClose", [w] { w->close(); });
-  Needs_Pictures(window, {compare});
-  const auto show = [w, alone] { alone->setEnabled(w->shown().other != nullptr); };
-  QObject::connect(w, &frmGraphs::Things_Changed, w, show);
-  show();
+  Offer_While(window, {compare, picture, numbers, place, print},
+              [w] { return w->Page_In_Front() != nullptr; });
+  Offer_While(window, {alone}, [w] { return w->shown().other != nullptr; });
+  Offer_In_Menu(file, {map}, [w] { return Has_Map(*w); });
+  Offer_In_Menu(file, {sequence}, [w] { return Has_Sequence(*w); });
+}
+
+void Copy(frmGraphs& window) {
+  if (Graph_Page* page = window.Page_In_Front()) {
+    window.Say(Copy_Picture(*page));
+  } else {
+    window.notice().Copy();
+  }
 }
 
 void Build_Edit_Menu(frmGraphs& window, QMenu* edit) {
   frmGraphs* w = &window;
-  QAction* find =
-      Add(edit, "&Find in the listing", "Ctrl+F", "mnuFind", [w] { w->notice().Find(false); });
-  QAction* next = Add(edit, "Find &Next", "F3", "mnuFindNext", [w] { w->notice().Find(false); });
-  QAction* previous =
-      Add(edit, "Find Pre&vious", "Shift+F3", "mnuFindPrevious", [w] { w->notice().Find(true); });
-  QObject::connect(edit, &QMenu::aboutToShow, w, [=] {
-    const bool shown = w->Page_In_Front() == nullptr && w->notice().Listing_Is_Shown();
-    for (QAction* item : {find, next, previous}) item->setEnabled(shown);
-  });
-  QObject::connect(edit, &QMenu::aboutToHide, w, [=] {
-    for (QAction* item : {find, next, previous}) item->setEnabled(true);
-  });
+  Add(edit, "&Copy", "Ctrl+C", "mnuCopy", [w] { Copy(*w); });
+  QAction* numbers = Add(
+      edit, "Copy &numbers", "Ctrl+Shift+C", "mnuCopyNumbers",
+      For_Page(window, [](Graph_Page& page, const Results_Held&) { return Copy_Numbers(page); }));
+  Offer_While(window, {numbers}, [w] { return w->Page_In_Front() != nullptr; });
+  edit->addSeparator();
+  const QList<QAction*> in_listing = {
+      Add(edit, "&Find in the listing", "Ctrl+F", "mnuFind", [w] { w->notice().Open_Find(); }),
+      Add(edit, "Find n&ext", "F3", "mnuFindNext", [w] { w->notice().Find(false); }),
+      Add(edit, "Find pre&vious", "Shift+F3", "mnuFindPrevious", [w] { w->notice().Find(true); })};
+  Offer_In_Menu(edit, in_listing,
+                [w] { return w->Page_In_Front() == nullptr && w->notice().Listing_Is_Shown(); });
 }
 
 void Build_View_Menu(frmGraphs& window, QMenu* view) {
@@ -78,14 +140,14 @@ void Build_View_Menu(frmGraphs& window, QMenu* view) {
     group->addAction(item);
     items << item;
   }
-  Needs_Pictures(window, items);
+  Offer_While(window, items, [w] { return w->Page_In_Front() != nullptr; });
   const auto mark = [w, items] { items[w->tabs().currentIndex()]->setChecked(true); };
   QObject::connect(w, &frmGraphs::Things_Changed, w, mark);
   mark();
   view->addSeparator();
-  Add(view, "&Larger Text", "Ctrl++", "mnuLarger", [w] { w->Change_Text_Size(1); });
-  Add(view, "&Smaller Text", "Ctrl+-", "mnuSmaller", [w] { w->Change_Text_Size(-1); });
-  Add(view, "&Usual Text", "Ctrl+0", "mnuUsual", [w] { w->Change_Text_Size(0); });
+  Add(view, "&Larger text", "Ctrl++", "mnuLarger", [w] { w->Change_Text_Size(1); });
+  Add(view, "&Smaller text", "Ctrl+-", "mnuSmaller", [w] { w->Change_Text_Size(-1); });
+  Add(view, "&Usual text", "Ctrl+0", "mnuUsual", [w] { w->Change_Text_Size(0); });
 }
 
 void Build_Help_Menu(QMenu* help) {

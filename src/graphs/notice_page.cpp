@@ -92,10 +92,16 @@ void Notice_Page::Show_Listing() {
   view_->setFocus();
 }
 
+void Notice_Page::Copy() const {
+  if (Listing_Is_Shown()) view_->Copy();
+}
+
+void Notice_Page::Open_Find() {
+  if (Listing_Is_Shown()) find_bar_->Open();
+}
+
 void Notice_Page::Find(bool backward) {
-  if (!Listing_Is_Shown()) return;
-  find_bar_->show();
-  find_bar_->Find(backward);
+  if (Listing_Is_Shown()) find_bar_->Find(backward);
 }
 
 }  // namespace barvon

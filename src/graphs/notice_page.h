@@ -23,7 +23,9 @@ class Notice_Page : public QWidget {
   void Show_Listing();
   bool Listing_Is_Shown() const { return !view_->isHidden(); }
   Large_Text_View& view() { return *view_; }
-  /// Looks for a text of the listing, where that is shown.
+  // Of the listing; without one they do nothing.
+  void Copy() const;
+  void Open_Find();
   void Find(bool backward);
 
  signals:

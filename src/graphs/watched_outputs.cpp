@@ -9,7 +9,7 @@
 namespace barvon {
 
 Watched_Outputs::Traces Watched_Outputs::Traces_Now() const {
-  static constexpr std::array<const char*, 3> kOutputs{"dut", "duc", "dup"};
+  static constexpr std::array<const char*, 4> kOutputs{"dut", "duc", "dup", "duo"};
   Traces traces;
   for (std::size_t i = 0; i < kOutputs.size(); ++i) {
     if (const auto found = Find_Path(With_Extension(path_, kOutputs[i]))) {

@@ -23,8 +23,8 @@ class Watched_Outputs {
   std::optional<Results_Or_Problem> Look();
 
  private:
-  /// Of .dut, .duc and .dup; those that are missing have none.
-  using Traces = std::array<std::optional<File_Trace>, 3>;
+  /// Of .dut, .duc, .dup and the listing; those that are missing have none.
+  using Traces = std::array<std::optional<File_Trace>, 4>;
   Traces Traces_Now() const;
 
   std::string path_;
