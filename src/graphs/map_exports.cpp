@@ -101,10 +101,8 @@ std::string Save_Map_For_Gis(const Graph_Page& page, const Results_Held& results
       {{"ASCII Grids (*.asc)", "*.asc"}, {"GeoJSON Contours (*.geojson)", "*.geojson"}},
       QString::fromStdString(map->what), *results);
   if (!path) return {};
-  std::string done = Has_Ending(*path, ".asc") ? Save_Grid(*path, *map, *place)
-                                               : Save_Contours(*path, *map, *results, *place);
-  if (!done.empty() && !Epsg_Code(place->system)) done += ", without a coordinate system";
-  return done;
+  return Has_Ending(*path, ".asc") ? Save_Grid(*path, *map, *place)
+                                   : Save_Contours(*path, *map, *results, *place);
 }
 
 std::string Change_Place(const Results_Held& results) {

@@ -133,11 +133,11 @@ std::string Ascii_Grid_Text(const North_Grid& grid) {
 
 std::string Ascii_Grid_Notes(const North_Grid& grid, const Map_Place& place,
                              const std::string& what, const std::string& unit) {
-  std::string text = "<PAMDataset>\n";
-  if (const auto code = Epsg_Code(place.system)) {
-    text += "  <SRS>EPSG:" + std::to_string(*code) + "</SRS>\n";
+  std::string text = "<PAMDataset>\n  <Metadata>\n";
+  if (!place.system.empty()) {
+    text += "    <MDI key=\"SYSTEM\">" + Escaped(place.system) + "</MDI>\n";
   }
-  text += "  <Metadata>\n    <MDI key=\"CELLS\">";
+  text += "    <MDI key=\"CELLS\">";
   text += grid.exact ? "each square has the value of the one cell of the site's grid that it is a "
                        "part of"
                      : "each square has the value of the cell of the site's grid that its centre "

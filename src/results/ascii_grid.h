@@ -31,8 +31,8 @@ std::optional<North_Grid> To_North(const Cell_Values& cells, const Map_Place& pl
 std::string Ascii_Grid_Text(const North_Grid& grid);
 
 /// What an ASCII grid cannot say, for the file NAME.asc.aux.xml, which is read with it: what the
-/// values are, their unit, the coordinate system where a code of it is known, and how squares were
-/// made of cells.
+/// values are, their unit, the name of the coordinate system as it was typed, and how squares were
+/// made of cells. Readers show it, but do not place the grid by that name.
 std::string Ascii_Grid_Notes(const North_Grid& grid, const Map_Place& place,
                              const std::string& what, const std::string& unit);
 

@@ -156,11 +156,20 @@ Result_Area Extent_Of(const Cell_Values& cells) {
           (cells.columns - 0.5) * cells.spacing_z};
 }
 
+/// A system that lies nowhere on the Earth, with its unit, under the name that was typed.
+std::string Unplaced_System(const Map_Place& place) {
+  std::string name = place.system.empty() ? "unknown" : place.system;
+  std::ranges::replace(name, '"', '\'');
+  const std::string unit =
+      place.unit == Place_Unit::foot ? R"(UNIT["foot",0.3048])" : R"(UNIT["metre",1])";
+  return "LOCAL_CS[\"" + name + "\"," + unit + "]";
+}
+
 std::string System_Member(const Map_Place& place) {
   const auto code = Epsg_Code(place.system);
-  if (!code) return "null";
-  return R"({"type":"name","properties":{"name":"urn:ogc:def:crs:EPSG::)" + std::to_string(*code) +
-         R"("}})";
+  const std::string name =
+      code ? "urn:ogc:def:crs:EPSG::" + std::to_string(*code) : Unplaced_System(place);
+  return R"({"type":"name","properties":{"name":)" + Quoted(name) + "}}";
 }
 
 }  // namespace

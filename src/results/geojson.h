@@ -17,8 +17,9 @@ namespace barvon {
 /// "grid", "disposal site" and "ZID", and the "disposal point", where the results have them. Areas
 /// of higher levels come later, above those that hold them. Outer rings run counterclockwise.
 ///
-/// "crs" names the coordinate system where a code of it is known (as GeoJSON of 2008 does), and is
-/// null where none is: readers must not take the numbers for longitude and latitude.
+/// "crs", as GeoJSON of 2008 has it, names the coordinate system by its code. Where none is known
+/// it is a local system with the place's unit, so that who reads "crs" does not take the numbers
+/// for longitude and latitude.
 std::string Geojson_Text(const Cell_Values& cells, std::vector<double> levels,
                          const std::string& what, const std::string& unit, const Results& results,
                          const Map_Place& place);
