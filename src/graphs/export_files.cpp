@@ -44,12 +44,12 @@ bool Has_Ending(const std::string& path, const std::string& ending) {
 std::optional<std::string> Ask_Export_File(
     const std::string& title, const std::vector<File_Filter>& filters, const QString& text,
     const Results& results, const std::function<std::string(const std::string&)>& stands_for) {
-  const auto complete = [&filters](const std::string& path) {
+  const auto complete = [filters](const std::string& path) {
     const bool known = std::ranges::any_of(
         filters, [&](const File_Filter& filter) { return Has_Ending(path, Ending_Of(filter)); });
     return known ? path : path + Ending_Of(filters.front());
   };
-  const auto written = [&](const std::string& path) {
+  const auto written = [complete, stands_for](const std::string& path) {
     return stands_for ? stands_for(complete(path)) : complete(path);
   };
   const std::string project = Name_Of(Base_Name(results.path));
