@@ -33,7 +33,7 @@ part() {
   local script="$1" folder
   shift
   folder=$(mktemp -d -p "$scratch")
-  cp "$bin"/{barvon,barvon-run,barvon-solver,BARVON.HLP} resources/TIPOFDAY.TXT samples/*.DUI \
+  cp "$bin"/{barvon,barvon-run,barvon-solver,kv_graph,BARVON.HLP} resources/TIPOFDAY.TXT samples/*.DUI \
     samples/database/*.dat "$folder"
   printf 'line 1\nline 2\nlast' >"$folder/walk.duo"
   printf 'heading\n%020000d\n' 0 >"$folder/long.duo"
