@@ -8,7 +8,7 @@
 #include "pictures/shapes/lettering.h"
 #include "results/cell_places.h"
 #include "results/contours.h"
-#include "results/drawings/result_words.h"
+#include "results/drawings/map_words.h"
 
 namespace barvon {
 namespace {
@@ -145,7 +145,7 @@ void Add_Section_Line(Plan& plan, const Section_Line& line) {
 }
 
 std::string Signed_Words(double value, const Map_Content& content) {
-  const std::string words = Value_Words(value, content.unit);
+  const std::string words = Reading_Words(value, content.unit);
   return content.scale.two_sides && value > 0 ? "+" + words : words;
 }
 
@@ -161,7 +161,7 @@ std::string Summary_Of(const Map_Content& content) {
   for (double& value : turned.values) value = -value;
   const Cell_Place low = Largest_Cell(turned);
   const double least = cells.At(low.row, low.column);
-  if (largest == least) return Value_Words(largest, content.unit) + " everywhere.";
+  if (largest == least) return Reading_Words(largest, content.unit) + " everywhere.";
   if (!content.scale.two_sides) return "Largest " + at(high, largest) + ".";
   return "From " + at(low, least) + " to " + at(high, largest) + ".";
 }

@@ -7,7 +7,7 @@
 #include "pictures/shapes/lettering.h"
 #include "pictures/shapes/plot_frame.h"
 #include "results/cell_places.h"
-#include "results/drawings/result_words.h"
+#include "results/drawings/map_words.h"
 
 namespace barvon {
 namespace {
@@ -32,7 +32,7 @@ std::string Description_Of(const Section_Drawing& drawing) {
   };
   const auto& largest = *std::ranges::max_element(drawing.samples, less);
   if (!std::isfinite(largest.value)) return words + " It has no values.";
-  return words + " Largest " + Value_Words(largest.value, drawing.unit) + " at " +
+  return words + " Largest " + Reading_Words(largest.value, drawing.unit) + " at " +
          Place_Words(largest.place) + ".";
 }
 
