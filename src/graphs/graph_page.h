@@ -15,9 +15,11 @@ namespace barvon {
 
 class Picture;
 
+using Results_Held = std::shared_ptr<const Results>;
+
 /// What the pages show. `other` is null unless a second project's results are held against it.
 struct Shown_Results {
-  std::shared_ptr<const Results> own, other;
+  Results_Held own, other;
 };
 
 /// A map as it goes to a GIS: the cells, and what they are.

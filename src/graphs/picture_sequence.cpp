@@ -1,0 +1,119 @@
+#include "graphs/picture_sequence.h"
+
+#include <QProgressDialog>
+#include <algorithm>
+#include <memory>
+#include <system_error>
+#include <vector>
+
+#include "graphs/export_files.h"
+#include "pictures/picture.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
+#include "platform/text/counted.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kPng[] = ".png";
+constexpr int kUnnoticed = 400;  // ms that pass before the display comes up
+
+/// The page as it was, when this goes.
+class Place_Kept {
+ public:
+  explicit Place_Kept(Graph_Page& page) : page_(page), place_(page.Sequence_Place()) {}
+  ~Place_Kept() { page_.Show_In_Sequence(place_); }
+  Place_Kept(const Place_Kept&) = delete;
+  Place_Kept& operator=(const Place_Kept&) = delete;
+
+ private:
+  Graph_Page& page_;
+  int place_;
+};
+
+/// One name for each picture, with as many digits as the last one's number has.
+std::vector<std::string> Names_For(const std::string& path, int count) {
+  const std::string base = path.substr(0, path.size() - std::string(kPng).size());
+  const std::size_t digits = std::to_string(count).size();
+  std::vector<std::string> names;
+  for (int i = 1; i <= count; ++i) {
+    std::string number = std::to_string(i);
+    number.insert(0, digits - number.size(), '0');
+    names.push_back(Path_To_Write(base + " " + number + kPng));
+  }
+  return names;
+}
+
+bool May_Replace(const std::vector<std::string>& names) {
+  const auto there = std::ranges::count_if(
+      names, [](const std::string& name) { return Find_Path(name).has_value(); });
+  if (there == 0) return true;
+  return Ask(Counted(static_cast<std::size_t>(there), "picture") +
+                 " of these names exist already, from " + Name_Of(names.front()) + " to " +
+                 Name_Of(names.back()) + ".\nDo you want to replace them?",
+             Buttons::YesNo, Icon::Warning) == Answer::Yes;
+}
+
+/// Draws one picture into a file of its own. 0 or an errno value.
+int Fill(Safe_File& file, const std::string& name, Picture& picture) {
+  const std::string bytes = picture.As_Png().toStdString();
+  if (bytes.empty()) return ENOMEM;
+  int error = file.Open(name);
+  if (error == 0) error = file.Write(bytes);
+  return error == 0 ? file.Settle() : error;
+}
+
+}  // namespace
+
+std::string Save_Sequence(Graph_Page& page, const Results_Held& results) {
+  const int count = page.Sequence_Length();
+  if (count < 1) {
+    Show_Warning("This page has no pictures over time.");
+    return {};
+  }
+  const auto all_of = [count](const std::string& path) {
+    const std::vector<std::string> names = Names_For(path, count);
+    return Base_Name(names.front()) + " to " + Name_Of(names.back());
+  };
+  const auto chosen = Ask_Export_File("Save All Times As", {{"PNG Pictures (*.png)", "*.png"}},
+                                      QStringLiteral("all times"), *results, all_of);
+  if (!chosen) return {};
+  const std::vector<std::string> names = Names_For(*chosen, count);
+  if (!May_Replace(names)) return {};
+
+  const Place_Kept kept(page);
+  QProgressDialog progress(QStringLiteral("Saving %1 pictures").arg(count),
+                           QStringLiteral("Cancel"), 0, count, &page);
+  progress.setWindowTitle(QLatin1String(kMessageTitle));
+  progress.setObjectName(QStringLiteral("dlgSequence"));
+  progress.setMinimumDuration(kUnnoticed);
+  progress.setWindowModality(Qt::ApplicationModal);  // the page must stay as it is
+  std::vector<std::unique_ptr<Safe_File>> files;
+  for (const std::string& name : names) {
+    progress.setValue(static_cast<int>(files.size()));
+    if (progress.wasCanceled()) return {};
+    if (page.Sequence_Length() != count) {
+      Tell_Not_Saved(name, "the outputs have changed meanwhile");
+      return {};
+    }
+    page.Show_In_Sequence(static_cast<int>(files.size()));
+    files.push_back(std::make_unique<Safe_File>());
+    if (const int error = Fill(*files.back(), name, *page.Shown_Picture()); error != 0) {
+      Tell_Not_Saved(name, std::generic_category().message(error));
+      return {};
+    }
+  }
+  Unsynced_Folders folders;
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    if (const int error = files[i]->Commit(&folders); error != 0) {
+      Tell_Not_Saved(names[i], std::generic_category().message(error));
+      return Counted(i, "picture") + " saved";
+    }
+  }
+  folders.Sync();
+  return Counted(names.size(), "picture") + " saved, from " + names.front();
+}
+
+}  // namespace barvon

@@ -1,0 +1,41 @@
+#include "results/plain_numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace barvon {
+
+std::string Shortest_Number(double value) {
+  std::array<char, 32> letters;  // the longest form has 24
+  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value);
+  return {letters.data(), end.ptr};
+}
+
+std::string Rounded_Number(double value, int decimals) {
+  std::array<char, 400> letters;  // the largest number has 309 digits before the point
+  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value,
+                                 std::chars_format::fixed, decimals);
+  std::string text(letters.data(), end.ptr);
+  if (text.find('.') != std::string::npos) {
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') text.pop_back();
+  }
+  return text == "-0" ? "0" : text;
+}
+
+std::optional<double> Number_Of(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t";
+  const auto first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return std::nullopt;
+  text = text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  double value = 0;
+  const auto end = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (end.ec != std::errc() || end.ptr != text.data() + text.size() || !std::isfinite(value)) {
+    return std::nullopt;
+  }
+  return value;
+}
+
+}  // namespace barvon

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace barvon {
+
+// Numbers of files that other programs read: "." is the point whatever the desktop says.
+
+/// The fewest digits that read back as the same number: "0.1", "1e-07", "250". Not for what is
+/// not finite.
+std::string Shortest_Number(double value);
+
+/// At most so many decimals, without zeros at the end and without a minus before a zero. Not for
+/// what is not finite.
+std::string Rounded_Number(double value, int decimals);
+
+/// The number that the whole text is, blanks around it apart; nothing for any other text, and for
+/// what is not finite.
+std::optional<double> Number_Of(std::string_view text);
+
+}  // namespace barvon

@@ -1,0 +1,44 @@
+#include "results/plain_numbers.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+#include <cmath>
+
+namespace barvon {
+namespace {
+
+TEST(PlainNumbers, The_Fewest_Digits_That_Are_The_Number) {
+  EXPECT_EQ(Shortest_Number(250), "250");
+  EXPECT_EQ(Shortest_Number(0.1), "0.1");
+  EXPECT_EQ(Shortest_Number(1e-7), "1e-07");
+  EXPECT_EQ(Shortest_Number(-12.5), "-12.5");
+}
+
+TEST(PlainNumbers, Decimals_Are_Rounded_And_Zeros_Go) {
+  EXPECT_EQ(Rounded_Number(499984.76, 6), "499984.76");
+  EXPECT_EQ(Rounded_Number(2.0004, 3), "2");
+  EXPECT_EQ(Rounded_Number(-0.0001, 3), "0");
+  EXPECT_EQ(Rounded_Number(100, 0), "100");
+  EXPECT_EQ(Rounded_Number(-9999, 0), "-9999");
+}
+
+TEST(PlainNumbers, A_Text_Is_A_Number_As_A_Whole_Or_Not_At_All) {
+  EXPECT_EQ(Number_Of("583960.5"), 583960.5);
+  EXPECT_EQ(Number_Of("  -2e3\t"), -2000);
+  EXPECT_EQ(Number_Of("+7"), 7);
+  for (const char* text : {"", " ", "583 960", "583,960.5", "583960,5", "12 m", "nan", "inf",
+                           "1e999", "+-1", "0x10", "--1", "1.2.3"}) {
+    EXPECT_EQ(Number_Of(text), std::nullopt) << text;
+  }
+}
+
+TEST(PlainNumbers, Every_Number_Reads_Back) {
+  EXPECT_TRUE(rc::check([](double value) {
+    RC_PRE(std::isfinite(value));
+    RC_ASSERT(Number_Of(Shortest_Number(value)) == value);
+  }));
+}
+
+}  // namespace
+}  // namespace barvon
