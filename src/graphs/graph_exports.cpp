@@ -73,6 +73,12 @@ std::string Copy_Picture(Graph_Page& page) {
   return "Picture and numbers copied";
 }
 
+std::string Copy_Numbers(const Graph_Page& page) {
+  const Busy_Cursor waiting;
+  QGuiApplication::clipboard()->setText(QString::fromStdString(As_Cells(page.Numbers())));
+  return "Numbers copied";
+}
+
 std::string Print_Picture(Graph_Page& page, const Results_Held& results) {
   const std::string name =
       Name_Of(Base_Name(results->path)) + ", " + page.Picture_Name().toStdString();

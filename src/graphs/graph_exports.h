@@ -21,6 +21,9 @@ std::string Save_Numbers_As(const Graph_Page& page, const Results_Held& results)
 /// spreadsheet.
 std::string Copy_Picture(Graph_Page& page);
 
+/// Puts the numbers alone there, for who would paste the picture otherwise.
+std::string Copy_Numbers(const Graph_Page& page);
+
 /// Prints the picture on a page of its own. The dialog offers the paper across.
 std::string Print_Picture(Graph_Page& page, const Results_Held& results);
 

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
 #include <QPolygonF>
 #include <algorithm>
@@ -46,6 +47,16 @@ class Shape_Brush {
   void operator()(const Polygon_Shape& polygon) {
     Take(polygon.fill, polygon.stroke);
     painter_.drawPolygon(Points_Of(polygon.points));
+  }
+
+  void operator()(const Area_Shape& area) {
+    Take(area.fill, area.stroke);
+    QPainterPath path;  // odd-even unless it is told otherwise
+    for (const auto& ring : area.rings) {
+      path.addPolygon(Points_Of(ring));
+      path.closeSubpath();
+    }
+    painter_.drawPath(path);
   }
 
   void operator()(const Circle_Shape& circle) {

@@ -12,32 +12,6 @@ namespace {
 constexpr double kBold = 1.06;   // bold letters are so much wider
 constexpr double kBelow = 0.35;  // of the size
 
-struct Mover {
-  double x, y, scale;
-  Place operator()(const Place& place) const { return {x + place.x * scale, y + place.y * scale}; }
-  Stroke operator()(Stroke stroke) const {
-    stroke.width *= scale;
-    return stroke;
-  }
-  void Move(Line_Shape& line) const {
-    for (Place& place : line.points) place = (*this)(place);
-    line.stroke = (*this)(line.stroke);
-  }
-  void Move(Polygon_Shape& polygon) const {
-    for (Place& place : polygon.points) place = (*this)(place);
-    if (polygon.stroke) polygon.stroke = (*this)(*polygon.stroke);
-  }
-  void Move(Circle_Shape& circle) const {
-    circle.centre = (*this)(circle.centre);
-    circle.radius *= scale;
-    if (circle.stroke) circle.stroke = (*this)(*circle.stroke);
-  }
-  void Move(Text_Shape& text) const {
-    text.place = (*this)(text.place);
-    text.size *= scale;
-  }
-};
-
 }  // namespace
 
 std::size_t Letters_In(const Text_Setting& setting, const std::string& text, double size,
@@ -129,12 +103,6 @@ std::vector<std::string> Lines_Of(const std::string& text) {
   for (std::string line; std::getline(all, line);) lines.push_back(line);
   if (lines.empty()) lines.emplace_back();
   return lines;
-}
-
-Shape Moved(Shape shape, Place corner, double scale) {
-  const Mover mover{corner.x, corner.y, scale};
-  std::visit([&](auto& known) { mover.Move(known); }, shape);
-  return shape;
 }
 
 }  // namespace barvon

@@ -58,7 +58,4 @@ Page_Block Block_Of_Lines(const std::vector<std::string>& lines, double size, Co
 /// The lines of a text that has line breaks; one at least.
 std::vector<std::string> Lines_Of(const std::string& text);
 
-/// The shape with its corner at that place, so many times as large.
-Shape Moved(Shape shape, Place corner, double scale = 1);
-
 }  // namespace barvon

@@ -49,6 +49,22 @@ TEST(ShapePainter, Paints_Fills_Lines_And_Circles_Where_They_Are) {
   }
 }
 
+TEST(ShapePainter, A_Ring_In_An_Area_Is_A_Hole_Whichever_Way_It_Goes) {
+  for (const bool same_way : {true, false}) {
+    Shape_List picture{60, 40, "", "", {}};
+    std::vector<Place> hole = Rectangle({20, 10}, {40, 30});
+    if (!same_way) hole = {hole[3], hole[2], hole[1], hole[0]};
+    picture.shapes.push_back(
+        Area_Shape{{Rectangle({5, 5}, {55, 35}), hole}, Colour{255, 0, 0}, {}});
+    for (const QImage& seen : {Painted(picture), Rendered(picture)}) {
+      EXPECT_EQ(seen.pixelColor(10, 20), QColor(255, 0, 0));
+      EXPECT_EQ(seen.pixelColor(30, 20), QColor(Qt::white));
+      EXPECT_EQ(seen.pixelColor(50, 20), QColor(255, 0, 0));
+      EXPECT_EQ(seen.pixelColor(58, 20), QColor(Qt::white));
+    }
+  }
+}
+
 TEST(ShapePainter, Letters_Have_Their_Size_To_A_Fraction_And_Bold_Ones_Are_Blacker) {
   const auto ink = [](double size, bool bold) {
     Shape_List picture{240, 40, "", "", {}};

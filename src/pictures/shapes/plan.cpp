@@ -40,6 +40,10 @@ Shape Placed(const Plan_Frame& frame, Shape shape, double scale, double text_siz
     for (Place& place : line->points) place = Placed(frame, place);
   } else if (auto* polygon = std::get_if<Polygon_Shape>(&shape)) {
     for (Place& place : polygon->points) place = Placed(frame, place);
+  } else if (auto* rings = std::get_if<Area_Shape>(&shape)) {
+    for (auto& ring : rings->rings) {
+      for (Place& place : ring) place = Placed(frame, place);
+    }
   } else if (auto* circle = std::get_if<Circle_Shape>(&shape)) {
     circle->centre = Placed(frame, circle->centre);
     circle->radius *= scale;

@@ -13,7 +13,7 @@ namespace {
 constexpr double kTick = 4, kTickGap = 3, kLabelGap = 6, kEdge = 15, kLeastSide = 1;  // pixels
 constexpr double kLine = 1.25;  // height of a line of text, of its size
 constexpr double kSampleWidth = 20, kSampleGap = 8, kEntryGap = 16;
-constexpr double kMarker = 3.5, kMarkerStroke = 1.4, kLineStroke = 1.8;
+constexpr double kMarker = 3.5, kTriangle = 9, kMarkerStroke = 1.4, kLineStroke = 1.8;
 
 double Widest_Label(const Axis_Scale& scale, double size) {
   double widest = 0;
@@ -41,7 +41,14 @@ std::vector<double> Labels_For(const Axis_Scale& scale, double pixels, double la
 
 void Add_Marker(Shape_List& picture, Place at, Colour colour, Sample sample) {
   const Stroke edge{colour, kMarkerStroke};
-  if (sample == Sample::squares) {
+  if (sample == Sample::line) return;
+  if (sample == Sample::triangles) {
+    const double half = kTriangle / 2, above = kTriangle / std::sqrt(3.0);
+    picture.shapes.push_back(Polygon_Shape{
+        {{at.x, at.y - above}, {at.x + half, at.y + above / 2}, {at.x - half, at.y + above / 2}},
+        kWhite,
+        edge});
+  } else if (sample == Sample::squares) {
     picture.shapes.push_back(
         Polygon_Shape{Rectangle({at.x - kMarker, at.y - kMarker}, {at.x + kMarker, at.y + kMarker}),
                       kWhite, edge});
@@ -242,7 +249,7 @@ void Plot_Frame::Add_Legend(Shape_List& picture) const {
             Polygon_Shape{Rectangle({from.x, middle - half}, {to.x, middle + half}), entry.colour,
                           Stroke{kAxisInk, 1}});
       } else {
-        picture.shapes.push_back(Line_Shape{{from, to}, {entry.colour, kLineStroke}});
+        picture.shapes.push_back(Line_Shape{{from, to}, {entry.colour, kLineStroke, entry.dash}});
         Add_Marker(picture, {(from.x + to.x) / 2, middle}, entry.colour, entry.sample);
       }
       picture.shapes.push_back(
@@ -254,10 +261,11 @@ void Plot_Frame::Add_Legend(Shape_List& picture) const {
 }
 
 void Add_Marked_Line(Shape_List& picture, const Plot_Frame& frame,
-                     const std::vector<Plot_Value>& values, Colour colour, Sample markers) {
+                     const std::vector<Plot_Value>& values, Colour colour, Sample markers,
+                     Dash dash) {
   std::vector<Place> places;
   for (const Plot_Value& value : values) places.push_back(frame.At(value.across, value.upright));
-  picture.shapes.push_back(Line_Shape{places, {colour, kLineStroke}});
+  picture.shapes.push_back(Line_Shape{places, {colour, kLineStroke, dash}});
   for (const Place& place : places) Add_Marker(picture, place, colour, markers);
 }
 

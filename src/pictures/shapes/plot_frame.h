@@ -17,12 +17,13 @@ struct Plot_Axis {
 };
 
 /// How the legend shows an entry.
-enum class Sample { circles, squares, area };
+enum class Sample { circles, squares, area, triangles, line };
 
 struct Legend_Entry {
   std::string text;
   Colour colour;
   Sample sample = Sample::circles;
+  Dash dash = Dash::solid;  // of the line; an area has none
 };
 
 struct Plot_Layout {
@@ -72,11 +73,13 @@ class Plot_Frame {
   double left_ = 0, top_ = 0, right_ = 1, bottom_ = 1;
 };
 
-/// Adds a line through values of the plot, in their order, with a marker at each.
+/// Adds a line through values of the plot, in their order, with a marker at each where `markers`
+/// has one.
 struct Plot_Value {
   double across = 0, upright = 0;
 };
 void Add_Marked_Line(Shape_List& picture, const Plot_Frame& frame,
-                     const std::vector<Plot_Value>& values, Colour colour, Sample markers);
+                     const std::vector<Plot_Value>& values, Colour colour, Sample markers,
+                     Dash dash = Dash::solid);
 
 }  // namespace barvon

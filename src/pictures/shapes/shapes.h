@@ -45,6 +45,13 @@ struct Polygon_Shape {
   std::optional<Stroke> stroke;
 };
 
+/// An area of several closed rings, filled by the odd-even rule: a ring in another one is a hole.
+struct Area_Shape {
+  std::vector<std::vector<Place>> rings;
+  std::optional<Colour> fill;
+  std::optional<Stroke> stroke;
+};
+
 struct Circle_Shape {
   Place centre;
   double radius = 1;  // pixels
@@ -66,7 +73,7 @@ struct Text_Shape {
   bool bold = false;
 };
 
-using Shape = std::variant<Line_Shape, Polygon_Shape, Circle_Shape, Text_Shape>;
+using Shape = std::variant<Line_Shape, Polygon_Shape, Area_Shape, Circle_Shape, Text_Shape>;
 
 /// The room that a picture is given.
 struct Canvas {
@@ -89,6 +96,9 @@ inline constexpr double kFarthestPlace = 1e6;
 /// The shape has places, all of them finite and not beyond kFarthestPlace. Whoever draws a list
 /// passes over the others, so that a value without a place leaves a gap and no harm.
 bool Has_Places(const Shape& shape);
+
+/// The shape with its corner at that place, so many times as large.
+Shape Moved(Shape shape, Place corner, double scale = 1);
 
 /// The four corners of an upright rectangle, clockwise from `a`'s.
 std::vector<Place> Rectangle(Place a, Place b);

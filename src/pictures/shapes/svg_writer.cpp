@@ -56,6 +56,18 @@ std::string Element(const Polygon_Shape& polygon) {
   return "<polygon" + Points(polygon.points) + Ink(polygon.fill, polygon.stroke) + "/>";
 }
 
+std::string Element(const Area_Shape& area) {
+  std::string path;
+  for (const auto& ring : area.rings) {
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+      path += (i == 0 ? "M" : " ") + Number(ring[i].x) + "," + Number(ring[i].y);
+    }
+    path += "Z";
+  }
+  return "<path" + Attribute("d", path) + Attribute("fill-rule", "evenodd") +
+         Ink(area.fill, area.stroke) + "/>";
+}
+
 std::string Element(const Circle_Shape& circle) {
   return "<circle" + Attribute("cx", Number(circle.centre.x)) +
          Attribute("cy", Number(circle.centre.y)) + Attribute("r", Number(circle.radius)) +

@@ -22,6 +22,23 @@ TEST(Plan, X_Goes_Down_And_Z_To_The_Right_A_Foot_As_Long_In_Both) {
   EXPECT_NEAR(frame.Pixels_Per_Foot() * 1000, right.x - origin.x, 1e-9);
 }
 
+TEST(Plan, The_Rings_Of_An_Area_Are_Placed_Like_Points) {
+  Plan plan;
+  plan.area = kSite;
+  plan.shapes.push_back(
+      Area_Shape{{{On_Plan({0, 0}), On_Plan({0, 400}), On_Plan({200, 0})}}, Colour{1, 2, 3}, {}});
+  const Plan_Frame frame(kSite, kCanvas);
+  bool seen = false;
+  for (const Shape& shape : Plan_Shapes(plan, kCanvas).shapes) {
+    const auto* area = std::get_if<Area_Shape>(&shape);
+    if (!area) continue;
+    seen = true;
+    EXPECT_EQ(area->rings, (std::vector<std::vector<Place>>{
+                               {frame.At({0, 0}), frame.At({0, 400}), frame.At({200, 0})}}));
+  }
+  EXPECT_TRUE(seen);
+}
+
 TEST(Plan, A_Place_Reads_In_Round_Feet_No_Coarser_Than_A_Pixel) {
   const Plan_Frame frame(kSite, kCanvas);
   const double pixel = 1 / frame.Pixels_Per_Foot();

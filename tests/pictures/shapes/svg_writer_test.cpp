@@ -21,6 +21,8 @@ Shape_List One_Of_Each() {
   picture.shapes.push_back(Line_Shape{{{0, 0}, {9, 0}}, {{16, 32, 48}, 1, Dash::dotted}});
   picture.shapes.push_back(
       Circle_Shape{{7, 8}, 3.5, Colour{255, 255, 255}, Stroke{{11, 94, 168}, 1.4, Dash::solid}});
+  picture.shapes.push_back(
+      Area_Shape{{{{0, 0}, {9, 0}, {0, 9}}, {{1, 1}, {2.5, 1}, {1, 3}}}, Colour{1, 2, 255}, {}});
   picture.shapes.push_back(Text_Shape{{12, 34}, "1 < 2", 11, {45, 52, 61}});
   picture.shapes.push_back(Text_Shape{{50, 60}, "up", 11, {0, 0, 0}, Anchor::middle, true});
   picture.shapes.push_back(Text_Shape{{50, 60}, "end", 11, {0, 0, 0}, Anchor::end});
@@ -43,6 +45,7 @@ constexpr char kOneOfEach[] =
     " stroke-dasharray=\"1 3\"/>\n"
     "<circle cx=\"7\" cy=\"8\" r=\"3.5\" fill=\"#ffffff\" stroke=\"#0b5ea8\""
     " stroke-width=\"1.4\"/>\n"
+    "<path d=\"M0,0 9,0 0,9ZM1,1 2.5,1 1,3Z\" fill-rule=\"evenodd\" fill=\"#0102ff\"/>\n"
     "<text x=\"12\" y=\"34\" font-size=\"11\" fill=\"#2d343d\">1 &lt; 2</text>\n"
     "<text x=\"50\" y=\"60\" font-size=\"11\" fill=\"#000000\" text-anchor=\"middle\""
     " transform=\"rotate(-90 50 60)\">up</text>\n"
@@ -67,6 +70,9 @@ TEST(SvgWriter, What_Has_No_Place_Is_Left_Out) {
   picture.shapes.push_back(Line_Shape{{{0, 0}}, {}});
   picture.shapes.push_back(Polygon_Shape{{{0, 0}, {1, 1}}, {}, {}});
   picture.shapes.push_back(Polygon_Shape{{{0, 0}, {1, 1}, {2e6, 0}}, {}, {}});
+  picture.shapes.push_back(Area_Shape{});
+  picture.shapes.push_back(Area_Shape{{{{0, 0}, {1, 0}, {0, 1}}, {{0, 0}, {1, 1}}}, {}, {}});
+  picture.shapes.push_back(Area_Shape{{{{0, 0}, {1, 0}, {kNan, 1}}}, {}, {}});
   picture.shapes.push_back(Circle_Shape{{1, 1}, 0, {}, {}});
   picture.shapes.push_back(Circle_Shape{{1, 1}, kNan, {}, {}});
   picture.shapes.push_back(Text_Shape{{1, 1}, ""});

@@ -1,0 +1,253 @@
+#include "graphs/frm_graphs.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "platform/ask/message_box.h"
+#include "platform/files/paths.h"
+#include "platform/qt/screen_window.h"
+
+namespace barvon {
+namespace {
+
+constexpr QSize kSize{1000, 720};
+constexpr QSize kFrame{16, 48};   // what the desktop puts around a window, at most
+constexpr int kLookEvery = 1000;  // milliseconds
+constexpr double kTextStep = 1.1;
+constexpr int kMostTextSteps = 8;
+
+}  // namespace
+
+frmGraphs::frmGraphs(QWidget* parent)
+    : QMainWindow(parent),
+      body_(new QStackedWidget(this)),
+      notice_(new Notice_Page(body_)),
+      pictures_(new QWidget(body_)),
+      own_title_(new Elided_Label(pictures_)),
+      other_title_(new Elided_Label(pictures_)),
+      end_comparison_(new QPushButton(QStringLiteral("&No comparison"), pictures_)),
+      tabs_(new QTabWidget(pictures_)),
+      usual_text_(QApplication::font().pointSizeF()) {
+  Name_Screen(*this, "frmGraphs");
+  Build_Body();
+  Build_Status();
+  Show_Notice(Notice_Of_Nothing());
+  setWindowTitle(QString::fromStdString(Window_Caption("")));
+  resize(kSize.boundedTo(screen()->availableSize() - kFrame));
+  look_.setInterval(kLookEvery);
+  connect(&look_, &QTimer::timeout, this, &frmGraphs::Look_Again);
+  look_.start();
+}
+
+void frmGraphs::Build_Body() {
+  own_title_->setObjectName(QStringLiteral("OwnTitle"));
+  other_title_->setObjectName(QStringLiteral("OtherTitle"));
+  end_comparison_->setObjectName(QStringLiteral("cmdNoComparison"));
+  tabs_->setObjectName(QStringLiteral("Views"));
+  tabs_->setAccessibleName(QStringLiteral("Views"));
+  tabs_->setDocumentMode(true);
+  tabs_->setUsesScrollButtons(true);
+  pages_ = Make_Graph_Pages(tabs_);
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    Graph_Page* page = pages_[i];
+    tabs_->addTab(page, QLatin1String(kGraphNames[i]));
+    connect(page, &Graph_Page::Asked_For, this, &frmGraphs::Show_View);
+    connect(page, &Graph_Page::Told, this, [this, page](const QString& words) {
+      if (page == Page_In_Front()) told_->setText(words);
+    });
+  }
+  auto* compared = new QHBoxLayout;
+  compared->addWidget(other_title_, 1);
+  compared->addWidget(end_comparison_);
+  auto* titles = new QVBoxLayout;
+  titles->setContentsMargins(8, 6, 8, 4);
+  titles->setSpacing(2);
+  titles->addWidget(own_title_);
+  titles->addLayout(compared);
+  auto* column = new QVBoxLayout(pictures_);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addLayout(titles);
+  column->addWidget(tabs_, 1);
+  body_->addWidget(notice_);
+  body_->addWidget(pictures_);
+  setCentralWidget(body_);
+
+  connect(notice_, &Notice_Page::Open_Asked, this, &frmGraphs::Open);
+  connect(end_comparison_, &QPushButton::clicked, this, &frmGraphs::End_Comparison);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+    told_->clear();
+    Fill_Page_In_Front();
+    emit Things_Changed();
+  });
+}
+
+void frmGraphs::Build_Status() {
+  told_ = new Elided_Label(this);
+  told_->setObjectName(QStringLiteral("Told"));
+  state_ = new Elided_Label(this);
+  state_->setObjectName(QStringLiteral("State"));
+  state_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  statusBar()->addWidget(told_, 1);
+  statusBar()->addWidget(state_, 1);
+}
+
+std::optional<std::string> frmGraphs::Ask_Results(const std::string& title) const {
+  return Ask_Open_File({.title = title,
+                        .filters = {{"BARVON Data Files (*.DUI)", "*.DUI"},
+                                    {"Outputs of a Run (*.DUT)", "*.DUT"},
+                                    {"All Files (*)", "*"}},
+                        .name = own_ ? Folder_Of(own_->path()) : std::string()});
+}
+
+void frmGraphs::Open() {
+  if (const auto path = Ask_Results("Open Results")) {
+    Show_Results_Of(*path, std::max(tabs_->currentIndex(), 0));
+  }
+}
+
+void frmGraphs::Show_Results_Of(const std::string& path, int view) {
+  own_.emplace(path);
+  Say("");
+  Results_Or_Problem read = own_->Read();
+  // What is read next is not held against what another project had.
+  shown_.own.reset();
+  tabs_->setCurrentIndex(view);
+  Take(std::move(read));
+}
+
+void frmGraphs::Take(Results_Or_Problem read) {
+  setWindowTitle(QString::fromStdString(Window_Caption(own_->path())));
+  if (const auto* problem = std::get_if<Result_Problem>(&read)) {
+    Show_Notice(Notice_Of(*problem, own_->path()));
+    return;
+  }
+  shown_.own = std::make_shared<const Results>(std::move(std::get<Results>(read)));
+  Show_Pages();
+}
+
+void frmGraphs::Compare() {
+  const auto path = Ask_Results("Compare With");
+  if (!path) return;
+  Watched_Outputs other(*path);
+  Results_Or_Problem read = other.Read();
+  if (const auto* problem = std::get_if<Result_Problem>(&read)) {
+    Show_Warning("These results can't be compared with: " + problem->Words());
+    return;
+  }
+  other_ = std::move(other);
+  shown_.other = std::make_shared<const Results>(std::move(std::get<Results>(read)));
+  Show_Pages();
+}
+
+void frmGraphs::End_Comparison() {
+  // The button goes: what it leads to is what the keyboard should be at.
+  if (end_comparison_->hasFocus()) tabs_->setFocus();
+  other_.reset();
+  shown_.other.reset();
+  if (shown_.own) Show_Pages();
+}
+
+void frmGraphs::Look_Again() {
+  // A dialog is about what is shown.
+  if (QApplication::activeModalWidget() != nullptr) return;
+  if (own_) Look_At_Own();
+  if (other_) Look_At_Other();
+}
+
+void frmGraphs::Look_At_Own() {
+  auto read = own_->Look();
+  if (!read) return;
+  const auto* problem = std::get_if<Result_Problem>(&*read);
+  if (problem != nullptr && shown_.own) return Say(Kept_Words(*problem, *shown_.own));
+  const bool fresh = problem == nullptr;
+  Take(std::move(*read));
+  if (fresh) Say(Fresh_Words(*shown_.own));
+}
+
+void frmGraphs::Look_At_Other() {
+  auto read = other_->Look();
+  if (!read) return;
+  if (const auto* problem = std::get_if<Result_Problem>(&*read)) {
+    return Say(Kept_Words(*problem, *shown_.other));
+  }
+  shown_.other = std::make_shared<const Results>(std::move(std::get<Results>(*read)));
+  Say(Fresh_Words(*shown_.other));
+  if (shown_.own) Show_Pages();
+}
+
+Graph_Page* frmGraphs::Page_In_Front() const {
+  if (body_->currentWidget() != pictures_) return nullptr;
+  return pages_[static_cast<std::size_t>(tabs_->currentIndex())];
+}
+
+void frmGraphs::Show_View(int view) {
+  if (view < 0 || view >= kGraphViews) return;
+  tabs_->setCurrentIndex(view);
+  if (Page_In_Front() != nullptr) tabs_->tabBar()->setFocus();
+}
+
+void frmGraphs::Show_Pages() {
+  behind_.fill(true);
+  Show_Titles();
+  told_->clear();
+  const bool came = body_->currentWidget() != pictures_;
+  body_->setCurrentWidget(pictures_);
+  Fill_Page_In_Front();
+  if (came) tabs_->tabBar()->setFocus();
+  emit Things_Changed();
+}
+
+/// The other pages get theirs when they come to the front.
+void frmGraphs::Fill_Page_In_Front() {
+  Graph_Page* page = Page_In_Front();
+  if (page == nullptr || !shown_.own) return;
+  bool& behind = behind_[static_cast<std::size_t>(tabs_->currentIndex())];
+  if (std::exchange(behind, false)) page->Show(shown_);
+}
+
+void frmGraphs::Show_Notice(const Graph_Notice& notice) {
+  told_->clear();
+  notice_->Show(notice);
+  body_->setCurrentWidget(notice_);
+  notice_->setFocus();
+  emit Things_Changed();
+}
+
+void frmGraphs::Show_Titles() {
+  const bool compares = shown_.other != nullptr;
+  own_title_->setText(QString::fromStdString(Title_Line(*shown_.own)));
+  if (compares) {
+    other_title_->setText(QStringLiteral("Compared with: ") +
+                          QString::fromStdString(Title_Line(*shown_.other)));
+  }
+  other_title_->setVisible(compares);
+  end_comparison_->setVisible(compares);
+}
+
+void frmGraphs::Say(const std::string& state) { state_->setText(QString::fromStdString(state)); }
+
+void frmGraphs::Change_Text_Size(int steps) {
+  text_steps_ = steps == 0 ? 0 : std::clamp(text_steps_ + steps, -kMostTextSteps, kMostTextSteps);
+  QFont font = QApplication::font();
+  font.setPointSizeF(usual_text_ * std::pow(kTextStep, text_steps_));
+  QApplication::setFont(font);
+}
+
+void frmGraphs::closeEvent(QCloseEvent* event) {
+  // The program ends with its window, not with its help.
+  Show_Help({Help_Command::Quit, 0, {}});
+  QMainWindow::closeEvent(event);
+}
+
+}  // namespace barvon

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "results/results.h"
+
+namespace barvon {
+
+/// A time in seconds and in the unit that one would say: "45 s", "600 s (10 min)", "9000 s (2.5
+/// h)".
+std::string Time_Words(double seconds);
+
+/// "12.5 mg/l".
+std::string Value_Words(double value, const std::string& unit);
+
+/// "20 ft".
+std::string Depth_Words(double feet);
+
+/// "inside the site", "outside the site", "outside the ZID", "anywhere".
+std::string Where_Words(Result_Where where);
+
+/// The name of a project's file without folder and extension.
+std::string Project_Name(const Results& results);
+
+/// The names of two, told apart by their folders where they are alike, by "other" where these are
+/// alike too.
+std::pair<std::string, std::string> Project_Names(const Results& own, const Results& other);
+
+/// The number of the species with that name and unit, from 1; nothing where there is none.
+std::optional<int> Same_Species(const Results& other, const Result_Species& species);
+
+}  // namespace barvon

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vector>
+
+#include "results/results.h"
+
+namespace barvon {
+
+/// Which species, depth and times show best what happened, where one picture of each kind is all
+/// that is seen.
+struct Telling_Moment {
+  int species = 0;      // from 1; 0: the outputs hold no maxima
+  double depth = 0;     // an output depth
+  double time = 0;      // of the largest value in the series, or of the last output
+  double map_time = 0;  // of the map of that species and depth to show; `time` where there is none
+  double bed_time = 0;  // of the last map of thickness; 0 where there is none
+};
+
+/// The species is the one with the tightest limit (its worst value is the largest part of it);
+/// without limits the one whose maxima have the largest number outside the site, inside where all
+/// outside is background. The time and depth are those of its largest value in the area of that
+/// limit, where nothing is above the background there outside the site, else inside. The map is the
+/// nearest one in time that is not empty, the earlier of two.
+Telling_Moment Telling_Moment_Of(const Results& results);
+
+/// The map of the species and depth at the moment's time; null where the outputs have none.
+const Result_Map* Telling_Map(const Results& results, const Telling_Moment& moment);
+
+}  // namespace barvon

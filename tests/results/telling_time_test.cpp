@@ -1,0 +1,85 @@
+#include "results/telling_time.h"
+
+#include <gtest/gtest.h>
+
+#include "results/small_results.h"
+
+namespace barvon::testing {
+namespace {
+
+TEST(TellingTime, The_Species_With_The_Tightest_Limit_At_Its_Largest_Value_Outside) {
+  const Telling_Moment moment = Telling_Moment_Of(Small_Results());
+  EXPECT_EQ(moment.species, 2);
+  EXPECT_EQ(moment.depth, 20);
+  EXPECT_EQ(moment.time, 200);
+  EXPECT_EQ(moment.map_time, 200);
+  EXPECT_EQ(moment.bed_time, 400);
+}
+
+TEST(TellingTime, The_Tightest_Limit_Is_The_One_Whose_Worst_Is_The_Largest_Part_Of_It) {
+  Results results = Small_Results();
+  // 3.4 of 2 is more than 8 of 5, and a limit of 0 is none.
+  results.limits.push_back({.species = 1, .value = 5, .worst = 8, .of = "other"});
+  results.limits.push_back({.species = 1, .value = 0, .worst = 8, .of = "none"});
+  EXPECT_EQ(Telling_Moment_Of(results).species, 2);
+  results.limits[1].worst = 9;
+  EXPECT_EQ(Telling_Moment_Of(results).species, 1);
+}
+
+TEST(TellingTime, The_Area_Of_The_Limit_Goes_First) {
+  Results results = Small_Results();
+  results.limits[0].where = Result_Where::inside;
+  EXPECT_EQ(Telling_Moment_Of(results).time, 100);
+  results.limits[0].where = Result_Where::anywhere;
+  EXPECT_EQ(Telling_Moment_Of(results).time, 100);
+  results.limits[0].where = Result_Where::outside_zid;  // there is no ZID: outside the site
+  EXPECT_EQ(Telling_Moment_Of(results).time, 200);
+}
+
+TEST(TellingTime, Without_Limits_It_Is_The_Largest_Number_Outside) {
+  Results results = Small_Results();
+  results.limits.clear();
+  const Telling_Moment moment = Telling_Moment_Of(results);
+  EXPECT_EQ(moment.species, 1);
+  EXPECT_EQ(moment.depth, 20);
+  EXPECT_EQ(moment.time, 200);
+}
+
+TEST(TellingTime, Where_All_Outside_Is_Background_It_Is_The_Largest_Inside) {
+  Results results = Small_Results();
+  for (Result_Maxima& row : results.maxima) row.outside = row.species == 2 ? 0.5 : 0;
+  EXPECT_EQ(Telling_Moment_Of(results).species, 2);
+  EXPECT_EQ(Telling_Moment_Of(results).time, 100);
+  results.limits.clear();
+  EXPECT_EQ(Telling_Moment_Of(results).species, 1);
+  EXPECT_EQ(Telling_Moment_Of(results).time, 100);
+}
+
+TEST(TellingTime, The_Map_Is_The_Nearest_That_Is_Not_Empty) {
+  Results results = Small_Results();
+  Result_Map& nearest = results.maps[3];  // at 200 s, tracer, 20 ft
+  ASSERT_EQ(nearest.species, 2);
+  ASSERT_EQ(nearest.depth, 20);
+  EXPECT_EQ(Telling_Map(results, Telling_Moment_Of(results)), &nearest);
+  nearest.values.clear();
+  nearest.top = 1;
+  nearest.bottom = 0;
+  EXPECT_EQ(Telling_Moment_Of(results).map_time, 400);
+}
+
+TEST(TellingTime, Without_Anything_There_Is_No_Species_And_No_Map) {
+  Telling_Moment moment = Telling_Moment_Of({});
+  EXPECT_EQ(moment.species, 0);
+  EXPECT_EQ(moment.bed_time, 0);
+  EXPECT_EQ(Telling_Map({}, moment), nullptr);
+  Results results;
+  results.species = {{"Sand", "mg/l"}};
+  results.maxima = {{100, 1, 5, 0, 0, 0}, {200, 1, 5, 0, 0, 0}};
+  moment = Telling_Moment_Of(results);
+  EXPECT_EQ(moment.species, 1);
+  EXPECT_EQ(moment.time, 200);
+  EXPECT_EQ(moment.map_time, 200);
+}
+
+}  // namespace
+}  // namespace barvon::testing
