@@ -26,6 +26,9 @@ std::string Balance_Section(const Model_Input& input, const Outcome& outcome);
 std::string Maxima_Section(const Model_Input& input, const Outcome& outcome);
 std::string Verdict_Section(const Model_Input& input, const Additions& additions,
                             const Outcome& outcome);
+/// The verdicts' lines without heading and explanations, each behind two blanks.
+std::string Verdict_Text(const Model_Input& input, const Additions& additions,
+                         const Outcome& outcome);
 std::string Deposit_Section(const Model_Input& input, const Outcome& outcome);
 std::string Notes_Section(const Outcome& outcome);
 std::string Left_Out_Section();

@@ -132,6 +132,36 @@ std::string Zone_Text(const Model_Input& input, const std::string& what, const Z
   return text;
 }
 
+/// What was compared, or why nothing was.
+std::string Comparison_Text(const Model_Input& input, const Outcome& outcome) {
+  std::string text;
+  for (const Comparison& comparison : outcome.comparisons) {
+    text += "  " + comparison.of + ", " + Plain(comparison.value) + " " + Tracer_Unit(input) + ":" +
+            kLineEnd + "    " + comparison.Verdict(Tracer_Unit(input)) + kLineEnd;
+    if (!comparison.ever && comparison.worst.found && comparison.background <= comparison.value) {
+      text += "    (largest " + Plain(comparison.worst.value) + " " + Tracer_Unit(input) + " at " +
+              Plain(comparison.worst.time, 7) + " s)" + kLineEnd;
+    }
+  }
+  if (!outcome.comparisons.empty()) return text;
+  if (outcome.zone_computed || outcome.zid_computed) {
+    return "  None: what is asked for is a zone, below.\r\n";
+  }
+  const bool compares =
+      input.evaluation != Evaluation::None && input.evaluation != Evaluation::Tracer;
+  return compares ? "  None: the notes say why.\r\n"
+                  : "  None: nothing is compared in this run.\r\n";
+}
+
+std::string Mixing_Zone_Text(const Model_Input& input, const Additions& additions,
+                             const Outcome& outcome) {
+  return Zone_Text(input, "Mixing zone", outcome.zone, Limit_Of_Site(input, additions));
+}
+
+std::string Zid_Text(const Model_Input& input, const Additions& additions, const Outcome& outcome) {
+  return Zone_Text(input, "ZID", outcome.zid, Limit_Of_Zid(input, additions));
+}
+
 }  // namespace
 
 std::string Phases_Section(const Model_Input& input, const Outcome& outcome) {
@@ -251,25 +281,8 @@ std::string Maxima_Section(const Model_Input& input, const Outcome& outcome) {
 
 std::string Verdict_Section(const Model_Input& input, const Additions& additions,
                             const Outcome& outcome) {
-  std::string text = Section_Heading("VERDICTS");
-  for (const Comparison& comparison : outcome.comparisons) {
-    text += "  " + comparison.of + ", " + Plain(comparison.value) + " " + Tracer_Unit(input) + ":" +
-            kLineEnd + "    " + comparison.Verdict(Tracer_Unit(input)) + kLineEnd;
-    if (!comparison.ever && comparison.worst.found && comparison.background <= comparison.value) {
-      text += "    (largest " + Plain(comparison.worst.value) + " " + Tracer_Unit(input) + " at " +
-              Plain(comparison.worst.time, 7) + " s)" + kLineEnd;
-    }
-  }
-  if (outcome.comparisons.empty()) {
-    const bool compares =
-        input.evaluation != Evaluation::None && input.evaluation != Evaluation::Tracer;
-    if (outcome.zone_computed || outcome.zid_computed) {
-      text += "  None: what is asked for is a zone, below.\r\n";
-    } else {
-      text += compares ? "  None: the notes say why.\r\n"
-                       : "  None: nothing is compared in this run.\r\n";
-    }
-  } else {
+  std::string text = Section_Heading("VERDICTS") + Comparison_Text(input, outcome);
+  if (!outcome.comparisons.empty()) {
     text += Paragraph(
         "A verdict looks at more times than the series of the .dut file, which holds those of "
         "output alone.");
@@ -280,13 +293,20 @@ std::string Verdict_Section(const Model_Input& input, const Additions& additions
         "though most would settle with the solids: every figure of it is an upper bound.");
   }
   if (outcome.zone_computed) {
-    text += Section_Heading("COMPUTED MIXING ZONE");
-    text += Zone_Text(input, "Mixing zone", outcome.zone, Limit_Of_Site(input, additions));
+    text += Section_Heading("COMPUTED MIXING ZONE") + Mixing_Zone_Text(input, additions, outcome);
   }
   if (outcome.zid_computed) {
-    text += Section_Heading("COMPUTED ZONE OF INITIAL DILUTION");
-    text += Zone_Text(input, "ZID", outcome.zid, Limit_Of_Zid(input, additions));
+    text +=
+        Section_Heading("COMPUTED ZONE OF INITIAL DILUTION") + Zid_Text(input, additions, outcome);
   }
+  return text;
+}
+
+std::string Verdict_Text(const Model_Input& input, const Additions& additions,
+                         const Outcome& outcome) {
+  std::string text = Comparison_Text(input, outcome);
+  if (outcome.zone_computed) text += Mixing_Zone_Text(input, additions, outcome);
+  if (outcome.zid_computed) text += Zid_Text(input, additions, outcome);
   return text;
 }
 

@@ -18,6 +18,7 @@
 
 #include "solver/additions_file.h"
 #include "solver/due_reader.h"
+#include "solver/input_sum.h"
 #include "solver/listing.h"
 #include "solver/marker.h"
 #include "solver/output_files.h"
@@ -77,20 +78,24 @@ std::string Contents(const std::string& name) {
 std::vector<companion::Output_File> Run() {
   const std::string marker = Needed_Name("KOLBREE.TMP");
   const std::string due = Needed_Name(companion::Read_Marker(marker, Contents(marker)));
-  const companion::Model_Input input = companion::Read_Model_Input(due, Contents(due));
+  const std::string due_bytes = Contents(due);
+  companion::Model_Input input = companion::Read_Model_Input(due, due_bytes);
   companion::Check_Values(due, input);
   companion::Additions additions;
+  std::string added_bytes;
   if (const auto found = Found_Name(companion::kAdditionsName)) {
-    additions = companion::Read_Additions(*found, Contents(*found), input);
+    added_bytes = Contents(*found);
+    additions = companion::Read_Additions(*found, added_bytes, input);
     companion::Check_Values(*found, additions);
   }
+  input.sum = companion::Input_Sum(due_bytes, added_bytes);
   const companion::Outcome outcome = companion::Simulate(due, input, additions);
   for (const std::string& line : companion::Phase_Groups(input, outcome)) {
     std::printf("%s\n", line.c_str());
   }
   return {{"tmpfile.duo", companion::Listing(input, additions, outcome)},
           {"tmpfile.dup", companion::Phase_Table(input, outcome)},
-          {"tmpfile.dut", companion::Series_Table(input, outcome)},
+          {"tmpfile.dut", companion::Series_Table(input, additions, outcome)},
           {"tmpfile.duc", companion::Map_Table(input, outcome)}};
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,7 @@ struct Model_Input {
   Coefficients coefficients;
   std::vector<Batch> batches;
   std::vector<double> print_times;  // s; empty: quarters
+  std::uint64_t sum = 0;            // Input_Sum of what was read
 
   std::size_t Solids() const { return batches.empty() ? 0 : batches.front().solids.size(); }
   bool Has_Tracer() const { return evaluation != Evaluation::None; }

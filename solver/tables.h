@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "solver/additions.h"
 #include "solver/model_input.h"
 #include "solver/outcome.h"
 
@@ -15,8 +16,9 @@ std::string Label();
 /// Two lines: the label, and what it is of which project.
 std::string Head(const Model_Input& input, const std::string& what);
 
-std::string Phase_Table(const Model_Input& input, const Outcome& outcome);   // .dup
-std::string Series_Table(const Model_Input& input, const Outcome& outcome);  // .dut
-std::string Map_Table(const Model_Input& input, const Outcome& outcome);     // .duc
+std::string Phase_Table(const Model_Input& input, const Outcome& outcome);  // .dup
+std::string Series_Table(const Model_Input& input, const Additions& additions,
+                         const Outcome& outcome);                         // .dut
+std::string Map_Table(const Model_Input& input, const Outcome& outcome);  // .duc
 
 }  // namespace companion

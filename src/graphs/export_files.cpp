@@ -13,7 +13,7 @@
 namespace barvon {
 namespace {
 
-constexpr qsizetype kLongestName = 100;  // characters; a file's name has 255 bytes at most
+constexpr qsizetype kLongestName = 180;  // bytes; of 255, the others are for numbers and endings
 
 std::string& Last_Folder() {
   static std::string folder;
@@ -26,11 +26,12 @@ std::string Ending_Of(const File_Filter& filter) { return filter.pattern.substr(
 
 std::string As_File_Name(const QString& text) {
   QString name;
-  for (const QChar letter : text.left(kLongestName)) {
+  for (const QChar letter : text) {
     const bool refused =
         letter < QLatin1Char(' ') || QStringLiteral("/\\:*?\"<>|").contains(letter);
     name += refused ? QLatin1Char('-') : letter;
   }
+  while (name.toUtf8().size() > kLongestName) name.chop(name.back().isLowSurrogate() ? 2 : 1);
   name = name.trimmed();
   return name.isEmpty() ? "picture" : name.toStdString();
 }
@@ -43,12 +44,12 @@ bool Has_Ending(const std::string& path, const std::string& ending) {
 std::optional<std::string> Ask_Export_File(
     const std::string& title, const std::vector<File_Filter>& filters, const QString& text,
     const Results& results, const std::function<std::string(const std::string&)>& stands_for) {
-  const auto complete = [&filters](const std::string& path) {
+  const auto complete = [filters](const std::string& path) {
     const bool known = std::ranges::any_of(
         filters, [&](const File_Filter& filter) { return Has_Ending(path, Ending_Of(filter)); });
     return known ? path : path + Ending_Of(filters.front());
   };
-  const auto written = [&](const std::string& path) {
+  const auto written = [complete, stands_for](const std::string& path) {
     return stands_for ? stands_for(complete(path)) : complete(path);
   };
   const std::string project = Name_Of(Base_Name(results.path));

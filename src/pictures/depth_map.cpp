@@ -6,21 +6,19 @@
 
 #include "pictures/grid_axes.h"
 #include "pictures/plot_parts.h"
+#include "pictures/shape_painter.h"
+#include "pictures/shapes/inks.h"
 
 namespace barvon {
 namespace {
 
-/// From shallow to deep: even steps of it look evenly apart, also to colour-blind eyes and in
-/// print without colour. The stops of the public-domain scale "viridis", the light end first.
+/// From shallow to deep.
 QCPColorGradient Depth_Colours() {
-  static const char* const kStops[] = {"#fde725", "#bddf26", "#7ad151", "#44bf70",
-                                       "#22a884", "#21918c", "#2a788e", "#355f8d",
-                                       "#414487", "#482475", "#440154"};
   QCPColorGradient colours;
   colours.clearColorStops();
-  const int last = static_cast<int>(std::size(kStops)) - 1;
-  for (int i = 0; i <= last; ++i) {
-    colours.setColorStopAt(static_cast<double>(i) / last, QColor(QLatin1String(kStops[i])));
+  for (std::size_t i = 0; i < kLightToDark.size(); ++i) {
+    colours.setColorStopAt(static_cast<double>(i) / (kLightToDark.size() - 1),
+                           To_QColor(kLightToDark[i]));
   }
   colours.setNanHandling(QCPColorGradient::nhTransparent);
   return colours;

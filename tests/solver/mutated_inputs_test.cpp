@@ -135,7 +135,8 @@ std::string Outcome_Of(const std::string& bytes, const std::string& added) {
     const Outcome outcome = Simulate("x.due", input, additions);
     EXPECT_LE(outcome.worst_balance, kBalance);
     for (const std::string& text :
-         {Phase_Table(input, outcome), Series_Table(input, outcome), Map_Table(input, outcome)}) {
+         {Phase_Table(input, outcome), Series_Table(input, additions, outcome),
+          Map_Table(input, outcome)}) {
       std::size_t at = text.find("\r\n", text.find("\r\n") + 2);  // behind the head
       for (const char* none : {" nan", " -nan", " inf", " -inf"}) {
         EXPECT_EQ(text.find(none, at), std::string::npos) << none;

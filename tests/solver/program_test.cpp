@@ -2,11 +2,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iomanip>
+#include <sstream>
 #include <string>
 
+#include "solver/input_sum.h"
 #include "tests/solver/sample_inputs.h"
 
 namespace companion {
@@ -79,6 +83,31 @@ TEST_F(Program, Takes_Names_In_Any_Case_And_The_Additions) {
   EXPECT_EQ(Get("err"), "barvon-solver: tmpFILE.add:2: \"x\" is no number for Criterion\n");
   Put("tmpFILE.add", "BARVON additions: 1\r\n");
   EXPECT_EQ(Run(), 0);
+}
+
+/// The third line of an output without its tag.
+std::string Sum_In(const std::string& output) {
+  const std::size_t line = output.find("\r\nINPU  ") + 8;
+  return output.substr(line, output.find("\r\n", line) - line);
+}
+
+std::string Hexadecimal(std::uint64_t number) {
+  std::ostringstream text;
+  text << std::hex << std::setw(16) << std::setfill('0') << number;
+  return text.str();
+}
+
+TEST_F(Program, Tells_In_Three_Outputs_The_Sum_Of_What_It_Has_Read) {
+  const std::string due = Sample_Bytes("Barge_Four_Layers");
+  const std::string added = "BARVON additions: 1\r\n";
+  Put("Tmpfile.Due", due);
+  ASSERT_EQ(Run(), 0);
+  for (const char* name : {"tmpfile.dup", "tmpfile.dut", "tmpfile.duc"}) {
+    EXPECT_EQ(Sum_In(Get(name)), Hexadecimal(Input_Sum(due, ""))) << name;
+  }
+  Put("tmpfile.add", added);
+  ASSERT_EQ(Run(), 0);
+  EXPECT_EQ(Sum_In(Get("tmpfile.dut")), Hexadecimal(Input_Sum(due + added, "")));
 }
 
 TEST_F(Program, Refuses_An_Input_In_One_Line) {

@@ -148,7 +148,7 @@ TEST(Simulation, Follows_The_Loads_Own_Water_Where_Toxicity_Is_Asked) {
   const Outcome outcome = Simulated(input);
   EXPECT_NEAR(outcome.near_field.released[1], 100 * 24300.0, 1e-6);
   EXPECT_LE(outcome.point_spots[1][static_cast<std::size_t>(Area::Anywhere)].value, 100);
-  EXPECT_NE(Series_Table(input, outcome).find("SPEC     2  TRACER    %   "), std::string::npos);
+  EXPECT_NE(Series_Table(input, {}, outcome).find("SPEC     2  TRACER    %   "), std::string::npos);
 }
 
 TEST(Simulation, Follows_No_Fluid_Without_An_Evaluation) {
@@ -156,7 +156,7 @@ TEST(Simulation, Follows_No_Fluid_Without_An_Evaluation) {
   input.evaluation = Evaluation::None;
   const Outcome outcome = Simulated(input);
   EXPECT_EQ(outcome.near_field.released.size(), 1U);
-  EXPECT_EQ(Series_Table(input, outcome).find("SPEC     2"), std::string::npos);
+  EXPECT_EQ(Series_Table(input, {}, outcome).find("SPEC     2"), std::string::npos);
 }
 
 TEST(Simulation, Adds_The_Background_To_What_Is_Listed) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "pictures/shapes/shapes.h"
 
 namespace barvon {
@@ -21,5 +23,19 @@ inline constexpr Colour kGroundFill{239, 231, 219};
 inline constexpr Colour kGroundLetters{116, 92, 58};
 
 inline constexpr Colour kWarnInk{176, 42, 32}, kWarnFill{250, 228, 224};
+
+/// From little to much: even steps of it look evenly apart, also to colour-blind eyes and in print
+/// without colour. The stops of the public-domain scale "viridis", the light end first.
+inline constexpr std::array<Colour, 11> kLightToDark{{{253, 231, 37},
+                                                      {189, 223, 38},
+                                                      {122, 209, 81},
+                                                      {68, 191, 112},
+                                                      {34, 168, 132},
+                                                      {33, 145, 140},
+                                                      {42, 120, 142},
+                                                      {53, 95, 141},
+                                                      {65, 68, 135},
+                                                      {72, 36, 117},
+                                                      {68, 1, 84}}};
 
 }  // namespace barvon

@@ -1,0 +1,106 @@
+#include "results/drawings/colour_scale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "pictures/shapes/axis_scale.h"
+#include "pictures/shapes/inks.h"
+
+namespace barvon {
+namespace {
+
+constexpr double kLeastSpan = 1e-6;  // of the values: finer than outputs are written
+constexpr double kHair = 1e-9;  // of a value: a level as near as that to the largest holds nothing
+
+// From a hue that is near white to one near black.
+constexpr std::array<Colour, 4> kMore{
+    {{253, 224, 190}, {241, 163, 64}, {190, 96, 10}, {104, 47, 4}}};
+constexpr std::array<Colour, 4> kLess{
+    {{214, 230, 246}, {128, 178, 224}, {44, 110, 182}, {9, 50, 108}}};
+
+template <std::size_t kStops>
+Colour Between_Stops(const std::array<Colour, kStops>& stops, double part) {
+  const double at = std::clamp(part, 0.0, 1.0) * (kStops - 1);
+  const std::size_t first = std::min(static_cast<std::size_t>(at), kStops - 2);
+  const double rest = at - static_cast<double>(first);
+  const auto mixed = [rest](std::uint8_t from, std::uint8_t to) {
+    return static_cast<std::uint8_t>(std::lround(from + rest * (to - from)));
+  };
+  const Colour &low = stops[first], &high = stops[first + 1];
+  return {mixed(low.red, high.red), mixed(low.green, high.green), mixed(low.blue, high.blue)};
+}
+
+double Part_Of(std::size_t band, std::size_t bands) {
+  return bands < 2 ? 0.5 : static_cast<double>(band) / static_cast<double>(bands - 1);
+}
+
+/// The number `place` of 1, 2, 5, 10, 20, 50, ...; 1 is number 0.
+double Round_Number(int place) {
+  constexpr std::array<double, 3> kFactors{1, 2, 5};
+  const int power = place >= 0 ? place / 3 : -((2 - place) / 3);
+  const double factor = kFactors[static_cast<std::size_t>(place - 3 * power)];
+  // A whole power divides without a rounding of its own, so that levels are the nearest numbers.
+  return power >= 0 ? factor * std::pow(10, power) : factor / std::pow(10, -power);
+}
+
+}  // namespace
+
+std::vector<double> Log_Levels(double largest, double base) {
+  std::vector<double> levels;
+  if (!Can_Be_Drawn(largest) || !(largest > kSmallestOnLog)) return levels;
+  int place = 3 * (static_cast<int>(std::floor(std::log10(largest))) + 1);
+  const double least = std::max(Can_Be_Drawn(base) ? base : 0, kSmallestOnLog);
+  while (levels.size() < kMostLevels) {
+    const double level = Round_Number(place--);
+    if (!(level > least * (1 + kHair))) break;
+    if (level < largest * (1 - kHair)) levels.push_back(level);
+  }
+  std::ranges::reverse(levels);
+  return levels;
+}
+
+std::vector<double> Even_Levels(double base, double largest) {
+  std::vector<double> levels;
+  if (!Can_Be_Drawn(base) || !Can_Be_Drawn(largest)) return levels;
+  const double span = largest - base;
+  if (!(span > kLeastSpan * std::max(std::abs(largest), std::abs(base)))) return levels;
+  // The least round step that leaves no more levels than there may be.
+  int place = 3 * (static_cast<int>(std::floor(std::log10(span / kMostLevels))) - 1);
+  const auto first = [&] { return std::floor(base / Round_Number(place) + kHair) + 1; };
+  const auto last = [&] { return std::ceil(largest / Round_Number(place) - kHair) - 1; };
+  while (last() - first() >= kMostLevels) ++place;
+  for (double at = first(); at <= last(); ++at) {
+    levels.push_back(place >= 0 ? at * Round_Number(place) : at / Round_Number(-place));
+  }
+  return levels;
+}
+
+Colour Band_Colour(std::size_t band, std::size_t bands) {
+  return Between_Stops(kLightToDark, Part_Of(band, bands));
+}
+
+Colour More_Colour(std::size_t band, std::size_t bands) {
+  return Between_Stops(kMore, Part_Of(band, bands));
+}
+
+Colour Less_Colour(std::size_t band, std::size_t bands) {
+  return Between_Stops(kLess, Part_Of(band, bands));
+}
+
+std::optional<Colour> Colour_Of(const Colour_Scale& scale, double value) {
+  const double size = scale.two_sides ? std::abs(value) : value;
+  const auto above = std::ranges::upper_bound(scale.levels, size);
+  if (std::isnan(value) || above == scale.levels.begin()) return std::nullopt;
+  const auto band = static_cast<std::size_t>(above - scale.levels.begin()) - 1;
+  const std::size_t bands = scale.levels.size();
+  if (!scale.two_sides) return Band_Colour(band, bands);
+  return value > 0 ? More_Colour(band, bands) : Less_Colour(band, bands);
+}
+
+bool Is_Dark(const Colour& colour) {
+  // Luma after ITU-R BT.601.
+  return 0.299 * colour.red + 0.587 * colour.green + 0.114 * colour.blue < 128;
+}
+
+}  // namespace barvon
