@@ -8,6 +8,8 @@
 #include "platform/files/lock_holder.h"
 #include "report/report_sections.h"
 #include "results/drawings/balance_drawing.h"
+#include "results/drawings/map_drawing.h"
+#include "results/drawings/map_view.h"
 #include "results/drawings/maxima_drawing.h"
 #include "results/drawings/result_words.h"
 #include "results/summary.h"
@@ -63,6 +65,31 @@ void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Mome
   report.Picture(Maxima_Shapes(Draw_Maxima(results, nullptr, choice), kReportCanvas));
 }
 
+/// By the scale of what is shown: the report has no other time of it.
+void Put_Map(Report_Maker& report, const Results& results, Map_View view) {
+  view.same_scale = false;
+  report.Picture(Map_Shapes(Draw_Map(Content_Of(results, nullptr, view)), kReportMap));
+}
+
+void Put_Concentration(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
+  if (results.maps.empty()) return;
+  report.Heading(2, "Concentration when It Is Highest");
+  Map_View view;
+  view.species = moment.species;
+  view.depth = moment.depth;
+  view.time = moment.map_time;
+  Put_Map(report, results, view);
+}
+
+void Put_Deposit(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
+  if (Last_Bed(results) == nullptr) return;
+  report.Heading(2, "Deposit at the End");
+  Map_View view;
+  view.kind = Map_Kind::thickness;
+  view.time = moment.bed_time;
+  Put_Map(report, results, view);
+}
+
 }  // namespace
 
 void Report_Results(Report_Maker& report) {
@@ -77,7 +104,10 @@ void Report_Results(Report_Maker& report) {
   for (const std::string& verdict : Verdicts_Of(results)) report.Paragraph(verdict);
   report.Heading(2, "Balance");
   Put_Balance(report, results);
-  Put_Maxima(report, results, Telling_Moment_Of(results));
+  const Telling_Moment moment = Telling_Moment_Of(results);
+  Put_Maxima(report, results, moment);
+  Put_Concentration(report, results, moment);
+  Put_Deposit(report, results, moment);
 }
 
 }  // namespace barvon
