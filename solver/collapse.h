@@ -34,7 +34,8 @@ class Collapse {
   using Tell = std::function<void(std::size_t stop, const Cloud& cloud)>;
 
   /// From the end of a fall, or of a collapse at a level for one on the bed. On the bed it begins
-  /// with at most 0.9 of the depth for height. What leaves goes to `sources` and `deposits`.
+  /// with at most 0.9 of the depth for height. What leaves goes to `sources` and `deposits`. All
+  /// that is handed in by reference is looked at up to its end.
   Collapse(const Model_Input& input, const Water& water, Cloud start, bool on_bed, double until,
            const std::vector<double>& stops, double tolerance, Tell tell,
            std::vector<Source>& sources, std::vector<Deposit>& deposits);

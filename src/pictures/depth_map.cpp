@@ -2,8 +2,6 @@
 
 #include <qcustomplot.h>
 
-#include <utility>
-
 #include "pictures/grid_axes.h"
 #include "pictures/plot_parts.h"
 #include "pictures/shape_painter.h"
@@ -39,8 +37,8 @@ Depth_Map::Depth_Map(QWidget* parent)
   Data_Changed();
 }
 
-void Depth_Map::Show(Depth_Grid grid) {
-  grid_ = std::move(grid);
+void Depth_Map::Show(const Depth_Grid& grid) {
+  grid_ = grid;
   Data_Changed();
 }
 

@@ -15,7 +15,7 @@ class Depth_Map : public Plot_Picture {
  public:
   explicit Depth_Map(QWidget* parent = nullptr);
 
-  void Show(Depth_Grid grid);
+  void Show(const Depth_Grid& grid);
 
   /// What is drawn of it.
   const Depth_Drawing& Drawn();

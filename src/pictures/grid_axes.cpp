@@ -71,15 +71,16 @@ void Set_Cells(QCPColorMap& map, int rows, int columns, const std::vector<double
     return count == 1 ? QCPRange(0.75, 1.25) : QCPRange(1, std::max(count, 2));
   };
   const int halves_across = columns == 1 ? 2 : 1, halves_down = rows == 1 ? 2 : 1;
-  auto* data =
-      new QCPColorMapData(columns * halves_across, rows * halves_down, range(columns), range(rows));
-  for (int row = 0; row < data->valueSize(); ++row) {
+  // Cells of a grid of the same size stay where they are in memory: a map follows each key.
+  QCPColorMapData& data = *map.data();
+  data.setSize(columns * halves_across, rows * halves_down);
+  data.setRange(range(columns), range(rows));
+  for (int row = 0; row < data.valueSize(); ++row) {
     const std::size_t first = static_cast<std::size_t>(row / halves_down) * columns;
-    for (int column = 0; column < data->keySize(); ++column) {
-      data->setCell(column, row, values[first + (columns == 1 ? 0 : column)]);
+    for (int column = 0; column < data.keySize(); ++column) {
+      data.setCell(column, row, values[first + (columns == 1 ? 0 : column)]);
     }
   }
-  map.setData(data);
 }
 
 QPointF Place_Of_Cell(const QCustomPlot& plot, int row, int column) {

@@ -3,7 +3,6 @@
 #include <qcustomplot.h>
 
 #include <algorithm>
-#include <utility>
 
 #include "pictures/arrow_layer.h"
 #include "pictures/grid_axes.h"
@@ -43,8 +42,8 @@ Velocity_Arrows::Velocity_Arrows(QWidget* parent)
   Data_Changed();
 }
 
-void Velocity_Arrows::Show(Velocity_Grid grid) {
-  grid_ = std::move(grid);
+void Velocity_Arrows::Show(const Velocity_Grid& grid) {
+  grid_ = grid;
   Data_Changed();
 }
 

@@ -18,7 +18,7 @@ class Velocity_Arrows : public Plot_Picture {
  public:
   explicit Velocity_Arrows(QWidget* parent = nullptr);
 
-  void Show(Velocity_Grid grid);
+  void Show(const Velocity_Grid& grid);
 
   /// What is drawn of it, and the arrows at the present size.
   const Velocity_Drawing& Drawn();

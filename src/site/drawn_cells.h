@@ -29,4 +29,18 @@ inline std::vector<double> Drawn_Cells(const Spreadsheet_Table& table) {
   return cells;
 }
 
+/// What has become of a range, in the cells that were drawn of the table before: one that is typed
+/// into a large table asks for that one alone.
+inline void Follow_Cells(const Spreadsheet_Table& table, const Cell_Range& range,
+                         std::vector<double>& cells) {
+  const auto shared = Shared(range, {1, 1, table.MaxRow(), table.MaxCol()});
+  if (!shared) return;
+  for (int row = shared->row1; row <= shared->row2; ++row) {
+    for (int column = shared->col1; column <= shared->col2; ++column) {
+      const int index = (row - 1) * table.MaxCol() + column - 1;
+      cells[static_cast<std::size_t>(index)] = Drawn_Cell(table, row, column);
+    }
+  }
+}
+
 }  // namespace barvon

@@ -93,7 +93,12 @@ QWidget* Field_Panel::Build_Table(int i) {
   buttons->addWidget(csv.Export);
   buttons->addStretch();
   column->addLayout(buttons);
-  connect(F1Book2(i), &F1Book::Edited, this, &Field_Panel::Draw);
+  connect(F1Book2(i), &F1Book::Edited, this,
+          [this, i](int row, int column, int last_row, int last_column) {
+            std::vector<double>& drawn = i == kAlongX ? drawn_.x : drawn_.z;
+            Follow_Cells(F1Book2(i)->table(), {row, column, last_row, last_column}, drawn);
+            Show_Drawn();
+          });
   return part;
 }
 
@@ -145,8 +150,13 @@ void Field_Panel::Text2_Change(int i) {
 
 void Field_Panel::Draw() {
   const Spreadsheet_Table& x = F1Book2(kAlongX)->table();
-  arrows_->Show({x.MaxRow(), x.MaxCol(), Drawn_Cells(x), Drawn_Cells(F1Book2(kAlongZ)->table()),
-                 record_.DX0, record_.DZ0});
+  drawn_ = {x.MaxRow(),  x.MaxCol(), Drawn_Cells(x), Drawn_Cells(F1Book2(kAlongZ)->table()),
+            record_.DX0, record_.DZ0};
+  Show_Drawn();
+}
+
+void Field_Panel::Show_Drawn() {
+  arrows_->Show(drawn_);
   bool covered = false;
   for (int i = 0; i < kDirections; ++i) {
     const double constant = Constant(i);

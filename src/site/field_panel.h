@@ -29,12 +29,14 @@ class Field_Panel : public Velocity_Panel {
   void Check3D2_Click(int direction);
   void Text2_Change(int direction);
   void Draw();
+  void Show_Drawn();
 
   ControlArray<QCheckBox> Check3D2{this, "Check3D2", kDirections};
   ControlArray<QLineEdit> Text2{this, "Text2", kDirections};
   ControlArray<F1Book> F1Book2;
   std::vector<Grid_Csv_Buttons> csv_;  // one for each direction
   Velocity_Arrows* arrows_;
+  Velocity_Grid drawn_;  // what the arrows show of both tables
   std::array<Filled_Field, kDirections> filled_;
 };
 

@@ -142,10 +142,11 @@ void frmGridDescrip::Text1_Change() {
   Show_Remark();
 }
 
-void frmGridDescrip::F1Book1_EndEdit() {
+void frmGridDescrip::F1Book1_EndEdit(int row, int column, int last_row, int last_column) {
   // At once: what was edited must not hide behind the one depth, even after Cancel.
   record_.DEPTHI = 0;
-  Show_Map();
+  Follow_Cells(F1Book1->table(), {row, column, last_row, last_column}, drawn_.depths);
+  Show_Drawn();
 }
 
 void frmGridDescrip::Save() {
@@ -162,11 +163,17 @@ void frmGridDescrip::Imported() {
   // Or the one depth would stand over what was imported at the next opening.
   Check3D2->setChecked(false);
   Check3D2_Click();
-  F1Book1_EndEdit();
+  record_.DEPTHI = 0;
+  Show_Map();
 }
 
 void frmGridDescrip::Show_Map() {
-  map_->Show({size_.rows, size_.columns, Drawn_Cells(F1Book1->table())});
+  drawn_ = {size_.rows, size_.columns, Drawn_Cells(F1Book1->table())};
+  Show_Drawn();
+}
+
+void frmGridDescrip::Show_Drawn() {
+  map_->Show(drawn_);
   Show_Remark();
 }
 

@@ -34,10 +34,11 @@ class frmGridDescrip : public Input_Screen {
 
   void Check3D2_Click();
   void Text1_Change();
-  void F1Book1_EndEdit();
+  void F1Book1_EndEdit(int row, int column, int last_row, int last_column);
   void Save();
   void Imported();
   void Show_Map();
+  void Show_Drawn();
   void Show_Remark();
   Depth_Grid_Entry Entry() const;
 
@@ -52,6 +53,7 @@ class frmGridDescrip : public Input_Screen {
   QPushButton* Command2;
   F1Book* F1Book1;
   Depth_Map* map_;
+  Depth_Grid drawn_;  // what the map shows of the table
   Grid_Csv_Buttons csv_;
 };
 

@@ -1,11 +1,14 @@
+#include <algorithm>
 #include <optional>
 
 #include "core/desk/recent_files.h"
 #include "core/desk/settings_keys.h"
+#include "core/text_tools.h"
 #include "fuzz/readers.h"
 #include "material/material_library.h"
 #include "platform/files/profile_settings.h"
 #include "platform/files/text_encoding.h"
+#include "platform/text/letter_case.h"
 #include "workspace/tips_file.h"
 
 namespace barvon::fuzz {
@@ -20,7 +23,8 @@ std::vector<std::string> Settings() {
       "RecentFile3=Not Used\r\nRecentFile4=M\xFCnde.dui\r\n[Help Status]\r\nHelpOn = 1\r\n"
       "[Options]\r\nShow Tips at Startup=0\r\n\r\n[Graph File]\r\nGraphFile=/data/site\r\n"
       "[Simulation Type]\r\nSimType=2\r\n",
-      "\xEF\xBB\xBF[graph file]\n graphfile = 'x' \n[Graph File]\nGraphFile=second\n\x1A"};
+      "\xEF\xBB\xBF[graph file]\n graphfile = 'x' \n[Graph File]\nGraphFile=second\n\x1A",
+      "[Recent Files]\r\nRecentFile2=/data/new.dui\r\n"};
 }
 
 std::optional<std::string> Value(const char* section, const std::string& key) {
@@ -60,8 +64,14 @@ void Hold_Settings(std::string_view bytes) {
   const std::string once = Content(Settings_Path());
   Write_Profile_Strings(Settings_Path(), {{kGraphFileSection, kGraphFileKey, path}});
   Demand(Content(Settings_Path()) == once, "a setting that is there changes nothing");
-  WriteRecentFiles("/data/new.dui");
-  Demand(Value(kRecentFilesSection, "RecentFile1") != std::nullopt, "a recent file is written");
+  const std::string recent = "/data/new.dui";
+  const bool is_shown = std::ranges::any_of(Recent_Menu(), [&](const std::string& shown) {
+    return Upper_Case(Trimmed(shown)) == Upper_Case(recent);
+  });
+  WriteRecentFiles(recent);
+  // What the menu shows keeps its place, whichever it is.
+  Demand(is_shown || Value(kRecentFilesSection, "RecentFile1") == recent,
+         "a recent file is written first");
 }
 
 // ---- The library of materials

@@ -78,6 +78,25 @@ TEST(DepthMap, A_Change_Of_One_Depth_Is_Seen_At_Once) {
   EXPECT_EQ(before.pixelColor(other), after.pixelColor(other));
 }
 
+// One column is drawn as two halves: both grids have as many cells.
+TEST(DepthMap, Two_Columns_Behind_One_Have_Their_Places) {
+  Depth_Map map;
+  map.Show({3, 1, {10, 20, 30}});
+  const QImage one = Seen(map);
+  for (int row = 1; row <= 3; ++row) {
+    const QColor colour = one.pixelColor(map.Place_Of(row, 1).toPoint());
+    EXPECT_LT(Difference(colour, map.Colour_Of(10 * row)), 6) << row;
+  }
+  map.Show({3, 2, {10, 90, 20, 80, 30, 70}});
+  const QImage two = Seen(map);
+  for (int row = 1; row <= 3; ++row) {
+    const QColor left = two.pixelColor(map.Place_Of(row, 1).toPoint());
+    const QColor right = two.pixelColor(map.Place_Of(row, 2).toPoint());
+    EXPECT_LT(Difference(left, map.Colour_Of(10 * row)), 6) << row;
+    EXPECT_LT(Difference(right, map.Colour_Of(100 - 10 * row)), 6) << row;
+  }
+}
+
 TEST(DepthMap, An_Empty_Cell_Is_White) {
   Depth_Map map;
   Depth_Grid grid = Telling_Grid();

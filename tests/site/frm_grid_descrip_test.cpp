@@ -418,6 +418,8 @@ TEST_F(DepthScreen, Depths_Are_Mapped_Live) {
   EXPECT_EQ(Map()->Drawn().depths.at(2 * 12 + 6), 27.3);  // row 3, column 7
   Enter_Cell(3, 7, "44");
   EXPECT_EQ(Map()->Drawn().depths.at(2 * 12 + 6), 44);
+  Book()->Undo();
+  EXPECT_EQ(Map()->Drawn().depths.at(2 * 12 + 6), 27.3);
   Click(Check3D2());
   Enter("12");
   Click(Command2());

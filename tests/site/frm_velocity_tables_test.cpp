@@ -54,6 +54,34 @@ TEST_F(VelocityScreen, A_Field_Is_Entered_Cell_By_Cell) {
             (Fields{"DataSaved", "ScreenDataSupplied", "VelocityFieldX", "VelocityFieldZ"}));
 }
 
+TEST_F(VelocityScreen, Arrows_Follow_Typed_Pasted_And_Undone_Cells_Of_Both_Tables) {
+  Open(4);
+  auto* arrows = Child<Velocity_Arrows>("VelocityArrows");
+  Enter_Cell(F1Book2(0), 8, 9, "3");
+  Enter_Cell(F1Book2(1), 8, 9, "-4");
+  Enter_Cell(F1Book2(1), 2, 3, "2");
+  EXPECT_EQ(arrows->Drawn().x.at(7 * 9 + 8), 3);
+  EXPECT_EQ(arrows->Drawn().z.at(7 * 9 + 8), -4);
+  EXPECT_EQ(arrows->Drawn().z.at(1 * 9 + 2), 2);
+  EXPECT_EQ(arrows->Drawn().fastest, 5);
+  EXPECT_EQ(arrows->Drawn().slowest, 0);
+  F1Book2(1)->Undo();
+  EXPECT_EQ(arrows->Drawn().z.at(1 * 9 + 2), 0);
+  F1Book2(1)->Undo();
+  EXPECT_EQ(arrows->Drawn().fastest, 3);
+  F1Book2(1)->Redo();
+  EXPECT_EQ(arrows->Drawn().fastest, 5);
+  F1Book2(0)->table().SelectRange({7, 8, 8, 9});
+  F1Book2(0)->Copy();
+  F1Book2(1)->table().SelectRange({1, 1, 2, 2});
+  F1Book2(1)->Paste();
+  EXPECT_EQ(arrows->Drawn().z.at(0), 0);
+  EXPECT_EQ(arrows->Drawn().z.at(1 * 9 + 1), 3);
+  F1Book2(0)->table().SelectAll();
+  F1Book2(0)->Clear();
+  EXPECT_EQ(arrows->Drawn().left_out, 8 * 9) << "no point has both";
+}
+
 TEST_F(VelocityScreen, A_Tick_Without_A_Constant_Asks_For_One_And_Fills_With_0) {
   Open(4);
   constexpr const char* kTexts[] = {"Specify Velocity In The X-Direction",

@@ -77,6 +77,8 @@ TEST(AdditionsFile, Refuses_In_Words_With_The_Line) {
   EXPECT_EQ(Refused(std::string(kHead) + "Criterion: 1\r\nCriterion: 1\r\n"),
             "3: Criterion stands here a second time");
   EXPECT_EQ(Refused(std::string(kHead) + "Criterion: -1\r\n"), "2: Criterion is below 0");
+  EXPECT_EQ(Refused(std::string(kHead) + "Criterion: 1E+999\r\n"),
+            "2: 1E+999 is larger than any number");
   EXPECT_EQ(Refused(std::string(kHead) + "TideStart: 1\r\n"),
             "2: of TideStart, TideX and TideZ one is missing");
   EXPECT_EQ(Refused(std::string(kHead) + "DepthRow:" + Values(41, "10")),

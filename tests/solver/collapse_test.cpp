@@ -36,9 +36,10 @@ struct Spreading {
 
   std::vector<Cloud_State> Rows(bool on_bed, double until) {
     const Water water(input, {});
+    const std::vector<double> no_stops;
     Collapse collapse(
-        input, water, cloud, on_bed, until, {}, 1e-10, [](std::size_t, const Cloud&) {}, sources,
-        deposits);
+        input, water, cloud, on_bed, until, no_stops, 1e-10, [](std::size_t, const Cloud&) {},
+        sources, deposits);
     collapse.Advance(until);
     return collapse.Take_Phase().rows;
   }

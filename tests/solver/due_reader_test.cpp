@@ -150,6 +150,17 @@ TEST(Marker, Names_The_Model_Input) {
   EXPECT_EQ(Read_Marker("KOLBREE.TMP", marker), "TmpFile.Due");
   EXPECT_EQ(Refused([] { Read_Marker("KOLBREE.TMP", ""); }), "1: the marker line is missing");
   EXPECT_EQ(Refused([] { Read_Marker("KOLBREE.TMP", "DUE\r\n"); }), "1: the marker has six commas");
+  const auto changed = [&](std::size_t at, std::size_t count, const std::string& text) {
+    std::string other = marker;
+    other.replace(at, count, text);
+    return Refused([&] { Read_Marker("KOLBREE.TMP", other); });
+  };
+  EXPECT_EQ(changed(0, 3, "DUI"), "1: the marker is not one of a model input");
+  EXPECT_EQ(changed(6, 0, " "), "1: field 1 of the marker has 6 columns");
+  EXPECT_EQ(changed(marker.size() - 1, 0, " "), "1: field 6 of the marker has 27 columns");
+  const std::size_t name = marker.find("TmpFile ");
+  EXPECT_EQ(changed(name, 8, "        "), "1: the marker names no scratch file");
+  EXPECT_EQ(changed(name, 8, "../other"), "1: the marker names no scratch file");
 }
 
 }  // namespace

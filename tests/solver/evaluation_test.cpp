@@ -51,6 +51,18 @@ TEST(Evaluation, Compares_What_The_Input_Holds) {
             Texts{"criterion outside the disposal site"});
 }
 
+TEST(Evaluation, Tells_A_Limit_Of_0) {
+  Model_Input input = Case_Of(Evaluation::Criterion);
+  input.batches[0].fluid.criterion = 0;
+  EXPECT_EQ(Compared(input), Texts{"The criterion of the disposal site is 0: no verdict."});
+  input = Case_Of(Evaluation::Zone_Toxicity);
+  input.batches[0].fluid.dilution = input.batches[0].fluid.zid_dilution = 0;
+  EXPECT_EQ(Compared(input), Texts{"The dilution of the mixing zone is 0: no verdict."});
+  input.zid_asked = true;
+  EXPECT_EQ(Compared(input), (Texts{"The dilution of the mixing zone is 0: no verdict.",
+                                    "The limit of the ZID is 0: no verdict outside it."}));
+}
+
 TEST(Evaluation, Compares_Outside_The_Zid_Where_One_Is_Asked_For) {
   const std::string zone = "criterion outside the mixing zone";
   Model_Input input = Case_Of(Evaluation::Zone_Criterion);

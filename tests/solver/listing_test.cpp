@@ -90,6 +90,18 @@ TEST(Listing, Tells_What_It_Leaves_Out_Of_The_Times_And_Of_The_Depression) {
   EXPECT_TELLS(text, "The layers of what drifts out of the depression become as thin");
 }
 
+TEST(Listing, Tells_A_Disposal_Point_Off_The_Grid_And_Water_That_Is_Denser_Above) {
+  Model_Input input = Compared_Case(Evaluation::Tracer);
+  input.vessel_x = -500;
+  input.profile_depths = {0, 20, 60};
+  input.profile_densities = {1.02, 1.01, 1.03};
+  const std::string text = Told(input);
+  EXPECT_TELLS(text, "The disposal point lies off the grid.");
+  EXPECT_TELLS(text,
+               "The water is denser above than below between 0 and 20 ft: it counts as not layered "
+               "there.");
+}
+
 TEST(Listing, Tells_Where_The_Tides_Table_Does_Not_Reach) {
   Model_Input input = Compared_Case(Evaluation::Tracer);
   input.velocity_type = 5;

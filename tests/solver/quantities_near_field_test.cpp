@@ -228,7 +228,7 @@ TEST(WhatAQuantityDoes, Cohesive_Grains_Settle_As_Flocs) {
 
 TEST(WhatAQuantityDoes, A_Slope_Pushes_The_Bed_Cloud_Towards_Growing_X_Or_Z) {
   const auto end = [](const Model_Input& input) {
-    const Cloud_State& last = First_Of(input, Phase_Kind::Bed_Collapse).rows.back();
+    const Cloud_State last = First_Of(input, Phase_Kind::Bed_Collapse).rows.back();
     return last.x + last.z;
   };
   Expect_More(

@@ -63,6 +63,42 @@ TEST(Refusals, Tell_Which_Batch) {
             "31: SolidVolFraction[2] brings the sum of the fractions to 1, which must be below 1");
 }
 
+TEST(Refusals, Tell_A_Batch_That_Is_Next_To_Nothing) {
+  EXPECT_EQ(Refused([](Model_Input& i) { i.batches[0].volume = 1e-7; }),
+            "24: LayerVolume is 1e-07, less than 1e-06");
+  EXPECT_EQ(Refused([](Model_Input& i) { i.batches[0].volume = 0; }), "");
+}
+
+TEST(Refusals, Tell_Additions_That_The_Model_Cannot_Take) {
+  const auto refused = [](const std::function<void(Additions&)>& change) {
+    Additions additions;
+    additions.depths = {{30, -2}, {0, 0.01}};
+    additions.tide.emplace();
+    additions.tide->times = {-3600, 0};
+    additions.tide->x = additions.tide->z = {0, 1};
+    change(additions);
+    try {
+      Check_Values("Tmpfile.Add", additions);
+    } catch (const Refusal& refusal) {
+      return refusal.reason_;
+    }
+    return std::string();
+  };
+  EXPECT_EQ(refused([](Additions&) {}), "");
+  EXPECT_EQ(refused([](Additions& a) { a.criterion = 2e12; }), "Criterion is too large");
+  EXPECT_EQ(refused([](Additions& a) { a.zid_standard = 2e12; }), "ZidStandard is too large");
+  EXPECT_EQ(refused([](Additions& a) { a.depths[0][1] = -50000; }),
+            "a depth of -50000 ft is too large");
+  EXPECT_EQ(refused([](Additions& a) { a.depths[1][1] = 0.009; }),
+            "a depth of 0.009 ft is neither land nor water");
+  // 31 days of 24 hours.
+  EXPECT_EQ(refused([](Additions& a) { a.tide->times[0] = -2678400; }), "");
+  EXPECT_EQ(refused([](Additions& a) { a.tide->times[0] = -2678401; }),
+            "TideStart is too far from the pattern");
+  EXPECT_EQ(refused([](Additions& a) { a.tide->z[1] = -101; }),
+            "a tidal velocity of -101 ft/s is too large");
+}
+
 TEST(Refusals, Tell_A_Load_That_Is_None) {
   Model_Input input = Solver_Case();
   EXPECT_NO_THROW(Check_Load("x", input, 0));

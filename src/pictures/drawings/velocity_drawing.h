@@ -24,6 +24,7 @@ struct Velocity_Drawing {
   std::vector<double> x, z;    // as given
   std::vector<double> speeds;  // ft/s, row by row; NaN where nothing is drawn
   int left_out = 0;            // points with an empty cell or a value that cannot be drawn
+  double slowest = 0;          // ft/s
   double fastest = 0;          // ft/s
   double reference = 0;        // speed of the reference arrow, ft/s; 0 when there is none
   Axis_Scale scale;            // of the speeds, from 0

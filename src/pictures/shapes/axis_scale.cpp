@@ -33,16 +33,15 @@ std::string Text_Of(double value, std::chars_format format, int precision) {
 
 }  // namespace
 
-bool Can_Be_Drawn(double value) { return std::isfinite(value) && std::abs(value) <= kLargestDrawn; }
-
 std::optional<Value_Range> Range_Of(const std::vector<double>& values) {
-  std::optional<Value_Range> range;
+  constexpr double kBeyond = std::numeric_limits<double>::infinity();
+  Value_Range range{kBeyond, -kBeyond};
   for (const double value : values) {
     if (!Can_Be_Drawn(value)) continue;
-    if (!range) range = {value, value};
-    range->low = std::min(range->low, value);
-    range->high = std::max(range->high, value);
+    range.low = std::min(range.low, value);
+    range.high = std::max(range.high, value);
   }
+  if (range.low > range.high) return std::nullopt;
   return range;
 }
 

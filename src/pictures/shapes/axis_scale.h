@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,7 +11,7 @@ namespace barvon {
 inline constexpr double kLargestDrawn = 1e12;
 
 /// The value is a number that a picture can place: finite and not beyond kLargestDrawn.
-bool Can_Be_Drawn(double value);
+inline bool Can_Be_Drawn(double value) { return std::abs(value) <= kLargestDrawn; }
 
 struct Value_Range {
   double low = 0, high = 0;

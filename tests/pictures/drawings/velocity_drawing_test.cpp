@@ -29,6 +29,13 @@ TEST(VelocityDrawing, Speeds_Are_The_Length_Of_Both_Components) {
             "Col 1, slowest 0 ft/s.");
 }
 
+// The squares of such components are 0.
+TEST(VelocityDrawing, A_Speed_Below_What_Squares_Can_Hold_Is_Still_One) {
+  const Velocity_Drawing drawing = Draw_Velocities({1, 2, {3e-200, 0}, {4e-200, 0}, 200, 300});
+  EXPECT_DOUBLE_EQ(drawing.fastest, 5e-200);
+  EXPECT_EQ(drawing.slowest, 0);
+}
+
 // Parts of the fastest speed, 5: (4, 3) is (0.8, 0.6), 2 up is -0.4 down.
 TEST(VelocityDrawing, An_Arrow_Goes_Right_With_Z_And_Down_With_X) {
   const Velocity_Grid grid = Small_Grid();
