@@ -59,38 +59,40 @@ Trail::Place Trail::Centre_Of(const Mean& mean) const {
           {sum.spread.xx * part, sum.spread.xz * part, sum.spread.zz * part}};
 }
 
-void Trail::Leave(double top, double foot, std::vector<Source>& sources) {
+template <typename Put>
+void Trail::Leave(const Put& put) {
   for (std::size_t i = 0; i < means_.size(); ++i) {
     const double amount = begun_[i] - last_[i];
     if (amount == 0) continue;
     const Place place = Centre_Of(means_[i]);
-    const Plan_Moments spread{kPlanMoments * place.spread.xx, kPlanMoments * place.spread.xz,
-                              kPlanMoments * place.spread.zz};
-    sources.push_back({place.time, number_, i, amount, place.x, place.z, spread, top, foot, false});
+    put(i, amount, place,
+        Plan_Moments{kPlanMoments * place.spread.xx, kPlanMoments * place.spread.xz,
+                     kPlanMoments * place.spread.zz});
   }
   Next_Stretch();
+}
+
+void Trail::Leave_Between(double top, double foot, std::vector<Source>& sources) {
+  Leave([&](std::size_t species, double amount, const Place& place, const Plan_Moments& spread) {
+    sources.push_back(
+        {place.time, number_, species, amount, place.x, place.z, spread, top, foot, false});
+  });
 }
 
 void Trail::Leave_Sources(double bed, std::vector<Source>& sources) {
   const double foot = std::min(std::max(foot_, 0.0), bed);
-  Leave(std::clamp(top_, 0.0, foot), foot, sources);
+  Leave_Between(std::clamp(top_, 0.0, foot), foot, sources);
 }
 
 void Trail::Leave_From_Foot(double bed, std::vector<Source>& sources) {
   const double foot = std::min(std::max(foot_, 0.0), bed);
-  Leave(std::clamp(upper_foot_, 0.0, foot), foot, sources);
+  Leave_Between(std::clamp(upper_foot_, 0.0, foot), foot, sources);
 }
 
 void Trail::Leave_Deposits(std::vector<Deposit>& deposits) {
-  for (std::size_t i = 0; i < means_.size(); ++i) {
-    const double amount = begun_[i] - last_[i];
-    if (amount == 0) continue;
-    const Place place = Centre_Of(means_[i]);
-    const Plan_Moments spread{kPlanMoments * place.spread.xx, kPlanMoments * place.spread.xz,
-                              kPlanMoments * place.spread.zz};
-    deposits.push_back({place.time, i, amount, place.x, place.z, spread});
-  }
-  Next_Stretch();
+  Leave([&](std::size_t species, double amount, const Place& place, const Plan_Moments& spread) {
+    deposits.push_back({place.time, species, amount, place.x, place.z, spread});
+  });
 }
 
 }  // namespace companion

@@ -39,7 +39,10 @@ class Trail {
 
   static Place Of(const Cloud& cloud);
   Place Centre_Of(const Mean& mean) const;
-  void Leave(double top, double foot, std::vector<Source>& sources);
+  /// Ends the stretch: puts what each species has lost in it, with its mean place and plan.
+  template <typename Put>
+  void Leave(const Put& put);
+  void Leave_Between(double top, double foot, std::vector<Source>& sources);
   void Next_Stretch();
 
   std::size_t number_;

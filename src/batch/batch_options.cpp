@@ -25,6 +25,12 @@ std::nullopt_t Wrong(const std::string& why, int& exit_code) {
   return std::nullopt;
 }
 
+std::string Words_In_Order(const std::vector<std::string>& words) {
+  std::string text;
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
+  return text;
+}
+
 }  // namespace
 
 std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit_code) {
@@ -95,6 +101,9 @@ std::optional<Batch_Options> Parse_Command_Line(int argc, char** argv, int& exit
     app.exit(wanted);
     exit_code = kDone;
     return std::nullopt;
+  } catch (const CLI::ExtrasError&) {
+    // The library tells them from the last to the first.
+    return Wrong("not expected: " + Words_In_Order(app.remaining(true)), exit_code);
   } catch (const CLI::ParseError& wrong) {
     return Wrong(wrong.what(), exit_code);
   }

@@ -158,6 +158,11 @@ void Choose_Solver(Batch_Options& options) {
   const std::string delivered = Program_Folder(), own = Folder_For_Own_Files(delivered);
   if (options.solver == Solver_Choice::External_First) {
     options.solver = Chosen_Solver(command_line, own, delivered);
+    if (options.solver == Solver_Choice::External &&
+        !Has_External_Solver(command_line, own, delivered)) {
+      Say_Warning("", std::string("the companion solver, ") + kCompanionProgram +
+                          ", is missing in " + delivered);
+    }
   }
   options.solver_folder = options.solver == Solver_Choice::Companion
                               ? delivered

@@ -133,6 +133,12 @@ std::string Remark_On(const std::string& folder, const std::vector<std::string>&
   return {};
 }
 
+/// What is chosen where no external solver is.
+Solver_Choice Companion_Where_It_Is(const std::string& folder) {
+  return Matching_Files(folder, kCompanionProgram).empty() ? Solver_Choice::External
+                                                           : Solver_Choice::Companion;
+}
+
 Solver_Command Find_Companion(const std::string& folder) {
   if (const auto program = Program_In(folder, kCompanionProgram)) {
     return {{*program}, {}, {}, kCompanionName};
@@ -218,25 +224,29 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
   return found;
 }
 
+bool Has_External_Solver(const std::string& command_line, const std::string& application_folder,
+                         const std::string& delivered_folder) {
+  return Has_A_Program_Of(command_line, application_folder) ||
+         Has_A_Program_Of(command_line, delivered_folder);
+}
+
 Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& application_folder,
                             const std::string& delivered_folder) {
-  const bool has_external = Has_A_Program_Of(command_line, application_folder) ||
-                            Has_A_Program_Of(command_line, delivered_folder);
-  return has_external || Matching_Files(delivered_folder, kCompanionProgram).empty()
+  return Has_External_Solver(command_line, application_folder, delivered_folder)
              ? Solver_Choice::External
-             : Solver_Choice::Companion;
+             : Companion_Where_It_Is(delivered_folder);
 }
 
 Solver_Command Find_Solver(const std::string& command_line, Solver_Choice choice,
                            const std::string& application_folder,
                            const std::string& delivered_folder) {
-  const bool first = choice == Solver_Choice::External_First;
-  if (first) choice = Chosen_Solver(command_line, application_folder, delivered_folder);
+  const bool none_is_external =
+      choice == Solver_Choice::External_First &&
+      !Has_External_Solver(command_line, application_folder, delivered_folder);
+  if (none_is_external) choice = Companion_Where_It_Is(delivered_folder);
   if (choice == Solver_Choice::Companion) return Find_Companion(delivered_folder);
   Solver_Command found = Find_Solver_Command(command_line, application_folder, delivered_folder);
-  const bool has_external = Has_A_Program_Of(command_line, application_folder) ||
-                            Has_A_Program_Of(command_line, delivered_folder);
-  if (first && !has_external && found.command.empty()) {
+  if (none_is_external && found.command.empty()) {
     found.problem += std::string("; nor is ") + kCompanionProgram + " in " + delivered_folder;
   }
   return found;

@@ -48,9 +48,13 @@ Solver_Command Find_Solver_Command(const std::string& command_line,
                                    const std::string& application_folder,
                                    const std::string& delivered_folder);
 
-/// What External_First comes to: External where one of the folders has a file of the program's
-/// name, also one that can't be run here, or the delivered one has no companion. A launcher alone
-/// is no solver, wherever it stands.
+/// True when one of the folders has a file of the program's name, also one that can't be run here.
+/// A launcher alone is no solver, wherever it stands.
+bool Has_External_Solver(const std::string& command_line, const std::string& application_folder,
+                         const std::string& delivered_folder);
+
+/// What External_First comes to: External where there is one, or where the delivered folder has no
+/// companion.
 Solver_Choice Chosen_Solver(const std::string& command_line, const std::string& application_folder,
                             const std::string& delivered_folder);
 

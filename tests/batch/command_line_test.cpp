@@ -56,6 +56,13 @@ TEST_F(CommandLine, What_Makes_No_Sense_Is_Told_In_One_Line_And_Could_Not_Be_Don
   }
 }
 
+TEST_F(CommandLine, Words_That_Are_Not_Expected_Are_Told_As_They_Were_Typed) {
+  EXPECT_EQ(Batch({"--solver", "companion", "run", "x.DUI"}).err,
+            "barvon-run: not expected: --solver companion (see barvon-run --help)\n");
+  EXPECT_EQ(Batch({"run", "x.DUI", "--fast", "--now"}).err,
+            "barvon-run: not expected: --fast --now (see barvon-run --help)\n");
+}
+
 TEST_F(CommandLine, A_Full_Disk_Behind_Standard_Output_Is_Told) {
   Program_Start start = Start_Of({"--help"});
   start.command = {BARVON_RUN_PROGRAM, "show", "--json", "site.DUI"};

@@ -86,7 +86,21 @@ TEST_F(BatchCompanion, That_Is_Missing_Is_Told_Where_It_Is_Asked_For) {
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err, "site.DUI: Not run: the companion solver, barvon-solver, can't be run in " +
                             Path("program") + ".\n");
-  EXPECT_TRUE(Run_Site({}).err.starts_with("site.DUI: Not run: DOS4GW was found neither in "));
+}
+
+TEST_F(BatchCompanion, That_Is_Missing_Is_Told_Once_Where_No_Other_One_Is) {
+  std::filesystem::remove(Path("program/barvon-solver"));
+  Put_Sample(kBarge, "second.DUI");
+  for (const Lines& options : {Lines{"second.DUI"}, Lines{"second.DUI", "--jobs", "2"}}) {
+    const Lines told = Printed_Lines(Run_Site(options).err);
+    ASSERT_EQ(told.size(), 3u) << options.size();
+    EXPECT_EQ(told[0], "barvon-run: warning: the companion solver, barvon-solver, is missing in " +
+                           Path("program"));
+    EXPECT_TRUE(told[1].starts_with("site.DUI: Not run: DOS4GW was found neither in "));
+    EXPECT_TRUE(told[2].starts_with("second.DUI: Not run: DOS4GW was found neither in "));
+  }
+  Put_Program("merak32", "the other's");
+  EXPECT_EQ(Run_Site({}).err, "");
 }
 
 TEST_F(BatchCompanion, Runs_In_Jobs_Too) {
