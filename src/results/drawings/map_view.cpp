@@ -77,12 +77,7 @@ std::optional<Span> Span_Of_All(const Results& results, const Map_View& view) {
 }
 
 std::vector<double> Levels_For(const Span& span, bool logarithmic) {
-  if (logarithmic) {
-    std::vector<double> levels = Log_Levels(span.largest, span.base);
-    // A value that is hardly above the background has its levels between the two.
-    if (!levels.empty()) return levels;
-  }
-  return Even_Levels(span.base, span.largest);
+  return logarithmic ? Log_Levels(span.largest, span.base) : Even_Levels(span.base, span.largest);
 }
 
 double Largest_Size(const Cell_Values& cells) {
