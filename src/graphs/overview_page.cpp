@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "graphs/graph_names.h"
 #include "graphs/overview_data.h"
@@ -13,6 +14,7 @@
 #include "pictures/shapes/inks.h"
 #include "platform/qt/scrolled_part.h"
 #include "results/drawings/balance_drawing.h"
+#include "results/drawings/map_view.h"
 #include "results/drawings/maxima_drawing.h"
 #include "results/drawings/result_words.h"
 #include "results/summary.h"
@@ -223,6 +225,22 @@ void Overview_Page::Show_Small_Pictures() {
   const Maxima_Drawing maxima = Draw_Maxima(*shown_.own, nullptr, choice);
   small_[0]->Show([maxima](const Canvas& canvas) { return Maxima_Shapes(maxima, canvas); },
                   maxima.description);
+  const auto show_map = [&](Picture_Button* button, const Map_View& view) {
+    Map_Drawing map = Draw_Map(Content_Of(*shown_.own, nullptr, Nearest_View(*shown_.own, view)));
+    const std::string words = map.description;
+    map.summary.clear();  // in small there is room for the title
+    button->Show([map = std::move(map)](const Canvas& canvas) { return Map_Shapes(map, canvas); },
+                 words);
+  };
+  Map_View view;
+  view.species = moment.species;
+  view.depth = moment.depth;
+  view.time = moment.map_time;
+  show_map(small_[1], view);
+  view = {};
+  view.kind = Map_Kind::thickness;
+  view.time = moment.bed_time;
+  show_map(small_[2], view);
 }
 
 Picture* Overview_Page::Shown_Picture() { return balance_; }
