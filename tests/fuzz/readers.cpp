@@ -43,7 +43,7 @@ std::vector<Reader> Readers() {
   std::vector<Reader> all;
   for (const auto some :
        {Project_Readers(), Database_Readers(), Settings_Readers(), Left_File_Readers(),
-        Text_Readers(), Number_Readers(), Solver_Input_Readers()}) {
+        Text_Readers(), Number_Readers(), Solver_Input_Readers(), Result_Readers()}) {
     all.insert(all.end(), some.begin(), some.end());
   }
   return all;

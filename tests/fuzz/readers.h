@@ -32,6 +32,7 @@ std::span<const Reader> Left_File_Readers();
 std::span<const Reader> Text_Readers();
 std::span<const Reader> Number_Readers();
 std::span<const Reader> Solver_Input_Readers();
+std::span<const Reader> Result_Readers();
 
 /// The processor time in ms that an input may take to be read; beyond it is a find.
 inline constexpr double kLimitMs = 100;

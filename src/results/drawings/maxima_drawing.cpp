@@ -7,6 +7,7 @@
 
 #include "platform/text/counted.h"
 #include "results/csv_text.h"
+#include "results/drawings/map_words.h"
 #include "results/drawings/result_words.h"
 
 namespace barvon {
@@ -67,7 +68,7 @@ Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std
   drawn.of_other = source.of_other;
   if (limit.exceeded) drawn.exceeded = {{limit.first, limit.last}};
   drawn.words = drawn.name + ": " + Spans_Words(drawn.exceeded) + ", largest " +
-                Value_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
+                Reading_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
   return drawn;
 }
 
@@ -173,7 +174,7 @@ void Tell(Maxima_Drawing& drawing, const std::string& missing, double background
     const auto largest = std::ranges::max_element(curve.values, {}, &Timed_Value::value);
     if (largest == curve.values.end()) continue;
     Append(drawing.description, curve.name + ": largest " +
-                                    Value_Words(largest->value, drawing.unit) + " at " +
+                                    Reading_Words(largest->value, drawing.unit) + " at " +
                                     Time_Words(largest->time) + ".");
   }
   Append(drawing.description, drawing.note);
@@ -261,7 +262,7 @@ std::string Reading_Words(const Maxima_Drawing& drawing, double time) {
     if (!value) continue;
     const bool exact = Has_Time(curve, time);
     words += (words.empty() ? "" : "; ") + curve.name + (exact ? " " : " about ") +
-             Value_Words(*value, drawing.unit);
+             Reading_Words(*value, drawing.unit);
   }
   return words.empty() ? "" : Time_Words(time) + ": " + words;
 }

@@ -13,6 +13,7 @@ namespace {
 constexpr double kInset = 6;          // pixels, of words in the plot
 constexpr double kLimitStroke = 1.6;  // pixels
 constexpr double kReadMark = 5;       // pixels
+constexpr double kLeastLines = 16;    // of text, of a picture with a legend
 constexpr double kLabelPart = 0.8;    // of the height that the label of an axis may take
 
 /// How an area's curve looks: in colours that differ in lightness, with a marker of its own.
@@ -131,7 +132,8 @@ Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   Plot_Layout layout;
   layout.across = {drawing.time, "Time from the start (s)"};
   layout.upright = {drawing.value, Upright_Label(drawing, canvas)};
-  layout.legend = Legend_Of(drawing);
+  // A picture in small has room for its curves alone.
+  if (canvas.height >= kLeastLines * canvas.text_size) layout.legend = Legend_Of(drawing);
   return Plot_Frame(layout, canvas);
 }
 
