@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -50,6 +51,11 @@ class Opened {
     while (box.currentIndex() > index) QTest::keyClick(&box, Qt::Key_Up);
   }
   void Tick_Timer() { QMetaObject::invokeMethod(&Get<QTimer>("Playing"), "timeout"); }
+  /// The picture in words, when it has followed.
+  QString Words() {
+    QApplication::processEvents();
+    return page.Shown_Picture()->accessibleDescription();
+  }
   QString Name() { return page.Picture_Name(); }
 
   Page page;
@@ -239,8 +245,7 @@ TEST(ContourPage, Outputs_Without_Maps_Say_So_And_Come_Back) {
   contours.Show(none);
   EXPECT_FALSE(contours.page.Map_Shown());
   EXPECT_FALSE(contours.Box("cboSpecies").isEnabled());
-  EXPECT_EQ(contours.page.Shown_Picture()->accessibleDescription(),
-            "The outputs hold no maps of concentrations.");
+  EXPECT_EQ(contours.Words(), "The outputs hold no maps of concentrations.");
   EXPECT_EQ(contours.page.Numbers(), "");
   contours.Show(Mapped_Results());
   EXPECT_TRUE(contours.page.Map_Shown());
@@ -280,8 +285,7 @@ TEST(DepositPage, Without_A_Deposit_There_Are_No_Totals) {
   EXPECT_EQ(deposit.Get<QLabel>("Volume").text(), "");
   EXPECT_EQ(deposit.Get<QLabel>("Area").text(), "");
   EXPECT_FALSE(deposit.Get<QLineEdit>("txtThickness").isEnabled());
-  EXPECT_EQ(deposit.page.Shown_Picture()->accessibleDescription(),
-            "The outputs hold no maps of the deposit.");
+  EXPECT_EQ(deposit.Words(), "The outputs hold no maps of the deposit.");
 }
 
 }  // namespace
