@@ -23,7 +23,7 @@ namespace barvon {
 namespace {
 
 constexpr double kTitleSize = 1.25;  // of the program's letters
-constexpr int kBarLines = 3, kLeastBarLines = 11;
+constexpr int kBarLines = 3, kLeastBarLines = 9;
 
 QLabel* Told_Text(QVBoxLayout* column, const QString& name) {
   auto* label = new QLabel;

@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <cstddef>
 #include <ctime>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pictures/shapes/axis_scale.h"
@@ -56,7 +56,7 @@ void Put_Balance(Report_Maker& report, const Results& results) {
 }
 
 void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
-  report.Heading(2, "Maximum Concentration over Time");
+  report.Heading(2, "Max Conc. vs Time");
   if (results.maxima.empty()) {
     return report.Paragraph("The run has no concentrations: it ends with descent and collapse.");
   }
@@ -68,12 +68,21 @@ void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Mome
 /// By the scale of what is shown: the report has no other time of it.
 void Put_Map(Report_Maker& report, const Results& results, Map_View view) {
   view.same_scale = false;
-  report.Picture(Map_Shapes(Draw_Map(Content_Of(results, nullptr, view)), kReportMap));
+  Map_Content content = Content_Of(results, nullptr, view);
+  // It stands above the picture.
+  std::string title = std::exchange(content.title, {});
+  Shape_List picture = Map_Shapes(Draw_Map(std::move(content)), kReportMap);
+  picture.title = std::move(title);
+  report.Picture(std::move(picture));
 }
 
 void Put_Concentration(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
   if (results.maps.empty()) return;
-  report.Heading(2, "Concentration when It Is Highest");
+  report.Heading(2, "Concentration Contours");
+  if (moment.map_time != moment.time) {
+    report.Paragraph("The map that is nearest to the time of the largest value, " +
+                     Time_Words(moment.time) + ".");
+  }
   Map_View view;
   view.species = moment.species;
   view.depth = moment.depth;
@@ -83,7 +92,7 @@ void Put_Concentration(Report_Maker& report, const Results& results, const Telli
 
 void Put_Deposit(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
   if (Last_Bed(results) == nullptr) return;
-  report.Heading(2, "Deposit at the End");
+  report.Heading(2, "Deposition Thickness");
   Map_View view;
   view.kind = Map_Kind::thickness;
   view.time = moment.bed_time;

@@ -104,25 +104,34 @@ std::vector<Shape> Bands(const Maxima_Drawing& drawing, const Plot_Frame& frame)
   return bands;
 }
 
+// The limit and, where the line has room, when it is exceeded.
+std::string Words_On_Line(const Maxima_Limit& limit, const std::string& unit, double size,
+                          double room) {
+  const std::string value = Value_Words(limit.value, unit);
+  if (limit.exceeded.empty()) return value;
+  std::string all = value + ", exceeded";
+  if (limit.exceeded.size() == 1) {
+    all += " from " + Time_Words(std::round(limit.exceeded[0].from)) + " to " +
+           Time_Words(std::round(limit.exceeded[0].to));
+  }
+  return Text_Width(all, size) <= room ? all : value;
+}
+
 void Add_Limits(Shape_List& picture, const Maxima_Drawing& drawing, const Plot_Frame& frame,
                 double size) {
-  double baseline = frame.top() + kInset + 0.8 * size;
   for (const Maxima_Limit& limit : drawing.limits) {
     const Place from = frame.At(limit.from, limit.value);
     if (!Has_A_Place(from, frame)) continue;
     const double left = limit.from > 0 ? std::min(from.x, frame.right()) : frame.left();
     picture.shapes.push_back(
         Line_Shape{{{left, from.y}, {frame.right(), from.y}}, Limit_Stroke(limit)});
-    if (limit.exceeded.empty()) continue;
-    const Time_Span whole{limit.exceeded.front().from, limit.exceeded.back().to};
-    const std::string words =
-        limit.exceeded.size() > 1
-            ? "exceeded in several spans"
-            : "exceeded from " + Time_Words(whole.from) + " to " + Time_Words(whole.to);
-    if (Text_Width(words, size) > frame.right() - frame.left() - 2 * kInset) continue;
+    const double above = from.y - kInset / 2, below = from.y + size;
     picture.shapes.push_back(
-        Text_Shape{{frame.right() - kInset, baseline}, words, size, kWarnInk, Anchor::end});
-    baseline += 1.3 * size;
+        Text_Shape{{frame.right() - kInset, above - size < frame.top() ? below : above},
+                   Words_On_Line(limit, drawing.unit, size, frame.right() - frame.left() - kInset),
+                   size,
+                   kWarnInk,
+                   Anchor::end});
   }
 }
 
