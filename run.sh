@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 . packaging/build.sh
 
 barvon_install_packages packaging/debian-packages.txt
-barvon_build release barvon barvon-run barvon-solver
+barvon_build release barvon barvon-run barvon-solver kv_graph
 
 bin="$PWD/build/release/bin"
 demo="$PWD/build/demo"
@@ -60,7 +60,8 @@ echo "   Its verdicts:"
 section "VERDICTS"
 echo
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
-  echo "Opening the workbench. File, Open takes it to the projects in samples/ or in $demo."
+  echo "Opening the workbench. File, Open takes it to the projects in samples/ or in $demo;"
+  echo "there View Graphics shows the run of above."
   exec "$bin/barvon"
 fi
 echo "There is no display here; with one, this opens the workbench: $bin/barvon"

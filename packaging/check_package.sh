@@ -74,11 +74,11 @@ portable=$(ls -d "$work"/unpacked/barvon-*)
 [ "$(id -u)" -ne 0 ] || chown -R "$user:$user" "$portable"
 installed="$root/usr/lib/barvon"
 beside() { (cd "$1" && find . -maxdepth 1 -type f \( -name '*.dat' -o \
-  -name '*.HLP' -o -name 'TIP*' -o -name 'barvon*' \) -exec md5sum {} + | sort -k 2); }
-check "both hold the same program, help, tips, database and solver" \
+  -name '*.HLP' -o -name 'TIP*' -o -name 'barvon*' -o -name kv_graph \) -exec md5sum {} + | sort -k 2); }
+check "both hold the same programs, help, tips, database and solver" \
   diff <(beside "$installed") <(beside "$portable")
 check "that is the programs, the help, the tips, seven files of the database and the solver" \
-  test "$(beside "$portable" | wc -l)" = 12
+  test "$(beside "$portable" | wc -l)" = 13
 check "the desktop's files of the package pass" packaging/check_desktop.sh "$root/usr/share"
 check "the desktop's files of the archive pass" packaging/check_desktop.sh "$portable/share"
 check "every library that the programs need is a dependency that is installed here" \
@@ -150,7 +150,7 @@ check "nothing of the installed program has changed" \
 own="$work/window-home-installed/.local/share/barvon"
 # What the program writes beside it where it can: in the one folder, and in the other.
 written() { (cd "$1" && find . -maxdepth 1 -type f -printf '%f\n' | grep -vxE \
-  'barvon|barvon-run|barvon-solver|BARVON.HLP|TIPOFDAY.TXT|README.md|CHANGELOG.md' | sort); }
+  'barvon|barvon-run|barvon-solver|kv_graph|BARVON.HLP|TIPOFDAY.TXT|README.md|CHANGELOG.md' | sort); }
 check "the user's folder holds what the portable program keeps beside it" \
   diff <(written "$portable") <(written "$own")
 check "settings, scratch files and the database are among them" \

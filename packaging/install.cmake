@@ -15,7 +15,7 @@ set(made ${CMAKE_CURRENT_BINARY_DIR}/packaging)
 set(doc share/doc/barvon)
 
 # Beside the program.
-barvon_install(TARGETS SYSTEM lib/barvon PORTABLE . WHAT barvon barvon-run barvon-solver)
+barvon_install(TARGETS SYSTEM lib/barvon PORTABLE . WHAT barvon barvon-run barvon-solver kv_graph)
 barvon_install(FILES SYSTEM lib/barvon PORTABLE . WHAT ${BARVON_HELP_FILE} ${BARVON_BESIDE_PROGRAM})
 file(MAKE_DIRECTORY ${made}/bin)
 foreach(command barvon barvon-run)
@@ -84,7 +84,7 @@ writes the model input, starts a solver on it and keeps the outputs.
 .
 An external solver is taken where there is one. Otherwise the companion solver
 runs: a model of its own from general fluid dynamics, not a validated code for
-permits. barvon-run does the same without a window.")
+permits. kv_graph draws its outputs; barvon-run does all this without a window.")
 
 # Compressed as Debian wants it, and bearing the source's time rather than the build's.
 string(TIMESTAMP BARVON_BUILT_AT "%a, %d %b %Y %H:%M:%S +0000" UTC)

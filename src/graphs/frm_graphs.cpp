@@ -15,12 +15,11 @@
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/paths.h"
-#include "platform/qt/screen_window.h"
 
 namespace barvon {
 namespace {
 
-constexpr QSize kSize{1000, 720};
+constexpr QSize kSize{1120, 800};
 constexpr QSize kFrame{16, 48};   // what the desktop puts around a window, at most
 constexpr int kLookEvery = 1000;  // milliseconds
 constexpr double kTextStep = 1.1;
@@ -38,7 +37,7 @@ frmGraphs::frmGraphs(QWidget* parent)
       end_comparison_(new QPushButton(QStringLiteral("&No comparison"), pictures_)),
       tabs_(new QTabWidget(pictures_)),
       usual_text_(QApplication::font().pointSizeF()) {
-  Name_Screen(*this, "frmGraphs");
+  setObjectName(QStringLiteral("frmGraphs"));
   Build_Body();
   Build_Status();
   Show_Notice(Notice_Of_Nothing());
@@ -137,9 +136,11 @@ void frmGraphs::Take(Results_Or_Problem read) {
 }
 
 void frmGraphs::Compare() {
-  const auto path = Ask_Results("Compare With");
-  if (!path) return;
-  Watched_Outputs other(*path);
+  if (const auto path = Ask_Results("Compare With")) Compare_With(*path);
+}
+
+void frmGraphs::Compare_With(const std::string& path) {
+  Watched_Outputs other(path);
   Results_Or_Problem read = other.Read();
   if (const auto* problem = std::get_if<Result_Problem>(&read)) {
     Show_Warning("These results can't be compared with: " + problem->Words());

@@ -30,6 +30,8 @@ class frmGraphs : public QMainWindow {
   /// Asks for it. Nothing changes when that is called off.
   void Open();
   void Compare();
+  /// Tells in a box when these can't be compared with.
+  void Compare_With(const std::string& path);
   void End_Comparison();
   /// Looks whether outputs have been written since. A timer calls it.
   void Look_Again();

@@ -1,8 +1,8 @@
 #include "results/csv_text.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
+
+#include "results/plain_numbers.h"
 
 namespace barvon {
 namespace {
@@ -21,10 +21,7 @@ std::string Quoted(const std::string& cell) {
 
 std::string Csv_Number(double value) {
   if (!std::isfinite(value)) return "";
-  std::array<char, 40> buffer;
-  // Adding 0 makes a minus zero a zero.
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0);
-  return {buffer.data(), end.ptr};
+  return Shortest_Number(value + 0.0);  // a minus zero becomes a zero
 }
 
 std::string Csv_Line(const std::vector<std::string>& cells) {

@@ -178,7 +178,7 @@ std::vector<Time_Span> Spans_Above(const std::vector<Timed_Value>& series, doubl
   return spans;
 }
 
-Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed, double thicker_than) {
+Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed) {
   Deposit_Totals totals;
   const Cell_Values cells = Whole_Grid(grid, bed);
   const double cell = grid.spacing_x * grid.spacing_z;
@@ -186,7 +186,6 @@ Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed, double 
     for (int column = 1; column <= cells.columns; ++column) {
       const double thickness = cells.At(row, column);
       totals.volume += thickness * cell;
-      if (thickness > thicker_than) totals.area += cell;
       if (thickness <= totals.thickest) continue;
       totals.thickest = thickness;
       totals.x = (row - 1) * grid.spacing_x;

@@ -135,6 +135,10 @@ class Program:
                 return program
         return None
 
+    @staticmethod
+    def is_there(name):
+        return Program._on_bus(name) is not None
+
     def windows(self):
         return [w for w in children(self.root) if w is not None and is_seen(w)]
 

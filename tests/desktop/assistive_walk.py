@@ -326,6 +326,59 @@ class Walk:
         self.leave(errors, "Close")
 
 
+    def graphics(self):
+        """The graphics program by each entry of the main window's menu: on a project that was run,
+        and on one that was not."""
+        name = "Section_404_Zid.DUI"
+        run = [os.path.join(self.folder, "barvon-run"), "run", "--solver", "companion", name]
+        subprocess.run(run, cwd=self.folder, check=True)
+        self.open_project(name)
+        for entry, view in (("Execute Graphics", "Overview"),
+                            ("Max Conc. vs Time", "Max Conc. vs Time"),
+                            ("Concentration Contours", "Concentration Contours"),
+                            ("Deposition Thickness", "Deposition Thickness")):
+            self.program.menu("Graphics", entry)
+            with Graphics(self, name) as graphs:
+                graphs.expect_view(view)
+                self.look(graphs.window, view)
+                if view == "Overview":
+                    graphs.place()
+        self.open_project("Pipeline_Continuous.DUI")
+        self.program.press(self.program.main(), "View Graphics")
+        with Graphics(self, "Pipeline_Continuous.DUI") as graphs:
+            self.look(graphs.window, "no results")
+
+
+class Graphics:
+    """A window of the graphics program, which goes when the block is left."""
+
+    def __init__(self, tour, project):
+        self.tour = tour
+        self.title = f"BARVON Graphics - {project}"
+        self.program = Program("kv_graph")
+        self.window = self.program.window(self.title)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.program.menu_of(self.window, "File", "Close")
+        wait_for("the end of the graphics program", lambda: not Program.is_there("kv_graph"))
+
+    def expect_view(self, name):
+        tabs = find(self.window, "page tab list")
+        chosen = [t.name for t in children(tabs) if "selected" in states(t)]
+        if chosen != [name]:
+            self.tour.fault(f"the view in front is {chosen}, not {name}")
+
+    def place(self):
+        self.program.menu_of(self.window, "File", "Place of the grid...")
+        dialog = self.program.window("Place of the Grid")
+        self.tour.look(dialog)
+        self.program.press(dialog, "Cancel")
+        self.program.gone("Place of the Grid")
+
+
 def main():
     folder = sys.argv[1]
     program = subprocess.Popen([os.path.join(folder, "barvon")], cwd=folder)

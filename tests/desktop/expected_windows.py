@@ -36,6 +36,11 @@ EXPECTED = {
     "wizard": [f"BARVON Data Wizard - Step {page} of  8 (Hopper_Six_Openings.DUI), page {page}"
                for page in range(1, 9)],
     "depth_grid": ["Variable Depth Grid, over the site description"],
+    "graphics": [f"BARVON Graphics - Section_404_Zid.DUI, {view}" for view in
+                 ("Overview", "Max Conc. vs Time", "Concentration Contours",
+                  "Deposition Thickness")] + [
+                      "Place of the Grid",
+                      "BARVON Graphics - Pipeline_Continuous.DUI, no results"],
     "Hopper_Six_Openings.DUI": EVERY_PROJECT + HOPPER + NO_EVALUATION,
     "Section_103_Water_Quality.DUI":
         EVERY_PROJECT + BARGE + evaluation("Section 103 Regulatory Analysis"),

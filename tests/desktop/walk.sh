@@ -5,7 +5,7 @@
 # a control has no name, the wrong role or no value, can't be told from another or is out of reach,
 # and when a window that is expected was not seen.
 #
-#   tests/desktop/walk.sh [FOLDER OF barvon] [DISPLAY] [windows | journey | keys]
+#   tests/desktop/walk.sh [FOLDER OF barvon] [DISPLAY] [windows | graphics | journey | keys]
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . packaging/packages.sh
@@ -15,7 +15,7 @@ bin=$(cd "${1:-build/release/bin}" && pwd)
 display="${2:-:77}"
 what="${3:-all}"
 case "$what" in
-  all | windows | journey | keys) ;;
+  all | windows | graphics | journey | keys) ;;
   *)
     sed -n '/^#   /s/^# *//p' "$0" >&2
     exit 2
@@ -33,7 +33,7 @@ part() {
   local script="$1" folder
   shift
   folder=$(mktemp -d -p "$scratch")
-  cp "$bin"/{barvon,barvon-run,barvon-solver,BARVON.HLP} resources/TIPOFDAY.TXT samples/*.DUI \
+  cp "$bin"/{barvon,barvon-run,barvon-solver,kv_graph,BARVON.HLP} resources/TIPOFDAY.TXT samples/*.DUI \
     samples/database/*.dat "$folder"
   printf 'line 1\nline 2\nlast' >"$folder/walk.duo"
   printf 'heading\n%020000d\n' 0 >"$folder/long.duo"
@@ -50,6 +50,10 @@ if [ "$what" = all ] || [ "$what" = windows ]; then
   part assistive_walk.py Section_103_Water_Quality.DUI Section_404_Zid.DUI Section_404_Sediment.DUI \
     Barge_Four_Layers.DUI Tidal_Estuary.DUI || failed=1
   part assistive_walk.py Variable_96_By_96.DUI depth_grid || failed=1
+fi
+if [ "$what" = all ] || [ "$what" = graphics ]; then
+  part assistive_walk.py graphics || failed=1
+  part graphs_journey.py || failed=1
 fi
 if [ "$what" = all ] || [ "$what" = journey ]; then
   part assistive_journey.py || failed=1

@@ -158,8 +158,14 @@ Complaints Overlaps(const std::vector<QWidget*>& controls, const QWidget& window
     const bool of_tabs = qobject_cast<const QTabBar*>(control->parentWidget()) != nullptr;
     if (Holds_Text(control) && !of_tabs) texts.push_back(control);
   }
+  // What is scrolled away lies on nothing.
   const auto place = [&window](const QWidget* control) {
-    return QRect(control->mapTo(&window, QPoint(0, 0)), control->size());
+    QRect seen(control->mapTo(&window, QPoint(0, 0)), control->size());
+    for (const QWidget* around = control->parentWidget(); around != nullptr && around != &window;
+         around = around->parentWidget()) {
+      seen &= QRect(around->mapTo(&window, QPoint(0, 0)), around->size());
+    }
+    return seen;
   };
   for (std::size_t i = 0; i < texts.size(); ++i) {
     for (std::size_t k = 0; k < i; ++k) {

@@ -44,17 +44,22 @@ double Round_Number(int place) {
   return power >= 0 ? factor * std::pow(10, power) : factor / std::pow(10, -power);
 }
 
+bool Has_Span(double base, double largest) {
+  return Can_Be_Drawn(base) && Can_Be_Drawn(largest) &&
+         largest - base > kLeastSpan * std::max(std::abs(largest), std::abs(base));
+}
+
 }  // namespace
 
 std::vector<double> Log_Levels(double largest, double base) {
   std::vector<double> levels;
-  if (!Can_Be_Drawn(largest) || !(largest > kSmallestOnLog)) return levels;
-  int place = 3 * (static_cast<int>(std::floor(std::log10(largest))) + 1);
-  const double least = std::max(Can_Be_Drawn(base) ? base : 0, kSmallestOnLog);
+  if (!Has_Span(base, largest)) return levels;
+  const double excess = largest - base;
+  int place = 3 * (static_cast<int>(std::floor(std::log10(excess))) + 1);
   while (levels.size() < kMostLevels) {
-    const double level = Round_Number(place--);
-    if (!(level > least * (1 + kHair))) break;
-    if (level < largest * (1 - kHair)) levels.push_back(level);
+    const double above = Round_Number(place--);
+    if (!(above > kSmallestOnLog) || !Has_Span(base, base + above)) break;
+    if (above < excess * (1 - kHair)) levels.push_back(base + above);
   }
   std::ranges::reverse(levels);
   return levels;
@@ -62,9 +67,8 @@ std::vector<double> Log_Levels(double largest, double base) {
 
 std::vector<double> Even_Levels(double base, double largest) {
   std::vector<double> levels;
-  if (!Can_Be_Drawn(base) || !Can_Be_Drawn(largest)) return levels;
+  if (!Has_Span(base, largest)) return levels;
   const double span = largest - base;
-  if (!(span > kLeastSpan * std::max(std::abs(largest), std::abs(base)))) return levels;
   // The least round step that leaves no more levels than there may be.
   int place = 3 * (static_cast<int>(std::floor(std::log10(span / kMostLevels))) - 1);
   const auto first = [&] { return std::floor(base / Round_Number(place) + kHair) + 1; };

@@ -19,8 +19,9 @@ struct Colour_Scale {
 
 inline constexpr std::size_t kMostLevels = 8;
 
-/// 1, 2 and 5 times powers of ten below `largest`, the greatest of them, ascending: kMostLevels at
-/// most and all above `base`. None where `largest` is not above 0 and the base.
+/// Levels whose excess over `base` is 1, 2 or 5 times a power of ten: the greatest kMostLevels of
+/// them below `largest`, ascending. What is counted from a background shows faint clouds over a
+/// strong one too. None where `largest` is not above `base` by a millionth of both.
 std::vector<double> Log_Levels(double largest, double base);
 
 /// The whole multiples of a round step between the two, ends left out: kMostLevels at most. None

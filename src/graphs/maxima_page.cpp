@@ -1,0 +1,174 @@
+#include "graphs/maxima_page.h"
+
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/fields/number_field.h"
+#include "platform/qt/scrolled_part.h"
+#include "results/drawings/result_words.h"
+#include "results/plain_numbers.h"
+#include "results/telling_time.h"
+
+namespace barvon {
+namespace {
+
+constexpr char kHowToRead[] =
+    "Point at the plot, or press Left and Right in it, to read the values.";
+constexpr int kHeldLetters = 12;  // of the widest value that one types
+
+QLabel* Label_For(QWidget* field, const char* text) {
+  auto* label = new QLabel(QLatin1String(text));
+  label->setBuddy(field);
+  field->setAccessibleName(QString::fromLatin1(text).remove(QLatin1Char(':')));
+  return label;
+}
+
+}  // namespace
+
+Maxima_Page::Maxima_Page(QWidget* parent) : Graph_Page(parent) {
+  auto* contents = new QWidget;
+  auto* column = new QVBoxLayout(contents);
+  column->addWidget(Choices());
+  plot_ = new Maxima_Plot;
+  plot_->setObjectName(QStringLiteral("MaximaPlot"));
+  column->addWidget(plot_, 1);
+  reading_ = new QLabel(QLatin1String(kHowToRead));
+  reading_->setObjectName(QStringLiteral("Reading"));
+  reading_->setWordWrap(true);
+  reading_->setTextFormat(Qt::PlainText);
+  column->addWidget(reading_);
+  auto* page = new QVBoxLayout(this);
+  page->setContentsMargins(0, 0, 0, 0);
+  page->addWidget(new Scrolled_Part(contents));
+  connect(plot_, &Maxima_Plot::Read, this, [this](const QString& words) {
+    reading_->setText(words.isEmpty() ? QString::fromLatin1(kHowToRead) : words);
+    emit Told(words);
+  });
+}
+
+QWidget* Maxima_Page::Choices() {
+  auto* choices = new QWidget;
+  auto* rows = new QVBoxLayout(choices);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* what = new QHBoxLayout;
+  species_ = new QComboBox;
+  species_->setObjectName(QStringLiteral("Species"));
+  depth_ = new QComboBox;
+  depth_->setObjectName(QStringLiteral("Depth"));
+  held_ = new QLineEdit;
+  held_->setObjectName(QStringLiteral("HeldAgainst"));
+  Make_Number_Field(held_, [](const std::string& typed) -> std::string {
+    if (typed.empty() || Number_Of(typed)) return "";
+    return "no number: the curves are held against nothing";
+  });
+  held_->setMaximumWidth(2 * kHeldLetters * fontMetrics().averageCharWidth());
+  held_label_ = Label_For(held_, "Hold against:");
+  what->addWidget(Label_For(species_, "Species:"));
+  what->addWidget(species_);
+  what->addWidget(Label_For(depth_, "Depth:"));
+  what->addWidget(depth_);
+  what->addWidget(held_label_);
+  what->addWidget(held_);
+  what->addStretch();
+  rows->addLayout(what);
+  auto* curves = new QHBoxLayout;
+  inside_ = Add_Check("Inside the site", "Inside");
+  outside_ = Add_Check("Outside the site", "Outside");
+  outside_zid_ = Add_Check("Outside the ZID", "OutsideZid");
+  limits_ = Add_Check("Limits", "Limits");
+  logarithmic_ = Add_Check("Logarithmic", "Logarithmic");
+  logarithmic_->setChecked(false);
+  for (QCheckBox* check : {inside_, outside_, outside_zid_, limits_, logarithmic_}) {
+    curves->addWidget(check);
+    connect(check, &QCheckBox::toggled, this, &Maxima_Page::Draw);
+  }
+  curves->addStretch();
+  rows->addLayout(curves);
+  connect(species_, &QComboBox::currentIndexChanged, this, &Maxima_Page::Draw);
+  connect(depth_, &QComboBox::currentIndexChanged, this, &Maxima_Page::Draw);
+  connect(held_, &QLineEdit::textChanged, this, &Maxima_Page::Draw);
+  return choices;
+}
+
+QCheckBox* Maxima_Page::Add_Check(const char* caption, const char* name) {
+  auto* check = new QCheckBox(QLatin1String(caption));
+  check->setObjectName(QLatin1String(name));
+  check->setChecked(true);
+  return check;
+}
+
+void Maxima_Page::Show(const Shown_Results& shown) {
+  shown_ = shown;
+  Fill_Species();
+  Fill_Depths();
+  const auto either = [&](bool (*has)(const Results&)) {
+    return has(*shown_.own) || (shown_.other && has(*shown_.other));
+  };
+  const bool site = either(&Has_Site);
+  inside_->setVisible(site);
+  outside_->setVisible(site);
+  outside_zid_->setVisible(either(&Has_Zid));
+  limits_->setVisible(either([](const Results& results) { return !results.limits.empty(); }));
+  Draw();
+}
+
+void Maxima_Page::Fill_Species() {
+  const QSignalBlocker silent(species_);
+  const QString kept = species_->currentText();
+  species_->clear();
+  for (const Result_Species& species : shown_.own->species) {
+    species_->addItem(QString::fromStdString(species.name));
+  }
+  const int same = kept.isEmpty() ? -1 : species_->findText(kept);
+  const int telling = Telling_Moment_Of(*shown_.own).species - 1;
+  species_->setCurrentIndex(same >= 0 ? same : telling);
+  species_->setEnabled(species_->count() > 1);
+}
+
+void Maxima_Page::Fill_Depths() {
+  const QSignalBlocker silent(depth_);
+  const QVariant kept = depth_->currentData();
+  depth_->clear();
+  depth_->addItem(QStringLiteral("All, the largest"));
+  for (const double depth : Output_Depths(*shown_.own)) {
+    depth_->addItem(QString::fromStdString(Depth_Words(depth)), depth);
+  }
+  depth_->setCurrentIndex(kept.isValid() ? std::max(0, depth_->findData(kept)) : 0);
+}
+
+Maxima_Choice Maxima_Page::Chosen() const {
+  Maxima_Choice choice;
+  choice.species = species_->currentIndex() + 1;
+  if (depth_->currentData().isValid()) choice.depth = depth_->currentData().toDouble();
+  choice.logarithmic = logarithmic_->isChecked();
+  choice.inside = inside_->isChecked();
+  choice.outside = outside_->isChecked();
+  choice.outside_zid = outside_zid_->isChecked();
+  choice.limits = limits_->isChecked();
+  choice.held_against = Number_Of(held_->text().toStdString());
+  return choice;
+}
+
+void Maxima_Page::Draw() {
+  if (!shown_.own) return;
+  Maxima_Drawing drawing = Draw_Maxima(*shown_.own, shown_.other.get(), Chosen());
+  held_label_->setText(
+      drawing.unit.empty()
+          ? QStringLiteral("Hold against:")
+          : QStringLiteral("Hold against (%1):").arg(QString::fromStdString(drawing.unit)));
+  plot_->Show(std::move(drawing));
+  emit Changed();
+}
+
+Picture* Maxima_Page::Shown_Picture() { return plot_; }
+
+std::string Maxima_Page::Numbers() const { return Maxima_Csv(plot_->Drawn()); }
+
+QString Maxima_Page::Picture_Name() const {
+  return QString::fromStdString(plot_->Drawn().title) + QStringLiteral(" against time");
+}
+
+}  // namespace barvon

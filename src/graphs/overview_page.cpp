@@ -1,0 +1,256 @@
+#include "graphs/overview_page.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "graphs/graph_names.h"
+#include "graphs/overview_data.h"
+#include "pictures/shape_painter.h"
+#include "pictures/shapes/inks.h"
+#include "platform/qt/scrolled_part.h"
+#include "results/drawings/balance_drawing.h"
+#include "results/drawings/map_view.h"
+#include "results/drawings/maxima_drawing.h"
+#include "results/drawings/result_words.h"
+#include "results/summary.h"
+
+namespace barvon {
+namespace {
+
+constexpr double kTitleSize = 1.25;  // of the program's letters
+constexpr int kBarLines = 3, kLeastBarLines = 9;
+
+QLabel* Told_Text(QVBoxLayout* column, const QString& name) {
+  auto* label = new QLabel;
+  label->setObjectName(name);
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  column->addWidget(label);
+  return label;
+}
+
+void Write_In(QLabel* label, Colour ink) {
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, To_QColor(ink));
+  label->setPalette(palette);
+}
+
+QLabel* Heading(QVBoxLayout* column, const char* text) {
+  auto* label = new QLabel(QLatin1String(text));
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  column->addWidget(label);
+  return label;
+}
+
+}  // namespace
+
+Overview_Page::Overview_Page(QWidget* parent) : Graph_Page(parent) {
+  auto* contents = new QWidget;
+  auto* halves = new QHBoxLayout(contents);
+  halves->addWidget(Left_Half(), 1);
+  halves->addWidget(Right_Half());
+  auto* page = new QVBoxLayout(this);
+  page->setContentsMargins(0, 0, 0, 0);
+  page->addWidget(new Scrolled_Part(contents));
+}
+
+Overview_Page::Column Overview_Page::Add_Column(const char* suffix) {
+  Column column{};
+  column.box = new QWidget;
+  auto* rows = new QVBoxLayout(column.box);
+  rows->setContentsMargins(0, 0, 0, 0);
+  const auto text = [&](const char* name) {
+    return Told_Text(rows, QLatin1String(name) + QLatin1String(suffix));
+  };
+  column.title = text("Title");
+  QFont large = column.title->font();
+  large.setBold(true);
+  if (large.pointSizeF() > 0) large.setPointSizeF(kTitleSize * large.pointSizeF());
+  column.title->setFont(large);
+  column.made = text("Made");
+  column.warning = text("Warning");
+  Write_In(column.warning, kWarnInk);
+  Heading(rows, "Verdicts");
+  column.verdicts = text("Verdicts");
+  column.deposit = text("Deposit");
+  rows->addStretch();
+  columns_->addWidget(column.box, 1);
+  return column;
+}
+
+QWidget* Overview_Page::Left_Half() {
+  auto* half = new QWidget;
+  auto* rows = new QVBoxLayout(half);
+  rows->setContentsMargins(0, 0, 0, 0);
+  columns_ = new QHBoxLayout;
+  own_ = Add_Column("");
+  other_ = Add_Column("2");
+  rows->addLayout(columns_);
+  auto* when = new QHBoxLayout;
+  balance_time_ = new QComboBox;
+  balance_time_->setObjectName(QStringLiteral("BalanceTime"));
+  balance_time_->setAccessibleName(QStringLiteral("Balance"));
+  auto* label = new QLabel(QStringLiteral("Balance:"));
+  label->setBuddy(balance_time_);
+  when->addWidget(label);
+  when->addWidget(balance_time_);
+  when->addStretch();
+  rows->addLayout(when);
+  balance_ = new Bar_Picture(QStringLiteral("Balance"), QStringLiteral("balance"));
+  balance_->setObjectName(QStringLiteral("Balance"));
+  rows->addWidget(balance_, 1);
+  QLabel* largest = Heading(rows, "Largest values at the output times");
+  table_ = new QTableWidget;
+  table_->setObjectName(QStringLiteral("Largest"));
+  table_->setAccessibleName(largest->text());
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setTabKeyNavigation(false);
+  table_->verticalHeader()->hide();
+  table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rows->addWidget(table_);
+  connect(balance_time_, &QComboBox::currentIndexChanged, this, [this] {
+    Show_Balance();
+    emit Changed();
+  });
+  return half;
+}
+
+QWidget* Overview_Page::Right_Half() {
+  auto* half = new QWidget;
+  auto* rows = new QVBoxLayout(half);
+  rows->setContentsMargins(0, 0, 0, 0);
+  for (int view = 1; view < kGraphViews; ++view) {
+    const auto at = static_cast<std::size_t>(view);
+    auto* button = new Picture_Button(QLatin1String(kGraphNames[at]));
+    button->setObjectName(QStringLiteral("Open(%1)").arg(view));
+    connect(button, &QPushButton::clicked, this, [this, view] { emit Asked_For(view); });
+    rows->addWidget(button, 1);
+    small_[at - 1] = button;
+  }
+  return half;
+}
+
+void Overview_Page::Show(const Shown_Results& shown) {
+  shown_ = shown;
+  Show_Words();
+  Fill_Times();
+  Show_Balance();
+  Show_Table();
+  Show_Small_Pictures();
+  emit Changed();
+}
+
+void Overview_Page::Show_Words() {
+  const auto fill = [](const Column& column, const Overview_Words& words) {
+    column.title->setText(QString::fromStdString(words.title));
+    column.made->setText(QString::fromStdString(words.made));
+    column.warning->setText(QString::fromStdString(words.warning));
+    column.verdicts->setText(QString::fromStdString(words.verdicts));
+    column.deposit->setText(QString::fromStdString(words.deposit));
+  };
+  other_.box->setVisible(shown_.other != nullptr);
+  if (!shown_.other) {
+    fill(own_, Words_Of(*shown_.own, ""));
+    return;
+  }
+  const auto names = Project_Names(*shown_.own, *shown_.other);
+  fill(own_, Words_Of(*shown_.own, names.first));
+  fill(other_, Words_Of(*shown_.other, names.second));
+}
+
+void Overview_Page::Fill_Times() {
+  const QSignalBlocker silent(balance_time_);
+  const QVariant kept = balance_time_->currentData();
+  balance_time_->clear();
+  balance_time_->addItem(QStringLiteral("at the end"));
+  for (const double time : Balance_Times(*shown_.own)) {
+    balance_time_->addItem(QStringLiteral("at ") + QString::fromStdString(Time_Words(time)), time);
+  }
+  balance_time_->setCurrentIndex(kept.isValid() ? std::max(0, balance_time_->findData(kept)) : 0);
+}
+
+std::optional<double> Overview_Page::Balance_Time() const {
+  const QVariant time = balance_time_->currentData();
+  return time.isValid() ? std::optional(time.toDouble()) : std::nullopt;
+}
+
+void Overview_Page::Show_Balance() {
+  if (!shown_.own) return;
+  Bar_Chart chart = Balance_Chart(*shown_.own, shown_.other.get(), Balance_Time());
+  const int bars = static_cast<int>(chart.bars.size());
+  balance_->setMinimumHeight(fontMetrics().height() * std::max(kLeastBarLines, kBarLines * bars));
+  balance_->Show(std::move(chart));
+}
+
+void Overview_Page::Show_Table() {
+  const Overview_Table largest = Largest_Table(*shown_.own, shown_.other.get());
+  const int rows = static_cast<int>(largest.rows.size());
+  const int columns = static_cast<int>(largest.headings.size());
+  table_->clear();
+  table_->setRowCount(rows);
+  table_->setColumnCount(columns);
+  QStringList headings;
+  for (const std::string& heading : largest.headings) headings << QString::fromStdString(heading);
+  table_->setHorizontalHeaderLabels(headings);
+  for (int row = 0; row < rows; ++row) {
+    for (int column = 0; column < columns; ++column) {
+      const std::string& cell =
+          largest.rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+      table_->setItem(row, column, new QTableWidgetItem(QString::fromStdString(cell)));
+    }
+  }
+  table_->resizeColumnsToContents();
+  table_->resizeRowsToContents();
+  const int frame = 2 * table_->frameWidth();
+  table_->setMinimumSize(
+      table_->horizontalHeader()->length() + frame,
+      table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() + frame);
+  table_->setMaximumHeight(table_->minimumHeight());
+  table_->horizontalHeader()->setStretchLastSection(true);
+}
+
+void Overview_Page::Show_Small_Pictures() {
+  const Telling_Moment moment = Telling_Moment_Of(*shown_.own);
+  Maxima_Choice choice;
+  choice.species = moment.species;
+  const Maxima_Drawing maxima = Draw_Maxima(*shown_.own, nullptr, choice);
+  small_[0]->Show([maxima](const Canvas& canvas) { return Maxima_Shapes(maxima, canvas); },
+                  maxima.description);
+  const auto show_map = [&](Picture_Button* button, const Map_View& view) {
+    Map_Drawing map = Draw_Map(Content_Of(*shown_.own, nullptr, Nearest_View(*shown_.own, view)));
+    const std::string words = map.description;
+    map.summary.clear();  // in small there is room for the title
+    button->Show([map = std::move(map)](const Canvas& canvas) { return Map_Shapes(map, canvas); },
+                 words);
+  };
+  Map_View view;
+  view.species = moment.species;
+  view.depth = moment.depth;
+  view.time = moment.map_time;
+  show_map(small_[1], view);
+  view = {};
+  view.kind = Map_Kind::thickness;
+  view.time = moment.bed_time;
+  show_map(small_[2], view);
+}
+
+Picture* Overview_Page::Shown_Picture() { return balance_; }
+
+std::string Overview_Page::Numbers() const {
+  return Balance_Csv(*shown_.own, shown_.other.get(), Balance_Time());
+}
+
+QString Overview_Page::Picture_Name() const {
+  return QStringLiteral("Balance ") + balance_time_->currentText();
+}
+
+}  // namespace barvon

@@ -1,0 +1,286 @@
+#include "graphs/frm_graphs.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <filesystem>
+#include <optional>
+
+#include "graphs/graph_menus.h"
+#include "platform/ask/file_dialog.h"
+#include "platform/ask/help_viewer.h"
+#include "results/small_outputs.h"
+#include "support/screen_support.h"
+
+namespace barvon::testing {
+namespace {
+
+class FrmGraphs : public ::testing::Test {
+ protected:
+  FrmGraphs() {
+    Write_Outputs("bay");
+    former_ = Set_File_Dialog_Presenter({[this](const File_Request& request) {
+                                           titles.push_back(request.title);
+                                           return chosen;
+                                         },
+                                         {},
+                                         {},
+                                         {}});
+    Build_Graph_Menus(window);
+    window.show();
+  }
+  ~FrmGraphs() override { Set_File_Dialog_Presenter(former_); }
+
+  void Write_Outputs(const std::string& name) const {
+    Write_Text(folder / (name + ".dut"), kSmallSeries);
+    Write_Text(folder / (name + ".duc"), kSmallMaps);
+    Write_Text(folder / (name + ".dup"), kSmallPhases);
+  }
+  void Open_Bay(int view = kOverview) { window.Show_Results_Of(folder / "bay.DUI", view); }
+  template <class T>
+  T* Child(const char* name) {
+    return window.findChild<T*>(QLatin1String(name));
+  }
+  QAction* Action(const char* name) { return Child<QAction>(name); }
+  std::string Label(const char* name) { return Child<QLabel>(name)->text().toStdString(); }
+  /// What a timer does once the files rest.
+  void Look_Twice() {
+    window.Look_Again();
+    window.Look_Again();
+  }
+
+  Scratch_Folder folder;
+  const Qt_Services services;
+  std::optional<std::string> chosen;
+  std::vector<std::string> titles;
+  frmGraphs window;
+
+ private:
+  File_Dialog_Presenter former_;
+};
+
+TEST_F(FrmGraphs, Each_Type_Opens_Its_View) {
+  for (int view = 0; view < kGraphViews; ++view) {
+    Open_Bay(view);
+    EXPECT_EQ(window.tabs().currentIndex(), view);
+    EXPECT_NE(window.Page_In_Front(), nullptr);
+    EXPECT_TRUE(Action(("mnuGraph(" + std::to_string(view) + ")").c_str())->isChecked());
+  }
+  EXPECT_EQ(window.windowTitle(), "BARVON Graphics - bay.DUI");
+  EXPECT_EQ(Label("OwnTitle").rfind("M\xC3\xB6wenbank  (bay.DUI, run of ", 0), 0u);
+}
+
+TEST_F(FrmGraphs, Empty_It_Says_What_To_Do) {
+  EXPECT_EQ(window.Page_In_Front(), nullptr);
+  EXPECT_EQ(Label("Notice").rfind("No results are open.", 0), 0u);
+  EXPECT_FALSE(Child<QPushButton>("cmdListing")->isVisible());
+  for (const char* name : {"mnuCompare", "mnuNoComparison", "mnuSavePicture", "mnuSaveNumbers",
+                           "mnuPlace", "mnuPrint", "mnuGraph(0)"}) {
+    EXPECT_FALSE(Action(name)->isEnabled()) << name;
+  }
+  chosen = folder / "bay.DUI";
+  QTest::mouseClick(Child<QPushButton>("cmdOpen"), Qt::LeftButton);
+  EXPECT_EQ(titles, std::vector<std::string>{"Open Results"});
+  ASSERT_NE(window.Page_In_Front(), nullptr);
+  EXPECT_TRUE(Action("mnuCompare")->isEnabled());
+}
+
+TEST_F(FrmGraphs, Calling_The_Dialog_Off_Changes_Nothing) {
+  Action("mnuOpen")->trigger();
+  EXPECT_EQ(window.Page_In_Front(), nullptr);
+  Open_Bay(kContours);
+  Action("mnuOpen")->trigger();
+  Action("mnuCompare")->trigger();
+  EXPECT_EQ(titles.size(), 3u);
+  EXPECT_EQ(window.tabs().currentIndex(), kContours);
+  EXPECT_EQ(window.shown().other, nullptr);
+}
+
+TEST_F(FrmGraphs, Damaged_Outputs_Are_Told_With_File_Line_And_Reason) {
+  Write_Text(folder / "bay.dut", With(kSmallSeries, "PEAK   6.0", "PEAK   6.x"));
+  Open_Bay();
+  EXPECT_EQ(window.Page_In_Front(), nullptr);
+  EXPECT_NE(Label("Notice").find("bay.dut, line 13"), std::string::npos) << Label("Notice");
+}
+
+TEST_F(FrmGraphs, Outputs_Of_Another_Solver_Are_Told_And_Their_Listing_Is_Read) {
+  Write_Text(folder / "bay.dut", "ANOTHER SOLVER 3\r\n");
+  Write_Text(folder / "bay.duo", "first line\r\nsecond line\r\n");
+  Open_Bay();
+  EXPECT_NE(Label("Notice").find("are of another solver"), std::string::npos);
+  auto* listing = Child<QPushButton>("cmdListing");
+  ASSERT_TRUE(listing->isVisible());
+  QTest::mouseClick(listing, Qt::LeftButton);
+  EXPECT_TRUE(window.notice().view().isVisible());
+  EXPECT_TRUE(window.notice().view().Text_In_View().startsWith("first line\nsecond line"));
+  // Another project has another listing.
+  Open_Bay();
+  EXPECT_TRUE(window.notice().Listing_Is_Shown());
+  window.Show_Results_Of(folder / "none.DUI", kOverview);
+  EXPECT_FALSE(window.notice().Listing_Is_Shown());
+}
+
+TEST_F(FrmGraphs, A_Listing_That_Has_Gone_Is_Told) {
+  std::filesystem::remove(folder / "bay.dut");
+  Write_Text(folder / "bay.duo", "first line\r\n");
+  Open_Bay();
+  std::filesystem::remove(folder / "bay.duo");
+  const Scripted_Messages messages({Answer::Ok});
+  QTest::mouseClick(Child<QPushButton>("cmdListing"), Qt::LeftButton);
+  ASSERT_EQ(messages.shown.size(), 1u);
+  EXPECT_EQ(messages.shown[0].text,
+            "The listing " + (folder / "bay.duo") + " can't be read: No such file or directory.");
+  EXPECT_FALSE(window.notice().Listing_Is_Shown());
+}
+
+TEST_F(FrmGraphs, A_Text_Is_Found_In_The_Listing_By_Keys) {
+  std::filesystem::remove(folder / "bay.dut");
+  Write_Text(folder / "bay.duo", "first line\r\nsecond line\r\n");
+  Open_Bay();
+  window.notice().Show_Listing();
+  Action("mnuFind")->trigger();
+  auto* field = Child<QLineEdit>("FindText");
+  ASSERT_TRUE(field->isVisible());
+  QTest::keyClicks(field, "second");
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_EQ(window.notice().view().Marked_Text(), "second");
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_FALSE(field->isVisible());
+}
+
+TEST_F(FrmGraphs, Results_That_Come_Later_Take_The_Place_Of_The_Notice) {
+  std::filesystem::remove(folder / "bay.duc");
+  Open_Bay(kDeposit);
+  EXPECT_EQ(window.Page_In_Front(), nullptr);
+  Write_Outputs("bay");
+  Look_Twice();
+  ASSERT_NE(window.Page_In_Front(), nullptr);
+  EXPECT_EQ(window.tabs().currentIndex(), kDeposit);
+  EXPECT_EQ(Label("State").rfind("New outputs of bay.DUI, run of ", 0), 0u);
+}
+
+TEST_F(FrmGraphs, A_Run_Under_The_Window_Is_Shown_With_A_Word) {
+  Open_Bay(kMaxima);
+  EXPECT_EQ(Label("State"), "");
+  Write_Text(folder / "bay.dut", With(kSmallSeries, "Copper    ", "Silver    "));
+  window.Look_Again();
+  EXPECT_EQ(window.shown().own->species.at(1).name, "Copper");
+  window.Look_Again();
+  EXPECT_EQ(window.shown().own->species.at(1).name, "Silver");
+  EXPECT_EQ(window.tabs().currentIndex(), kMaxima);
+  EXPECT_EQ(Label("State").rfind("New outputs of bay.DUI", 0), 0u);
+}
+
+TEST_F(FrmGraphs, The_Picture_Stays_When_The_Outputs_Go_Or_Are_Damaged) {
+  Open_Bay(kContours);
+  const Results_Held before = window.shown().own;
+  std::filesystem::remove(folder / "bay.dut");
+  Look_Twice();
+  EXPECT_EQ(window.shown().own, before);
+  EXPECT_NE(window.Page_In_Front(), nullptr);
+  EXPECT_EQ(Label("State").rfind("Shown is the run of ", 0), 0u);
+  Write_Text(folder / "bay.dut", kSmallSeries.substr(0, 500));
+  Look_Twice();
+  EXPECT_EQ(window.shown().own, before);
+  EXPECT_NE(Label("State").find("bay.dut, line "), std::string::npos) << Label("State");
+  Write_Outputs("bay");
+  Look_Twice();
+  EXPECT_NE(window.shown().own, before);
+}
+
+TEST_F(FrmGraphs, Two_Results_Have_Both_Their_Titles_Until_The_Comparison_Ends) {
+  Open_Bay();
+  Write_Outputs("cove");
+  chosen = folder / "cove.dut";
+  Action("mnuCompare")->trigger();
+  ASSERT_NE(window.shown().other, nullptr);
+  EXPECT_TRUE(Child<QLabel>("OwnTitle")->isVisible());
+  EXPECT_TRUE(Child<QLabel>("OtherTitle")->isVisible());
+  EXPECT_EQ(Label("OtherTitle").rfind("Compared with: M\xC3\xB6wenbank  (cove.dut, run of ", 0),
+            0u);
+  EXPECT_TRUE(Action("mnuNoComparison")->isEnabled());
+  QTest::mouseClick(Child<QPushButton>("cmdNoComparison"), Qt::LeftButton);
+  EXPECT_EQ(window.shown().other, nullptr);
+  EXPECT_FALSE(Child<QLabel>("OtherTitle")->isVisible());
+  EXPECT_FALSE(Child<QPushButton>("cmdNoComparison")->isVisible());
+  EXPECT_FALSE(Action("mnuNoComparison")->isEnabled());
+}
+
+TEST_F(FrmGraphs, What_Can_Not_Be_Compared_With_Is_Told_And_Leaves_All_As_It_Was) {
+  Open_Bay();
+  chosen = folder / "none.DUI";
+  const Scripted_Messages messages({Answer::Ok});
+  Action("mnuCompare")->trigger();
+  ASSERT_EQ(messages.shown.size(), 1u);
+  EXPECT_EQ(messages.shown[0].text.rfind("These results can't be compared with: none.dut", 0), 0u);
+  EXPECT_EQ(window.shown().other, nullptr);
+  EXPECT_NE(window.Page_In_Front(), nullptr);
+}
+
+TEST_F(FrmGraphs, A_Run_Of_The_Other_Project_Is_Shown_Too) {
+  Open_Bay();
+  Write_Outputs("cove");
+  chosen = folder / "cove.DUI";
+  window.Compare();
+  Write_Text(folder / "cove.dut", With(kSmallSeries, "Copper    ", "Silver    "));
+  Look_Twice();
+  EXPECT_EQ(window.shown().other->species.at(1).name, "Silver");
+  EXPECT_EQ(Label("State").rfind("New outputs of cove.DUI", 0), 0u);
+  std::filesystem::remove(folder / "cove.duc");
+  Look_Twice();
+  EXPECT_EQ(window.shown().other->species.at(1).name, "Silver");
+  EXPECT_EQ(Label("State").rfind("Shown is the run of ", 0), 0u);
+}
+
+TEST_F(FrmGraphs, Keys_Reach_Each_View) {
+  Open_Bay();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (int view = kGraphViews - 1; view >= 0; --view) {
+    QTest::keyClick(&window, static_cast<Qt::Key>(Qt::Key_1 + view), Qt::ControlModifier);
+    EXPECT_EQ(window.tabs().currentIndex(), view);
+    EXPECT_TRUE(window.tabs().tabBar()->hasFocus());
+  }
+  QTest::keyClick(window.tabs().tabBar(), Qt::Key_Right);
+  EXPECT_EQ(window.tabs().currentIndex(), 1);
+}
+
+TEST_F(FrmGraphs, F1_Opens_The_Page_Of_The_Graphics) {
+  std::vector<int> topics;
+  const Help_Presenter former = Set_Help_Presenter(
+      [&topics](const Help_Request& request) { topics.push_back(request.topic); });
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_F1);
+  Set_Help_Presenter(former);
+  EXPECT_EQ(topics, std::vector<int>{kGraphicsTopic});
+}
+
+TEST_F(FrmGraphs, Texts_Grow_And_Shrink_And_Come_Back) {
+  const double usual = QApplication::font().pointSizeF();
+  Action("mnuLarger")->trigger();
+  EXPECT_GT(QApplication::font().pointSizeF(), usual);
+  for (int i = 0; i < 40; ++i) Action("mnuLarger")->trigger();
+  EXPECT_LT(QApplication::font().pointSizeF(), 2.2 * usual);
+  Action("mnuUsual")->trigger();
+  EXPECT_DOUBLE_EQ(QApplication::font().pointSizeF(), usual);
+  Action("mnuSmaller")->trigger();
+  EXPECT_LT(QApplication::font().pointSizeF(), usual);
+  Action("mnuUsual")->trigger();
+}
+
+TEST_F(FrmGraphs, Closing_The_Window_Takes_The_Help_Along) {
+  std::vector<Help_Command> commands;
+  const Help_Presenter former = Set_Help_Presenter(
+      [&commands](const Help_Request& request) { commands.push_back(request.command); });
+  Action("mnuClose")->trigger();
+  Set_Help_Presenter(former);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(commands, std::vector<Help_Command>{Help_Command::Quit});
+}
+
+}  // namespace
+}  // namespace barvon::testing
