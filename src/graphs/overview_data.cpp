@@ -12,8 +12,6 @@
 namespace barvon {
 namespace {
 
-constexpr double kNotable = 0.1;  // ft, as in the solver's listing
-
 std::string Warning_Of(const Results& results) {
   constexpr char kBetween[] = " - ";
   const auto at = results.label.find(kBetween);
@@ -35,13 +33,12 @@ std::string Verdicts_Of(const Results& results) {
 std::string Deposit_Of(const Results& results) {
   const Result_Map* bed = Last_Bed(results);
   if (bed == nullptr) return "The outputs hold no deposit.";
-  const Deposit_Totals totals = Totals_Of(results.grid, *bed, kNotable);
+  const Deposit_Totals totals = Totals_Of(results.grid, *bed);
   const std::string at = "Deposit at " + Time_Words(bed->time) + ": ";
   if (!(totals.thickest > 0)) return at + "none on the grid.";
   return at + "thickest " + Reading_Words(totals.thickest, "ft") + " at " +
          Place_Words({totals.x, totals.z}) + "; " + Reading_Words(totals.volume, "ft3") +
-         " on the grid, voids included; " + Reading_Words(totals.area, "ft2") + " thicker than " +
-         Value_Words(kNotable, "ft") + ".";
+         " on the grid, voids included.";
 }
 
 /// The columns of areas that are there.
