@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -243,6 +244,36 @@ void frmGraphs::Change_Text_Size(int steps) {
   QFont font = QApplication::font();
   font.setPointSizeF(usual_text_ * std::pow(kTextStep, text_steps_));
   QApplication::setFont(font);
+}
+
+/// Names too wide for one line of tabs stand in two: large letters on a small display.
+void frmGraphs::Fit_Tab_Names() {
+  const QTabBar& bar = *tabs_->tabBar();
+  const QFontMetrics letters = bar.fontMetrics();
+  int width = 0;
+  for (const char* name : kGraphNames) {
+    width += letters.horizontalAdvance(QLatin1String(name)) +
+             style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, &bar);
+  }
+  const bool in_two = width > this->width();
+  for (int i = 0; i < kGraphViews; ++i) {
+    QString name = QLatin1String(kGraphNames[static_cast<std::size_t>(i)]);
+    tabs_->tabBar()->setAccessibleTabName(i, name);
+    // At the blank that leaves the upper line the longer one, and the lower one a sense.
+    const auto blank = name.indexOf(QLatin1Char(' '), name.size() / 2);
+    if (in_two && blank > 0) name[blank] = QLatin1Char('\n');
+    if (tabs_->tabText(i) != name) tabs_->setTabText(i, name);
+  }
+}
+
+void frmGraphs::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Fit_Tab_Names();
+}
+
+void frmGraphs::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Fit_Tab_Names();
 }
 
 void frmGraphs::closeEvent(QCloseEvent* event) {

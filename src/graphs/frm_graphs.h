@@ -55,6 +55,8 @@ class frmGraphs : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void Build_Body();
@@ -65,6 +67,7 @@ class frmGraphs : public QMainWindow {
   void Fill_Page_In_Front();
   void Show_Notice(const Graph_Notice& notice);
   void Show_Titles();
+  void Fit_Tab_Names();
   void Look_At_Own();
   void Look_At_Other();
 

@@ -17,7 +17,6 @@ namespace {
 
 constexpr char kHowToRead[] =
     "Point at the plot, or press Left and Right in it, to read the values.";
-constexpr int kHeldLetters = 12;  // of the widest value that one types
 
 QLabel* Label_For(QWidget* field, const char* text) {
   auto* label = new QLabel(QLatin1String(text));
@@ -64,7 +63,7 @@ QWidget* Maxima_Page::Choices() {
     if (typed.empty() || Number_Of(typed)) return "";
     return "no number: the curves are held against nothing";
   });
-  held_->setMaximumWidth(2 * kHeldLetters * fontMetrics().averageCharWidth());
+  held_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   held_label_ = Label_For(held_, "Hold against:");
   what->addWidget(Label_For(species_, "Species:"));
   what->addWidget(species_);

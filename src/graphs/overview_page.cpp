@@ -1,5 +1,6 @@
 #include "graphs/overview_page.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -22,8 +23,15 @@
 namespace barvon {
 namespace {
 
-constexpr double kTitleSize = 1.25;  // of the program's letters
-constexpr int kBarLines = 3, kLeastBarLines = 9;
+constexpr double kTitleSize = 1.25;           // of the program's letters
+constexpr int kBarLines = 2, kAxisLines = 6;  // of the program's text
+
+/// As high as it must be: the page scrolls only where it has to.
+class Balance_Bars : public Bar_Picture {
+ public:
+  Balance_Bars() : Bar_Picture(QStringLiteral("Balance"), QStringLiteral("balance")) {}
+  QSize sizeHint() const override { return {Bar_Picture::sizeHint().width(), minimumHeight()}; }
+};
 
 QLabel* Told_Text(QVBoxLayout* column, const QString& name) {
   auto* label = new QLabel;
@@ -71,10 +79,6 @@ Overview_Page::Column Overview_Page::Add_Column(const char* suffix) {
     return Told_Text(rows, QLatin1String(name) + QLatin1String(suffix));
   };
   column.title = text("Title");
-  QFont large = column.title->font();
-  large.setBold(true);
-  if (large.pointSizeF() > 0) large.setPointSizeF(kTitleSize * large.pointSizeF());
-  column.title->setFont(large);
   column.made = text("Made");
   column.warning = text("Warning");
   Write_In(column.warning, kWarnInk);
@@ -104,7 +108,7 @@ QWidget* Overview_Page::Left_Half() {
   when->addWidget(balance_time_);
   when->addStretch();
   rows->addLayout(when);
-  balance_ = new Bar_Picture(QStringLiteral("Balance"), QStringLiteral("balance"));
+  balance_ = new Balance_Bars;
   balance_->setObjectName(QStringLiteral("Balance"));
   rows->addWidget(balance_, 1);
   QLabel* largest = Heading(rows, "Largest values at the output times");
@@ -145,6 +149,7 @@ void Overview_Page::Show(const Shown_Results& shown) {
   Fill_Times();
   Show_Balance();
   Show_Table();
+  Fit_To_Letters();
   Show_Small_Pictures();
   emit Changed();
 }
@@ -186,8 +191,6 @@ std::optional<double> Overview_Page::Balance_Time() const {
 void Overview_Page::Show_Balance() {
   if (!shown_.own) return;
   Bar_Chart chart = Balance_Chart(*shown_.own, shown_.other.get(), Balance_Time());
-  const int bars = static_cast<int>(chart.bars.size());
-  balance_->setMinimumHeight(fontMetrics().height() * std::max(kLeastBarLines, kBarLines * bars));
   balance_->Show(std::move(chart));
 }
 
@@ -208,6 +211,18 @@ void Overview_Page::Show_Table() {
       table_->setItem(row, column, new QTableWidgetItem(QString::fromStdString(cell)));
     }
   }
+}
+
+// Parts that have a size of their own in letters.
+void Overview_Page::Fit_To_Letters() {
+  QFont large = font();
+  large.setBold(true);
+  if (large.pointSizeF() > 0) large.setPointSizeF(kTitleSize * large.pointSizeF());
+  for (const Column& column : {own_, other_}) column.title->setFont(large);
+  const int bars = static_cast<int>(balance_->Drawn().chart.bars.size());
+  balance_->setMinimumHeight(fontMetrics().height() * (kAxisLines + kBarLines * bars));
+  balance_->updateGeometry();
+  table_->horizontalHeader()->setStretchLastSection(false);
   table_->resizeColumnsToContents();
   table_->resizeRowsToContents();
   const int frame = 2 * table_->frameWidth();
@@ -216,6 +231,11 @@ void Overview_Page::Show_Table() {
       table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() + frame);
   table_->setMaximumHeight(table_->minimumHeight());
   table_->horizontalHeader()->setStretchLastSection(true);
+}
+
+void Overview_Page::changeEvent(QEvent* event) {
+  Graph_Page::changeEvent(event);
+  if (event->type() == QEvent::FontChange && shown_.own) Fit_To_Letters();
 }
 
 void Overview_Page::Show_Small_Pictures() {

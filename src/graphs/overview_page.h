@@ -27,6 +27,9 @@ class Overview_Page : public Graph_Page {
   std::string Numbers() const override;
   QString Picture_Name() const override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   /// What is said of one of the runs, in a column of its own.
   struct Column {
@@ -41,6 +44,7 @@ class Overview_Page : public Graph_Page {
   void Fill_Times();
   void Show_Balance();
   void Show_Table();
+  void Fit_To_Letters();
   void Show_Small_Pictures();
   std::optional<double> Balance_Time() const;
 

@@ -19,6 +19,12 @@ namespace barvon {
 namespace {
 
 constexpr double kBarHeight = 42, kBesideBars = 110;  // pixels
+constexpr Canvas kResultMap = {620, 370, 12};         // two of them on a page
+constexpr double kTold = 1e-6;                        // of what was released: less is told as 0
+
+std::string Amount(double amount, const Species_Balance& of) {
+  return Short_Text(amount < kTold * of.released ? 0 : amount);
+}
 
 /// A verdict has lines of its own that begin further in: here they are one paragraph.
 std::vector<std::string> Verdicts_Of(const Results& results) {
@@ -46,7 +52,7 @@ void Put_Balance(Report_Maker& report, const Results& results) {
   for (const Species_Balance& row : Balance_At_End(results)) {
     table.rows.push_back(
         {{results.species[static_cast<std::size_t>(row.species - 1)].name, Short_Text(row.released),
-          Short_Text(row.suspended), Short_Text(row.on_grid), Short_Text(row.off_grid),
+          Amount(row.suspended, row), Amount(row.on_grid, row), Amount(row.off_grid, row),
           Amount_Unit(results, row.species)}});
   }
   report.Table(std::move(table));
@@ -71,7 +77,7 @@ void Put_Map(Report_Maker& report, const Results& results, Map_View view) {
   Map_Content content = Content_Of(results, nullptr, view);
   // It stands above the picture.
   std::string title = std::exchange(content.title, {});
-  Shape_List picture = Map_Shapes(Draw_Map(std::move(content)), kReportMap);
+  Shape_List picture = Map_Shapes(Draw_Map(std::move(content)), kResultMap);
   picture.title = std::move(title);
   report.Picture(std::move(picture));
 }

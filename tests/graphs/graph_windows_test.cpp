@@ -17,6 +17,8 @@ namespace {
 
 using Look = std::function<void(QWidget& window, const std::string& state)>;
 
+constexpr QSize kSmallDisplay{1024, 720};  // less what a desktop takes for itself
+
 /// Letters of another size for a while.
 class Letters_Of {
  public:
@@ -50,6 +52,7 @@ class GraphWindows : public ::testing::TestWithParam<double> {
     const Qt_Services services;
     frmGraphs window;
     Build_Graph_Menus(window);
+    window.resize(kSmallDisplay);
     window.show();
     const auto settled = [&](QWidget& shown, const std::string& state) {
       if (!QTest::qWaitForWindowExposed(&shown)) ADD_FAILURE() << state << " stays hidden";

@@ -113,7 +113,6 @@ TEST(MaximaPage, The_Pointer_Reads_The_Nearest_Output_Time) {
   const QString words = "200 s (3.3 min): inside the site 4 mg/l; outside the site 3 mg/l";
   EXPECT_EQ(bench.Reading(), words);
   EXPECT_EQ(told.last().first().toString(), words);
-  EXPECT_EQ(bench.Plot()->Tip_At(bench.Plot()->Place_Of(190, 3)), words);
   EXPECT_EQ(bench.Plot()->Read_Time(), 200);
 }
 

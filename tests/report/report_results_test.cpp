@@ -109,6 +109,17 @@ TEST_F(ReportResults, Solver_Verdicts_And_Balance_Are_Told) {
             (std::vector<std::string>{"Copper", "50", "50", "0", "0", "% ft3"}));
 }
 
+// A millionth of what was released is more than the outputs' digits tell.
+TEST_F(ReportResults, Next_To_Nothing_Is_Told_As_None) {
+  std::string series = Read_Text(folder / "Bank.dut");
+  const std::string last = "6.000000e+01  2.000000e+01  1.000000e+02";
+  Write_Text(folder / "Bank.dut", With(series, last, "6.000000e+01  9.000000e-05  1.000000e+02"));
+  const auto tables = All<Report_Table>(Chapter(Report()));
+  EXPECT_EQ(tables[1].rows[0].cells[4], "0");
+  Write_Text(folder / "Bank.dut", With(series, last, "6.000000e+01  2.000000e-04  1.000000e+02"));
+  EXPECT_EQ(All<Report_Table>(Chapter(Report()))[1].rows[0].cells[4], "0.0002");
+}
+
 // Copper alone has a limit; outside the site it is highest at 600 s. The deposit is of the end.
 TEST_F(ReportResults, The_Pictures_Are_Of_The_Times_That_Tell_Most) {
   const auto pictures = All<Report_Picture>(Chapter(Report()));

@@ -76,8 +76,10 @@ bool Has_Too_Little_Room(const QWidget* control) {
   // A mark inside a field is a picture; what it says is its tool tip.
   if (button != nullptr && qobject_cast<const QLineEdit*>(button->parentWidget())) return false;
   QSize wanted;
-  if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
+  if (label != nullptr) {
     wanted = control->sizeHint();
+  } else if (button != nullptr && !button->text().isEmpty()) {
+    wanted = control->minimumSizeHint();  // one with a picture may like more
   } else if (qobject_cast<const QGroupBox*>(control) || qobject_cast<const QComboBox*>(control) ||
              (qobject_cast<const QLineEdit*>(control) && !Is_Part_Of_Another(control))) {
     wanted = control->minimumSizeHint();

@@ -231,7 +231,7 @@ std::vector<int> Mapped_Species(const Results& results, Map_Kind kind) {
     if (Is_Known(results, map.species)) species.push_back(map.species);
   }
   std::ranges::sort(species);
-  species.erase(std::ranges::unique(species).begin(), species.end());
+  species.erase(std::unique(species.begin(), species.end()), species.end());
   return species;
 }
 

@@ -14,7 +14,7 @@ constexpr double kInset = 6;          // pixels, of words in the plot
 constexpr double kLimitStroke = 1.6;  // pixels
 constexpr double kReadMark = 5;       // pixels
 constexpr double kLeastLines = 16;    // of text, of a picture with a legend
-constexpr double kLabelPart = 0.8;    // of the height that the label of an axis may take
+constexpr double kLabelPart = 0.8;    // of a side that a label along it may take
 
 /// How an area's curve looks: in colours that differ in lightness, with a marker of its own.
 struct Area_Look {
@@ -43,14 +43,16 @@ Stroke Limit_Stroke(const Maxima_Limit& limit) {
   return {kWarnInk, kLimitStroke, limit.of_other ? Dash::dotted : Dash::dashed};
 }
 
-std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing) {
+std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   std::vector<Legend_Entry> legend;
   for (const Maxima_Curve& curve : drawing.curves) {
     const Area_Look look = Look_Of(curve.where);
     legend.push_back({curve.name, look.colour, look.marker, Dash_Of(curve.of_other)});
   }
   for (const Maxima_Limit& limit : drawing.limits) {
-    legend.push_back({limit.name, kWarnInk, Sample::line, Limit_Stroke(limit).dash});
+    const bool has_room = Text_Width(limit.name, canvas.text_size) < kLabelPart * canvas.width;
+    legend.push_back({has_room ? limit.name : Value_Words(limit.value, drawing.unit), kWarnInk,
+                      Sample::line, Limit_Stroke(limit).dash});
   }
   return legend;
 }
@@ -142,7 +144,7 @@ Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   layout.across = {drawing.time, "Time from the start (s)"};
   layout.upright = {drawing.value, Upright_Label(drawing, canvas)};
   // A picture in small has room for its curves alone.
-  if (canvas.height >= kLeastLines * canvas.text_size) layout.legend = Legend_Of(drawing);
+  if (canvas.height >= kLeastLines * canvas.text_size) layout.legend = Legend_Of(drawing, canvas);
   return Plot_Frame(layout, canvas);
 }
 
