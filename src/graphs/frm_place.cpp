@@ -122,9 +122,11 @@ bool frmPlace::Accept_Entry() {
     return false;
   }
   if (Looks_Like_Degrees(*read.place) &&
-      Ask("Easting and northing look like degrees of longitude and latitude, and are taken as "
-          "metres or feet.  Is it so?",
-          Buttons::YesNo, Icon::Question) != Answer::Yes) {
+      Show_Message({.text = "Easting and northing look like degrees of longitude and latitude, and "
+                            "are taken as metres or feet.  Is it so?",
+                    .buttons = Buttons::YesNo,
+                    .icon = Icon::Question,
+                    .on_return = Answer::No}) != Answer::Yes) {
     txtEasting->setFocus();
     return false;
   }
