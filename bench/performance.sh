@@ -4,7 +4,7 @@
 #
 #   bench/performance.sh [ROUNDS]
 #
-# Single figures: project_file, start, memory, screens, wait, run, batch, companion behind the rounds.
+# Single figures: project_file, start, memory, screens, wait, run, batch, companion, graphs behind the rounds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
@@ -12,12 +12,13 @@ cd "$(dirname "$0")/.."
 rounds=${1:-21}
 [ $# -eq 0 ] || shift
 parts=("$@")
-[ ${#parts[@]} -gt 0 ] || parts=(project_file start memory screens wait run batch companion)
+[ ${#parts[@]} -gt 0 ] || parts=(project_file start memory screens wait run batch companion graphs)
 
 barvon_install_packages packaging/debian-packages.txt
 barvon_install_packages packaging/debian-packages.txt proof
-barvon_build release barvon barvon-run barvon-solver merak32 help_file project_file_bench \
-  screen_bench memory_bench wait_bench stub_solver bare_window start_bench first_paint solver_bench
+barvon_build release barvon barvon-run barvon-solver kv_graph merak32 help_file project_file_bench \
+  screen_bench memory_bench wait_bench stub_solver bare_window start_bench first_paint solver_bench \
+  graphs_bench
 bin="$PWD/build/release/bin"
 plugins="$PWD/build/release/bench/plugins"
 source="$PWD"
@@ -37,6 +38,7 @@ wait_for_solver() {
 run() { "$source/bench/run_cost.sh" "$bin" "$rounds"; }
 batch() { "$source/bench/batch_cost.sh" "$bin"; }
 companion() { "$source/bench/companion.sh" "$bin" "$rounds"; }
+graphs() { "$source/bench/graphs.sh" "$bin" "$plugins" "$rounds"; }
 
 missed=()
 echo "load: $(cut -d' ' -f1-3 /proc/loadavg), cores: $(nproc)"

@@ -25,6 +25,7 @@
 #include "core/keys.h"
 #include "core/project_record.h"
 #include "figures.h"
+#include "painted.h"
 #include "platform/qt/input_screen.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
@@ -46,28 +47,6 @@ void Demand(bool holds, const char* what) {
   std::fprintf(stderr, "%s\n", what);
   std::exit(2);
 }
-
-/// Notes which widgets are painted.
-class Painted : public QObject {
- public:
-  Painted() { qApp->installEventFilter(this); }
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (object == wanted_ && event->type() == QEvent::Paint) seen_ = true;
-    return false;
-  }
-  /// Lets everything happen that is due, up to the widget's next painting and what comes with it.
-  void Wait_For(const QWidget* widget) {
-    wanted_ = widget;
-    seen_ = false;
-    while (!seen_) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    QApplication::processEvents();
-    wanted_ = nullptr;
-  }
-
- private:
-  const QObject* wanted_ = nullptr;
-  bool seen_ = false;
-};
 
 /// The least that shows a grid of numbers.
 class Bare_Model : public QAbstractTableModel {

@@ -6,55 +6,18 @@
 // The goal is held against the processor time, which is what a start takes on a machine that does
 // nothing else and has read the files before; the time that passed is printed too.
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <string>
 
 #include "figures.h"
+#include "started.h"
 
 namespace {
 
 using namespace barvon::bench;
 
-/// The program changes its current folder.
-std::string Told() {
-  static const std::string file = std::filesystem::absolute("first_paint.txt");
-  return file;
-}
 constexpr double kMostOfBare = 1.5;
-
-struct Start {
-  Cost cost;
-  int widgets = 0;
-};
-
-Start Started(const std::string& program) {
-  const double begun = Now(CLOCK_MONOTONIC);
-  const pid_t child = ::fork();
-  if (child == 0) {
-    ::execl(program.c_str(), program.c_str(), nullptr);
-    ::_exit(127);
-  }
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  Start start;
-  std::FILE* file =
-      WIFEXITED(status) && WEXITSTATUS(status) == 0 ? std::fopen(Told().c_str(), "r") : nullptr;
-  double painted = 0;
-  if (file == nullptr ||
-      std::fscanf(file, "%lf %lf %d", &painted, &start.cost.processor, &start.widgets) != 3) {
-    std::fprintf(stderr, "%s was not painted\n", program.c_str());
-    std::exit(2);
-  }
-  std::fclose(file);
-  ::unlink(Told().c_str());
-  start.cost.elapsed = painted - begun;
-  return start;
-}
 
 }  // namespace
 
@@ -64,9 +27,7 @@ int main(int count, char** values) {
     return 2;
   }
   const std::string program = values[1], bare = values[2];
-  ::setenv("QT_PLUGIN_PATH", values[3], 1);
-  ::setenv("QT_QPA_GENERIC_PLUGINS", "first_paint", 1);
-  ::setenv("BARVON_FIRST_PAINT", Told().c_str(), 1);
+  Take_Part_In_Starts(values[3]);
   const int rounds = count > 4 ? std::atoi(values[4]) : 21;
   const int widgets = Started(program).widgets, bare_widgets = Started(bare).widgets;
   std::vector<Cost> programs, bares;

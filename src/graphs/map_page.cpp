@@ -220,6 +220,13 @@ void Map_Page::Fill_Choices() {
 void Map_Page::Fill_Times() {
   times_.clear();
   if (shown_.own) times_ = Mapped_Times(*shown_.own, view_.kind, view_.species, view_.depth);
+  // The slider keeps its length whatever time is told beside it.
+  int widest = 0;
+  for (const double time : times_) {
+    const QString words = Text(Time_Words(time));
+    widest = std::max(widest, time_words_->fontMetrics().horizontalAdvance(words));
+  }
+  time_words_->setMinimumWidth(widest);
   const int last = std::max(static_cast<int>(times_.size()) - 1, 0);
   time_->setRange(0, last);
   time_->setValue(std::max(Place_In(times_, view_.time), 0));

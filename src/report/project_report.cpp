@@ -70,6 +70,7 @@ Report_Facts Facts_Of(const ProjectRecord& record) {
     facts.changed = Time_In_Words(status.st_mtime);
   }
   if (!facts.file.empty()) Look_At_Listing(Base_Name(facts.file), facts);
+  facts.run = Results_Beside(record);
   return facts;
 }
 
@@ -77,7 +78,7 @@ Report_Document Project_Report(const ProjectRecord& project, const Report_Facts&
   // A file has no dimensions of the grid: they follow from its counts and spacings.
   const auto record = std::make_unique<ProjectRecord>(project);
   Store_Dimensions(*record);
-  Report_Maker report(*record);
+  Report_Maker report(*record, facts.run);
   const std::string title = Trimmed(record->ProjectTitle);
   report.document.title = "Project Report";
   report.document.subtitle = title.empty() ? "Untitled Project" : title;

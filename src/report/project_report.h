@@ -4,6 +4,7 @@
 
 #include "core/project_record.h"
 #include "report/report_document.h"
+#include "report/run_results.h"
 
 namespace barvon {
 
@@ -16,6 +17,7 @@ struct Report_Facts {
   // The listing of a run that lies beside the file: its name, when it was written, and how it
   // begins, which says what solver wrote it. Empty where there is none.
   std::string listing{}, listing_date{}, listing_begins{};
+  Run_Results run{};
 };
 
 /// The facts about the record's file, at this hour.

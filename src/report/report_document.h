@@ -18,6 +18,7 @@ struct Report_Heading {
 
 struct Report_Paragraph {
   std::string text;
+  bool warns = false;  // in red and bold
 };
 
 struct Report_Picture {

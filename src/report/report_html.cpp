@@ -36,6 +36,7 @@ table.values tr.inside td:first-child { padding-left: 1.3em; }
 table.grid { font-size: 7pt; line-height: 1.25; width: 100%; }
 table.grid th, table.grid td { padding: .1em .3em; white-space: nowrap; }
 table.grid td:first-child { color: #5a626d; }
+p.warning { color: #b02a20; font-weight: bold; }
 figure { margin: 1em 0 1.4em; }
 figcaption { font-weight: bold; margin-bottom: .3em; }
 svg { max-width: 100%; height: auto; }
@@ -73,7 +74,8 @@ class Html_Writer {
   }
 
   void operator()(const Report_Paragraph& paragraph) {
-    text_ += "<p>" + Lines(paragraph.text) + "</p>\n";
+    text_ += std::string("<p") + (paragraph.warns ? " class=\"warning\">" : ">") +
+             Lines(paragraph.text) + "</p>\n";
   }
 
   void operator()(const Report_Picture& picture) {

@@ -66,8 +66,9 @@ class Page_Maker {
   }
 
   void operator()(const Report_Paragraph& paragraph) {
-    Page_Block block = Block_Of_Lines(setting_.Wrap(paragraph.text, kReportTextSize, room_, false),
-                                      kReportTextSize, kInk, false);
+    const bool warns = paragraph.warns;
+    Page_Block block = Block_Of_Lines(setting_.Wrap(paragraph.text, kReportTextSize, room_, warns),
+                                      kReportTextSize, warns ? kWarnInk : kInk, warns);
     block.height += 5;
     // What is said below a heading is parted neither from it nor from what it is about.
     if (!held_.empty() && Held_Height() + block.height < (bottom_ - top_) * kMostHeld) {

@@ -121,8 +121,9 @@ std::string Label_Without_Unit(const std::string& label, const std::string& unit
   return text;
 }
 
-Report_Maker::Report_Maker(const ProjectRecord& record)
+Report_Maker::Report_Maker(const ProjectRecord& record, Run_Results run)
     : record(record),
+      run(std::move(run)),
       prepared(std::make_unique<ProjectRecord>(record)),
       failure(Prepare_Model(*prepared)) {}
 
@@ -134,6 +135,9 @@ void Report_Maker::Paragraph(const std::string& text) {
   if (!Trimmed(text).empty()) document.parts.emplace_back(Report_Paragraph{On_One_Line(text)});
 }
 
+void Report_Maker::Warning(const std::string& text) {
+  document.parts.emplace_back(Report_Paragraph{On_One_Line(text), true});
+}
 void Report_Maker::Picture(Shape_List picture) {
   if (picture.shapes.empty()) return;
   document.parts.emplace_back(Report_Picture{std::move(picture)});

@@ -10,6 +10,7 @@
 #include "core/project_record.h"
 #include "platform/table/spreadsheet_table.h"
 #include "report/report_document.h"
+#include "report/run_results.h"
 
 namespace barvon {
 
@@ -17,9 +18,10 @@ namespace barvon {
 /// again.
 class Report_Maker {
  public:
-  explicit Report_Maker(const ProjectRecord& record);
+  explicit Report_Maker(const ProjectRecord& record, Run_Results run = {});
 
   const ProjectRecord& record;
+  const Run_Results run;
   /// The record with what making its model input derives; only in part when that fails.
   const std::unique_ptr<ProjectRecord> prepared;
   const Failure failure;  // of the model input
@@ -27,6 +29,8 @@ class Report_Maker {
 
   void Heading(int level, const std::string& text);
   void Paragraph(const std::string& text);
+  /// A paragraph in red.
+  void Warning(const std::string& text);
   /// A picture that has nothing to show is left out.
   void Picture(Shape_List picture);
   void Table(Report_Table table);

@@ -25,6 +25,8 @@ void Report_Unused_Values(Report_Maker& report);
 void Report_As_Solved(Report_Maker& report);
 /// What a screen holds and the model input does not. The chapters before have to be there.
 void Report_Kept_Values(Report_Maker& report);
+/// What the outputs of a run show, where they are of the project as it stands.
+void Report_Results(Report_Maker& report);
 /// The values at each grid point, as far as they vary.
 void Report_Grids(Report_Maker& report);
 
@@ -42,7 +44,7 @@ inline constexpr Report_Section kReportSections[] = {
     {Report_Densities},    {Report_Velocities},      {Report_Material},
     {Report_Operation},    {Report_Evaluation},      {Report_Times},
     {Report_Coefficients}, {Report_Unused_Values},   {Report_As_Solved, false},
-    {Report_Kept_Values},  {Report_Grids},
+    {Report_Kept_Values},  {Report_Results, false},  {Report_Grids},
 };
 
 }  // namespace barvon

@@ -80,8 +80,7 @@ std::vector<double> Balance_Times(const Results& results) {
   std::vector<double> times;
   for (const Result_Mass& row : results.masses) times.push_back(row.time);
   std::ranges::sort(times);
-  const auto repeated = std::ranges::unique(times);
-  times.erase(repeated.begin(), repeated.end());
+  times.erase(std::unique(times.begin(), times.end()), times.end());
   return times;
 }
 
@@ -207,8 +206,7 @@ std::vector<double> Output_Depths(const Results& results) {
   std::vector<double> depths;
   for (const Result_Maxima& row : results.maxima) depths.push_back(row.depth);
   std::ranges::sort(depths);
-  const auto repeated = std::ranges::unique(depths);
-  depths.erase(repeated.begin(), repeated.end());
+  depths.erase(std::unique(depths.begin(), depths.end()), depths.end());
   return depths;
 }
 

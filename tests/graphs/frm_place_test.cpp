@@ -6,6 +6,7 @@
 
 #include "platform/ask/help_viewer.h"
 #include "support/screen_support.h"
+#include "support/window_walk.h"
 
 namespace barvon::testing {
 namespace {
@@ -98,6 +99,23 @@ TEST_F(PlaceOfTheGrid, Degrees_Are_Asked_About) {
   const Scripted_Messages messages({Answer::Yes});
   Press_Key(Qt::Key_Return);
   EXPECT_TRUE(screen->place());
+}
+
+TEST_F(PlaceOfTheGrid, Is_Whole_And_Reached_By_Keys_In_Letters_Of_Any_Size) {
+  const QFont plain = QApplication::font();
+  for (const double larger : {1.0, 1.5, 2.0}) {
+    QFont font = plain;
+    font.setPointSizeF(plain.pointSizeF() * larger);
+    QApplication::setFont(font);
+    Open(Map_Place{-99999999.25, -99999999.25, -359.125, Place_Unit::metre_survey,
+                   "EPSG:32618 and more"});
+    EXPECT_EQ(Listed(Cut_Off_Texts(*screen)), "") << larger;
+    EXPECT_EQ(Listed(Clashing_Keys(*screen)), "") << larger;
+    EXPECT_EQ(Listed(Unreached_Controls(*screen)), "") << larger;
+    EXPECT_EQ(Listed(Unnamed_Controls(*screen)), "") << larger;
+    EXPECT_EQ(Listed(Misread_Controls(*screen)), "") << larger;
+  }
+  QApplication::setFont(plain);
 }
 
 TEST_F(PlaceOfTheGrid, Help_Opens_Its_Page) {

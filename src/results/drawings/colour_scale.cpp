@@ -44,27 +44,38 @@ double Round_Number(int place) {
   return power >= 0 ? factor * std::pow(10, power) : factor / std::pow(10, -power);
 }
 
-}  // namespace
+bool Has_Span(double base, double largest) {
+  return Can_Be_Drawn(base) && Can_Be_Drawn(largest) &&
+         largest - base > kLeastSpan * std::max(std::abs(largest), std::abs(base));
+}
 
-std::vector<double> Log_Levels(double largest, double base) {
+/// Levels that are `from` and a round number above it, between the two others.
+std::vector<double> Steps_Down(double from, double base, double largest) {
   std::vector<double> levels;
-  if (!Can_Be_Drawn(largest) || !(largest > kSmallestOnLog)) return levels;
-  int place = 3 * (static_cast<int>(std::floor(std::log10(largest))) + 1);
-  const double least = std::max(Can_Be_Drawn(base) ? base : 0, kSmallestOnLog);
+  const double highest = largest - from;
+  int place = 3 * (static_cast<int>(std::floor(std::log10(std::max(highest, kSmallestOnLog)))) + 1);
   while (levels.size() < kMostLevels) {
-    const double level = Round_Number(place--);
-    if (!(level > least * (1 + kHair))) break;
-    if (level < largest * (1 - kHair)) levels.push_back(level);
+    const double above = Round_Number(place--);
+    if (!(above > kSmallestOnLog) || !Has_Span(base, from + above)) break;
+    if (above < highest * (1 - kHair)) levels.push_back(from + above);
   }
   std::ranges::reverse(levels);
   return levels;
 }
 
+}  // namespace
+
+std::vector<double> Log_Levels(double largest, double base) {
+  constexpr std::size_t kFewestRound = 5;
+  if (!Has_Span(base, largest)) return {};
+  const std::vector<double> round = Steps_Down(0, base, largest);
+  return base > 0 && round.size() < kFewestRound ? Steps_Down(base, base, largest) : round;
+}
+
 std::vector<double> Even_Levels(double base, double largest) {
   std::vector<double> levels;
-  if (!Can_Be_Drawn(base) || !Can_Be_Drawn(largest)) return levels;
+  if (!Has_Span(base, largest)) return levels;
   const double span = largest - base;
-  if (!(span > kLeastSpan * std::max(std::abs(largest), std::abs(base)))) return levels;
   // The least round step that leaves no more levels than there may be.
   int place = 3 * (static_cast<int>(std::floor(std::log10(span / kMostLevels))) - 1);
   const auto first = [&] { return std::floor(base / Round_Number(place) + kHair) + 1; };

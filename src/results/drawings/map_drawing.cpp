@@ -16,7 +16,8 @@ namespace {
 constexpr Colour kSiteInk{0, 112, 74}, kZidInk{134, 38, 140}, kDarkLine{60, 60, 60};
 constexpr double kOutline = 1.6, kHalo = 4, kContour = 0.8, kGridLine = 0.5;  // pixels
 constexpr double kPointRadius = 4.5, kEndRadius = 3;
-constexpr double kSectionPart = 0.36;                 // of the height
+constexpr double kSectionBelow = 0.36;                // of the height
+constexpr double kSectionBeside = 0.45;               // of the width
 constexpr double kLine = 1.35, kGap = 6;              // of the size; pixels
 constexpr double kBoxWidth = 1.6, kTallestBox = 1.7;  // of the size
 constexpr double kWidestScale = 0.45;                 // of the canvas
@@ -216,7 +217,8 @@ struct Map_Layout {
   double top = 0;  // below the title
   Canvas map, section;
   Place scale;  // corner
-  double scale_width = 0, section_top = 0;
+  double scale_width = 0;
+  Place section_at;
 };
 
 double Scale_Width(const Map_Drawing& drawing, double size) {
@@ -241,22 +243,31 @@ Map_Layout Layout_Of(const Map_Drawing& drawing, const Canvas& canvas) {
                    (1.1 * static_cast<double>(layout.title.size()) +
                     static_cast<double>(layout.summary.size())) +
                kGap;
-  double height = canvas.height - layout.top;
-  if (drawing.section) {
-    const double part = kSectionPart * canvas.height;
-    height -= part;
-    layout.section = {canvas.width, part, size};
-    layout.section_top = canvas.height - part;
-  }
   const double scale_width = Scale_Width(drawing, size);
-  const bool has_room = scale_width < kWidestScale * canvas.width;
-  layout.map = {canvas.width - (has_room ? scale_width : 0), height, size};
-  if (has_room) {
-    layout.scale_width = scale_width;
-    // Beside the map rather than at the far edge of a wide window.
-    const Plan_Frame frame(drawing.plan.area, layout.map);
-    const double right = frame.Is_Empty() ? layout.map.width : frame.plot().right();
-    layout.scale = {std::min(right + 2 * kGap, layout.map.width) + kGap, layout.top + kGap};
+  const double kept = scale_width < kWidestScale * canvas.width ? scale_width : 0;
+  const double height = canvas.height - layout.top;
+  layout.map = {canvas.width - kept, height, size};
+  bool beside = false;
+  if (drawing.section) {
+    // Where it leaves the map larger: below a wide one, beside a tall one.
+    const Canvas above{layout.map.width, (1 - kSectionBelow) * height, size};
+    const Canvas left{(1 - kSectionBeside) * canvas.width - kept, height, size};
+    const auto scale_of = [&](const Canvas& part) {
+      return Plan_Frame(drawing.plan.area, part).Pixels_Per_Foot();
+    };
+    beside = scale_of(left) > scale_of(above);
+    layout.map = beside ? left : above;
+  }
+  const Plan_Frame frame(drawing.plan.area, layout.map);
+  const double right = frame.Is_Empty() ? layout.map.width : frame.plot().right();
+  // Beside the map rather than at the far edge of a wide window.
+  layout.scale = {std::min(right + 2 * kGap, layout.map.width) + kGap, layout.top + kGap};
+  layout.scale_width = kept;
+  if (drawing.section) {
+    layout.section_at = beside ? Place{layout.scale.x + kept, layout.top}
+                               : Place{0, layout.top + layout.map.height};
+    const double width = canvas.width - layout.section_at.x;
+    layout.section = {width, beside ? std::min(height, width) : kSectionBelow * height, size};
   }
   return layout;
 }
@@ -384,7 +395,7 @@ Shape_List Map_Shapes(const Map_Drawing& drawing, const Canvas& canvas) {
   if (layout.scale_width > 0) Add_Scale(picture, drawing, layout, canvas.text_size);
   if (drawing.section) {
     for (Shape& shape : Section_Shapes(*drawing.section, layout.section).shapes) {
-      picture.shapes.push_back(Moved(std::move(shape), {0, layout.section_top}));
+      picture.shapes.push_back(Moved(std::move(shape), layout.section_at));
     }
   }
   return picture;

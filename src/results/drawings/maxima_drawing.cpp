@@ -234,8 +234,7 @@ std::vector<double> Reading_Times(const Maxima_Drawing& drawing) {
     for (const Timed_Value& value : curve.values) times.push_back(value.time);
   }
   std::ranges::sort(times);
-  const auto repeated = std::ranges::unique(times);
-  times.erase(repeated.begin(), repeated.end());
+  times.erase(std::unique(times.begin(), times.end()), times.end());
   return times;
 }
 

@@ -20,11 +20,14 @@ TEST(ColourScale, Log_Levels_Are_1_2_5_Below_The_Largest_Value) {
   EXPECT_EQ(Log_Levels(0.0042, 0), (Levels{1e-5, 2e-5, 5e-5, 1e-4, 2e-4, 5e-4, 0.001, 0.002}));
 }
 
-TEST(ColourScale, Log_Levels_Stay_Above_The_Base) {
-  EXPECT_EQ(Log_Levels(60, 5), (Levels{10, 20, 50}));
-  EXPECT_TRUE(Log_Levels(5.3, 5).empty());
+TEST(ColourScale, Log_Levels_Are_Round_Above_A_Weak_Base_And_Count_From_A_Strong_One) {
+  EXPECT_EQ(Log_Levels(0.3, 0.002), (Levels{0.005, 0.01, 0.02, 0.05, 0.1, 0.2}));
+  EXPECT_EQ(Log_Levels(60, 1), (Levels{2, 5, 10, 20, 50}));
+  // 9 above 1.
+  EXPECT_EQ(Log_Levels(10, 1), (Levels{1.02, 1.05, 1.1, 1.2, 1.5, 2, 3, 6}));
+  EXPECT_TRUE(Log_Levels(5, 5).empty());
   EXPECT_TRUE(Log_Levels(0, 0).empty());
-  EXPECT_TRUE(Log_Levels(-3, -5).empty());
+  EXPECT_TRUE(Log_Levels(-5, -3).empty());
   EXPECT_TRUE(Log_Levels(std::numeric_limits<double>::quiet_NaN(), 0).empty());
   EXPECT_TRUE(Log_Levels(std::numeric_limits<double>::infinity(), 0).empty());
 }
@@ -119,6 +122,13 @@ TEST(ColourScale, Every_Eye_Tells_The_Two_Sides_Apart) {
           << "eye " << eye << ", band " << band;
     }
   }
+}
+
+TEST(ColourScale, Levels_Do_Not_Go_Below_What_The_Numbers_Tell_Apart) {
+  const Levels levels = Log_Levels(1000.1, 1000);  // 0.1 above: 0.001 is a millionth
+  ASSERT_FALSE(levels.empty());
+  EXPECT_GT(levels.front(), 1000.001);
+  EXPECT_LT(levels.back(), 1000.1);
 }
 
 TEST(ColourScale, A_Value_Has_The_Colour_Of_The_Level_That_It_Is_Not_Below) {
