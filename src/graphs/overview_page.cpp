@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -25,6 +26,7 @@ namespace {
 
 constexpr double kTitleSize = 1.25;           // of the program's letters
 constexpr int kBarLines = 2, kAxisLines = 6;  // of the program's text
+constexpr int kLeastLetters = 100;            // of a page with its halves beside each other
 
 /// As high as it must be: the page scrolls only where it has to.
 class Balance_Bars : public Bar_Picture {
@@ -62,9 +64,9 @@ QLabel* Heading(QVBoxLayout* column, const char* text) {
 
 Overview_Page::Overview_Page(QWidget* parent) : Graph_Page(parent) {
   auto* contents = new QWidget;
-  auto* halves = new QHBoxLayout(contents);
-  halves->addWidget(Left_Half(), 1);
-  halves->addWidget(Right_Half());
+  halves_ = new QBoxLayout(QBoxLayout::LeftToRight, contents);
+  halves_->addWidget(Left_Half(), 1);
+  halves_->addWidget(Right_Half());
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 0, 0, 0);
   page->addWidget(new Scrolled_Part(contents));
@@ -118,9 +120,11 @@ QWidget* Overview_Page::Left_Half() {
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
-  table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   rows->addWidget(table_);
+  connect(table_->horizontalScrollBar(), &QScrollBar::rangeChanged, this,
+          &Overview_Page::Fit_Table);
   connect(balance_time_, &QComboBox::currentIndexChanged, this, [this] {
     Show_Balance();
     emit Changed();
@@ -225,12 +229,28 @@ void Overview_Page::Fit_To_Letters() {
   table_->horizontalHeader()->setStretchLastSection(false);
   table_->resizeColumnsToContents();
   table_->resizeRowsToContents();
-  const int frame = 2 * table_->frameWidth();
-  table_->setMinimumSize(
-      table_->horizontalHeader()->length() + frame,
-      table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() + frame);
-  table_->setMaximumHeight(table_->minimumHeight());
   table_->horizontalHeader()->setStretchLastSection(true);
+  Fit_Table();
+  Place_Halves();
+}
+
+// All rows are seen; columns scroll where the page is narrower.
+void Overview_Page::Fit_Table() {
+  const QScrollBar* bar = table_->horizontalScrollBar();
+  table_->setFixedHeight(
+      table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() +
+      2 * table_->frameWidth() + (bar->maximum() > 0 ? bar->sizeHint().height() : 0));
+}
+
+// In a narrow window, or with large letters, the small pictures are below the rest.
+void Overview_Page::Place_Halves() {
+  const bool narrow = width() < kLeastLetters * fontMetrics().averageCharWidth();
+  halves_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void Overview_Page::resizeEvent(QResizeEvent* event) {
+  Graph_Page::resizeEvent(event);
+  Place_Halves();
 }
 
 void Overview_Page::changeEvent(QEvent* event) {

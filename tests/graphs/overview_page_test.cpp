@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
 
 #include "graphs/overview_data.h"
-#include "platform/qt/scrolled_part.h"
 #include "results/small_results.h"
 
 namespace barvon::testing {
@@ -156,6 +156,33 @@ TEST(OverviewPage, Empty_Results_Are_Survived) {
   EXPECT_EQ(bench.Child<QTableWidget>("Largest")->rowCount(), 0);
   EXPECT_EQ(bench.Child<Bar_Picture>("Balance")->Drawn().note, "Nothing to show yet.");
   EXPECT_FALSE(bench.Child<Picture_Button>("Open(2)")->grab().isNull());
+}
+
+TEST(OverviewPage, In_A_Narrow_Window_The_Small_Pictures_Are_Below_And_The_Table_Scrolls) {
+  Overview_Bench bench;
+  auto* table = bench.Child<QTableWidget>("Largest");
+  const auto place = [&](QWidget* part) { return part->mapTo(&bench.page, QPoint()); };
+  EXPECT_GT(place(bench.Child<QPushButton>("Open(1)")).x(), place(table).x() + table->width());
+  EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0);
+  bench.page.resize(380, 700);
+  QApplication::processEvents();
+  EXPECT_GT(place(bench.Child<QPushButton>("Open(1)")).y(), place(table).y() + table->height() - 1);
+  EXPECT_GT(table->horizontalScrollBar()->maximum(), 0);
+  EXPECT_GE(table->viewport()->height(), table->verticalHeader()->length());
+}
+
+TEST(OverviewPage, Large_Letters_Are_Given_Room) {
+  Overview_Bench bench;
+  const int before = bench.Child<QLabel>("Title")->fontMetrics().height();
+  const int balance = bench.Child<Bar_Picture>("Balance")->minimumHeight();
+  QFont large = bench.page.font();
+  large.setPointSizeF(2 * large.pointSizeF());
+  bench.page.setFont(large);
+  QApplication::processEvents();
+  EXPECT_GT(bench.Child<QLabel>("Title")->fontMetrics().height(), 1.8 * before);
+  EXPECT_GT(bench.Child<Bar_Picture>("Balance")->minimumHeight(), 1.6 * balance);
+  auto* table = bench.Child<QTableWidget>("Largest");
+  EXPECT_GE(table->viewport()->height(), table->verticalHeader()->length());
 }
 
 TEST(OverviewPage, A_Small_Window_Scrolls_Rather_Than_Cuts) {
