@@ -1,29 +1,35 @@
 #!/usr/bin/env bash
-# The plain tests under valgrind's memcheck: invalid reads and writes, jumps by uninitialised
-# values, memory that is definitely lost. Ends with 1 on any of them.
+# The plain tests and the companion solver's under valgrind's memcheck: invalid reads and writes,
+# jumps by uninitialised values, memory that is definitely lost. Ends with 1 on any of them.
 #
 #   tests/valgrind.sh [PROGRAM]
 #
-# PROGRAM is a plain_tests without sanitizers, build/debug/bin/plain_tests unless told; that one is
-# built first. BARVON_FILTER chooses the tests, as --gtest_filter does. Properties are tried five
+# PROGRAM is a plain_tests or solver_tests without sanitizers; both, built first for stepping
+# through, unless told. BARVON_FILTER chooses the tests, as --gtest_filter does. Properties are tried five
 # times each instead of a hundred. Left out are the random records, which are the same code for
-# hundreds of records, and the suites that mostly start programs, which memcheck does not look into.
+# hundreds of records, the suites that mostly start programs, which memcheck does not look into, and
+# powers held against the C library's long double, which memcheck cuts to a double.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
 . packaging/build.sh
 
-program="${1:-build/debug/bin/plain_tests}"
 started="Batch*:BoundedOutput.*:CommandLine.*:CreateProcess.*:DeliveredSolver.*:EchoSolver.*"
 started+=":HostileNames.*:Lock.*:OutputFiles.*:PlantedFiles.*:ProcessControl.*:ProjectHold.*:Run*"
 started+=":SampleFiles.*:SolverCommand.*:SolverTable.*:StrangersFiles.*:ViewerProgram.*:ViewResults.*"
-filter="${BARVON_FILTER:--RandomRecords.*:$started}"
+filter="${BARVON_FILTER:--RandomRecords.*:Det_Math.Pow_Against_The_C_Library:$started}"
 barvon_install_packages packaging/debian-packages.txt proof
+programs=("$@")
 if [ $# -eq 0 ]; then
+  programs=(build/debug/bin/plain_tests build/debug/bin/solver_tests)
   barvon_install_packages packaging/debian-packages.txt
-  barvon_build debug plain_tests
+  barvon_build debug plain_tests solver_tests
 fi
-RC_PARAMS="max_success=5" nice -n 10 valgrind --quiet --leak-check=full \
-  --errors-for-leak-kinds=definite --show-leak-kinds=definite --error-exitcode=1 \
-  --exit-on-first-error=no --num-callers=20 \
-  "$program" --gtest_brief=1 --gtest_filter="$filter"
+failed=0
+for program in "${programs[@]}"; do
+  RC_PARAMS="max_success=5" nice -n 10 valgrind --quiet --leak-check=full \
+    --errors-for-leak-kinds=definite --show-leak-kinds=definite --error-exitcode=1 \
+    --exit-on-first-error=no --num-callers=20 \
+    "$program" --gtest_brief=1 --gtest_filter="$filter" || failed=1
+done
+exit "$failed"

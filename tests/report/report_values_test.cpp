@@ -9,6 +9,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/desk/load_record.h"
@@ -170,8 +171,10 @@ TEST_P(ReportValues, What_Is_Told_As_In_The_Model_Input_Is_In_It) {
   Expect_To_Be_In_The_Model(*Sample(GetParam()), GetParam());
 }
 
-// The lines of the fluid are others for each evaluation and each method.
-TEST(ReportVariants, Each_Evaluation_Of_Each_Method_Tells_What_Its_Model_Input_Has) {
+/// By method and KEY3: the lines of the fluid are others for each.
+class ReportVariants : public ::testing::TestWithParam<std::tuple<std::int16_t, std::int16_t>> {};
+
+TEST_P(ReportVariants, Tells_What_Its_Model_Input_Has) {
   const auto record = Sample("Section_404_Zid.DUI");
   record->NOPENS = record->LAYERS = 2;
   // Room for the corners to move.
@@ -193,24 +196,25 @@ TEST(ReportVariants, Each_Evaluation_Of_Each_Method_Tells_What_Its_Model_Input_H
                                        "ToxicityDilution",
                                        "ZidToxicityDilution",
                                        "ZCRIT"};
-  for (const std::int16_t method : {kHopper, kContinuous, kBarge}) {
-    for (std::int16_t key3 = 0; key3 <= 8; ++key3) {
-      record->DisposalMethod = method;
-      record->KEY3 = key3;
-      const std::string which = std::to_string(method) + ", " + std::to_string(key3);
-      Expect_To_Be_In_The_Model(*record, which);
-      const std::string model = Model_Of(*record);
-      const std::multiset<std::string> told = Told(*record);
-      for (const Record_Field& field : Record_Fields()) {
-        if (!fluid.contains(field.name)) continue;
-        const auto changed = std::make_unique<ProjectRecord>(*record);
-        field.set(*changed, 0, 0, Other_Value(field, *record, 0, 0));
-        EXPECT_EQ(Told(*changed) != told, Model_Of(*changed) != model)
-            << which << " " << field.name;
-      }
-    }
+  std::tie(record->DisposalMethod, record->KEY3) = GetParam();
+  const std::string which =
+      std::to_string(record->DisposalMethod) + ", " + std::to_string(record->KEY3);
+  Expect_To_Be_In_The_Model(*record, which);
+  const std::string model = Model_Of(*record);
+  const std::multiset<std::string> told = Told(*record);
+  for (const Record_Field& field : Record_Fields()) {
+    if (!fluid.contains(field.name)) continue;
+    const auto changed = std::make_unique<ProjectRecord>(*record);
+    field.set(*changed, 0, 0, Other_Value(field, *record, 0, 0));
+    EXPECT_EQ(Told(*changed) != told, Model_Of(*changed) != model) << which << " " << field.name;
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Evaluations, ReportVariants,
+                         ::testing::Combine(::testing::Values(std::int16_t{kHopper},
+                                                              std::int16_t{kContinuous},
+                                                              std::int16_t{kBarge}),
+                                            ::testing::Range(std::int16_t{0}, std::int16_t{9})));
 
 TEST_P(ReportValues, Choices_And_Counts_Are_Told_By_What_They_Show) {
   const auto record = Sample(GetParam());
