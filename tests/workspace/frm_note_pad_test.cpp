@@ -649,7 +649,9 @@ TEST_F(NotePad, The_First_Line_Of_An_Output_Is_In_View_Whole) {
   end.movePosition(QTextCursor::EndOfBlock);
   const int right = edit->cursorRect(end).right();
   const bool is_whole = right < edit->viewport()->width();
-  EXPECT_TRUE(is_whole || text.width() == text.screen()->availableSize().width())
+  // On a small screen the texts leave room to stand in steps.
+  constexpr int kRoomForSteps = 48;
+  EXPECT_TRUE(is_whole || text.width() >= text.screen()->availableSize().width() - kRoomForSteps)
       << right << " of " << edit->viewport()->width();
 }
 
