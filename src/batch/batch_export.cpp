@@ -1,7 +1,5 @@
 #include "batch/batch_export.h"
 
-#include <cstring>
-#include <functional>
 #include <string>
 
 #include "batch/batch_findings.h"
@@ -10,13 +8,12 @@
 #include "batch/batch_project.h"
 #include "core/failure.h"
 #include "core/model_input/model_input.h"
-#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {
 
 int Export(const std::string& file, const std::string& target, Known_Folders& folders,
-           const std::function<bool()>& may_write) {
+           const May_Write& may_write) {
   const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   Say_Remarks(file, *record);
@@ -29,13 +26,7 @@ int Export(const std::string& file, const std::string& target, Known_Folders& fo
     Say_Problem(file, "there is no model input for its disposal method");
     return kNotDone;
   }
-  if (!may_write()) return kNotDone;
-  if (const int error = Write_Whole_File(target, text); error != 0) {
-    Say_Problem(file, target + " can't be written: " + std::strerror(error));
-    return kNotDone;
-  }
-  Say({file, "written", target});
-  return kDone;
+  return Write_Product(file, target, text, may_write);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "batch/batch_products.h"
 
 #include <algorithm>
+#include <cstring>
 #include <filesystem>
 #include <map>
 #include <system_error>
@@ -14,6 +15,7 @@
 #include "core/project_file/project_guard.h"
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 
 namespace barvon {
 namespace {
@@ -32,6 +34,21 @@ std::string Target_Of(const std::string& file, const std::string& output, const 
 }
 
 }  // namespace
+
+int Write_Product(const std::string& file, const std::string& target, std::string_view bytes,
+                  const May_Write& may_write) {
+  Safe_File product;
+  int error = product.Open(target);
+  if (error == 0) error = product.Write(bytes);
+  if (error == 0 && !may_write(product.Target())) return kNotDone;
+  if (error == 0) error = product.Commit();
+  if (error != 0) {
+    Say_Problem(file, target + " can't be written: " + std::strerror(error));
+    return kNotDone;
+  }
+  Say({file, "written", target});
+  return kDone;
+}
 
 int Write_Products(const Batch_Options& options, const Batch_Product& product,
                    Known_Folders& folders) {
@@ -59,14 +76,14 @@ int Write_Products(const Batch_Options& options, const Batch_Product& product,
       worst = kNotDone;
       continue;
     }
-    const auto may_write = [&] {
-      if (!guard.Leads_To_A_Project(target)) return true;
+    const May_Write may_write = [&](const std::string& path) {
+      if (!guard.Leads_To_A_Project(path)) return true;
       Say_Problem(file,
                   std::string("a ") + product.name + " is not written over a project: " + target);
       return false;
     };
-    worst =
-        std::max(worst, may_write() ? product.write(file, target, folders, may_write) : kNotDone);
+    worst = std::max(
+        worst, may_write(target) ? product.write(file, target, folders, may_write) : kNotDone);
   }
   return worst;
 }

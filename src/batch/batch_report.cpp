@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cstring>
-#include <functional>
 #include <string>
 #include <thread>
 
@@ -33,17 +32,11 @@ Report_Facts Facts_Of_File(const ProjectRecord& record) {
 }
 
 int Write_Html(const std::string& file, const std::string& target, Known_Folders& folders,
-               const std::function<bool()>& may_write) {
+               const May_Write& may_write) {
   const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   const std::string html = Report_Html(Project_Report(*record, Facts_Of_File(*record)));
-  if (!may_write()) return kNotDone;
-  if (const int error = Write_Whole_File(target, html); error != 0) {
-    Say_Problem(file, target + " can't be written: " + std::strerror(error));
-    return kNotDone;
-  }
-  Say({file, "written", target});
-  return kDone;
+  return Write_Product(file, target, html, may_write);
 }
 
 /// Runs the window program without a display until it has written the report.
@@ -63,7 +56,7 @@ bool Runs_To_The_End(const std::string& program, const std::string& project,
 }
 
 int Write_Pdf(const std::string& file, const std::string& target, Known_Folders& folders,
-              const std::function<bool()>& may_write) {
+              const May_Write& may_write) {
   const auto record = Open_Project(file, folders);
   if (!record) return kNotDone;
   const std::string program = Join_Path(Program_Folder(), kWindowProgram);
@@ -72,7 +65,7 @@ int Write_Pdf(const std::string& file, const std::string& target, Known_Folders&
                           Program_Folder() + " (without --pdf there is a report for a browser)");
     return kNotDone;
   }
-  if (!may_write()) return kNotDone;
+  if (!may_write(target)) return kNotDone;
   // What the window program says is not heard here: the reason is found beforehand.
   if (const int error = Safe_File().Open(target); error != 0) {
     Say_Problem(file, target + " can't be written: " + std::strerror(error));

@@ -123,8 +123,7 @@ void Show_Restored(const Recovery_Copy& copy, ProjectRecord& record) {
   if (has_menus && record.FileKind != kDilutionKind) Port().board.open_menus();
   Show_Project(record);
   Show_Status_Lines(has_file, record);
-  Port().board.show_note(
-      {Name_Of_Project(copy) + " is restored, with the changes that were not saved.", {}});
+  Note_Unsaved(Name_Of_Project(copy) + " is restored, with the changes that were not saved.");
   Port().board.show_main_board();
 }
 

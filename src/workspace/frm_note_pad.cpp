@@ -4,12 +4,15 @@
 #include <QEventLoop>
 #include <QFontDatabase>
 #include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QVariant>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "core/desk/screen_table.h"
@@ -22,7 +25,9 @@
 namespace barvon {
 namespace {
 
-constexpr QSize kSize{640, 560};  // wide enough for a listing of 80 columns
+constexpr int kFirstHeight = 560;
+/// The companion solver says in the first line of an output, in 104 letters, what it is not.
+constexpr int kFirstColumns = 105;
 constexpr char kUntitled[] = "Untitled";
 constexpr int kTabStop = 8;
 constexpr int kPatience = 200;  // milliseconds
@@ -53,7 +58,7 @@ frmNotePad::frmNotePad(ProjectRecord& record)
   Build_File_Menu();
   Build_Edit_Menu();
   Build_Status();
-  resize(kSize);
+  resize(First_Width(), kFirstHeight);
   index_ = Documents().Open(*this);
   setProperty("tag", index_);
   Show_File("");
@@ -98,6 +103,14 @@ void frmNotePad::Build_Body() {
   });
   connect(edit_, &QPlainTextEdit::cursorPositionChanged, this, [this] { Show_Place(); });
   view_->When_Moved([this] { Show_Place(); });
+}
+
+int frmNotePad::First_Width() const {
+  const int letters =
+      QFontMetrics(edit_->font()).horizontalAdvance(QLatin1Char('0')) * kFirstColumns;
+  const int around = 2 * static_cast<int>(edit_->document()->documentMargin()) +
+                     2 * edit_->frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return std::min(letters + around, screen()->availableSize().width());
 }
 
 void frmNotePad::Build_File_Menu() {

@@ -72,6 +72,7 @@ class frmNotePad : public QMainWindow, public Text_Document {
                std::function<void()> action);
   void Build_Body();
   void Build_Status();
+  int First_Width() const;
   void Make_Edited(const Text_Content& content);
   bool Make_Shown(std::unique_ptr<File_Slices> slices);
   bool Take_Slice();

@@ -160,6 +160,9 @@ void Main::Fill_Board_Port(Board_Port& board) {
     Action_Of(controls_, "mnuOptionItem", kWizardHelp)->setChecked(on);
   };
   board.show_note = [this](const Status_Note& note) { controls_.status_area->Show_Note(note); };
+  board.take_back_note = [this](const std::string& text) {
+    controls_.status_area->Take_Back_Note(text);
+  };
 }
 
 void Main::Fill_Port() {

@@ -62,6 +62,10 @@ void Status_Area::Show_Note(const Status_Note& note) {
   if (Note_->Is_Cut()) Details_->show();
 }
 
+void Status_Area::Take_Back_Note(const std::string& text) {
+  if (Note_->text().toStdString() == text) Show_Note({});
+}
+
 void Status_Area::Show_Run(bool running, const std::string& program) {
   if (running) Show_Note({});
   Program_->setText(running ? "Running " + QString::fromStdString(Name_Of(program)) : QString());

@@ -16,6 +16,8 @@ class Status_Area : public QStatusBar {
   explicit Status_Area(QWidget* parent);
 
   void Show_Note(const Status_Note& note);
+  /// Clears the line while it is this one.
+  void Take_Back_Note(const std::string& text);
   /// A program has been started, or has ended.
   void Show_Run(bool running, const std::string& program);
 

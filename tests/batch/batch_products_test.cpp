@@ -26,10 +26,10 @@ struct BatchProducts : ::testing::Test {
 
   int Write(Known_Folders& folders) {
     product.write = [this](const std::string& file, const std::string& target, Known_Folders&,
-                           const std::function<bool()>& may_write) {
+                           const May_Write& may_write) {
       targets[Name_Of(Base_Name(file))] = Name_Of(target);
       if (before_a_write) before_a_write(Name_Of(Base_Name(file)));
-      if (!may_write()) return static_cast<int>(kNotDone);
+      if (!may_write(target)) return static_cast<int>(kNotDone);
       Write_Text(target, "product");
       return static_cast<int>(kDone);
     };
@@ -56,6 +56,41 @@ TEST_F(BatchProducts, A_Name_That_Becomes_A_Link_While_A_Project_Is_Read_Is_Not_
   EXPECT_EQ(Write(), kNotDone);
   EXPECT_EQ(Read_Text(folder / (Site(7) + ".DUI")), "project");
   EXPECT_EQ(Read_Text(folder / (Site(89) + ".DUE")), "product");
+}
+
+TEST_F(BatchProducts, A_Link_That_Is_Made_After_The_Last_Question_Is_Replaced) {
+  Put_Projects(2);
+  const std::string other = folder / (Site(1) + ".DUI");
+  const std::string target = folder / (Site(0) + ".DUE");
+  Write_Text(target, "older");
+  std::string asked;
+  const May_Write and_link = [&](const std::string& path) {
+    asked = path;
+    std::filesystem::remove(target);
+    std::filesystem::create_symlink(other, target);
+    return true;
+  };
+  EXPECT_EQ(Write_Product(options.files[0], target, "product", and_link), kDone);
+  EXPECT_EQ(asked, target);
+  EXPECT_EQ(Read_Text(other), "project");
+  EXPECT_EQ(Read_Text(target), "product");
+  EXPECT_FALSE(std::filesystem::is_symlink(target));
+}
+
+TEST_F(BatchProducts, The_Question_Is_For_What_A_Link_Leads_To) {
+  Put_Projects(2);
+  const std::string other = folder / (Site(1) + ".DUI");
+  const std::string target = folder / (Site(0) + ".DUE");
+  std::filesystem::create_symlink(other, target);
+  std::string asked;
+  const May_Write no = [&](const std::string& path) {
+    asked = path;
+    return false;
+  };
+  EXPECT_EQ(Write_Product(options.files[0], target, "product", no), kNotDone);
+  EXPECT_EQ(asked, other);
+  EXPECT_EQ(Read_Text(other), "project");
+  EXPECT_EQ(Names_In(folder.path()).size(), 3U) << "nothing is left of what was not written";
 }
 
 TEST_F(BatchProducts, A_Project_Costs_The_Same_However_Many_There_Are) {

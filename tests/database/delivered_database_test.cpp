@@ -96,6 +96,20 @@ TEST_F(DeliveredDatabase, A_Name_That_Can_Not_Be_Taken_Takes_The_Others_Back) {
   EXPECT_EQ(Names_In(user_.path()), Lines{"sites.dat"});
 }
 
+TEST_F(DeliveredDatabase, Nothing_Is_Written_Through_A_Link_To_Nowhere) {
+  const Scratch_Folder away;
+  std::filesystem::create_symlink(away / "sites.dat", user_ / "sites.dat");
+  Scripted_Messages messages({Answer::Ok});
+  EXPECT_FALSE(Take_Delivered_Database());
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text, "Can't copy the file of the database " +
+                                        (folder_ / "sites.dat") + " to " + user_.path() +
+                                        ": File exists");
+  EXPECT_EQ(Names_In(away.path()), Lines{});
+  EXPECT_EQ(Names_In(user_.path()), Lines{"sites.dat"});
+  EXPECT_TRUE(std::filesystem::is_symlink(user_ / "sites.dat"));
+}
+
 TEST_F(DeliveredDatabase, What_Can_Not_Be_Copied_Is_Told_Once) {
   Set_Application_Folder(user_ / "gone");
   Scripted_Messages messages({Answer::Ok});

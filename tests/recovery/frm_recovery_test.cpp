@@ -76,6 +76,23 @@ TEST_F(FrmRecovery, Shows_What_Differs_And_Restores_It) {
   EXPECT_FALSE(Offer_Recovery(&bench.main(), keeper));
 }
 
+TEST_F(FrmRecovery, What_It_Says_Is_Taken_Back_By_A_Save) {
+  Crash("After the crash");
+  EXPECT_TRUE(Offer([](QWidget* window) { Press(window, 0); }));
+  EXPECT_TRUE(Save_File(path, kProjectKind, Project()));
+  EXPECT_EQ(bench.Child<QLabel>("StatusNote")->text(), "");
+  bench.Action("mnuFileItem(0)")->trigger();
+}
+
+TEST_F(FrmRecovery, A_Note_That_Came_Behind_It_Stays) {
+  Crash("After the crash");
+  EXPECT_TRUE(Offer([](QWidget* window) { Press(window, 0); }));
+  Port().board.show_note({"merak32 ended with code 0 after 1 s", {}});
+  EXPECT_TRUE(Save_File(path, kProjectKind, Project()));
+  EXPECT_EQ(bench.Child<QLabel>("StatusNote")->text(), "merak32 ended with code 0 after 1 s");
+  bench.Action("mnuFileItem(0)")->trigger();
+}
+
 TEST_F(FrmRecovery, Escape_Keeps_Everything_For_The_Next_Start) {
   Crash("later");
   for (int i = 0; i < 2; ++i) {

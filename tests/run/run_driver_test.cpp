@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <sstream>
 
 #include "core/desk/file_dialogs.h"
 #include "core/desk/save_file.h"
@@ -257,9 +258,19 @@ TEST_F(RunDriver, What_A_Project_Is_Opened_By_And_Leads_To_Survives_Its_Run) {
   EXPECT_FALSE(fs::is_symlink(bench / "tmpfile.duo"));
 }
 
+/// When a process was started: the 22nd field of what the system tells of it, the 20th behind its
+/// name.
+std::string Start_Of(pid_t process) {
+  const std::string told = Read_Text("/proc/" + std::to_string(process) + "/stat");
+  std::istringstream fields(told.substr(told.rfind(')') + 1));
+  std::string field;
+  for (int i = 0; i < 20; ++i) fields >> field;
+  return field;
+}
+
 /// A process in the folder that a program started, which the mark names; it does nothing.
-pid_t Left_Solver(const std::string& folder, pid_t starter) {
-  const std::string mark = "BARVON_CHILD=" + std::to_string(starter) + ".1.1";
+pid_t Left_Solver(const std::string& folder, pid_t starter, const std::string& start) {
+  const std::string mark = "BARVON_CHILD=" + std::to_string(starter) + "." + start + ".1.1";
   const pid_t process = ::fork();
   if (process != 0) return process;
   const char* const command[] = {"/bin/sleep", "600", nullptr};
@@ -282,7 +293,7 @@ TEST_F(RunDriver, A_Mark_That_Has_Become_A_Link_To_Nowhere_Is_A_Mark) {
   Install(kWritesAll);
   fs::create_symlink("nowhere", std::string(bench / "Tmpfile.run"));
   const std::string application = fs::path(bench / "merak32").parent_path();
-  const pid_t stray = Left_Solver(application, Ended_Process());
+  const pid_t stray = Left_Solver(application, Ended_Process(), "1");
   ASSERT_TRUE(Comes_True([&] {
     return fs::read_symlink("/proc/" + std::to_string(stray) + "/exe").filename() == "sleep";
   }));
@@ -295,16 +306,20 @@ TEST_F(RunDriver, What_A_Killed_Programs_Solver_Left_Running_Is_Ended_Before_The
   Install(kWritesAll);
   Write_Text(bench / "Tmpfile.run", "");  // of the run that was killed
   const std::string application = fs::path(bench / "merak32").parent_path();
-  const pid_t stray = Left_Solver(application, Ended_Process());
-  const pid_t others = Left_Solver(application, ::getppid());
+  const pid_t stray = Left_Solver(application, Ended_Process(), "1");
+  // Its starter's number has passed to another process since.
+  const pid_t older = Left_Solver(application, ::getppid(), "1");
+  const pid_t others = Left_Solver(application, ::getppid(), Start_Of(::getppid()));
   const auto runs = [](pid_t process) {
     return fs::read_symlink("/proc/" + std::to_string(process) + "/exe").filename() == "sleep";
   };
   // Until then they have not their marks yet.
-  ASSERT_TRUE(Comes_True([&] { return runs(stray) && runs(others); }));
+  ASSERT_TRUE(Comes_True([&] { return runs(stray) && runs(older) && runs(others); }));
   EXPECT_EQ(Run().stage, Run_Stage::Ended);
-  EXPECT_TRUE(Comes_True([&] { return !Is_Alive(stray); }));
-  ::waitpid(stray, nullptr, 0);
+  for (const pid_t ended : {stray, older}) {
+    EXPECT_TRUE(Comes_True([&] { return !Is_Alive(ended); }));
+    ::waitpid(ended, nullptr, 0);
+  }
   EXPECT_TRUE(Is_Alive(others)) << "its starter lives";
   EXPECT_FALSE(Exists(bench / "Tmpfile.run"));
   ::kill(others, SIGKILL);

@@ -43,6 +43,9 @@ Recorded_Workspace::Recorded_Workspace() : former_folder_(Application_Folder()) 
     notes_.push_back(note.text);
     note_details_.push_back(note.details);
   };
+  port.board.take_back_note = [this](const std::string& text) {
+    if (!notes_.empty() && notes_.back() == text) Port().board.show_note({});
+  };
   port.text.has_changed = [this] { return text_has_changed_; };
   port.text.caption = [] { return std::string("Untitled"); };
   port.text.print = [this] {

@@ -642,6 +642,19 @@ TEST_F(NotePad, A_Large_Text_Is_Marked_And_Copied_By_Keys_And_Mouse) {
   EXPECT_EQ(Place(text), "Line 1, Column 4");
 }
 
+TEST_F(NotePad, The_First_Line_Of_An_Output_Is_In_View_Whole) {
+  const frmNotePad& text = Opened(std::string(104, 'n') + "\r\n" + std::string(500, '\n'));
+  const QPlainTextEdit* edit = Text1(text);
+  QTextCursor end(edit->document());
+  end.movePosition(QTextCursor::EndOfBlock);
+  const int right = edit->cursorRect(end).right();
+  const bool is_whole = right < edit->viewport()->width();
+  // On a small screen the texts leave room to stand in steps.
+  constexpr int kRoomForSteps = 48;
+  EXPECT_TRUE(is_whole || text.width() >= text.screen()->availableSize().width() - kRoomForSteps)
+      << right << " of " << edit->viewport()->width();
+}
+
 TEST_F(NotePad, An_Empty_File_And_One_Without_Line_Ends_Are_Shown) {
   EXPECT_EQ(Text1(Opened("", "empty.txt"))->toPlainText(), "");
   frmNotePad& text = Opened(std::string(5'000'000, 'x'), "one.txt");

@@ -24,7 +24,7 @@ struct Hold {
   std::string path;  // as it was opened
   std::optional<File_State> state;
   Project_Locks locks;
-  bool unsaved_is_said = false;
+  std::string unsaved_note;
 };
 
 Hold& This_Hold() {
@@ -140,7 +140,7 @@ void Project_Claim::Keep(std::optional<File_State> state) {
   Hold& hold = This_Hold();
   hold.path = path_;
   hold.state = state;
-  hold.unsaved_is_said = false;
+  Take_Back_Unsaved_Note();
   // What the window had already was not taken again.
   if (locks_ && !hold.locks.beside.Is_Under(Lock_Path_Of(path_))) {
     hold.locks.beside = std::move(locks_->beside);
@@ -169,11 +169,12 @@ std::string Folder_Of_Held_Project() {
 
 void Note_Unsaved(const std::string& text) {
   Port().board.show_note({text, {}});
-  This_Hold().unsaved_is_said = true;
+  This_Hold().unsaved_note = text;
 }
 
 void Take_Back_Unsaved_Note() {
-  if (std::exchange(This_Hold().unsaved_is_said, false)) Port().board.show_note({});
+  const std::string note = std::exchange(This_Hold().unsaved_note, {});
+  if (!note.empty()) Port().board.take_back_note(note);
 }
 
 void Release_Project() { This_Hold() = {}; }

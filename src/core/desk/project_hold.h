@@ -56,8 +56,8 @@ class Project_Claim {
 /// nobody.
 void Hold_What_Is_Free();
 
-/// Says in the status area that the project was not saved, and why; and takes that back before the
-/// next save, when nothing was loaded or saved since.
+/// Says in the status area that the project is not saved, and why; and takes that back, if it still
+/// stands there: before the next save, and when the project is loaded or saved.
 void Note_Unsaved(const std::string& text);
 void Take_Back_Unsaved_Note();
 

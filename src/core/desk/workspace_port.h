@@ -56,6 +56,8 @@ struct Board_Port {
   /// A screen has been registered or taken out.
   std::function<void()> screens_changed = [] {};
   std::function<void(const Status_Note&)> show_note = [](const Status_Note&) {};
+  /// Clears the status area's line while it is still this one.
+  std::function<void(const std::string& text)> take_back_note = [](const std::string&) {};
   /// The database has been used for the project; the line of a list, 0 to 3, names what was chosen.
   std::function<void()> set_database_used = [] {};
   std::function<void(int index, const std::string& text)> set_database_line =

@@ -1,12 +1,15 @@
 #include "platform/files/app_folder.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <deque>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -30,6 +33,15 @@ std::string& Folder() {
 std::string& Other_Delivered_Folder() {
   static std::string folder;
   return folder;
+}
+
+using Identity = std::pair<dev_t, ino_t>;
+
+/// What stands under a name, be it a link; nothing where the name is free.
+std::optional<Identity> Identity_Of(const std::string& path) {
+  struct stat status {};
+  if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
+  return Identity(status.st_dev, status.st_ino);
 }
 
 }  // namespace
@@ -81,26 +93,33 @@ int Copy_If_Not_Own(const std::string& name) {
 Copies_Made Copy_Together(const std::vector<std::string>& names) {
   std::deque<Safe_File> files;
   for (const std::string& name : names) {
+    const std::string own = Join_Path(Application_Folder(), name);
     std::string bytes;
     Safe_File& file = files.emplace_back();
     int error = Read_Whole_File(Path_To_Write(Join_Path(Delivered_Folder(), name)), bytes);
-    if (error == 0) error = file.Open(Join_Path(Application_Folder(), name));
+    if (error == 0) error = file.Open(own);
+    // A link to nowhere is to a place of the user's that is not there now.
+    if (error == 0 && file.Target() != own) error = EEXIST;
     if (error == 0) error = file.Write(bytes);
     if (error == 0) error = file.Settle();
     if (error != 0) return {error, name};
   }
   Unsynced_Folders folders;
   Copies_Made made;
-  std::size_t there = 0;
-  for (; there < names.size() && made.error == 0; there += made.error == 0 ? 1 : 0) {
-    made = {files[there].Commit(&folders), names[there]};
+  std::map<std::string, Identity> copies;
+  for (std::size_t i = 0; i < names.size() && made.error == 0; ++i) {
+    const std::string& path = files[i].Target();
+    if (Identity_Of(path)) continue;  // another window has copied it meanwhile
+    made = {files[i].Commit(&folders), names[i]};
+    const auto copy = Identity_Of(path);
+    if (made.error == 0 && copy) copies[path] = *copy;
   }
   for (const auto& [folder, error] : folders.Sync()) {
     if (made.error == 0) made.error = error;
   }
   if (made.error == 0) return {};
-  for (std::size_t i = 0; i < there; ++i) {
-    ::unlink(Join_Path(Application_Folder(), names[i]).c_str());
+  for (const auto& [path, copy] : copies) {
+    if (Identity_Of(path) == copy) ::unlink(path.c_str());
   }
   return made;
 }

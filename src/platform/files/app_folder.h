@@ -43,7 +43,8 @@ struct Copies_Made {
 };
 
 /// Copies delivered files into the application directory, which has none of these names: all of
-/// them, or none when one fails.
+/// them, or none when one fails. A name that is a link to nowhere fails with EEXIST. What another
+/// window puts under a name meanwhile stays as it is.
 Copies_Made Copy_Together(const std::vector<std::string>& names);
 
 /// Makes the folder the current one. False when it can't be entered.

@@ -40,6 +40,25 @@ std::string Absolute_Path(const std::string& path) {
   return error ? path : absolute.string();
 }
 
+std::string Without_Dots(const std::string& path) {
+  namespace fs = std::filesystem;
+  if (!path.starts_with('/')) return path;
+  fs::path plain;
+  for (const fs::path& part : fs::path(path)) {
+    if (part == ".") continue;
+    if (part != "..") {
+      plain /= part;
+      continue;
+    }
+    std::error_code error;
+    if (!fs::is_directory(plain, error)) return path;
+    const bool is_link = fs::is_symlink(plain, error);
+    plain = (is_link ? fs::canonical(plain, error) : plain).parent_path();
+    if (error) return path;
+  }
+  return plain.string();
+}
+
 std::string Base_Name(std::string_view path) {
   return std::string(path.substr(0, Extension_Dot(path)));
 }

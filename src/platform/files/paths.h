@@ -14,6 +14,10 @@ std::string Folder_Of(std::string_view path);
 std::string Name_Of(std::string_view path);
 /// The path from the root, with links and dots left as they are.
 std::string Absolute_Path(const std::string& path);
+/// The same file's path without ".", ".." and empty parts. A link stays, but for one that ".."
+/// leads back from: that leads above what the link leads to. As given where ".." comes behind what
+/// is no folder, or the path does not begin at the root.
+std::string Without_Dots(const std::string& path);
 
 /// The path up to the last dot of its file name, without the dot; the path itself when its name
 /// has no dot.

@@ -47,6 +47,9 @@ class Safe_File {
   /// Puts the new file in the target's place, with the target's permissions. That this lasts is
   /// waited for here, or left to the caller when `later` is given, under Folder.
   int Commit(Unsynced_Folders* later = nullptr);
+  /// The file that Commit replaces: what a link under the name led to when it was opened. A link
+  /// that comes under this path afterwards is replaced, not followed.
+  const std::string& Target() const { return target_; }
   /// The folder of the target, or of what a link under its name leads to.
   std::string Folder() const;
 

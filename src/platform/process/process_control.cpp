@@ -31,7 +31,8 @@ constexpr milliseconds kKillTakes{5000};  // a process that hangs in the system 
 std::string New_Mark() {
   static unsigned number = 0;
   return std::string(kFamilyMark) + "=" + std::to_string(::getpid()) + "." +
-         std::to_string(++number) + "." + std::to_string(Clock::now().time_since_epoch().count());
+         std::to_string(Process_Family::Start_Of(::getpid())) + "." + std::to_string(++number) +
+         "." + std::to_string(Clock::now().time_since_epoch().count());
 }
 
 }  // namespace

@@ -21,6 +21,9 @@ std::string Text_Of_Process(const std::string& number, const char* file) {
   return Read_Whole_File("/proc/" + number + "/" + file, text) == 0 ? text : std::string();
 }
 
+/// Of one whose end nobody has taken note of yet.
+bool Has_Ended(char state) { return state == 'Z' || state == 'X'; }
+
 /// The number that the system gave to a process last; 0 when it does not tell.
 pid_t Last_Number() {
   std::string load;
@@ -47,6 +50,12 @@ bool Process_Family::Read_Process(const std::string& number, Process& process) {
   std::string passed_over;
   for (int field = 6; field < 22; ++field) fields >> passed_over;
   return static_cast<bool>(fields >> process.start);
+}
+
+unsigned long long Process_Family::Start_Of(pid_t pid) {
+  Process process;
+  const bool runs = Read_Process(std::to_string(pid), process) && !Has_Ended(process.state);
+  return runs ? process.start : 0;
 }
 
 std::vector<Process_Family::Process> Process_Family::Younger_Processes() const {
@@ -118,7 +127,7 @@ bool Process_Family::Send(const std::vector<Process>& members, int signal, bool 
   if (!only_new) ::kill(-program_, signal);
   bool any_lives = false;
   for (const Process& process : members) {
-    if (process.state == 'Z' || process.state == 'X') continue;
+    if (Has_Ended(process.state)) continue;
     any_lives = true;
     const std::pair identity(process.pid, process.start);
     const bool is_new = std::find(seen_.begin(), seen_.end(), identity) == seen_.end();

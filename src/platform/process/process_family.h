@@ -8,7 +8,9 @@
 
 namespace barvon {
 
-/// The name of the environment's entry that marks a family.
+/// The name of the environment's entry that marks a family: what follows it begins with the number
+/// of the process that has started it, a point, and that process's start
+/// (Process_Family::Start_Of).
 inline constexpr char kFamilyMark[] = "BARVON_CHILD";
 
 /// A program and everything that it started: the processes of its group, those that descend from
@@ -26,6 +28,9 @@ class Process_Family {
   /// Looks for members and sends the signal to each, or only to those not seen before. True when
   /// any was found alive.
   bool Signal(int signal, bool only_new = false);
+  /// When a process was started, in the system's ticks: with the number it names one process for
+  /// good. 0 when there is none of that number, or none that still runs.
+  static unsigned long long Start_Of(pid_t pid);
   /// Kills what the program has left running, once it has ended by itself: none of it may write to
   /// files that are read from then on.
   void Kill_What_Is_Left();

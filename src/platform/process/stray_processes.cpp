@@ -3,7 +3,6 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
@@ -17,21 +16,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The process that has started this one's family, which the mark begins with; 0 without a mark.
-pid_t Starter_Of(const fs::path& process) {
+/// A process that has started a family. Its number alone may be another's by now.
+struct Starter {
+  pid_t pid = 0;
+  unsigned long long start = 0;
+};
+
+/// Who has started this one's family, which the mark begins with; the number is 0 without a mark.
+Starter Starter_Of(const fs::path& process) {
   std::string environment;
-  if (Read_Whole_File((process / "environ").string(), environment) != 0) return 0;
+  if (Read_Whole_File((process / "environ").string(), environment) != 0) return {};
   const std::string entry = std::string(kFamilyMark) + "=";
   const auto inside = environment.find('\0' + entry);
-  if (!environment.starts_with(entry) && inside == std::string::npos) return 0;
+  if (!environment.starts_with(entry) && inside == std::string::npos) return {};
   const auto at = environment.starts_with(entry) ? 0 : inside + 1;
-  return static_cast<pid_t>(std::strtol(environment.c_str() + at + entry.size(), nullptr, 10));
+  char* end = nullptr;
+  const auto pid =
+      static_cast<pid_t>(std::strtol(environment.c_str() + at + entry.size(), &end, 10));
+  return {pid, *end == '.' ? std::strtoull(end + 1, nullptr, 10) : 0};
 }
 
 bool Is_Stray(const fs::path& process) {
-  const pid_t starter = Starter_Of(process);
-  if (starter <= 0) return false;
-  return starter == ::getpid() || (::kill(starter, 0) != 0 && errno == ESRCH);
+  const Starter starter = Starter_Of(process);
+  if (starter.pid <= 0) return false;
+  return starter.pid == ::getpid() || Process_Family::Start_Of(starter.pid) != starter.start;
 }
 
 bool Works_In(const fs::path& process, const std::string& folder) {

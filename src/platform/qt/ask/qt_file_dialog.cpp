@@ -1,12 +1,15 @@
 #include "platform/qt/ask/qt_file_dialog.h"
 
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QEvent>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -19,6 +22,8 @@
 #include <QTreeView>
 
 #include "platform/files/app_folder.h"
+#include "platform/files/path_lookup.h"
+#include "platform/files/paths.h"
 #include "platform/qt/ask/qt_message_box.h"
 #include "platform/qt/ask/window_in_front.h"
 #include "platform/qt/session_printer.h"
@@ -37,6 +42,32 @@ QString Existing_File(const QString& path) {
   return {};
 }
 
+/// The existing path that the given one stands for, in whatever case; empty when there is none.
+QString Existing_Path(QString path) {
+  if (path.size() > 1 && path.endsWith(QLatin1Char('/'))) path.chop(1);
+  return QString::fromStdString(Find_Path(path.toStdString()).value_or(std::string()));
+}
+
+QString Plain(const QString& path) {
+  return QString::fromStdString(Without_Dots(path.toStdString()));
+}
+
+/// The toolkit's own look into the files for their kinds, which can take long and, at what the
+/// system only offers as a file, never ends.
+class Plain_Icons : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& file) const override { return file.isDir() ? folder_ : file_; }
+  /// Never empty: the toolkit takes a file without a type for one that is not known yet.
+  QString type(const QFileInfo& file) const override {
+    return file.isDir() ? QStringLiteral("Folder") : QStringLiteral("File");
+  }
+
+ private:
+  // Made here: they are asked for from another thread.
+  QIcon folder_ = QFileIconProvider::icon(Folder), file_ = QFileIconProvider::icon(File);
+};
+
 constexpr QSize kSize(680, 440);
 
 /// The toolkit reads several names in quotation marks out of the field, so that a name which holds
@@ -49,6 +80,9 @@ class File_Dialog : public QFileDialog {
     // The toolkit's own dialog: the desktop's would match "*.DUI" by case.
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
+    // The list's thread asks it until the toolkit's part of the dialog is gone.
+    static auto* const icons = new Plain_Icons;
+    setIconProvider(icons);
     setAcceptMode(mode);
     setFileMode(mode == AcceptOpen ? ExistingFile : AnyFile);
     if (!request.title.empty()) setWindowTitle(QString::fromStdString(request.title));
@@ -81,22 +115,28 @@ class File_Dialog : public QFileDialog {
     const QString folder = Selected_Folder();
     const QString path = folder.isEmpty() ? Path() : folder;
     if (path.isEmpty()) return;
-    if (QFileInfo(path).isDir()) {
-      Enter(path);
+    const QString existing = Existing_Path(path);
+    if (!existing.isEmpty() && QFileInfo(existing).isDir()) {
+      Enter(existing);
     } else if (path.endsWith(QLatin1Char('/'))) {
-      Tell(path + QStringLiteral("\nDirectory not found.\nPlease verify the correct directory name "
-                                 "was given."));
-    } else if (acceptMode() == AcceptOpen && !QFileInfo::exists(path)) {
+      Tell_No_Folder(path);
+    } else if (acceptMode() == AcceptSave) {
+      Save_Under(path);
+    } else if (existing.isEmpty()) {
       Tell(QFileInfo(path).fileName() +
            QStringLiteral("\nFile not found.\nPlease verify the correct file name was given."));
-    } else if (acceptMode() == AcceptOpen || May_Be_Written(With_Ending(path))) {
-      chosen_ = acceptMode() == AcceptOpen ? path : With_Ending(path);
-      done(Accepted);
+    } else {
+      Choose(existing);
     }
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == button_ && event->type() == QEvent::EnabledChange) Enable_Button();
+    if (watched != button_ && event->type() == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      const bool is_return = key == Qt::Key_Return || key == Qt::Key_Enter;
+      if (is_return && !Select_Current_Row(*static_cast<QAbstractItemView*>(watched))) return true;
+    }
     return QFileDialog::eventFilter(watched, event);
   }
 
@@ -112,17 +152,36 @@ class File_Dialog : public QFileDialog {
     connect(name_, &QLineEdit::textChanged, this, &File_Dialog::Follow_Name);
     // The toolkit greys the button for what it can't make out, on several occasions.
     button_->installEventFilter(this);
+    for (auto* rows : {"listView", "treeView"}) {
+      findChild<QAbstractItemView*>(QLatin1String(rows))->installEventFilter(this);
+    }
+  }
+
+  /// Return in a list is for the row that the frame is on, also where typing has taken its mark
+  /// away. Where there is none it presses the button, and false says so.
+  bool Select_Current_Row(QAbstractItemView& rows) {
+    const QModelIndex current = rows.currentIndex();
+    if (!current.isValid() || current.parent() != rows.rootIndex()) {
+      button_->click();
+      return false;
+    }
+    QItemSelectionModel* selection = rows.selectionModel();
+    if (!selection->isRowSelected(current.row(), current.parent())) {
+      selection->select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+    return true;
   }
 
   /// The path that the field stands for; empty when that is empty. "~" is the home folder where no
   /// file is called so.
   QString Path() const {
-    QString name = name_->text();
-    if (name.isEmpty() || name.startsWith(QLatin1Char('/'))) return name;
+    const QString name = name_->text();
+    if (name.isEmpty()) return name;
+    if (name.startsWith(QLatin1Char('/'))) return Plain(name);
     const QString here = directory().absolutePath();
     const QString path = here + (here.endsWith(QLatin1Char('/')) ? "" : "/") + name;
     const bool is_home = name == QLatin1Char('~') || name.startsWith(QLatin1String("~/"));
-    return is_home && !QFileInfo::exists(path) ? QDir::homePath() + name.mid(1) : path;
+    return Plain(is_home && !QFileInfo::exists(path) ? QDir::homePath() + name.mid(1) : path);
   }
 
   /// The folder that is chosen in the list; choosing one leaves the field as it is.
@@ -152,9 +211,33 @@ class File_Dialog : public QFileDialog {
   }
 
   void Enter(const QString& folder) {
-    const bool was_typed = QDir::cleanPath(folder) == QDir::cleanPath(Path());
+    const bool was_typed = folder == Existing_Path(Path());
     setDirectory(folder);
-    if (was_typed) name_->clear();
+    if (!was_typed) return;
+    name_->clear();
+    name_->completer()->popup()->hide();
+  }
+
+  void Save_Under(const QString& typed) {
+    const std::string named = With_Ending(typed).toStdString();
+    const std::string folder = Folder_Of(complete_ ? complete_(named) : named);
+    const QString existing = Existing_Path(QString::fromStdString(folder));
+    if (existing.isEmpty() || !QFileInfo(existing).isDir()) {
+      Tell_No_Folder(QString::fromStdString(folder));
+      return;
+    }
+    const QString path = QString::fromStdString(Join_Path(existing.toStdString(), Name_Of(named)));
+    if (May_Be_Written(path)) Choose(path);
+  }
+
+  void Choose(const QString& path) {
+    chosen_ = path;
+    done(Accepted);
+  }
+
+  void Tell_No_Folder(const QString& folder) {
+    Tell(folder + QStringLiteral("\nDirectory not found.\nPlease verify the correct directory name "
+                                 "was given."));
   }
 
   void Tell(const QString& text) {

@@ -10,13 +10,14 @@ namespace barvon {
 /// folder for them.
 QString Documents_Folder();
 
-/// The open dialog with its filters, matched without regard to case. What is typed, offered or
-/// chosen is the name letter for letter; "~" alone or before a "/" is the home folder unless a file
-/// is called so, and a folder is gone into.
+/// The open dialog with its filters. Filters and names are matched without regard to case, and what
+/// is given back is the name on the disk. What is typed, offered or chosen is the name letter for
+/// letter; "~" alone or before a "/" is the home folder unless a file is called so, and a folder is
+/// gone into. "." and ".." are taken out of what is given back (Without_Dots).
 std::optional<std::string> Ask_Qt_Open_File(const File_Request& request);
 
-/// The save dialog, which reads names in the same way. Asks before a file is named that exists,
-/// under whatever case its name has.
+/// The save dialog, which reads names in the same way. Tells of a folder that is not there, and
+/// asks before a file is named that exists, under whatever case its name has.
 std::optional<std::string> Ask_Qt_Save_File(const File_Request& request);
 
 /// The common printer set-up dialog; what is set there holds until the program ends.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFileSystemModel>
 #include <QLineEdit>
@@ -447,6 +448,126 @@ TEST(FileDialogs, A_Relative_Path_Begins_In_The_Folder_That_Shows) {
     EXPECT_EQ(given(R"(sub/../other/a"b.DUI)"), folder / R"(other/a"b.DUI)");
     EXPECT_EQ(given(R"(~/a"b.DUI)"), folder / R"(other/a"b.DUI)");
   }
+}
+
+TEST(OpenDialog, A_Typed_Name_Is_Found_In_Any_Case) {
+  Scratch_Folder folder;
+  std::filesystem::create_directory(folder / "Sub");
+  Write_Text(folder / "R.DUI", "x");
+  Write_Text(folder / "Sub/Deep.dui", "x");
+  Modal_Replies replies({Type_Name("r.dui"), Type_Name("SUB/deep.DUI"), [&](QWidget* dialog) {
+                           Type_Name("sub")(dialog);
+                           EXPECT_TRUE(dialog->isVisible());
+                           Type_Name("DEEP.dui")(dialog);
+                         }});
+  const File_Request request{"", {kProjects}, folder.path()};
+  EXPECT_EQ(Ask_Qt_Open_File(request), folder / "R.DUI");
+  EXPECT_EQ(Ask_Qt_Open_File(request), folder / "Sub/Deep.dui");
+  EXPECT_EQ(Ask_Qt_Open_File(request), folder / "Sub/Deep.dui");
+}
+
+TEST(SaveDialog, A_Missing_Folder_Is_Told_While_The_Dialog_Stands) {
+  Scratch_Folder folder;
+  std::filesystem::create_directory(folder / "Sub");
+  Write_Text(folder / "bay.DUI", "x");
+  const auto is_told = [](const char* name) -> Reply {
+    return [name](QWidget* dialog) {
+      Type_Name(name)(dialog);
+      EXPECT_TRUE(dialog->isVisible());
+      EXPECT_EQ(Name_Field(dialog)->text(), name);
+      dialog->close();
+    };
+  };
+  Modal_Replies replies({is_told("none/x.DUI"), Press(QMessageBox::Ok), is_told("bay.DUI/x.DUI"),
+                         Press(QMessageBox::Ok), Type_Name("sub/x.DUI")});
+  const File_Request request{"", {kProjects}, folder.path()};
+  EXPECT_FALSE(Ask_Qt_Save_File(request).has_value());
+  EXPECT_FALSE(Ask_Qt_Save_File(request).has_value());
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "Sub/x.DUI");
+  const std::string told =
+      "\nDirectory not found.\nPlease verify the correct directory name was given.";
+  ASSERT_EQ(replies.seen.size(), 2U);
+  EXPECT_EQ(replies.seen[0].text.toStdString(), (folder / "none") + told);
+  EXPECT_EQ(replies.seen[1].text.toStdString(), (folder / "bay.DUI") + told);
+}
+
+TEST(FileDialogs, A_Typed_Folder_Leaves_No_List_Of_Names_Open) {
+  Scratch_Folder folder;
+  std::filesystem::create_directory(folder / "sub");
+  Write_Text(folder / "sub/bay.DUI", "x");
+  for (const auto& ask : {Ask_Qt_Open_File, Ask_Qt_Save_File}) {
+    Modal_Replies replies({[&](QWidget* dialog) {
+      ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains("sub"); }));
+      Type_Name("sub")(dialog);
+      ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains("bay.DUI"); }));
+      QTest::qWait(300);
+      EXPECT_FALSE(Name_Field(dialog)->completer()->popup()->isVisible());
+      dialog->close();
+    }});
+    EXPECT_FALSE(ask({"", {kProjects}, folder.path()}).has_value());
+  }
+}
+
+TEST(FileDialogs, What_Is_Given_Back_Has_No_Dots_In_Its_Path) {
+  Scratch_Folder folder;
+  std::filesystem::create_directories(folder / "sub/deep");
+  std::filesystem::create_directory_symlink(folder / "sub/deep", folder / "link");
+  for (const char* name : {"top.DUI", "sub/in.DUI"}) Write_Text(folder / name, "x");
+  const File_Request request{"", {kProjects}, folder.path()};
+  Modal_Replies replies({Type_Name("./sub/../top.DUI"), Type_Name("link/../in.DUI"),
+                         Type_Name(folder / "sub/.././new.DUI")});
+  EXPECT_EQ(Ask_Qt_Open_File(request), folder / "top.DUI");
+  EXPECT_EQ(Ask_Qt_Open_File(request),
+            std::filesystem::canonical(folder / "sub").string() + "/in.DUI");
+  EXPECT_EQ(Ask_Qt_Save_File(request), folder / "new.DUI");
+}
+
+TEST(FileDialogs, Return_In_The_List_Is_For_The_Row_That_Has_The_Frame) {
+  Scratch_Folder folder;
+  Write_Text(folder / "bay.DUI", "x");
+  for (const char* view : {"listView", "treeView"}) {
+    const auto by_return = [&](QWidget* dialog) {
+      auto* rows = dialog->findChild<QAbstractItemView*>(view);
+      const bool is_list = rows == dialog->findChild<QListView*>("listView");
+      qobject_cast<QFileDialog*>(dialog)->setViewMode(is_list ? QFileDialog::List
+                                                              : QFileDialog::Detail);
+      ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains("bay.DUI"); }));
+      rows->setCurrentIndex(rows->model()->index(0, 0, rows->rootIndex()));
+      Name_Field(dialog)->setText("zzz");
+      EXPECT_FALSE(rows->selectionModel()->hasSelection());
+      rows->setFocus();
+      QTest::keyClick(rows, Qt::Key_Return);
+    };
+    Modal_Replies replies({by_return});
+    EXPECT_EQ(Ask_Qt_Open_File({"", {kProjects}, folder.path()}), folder / "bay.DUI") << view;
+  }
+}
+
+TEST(FileDialogs, Return_In_A_List_Without_Rows_Presses_The_Button) {
+  Scratch_Folder folder;
+  std::filesystem::create_directory(folder / "sub");
+  Modal_Replies replies({[](QWidget* dialog) {
+    auto* rows = dialog->findChild<QListView*>("listView");
+    rows->setFocus();
+    QTest::keyClick(rows, Qt::Key_Return);
+  }});
+  EXPECT_EQ(Ask_Qt_Save_File({"", {kProjects}, folder / "sub/bay.DUI"}), folder / "sub/bay.DUI");
+}
+
+/// Of a name without an ending only the bytes tell what it is.
+TEST(FileDialogs, No_File_Is_Looked_Into_For_Its_Picture) {
+  Scratch_Folder folder;
+  Write_Text(folder / "bay", "%PDF-1.4");
+  QString kind;
+  Modal_Replies replies({[&](QWidget* dialog) {
+    ASSERT_TRUE(testing::Wait_Until([&] { return Listed_Files(dialog).contains("bay"); }));
+    auto* files = dialog->findChild<QListView*>("listView");
+    auto* model = qobject_cast<QFileSystemModel*>(files->model());
+    kind = model->type(model->index(QString::fromStdString(folder / "bay")));
+    dialog->close();
+  }});
+  EXPECT_FALSE(Ask_Qt_Open_File({"", {{"All", kAll}}, folder.path()}).has_value());
+  EXPECT_EQ(kind, "File");
 }
 
 TEST(FileDialogs, A_File_Called_Tilde_Comes_Before_The_Home_Folder) {
