@@ -33,7 +33,7 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
   cboUnit->addItems({QStringLiteral("Metres, 1 ft is 0.3048 m (international foot)"),
                      QStringLiteral("Metres, 1 ft is 1200/3937 m (US survey foot)"),
                      QStringLiteral("Feet, the same as the grid's")});
-  txtSystem->setPlaceholderText(QStringLiteral("EPSG:32618"));
+  txtSystem->setPlaceholderText(QStringLiteral("for instance EPSG:32618"));
   lblCorners->setObjectName(QStringLiteral("lblCorners"));
   lblCorners->setTextFormat(Qt::PlainText);
   lblCorners->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -48,8 +48,9 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
   auto* column = new QVBoxLayout(this);
   column->addWidget(Wrapping_Label(
       QStringLiteral("Easting and northing are those of the grid's corner point: row 1 and column "
-                     "1, X = Z = 0, at the upper left. Without a turn Z grows to the east and X "
-                     "to the south; a turn is about the corner point, seen from above."),
+                     "1, at the upper left, where X and Z are 0. Without a turn Z grows to the "
+                     "east and X to the south; a turn is about the corner point, seen from "
+                     "above."),
       this));
   column->addSpacing(6);
   column->addLayout(fields);
@@ -121,9 +122,11 @@ bool frmPlace::Accept_Entry() {
     return false;
   }
   if (Looks_Like_Degrees(*read.place) &&
-      Ask("Easting and northing look like degrees of longitude and latitude, and are taken as "
-          "metres or feet.  Is it so?",
-          Buttons::YesNo, Icon::Question) != Answer::Yes) {
+      Show_Message({.text = "Easting and northing look like degrees of longitude and latitude, and "
+                            "are taken as metres or feet.  Is it so?",
+                    .buttons = Buttons::YesNo,
+                    .icon = Icon::Question,
+                    .on_return = Answer::No}) != Answer::Yes) {
     txtEasting->setFocus();
     return false;
   }

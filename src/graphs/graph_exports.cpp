@@ -22,7 +22,7 @@ namespace barvon {
 namespace {
 
 Picture_Page Shown_On_Paper(Graph_Page& page, const Results& results) {
-  return Page_Of(page.Shown_Picture()->As_Svg(), page.Picture_Name(), results);
+  return Page_Of(*page.Shown_Picture(), page.Picture_Name(), results);
 }
 
 QByteArray Picture_For(const std::string& path, Graph_Page& page, const Results& results) {

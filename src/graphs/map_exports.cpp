@@ -20,12 +20,14 @@ namespace {
 std::optional<Map_Place> Ask_And_Keep(const Results& results, const Kept_Place& kept) {
   const std::string file = Place_File_Of(results.path);
   if (!kept.problem.empty() &&
-      Ask("The place of the grid in " + file + " can't be used: " + kept.problem +
-              "\nDo you want to type it anew?  The file is changed then.",
-          Buttons::YesNo, Icon::Warning) != Answer::Yes) {
+      Show_Message({.text = "The place of the grid in " + file + " can't be used: " + kept.problem +
+                            "\nDo you want to type it anew?  The file is changed then.",
+                    .buttons = Buttons::YesNo,
+                    .icon = Icon::Warning,
+                    .on_return = Answer::No}) != Answer::Yes) {
     return std::nullopt;
   }
-  const auto place = Ask_Place(results.grid, kept.place);
+  auto place = Ask_Place(results.grid, kept.place);
   if (!place) return std::nullopt;
   if (const int error = Write_Place(file, *place); error != 0) {
     Show_Warning("The place of the grid is used, but could not be kept in " + file + ": " +

@@ -5,10 +5,10 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgRenderer>
 #include <algorithm>
 
 #include "pictures/shape_painter.h"
+#include "pictures/shape_picture.h"
 #include "pictures/shapes/inks.h"
 #include "platform/files/paths.h"
 
@@ -59,34 +59,48 @@ class Text_Column {
   double width_;
 };
 
+bool Has_Text(const Shape_List& picture, const std::string& words) {
+  return std::ranges::any_of(picture.shapes, [&words](const Shape& shape) {
+    const auto* text = std::get_if<Text_Shape>(&shape);
+    return text != nullptr && text->text == words;
+  });
+}
+
 }  // namespace
 
-Picture_Page Page_Of(const QByteArray& svg, const QString& title, const Results& results) {
+Picture_Page Page_Of(Picture& picture, const QString& title, const Results& results) {
+  Picture_Page page;
+  if (auto* shapes = dynamic_cast<Shape_Picture*>(&picture)) page.picture = shapes->As_Shapes();
+  if (!Has_Text(page.picture, title.toStdString())) page.title = title;
+  page.project = QString::fromStdString(results.title);
   const QDateTime made = QDateTime::fromSecsSinceEpoch(results.made);
-  return {svg, title, QString::fromStdString(results.title),
-          QStringLiteral("%1, outputs of %2")
-              .arg(QString::fromStdString(Name_Of(Base_Name(results.path))),
-                   made.toString(QStringLiteral("yyyy-MM-dd HH:mm"))),
-          QString::fromStdString(results.label)};
+  page.footnote = QStringLiteral("%1, outputs of %2")
+                      .arg(QString::fromStdString(Name_Of(Base_Name(results.path))),
+                           made.toString(QStringLiteral("yyyy-MM-dd HH:mm")));
+  page.label = QString::fromStdString(results.label);
+  return page;
 }
 
 bool Paint_Picture_Page(const Picture_Page& page, QPagedPaintDevice& device) {
-  QSvgRenderer picture(page.svg);
-  picture.setAspectRatioMode(Qt::KeepAspectRatio);
+  const Shape_List& picture = page.picture;
   QPainter painter;
-  if (page.svg.isEmpty() || !picture.isValid() || !painter.begin(&device)) return false;
+  if (!(picture.width > 0 && picture.height > 0) || !painter.begin(&device)) return false;
   const double scale = device.logicalDpiX() / kPointsPerInch;
   painter.scale(scale, scale);
   const double width = device.width() / scale, height = device.height() / scale;
   Text_Column column(painter, width);
-  const QFont small = Letters(kText, false);
-  const double top = column.Put(page.project, small,
-                                column.Put(page.title, Letters(kTitle, true), 0, kInk), kQuietInk) +
-                     kGap;
+  const QFont small = Letters(kText, false), large = Letters(kTitle, true);
+  double top = column.Put(page.title, large, 0, kInk);
+  top = column.Put(page.project, page.title.isEmpty() ? large : small, top, kInk) + kGap;
   double bottom = height - column.Height(page.footnote, small) - column.Height(page.label, small);
   column.Put(page.label, small, column.Put(page.footnote, small, bottom, kQuietInk), kQuietInk);
   bottom -= kGap;
-  if (bottom > top) picture.render(&painter, QRectF(0, top, width, bottom - top));
+  const double fits = std::min(width / picture.width, (bottom - top) / picture.height);
+  if (fits > 0) {
+    painter.translate((width - fits * picture.width) / 2, top);
+    painter.scale(fits, fits);
+    Paint_Shapes(painter, picture, Letters(kText, false));
+  }
   return painter.end();
 }
 

@@ -41,7 +41,7 @@ std::vector<std::string> Names_For(const std::string& path, int count) {
   for (int i = 1; i <= count; ++i) {
     std::string number = std::to_string(i);
     number.insert(0, digits - number.size(), '0');
-    names.push_back(Path_To_Write(base + " " + number + kPng));
+    names.push_back(Path_To_Write(std::string(base).append(" ").append(number).append(kPng)));
   }
   return names;
 }
@@ -50,10 +50,12 @@ bool May_Replace(const std::vector<std::string>& names) {
   const auto there = std::ranges::count_if(
       names, [](const std::string& name) { return Find_Path(name).has_value(); });
   if (there == 0) return true;
-  return Ask(Counted(static_cast<std::size_t>(there), "picture") +
-                 " of these names exist already, from " + Name_Of(names.front()) + " to " +
-                 Name_Of(names.back()) + ".\nDo you want to replace them?",
-             Buttons::YesNo, Icon::Warning) == Answer::Yes;
+  return Show_Message({.text = Counted(static_cast<std::size_t>(there), "picture") +
+                               " of these names exist already, from " + Name_Of(names.front()) +
+                               " to " + Name_Of(names.back()) + ".\nDo you want to replace them?",
+                       .buttons = Buttons::YesNo,
+                       .icon = Icon::Warning,
+                       .on_return = Answer::No}) == Answer::Yes;
 }
 
 /// Draws one picture into a file of its own. 0 or an errno value.

@@ -59,13 +59,15 @@ void Shape_Picture::Dress_Content(const QFont& font) { content()->setFont(font);
 
 void Shape_Picture::Redraw_Content() { content()->update(); }
 
-QByteArray Shape_Picture::As_Svg() {
+QByteArray Shape_Picture::As_Svg() { return QByteArray::fromStdString(Svg_Text(As_Shapes())); }
+
+Shape_List Shape_Picture::As_Shapes() {
   Catch_Up();
   const Canvas canvas = Present_Canvas();
   Shape_List picture = Shapes(canvas);
   picture.title = accessibleName().toStdString();
   Add_Note(picture, Caption().toStdString(), canvas.text_size);
-  return QByteArray::fromStdString(Svg_Text(picture));
+  return picture;
 }
 
 }  // namespace barvon

@@ -12,6 +12,8 @@ class Shape_Picture : public Picture {
 
  public:
   QByteArray As_Svg() override;
+  /// The picture as it stands, with its title and with the lines below it: what a file shows.
+  Shape_List As_Shapes();
 
  protected:
   Shape_Picture(const QString& name, const QString& file_name, QWidget* parent);

@@ -5,10 +5,18 @@
 #include <cmath>
 
 namespace barvon {
+namespace {
+
+constexpr double kLeastPlain = 1e-4, kMostPlain = 1e15;
+
+}  // namespace
 
 std::string Shortest_Number(double value) {
+  const double size = std::abs(value);
+  const bool plain = size == 0 || (size >= kLeastPlain && size < kMostPlain);
   std::array<char, 32> letters;  // the longest form has 24
-  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value);
+  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value,
+                                 plain ? std::chars_format::fixed : std::chars_format::scientific);
   return {letters.data(), end.ptr};
 }
 

@@ -8,8 +8,8 @@ namespace barvon {
 
 // Numbers of files that other programs read: "." is the point whatever the desktop says.
 
-/// The fewest digits that read back as the same number: "0.1", "1e-07", "250". Not for what is
-/// not finite.
+/// The fewest digits that read back as the same number, plain from 0.0001 up to below 1e15 and in
+/// exponent form outside: "0.1", "500000", "1e-07". Not for what is not finite.
 std::string Shortest_Number(double value);
 
 /// At most so many decimals, without zeros at the end and without a minus before a zero. Not for

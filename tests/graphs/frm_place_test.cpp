@@ -94,6 +94,7 @@ TEST_F(PlaceOfTheGrid, Degrees_Are_Asked_About) {
     const Scripted_Messages messages({Answer::No});
     Press_Key(Qt::Key_Return);
     ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0].on_return, Answer::No);
     EXPECT_TRUE(screen->isVisible());
   }
   const Scripted_Messages messages({Answer::Yes});

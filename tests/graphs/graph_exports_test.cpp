@@ -11,6 +11,7 @@
 #include "graphs/export_bench.h"
 #include "graphs/export_files.h"
 #include "graphs/picture_page.h"
+#include "pictures/depth_map.h"
 #include "platform/qt/session_printer.h"
 #include "support/plain_support.h"
 
@@ -141,15 +142,23 @@ TEST(GraphExports, A_Print_That_Fails_Is_Told) {
 
 TEST(GraphExports, A_Page_Tells_Project_Solver_And_Worth_Of_The_Picture) {
   const Results_Held results = Results_At("/a/Site.DUI");
-  const Picture_Page page = Page_Of("<svg/>", "Sand at 20 ft", *results);
+  Bar_Page bars;
+  const Picture_Page page = Page_Of(*bars.Shown_Picture(), "Sand at 20 ft", *results);
   EXPECT_EQ(page.title, "Sand at 20 ft");
   EXPECT_EQ(page.project, "Harbour study");
   EXPECT_EQ(page.label, "COMPANION SOLVER 1.0 - not a validated code for permits.");
   // 2023-11-14 22:13:20 UTC, told in the desktop's time.
   EXPECT_TRUE(page.footnote.startsWith("Site, outputs of 2023-11-1"))
       << page.footnote.toStdString();
-  EXPECT_EQ(Picture_Pdf({"", "title", "", "", ""}), QByteArray());
-  EXPECT_EQ(Picture_Pdf({"no picture", "title", "", "", ""}), QByteArray());
+  EXPECT_EQ(Page_Of(*bars.Shown_Picture(), "Sand (mg/l)", *results).title, "")
+      << "the picture says it itself";
+}
+
+TEST(GraphExports, A_Page_Without_A_Picture_Is_None) {
+  EXPECT_EQ(Picture_Pdf({}), QByteArray());
+  Depth_Map cells;
+  const Picture_Page page = Page_Of(cells, "Depths", *Results_At("/a/Site.DUI"));
+  EXPECT_EQ(Picture_Pdf(page), QByteArray());
 }
 
 }  // namespace

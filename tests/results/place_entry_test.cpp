@@ -44,7 +44,7 @@ TEST(PlaceEntry, The_First_Fault_Is_Told_With_Its_Field) {
 TEST(PlaceEntry, A_Place_Far_From_Any_Map_Is_Refused) {
   Place_Entry entry = Typed();
   entry.easting = "100000001";
-  EXPECT_EQ(Fault_Of(entry).words, "The easting is beyond 1e+08.");
+  EXPECT_EQ(Fault_Of(entry).words, "The easting is beyond 100000000.");
   entry = Typed();
   entry.turn = "361";
   EXPECT_EQ(Fault_Of(entry).field, Place_Field::turn);

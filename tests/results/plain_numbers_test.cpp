@@ -11,7 +11,11 @@ namespace {
 TEST(PlainNumbers, The_Fewest_Digits_That_Are_The_Number) {
   EXPECT_EQ(Shortest_Number(250), "250");
   EXPECT_EQ(Shortest_Number(0.1), "0.1");
+  EXPECT_EQ(Shortest_Number(500000), "500000");
+  EXPECT_EQ(Shortest_Number(0.0001), "0.0001");
+  EXPECT_EQ(Shortest_Number(0), "0");
   EXPECT_EQ(Shortest_Number(1e-7), "1e-07");
+  EXPECT_EQ(Shortest_Number(-2.5e20), "-2.5e+20");
   EXPECT_EQ(Shortest_Number(-12.5), "-12.5");
 }
 
