@@ -27,7 +27,7 @@ std::optional<Map_Place> Ask_And_Keep(const Results& results, const Kept_Place& 
                     .on_return = Answer::No}) != Answer::Yes) {
     return std::nullopt;
   }
-  const auto place = Ask_Place(results.grid, kept.place);
+  auto place = Ask_Place(results.grid, kept.place);
   if (!place) return std::nullopt;
   if (const int error = Write_Place(file, *place); error != 0) {
     Show_Warning("The place of the grid is used, but could not be kept in " + file + ": " +

@@ -41,7 +41,7 @@ std::vector<std::string> Names_For(const std::string& path, int count) {
   for (int i = 1; i <= count; ++i) {
     std::string number = std::to_string(i);
     number.insert(0, digits - number.size(), '0');
-    names.push_back(Path_To_Write(base + " " + number + kPng));
+    names.push_back(Path_To_Write(std::string(base).append(" ").append(number).append(kPng)));
   }
   return names;
 }

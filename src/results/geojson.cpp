@@ -2,15 +2,18 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 
 #include "results/contours.h"
+#include "results/map_polygons.h"
 #include "results/plain_numbers.h"
 
 namespace barvon {
 namespace {
 
 constexpr int kDecimals = 3;
+constexpr double kSteps = 1000;  // of a unit
 
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
@@ -32,10 +35,31 @@ class Position_Writer {
  public:
   explicit Position_Writer(const Map_Place& place) : place_(place) {}
 
-  std::string Position(const Result_Point& point) const {
+  Map_Step Step(const Result_Point& point) const {
     const Map_Point on_map = On_Map(place_, point);
-    return "[" + Rounded_Number(on_map.easting, kDecimals) + "," +
-           Rounded_Number(on_map.northing, kDecimals) + "]";
+    return {std::llround(on_map.easting * kSteps), std::llround(on_map.northing * kSteps)};
+  }
+
+  static std::string Position(const Map_Step& step) {
+    const auto text = [](long long steps) {
+      return Rounded_Number(static_cast<double>(steps) / kSteps, kDecimals);
+    };
+    return "[" + text(step.east) + "," + text(step.north) + "]";
+  }
+
+  std::string Position(const Result_Point& point) const { return Position(Step(point)); }
+
+  Map_Ring Ring(const std::vector<Result_Point>& points) const {
+    Map_Ring ring;
+    for (const Result_Point& point : points) ring.push_back(Step(point));
+    return ring;
+  }
+
+  /// With its first position at the end again.
+  static std::string Positions(const Map_Ring& ring) {
+    std::string text;
+    for (const Map_Step& step : ring) text += Position(step) + ",";
+    return "[" + text + Position(ring.front()) + "]";
   }
 
   /// The positions of a line, or of a ring with its first position at the end again; empty where
@@ -70,56 +94,13 @@ std::string Feature(const std::string& kind, const std::string& further, const c
          R"(},"geometry":{"type":")" + geometry + R"(","coordinates":)" + coordinates + "}}";
 }
 
-/// By the odd-even rule.
-bool Holds(const std::vector<Result_Point>& ring, const Result_Point& point) {
-  bool inside = false;
-  for (std::size_t i = 0; i < ring.size(); ++i) {
-    const Result_Point& a = ring[i];
-    const Result_Point& b = ring[(i + 1) % ring.size()];
-    if ((a.x > point.x) == (b.x > point.x)) continue;
-    if (point.z < a.z + (point.x - a.x) / (b.x - a.x) * (b.z - a.z)) inside = !inside;
-  }
-  return inside;
-}
-
-struct Polygon {
-  std::vector<Result_Point> outer;
-  double area = 0;
-  std::vector<std::vector<Result_Point>> holes;
-};
-
-/// The smallest polygon around a hole. A corner of it may touch the outline, so all have a voice.
-Polygon* Around(std::vector<Polygon>& polygons, const std::vector<Result_Point>& hole) {
-  Polygon* around = nullptr;
-  for (Polygon& polygon : polygons) {
-    const auto inside = std::ranges::count_if(
-        hole, [&](const Result_Point& point) { return Holds(polygon.outer, point); });
-    const bool holds = 2 * static_cast<std::size_t>(inside) > hole.size();
-    if (holds && (around == nullptr || polygon.area < around->area)) around = &polygon;
-  }
-  return around;
-}
-
-std::vector<Polygon> Polygons_Of(const std::vector<Contour_Ring>& rings) {
-  std::vector<Polygon> polygons;
-  for (const Contour_Ring& ring : rings) {
-    if (!ring.hole) polygons.push_back({ring.points, Signed_Area(ring.points), {}});
-  }
-  for (const Contour_Ring& ring : rings) {
-    Polygon* around = ring.hole ? Around(polygons, ring.points) : nullptr;
-    if (around != nullptr) around->holes.push_back(ring.points);
-  }
-  return polygons;
-}
-
-std::string Multi_Polygon(const std::vector<Polygon>& polygons, const Position_Writer& writer) {
+std::string Multi_Polygon(const std::vector<Contour_Ring>& regions, const Position_Writer& writer) {
+  std::vector<Map_Ring> outlines;
+  for (const Contour_Ring& ring : regions) outlines.push_back(writer.Ring(ring.points));
   std::vector<std::string> texts;
-  for (const Polygon& polygon : polygons) {
-    std::vector<std::string> rings = {writer.Positions(polygon.outer, true)};
-    if (rings.front().empty()) continue;
-    for (const auto& hole : polygon.holes) {
-      if (std::string ring = writer.Positions(hole, true); !ring.empty()) rings.push_back(ring);
-    }
+  for (const Map_Polygon& polygon : Polygons_Within(outlines)) {
+    std::vector<std::string> rings = {Position_Writer::Positions(polygon.outer)};
+    for (const Map_Ring& hole : polygon.holes) rings.push_back(Position_Writer::Positions(hole));
     texts.push_back("[" + Joined(rings, ",") + "]");
   }
   return texts.empty() ? "" : "[" + Joined(texts, ",") + "]";
@@ -186,7 +167,7 @@ std::string Geojson_Text(const Cell_Values& cells, std::vector<double> levels,
   for (const double level : levels) {
     const std::string further = R"(,"what":)" + Quoted(what) + R"(,"level":)" +
                                 Shortest_Number(level) + R"(,"unit":)" + Quoted(unit);
-    const std::string areas = Multi_Polygon(Polygons_Of(Regions_Above(cells, level)), writer);
+    const std::string areas = Multi_Polygon(Regions_Above(cells, level), writer);
     if (!areas.empty()) add(Feature("area", further, "MultiPolygon", areas));
     const std::string lines = Multi_Line(Contour_Lines(cells, level), writer);
     if (!lines.empty()) add(Feature("line", further, "MultiLineString", lines));

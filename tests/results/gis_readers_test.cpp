@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <random>
 
 #include "platform/process/search_path.h"
 #include "results/ascii_grid.h"
@@ -132,6 +133,27 @@ TEST_F(GisReaders, Contours_And_Outlines_Are_Read) {
                    {"-ro", "-sql", "select OGR_GEOM_AREA from \"Sand, 600 s\" where kind = 'area'",
                     "map.geojson"}),
               "OGR_GEOM_AREA (Real) = 929.0304");
+}
+
+TEST_F(GisReaders, Areas_Of_A_Wild_Map_Are_Valid_Polygons) {
+  // Values that are at a level itself, saddles, gaps and lone cells.
+  Cell_Values cells{40, 40, 100, 70, {}};
+  std::mt19937 random(1);
+  for (int i = 0; i < 1600; ++i) {
+    const double value = random() % 6;
+    cells.values.push_back(value == 5 ? std::numeric_limits<double>::quiet_NaN() : value);
+  }
+  Map_Place place = kUtm;
+  place.turn = 17;
+  Write_Text(folder / "map.geojson",
+             Geojson_Text(cells, {0.5, 1, 2, 2.5, 4}, "Sand", "mg/l", {}, place));
+  const std::string said =
+      Said("ogrinfo", {"-ro", "-q", "-dialect", "sqlite", "-sql",
+                       "select level, st_isvalid(geometry) as v from Sand where kind = 'area'",
+                       "map.geojson"});
+  if (said.find("v (Integer)") == std::string::npos) GTEST_SKIP() << "without spatial functions";
+  EXPECT_EQ(said.find("v (Integer) = 0"), std::string::npos) << said;
+  Expect_Said(said, "level (Real) = 4");
 }
 
 TEST_F(GisReaders, Without_A_Code_Nobody_Takes_The_Numbers_For_Degrees) {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <compare>
+#include <vector>
+
+namespace barvon {
+
+/// A position of a map in thousandths of its unit, easting and northing.
+struct Map_Step {
+  long long east = 0, north = 0;
+
+  auto operator<=>(const Map_Step&) const = default;
+};
+
+/// Closed, its first position not repeated.
+using Map_Ring = std::vector<Map_Step>;
+
+/// An area without its holes. No ring touches itself; two touch each other in single positions at
+/// most, and what is inside hangs together: what simple features ask of a polygon.
+struct Map_Polygon {
+  Map_Ring outer;               // counterclockwise
+  std::vector<Map_Ring> holes;  // clockwise
+};
+
+/// The polygons of an area that lies on the left of its outlines. Those may touch themselves and
+/// each other in positions, as contours at the value of a cell do, but must not cross.
+std::vector<Map_Polygon> Polygons_Within(const std::vector<Map_Ring>& outlines);
+
+/// Twice the area of a ring, above 0 where it runs counterclockwise.
+long double Twice_Area_Of(const Map_Ring& ring);
+
+}  // namespace barvon
