@@ -94,9 +94,9 @@ std::vector<companion::Output_File> Run() {
     std::printf("%s\n", line.c_str());
   }
   return {{"tmpfile.duo", companion::Listing(input, additions, outcome)},
-          {"tmpfile.dup", companion::Phase_Table(input, outcome)},
-          {"tmpfile.dut", companion::Series_Table(input, additions, outcome)},
-          {"tmpfile.duc", companion::Map_Table(input, outcome)}};
+          {"tmpfile.dup", companion::Sealed(companion::Phase_Table(input, outcome))},
+          {"tmpfile.dut", companion::Sealed(companion::Series_Table(input, additions, outcome))},
+          {"tmpfile.duc", companion::Sealed(companion::Map_Table(input, outcome))}};
 }
 
 int Refused(const companion::Refusal& refusal, int code) {

@@ -1,8 +1,11 @@
 #include "solver/tables.h"
 
+#include <cstdint>
 #include <initializer_list>
+#include <string_view>
 
 #include "solver/comparison.h"
+#include "solver/input_sum.h"
 #include "solver/listing_parts.h"
 #include "solver/number_text.h"
 
@@ -33,13 +36,17 @@ void Append_Map(std::string& text, const char* tag, const Cell_Map& map) {
   }
 }
 
-/// Head of an output that programs read: also of which model input.
-std::string Table_Head(const Model_Input& input, const std::string& what) {
+std::string Sum_Line(const char* tag, std::uint64_t sum) {
   std::string digits;
   for (int shift = 4 * (kSumDigits - 1); shift >= 0; shift -= 4) {
-    digits += "0123456789abcdef"[(input.sum >> shift) & 15U];
+    digits += "0123456789abcdef"[(sum >> shift) & 15U];
   }
-  return Head(input, what) + "INPU  " + digits + kLineEnd;
+  return tag + digits + kLineEnd;
+}
+
+/// Head of an output that programs read: also of which model input.
+std::string Table_Head(const Model_Input& input, const std::string& what) {
+  return Head(input, what) + Sum_Line("INPU  ", input.sum);
 }
 
 /// The area's corners, where the input gives one that holds a point.
@@ -140,6 +147,15 @@ std::string Map_Table(const Model_Input& input, const Outcome& outcome) {
   for (const Cell_Map& map : outcome.beds) Append_Map(text, "BED  ", map);
   for (const Cell_Map& map : outcome.most) Append_Map(text, "MOST ", map);
   return text;
+}
+
+std::string Sealed(std::string table) {
+  constexpr int kLinesOfHead = 3;
+  const std::string end = kLineEnd;
+  std::size_t behind = 0;
+  for (int line = 0; line < kLinesOfHead; ++line) behind = table.find(end, behind) + end.size();
+  const std::string_view body = std::string_view(table).substr(behind);
+  return table.insert(behind, Sum_Line("BODY  ", Check_Sum(body)));
 }
 
 }  // namespace companion

@@ -21,4 +21,8 @@ std::string Series_Table(const Model_Input& input, const Additions& additions,
                          const Outcome& outcome);                         // .dut
 std::string Map_Table(const Model_Input& input, const Outcome& outcome);  // .duc
 
+/// The table with a line more at the end of its head: the check sum of all lines behind that, so
+/// that who reads it knows that none was lost or changed on its way.
+std::string Sealed(std::string table);
+
 }  // namespace companion

@@ -71,14 +71,15 @@ void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Mome
   report.Picture(Maxima_Shapes(Draw_Maxima(results, nullptr, choice), kReportCanvas));
 }
 
-/// By the scale of what is shown: the report has no other time of it.
+/// By the scale of what is shown: the report has no other time of it. Its title stands above the
+/// picture and is a part of its words alone.
 void Put_Map(Report_Maker& report, const Results& results, Map_View view) {
   view.same_scale = false;
   Map_Content content = Content_Of(results, nullptr, view);
-  // It stands above the picture.
-  std::string title = std::exchange(content.title, {});
-  Shape_List picture = Map_Shapes(Draw_Map(std::move(content)), kResultMap);
-  picture.title = std::move(title);
+  Map_Drawing drawing = Draw_Map(std::move(content));
+  const std::string title = std::exchange(drawing.content.title, {});
+  Shape_List picture = Map_Shapes(drawing, kResultMap);
+  picture.title = title;
   report.Picture(std::move(picture));
 }
 
@@ -86,8 +87,9 @@ void Put_Concentration(Report_Maker& report, const Results& results, const Telli
   if (results.maps.empty()) return;
   report.Heading(2, "Concentration Contours");
   if (moment.map_time != moment.time) {
-    report.Paragraph("The map that is nearest to the time of the largest value, " +
-                     Time_Words(moment.time) + ".");
+    report.Paragraph("The largest value of the series is that of " + Time_Words(moment.time) +
+                     ", which has no map. The map shown is that of " + Time_Words(moment.map_time) +
+                     ".");
   }
   Map_View view;
   view.species = moment.species;

@@ -26,7 +26,7 @@ class Maps {
     if (const std::string reason = Incomplete(); !reason.empty()) {
       return lines_.Problem("the output is not whole: " + reason);
     }
-    return std::nullopt;
+    return lines_.Changed();
   }
 
  private:

@@ -38,7 +38,7 @@ std::optional<Result_Problem> Check_Phases(const std::string& file, std::string_
     }
     if (!columns.Reason().empty()) return lines.Problem(columns.Reason());
   }
-  return std::nullopt;
+  return lines.Changed();
 }
 
 }  // namespace barvon

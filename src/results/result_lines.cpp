@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/files/check_sum.h"
 #include "platform/files/text_encoding.h"
 
 namespace barvon {
@@ -13,7 +14,8 @@ namespace {
 constexpr std::size_t kSciColumns = 14, kIntColumns = 5, kMapColumns = 11, kSumColumns = 16;
 constexpr double kBeyondColumns = 1e100;  // an exponent has two digits
 constexpr std::string_view kLabelStart = "COMPANION SOLVER ";
-constexpr std::string_view kSumTag = "INPU ";
+constexpr std::string_view kSumTag = "INPU ", kBodyTag = "BODY ";
+constexpr char kNoSum[] = "no 16 digits of a sum in columns 7 to 22";
 constexpr std::size_t kShownLetters = 40;  // of a foreign label
 
 std::string In_Columns(std::size_t first, std::size_t count) {
@@ -49,6 +51,18 @@ void Result_Lines::Next() {
   line_ = rest_.substr(0, end);
   rest_.remove_prefix(end == rest_.npos ? rest_.size() : end + 1);
   if (line_.ends_with('\r')) line_.remove_suffix(1);
+}
+
+void Result_Lines::Expect(std::uint64_t sum) {
+  body_ = rest_;
+  sum_ = sum;
+  sum_line_ = number_;
+}
+
+std::optional<Result_Problem> Result_Lines::Changed() const {
+  if (!sum_ || Check_Sum(body_) == *sum_) return std::nullopt;
+  return Result_Problem{file_, sum_line_,
+                        "the lines behind this one are not those that the solver wrote"};
 }
 
 Result_Problem Result_Lines::Problem(std::string reason) const {
@@ -146,7 +160,7 @@ std::optional<Result_Problem> Take_Result_Head(Result_Lines& lines, std::string_
         lines.Problem(label.empty() ? "no label of the companion solver"
                                     : "written by another solver: \"" +
                                           From_File_Bytes(label.substr(0, kShownLetters)) + "\"");
-    problem.foreign = true;
+    problem.foreign = !label.empty();
     return problem;
   }
   const bool first = results.label.empty();
@@ -172,13 +186,19 @@ std::optional<Result_Problem> Take_Result_Head(Result_Lines& lines, std::string_
   std::optional<std::uint64_t> sum;
   if (lines.Tag() == kSumTag) {
     sum = Sum_Of(lines.Line());
-    if (!sum) return lines.Problem("no 16 digits of a sum in columns 7 to 22");
+    if (!sum) return lines.Problem(kNoSum);
   }
   if (first) results.input_sum = sum;
   if (results.input_sum != sum) {
     return lines.Problem("outputs of different runs: another model input");
   }
   if (sum) lines.Next();
+  if (lines.Tag() == kBodyTag) {
+    const std::optional<std::uint64_t> body = Sum_Of(lines.Line());
+    if (!body) return lines.Problem(kNoSum);
+    lines.Expect(*body);
+    lines.Next();
+  }
   return std::nullopt;
 }
 

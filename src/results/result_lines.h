@@ -30,6 +30,11 @@ class Result_Lines {
   std::string_view Tag() const { return line_.substr(0, kTagColumns); }
   int Number() const { return number_; }
 
+  /// From here on the lines must have this check sum.
+  void Expect(std::uint64_t sum);
+  /// That they don't, once all were passed.
+  std::optional<Result_Problem> Changed() const;
+
   /// Of this line, or behind the last.
   Result_Problem Problem(std::string reason) const;
   /// Of this line's tag.
@@ -40,6 +45,9 @@ class Result_Lines {
   std::string_view rest_, line_;
   int number_ = 0;
   bool at_end_ = false;
+  std::string_view body_;  // what `sum_` is of
+  std::optional<std::uint64_t> sum_;
+  int sum_line_ = 0;
 };
 
 /// The columns of a line from left to right. What is wrong first stays in Reason(); the numbers

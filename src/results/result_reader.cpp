@@ -76,15 +76,18 @@ Results_Or_Problem Made_Of(const std::string& path, const std::string& base,
   results.path = path;
   if (outputs.series.trace) results.made = outputs.series.trace->seconds;
   if (auto problem = Read_Series(outputs.series.path, outputs.series.bytes, results)) {
+    if (outputs.series.bytes.empty()) {
+      if (auto foreign = Foreign_Listing(base)) return *foreign;
+    }
     return *problem;
   }
-  if (auto problem = Read_Maps(outputs.maps.path, outputs.maps.bytes, results)) return *problem;
-  if (outputs.phases.there) {
-    if (auto problem = Check_Phases(outputs.phases.path, outputs.phases.bytes, results)) {
-      return *problem;
-    }
+  auto problem = Read_Maps(outputs.maps.path, outputs.maps.bytes, results);
+  if (!problem && outputs.phases.there) {
+    problem = Check_Phases(outputs.phases.path, outputs.phases.bytes, results);
   }
-  return results;
+  if (!problem) return results;
+  problem->foreign = false;  // one of them is the companion's
+  return *problem;
 }
 
 }  // namespace

@@ -84,11 +84,11 @@ std::vector<double> Balance_Times(const Results& results) {
   return times;
 }
 
-Largest_Values Largest_Of(const Results& results, int species) {
+Largest_Values Largest_Of(const Results& results, int species, double from) {
   Largest_Values largest;
   const bool site = Has_Site(results), zid = Has_Zid(results);
   for (const Result_Maxima& row : results.maxima) {
-    if (row.species != species) continue;
+    if (row.species != species || row.time < from) continue;
     if (site) Raise(largest.inside, row, Result_Where::inside);
     Raise(largest.outside, row, Result_Where::outside);
     if (zid) Raise(largest.outside_zid, row, Result_Where::outside_zid);

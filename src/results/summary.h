@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -35,12 +36,14 @@ struct Largest_Value {
   double value = 0, time = 0, depth = 0;
 };
 
-/// The largest of a species' maxima by area, at the output times and depths; the earliest and then
-/// the first depth of equal ones. Nothing where the outputs have no such area or no row.
+/// The largest of a species' maxima by area, at the output times from `from` on and all output
+/// depths; the earliest and then the first depth of equal ones. Nothing where the outputs have no
+/// such area or no row.
 struct Largest_Values {
   std::optional<Largest_Value> inside, outside, outside_zid;
 };
-Largest_Values Largest_Of(const Results& results, int species);
+Largest_Values Largest_Of(const Results& results, int species,
+                          double from = std::numeric_limits<double>::lowest());
 
 /// The largest of the species' peaks at any point and depth.
 std::optional<Result_Peak> Largest_Peak(const Results& results, int species);

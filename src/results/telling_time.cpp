@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 
 #include "results/summary.h"
@@ -28,20 +29,25 @@ std::optional<Largest_Value> Largest_In(const Largest_Values& values, Result_Whe
                                                                          : values.outside;
 }
 
-/// A largest value, and the area that it is of.
+constexpr double kAnyTime = std::numeric_limits<double>::lowest();
+
+/// A largest value, the area that it is of, and from which time on it was looked for.
 struct Found {
   Largest_Value largest;
   Result_Where where;
+  double from = kAnyTime;
 };
 
-/// The first of the areas with a value above the background.
+/// The first of the areas with a value above the background from that time on.
 std::optional<Found> First_Above(const Results& results, int species,
-                                 std::initializer_list<Result_Where> areas) {
-  const Largest_Values largest = Largest_Of(results, species);
+                                 std::initializer_list<Result_Where> areas,
+                                 double from = kAnyTime) {
+  const Largest_Values largest = Largest_Of(results, species, from);
   const double background = Background_Of(results, species);
   for (const Result_Where where : areas) {
     const auto found = Largest_In(largest, where);
-    if (found && found->value > background * (1 + kAboveBackground)) return Found{*found, where};
+    if (found && found->value > background * (1 + kAboveBackground))
+      return Found{*found, where, from};
   }
   return std::nullopt;
 }
@@ -92,14 +98,14 @@ bool Is_Meant(const Result_Map& map, const Telling_Moment& moment) {
 
 // Maps are fewer than output times: the nearest one may come when all is over.
 const Result_Map* Fullest_Map(const Results& results, const Telling_Moment& moment,
-                              Result_Where where) {
+                              const Found& found) {
   const Result_Map* fullest = nullptr;
   double known = 0;
   for (const Result_Map& map : results.maps) {
-    if (!Is_Meant(map, moment) || map.values.empty()) continue;
+    if (!Is_Meant(map, moment) || map.values.empty() || map.time < found.from) continue;
     for (const Result_Maxima& row : results.maxima) {
       if (row.species != map.species || row.depth != map.depth || row.time != map.time) continue;
-      const double value = Value_In(row, where);
+      const double value = Value_In(row, found.where);
       if (fullest != nullptr && !(value > known)) continue;
       fullest = &map;
       known = value;
@@ -126,13 +132,15 @@ Telling_Moment Telling_Moment_Of(const Results& results) {
   Telling_Moment moment;
   std::optional<Found> found;
   if (const Result_Limit* limit = Tightest(results)) {
-    found = First_Above(results, limit->species,
-                        {limit->where, Result_Where::outside, Result_Where::inside});
+    found = First_Above(results, limit->species, {limit->where}, limit->from);
+    if (!found) {
+      found = First_Above(results, limit->species, {Result_Where::outside, Result_Where::inside});
+    }
     if (found) Take(moment, limit->species, found->largest);
   }
   if (!found) found = Take_Largest(results, moment);
   if (!found) Take_Last_Row(results, moment);
-  const Result_Map* map = found ? Fullest_Map(results, moment, found->where) : nullptr;
+  const Result_Map* map = found ? Fullest_Map(results, moment, *found) : nullptr;
   if (map == nullptr) map = Nearest_Map(results, moment);
   moment.map_time = map != nullptr ? map->time : moment.time;
   if (const Result_Map* bed = Last_Bed(results)) moment.bed_time = bed->time;

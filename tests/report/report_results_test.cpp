@@ -130,6 +130,7 @@ TEST_F(ReportResults, The_Pictures_Are_Of_The_Times_That_Tell_Most) {
   EXPECT_EQ(pictures[3].picture.title, "Deposit of all solids, 1200 s (20 min)");
   for (const auto& picture : pictures) {
     EXPECT_FALSE(picture.picture.description.empty()) << picture.picture.title;
+    EXPECT_EQ(picture.picture.description.find(", ."), std::string::npos);
     const auto says_title = [&](const Shape& shape) {
       const auto* text = std::get_if<Text_Shape>(&shape);
       return text != nullptr && text->text == picture.picture.title;
@@ -150,7 +151,8 @@ TEST_F(ReportResults, A_Map_Of_Another_Time_Than_The_Largest_Value_Says_So) {
   const auto parts = Chapter(Report());
   EXPECT_EQ(All<Report_Picture>(parts)[2].picture.title, "Copper at 5 ft, 900 s (15 min)");
   EXPECT_EQ(All<Report_Paragraph>(parts)[1].text,
-            "The map that is nearest to the time of the largest value, 600 s (10 min).");
+            "The largest value of the series is that of 600 s (10 min), which has no map. The map "
+            "shown is that of 900 s (15 min).");
 }
 
 TEST_F(ReportResults, A_Project_That_Was_Changed_Since_Says_So_In_Red_Instead) {

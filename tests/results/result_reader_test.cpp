@@ -4,9 +4,12 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <iomanip>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "platform/files/check_sum.h"
 #include "results/phase_reader.h"
 #include "results/small_outputs.h"
 #include "support/plain_support.h"
@@ -85,6 +88,40 @@ TEST(ResultReader, Every_Column_Of_The_Series_Has_Its_Place) {
   EXPECT_EQ(mass.on_grid, 30);
   EXPECT_EQ(mass.off_grid, 10);
   EXPECT_EQ(mass.released, 100);
+}
+
+// The small output with a line of the sum of what is behind it, as the solver seals it.
+std::string Sealed_Series() {
+  std::string bytes = kSmallSeries;
+  const std::string input = "INPU  0123456789abcdef\r\n";
+  const std::size_t behind = bytes.find(input) + input.size();
+  std::ostringstream line;
+  line << "BODY  " << std::hex << std::setw(16) << std::setfill('0')
+       << Check_Sum(std::string_view(bytes).substr(behind)) << "\r\n";
+  return bytes.insert(behind, line.str());
+}
+
+TEST(ResultReader, A_Sealed_Output_Is_Read_And_A_Changed_One_Told) {
+  Results results;
+  const std::string sealed = Sealed_Series();
+  EXPECT_EQ(Said(Read_Series("a.dut", sealed, results)), "");
+  std::string changed = sealed;
+  changed[changed.rfind("\r\n") - 1] = '1';
+  Results again;
+  EXPECT_EQ(Said(Read_Series("a.dut", changed, again)),
+            "line 4: the lines behind this one are not those that the solver wrote");
+}
+
+TEST(ResultReader, A_Sealed_Output_That_Lost_Any_Of_Its_Last_Lines_Is_Told) {
+  const std::string sealed = Sealed_Series();
+  int cuts = 0;
+  for (std::size_t end = sealed.rfind("\r\n"); end > sealed.find("BODY  ") + 30;
+       end = sealed.rfind("\r\n", end - 1)) {
+    Results results;
+    EXPECT_NE(Said(Read_Series("a.dut", sealed.substr(0, end), results)), "") << end;
+    ++cuts;
+  }
+  EXPECT_GT(cuts, 8);
 }
 
 TEST(ResultReader, A_Limit_And_The_Verdicts_Are_Read) {

@@ -36,6 +36,19 @@ TEST(TellingTime, The_Area_Of_The_Limit_Goes_First) {
   EXPECT_EQ(Telling_Moment_Of(results).time, 200);
 }
 
+TEST(TellingTime, A_Limit_Does_Not_Look_At_Earlier_Times) {
+  Results results = Small_Results();
+  results.limits[0].where = Result_Where::anywhere;
+  results.limits[0].from = 250;
+  const Telling_Moment moment = Telling_Moment_Of(results);
+  EXPECT_EQ(moment.time, 300);  // 2 at 20 ft inside
+  EXPECT_EQ(moment.depth, 20);
+  EXPECT_EQ(moment.map_time, 400);
+  // Nothing from then on: what was before says more than nothing.
+  results.limits[0].from = 500;
+  EXPECT_EQ(Telling_Moment_Of(results).time, 200);
+}
+
 TEST(TellingTime, Without_Limits_It_Is_The_Largest_Number_Outside) {
   Results results = Small_Results();
   results.limits.clear();

@@ -47,6 +47,12 @@ TEST(Tables, Each_Output_That_Programs_Read_Tells_Of_Which_Input_It_Is) {
   EXPECT_EQ(Maps_Of(input).substr(0, 24), kSum);
 }
 
+// The sum of "foobar" is that of the draft's own list.
+TEST(Tables, A_Sealed_Table_Tells_The_Sum_Of_What_Is_Behind_Its_Head) {
+  EXPECT_EQ(Sealed("label\r\ntitle\r\nINPU\r\nfoobar"),
+            "label\r\ntitle\r\nINPU\r\nBODY  85944171f73967e8\r\nfoobar");
+}
+
 TEST(Tables, A_Limit_That_Was_Exceeded_Has_Its_Times_And_Its_Verdict) {
   Outcome outcome;
   Comparison criterion;

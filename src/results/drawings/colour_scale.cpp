@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 
 #include "pictures/shapes/axis_scale.h"
@@ -44,6 +45,16 @@ double Round_Number(int place) {
   return power >= 0 ? factor * std::pow(10, power) : factor / std::pow(10, -power);
 }
 
+/// The nearest number with twelve digits: a sum of two decimals is one again.
+double Twelve_Digits(double value) {
+  std::array<char, 32> text{};
+  const auto written = std::to_chars(text.data(), text.data() + text.size(), value,
+                                     std::chars_format::scientific, 11);
+  double nearest = value;
+  std::from_chars(text.data(), written.ptr, nearest);
+  return nearest;
+}
+
 bool Has_Span(double base, double largest) {
   return Can_Be_Drawn(base) && Can_Be_Drawn(largest) &&
          largest - base > kLeastSpan * std::max(std::abs(largest), std::abs(base));
@@ -57,7 +68,7 @@ std::vector<double> Steps_Down(double from, double base, double largest) {
   while (levels.size() < kMostLevels) {
     const double above = Round_Number(place--);
     if (!(above > kSmallestOnLog) || !Has_Span(base, from + above)) break;
-    if (above < highest * (1 - kHair)) levels.push_back(from + above);
+    if (above < highest * (1 - kHair)) levels.push_back(Twelve_Digits(from + above));
   }
   std::ranges::reverse(levels);
   return levels;

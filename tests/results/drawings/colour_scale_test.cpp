@@ -13,6 +13,13 @@ namespace {
 
 using Levels = std::vector<double>;
 
+TEST(ColourScale, Levels_Above_A_Background_Are_The_Nearest_Numbers_To_Their_Decimals) {
+  const std::vector<double> levels = Log_Levels(0.12, 0.1);
+  for (const double level : {0.101, 0.102, 0.105, 0.11}) {
+    EXPECT_NE(std::ranges::find(levels, level), levels.end()) << level;
+  }
+}
+
 TEST(ColourScale, Log_Levels_Are_1_2_5_Below_The_Largest_Value) {
   EXPECT_EQ(Log_Levels(7, 0), (Levels{0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5}));
   EXPECT_EQ(Log_Levels(1000, 0), (Levels{2, 5, 10, 20, 50, 100, 200, 500}));
