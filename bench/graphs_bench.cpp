@@ -6,6 +6,7 @@
 //   QT_QPA_PLATFORM=offscreen graphs_bench OUTPUT PROGRAM PLUGIN-FOLDER [ROUNDS]
 
 #include <QApplication>
+#include <QLabel>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -33,9 +34,14 @@ void Demand(bool holds, const char* what) {
   std::exit(2);
 }
 
-/// The part of a picture that paints it.
+/// The part of a picture that paints it: the other one is its caption.
 const QWidget* Content_Of(Graph_Page& page) {
-  return page.Shown_Picture()->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const QWidget* part :
+       page.Shown_Picture()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (qobject_cast<const QLabel*>(part) == nullptr) return part;
+  }
+  Demand(false, "A picture has no content.");
+  return nullptr;
 }
 
 /// From the file's name to the picture on the display, in a window that was not there before.

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -15,12 +16,11 @@
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/paths.h"
-#include "platform/qt/screen_window.h"
 
 namespace barvon {
 namespace {
 
-constexpr QSize kSize{1000, 720};
+constexpr QSize kSize{1120, 800};
 constexpr QSize kFrame{16, 48};   // what the desktop puts around a window, at most
 constexpr int kLookEvery = 1000;  // milliseconds
 constexpr double kTextStep = 1.1;
@@ -38,7 +38,7 @@ frmGraphs::frmGraphs(QWidget* parent)
       end_comparison_(new QPushButton(QStringLiteral("&No comparison"), pictures_)),
       tabs_(new QTabWidget(pictures_)),
       usual_text_(QApplication::font().pointSizeF()) {
-  Name_Screen(*this, "frmGraphs");
+  setObjectName(QStringLiteral("frmGraphs"));
   Build_Body();
   Build_Status();
   Show_Notice(Notice_Of_Nothing());
@@ -137,9 +137,11 @@ void frmGraphs::Take(Results_Or_Problem read) {
 }
 
 void frmGraphs::Compare() {
-  const auto path = Ask_Results("Compare With");
-  if (!path) return;
-  Watched_Outputs other(*path);
+  if (const auto path = Ask_Results("Compare With")) Compare_With(*path);
+}
+
+void frmGraphs::Compare_With(const std::string& path) {
+  Watched_Outputs other(path);
   Results_Or_Problem read = other.Read();
   if (const auto* problem = std::get_if<Result_Problem>(&read)) {
     Show_Warning("These results can't be compared with: " + problem->Words());
@@ -242,6 +244,36 @@ void frmGraphs::Change_Text_Size(int steps) {
   QFont font = QApplication::font();
   font.setPointSizeF(usual_text_ * std::pow(kTextStep, text_steps_));
   QApplication::setFont(font);
+}
+
+/// Names too wide for one line of tabs stand in two: large letters on a small display.
+void frmGraphs::Fit_Tab_Names() {
+  const QTabBar& bar = *tabs_->tabBar();
+  const QFontMetrics letters = bar.fontMetrics();
+  int width = 0;
+  for (const char* name : kGraphNames) {
+    width += letters.horizontalAdvance(QLatin1String(name)) +
+             style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, &bar);
+  }
+  const bool in_two = width > this->width();
+  for (int i = 0; i < kGraphViews; ++i) {
+    QString name = QLatin1String(kGraphNames[static_cast<std::size_t>(i)]);
+    tabs_->tabBar()->setAccessibleTabName(i, name);
+    // At the blank that leaves the upper line the longer one, and the lower one a sense.
+    const auto blank = name.indexOf(QLatin1Char(' '), name.size() / 2);
+    if (in_two && blank > 0) name[blank] = QLatin1Char('\n');
+    if (tabs_->tabText(i) != name) tabs_->setTabText(i, name);
+  }
+}
+
+void frmGraphs::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Fit_Tab_Names();
+}
+
+void frmGraphs::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  Fit_Tab_Names();
 }
 
 void frmGraphs::closeEvent(QCloseEvent* event) {

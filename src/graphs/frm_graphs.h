@@ -30,6 +30,8 @@ class frmGraphs : public QMainWindow {
   /// Asks for it. Nothing changes when that is called off.
   void Open();
   void Compare();
+  /// Tells in a box when these can't be compared with.
+  void Compare_With(const std::string& path);
   void End_Comparison();
   /// Looks whether outputs have been written since. A timer calls it.
   void Look_Again();
@@ -53,6 +55,8 @@ class frmGraphs : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void Build_Body();
@@ -63,6 +67,7 @@ class frmGraphs : public QMainWindow {
   void Fill_Page_In_Front();
   void Show_Notice(const Graph_Notice& notice);
   void Show_Titles();
+  void Fit_Tab_Names();
   void Look_At_Own();
   void Look_At_Other();
 

@@ -1,9 +1,10 @@
 #include "graphs/maxima_page.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "platform/qt/fields/number_field.h"
@@ -17,13 +18,21 @@ namespace {
 
 constexpr char kHowToRead[] =
     "Point at the plot, or press Left and Right in it, to read the values.";
-constexpr int kHeldLetters = 12;  // of the widest value that one types
+constexpr int kLeastLetters = 95;  // of a page with its choices in rows
 
 QLabel* Label_For(QWidget* field, const char* text) {
   auto* label = new QLabel(QLatin1String(text));
   label->setBuddy(field);
   field->setAccessibleName(QString::fromLatin1(text).remove(QLatin1Char(':')));
   return label;
+}
+
+// What stays beside each other, from the left.
+void Add_Part(QBoxLayout* row, std::initializer_list<QWidget*> controls) {
+  auto* part = new QHBoxLayout;
+  for (QWidget* control : controls) part->addWidget(control);
+  part->addStretch();
+  row->addLayout(part);
 }
 
 }  // namespace
@@ -53,7 +62,6 @@ QWidget* Maxima_Page::Choices() {
   auto* choices = new QWidget;
   auto* rows = new QVBoxLayout(choices);
   rows->setContentsMargins(0, 0, 0, 0);
-  auto* what = new QHBoxLayout;
   species_ = new QComboBox;
   species_->setObjectName(QStringLiteral("Species"));
   depth_ = new QComboBox;
@@ -64,29 +72,31 @@ QWidget* Maxima_Page::Choices() {
     if (typed.empty() || Number_Of(typed)) return "";
     return "no number: the curves are held against nothing";
   });
-  held_->setMaximumWidth(2 * kHeldLetters * fontMetrics().averageCharWidth());
+  held_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   held_label_ = Label_For(held_, "Hold against:");
-  what->addWidget(Label_For(species_, "Species:"));
-  what->addWidget(species_);
-  what->addWidget(Label_For(depth_, "Depth:"));
-  what->addWidget(depth_);
-  what->addWidget(held_label_);
-  what->addWidget(held_);
-  what->addStretch();
-  rows->addLayout(what);
-  auto* curves = new QHBoxLayout;
+  for (QComboBox* combo : {species_, depth_}) {
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    combo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+  }
+  what_ = new QBoxLayout(QBoxLayout::LeftToRight);
+  Add_Part(what_, {Label_For(species_, "Species:"), species_, Label_For(depth_, "Depth:"), depth_});
+  Add_Part(what_, {held_label_, held_});
+  what_->addStretch();
+  rows->addLayout(what_);
+  curves_ = new QBoxLayout(QBoxLayout::LeftToRight);
   inside_ = Add_Check("Inside the site", "Inside");
   outside_ = Add_Check("Outside the site", "Outside");
   outside_zid_ = Add_Check("Outside the ZID", "OutsideZid");
   limits_ = Add_Check("Limits", "Limits");
   logarithmic_ = Add_Check("Logarithmic", "Logarithmic");
   logarithmic_->setChecked(false);
+  Add_Part(curves_, {inside_, outside_, outside_zid_});
+  Add_Part(curves_, {limits_, logarithmic_});
+  curves_->addStretch();
+  rows->addLayout(curves_);
   for (QCheckBox* check : {inside_, outside_, outside_zid_, limits_, logarithmic_}) {
-    curves->addWidget(check);
     connect(check, &QCheckBox::toggled, this, &Maxima_Page::Draw);
   }
-  curves->addStretch();
-  rows->addLayout(curves);
   connect(species_, &QComboBox::currentIndexChanged, this, &Maxima_Page::Draw);
   connect(depth_, &QComboBox::currentIndexChanged, this, &Maxima_Page::Draw);
   connect(held_, &QLineEdit::textChanged, this, &Maxima_Page::Draw);
@@ -113,6 +123,24 @@ void Maxima_Page::Show(const Shown_Results& shown) {
   outside_zid_->setVisible(either(&Has_Zid));
   limits_->setVisible(either([](const Results& results) { return !results.limits.empty(); }));
   Draw();
+}
+
+// In a narrow window, or with large letters, a row becomes two.
+void Maxima_Page::Place_Choices() {
+  const bool narrow = width() < kLeastLetters * fontMetrics().averageCharWidth();
+  for (QBoxLayout* row : {what_, curves_}) {
+    row->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  }
+}
+
+void Maxima_Page::changeEvent(QEvent* event) {
+  Graph_Page::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Place_Choices();
+}
+
+void Maxima_Page::resizeEvent(QResizeEvent* event) {
+  Graph_Page::resizeEvent(event);
+  Place_Choices();
 }
 
 void Maxima_Page::Fill_Species() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -24,15 +25,21 @@ class Maxima_Page : public Graph_Page {
   std::string Numbers() const override;
   QString Picture_Name() const override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QWidget* Choices();
   QCheckBox* Add_Check(const char* caption, const char* name);
+  void Place_Choices();
   void Fill_Species();
   void Fill_Depths();
   void Draw();
   Maxima_Choice Chosen() const;
 
   Shown_Results shown_;
+  QBoxLayout *what_, *curves_;  // rows of two parts each
   QComboBox *species_, *depth_;
   QCheckBox *logarithmic_, *inside_, *outside_, *outside_zid_, *limits_;
   QLabel* held_label_;

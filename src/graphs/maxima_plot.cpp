@@ -32,10 +32,8 @@ QPointF Maxima_Plot::Place_Of(double time, double value) {
   return In_Widget(Frame_Of(drawing_, Present_Canvas()).At(time, value));
 }
 
-QString Maxima_Plot::Tip_At(const QPointF& place) {
-  const auto time = Time_At(place);
-  return time ? QString::fromStdString(Reading_Words(drawing_, *time)) : QString();
-}
+// What is read stands beside the plot; a tip would hide the curves.
+QString Maxima_Plot::Tip_At(const QPointF&) { return {}; }
 
 QSize Maxima_Plot::minimumSizeHint() const {
   const QFontMetrics letters = fontMetrics();

@@ -24,7 +24,8 @@ Notice_Page::Notice_Page(QWidget* parent)
       view_(new Large_Text_View(this)),
       find_bar_(new Find_Bar(
           {QStringLiteral("Find"), QStringLiteral("F&ind"), QStringLiteral("Not in this text."),
-           [this](const QString& text, bool backward) { return view_->Find(text, backward); }},
+           [this](const QString& text, bool backward) { return view_->Find(text, backward); },
+           QStringLiteral("&Previous")},
           this)) {
   words_->setObjectName(QStringLiteral("Notice"));
   words_->setTextFormat(Qt::PlainText);

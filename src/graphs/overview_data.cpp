@@ -5,19 +5,19 @@
 #include <tuple>
 
 #include "graphs/graph_words.h"
-#include "pictures/shapes/axis_scale.h"
+#include "results/drawings/map_words.h"
 #include "results/drawings/result_words.h"
 #include "results/summary.h"
 
 namespace barvon {
 namespace {
 
-constexpr double kNotable = 0.1;  // ft, as in the solver's listing
-
 std::string Warning_Of(const Results& results) {
   constexpr char kBetween[] = " - ";
   const auto at = results.label.find(kBetween);
-  return at == std::string::npos ? results.label : results.label.substr(at + 3);
+  std::string warning = at == std::string::npos ? results.label : results.label.substr(at + 3);
+  if (!warning.empty() && warning[0] >= 'a' && warning[0] <= 'z') warning[0] += 'A' - 'a';
+  return warning;
 }
 
 std::string Verdicts_Of(const Results& results) {
@@ -33,13 +33,12 @@ std::string Verdicts_Of(const Results& results) {
 std::string Deposit_Of(const Results& results) {
   const Result_Map* bed = Last_Bed(results);
   if (bed == nullptr) return "The outputs hold no deposit.";
-  const Deposit_Totals totals = Totals_Of(results.grid, *bed, kNotable);
+  const Deposit_Totals totals = Totals_Of(results.grid, *bed);
   const std::string at = "Deposit at " + Time_Words(bed->time) + ": ";
   if (!(totals.thickest > 0)) return at + "none on the grid.";
-  return at + "thickest " + Short_Text(totals.thickest) + " ft at X " + Short_Text(totals.x) +
-         " ft, Z " + Short_Text(totals.z) + " ft; " + Short_Text(totals.volume) +
-         " ft3 on the grid, voids included; " + Short_Text(totals.area) + " ft2 thicker than " +
-         Short_Text(kNotable) + " ft.";
+  return at + "thickest " + Reading_Words(totals.thickest, "ft") + " at " +
+         Place_Words({totals.x, totals.z}) + "; " + Reading_Words(totals.volume, "ft3") +
+         " on the grid, voids included.";
 }
 
 /// The columns of areas that are there.
@@ -49,13 +48,13 @@ struct Areas_Shown {
 
 std::string Cell_Of(const std::optional<Largest_Value>& largest, const std::string& unit) {
   if (!largest) return "-";
-  return Value_Words(largest->value, unit) + "\nat " + Time_Words(largest->time) + ", " +
+  return Reading_Words(largest->value, unit) + "\nat " + Time_Words(largest->time) + ", " +
          Depth_Words(largest->depth);
 }
 
 std::string Cell_Of(const std::optional<Result_Peak>& peak, const std::string& unit) {
   if (!peak) return "-";
-  return Value_Words(peak->value, unit) + "\nat " + Time_Words(peak->time) + ", " +
+  return Reading_Words(peak->value, unit) + "\nat " + Time_Words(peak->time) + ", " +
          Depth_Words(peak->depth);
 }
 

@@ -1,11 +1,14 @@
 #include "graphs/overview_page.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "graphs/graph_names.h"
 #include "graphs/overview_data.h"
@@ -13,6 +16,7 @@
 #include "pictures/shapes/inks.h"
 #include "platform/qt/scrolled_part.h"
 #include "results/drawings/balance_drawing.h"
+#include "results/drawings/map_view.h"
 #include "results/drawings/maxima_drawing.h"
 #include "results/drawings/result_words.h"
 #include "results/summary.h"
@@ -20,8 +24,16 @@
 namespace barvon {
 namespace {
 
-constexpr double kTitleSize = 1.25;  // of the program's letters
-constexpr int kBarLines = 3, kLeastBarLines = 11;
+constexpr double kTitleSize = 1.25;           // of the program's letters
+constexpr int kBarLines = 2, kAxisLines = 6;  // of the program's text
+constexpr int kLeastLetters = 100;            // of a page with its halves beside each other
+
+/// As high as it must be: the page scrolls only where it has to.
+class Balance_Bars : public Bar_Picture {
+ public:
+  Balance_Bars() : Bar_Picture(QStringLiteral("Balance"), QStringLiteral("balance")) {}
+  QSize sizeHint() const override { return {Bar_Picture::sizeHint().width(), minimumHeight()}; }
+};
 
 QLabel* Told_Text(QVBoxLayout* column, const QString& name) {
   auto* label = new QLabel;
@@ -52,9 +64,9 @@ QLabel* Heading(QVBoxLayout* column, const char* text) {
 
 Overview_Page::Overview_Page(QWidget* parent) : Graph_Page(parent) {
   auto* contents = new QWidget;
-  auto* halves = new QHBoxLayout(contents);
-  halves->addWidget(Left_Half(), 1);
-  halves->addWidget(Right_Half());
+  halves_ = new QBoxLayout(QBoxLayout::LeftToRight, contents);
+  halves_->addWidget(Left_Half(), 1);
+  halves_->addWidget(Right_Half());
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 0, 0, 0);
   page->addWidget(new Scrolled_Part(contents));
@@ -69,10 +81,6 @@ Overview_Page::Column Overview_Page::Add_Column(const char* suffix) {
     return Told_Text(rows, QLatin1String(name) + QLatin1String(suffix));
   };
   column.title = text("Title");
-  QFont large = column.title->font();
-  large.setBold(true);
-  if (large.pointSizeF() > 0) large.setPointSizeF(kTitleSize * large.pointSizeF());
-  column.title->setFont(large);
   column.made = text("Made");
   column.warning = text("Warning");
   Write_In(column.warning, kWarnInk);
@@ -102,7 +110,7 @@ QWidget* Overview_Page::Left_Half() {
   when->addWidget(balance_time_);
   when->addStretch();
   rows->addLayout(when);
-  balance_ = new Bar_Picture(QStringLiteral("Balance"), QStringLiteral("balance"));
+  balance_ = new Balance_Bars;
   balance_->setObjectName(QStringLiteral("Balance"));
   rows->addWidget(balance_, 1);
   QLabel* largest = Heading(rows, "Largest values at the output times");
@@ -112,9 +120,11 @@ QWidget* Overview_Page::Left_Half() {
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
-  table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   rows->addWidget(table_);
+  connect(table_->horizontalScrollBar(), &QScrollBar::rangeChanged, this,
+          &Overview_Page::Fit_Table);
   connect(balance_time_, &QComboBox::currentIndexChanged, this, [this] {
     Show_Balance();
     emit Changed();
@@ -143,6 +153,7 @@ void Overview_Page::Show(const Shown_Results& shown) {
   Fill_Times();
   Show_Balance();
   Show_Table();
+  Fit_To_Letters();
   Show_Small_Pictures();
   emit Changed();
 }
@@ -184,8 +195,6 @@ std::optional<double> Overview_Page::Balance_Time() const {
 void Overview_Page::Show_Balance() {
   if (!shown_.own) return;
   Bar_Chart chart = Balance_Chart(*shown_.own, shown_.other.get(), Balance_Time());
-  const int bars = static_cast<int>(chart.bars.size());
-  balance_->setMinimumHeight(fontMetrics().height() * std::max(kLeastBarLines, kBarLines * bars));
   balance_->Show(std::move(chart));
 }
 
@@ -206,14 +215,47 @@ void Overview_Page::Show_Table() {
       table_->setItem(row, column, new QTableWidgetItem(QString::fromStdString(cell)));
     }
   }
+}
+
+// Parts that have a size of their own in letters.
+void Overview_Page::Fit_To_Letters() {
+  QFont large = font();
+  large.setBold(true);
+  if (large.pointSizeF() > 0) large.setPointSizeF(kTitleSize * large.pointSizeF());
+  for (const Column& column : {own_, other_}) column.title->setFont(large);
+  const int bars = static_cast<int>(balance_->Drawn().chart.bars.size());
+  balance_->setMinimumHeight(fontMetrics().height() * (kAxisLines + kBarLines * bars));
+  balance_->updateGeometry();
+  table_->horizontalHeader()->setStretchLastSection(false);
   table_->resizeColumnsToContents();
   table_->resizeRowsToContents();
-  const int frame = 2 * table_->frameWidth();
-  table_->setMinimumSize(
-      table_->horizontalHeader()->length() + frame,
-      table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() + frame);
-  table_->setMaximumHeight(table_->minimumHeight());
   table_->horizontalHeader()->setStretchLastSection(true);
+  Fit_Table();
+  Place_Halves();
+}
+
+// All rows are seen; columns scroll where the page is narrower.
+void Overview_Page::Fit_Table() {
+  const QScrollBar* bar = table_->horizontalScrollBar();
+  table_->setFixedHeight(
+      table_->verticalHeader()->length() + table_->horizontalHeader()->sizeHint().height() +
+      2 * table_->frameWidth() + (bar->maximum() > 0 ? bar->sizeHint().height() : 0));
+}
+
+// In a narrow window, or with large letters, the small pictures are below the rest.
+void Overview_Page::Place_Halves() {
+  const bool narrow = width() < kLeastLetters * fontMetrics().averageCharWidth();
+  halves_->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
+void Overview_Page::resizeEvent(QResizeEvent* event) {
+  Graph_Page::resizeEvent(event);
+  Place_Halves();
+}
+
+void Overview_Page::changeEvent(QEvent* event) {
+  Graph_Page::changeEvent(event);
+  if (event->type() == QEvent::FontChange && shown_.own) Fit_To_Letters();
 }
 
 void Overview_Page::Show_Small_Pictures() {
@@ -223,6 +265,22 @@ void Overview_Page::Show_Small_Pictures() {
   const Maxima_Drawing maxima = Draw_Maxima(*shown_.own, nullptr, choice);
   small_[0]->Show([maxima](const Canvas& canvas) { return Maxima_Shapes(maxima, canvas); },
                   maxima.description);
+  const auto show_map = [&](Picture_Button* button, const Map_View& view) {
+    Map_Drawing map = Draw_Map(Content_Of(*shown_.own, nullptr, Nearest_View(*shown_.own, view)));
+    const std::string words = map.description;
+    map.summary.clear();  // in small there is room for the title
+    button->Show([map = std::move(map)](const Canvas& canvas) { return Map_Shapes(map, canvas); },
+                 words);
+  };
+  Map_View view;
+  view.species = moment.species;
+  view.depth = moment.depth;
+  view.time = moment.map_time;
+  show_map(small_[1], view);
+  view = {};
+  view.kind = Map_Kind::thickness;
+  view.time = moment.bed_time;
+  show_map(small_[2], view);
 }
 
 Picture* Overview_Page::Shown_Picture() { return balance_; }

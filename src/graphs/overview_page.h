@@ -27,6 +27,10 @@ class Overview_Page : public Graph_Page {
   std::string Numbers() const override;
   QString Picture_Name() const override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   /// What is said of one of the runs, in a column of its own.
   struct Column {
@@ -41,10 +45,14 @@ class Overview_Page : public Graph_Page {
   void Fill_Times();
   void Show_Balance();
   void Show_Table();
+  void Fit_To_Letters();
+  void Fit_Table();
+  void Place_Halves();
   void Show_Small_Pictures();
   std::optional<double> Balance_Time() const;
 
   Shown_Results shown_;
+  QBoxLayout* halves_;
   QHBoxLayout* columns_;
   Column own_{}, other_{};
   QComboBox* balance_time_;

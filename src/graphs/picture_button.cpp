@@ -7,7 +7,6 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "pictures/shape_painter.h"
@@ -15,12 +14,16 @@
 namespace barvon {
 namespace {
 
-constexpr int kMargin = 6;                // pixels
-constexpr int kLetters = 36, kLines = 9;  // of the program's text
-constexpr double kSmaller = 0.8;          // letters in the picture beside those of the program
-constexpr int kSmallest = 8;              // pixels
+constexpr int kMargin = 6;                 // pixels
+constexpr int kLetters = 40, kLines = 10;  // of the program's text
+constexpr double kSmaller = 1.6;           // the picture than on its own page
 
 }  // namespace
+
+Picture_Button::Picture_Button(const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+}
 
 void Picture_Button::Show(std::function<Shape_List(const Canvas&)> shapes,
                           const std::string& description) {
@@ -70,10 +73,10 @@ void Picture_Button::paintEvent(QPaintEvent*) {
       painted_.setDevicePixelRatio(ratio);
       painted_.fill(Qt::white);
       QPainter picture(&painted_);
-      const double size = std::max<double>(kSmallest, kSmaller * QFontInfo(font()).pixelSize());
+      picture.scale(1 / kSmaller, 1 / kSmaller);
       Paint_Shapes(picture,
-                   shapes_({static_cast<double>(area.width()), static_cast<double>(area.height()),
-                            std::round(size)}),
+                   shapes_({kSmaller * area.width(), kSmaller * area.height(),
+                            static_cast<double>(QFontInfo(font()).pixelSize())}),
                    font());
     }
     painter.drawPixmap(area.topLeft(), painted_);

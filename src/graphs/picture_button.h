@@ -14,7 +14,7 @@ class Picture_Button : public QPushButton {
   Q_OBJECT
 
  public:
-  using QPushButton::QPushButton;
+  Picture_Button(const QString& caption, QWidget* parent = nullptr);
 
   /// The picture for a canvas, and in words.
   void Show(std::function<Shape_List(const Canvas&)> shapes, const std::string& description);

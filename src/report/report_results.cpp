@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <cstddef>
 #include <ctime>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "pictures/shapes/axis_scale.h"
@@ -19,6 +19,12 @@ namespace barvon {
 namespace {
 
 constexpr double kBarHeight = 42, kBesideBars = 110;  // pixels
+constexpr Canvas kResultMap = {620, 370, 12};         // two of them on a page
+constexpr double kTold = 1e-6;                        // of what was released: less is told as 0
+
+std::string Amount(double amount, const Species_Balance& of) {
+  return Short_Text(amount < kTold * of.released ? 0 : amount);
+}
 
 /// A verdict has lines of its own that begin further in: here they are one paragraph.
 std::vector<std::string> Verdicts_Of(const Results& results) {
@@ -46,7 +52,7 @@ void Put_Balance(Report_Maker& report, const Results& results) {
   for (const Species_Balance& row : Balance_At_End(results)) {
     table.rows.push_back(
         {{results.species[static_cast<std::size_t>(row.species - 1)].name, Short_Text(row.released),
-          Short_Text(row.suspended), Short_Text(row.on_grid), Short_Text(row.off_grid),
+          Amount(row.suspended, row), Amount(row.on_grid, row), Amount(row.off_grid, row),
           Amount_Unit(results, row.species)}});
   }
   report.Table(std::move(table));
@@ -56,7 +62,7 @@ void Put_Balance(Report_Maker& report, const Results& results) {
 }
 
 void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
-  report.Heading(2, "Maximum Concentration over Time");
+  report.Heading(2, "Max Conc. vs Time");
   if (results.maxima.empty()) {
     return report.Paragraph("The run has no concentrations: it ends with descent and collapse.");
   }
@@ -68,12 +74,21 @@ void Put_Maxima(Report_Maker& report, const Results& results, const Telling_Mome
 /// By the scale of what is shown: the report has no other time of it.
 void Put_Map(Report_Maker& report, const Results& results, Map_View view) {
   view.same_scale = false;
-  report.Picture(Map_Shapes(Draw_Map(Content_Of(results, nullptr, view)), kReportMap));
+  Map_Content content = Content_Of(results, nullptr, view);
+  // It stands above the picture.
+  std::string title = std::exchange(content.title, {});
+  Shape_List picture = Map_Shapes(Draw_Map(std::move(content)), kResultMap);
+  picture.title = std::move(title);
+  report.Picture(std::move(picture));
 }
 
 void Put_Concentration(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
   if (results.maps.empty()) return;
-  report.Heading(2, "Concentration when It Is Highest");
+  report.Heading(2, "Concentration Contours");
+  if (moment.map_time != moment.time) {
+    report.Paragraph("The map that is nearest to the time of the largest value, " +
+                     Time_Words(moment.time) + ".");
+  }
   Map_View view;
   view.species = moment.species;
   view.depth = moment.depth;
@@ -83,7 +98,7 @@ void Put_Concentration(Report_Maker& report, const Results& results, const Telli
 
 void Put_Deposit(Report_Maker& report, const Results& results, const Telling_Moment& moment) {
   if (Last_Bed(results) == nullptr) return;
-  report.Heading(2, "Deposit at the End");
+  report.Heading(2, "Deposition Thickness");
   Map_View view;
   view.kind = Map_Kind::thickness;
   view.time = moment.bed_time;

@@ -47,7 +47,7 @@ Result_Point On_Grid(const Map_Place& place, const Map_Point& point) {
 }
 
 std::optional<int> Epsg_Code(const std::string& system) {
-  constexpr std::string_view kRegister = "EPSG", kBetween = " :\t";
+  static constexpr std::string_view kRegister = "EPSG", kBetween = " :\t";
   std::string_view text = system;
   const auto skip = [&] {
     text.remove_prefix(std::min(text.find_first_not_of(kBetween), text.size()));

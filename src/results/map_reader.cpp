@@ -105,8 +105,8 @@ class Maps {
     columns.Fail(order.Next(map.time, map.species, map.depth));
     if (auto problem = Passed(columns)) return problem;
     if (map.bottom >= map.top) {
-      const auto width = static_cast<std::size_t>(map.right - map.left + 1);
-      map.values.reserve(width * static_cast<std::size_t>(map.bottom - map.top + 1));
+      const int width = map.right - map.left + 1, height = map.bottom - map.top + 1;
+      map.values.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     }
     for (int row = map.top; row <= map.bottom; ++row) {
       if (lines_.At_End()) return lines_.Problem("the output ends within a map");

@@ -15,7 +15,7 @@ std::string Row_Order::Next(double time, int species, double depth) {
   }
   if (begins) {
     if (times_ > 0 && time < time_) return "a time before that of the line above";
-    if (const std::string reason = End(); !reason.empty()) return reason;
+    if (std::string reason = End(); !reason.empty()) return reason;
     if (times_ == 0) keys_.push_back(key);
     at_ = 0;
     time_ = time;

@@ -80,8 +80,7 @@ std::vector<double> Balance_Times(const Results& results) {
   std::vector<double> times;
   for (const Result_Mass& row : results.masses) times.push_back(row.time);
   std::ranges::sort(times);
-  const auto repeated = std::ranges::unique(times);
-  times.erase(repeated.begin(), repeated.end());
+  times.erase(std::unique(times.begin(), times.end()), times.end());
   return times;
 }
 
@@ -178,7 +177,7 @@ std::vector<Time_Span> Spans_Above(const std::vector<Timed_Value>& series, doubl
   return spans;
 }
 
-Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed, double thicker_than) {
+Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed) {
   Deposit_Totals totals;
   const Cell_Values cells = Whole_Grid(grid, bed);
   const double cell = grid.spacing_x * grid.spacing_z;
@@ -186,7 +185,6 @@ Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed, double 
     for (int column = 1; column <= cells.columns; ++column) {
       const double thickness = cells.At(row, column);
       totals.volume += thickness * cell;
-      if (thickness > thicker_than) totals.area += cell;
       if (thickness <= totals.thickest) continue;
       totals.thickest = thickness;
       totals.x = (row - 1) * grid.spacing_x;
@@ -208,8 +206,7 @@ std::vector<double> Output_Depths(const Results& results) {
   std::vector<double> depths;
   for (const Result_Maxima& row : results.maxima) depths.push_back(row.depth);
   std::ranges::sort(depths);
-  const auto repeated = std::ranges::unique(depths);
-  depths.erase(repeated.begin(), repeated.end());
+  depths.erase(std::unique(depths.begin(), depths.end()), depths.end());
   return depths;
 }
 

@@ -85,9 +85,8 @@ std::vector<Time_Span> Spans_Above(const std::vector<Timed_Value>& series, doubl
 struct Deposit_Totals {
   double thickest = 0, x = 0, z = 0;  // ft
   double volume = 0;                  // ft3
-  double area = 0;                    // ft2
 };
-Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed, double thicker_than);
+Deposit_Totals Totals_Of(const Result_Grid& grid, const Result_Map& bed);
 
 /// The last map of thickness of all solids together; null where there is none.
 const Result_Map* Last_Bed(const Results& results);

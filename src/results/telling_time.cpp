@@ -28,14 +28,20 @@ std::optional<Largest_Value> Largest_In(const Largest_Values& values, Result_Whe
                                                                          : values.outside;
 }
 
+/// A largest value, and the area that it is of.
+struct Found {
+  Largest_Value largest;
+  Result_Where where;
+};
+
 /// The first of the areas with a value above the background.
-std::optional<Largest_Value> First_Above(const Results& results, int species,
-                                         std::initializer_list<Result_Where> areas) {
+std::optional<Found> First_Above(const Results& results, int species,
+                                 std::initializer_list<Result_Where> areas) {
   const Largest_Values largest = Largest_Of(results, species);
   const double background = Background_Of(results, species);
   for (const Result_Where where : areas) {
     const auto found = Largest_In(largest, where);
-    if (found && found->value > background * (1 + kAboveBackground)) return found;
+    if (found && found->value > background * (1 + kAboveBackground)) return Found{*found, where};
   }
   return std::nullopt;
 }
@@ -60,18 +66,18 @@ void Take(Telling_Moment& moment, int species, const Largest_Value& largest) {
 }
 
 // The species with the largest number in the first area where any has one.
-bool Take_Largest(const Results& results, Telling_Moment& moment) {
+std::optional<Found> Take_Largest(const Results& results, Telling_Moment& moment) {
   for (const Result_Where where : {Result_Where::outside, Result_Where::inside}) {
-    std::optional<double> known;
+    std::optional<Found> known;
     for (int species = 1; species <= static_cast<int>(results.species.size()); ++species) {
-      const auto largest = First_Above(results, species, {where});
-      if (!largest || (known && !(largest->value > *known))) continue;
-      known = largest->value;
-      Take(moment, species, *largest);
+      const auto found = First_Above(results, species, {where});
+      if (!found || (known && !(found->largest.value > known->largest.value))) continue;
+      known = found;
+      Take(moment, species, found->largest);
     }
-    if (known) return true;
+    if (known) return known;
   }
-  return false;
+  return std::nullopt;
 }
 
 void Take_Last_Row(const Results& results, Telling_Moment& moment) {
@@ -80,16 +86,34 @@ void Take_Last_Row(const Results& results, Telling_Moment& moment) {
   Take(moment, last->species, {0, last->time, last->depth});
 }
 
+bool Is_Meant(const Result_Map& map, const Telling_Moment& moment) {
+  return map.species == moment.species && map.depth == moment.depth;
+}
+
+// Maps are fewer than output times: the nearest one may come when all is over.
+const Result_Map* Fullest_Map(const Results& results, const Telling_Moment& moment,
+                              Result_Where where) {
+  const Result_Map* fullest = nullptr;
+  double known = 0;
+  for (const Result_Map& map : results.maps) {
+    if (!Is_Meant(map, moment) || map.values.empty()) continue;
+    for (const Result_Maxima& row : results.maxima) {
+      if (row.species != map.species || row.depth != map.depth || row.time != map.time) continue;
+      const double value = Value_In(row, where);
+      if (fullest != nullptr && !(value > known)) continue;
+      fullest = &map;
+      known = value;
+    }
+  }
+  return fullest;
+}
+
 const Result_Map* Nearest_Map(const Results& results, const Telling_Moment& moment) {
   const Result_Map* nearest = nullptr;
-  const auto is_better = [&](const Result_Map& map) {
-    if (nearest == nullptr) return true;
-    const bool empty = map.values.empty(), known_empty = nearest->values.empty();
-    if (empty != known_empty) return known_empty;
-    return std::abs(map.time - moment.time) < std::abs(nearest->time - moment.time);
-  };
   for (const Result_Map& map : results.maps) {
-    if (map.species == moment.species && map.depth == moment.depth && is_better(map)) {
+    if (!Is_Meant(map, moment)) continue;
+    if (nearest == nullptr ||
+        std::abs(map.time - moment.time) < std::abs(nearest->time - moment.time)) {
       nearest = &map;
     }
   }
@@ -100,14 +124,16 @@ const Result_Map* Nearest_Map(const Results& results, const Telling_Moment& mome
 
 Telling_Moment Telling_Moment_Of(const Results& results) {
   Telling_Moment moment;
-  std::optional<Largest_Value> largest;
+  std::optional<Found> found;
   if (const Result_Limit* limit = Tightest(results)) {
-    largest = First_Above(results, limit->species,
-                          {limit->where, Result_Where::outside, Result_Where::inside});
-    if (largest) Take(moment, limit->species, *largest);
+    found = First_Above(results, limit->species,
+                        {limit->where, Result_Where::outside, Result_Where::inside});
+    if (found) Take(moment, limit->species, found->largest);
   }
-  if (!largest && !Take_Largest(results, moment)) Take_Last_Row(results, moment);
-  const Result_Map* map = Nearest_Map(results, moment);
+  if (!found) found = Take_Largest(results, moment);
+  if (!found) Take_Last_Row(results, moment);
+  const Result_Map* map = found ? Fullest_Map(results, moment, found->where) : nullptr;
+  if (map == nullptr) map = Nearest_Map(results, moment);
   moment.map_time = map != nullptr ? map->time : moment.time;
   if (const Result_Map* bed = Last_Bed(results)) moment.bed_time = bed->time;
   return moment;
@@ -115,9 +141,7 @@ Telling_Moment Telling_Moment_Of(const Results& results) {
 
 const Result_Map* Telling_Map(const Results& results, const Telling_Moment& moment) {
   for (const Result_Map& map : results.maps) {
-    if (map.species == moment.species && map.depth == moment.depth && map.time == moment.map_time) {
-      return &map;
-    }
+    if (Is_Meant(map, moment) && map.time == moment.map_time) return &map;
   }
   return nullptr;
 }

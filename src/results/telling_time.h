@@ -19,8 +19,9 @@ struct Telling_Moment {
 /// The species is the one with the tightest limit (its worst value is the largest part of it);
 /// without limits the one whose maxima have the largest number outside the site, inside where all
 /// outside is background. The time and depth are those of its largest value in the area of that
-/// limit, where nothing is above the background there outside the site, else inside. The map is the
-/// nearest one in time that is not empty, the earlier of two.
+/// limit, where nothing is above the background there outside the site, else inside. The map, of
+/// that species and depth, is the one at whose time that area has its largest value; without such a
+/// time the nearest.
 Telling_Moment Telling_Moment_Of(const Results& results);
 
 /// The map of the species and depth at the moment's time; null where the outputs have none.

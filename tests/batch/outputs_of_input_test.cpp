@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <functional>
 
 #include "batch/batch_fixture.h"
@@ -40,6 +41,22 @@ TEST_P(OutputsOfInput, The_Sum_In_The_Outputs_Is_That_Of_The_Project_That_Was_Ru
   EXPECT_EQ(Input_Sum(*record), sum);
   record->DEPC0 += 1;
   EXPECT_NE(Input_Sum(*record), sum);
+}
+
+TEST_F(BatchProgram, A_Report_Shows_The_Results_Until_The_Project_Is_Changed) {
+  Put_Sample("Section_404_Sediment.DUI", "site.DUI");
+  ASSERT_EQ(Batch({"run", "--solver", "companion", "site.DUI"}).code, 0);
+  ASSERT_EQ(Batch({"report", "site.DUI"}).code, 0);
+  const std::string page = Read_Text(Path("site.html"));
+  EXPECT_NE(page.find("<h2>Results of the Run</h2>"), std::string::npos);
+  EXPECT_NE(page.find("<figcaption>Deposit of all solids, "), std::string::npos);
+  EXPECT_EQ(page.find("<p class=\"warning\">"), std::string::npos);
+  std::filesystem::remove(Path("site.DUI"));
+  Put_Sample("Section_404_Zid.DUI", "site.DUI");
+  ASSERT_EQ(Batch({"report", "site.DUI"}).code, 0);
+  const std::string changed = Read_Text(Path("site.html"));
+  EXPECT_NE(changed.find("<p class=\"warning\">The project was changed"), std::string::npos);
+  EXPECT_EQ(changed.find("<figcaption>Deposit"), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, OutputsOfInput,

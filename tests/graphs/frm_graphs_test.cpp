@@ -149,6 +149,7 @@ TEST_F(FrmGraphs, A_Text_Is_Found_In_The_Listing_By_Keys) {
   QTest::keyClicks(field, "second");
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(window.notice().view().Marked_Text(), "second");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(field, Qt::Key_Escape);
   EXPECT_FALSE(field->isVisible());
 }

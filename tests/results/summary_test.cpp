@@ -129,9 +129,8 @@ TEST(Summary, The_Deposit_In_Numbers) {
   ASSERT_NE(bed, nullptr);
   EXPECT_EQ(bed->time, 400);
   // Cells of 50 ft x 20 ft; 1 ft and 2 ft thick, the second at row 2, column 3.
-  const Deposit_Totals totals = Totals_Of(results.grid, *bed, 1);
+  const Deposit_Totals totals = Totals_Of(results.grid, *bed);
   EXPECT_EQ(totals.volume, 3000);
-  EXPECT_EQ(totals.area, 1000);
   EXPECT_EQ(totals.thickest, 2);
   EXPECT_EQ(totals.x, 50);
   EXPECT_EQ(totals.z, 40);

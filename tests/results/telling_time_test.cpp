@@ -55,16 +55,34 @@ TEST(TellingTime, Where_All_Outside_Is_Background_It_Is_The_Largest_Inside) {
   EXPECT_EQ(Telling_Moment_Of(results).time, 100);
 }
 
-TEST(TellingTime, The_Map_Is_The_Nearest_That_Is_Not_Empty) {
+TEST(TellingTime, The_Map_Is_The_One_At_Whose_Time_The_Area_Has_Its_Largest) {
   Results results = Small_Results();
-  Result_Map& nearest = results.maps[3];  // at 200 s, tracer, 20 ft
-  ASSERT_EQ(nearest.species, 2);
-  ASSERT_EQ(nearest.depth, 20);
-  EXPECT_EQ(Telling_Map(results, Telling_Moment_Of(results)), &nearest);
-  nearest.values.clear();
-  nearest.top = 1;
-  nearest.bottom = 0;
+  Result_Map& first = results.maps[3];  // at 200 s, tracer, 20 ft
+  ASSERT_EQ(first.species, 2);
+  ASSERT_EQ(first.depth, 20);
+  EXPECT_EQ(Telling_Map(results, Telling_Moment_Of(results)), &first);
+  // The largest of all is at 100 s, which has no map; of 200 and 400 s the first is larger.
+  results.limits[0].where = Result_Where::inside;
+  EXPECT_EQ(Telling_Moment_Of(results).time, 100);
+  EXPECT_EQ(Telling_Moment_Of(results).map_time, 200);
+  // Now it is the other way round: 4 at 200 s, 5 at 400 s.
+  for (Result_Maxima& row : results.maxima) {
+    if (row.time == 400 && row.species == 2) row.inside = 5;
+  }
   EXPECT_EQ(Telling_Moment_Of(results).map_time, 400);
+}
+
+TEST(TellingTime, An_Empty_Map_Is_Not_Shown_Where_Another_Has_Something) {
+  Results results = Small_Results();
+  results.maps[3].values.clear();
+  results.maps[3].bottom = 0;
+  EXPECT_EQ(Telling_Moment_Of(results).map_time, 400);
+}
+
+TEST(TellingTime, Maps_Between_The_Output_Times_Are_Taken_By_Nearness) {
+  Results results = Small_Results();
+  for (Result_Map& map : results.maps) map.time += 10;
+  EXPECT_EQ(Telling_Moment_Of(results).map_time, 210);
 }
 
 TEST(TellingTime, Without_Anything_There_Is_No_Species_And_No_Map) {

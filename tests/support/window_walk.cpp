@@ -76,8 +76,10 @@ bool Has_Too_Little_Room(const QWidget* control) {
   // A mark inside a field is a picture; what it says is its tool tip.
   if (button != nullptr && qobject_cast<const QLineEdit*>(button->parentWidget())) return false;
   QSize wanted;
-  if (label != nullptr || (button != nullptr && !button->text().isEmpty())) {
+  if (label != nullptr) {
     wanted = control->sizeHint();
+  } else if (button != nullptr && !button->text().isEmpty()) {
+    wanted = control->minimumSizeHint();  // one with a picture may like more
   } else if (qobject_cast<const QGroupBox*>(control) || qobject_cast<const QComboBox*>(control) ||
              (qobject_cast<const QLineEdit*>(control) && !Is_Part_Of_Another(control))) {
     wanted = control->minimumSizeHint();
@@ -158,8 +160,14 @@ Complaints Overlaps(const std::vector<QWidget*>& controls, const QWidget& window
     const bool of_tabs = qobject_cast<const QTabBar*>(control->parentWidget()) != nullptr;
     if (Holds_Text(control) && !of_tabs) texts.push_back(control);
   }
+  // What is scrolled away lies on nothing.
   const auto place = [&window](const QWidget* control) {
-    return QRect(control->mapTo(&window, QPoint(0, 0)), control->size());
+    QRect seen(control->mapTo(&window, QPoint(0, 0)), control->size());
+    for (const QWidget* around = control->parentWidget(); around != nullptr && around != &window;
+         around = around->parentWidget()) {
+      seen &= QRect(around->mapTo(&window, QPoint(0, 0)), around->size());
+    }
+    return seen;
   };
   for (std::size_t i = 0; i < texts.size(); ++i) {
     for (std::size_t k = 0; k < i; ++k) {

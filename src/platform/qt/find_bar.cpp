@@ -19,7 +19,7 @@ Find_Bar::Find_Bar(Find_Bar_Parts parts, QWidget* parent)
   text_->setObjectName(parts_.name + QStringLiteral("Text"));
   outcome_->setObjectName(parts_.name + QStringLiteral("Outcome"));
   auto* next = new QPushButton(QStringLiteral("&Next"), this);
-  auto* previous = new QPushButton(QStringLiteral("Pre&vious"), this);
+  auto* previous = new QPushButton(parts_.previous, this);
 
   auto* captions = new QHBoxLayout;
   captions->addWidget(label);

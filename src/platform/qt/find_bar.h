@@ -30,6 +30,7 @@ struct Find_Bar_Parts {
   QString caption;  // with the letter that leads to the field
   QString not_found;
   std::function<bool(const QString& text, bool backward)> find;
+  QString previous = QStringLiteral("Pre&vious");  // with a letter that the window leaves free
 };
 
 /// Looks for a text, forth and back; Return in the field goes to the next place.

@@ -7,6 +7,7 @@
 
 #include "pictures/shapes/inks.h"
 #include "results/csv_text.h"
+#include "results/drawings/map_words.h"
 #include "results/drawings/result_words.h"
 #include "results/summary.h"
 
@@ -69,7 +70,7 @@ std::string Label_Of(const Side& side, int species, const std::optional<Species_
   std::string label = Name_Of(*side.results, species);
   if (!side.name.empty()) label += ", " + side.name;
   if (!balance) return label;
-  return label + ", " + Value_Words(balance->released, Amount_Unit(*side.results, species));
+  return label + ", " + Reading_Words(balance->released, Amount_Unit(*side.results, species));
 }
 
 void Add_Bar(Bar_Chart& chart, const Side& side, int species) {

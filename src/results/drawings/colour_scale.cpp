@@ -49,20 +49,27 @@ bool Has_Span(double base, double largest) {
          largest - base > kLeastSpan * std::max(std::abs(largest), std::abs(base));
 }
 
-}  // namespace
-
-std::vector<double> Log_Levels(double largest, double base) {
+/// Levels that are `from` and a round number above it, between the two others.
+std::vector<double> Steps_Down(double from, double base, double largest) {
   std::vector<double> levels;
-  if (!Has_Span(base, largest)) return levels;
-  const double excess = largest - base;
-  int place = 3 * (static_cast<int>(std::floor(std::log10(excess))) + 1);
+  const double highest = largest - from;
+  int place = 3 * (static_cast<int>(std::floor(std::log10(std::max(highest, kSmallestOnLog)))) + 1);
   while (levels.size() < kMostLevels) {
     const double above = Round_Number(place--);
-    if (!(above > kSmallestOnLog) || !Has_Span(base, base + above)) break;
-    if (above < excess * (1 - kHair)) levels.push_back(base + above);
+    if (!(above > kSmallestOnLog) || !Has_Span(base, from + above)) break;
+    if (above < highest * (1 - kHair)) levels.push_back(from + above);
   }
   std::ranges::reverse(levels);
   return levels;
+}
+
+}  // namespace
+
+std::vector<double> Log_Levels(double largest, double base) {
+  constexpr std::size_t kFewestRound = 5;
+  if (!Has_Span(base, largest)) return {};
+  const std::vector<double> round = Steps_Down(0, base, largest);
+  return base > 0 && round.size() < kFewestRound ? Steps_Down(base, base, largest) : round;
 }
 
 std::vector<double> Even_Levels(double base, double largest) {

@@ -19,9 +19,10 @@ struct Colour_Scale {
 
 inline constexpr std::size_t kMostLevels = 8;
 
-/// Levels whose excess over `base` is 1, 2 or 5 times a power of ten: the greatest kMostLevels of
-/// them below `largest`, ascending. What is counted from a background shows faint clouds over a
-/// strong one too. None where `largest` is not above `base` by a millionth of both.
+/// 1, 2 and 5 times powers of ten above `base` and below `largest`, the greatest kMostLevels of
+/// them, ascending. Where fewer than five lie between, their excess over `base` is as round as that
+/// instead, so that faint clouds show over a strong background. None where `largest` is not above
+/// `base` by a millionth of both.
 std::vector<double> Log_Levels(double largest, double base);
 
 /// The whole multiples of a round step between the two, ends left out: kMostLevels at most. None

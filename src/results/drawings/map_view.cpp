@@ -61,18 +61,17 @@ void Take_In(std::optional<Span>& span, const Result_Map& map) {
   for (const double value : map.values) span->largest = std::max(span->largest, value);
 }
 
-/// Of all maps that belong to one scale: the species at the depth, at all times.
+/// Of all maps that belong to one scale: the species at the depth, at all times. The largest over
+/// time has a scale of its own: the solver looks at more times than it tells, and what is high for
+/// seconds would leave the others blank.
 std::optional<Span> Span_Of_All(const Results& results, const Map_View& view) {
   std::optional<Span> span;
-  const auto take_in = [&](const std::vector<Result_Map>& maps) {
-    for (const Result_Map& map : maps) {
-      const bool is_one = map.species == view.species &&
-                          (view.kind == Map_Kind::thickness || Is_Same(map.depth, view.depth));
-      if (is_one) Take_In(span, map);
-    }
-  };
-  take_in(Maps_Of(results, view.kind));
-  if (view.kind == Map_Kind::concentration) take_in(results.most);
+  const bool thickness = view.kind == Map_Kind::thickness;
+  const bool largest = view.largest && !thickness;
+  for (const Result_Map& map : largest ? results.most : Maps_Of(results, view.kind)) {
+    if (map.species != view.species) continue;
+    if (thickness || Is_Same(map.depth, view.depth)) Take_In(span, map);
+  }
   return span;
 }
 
@@ -148,6 +147,7 @@ class View_Content {
     if (other_ != nullptr) {
       const auto number = Number_In(*other_, own_, view_.species);
       if (number) {
+        in_other_ = true;
         other_view_.species = *number;
         other_map_ = Find(*other_, other_view_);
       }
@@ -196,15 +196,15 @@ class View_Content {
       return *span;
     }
     span = Span_Of_All(own_, view_);
-    if (other_map_ == nullptr) return *span;
-    const Span other = *Span_Of_All(*other_, other_view_);
-    return {std::max(span->base, other.base), std::max(span->largest, other.largest)};
+    const auto other = in_other_ ? Span_Of_All(*other_, other_view_) : std::nullopt;
+    if (!span || !other) return span ? *span : other.value_or(Span{});
+    return {std::max(span->base, other->base), std::max(span->largest, other->largest)};
   }
 
   double Largest_Difference() const {
     double largest = Largest_Size(content_.cells);
+    if (view_.largest) return largest;
     Map_View at = view_, other_at = other_view_;
-    at.largest = other_at.largest = false;
     for (const double time : Mapped_Times(own_, view_.kind, view_.species, view_.depth)) {
       at.time = other_at.time = time;
       const Result_Map *one = Find(own_, at), *other = Find(*other_, other_at);
@@ -218,6 +218,7 @@ class View_Content {
   const Results* other_;
   const Map_View& view_;
   Map_View other_view_;
+  bool in_other_ = false;  // the other has the species
   const Result_Map *map_ = nullptr, *other_map_ = nullptr;
   Map_Content content_;
 };
@@ -230,7 +231,7 @@ std::vector<int> Mapped_Species(const Results& results, Map_Kind kind) {
     if (Is_Known(results, map.species)) species.push_back(map.species);
   }
   std::ranges::sort(species);
-  species.erase(std::ranges::unique(species).begin(), species.end());
+  species.erase(std::unique(species.begin(), species.end()), species.end());
   return species;
 }
 

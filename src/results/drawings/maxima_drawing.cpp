@@ -7,6 +7,7 @@
 
 #include "platform/text/counted.h"
 #include "results/csv_text.h"
+#include "results/drawings/map_words.h"
 #include "results/drawings/result_words.h"
 
 namespace barvon {
@@ -67,7 +68,7 @@ Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std
   drawn.of_other = source.of_other;
   if (limit.exceeded) drawn.exceeded = {{limit.first, limit.last}};
   drawn.words = drawn.name + ": " + Spans_Words(drawn.exceeded) + ", largest " +
-                Value_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
+                Reading_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
   return drawn;
 }
 
@@ -143,9 +144,10 @@ bool Has_Time(const Maxima_Curve& curve, double time) {
   return std::ranges::find(curve.values, time, &Timed_Value::time) != curve.values.end();
 }
 
-void Append(std::string& text, const std::string& sentence) {
+void Append(std::string& text, const std::string& sentence, char between = ' ') {
   if (sentence.empty()) return;
-  text += (text.empty() ? "" : " ") + sentence;
+  if (!text.empty()) text += between;
+  text += sentence;
 }
 
 // What is wrong with drawing nothing but a line on the ground.
@@ -159,21 +161,22 @@ std::string Emptiness(const Maxima_Drawing& drawing, double background) {
 }
 
 void Tell(Maxima_Drawing& drawing, const std::string& missing, double background) {
-  for (const Maxima_Limit& limit : drawing.limits) Append(drawing.note, limit.words + ".");
-  Append(drawing.note, Emptiness(drawing, background));
+  for (const Maxima_Limit& limit : drawing.limits) Append(drawing.note, limit.words + ".", '\n');
+  Append(drawing.note, Emptiness(drawing, background), '\n');
   if (drawing.left_out > 0) {
     Append(drawing.note,
            Counted(static_cast<std::size_t>(drawing.left_out), "value") +
                (drawing.value.logarithmic ? " below the logarithmic axis left out as gaps."
-                                          : " without a place left out as gaps."));
+                                          : " without a place left out as gaps."),
+           '\n');
   }
-  Append(drawing.note, missing);
+  Append(drawing.note, missing, '\n');
   drawing.description = drawing.title + ", the largest means over cells against time.";
   for (const Maxima_Curve& curve : drawing.curves) {
     const auto largest = std::ranges::max_element(curve.values, {}, &Timed_Value::value);
     if (largest == curve.values.end()) continue;
     Append(drawing.description, curve.name + ": largest " +
-                                    Value_Words(largest->value, drawing.unit) + " at " +
+                                    Reading_Words(largest->value, drawing.unit) + " at " +
                                     Time_Words(largest->time) + ".");
   }
   Append(drawing.description, drawing.note);
@@ -231,8 +234,7 @@ std::vector<double> Reading_Times(const Maxima_Drawing& drawing) {
     for (const Timed_Value& value : curve.values) times.push_back(value.time);
   }
   std::ranges::sort(times);
-  const auto repeated = std::ranges::unique(times);
-  times.erase(repeated.begin(), repeated.end());
+  times.erase(std::unique(times.begin(), times.end()), times.end());
   return times;
 }
 
@@ -261,7 +263,7 @@ std::string Reading_Words(const Maxima_Drawing& drawing, double time) {
     if (!value) continue;
     const bool exact = Has_Time(curve, time);
     words += (words.empty() ? "" : "; ") + curve.name + (exact ? " " : " about ") +
-             Value_Words(*value, drawing.unit);
+             Reading_Words(*value, drawing.unit);
   }
   return words.empty() ? "" : Time_Words(time) + ": " + words;
 }

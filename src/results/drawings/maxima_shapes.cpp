@@ -13,7 +13,8 @@ namespace {
 constexpr double kInset = 6;          // pixels, of words in the plot
 constexpr double kLimitStroke = 1.6;  // pixels
 constexpr double kReadMark = 5;       // pixels
-constexpr double kLabelPart = 0.8;    // of the height that the label of an axis may take
+constexpr double kLeastLines = 16;    // of text, of a picture with a legend
+constexpr double kLabelPart = 0.8;    // of a side that a label along it may take
 
 /// How an area's curve looks: in colours that differ in lightness, with a marker of its own.
 struct Area_Look {
@@ -42,14 +43,16 @@ Stroke Limit_Stroke(const Maxima_Limit& limit) {
   return {kWarnInk, kLimitStroke, limit.of_other ? Dash::dotted : Dash::dashed};
 }
 
-std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing) {
+std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   std::vector<Legend_Entry> legend;
   for (const Maxima_Curve& curve : drawing.curves) {
     const Area_Look look = Look_Of(curve.where);
     legend.push_back({curve.name, look.colour, look.marker, Dash_Of(curve.of_other)});
   }
   for (const Maxima_Limit& limit : drawing.limits) {
-    legend.push_back({limit.name, kWarnInk, Sample::line, Limit_Stroke(limit).dash});
+    const bool has_room = Text_Width(limit.name, canvas.text_size) < kLabelPart * canvas.width;
+    legend.push_back({has_room ? limit.name : Value_Words(limit.value, drawing.unit), kWarnInk,
+                      Sample::line, Limit_Stroke(limit).dash});
   }
   return legend;
 }
@@ -103,25 +106,34 @@ std::vector<Shape> Bands(const Maxima_Drawing& drawing, const Plot_Frame& frame)
   return bands;
 }
 
+// The limit and, where the line has room, when it is exceeded.
+std::string Words_On_Line(const Maxima_Limit& limit, const std::string& unit, double size,
+                          double room) {
+  const std::string value = Value_Words(limit.value, unit);
+  if (limit.exceeded.empty()) return value;
+  std::string all = value + ", exceeded";
+  if (limit.exceeded.size() == 1) {
+    all += " from " + Time_Words(std::round(limit.exceeded[0].from)) + " to " +
+           Time_Words(std::round(limit.exceeded[0].to));
+  }
+  return Text_Width(all, size) <= room ? all : value;
+}
+
 void Add_Limits(Shape_List& picture, const Maxima_Drawing& drawing, const Plot_Frame& frame,
                 double size) {
-  double baseline = frame.top() + kInset + 0.8 * size;
   for (const Maxima_Limit& limit : drawing.limits) {
     const Place from = frame.At(limit.from, limit.value);
     if (!Has_A_Place(from, frame)) continue;
     const double left = limit.from > 0 ? std::min(from.x, frame.right()) : frame.left();
     picture.shapes.push_back(
         Line_Shape{{{left, from.y}, {frame.right(), from.y}}, Limit_Stroke(limit)});
-    if (limit.exceeded.empty()) continue;
-    const Time_Span whole{limit.exceeded.front().from, limit.exceeded.back().to};
-    const std::string words =
-        limit.exceeded.size() > 1
-            ? "exceeded in several spans"
-            : "exceeded from " + Time_Words(whole.from) + " to " + Time_Words(whole.to);
-    if (Text_Width(words, size) > frame.right() - frame.left() - 2 * kInset) continue;
+    const double above = from.y - kInset / 2, below = from.y + size;
     picture.shapes.push_back(
-        Text_Shape{{frame.right() - kInset, baseline}, words, size, kWarnInk, Anchor::end});
-    baseline += 1.3 * size;
+        Text_Shape{{frame.right() - kInset, above - size < frame.top() ? below : above},
+                   Words_On_Line(limit, drawing.unit, size, frame.right() - frame.left() - kInset),
+                   size,
+                   kWarnInk,
+                   Anchor::end});
   }
 }
 
@@ -131,7 +143,8 @@ Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   Plot_Layout layout;
   layout.across = {drawing.time, "Time from the start (s)"};
   layout.upright = {drawing.value, Upright_Label(drawing, canvas)};
-  layout.legend = Legend_Of(drawing);
+  // A picture in small has room for its curves alone.
+  if (canvas.height >= kLeastLines * canvas.text_size) layout.legend = Legend_Of(drawing, canvas);
   return Plot_Frame(layout, canvas);
 }
 

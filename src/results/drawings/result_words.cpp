@@ -10,6 +10,7 @@ namespace barvon {
 namespace {
 
 constexpr double kMinute = 60, kHour = 3600, kFirstInHours = 2 * kHour;  // s
+constexpr double kHundredths = 100;
 
 // In one decimal, where that is all there is to say.
 std::string In_Tenths(double value) { return Short_Text(std::round(value * 10) / 10); }
@@ -27,7 +28,9 @@ std::string Value_Words(double value, const std::string& unit) {
   return Short_Text(value) + " " + unit;
 }
 
-std::string Depth_Words(double feet) { return Short_Text(feet) + " ft"; }
+std::string Depth_Words(double feet) {
+  return Short_Text(std::round(feet * kHundredths) / kHundredths) + " ft";
+}
 
 std::string Where_Words(Result_Where where) {
   switch (where) {

@@ -15,7 +15,7 @@ std::string Time_Words(double seconds);
 /// "12.5 mg/l".
 std::string Value_Words(double value, const std::string& unit);
 
-/// "20 ft".
+/// "20 ft", in hundredths at most.
 std::string Depth_Words(double feet);
 
 /// "inside the site", "outside the site", "outside the ZID", "anywhere".

@@ -20,7 +20,9 @@ TEST(ColourScale, Log_Levels_Are_1_2_5_Below_The_Largest_Value) {
   EXPECT_EQ(Log_Levels(0.0042, 0), (Levels{1e-5, 2e-5, 5e-5, 1e-4, 2e-4, 5e-4, 0.001, 0.002}));
 }
 
-TEST(ColourScale, Log_Levels_Count_From_The_Base) {
+TEST(ColourScale, Log_Levels_Are_Round_Above_A_Weak_Base_And_Count_From_A_Strong_One) {
+  EXPECT_EQ(Log_Levels(0.3, 0.002), (Levels{0.005, 0.01, 0.02, 0.05, 0.1, 0.2}));
+  EXPECT_EQ(Log_Levels(60, 1), (Levels{2, 5, 10, 20, 50}));
   // 9 above 1.
   EXPECT_EQ(Log_Levels(10, 1), (Levels{1.02, 1.05, 1.1, 1.2, 1.5, 2, 3, 6}));
   EXPECT_TRUE(Log_Levels(5, 5).empty());
