@@ -19,7 +19,7 @@ class Deposit_Page : public Map_Page {
   void Picture_Changed() override;
 
  private:
-  QLabel* totals_;
+  QLabel *totals_, *limit_label_;
   QLineEdit* limit_;
   QLabel* area_;
 };

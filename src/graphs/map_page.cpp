@@ -1,13 +1,10 @@
 #include "graphs/map_page.h"
 
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 #include <algorithm>
 
 #include "platform/qt/scrolled_part.h"
-#include "platform/qt/tab_order.h"
 #include "results/drawings/result_words.h"
 
 namespace barvon {
@@ -78,7 +75,8 @@ Map_Page::Map_Page(Map_Kind kind, const QString& name, QWidget* parent)
   row->addWidget(choices);
   row->addLayout(right, 1);
   Connect_Choices();
-  Set_Tab_Order({side_, species_box_, depth_, largest_, colours_, steps_, lines_, grid_});
+  Set_Tab_Order({side_, species_box_, depth_, largest_, colours_, steps_, lines_, grid_, remove_,
+                 picture_, play_, time_});
   const bool concentration = kind == Map_Kind::concentration;
   depth_label_->setVisible(concentration);
   depth_->setVisible(concentration);
@@ -264,6 +262,8 @@ void Map_Page::Refresh() {
                                                           lines_, grid_, side_}) {
     control->setEnabled(any);
   }
+  // On a difference they tell less from more in print without colour.
+  lines_->setEnabled(any && view_.side != Map_Side::difference);
   largest_->setEnabled(any && Has_Largest(*shown_.own, view_.species, view_.depth));
   const bool has_times = any && !view_.largest && times_.size() > 1;
   if (!has_times) Stop();

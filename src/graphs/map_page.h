@@ -11,6 +11,7 @@
 
 #include "graphs/graph_page.h"
 #include "graphs/map_picture.h"
+#include "platform/qt/tab_order.h"
 #include "results/drawings/map_view.h"
 
 namespace barvon {
@@ -45,6 +46,8 @@ class Map_Page : public Graph_Page {
   const Map_Picture& picture() const { return *picture_; }
   /// Puts controls of a page of its own below the choices, above what the line is for.
   QVBoxLayout* own_part() { return own_part_; }
+  /// Tab comes to a control of that part between the choices and what the line is for.
+  void Tab_Goes_To(QWidget* own) { Set_Tab_Order({grid_, own, remove_}); }
 
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

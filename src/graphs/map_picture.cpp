@@ -67,7 +67,19 @@ QString Map_Picture::Tip_At(const QPointF& place) {
   return at ? QString::fromStdString(Map_Words_At(drawing_, *at)) : QString();
 }
 
-void Map_Picture::Build() { Tell_All(); }
+// Another time has another value at the same place.
+void Map_Picture::Build() {
+  Tell_All();
+  Tell_Reading();
+}
+
+void Map_Picture::Tell_Reading() {
+  if (cross_hair_shows_ && cross_hair_) {
+    emit Told(QString::fromStdString(Map_Words_At(drawing_, *cross_hair_)));
+  } else if (pointer_) {
+    emit Told(Tip_At(*pointer_));
+  }
+}
 
 // The cross-hair's place and value are part of the words, for those who cannot see it.
 void Map_Picture::Tell_All() {
@@ -132,7 +144,7 @@ void Map_Picture::Move_Cross_Hair(double down, double right) {
   if (from_ && !pressed_) to_ = cross_hair_;
   Tell_All();
   Redraw_Content();
-  emit Told(QString::fromStdString(Map_Words_At(drawing_, *cross_hair_)));
+  Tell_Reading();
 }
 
 void Map_Picture::Begin_Or_End_Line() {
@@ -195,6 +207,7 @@ bool Map_Picture::Take_Key(const QKeyEvent& event) {
 }
 
 void Map_Picture::leaveEvent(QEvent* event) {
+  pointer_.reset();
   if (!cross_hair_shows_) emit Told(QString());
   Shape_Picture::leaveEvent(event);
 }
@@ -210,7 +223,8 @@ void Map_Picture::mousePressEvent(QMouseEvent* event) {
 
 void Map_Picture::mouseMoveEvent(QMouseEvent* event) {
   Catch_Up();
-  emit Told(Tip_At(event->position()));
+  pointer_ = event->position();
+  emit Told(Tip_At(*pointer_));
   if (pressed_ && (from_ || QLineF(*pressed_, event->position()).length() >=
                                 QApplication::startDragDistance())) {
     from_ = Feet_At(*pressed_, true);

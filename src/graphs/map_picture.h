@@ -56,10 +56,12 @@ class Map_Picture : public Shape_Picture {
   bool Give_Up_Line();
   void End_Line(const Result_Point& to);
   void Tell_All();
+  void Tell_Reading();
 
   Map_Drawing drawing_;
   std::optional<Result_Point> cross_hair_;
   bool cross_hair_shows_ = false;
+  std::optional<QPointF> pointer_;         // while it is over the picture
   std::optional<QPointF> pressed_;         // the left button went down here
   std::optional<Result_Point> from_, to_;  // of the line in the making
 };

@@ -4,7 +4,8 @@
 // toolkit: profiles, plans and bars, which a report without a window writes as SVG from the same
 // list. A `Plot_Picture` leaves its axes to the plotting library: depth map and velocity field for
 // their thousands of cells and colour scale, the tidal curve because the window alone shows it. A
-// new picture is a list of shapes unless it is a map of cells.
+// new picture is a list of shapes unless each of its cells has a colour of its own: a map of areas
+// between levels is a list too.
 
 #include <QByteArray>
 #include <QLabel>

@@ -218,9 +218,38 @@ TEST(ContourPage, Two_Results_Are_Shown_In_Turn_And_As_Their_Difference) {
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), -1);
   EXPECT_LT(contours.page.Map_Shown()->levels.front(), 0);
   EXPECT_TRUE(contours.Name().startsWith("own less other: "));
+  EXPECT_FALSE(contours.Get<QCheckBox>("chkLines").isEnabled());
   contours.Show(Mapped_Results());
   EXPECT_FALSE(contours.Box("cboSide").isVisible());
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), own);
+}
+
+template <class Page>
+QStringList Stops_Of_Tab(Page& page, const char* first) {
+  QStringList stops;
+  QWidget* at = page.template findChild<QWidget*>(QLatin1String(first));
+  at->setFocus(Qt::TabFocusReason);
+  for (int i = 0; i < 20 && !stops.contains(QApplication::focusWidget()->objectName()); ++i) {
+    stops << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  return stops;
+}
+
+TEST(ContourPage, Tab_Goes_Through_The_Choices_Then_To_The_Map_And_Its_Time) {
+  Contours contours;
+  contours.Show(Mapped_Results());
+  EXPECT_EQ(Stops_Of_Tab(contours.page, "cboSpecies"),
+            (QStringList{"cboSpecies", "cboDepth", "chkLargest", "cboColours", "cboSteps",
+                         "chkLines", "chkGrid", "Map", "cmdPlay", "Time"}));
+}
+
+TEST(DepositPage, Tab_Comes_To_The_Thickness_Behind_The_Choices) {
+  Deposit deposit;
+  deposit.Show(Mapped_Results());
+  EXPECT_EQ(Stops_Of_Tab(deposit.page, "cboSpecies"),
+            (QStringList{"cboSpecies", "cboColours", "cboSteps", "chkLines", "chkGrid",
+                         "txtThickness", "Map", "cmdPlay", "Time"}));
 }
 
 TEST(ContourPage, The_Sequence_Is_The_Times) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTest>
@@ -91,6 +92,20 @@ TEST_F(MapPicture, The_Pointer_Reads_The_Value_Below_It) {
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(&map_, &leave);
   EXPECT_EQ(told_.back(), QString());
+}
+
+TEST_F(MapPicture, What_Is_Read_Follows_When_The_Map_Changes_Under_A_Still_Pointer) {
+  Move(At(300, 500));
+  Map_Content content = Peak();
+  content.cells.values.assign(80, 7);
+  map_.Show(content);
+  QApplication::processEvents();
+  EXPECT_TRUE(told_.back().endsWith(": 7 mg/l")) << qPrintable(told_.back());
+  map_.setFocus(Qt::TabFocusReason);
+  Key(Qt::Key_Left);
+  map_.Show(Peak());
+  QApplication::processEvents();
+  EXPECT_EQ(told_.back(), "X 0 ft, Z 0 ft: 0 mg/l");  // the first of the alike
 }
 
 TEST_F(MapPicture, Dragging_Draws_A_Line_And_A_Click_Does_Not) {
