@@ -366,8 +366,9 @@ class Graphics:
         wait_for("the end of the graphics program", lambda: not Program.is_there("kv_graph"))
 
     def expect_view(self, name):
-        tabs = find(self.window, "page tab list")
-        chosen = [t.name for t in children(tabs) if "selected" in states(t)]
+        bar = find(self.window, "menu bar")
+        menus = [m for item in children(bar) if item.name == "View" for m in children(item)]
+        chosen = [i.name for m in menus for i in children(m) + [m] if "checked" in states(i)]
         if chosen != [name]:
             self.tour.fault(f"the view in front is {chosen}, not {name}")
 
