@@ -71,6 +71,12 @@ TEST(Listing, No_Zone_Is_Computed_Where_The_Background_Alone_Is_Above_The_Limit)
   EXPECT_EQ(text.find("outside it no cell ever passes"), std::string::npos);
 }
 
+TEST(Listing, Tells_A_Limit_That_No_Cell_Ever_Passes) {
+  Model_Input input = Compared_Case(Evaluation::Zone_Criterion);
+  input.batches[0].fluid.criterion = 5000;  // of a load that has 50
+  EXPECT_TELLS(Told(input), "no cell ever passes 5000 mg/l at the output depths");
+}
+
 TEST(Listing, Tells_Why_There_Is_No_Verdict) {
   EXPECT_TELLS(Told(Compared_Case(Evaluation::Tracer)), "None: nothing is compared in this run.");
   EXPECT_TELLS(Told(Compared_Case(Evaluation::Sediment)), "None: the notes say why.");
