@@ -21,8 +21,9 @@
 namespace barvon {
 namespace {
 
-Picture_Page Shown_On_Paper(Graph_Page& page, const Results& results) {
-  return Page_Of(*page.Shown_Picture(), page.Picture_Name(), results);
+Picture_Page Shown_On_Paper(Graph_Page& page, const Results& own) {
+  const auto map = page.Map_Shown();
+  return Page_Of(*page.Shown_Picture(), page.Picture_Name(), map && map->of ? *map->of : own);
 }
 
 QByteArray Picture_For(const std::string& path, Graph_Page& page, const Results& results) {

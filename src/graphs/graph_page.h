@@ -28,6 +28,9 @@ struct Shown_Map {
   std::vector<double> levels;  // of the contours on the screen
   std::string what;            // "Sand at 20 ft, 600 s"
   std::string unit;            // "mg/l", "ft"
+  /// Whose map it is: that of the other results lies at their place, with their outlines. A
+  /// difference, and where a page does not say, is of the own.
+  std::shared_ptr<const Results> of;
 };
 
 /// One of the four views of the window. The window owns menus, files, printing and the clipboard;

@@ -90,12 +90,13 @@ std::string Save_Contours(const std::string& path, const Shown_Map& map, const R
 
 }  // namespace
 
-std::string Save_Map_For_Gis(const Graph_Page& page, const Results_Held& results) {
+std::string Save_Map_For_Gis(const Graph_Page& page, const Results_Held& own) {
   const auto map = page.Map_Shown();
   if (!map) {
     Show_Warning("There is no map on this page to save for a GIS.");
     return {};
   }
+  const Results_Held results = map->of != nullptr ? map->of : own;
   const auto place = Known_Place(*results);
   if (!place) return {};
   const auto path = Ask_Export_File(

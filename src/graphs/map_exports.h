@@ -10,8 +10,8 @@ namespace barvon {
 // status bar; empty when nothing was done.
 
 /// Saves the map that the page shows as an ASCII grid, or its contours and the site's outlines as
-/// GeoJSON. Where the grid lies is asked once and kept beside the outputs.
-std::string Save_Map_For_Gis(const Graph_Page& page, const Results_Held& results);
+/// GeoJSON. Where the grid lies is asked once and kept beside the outputs that the map is of.
+std::string Save_Map_For_Gis(const Graph_Page& page, const Results_Held& own);
 
 /// Asks where the grid lies, with what is kept filled in, and keeps it.
 std::string Change_Place(const Results_Held& results);

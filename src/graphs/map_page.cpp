@@ -289,7 +289,8 @@ std::optional<Shown_Map> Map_Page::Map_Shown() const {
     for (const double level : content.scale.levels) levels.insert(levels.begin(), -level);
   }
   levels.insert(levels.end(), content.scale.levels.begin(), content.scale.levels.end());
-  return Shown_Map{content.cells, levels, content.title, content.unit};
+  return Shown_Map{content.cells, levels, content.title, content.unit,
+                   view_.side == Map_Side::other ? shown_.other : shown_.own};
 }
 
 int Map_Page::Sequence_Length() const { return view_.largest ? 0 : static_cast<int>(Time_Count()); }

@@ -99,11 +99,11 @@ Overview_Table Largest_Table(const Results& own, const Results* other) {
   for (int species = 1; species <= Count_Of(own); ++species) {
     table.rows.push_back(Row_Of(own, species, own_name, areas));
     if (other == nullptr) continue;
-    const auto same = Same_Species(*other, own.species[static_cast<std::size_t>(species - 1)]);
+    const auto same = Same_Species(*other, own, species);
     if (same) table.rows.push_back(Row_Of(*other, *same, other_name, areas));
   }
   for (int species = 1; other != nullptr && species <= Count_Of(*other); ++species) {
-    if (Same_Species(own, other->species[static_cast<std::size_t>(species - 1)])) continue;
+    if (Same_Species(own, *other, species)) continue;
     table.rows.push_back(Row_Of(*other, species, other_name, areas));
   }
   return table;

@@ -214,9 +214,11 @@ TEST(ContourPage, Two_Results_Are_Shown_In_Turn_And_As_Their_Difference) {
   const double own = contours.page.Map_Shown()->cells.values.back();
   contours.Choose("cboSide", "Other");
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), own + 1);
+  EXPECT_EQ(contours.page.Map_Shown()->of->path, "/p/other.DUI");
   contours.Choose("cboSide", "Difference");
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), -1);
   EXPECT_LT(contours.page.Map_Shown()->levels.front(), 0);
+  EXPECT_NE(contours.page.Map_Shown()->of->path, "/p/other.DUI");
   EXPECT_TRUE(contours.Name().startsWith("own less other: "));
   EXPECT_FALSE(contours.Get<QCheckBox>("chkLines").isEnabled());
   contours.Show(Mapped_Results());

@@ -107,11 +107,11 @@ Bar_Chart Balance_Chart(const Results& own, const Results* other, std::optional<
   for (int species = 1; species <= Species_Count(own); ++species) {
     Add_Bar(chart, sides[0], species);
     if (other == nullptr) continue;
-    const auto same = Same_Species(*other, own.species[static_cast<std::size_t>(species - 1)]);
+    const auto same = Same_Species(*other, own, species);
     if (same) Add_Bar(chart, sides[1], *same);
   }
   for (int species = 1; other != nullptr && species <= Species_Count(*other); ++species) {
-    if (Same_Species(own, other->species[static_cast<std::size_t>(species - 1)])) continue;
+    if (Same_Species(own, *other, species)) continue;
     Add_Bar(chart, sides[1], species);
   }
   chart.legend = {{"in the water", kWater, Sample::area},

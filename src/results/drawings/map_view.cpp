@@ -43,7 +43,7 @@ double Nearest(const std::vector<double>& values, double wanted) {
 
 std::optional<int> Number_In(const Results& other, const Results& own, int species) {
   if (species == 0) return 0;
-  return Same_Species(other, own.species[static_cast<std::size_t>(species) - 1]);
+  return Same_Species(other, own, species);
 }
 
 bool Is_Known(const Results& results, int species) {
@@ -57,7 +57,7 @@ struct Span {
 
 void Take_In(std::optional<Span>& span, const Result_Map& map) {
   if (!span) span = Span{map.base, map.base};
-  span->base = std::max(span->base, map.base);
+  span->base = std::min(span->base, map.base);
   for (const double value : map.values) span->largest = std::max(span->largest, value);
 }
 
@@ -178,6 +178,8 @@ class View_Content {
     content_.zid = shown.zid;
     content_.disposal = shown.disposal;
     if (view_.side == Map_Side::difference) {
+      content_.quantity = view_.kind == Map_Kind::thickness ? "Difference in thickness"
+                                                            : "Difference in concentration";
       content_.cells = Difference(own_, *map_, *other_, *other_map_);
       const double largest = view_.same_scale ? Largest_Difference() : Largest_Size(content_.cells);
       content_.scale = {Levels_For({0, largest}, view_.logarithmic), true};
@@ -198,7 +200,7 @@ class View_Content {
     span = Span_Of_All(own_, view_);
     const auto other = in_other_ ? Span_Of_All(*other_, other_view_) : std::nullopt;
     if (!span || !other) return span ? *span : other.value_or(Span{});
-    return {std::max(span->base, other->base), std::max(span->largest, other->largest)};
+    return {std::min(span->base, other->base), std::max(span->largest, other->largest)};
   }
 
   double Largest_Difference() const {

@@ -59,6 +59,12 @@ std::string Spans_Words(const std::vector<Time_Span>& spans) {
   return text.empty() ? "not exceeded" : text;
 }
 
+// A crossing between output times is no better known than that.
+std::vector<Time_Span> In_Whole_Seconds(std::vector<Time_Span> spans) {
+  for (Time_Span& span : spans) span = {std::round(span.from), std::round(span.to)};
+  return spans;
+}
+
 Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std::string& unit) {
   Maxima_Limit drawn;
   drawn.name = source.prefix + limit.of + ", " + Value_Words(limit.value, unit);
@@ -67,22 +73,20 @@ Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std
   drawn.where = limit.where;
   drawn.of_other = source.of_other;
   if (limit.exceeded) drawn.exceeded = {{limit.first, limit.last}};
-  drawn.words = drawn.name + ": " + Spans_Words(drawn.exceeded) + ", largest " +
-                Reading_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
+  drawn.words =
+      drawn.name + ", at any point and depth: " + Spans_Words(In_Whole_Seconds(drawn.exceeded)) +
+      ", largest " + Reading_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
   return drawn;
 }
 
-void Add_Limits(Maxima_Drawing& drawing, const Source& source) {
+// The solver's times are those of all depths: over the curves of one they would say that it is
+// there that the limit is exceeded.
+void Add_Limits(Maxima_Drawing& drawing, const Source& source, bool one_depth) {
   for (const Result_Limit& limit : source.results->limits) {
     if (limit.species != source.species) continue;
     drawing.limits.push_back(Limit_Of(limit, source, drawing.unit));
+    if (one_depth) drawing.limits.back().exceeded.clear();
   }
-}
-
-// A crossing between output times is no better known than that.
-std::vector<Time_Span> In_Whole_Seconds(std::vector<Time_Span> spans) {
-  for (Time_Span& span : spans) span = {std::round(span.from), std::round(span.to)};
-  return spans;
 }
 
 void Hold_Against(Maxima_Drawing& drawing, double value) {
@@ -193,6 +197,12 @@ Maxima_Drawing Draw_Maxima(const Results& own, const Results* other, const Maxim
     drawing.note = drawing.description = "The outputs hold no species.";
     return drawing;
   }
+  if (own.maxima.empty()) {
+    drawing.title = own.species[index].name;
+    drawing.note = drawing.description =
+        "The run has no concentrations: it ends with descent and collapse.";
+    return drawing;
+  }
   const Result_Species& species = own.species[index];
   drawing.unit = species.unit;
   drawing.title =
@@ -202,7 +212,7 @@ Maxima_Drawing Draw_Maxima(const Results& own, const Results* other, const Maxim
   if (other != nullptr) {
     const auto [own_name, other_name] = Project_Names(own, *other);
     sources[0].prefix = own_name + ", ";
-    if (const auto same = Same_Species(*other, species)) {
+    if (const auto same = Same_Species(*other, own, choice.species)) {
       sources.push_back({other, *same, true, other_name + ", "});
     } else {
       missing = other_name + " has no " + species.name + " in " + species.unit + ".";
@@ -210,7 +220,7 @@ Maxima_Drawing Draw_Maxima(const Results& own, const Results* other, const Maxim
   }
   for (const Source& source : sources) {
     Add_Curves(drawing, source, choice);
-    if (choice.limits) Add_Limits(drawing, source);
+    if (choice.limits) Add_Limits(drawing, source, choice.depth.has_value());
   }
   if (other != nullptr && choice.depth && missing.empty() && !Has_Depth(*other, *choice.depth)) {
     missing =

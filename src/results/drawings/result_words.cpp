@@ -1,5 +1,6 @@
 #include "results/drawings/result_words.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -58,11 +59,14 @@ std::pair<std::string, std::string> Project_Names(const Results& own, const Resu
   return {names.first + folder(own), names.second + folder(other)};
 }
 
-std::optional<int> Same_Species(const Results& other, const Result_Species& species) {
+std::optional<int> Same_Species(const Results& other, const Results& own, int species) {
+  const Result_Species& wanted = own.species[static_cast<std::size_t>(species - 1)];
+  const auto is_alike = [&wanted](const Result_Species& one) {
+    return one.name == wanted.name && one.unit == wanted.unit;
+  };
+  auto before = std::count_if(own.species.begin(), own.species.begin() + (species - 1), is_alike);
   for (std::size_t i = 0; i < other.species.size(); ++i) {
-    if (other.species[i].name == species.name && other.species[i].unit == species.unit) {
-      return static_cast<int>(i) + 1;
-    }
+    if (is_alike(other.species[i]) && before-- == 0) return static_cast<int>(i) + 1;
   }
   return std::nullopt;
 }

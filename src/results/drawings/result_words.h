@@ -28,7 +28,9 @@ std::string Project_Name(const Results& results);
 /// alike too.
 std::pair<std::string, std::string> Project_Names(const Results& own, const Results& other);
 
-/// The number of the species with that name and unit, from 1; nothing where there is none.
-std::optional<int> Same_Species(const Results& other, const Result_Species& species);
+/// The number in the other results of a species (from 1) of `own`, by its name and unit; of several
+/// that are alike the first stands for the first, the second for the second. Nothing where there is
+/// none.
+std::optional<int> Same_Species(const Results& other, const Results& own, int species);
 
 }  // namespace barvon

@@ -79,9 +79,10 @@ TEST(MaximaDrawing, A_Limit_Is_Told_With_The_Solvers_Own_Times) {
   const auto drawing = Draw_Maxima(Small_Results(), nullptr, {.species = 2});
   ASSERT_EQ(drawing.limits.size(), 1u);
   EXPECT_EQ(drawing.limits[0].exceeded, (std::vector<Time_Span>{{140, 260}}));
-  EXPECT_EQ(drawing.limits[0].words,
-            "criterion outside the disposal site, 2 mg/l: exceeded from 140 s (2.3 min) to "
-            "260 s (4.3 min), largest 3.4 mg/l at 210 s (3.5 min)");
+  EXPECT_EQ(
+      drawing.limits[0].words,
+      "criterion outside the disposal site, 2 mg/l, at any point and depth: exceeded from 140 s "
+      "(2.3 min) to 260 s (4.3 min), largest 3.4 mg/l at 210 s (3.5 min)");
   EXPECT_TRUE(Says(drawing.note, drawing.limits[0].words));
   EXPECT_TRUE(Says(drawing.description, drawing.limits[0].words));
   EXPECT_TRUE(Draw_Maxima(Small_Results(), nullptr, {.species = 1}).limits.empty());
@@ -89,12 +90,27 @@ TEST(MaximaDrawing, A_Limit_Is_Told_With_The_Solvers_Own_Times) {
       Draw_Maxima(Small_Results(), nullptr, {.species = 2, .limits = false}).limits.empty());
 }
 
+TEST(MaximaDrawing, One_Depth_Has_The_Limit_Without_The_Times_Of_All_Depths) {
+  const auto drawing = Draw_Maxima(Small_Results(), nullptr, {.species = 2, .depth = 20.0});
+  ASSERT_EQ(drawing.limits.size(), 1u);
+  EXPECT_TRUE(drawing.limits[0].exceeded.empty());
+  EXPECT_TRUE(Says(drawing.note, "at any point and depth: exceeded from 140 s"));
+}
+
+TEST(MaximaDrawing, A_Run_Of_Descent_And_Collapse_Alone_Says_So) {
+  Results results = Small_Results();
+  results.maxima.clear();
+  EXPECT_EQ(Draw_Maxima(results, nullptr, {.species = 1}).note,
+            "The run has no concentrations: it ends with descent and collapse.");
+}
+
 TEST(MaximaDrawing, A_Limit_That_Is_Kept_Says_So) {
   Results results = Small_Results();
   results.limits[0].exceeded = false;
   results.limits[0].worst = 1.5;
   EXPECT_EQ(Draw_Maxima(results, nullptr, {.species = 2}).limits[0].words,
-            "criterion outside the disposal site, 2 mg/l: not exceeded, largest 1.5 mg/l at "
+            "criterion outside the disposal site, 2 mg/l, at any point and depth: not exceeded, "
+            "largest 1.5 mg/l at "
             "210 s (3.5 min)");
 }
 

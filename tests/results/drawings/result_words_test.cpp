@@ -30,9 +30,24 @@ TEST(ResultWords, Projects_Are_Told_Apart) {
 }
 
 TEST(ResultWords, A_Species_Is_The_Same_By_Name_And_Unit) {
-  const Results results = Small_Results();
-  EXPECT_EQ(Same_Species(results, {"Ammonia", "mg/l"}), 2);
-  EXPECT_EQ(Same_Species(results, {"Ammonia", "%"}), std::nullopt);
+  const Results own = Small_Results();
+  Results other = Small_Results();
+  std::swap(other.species[0], other.species[1]);
+  EXPECT_EQ(Same_Species(other, own, 1), 2);
+  EXPECT_EQ(Same_Species(other, own, 2), 1);
+  other.species[0].unit = "%";
+  EXPECT_EQ(Same_Species(other, own, 2), std::nullopt);
+}
+
+TEST(ResultWords, The_Second_Of_A_Name_Is_The_Others_Second) {
+  Results own = Small_Results(), other = Small_Results();
+  own.species = {{"Sand", "mg/l"}, {"Sand", "mg/l"}};
+  other.species = {{"Sand", "mg/l"}, {"Clay", "mg/l"}, {"Sand", "mg/l"}};
+  EXPECT_EQ(Same_Species(other, own, 1), 1);
+  EXPECT_EQ(Same_Species(other, own, 2), 3);
+  EXPECT_EQ(Same_Species(own, other, 3), 2);
+  own.species.pop_back();
+  EXPECT_EQ(Same_Species(own, other, 3), std::nullopt);
 }
 
 TEST(CsvText, Cells_Are_Quoted_Where_They_Must_Be) {
