@@ -18,6 +18,7 @@ namespace {
 
 constexpr char kHowToRead[] =
     "Point at the plot, or press Left and Right in it, to read the values.";
+constexpr int kFarDown = 10'000;   // pixels
 constexpr int kLeastLetters = 95;  // of a page with its choices in rows
 
 QLabel* Label_For(QWidget* field, const char* text) {
@@ -133,14 +134,29 @@ void Maxima_Page::Place_Choices() {
   }
 }
 
+// Room for the longest reading, so that the plot stays as it is while it is read.
+void Maxima_Page::Fit_Reading() {
+  QString longest = QString::fromLatin1(kHowToRead);
+  for (const double time : Reading_Times(plot_->Drawn())) {
+    const QString words = QString::fromStdString(Reading_Words(plot_->Drawn(), time));
+    if (words.size() > longest.size()) longest = words;
+  }
+  const QRect room(0, 0, std::max(plot_->width(), plot_->minimumSizeHint().width()), kFarDown);
+  reading_->setMinimumHeight(
+      reading_->fontMetrics().boundingRect(room, Qt::TextWordWrap, longest).height());
+}
+
 void Maxima_Page::changeEvent(QEvent* event) {
   Graph_Page::changeEvent(event);
-  if (event->type() == QEvent::FontChange) Place_Choices();
+  if (event->type() != QEvent::FontChange) return;
+  Place_Choices();
+  Fit_Reading();
 }
 
 void Maxima_Page::resizeEvent(QResizeEvent* event) {
   Graph_Page::resizeEvent(event);
   Place_Choices();
+  Fit_Reading();
 }
 
 void Maxima_Page::Fill_Species() {
@@ -188,6 +204,7 @@ void Maxima_Page::Draw() {
           ? QStringLiteral("Hold against:")
           : QStringLiteral("Hold against (%1):").arg(QString::fromStdString(drawing.unit)));
   plot_->Show(std::move(drawing));
+  Fit_Reading();
   emit Changed();
 }
 

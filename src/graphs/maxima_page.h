@@ -33,6 +33,7 @@ class Maxima_Page : public Graph_Page {
   QWidget* Choices();
   QCheckBox* Add_Check(const char* caption, const char* name);
   void Place_Choices();
+  void Fit_Reading();
   void Fill_Species();
   void Fill_Depths();
   void Draw();

@@ -138,6 +138,15 @@ TEST(MaximaPage, Keys_Read_From_Time_To_Time) {
   EXPECT_EQ(plot->Read_Time(), 400);
 }
 
+TEST(MaximaPage, The_Plot_Stays_As_Large_While_It_Is_Read) {
+  Maxima_Bench bench(With_Zid(), Another());
+  const QSize before = bench.Plot()->size();
+  QTest::keyClick(bench.Plot(), Qt::Key_Right);
+  QApplication::processEvents();
+  ASSERT_GT(bench.Reading().size(), 100);
+  EXPECT_EQ(bench.Plot()->size(), before);
+}
+
 TEST(MaximaPage, The_Line_That_Is_Read_Is_Seen_But_Not_Saved) {
   Maxima_Bench bench;
   const QByteArray saved = bench.Plot()->As_Svg();

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kTick = 4, kTickGap = 3, kLabelGap = 6, kEdge = 15, kLeastSide = 1;  // pixels
 constexpr double kLine = 1.25;  // height of a line of text, of its size
-constexpr double kSampleWidth = 20, kSampleGap = 8, kEntryGap = 16;
+constexpr double kSampleWidth = 20, kBrokenSampleWidth = 36, kSampleGap = 8, kEntryGap = 16;
 constexpr double kMarker = 3.5, kTriangle = 9, kMarkerStroke = 1.4, kLineStroke = 1.8;
 
 double Widest_Label(const Axis_Scale& scale, double size) {
@@ -57,8 +57,13 @@ void Add_Marker(Shape_List& picture, Place at, Colour colour, Sample sample) {
   }
 }
 
+// A broken line shows that it is one beside its marker.
+double Sample_Width(const Legend_Entry& entry) {
+  return entry.dash == Dash::solid ? kSampleWidth : kBrokenSampleWidth;
+}
+
 double Entry_Width(const Legend_Entry& entry, double size) {
-  return kSampleWidth + kSampleGap + Text_Width(entry.text, size) + kEntryGap;
+  return Sample_Width(entry) + kSampleGap + Text_Width(entry.text, size) + kEntryGap;
 }
 
 // The entries in rows that are no wider than the canvas, one at least in each.
@@ -242,7 +247,7 @@ void Plot_Frame::Add_Legend(Shape_List& picture) const {
     for (const Legend_Entry& entry : row) width += Entry_Width(entry, size);
     double x = std::max(kSampleGap, (canvas_.width - width + kEntryGap) / 2);
     for (const Legend_Entry& entry : row) {
-      const Place from{x, middle}, to{x + kSampleWidth, middle};
+      const Place from{x, middle}, to{x + Sample_Width(entry), middle};
       if (entry.sample == Sample::area) {
         const double half = 0.4 * size;
         picture.shapes.push_back(

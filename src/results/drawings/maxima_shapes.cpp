@@ -119,6 +119,36 @@ std::string Words_On_Line(const Maxima_Limit& limit, const std::string& unit, do
   return Text_Width(all, size) <= room ? all : value;
 }
 
+// Whether a curve runs through a rectangle, as far as a few places of each of its lines tell.
+bool Is_Crossed(const Maxima_Drawing& drawing, const Plot_Frame& frame, Place low, Place high) {
+  constexpr int kParts = 24;
+  for (const Maxima_Curve& curve : drawing.curves) {
+    for (std::size_t i = 0; i + 1 < curve.values.size(); ++i) {
+      const Place a = frame.At(curve.values[i].time, curve.values[i].value);
+      const Place b = frame.At(curve.values[i + 1].time, curve.values[i + 1].value);
+      for (int part = 0; part <= kParts; ++part) {
+        const double at = static_cast<double>(part) / kParts;
+        const double x = a.x + at * (b.x - a.x), y = a.y + at * (b.y - a.y);
+        if (x >= low.x && x <= high.x && y >= low.y && y <= high.y) return true;
+      }
+    }
+  }
+  return false;
+}
+
+// Where the words of a line at a height are read: above it, as near as no curve is in their way;
+// below where the plot ends.
+double Free_Baseline(const Maxima_Drawing& drawing, const Plot_Frame& frame, double line,
+                     double width, double size) {
+  const double nearest = line - kInset / 2, right = frame.right() - kInset;
+  if (nearest - size < frame.top()) return line + size;
+  for (double baseline = nearest; baseline - size > frame.top(); baseline -= size) {
+    const Place low{right - width, baseline - size}, high{right, baseline + kInset / 2};
+    if (!Is_Crossed(drawing, frame, low, high)) return baseline;
+  }
+  return nearest;
+}
+
 void Add_Limits(Shape_List& picture, const Maxima_Drawing& drawing, const Plot_Frame& frame,
                 double size) {
   for (const Maxima_Limit& limit : drawing.limits) {
@@ -127,13 +157,11 @@ void Add_Limits(Shape_List& picture, const Maxima_Drawing& drawing, const Plot_F
     const double left = limit.from > 0 ? std::min(from.x, frame.right()) : frame.left();
     picture.shapes.push_back(
         Line_Shape{{{left, from.y}, {frame.right(), from.y}}, Limit_Stroke(limit)});
-    const double above = from.y - kInset / 2, below = from.y + size;
-    picture.shapes.push_back(
-        Text_Shape{{frame.right() - kInset, above - size < frame.top() ? below : above},
-                   Words_On_Line(limit, drawing.unit, size, frame.right() - frame.left() - kInset),
-                   size,
-                   kWarnInk,
-                   Anchor::end});
+    const std::string words =
+        Words_On_Line(limit, drawing.unit, size, frame.right() - frame.left() - kInset);
+    const Place end{frame.right() - kInset,
+                    Free_Baseline(drawing, frame, from.y, Text_Width(words, size), size)};
+    picture.shapes.push_back(Text_Shape{end, words, size, kWarnInk, Anchor::end});
   }
 }
 

@@ -261,6 +261,20 @@ TEST(MaximaDrawing, The_Picture_Shows_The_Limit_And_When_It_Is_Exceeded) {
   EXPECT_TRUE(Says(Svg_Text(picture), "exceeded from 140 s (2.3 min) to 260 s (4.3 min)"));
 }
 
+TEST(MaximaDrawing, The_Words_Of_A_Limit_Keep_Out_Of_The_Curves_Way) {
+  Results results = Small_Results();
+  results.limits[0].value = 0.9;  // the curve outside ends at 1
+  const auto drawing = Draw_Maxima(results, nullptr, {.species = 2, .inside = false});
+  const Plot_Frame frame = Frame_Of(drawing, kCanvas);
+  for (const Shape& shape : Maxima_Shapes(drawing, kCanvas).shapes) {
+    const auto* text = std::get_if<Text_Shape>(&shape);
+    if (text == nullptr || !text->text.starts_with("0.9 mg/l")) continue;
+    EXPECT_LT(text->place.y, frame.At(400, 1).y - 3);
+    return;
+  }
+  FAIL();
+}
+
 TEST(MaximaDrawing, The_Reading_Is_Marked_On_Each_Curve) {
   const auto drawing = Draw_Maxima(Small_Results(), nullptr, {.species = 1});
   const Shape_List above = Reading_Shapes(drawing, kCanvas, 200);
