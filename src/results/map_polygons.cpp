@@ -156,8 +156,11 @@ std::vector<Map_Polygon> Polygons_Within(const std::vector<Map_Ring>& outlines) 
   for (const Map_Ring& ring : Walk(Edges_Of(outlines)).Rings()) {
     for (Map_Ring& part : Parts_Of(ring)) {
       const long double area = Twice_Area_Of(part);
-      if (area > 0) polygons.push_back({std::move(part), {}});
-      if (area < 0) holes.push_back(std::move(part));
+      if (area > 0) {
+        polygons.push_back({std::move(part), {}});
+      } else if (area < 0) {
+        holes.push_back(std::move(part));
+      }
     }
   }
   for (Map_Ring& hole : holes) {
