@@ -60,6 +60,16 @@ TEST_F(MapExports, The_Place_Is_Asked_Once_And_Kept_Beside_The_Outputs) {
             (std::vector<std::string>{"Site.place", "map.asc", "map.asc.aux.xml", "map.geojson"}));
 }
 
+TEST_F(MapExports, The_Map_Of_Other_Results_Lies_At_Their_Place) {
+  Write_Text(folder / "Other.place",
+             "[Place]\nEasting=5000\nNorthing=7000\nTurn=0\nUnit=ft\nSystem=\n");
+  page.map->of = Results_At(folder / "Other.DUI");
+  EXPECT_EQ(Save("map.asc"), "Saved as " + (folder / "map.asc"));  // and nothing is asked
+  const std::string grid = Read_Text(folder / "map.asc");
+  EXPECT_NE(grid.find("xllcorner 4950"), std::string::npos) << grid;
+  EXPECT_NE(grid.find("yllcorner 6850"), std::string::npos) << grid;
+}
+
 TEST_F(MapExports, Without_A_Place_Nothing_Is_Saved) {
   const Modal_Replies replies({Press_Escape()});
   EXPECT_EQ(Save("map.asc"), "");
