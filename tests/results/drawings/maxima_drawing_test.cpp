@@ -280,6 +280,7 @@ TEST(MaximaDrawing, The_Picture_Shows_The_Limit_And_When_It_Is_Exceeded) {
 TEST(MaximaDrawing, The_Words_Of_A_Limit_Keep_Out_Of_The_Curves_Way) {
   Results results = Small_Results();
   results.limits[0].value = 0.9;  // the curve outside ends at 1
+  results.limits[0].exceeded = false;
   const auto drawing = Draw_Maxima(results, nullptr, {.species = 2, .inside = false});
   const Plot_Frame frame = Frame_Of(drawing, kCanvas);
   for (const Shape& shape : Maxima_Shapes(drawing, kCanvas).shapes) {
