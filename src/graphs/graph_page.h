@@ -30,7 +30,7 @@ struct Shown_Map {
   std::string unit;            // "mg/l", "ft"
   /// Whose map it is: that of the other results lies at their place, with their outlines. A
   /// difference, and where a page does not say, is of the own.
-  std::shared_ptr<const Results> of;
+  std::shared_ptr<const Results> of = nullptr;
 };
 
 /// One of the four views of the window. The window owns menus, files, printing and the clipboard;
