@@ -102,6 +102,8 @@ QWidget* Overview_Page::Left_Half() {
   rows->addLayout(columns_);
   auto* when = new QHBoxLayout;
   balance_time_ = new QComboBox;
+  // The times come with the outputs, which may be after the page is first seen.
+  balance_time_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   balance_time_->setObjectName(QStringLiteral("BalanceTime"));
   balance_time_->setAccessibleName(QStringLiteral("Balance"));
   auto* label = new QLabel(QStringLiteral("Balance:"));

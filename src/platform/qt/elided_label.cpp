@@ -33,7 +33,10 @@ bool Elided_Label::event(QEvent* event) {
 void Elided_Label::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-  style()->drawItemText(&painter, contentsRect(), Qt::AlignVCenter | Qt::TextSingleLine, palette(),
+  const auto across =
+      QStyle::visualAlignment(layoutDirection(), alignment() & Qt::AlignHorizontal_Mask);
+  style()->drawItemText(&painter, contentsRect(),
+                        static_cast<int>(across) | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
                         isEnabled(), line, foregroundRole());
 }
 
