@@ -33,7 +33,7 @@ Bar Bar_Of(const std::string& label, const std::optional<Species_Balance>& balan
   if (!balance) {
     bar.remark = "no balance at this time";
   } else if (!(balance->released > 0)) {
-    bar.remark = "nothing released yet";
+    bar.remark = "nothing released";
   } else {
     const auto percent = [&](double amount) { return 100 * balance->Share(amount); };
     bar = Stacked_Bar(label, {{percent(balance->suspended), kWater, "in the water"},

@@ -35,7 +35,7 @@ TEST(BalanceDrawing, At_A_Time_It_Is_Of_What_Was_Released_Up_To_Then) {
 TEST(BalanceDrawing, Before_Anything_Left_The_Vessel_There_Are_No_Parts) {
   Results results = Small_Results();
   results.masses[0] = {.time = 100, .species = 1};
-  EXPECT_EQ(Balance_Chart(results, nullptr, 100).bars[0].remark, "nothing released yet");
+  EXPECT_EQ(Balance_Chart(results, nullptr, 100).bars[0].remark, "nothing released");
 }
 
 TEST(BalanceDrawing, Two_Results_Have_Their_Bars_Below_Each_Other) {
