@@ -35,9 +35,10 @@ class Position_Writer {
  public:
   explicit Position_Writer(const Map_Place& place) : place_(place) {}
 
-  Map_Step Step(const Result_Point& point) const {
+  /// In steps.
+  Map_Point Point(const Result_Point& point) const {
     const Map_Point on_map = On_Map(place_, point);
-    return {std::llround(on_map.easting * kSteps), std::llround(on_map.northing * kSteps)};
+    return {on_map.easting * kSteps, on_map.northing * kSteps};
   }
 
   static std::string Position(const Map_Step& step) {
@@ -47,12 +48,14 @@ class Position_Writer {
     return "[" + text(step.east) + "," + text(step.north) + "]";
   }
 
-  std::string Position(const Result_Point& point) const { return Position(Step(point)); }
+  std::string Position(const Result_Point& point) const {
+    return Position(Rounded_Step(Point(point)));
+  }
 
-  Map_Ring Ring(const std::vector<Result_Point>& points) const {
-    Map_Ring ring;
-    for (const Result_Point& point : points) ring.push_back(Step(point));
-    return ring;
+  Map_Outline Outline(const std::vector<Result_Point>& points) const {
+    Map_Outline outline;
+    for (const Result_Point& point : points) outline.push_back(Point(point));
+    return outline;
   }
 
   /// With its first position at the end again.
@@ -95,8 +98,8 @@ std::string Feature(const std::string& kind, const std::string& further, const c
 }
 
 std::string Multi_Polygon(const std::vector<Contour_Ring>& regions, const Position_Writer& writer) {
-  std::vector<Map_Ring> outlines;
-  for (const Contour_Ring& ring : regions) outlines.push_back(writer.Ring(ring.points));
+  std::vector<Map_Outline> outlines;
+  for (const Contour_Ring& ring : regions) outlines.push_back(writer.Outline(ring.points));
   std::vector<std::string> texts;
   for (const Map_Polygon& polygon : Polygons_Within(outlines)) {
     std::vector<std::string> rings = {Position_Writer::Positions(polygon.outer)};

@@ -14,10 +14,82 @@ namespace {
 
 using Edge = std::pair<Map_Step, Map_Step>;
 
+/// Rounds outlines so that they still do not cross: each line goes through every step that is a
+/// corner of any outline and whose square the line passes (snap rounding; J. D. Hobby, "Practical
+/// segment intersection with finite precision output", Computational Geometry 13, 1999). Corners
+/// alone, rounded one by one, could come to lie on another line or behind it.
+class Rounding {
+ public:
+  explicit Rounding(const std::vector<Map_Outline>& outlines) {
+    for (const Map_Outline& outline : outlines) {
+      for (const Map_Point& point : outline) corners_.push_back(Rounded_Step(point));
+    }
+    std::ranges::sort(corners_);
+    corners_.erase(std::ranges::unique(corners_).begin(), corners_.end());
+  }
+
+  Map_Ring Ring(const Map_Outline& outline) const {
+    Map_Ring ring;
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+      const Map_Point& from = outline[i];
+      const Map_Point& to = outline[(i + 1) % outline.size()];
+      ring.push_back(Rounded_Step(from));
+      for (const auto& [part, step] : Passed(from, to)) ring.push_back(step);
+    }
+    return ring;
+  }
+
+ private:
+  using Passage = std::pair<double, Map_Step>;  // a part of the way from 0 to 1
+
+  /// The corners between the line's ends, in its order.
+  std::vector<Passage> Passed(const Map_Point& from, const Map_Point& to) const {
+    const Map_Step first = Rounded_Step(from), last = Rounded_Step(to);
+    const Map_Step low = {std::min(first.east, last.east), std::min(first.north, last.north)};
+    const Map_Step high = {std::max(first.east, last.east), std::max(first.north, last.north)};
+    std::vector<Passage> passed;
+    for (auto at = std::ranges::lower_bound(corners_, low); at != corners_.end(); ++at) {
+      if (high < *at) break;
+      if (at->north < low.north || at->north > high.north || *at == first || *at == last) continue;
+      if (const auto part = Part_Within(from, to, *at)) passed.emplace_back(*part, *at);
+    }
+    std::ranges::sort(passed);
+    return passed;
+  }
+
+  /// The middle of the part of a line that is in the square of a step.
+  static std::optional<double> Part_Within(const Map_Point& from, const Map_Point& to,
+                                           const Map_Step& step) {
+    double in = 0, out = 1;
+    const auto clip = [&in, &out](double start, double end, long long middle) {
+      // The upper side belongs to the next square; this is more than the digits of large
+      // coordinates leave unsure.
+      constexpr double kUpperSide = 0.5 - 1e-5;
+      const double lower = static_cast<double>(middle) - 0.5;
+      const double upper = static_cast<double>(middle) + kUpperSide;
+      if (start == end) return start >= lower && start <= upper;
+      const double to_lower = (lower - start) / (end - start);
+      const double to_upper = (upper - start) / (end - start);
+      in = std::max(in, std::min(to_lower, to_upper));
+      out = std::min(out, std::max(to_lower, to_upper));
+      return in <= out;
+    };
+    if (!clip(from.easting, to.easting, step.east) ||
+        !clip(from.northing, to.northing, step.north)) {
+      return std::nullopt;
+    }
+    return (in + out) / 2;
+  }
+
+  std::vector<Map_Step> corners_;  // in order, each once
+};
+
 /// The edges of the outlines. One that is there both ways bounds nothing, and neither is.
-std::vector<Edge> Edges_Of(const std::vector<Map_Ring>& outlines) {
+std::vector<Edge> Edges_Of(const std::vector<Map_Outline>& outlines) {
+  const Rounding rounding(outlines);
   std::map<Edge, int> count;
-  for (const Map_Ring& ring : outlines) {
+  for (const Map_Outline& outline : outlines) {
+    const Map_Ring ring = rounding.Ring(outline);
     for (std::size_t i = 0; i < ring.size(); ++i) {
       const Edge edge(ring[i], ring[(i + 1) % ring.size()]);
       if (edge.first == edge.second) continue;
@@ -104,29 +176,32 @@ std::vector<Map_Ring> Parts_Of(const Map_Ring& ring) {
   return parts;
 }
 
-/// By the odd-even rule.
-bool Holds(const Map_Ring& ring, const Map_Step& step) {
+/// Whether the middle of an edge is in a ring that does not have the edge, by the odd-even rule.
+/// Rings meet in positions alone, so that the middle is on none of the ring's edges.
+bool Holds_Middle(const Map_Ring& ring, const Edge& edge) {
+  const auto [east, north] = std::pair(edge.first.east + edge.second.east,
+                                       edge.first.north + edge.second.north);  // twice
   bool inside = false;
   for (std::size_t i = 0; i < ring.size(); ++i) {
     const Map_Step& a = ring[i];
     const Map_Step& b = ring[(i + 1) % ring.size()];
-    if ((a.north > step.north) == (b.north > step.north)) continue;
-    const double part =
-        static_cast<double>(step.north - a.north) / static_cast<double>(b.north - a.north);
-    const double crossing =
-        static_cast<double>(a.east) + part * static_cast<double>(b.east - a.east);
-    if (static_cast<double>(step.east) < crossing) inside = !inside;
+    if ((2 * a.north > north) == (2 * b.north > north)) continue;
+    // Above 0 where the edge upward passes on the right of the middle.
+    const long double side =
+        static_cast<long double>(b.east - a.east) * static_cast<long double>(north - 2 * a.north) -
+        static_cast<long double>(b.north - a.north) * static_cast<long double>(east - 2 * a.east);
+    if ((side > 0) == (b.north > a.north)) inside = !inside;
   }
   return inside;
 }
 
-/// The smallest polygon around a hole. A corner of it may touch the outline, so all have a voice.
+/// The smallest polygon around a hole. Corners of a hole may be corners of the outline around it,
+/// and of polygons that lie in the hole; the middle of one of its edges is inside of the former and
+/// outside of the latter.
 Map_Polygon* Around(std::vector<Map_Polygon>& polygons, const Map_Ring& hole) {
   Map_Polygon* around = nullptr;
   for (Map_Polygon& polygon : polygons) {
-    const auto inside = std::ranges::count_if(
-        hole, [&](const Map_Step& step) { return Holds(polygon.outer, step); });
-    if (2 * static_cast<std::size_t>(inside) > hole.size() &&
+    if (Holds_Middle(polygon.outer, {hole[0], hole[1]}) &&
         (around == nullptr || Twice_Area_Of(polygon.outer) < Twice_Area_Of(around->outer))) {
       around = &polygon;
     }
@@ -150,7 +225,12 @@ long double Twice_Area_Of(const Map_Ring& ring) {
   return twice;
 }
 
-std::vector<Map_Polygon> Polygons_Within(const std::vector<Map_Ring>& outlines) {
+Map_Step Rounded_Step(const Map_Point& point) {
+  const auto steps = [](double way) { return static_cast<long long>(std::floor(way + 0.5)); };
+  return {steps(point.easting), steps(point.northing)};
+}
+
+std::vector<Map_Polygon> Polygons_Within(const std::vector<Map_Outline>& outlines) {
   std::vector<Map_Polygon> polygons;
   std::vector<Map_Ring> holes;
   for (const Map_Ring& ring : Walk(Edges_Of(outlines)).Rings()) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <random>
 
@@ -154,6 +155,25 @@ TEST_F(GisReaders, Areas_Of_A_Wild_Map_Are_Valid_Polygons) {
   if (said.find("v (Integer)") == std::string::npos) GTEST_SKIP() << "without spatial functions";
   EXPECT_EQ(said.find("v (Integer) = 0"), std::string::npos) << said;
   Expect_Said(said, "level (Real) = 4");
+}
+
+TEST_F(GisReaders, Areas_At_The_Values_Of_Cells_Are_Valid_Polygons) {
+  const std::array values{0.0, 0.01, 0.02, 0.05, 0.1};
+  for (unsigned seed = 0; seed < 12; ++seed) {
+    Cell_Values cells{12, 12, 100, seed % 2 == 0 ? 100.0 : 70.0, {}};
+    std::mt19937 random(seed);
+    for (int i = 0; i < 144; ++i) cells.values.push_back(values[random() % values.size()]);
+    Map_Place place = kUtm;
+    place.turn = seed % 3 * 29.5;
+    Write_Text(folder / "map.geojson",
+               Geojson_Text(cells, {0.01, 0.02, 0.05, 0.1}, "Sand", "ft", {}, place));
+    const std::string said =
+        Said("ogrinfo",
+             {"-ro", "-q", "-dialect", "sqlite", "-sql",
+              "select st_isvalid(geometry) as v from Sand where kind = 'area'", "map.geojson"});
+    if (said.find("v (Integer)") == std::string::npos) GTEST_SKIP() << "without spatial functions";
+    EXPECT_EQ(said.find("v (Integer) = 0"), std::string::npos) << seed << said;
+  }
 }
 
 TEST_F(GisReaders, Without_A_Code_Nobody_Takes_The_Numbers_For_Degrees) {
