@@ -168,6 +168,8 @@ void Map_Page::Show(const Shown_Results& shown) {
   const std::string former = shown_.own && Own_Map(*shown_.own, view_) != nullptr
                                  ? Mapped_Name(*shown_.own, view_.species)
                                  : std::string();
+  // A line through one project's site says nothing on another's.
+  if (shown_.own && shown.own && shown_.own->path != shown.own->path) view_.section.reset();
   shown_ = shown;
   if (!shown_.other) view_.side = Map_Side::own;
   if (shown_.own) {

@@ -79,8 +79,8 @@ void Result_Columns::Fail(std::string reason) {
 
 std::string_view Result_Columns::Take(std::size_t columns) {
   if (line_.size() < at_ + columns) {
-    Fail("the line ends in column " + std::to_string(line_.size()) + ", before " +
-         In_Columns(at_, columns));
+    Fail("the line ends in column " + std::to_string(line_.size()) + ", and " +
+         In_Columns(at_, columns) + " are not whole");
     return {};
   }
   const std::string_view text = line_.substr(at_, columns);

@@ -203,6 +203,21 @@ TEST(ContourPage, New_Outputs_Keep_What_Is_Chosen) {
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), 128);
 }
 
+TEST(ContourPage, A_Section_Stays_For_Fresh_Outputs_And_Goes_With_Its_Project) {
+  Contours contours;
+  contours.Show(Mapped_Results());
+  auto& map = contours.Get<Map_Picture>("Map");
+  emit map.Section_Drawn(Section_Line{{0, 0}, {100, 100}});
+  auto& remove = contours.Get<QPushButton>("cmdRemoveSection");
+  EXPECT_TRUE(remove.isEnabled());
+  contours.Show(Mapped_Results());
+  EXPECT_TRUE(remove.isEnabled());
+  Results other = Mapped_Results();
+  other.path = "/p/other.DUI";
+  contours.Show(other);
+  EXPECT_FALSE(remove.isEnabled());
+}
+
 TEST(ContourPage, Two_Results_Are_Shown_In_Turn_And_As_Their_Difference) {
   Contours contours;
   EXPECT_FALSE(contours.Box("cboSide").isVisible());

@@ -239,7 +239,7 @@ TEST(ResultReader, What_Is_Wrong_In_The_Series_Is_Told_With_Its_Line_And_Columns
   EXPECT_EQ(Series_With("1.500000e+01", "1.50000e+101"), "line 9: no number in columns 39 to 52");
   EXPECT_EQ(Series_With("1.500000e+01", "1.500000e+01 "), "line 9: no number in columns 67 to 80");
   EXPECT_EQ(Series_With("2.500000e+00  0.000000e+00\r", "2.500000e+00\r"),
-            "line 9: the line ends in column 66, before columns 67 to 80");
+            "line 9: the line ends in column 66, and columns 67 to 80 are not whole");
   EXPECT_EQ(Series_With("2.500000e+00  0.000000e+00\r", "2.500000e+00  0.000000e+00 \r"),
             "line 9: the line goes on behind column 80, where it should end");
   EXPECT_EQ(Series_With("PEAK ", "PICK "), "line 13: \"PICK \" begins no line of this output");
@@ -281,7 +281,7 @@ TEST(ResultReader, What_Is_Wrong_In_The_Maps_Is_Told_With_Its_Line_And_Columns) 
             "line 11: no number in columns 1 to 11");
   EXPECT_EQ(Maps_With(" 1.5000e+01", " 1.5000e*01"), "line 10: no number in columns 1 to 11");
   EXPECT_EQ(Maps_With(" 3.0000e+00\r", "\r"),
-            "line 10: the line ends in column 22, before columns 23 to 33");
+            "line 10: the line ends in column 22, and columns 23 to 33 are not whole");
 }
 
 TEST(ResultReader, Cut_Maps_Are_Not_Whole) {

@@ -34,8 +34,24 @@ double Value_With_Margin(const Plot_Axis& axis, double part) {
   return Value_On_Axis(axis.scale, part * (1 + 2 * axis.margin) - axis.margin);
 }
 
+/// Powers of ten with their double and fivefold between them.
+std::vector<double> With_2_And_5(const std::vector<double>& powers) {
+  std::vector<double> labels;
+  for (const double power : powers) {
+    for (const double factor : {1.0, 2.0, 5.0}) labels.push_back(factor * power);
+  }
+  labels.resize(labels.size() - 2);
+  return labels;
+}
+
 std::vector<double> Labels_For(const Axis_Scale& scale, double pixels, double label) {
-  const int steps = static_cast<int>(Labels_Of(scale, 1).size()) - 1;
+  constexpr int kFewDecades = 2;  // whose powers alone would say little of what lies between
+  std::vector<double> labels = Labels_Of(scale, 1);
+  const int steps = static_cast<int>(labels.size()) - 1;
+  if (scale.logarithmic && steps > 0 && steps <= kFewDecades &&
+      std::log10(2) * pixels / steps >= label) {
+    return With_2_And_5(labels);
+  }
   return Labels_Of(scale, Label_Stride(steps, pixels, label));
 }
 

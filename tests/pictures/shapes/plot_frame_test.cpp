@@ -50,6 +50,27 @@ TEST(PlotFrame, An_Upright_Axis_Grows_Upwards_Unless_Told) {
   EXPECT_NEAR(frame.Upright_At(frame.At(1, 30)), 30, 1e-9);
 }
 
+std::vector<std::string> Upright_Labels(const Axis_Scale& scale) {
+  Plot_Layout layout = Velocity_Against_Depth();
+  layout.upright = {scale, ""};
+  layout.across.labelled = false;
+  layout.legend.clear();
+  Shape_List picture;
+  Plot_Frame(layout, {400, 300, 12}).Add_Axes(picture);
+  std::vector<std::string> labels;
+  for (const Text_Shape& text : Texts_Of(picture)) {
+    if (!text.text.empty() && text.anchor == Anchor::end) labels.push_back(text.text);
+  }
+  return labels;
+}
+
+TEST(PlotFrame, Few_Decades_Have_Labels_Between_Their_Powers) {
+  EXPECT_EQ(Upright_Labels(Log_Scale_Over({0.1, 1})),
+            (std::vector<std::string>{"0.1", "0.2", "0.5", "1"}));
+  EXPECT_EQ(Upright_Labels(Log_Scale_Over({1, 1000})),
+            (std::vector<std::string>{"1", "10", "100", "1000"}));
+}
+
 TEST(PlotFrame, No_Letters_Leave_The_Canvas_Nor_Lie_On_Each_Other) {
   for (const Canvas canvas : {Canvas{420, 280, 12}, {260, 200, 11}, {900, 600, 24}}) {
     const Plot_Frame frame(Velocity_Against_Depth(), canvas);
