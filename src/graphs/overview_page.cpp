@@ -102,15 +102,17 @@ QWidget* Overview_Page::Left_Half() {
   rows->addLayout(columns_);
   auto* when = new QHBoxLayout;
   balance_time_ = new QComboBox;
-  // The times come with the outputs, which may be after the page is first seen.
-  balance_time_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  // The times come with the outputs, which may be after the page is first seen: the row gives the
+  // box its width, not what it holds then.
+  balance_time_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  balance_time_->setMinimumContentsLength(10);
   balance_time_->setObjectName(QStringLiteral("BalanceTime"));
   balance_time_->setAccessibleName(QStringLiteral("Balance"));
   auto* label = new QLabel(QStringLiteral("Balance:"));
   label->setBuddy(balance_time_);
   when->addWidget(label);
-  when->addWidget(balance_time_);
-  when->addStretch();
+  when->addWidget(balance_time_, 1);
+  when->addStretch(1);
   rows->addLayout(when);
   balance_ = new Balance_Bars;
   balance_->setObjectName(QStringLiteral("Balance"));
