@@ -12,6 +12,7 @@
 #include <cmath>
 #include <utility>
 
+#include "graphs/view_tabs.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
@@ -36,7 +37,7 @@ frmGraphs::frmGraphs(QWidget* parent)
       own_title_(new Elided_Label(pictures_)),
       other_title_(new Elided_Label(pictures_)),
       end_comparison_(new QPushButton(QStringLiteral("&No comparison"), pictures_)),
-      tabs_(new QTabWidget(pictures_)),
+      tabs_(new View_Tabs(pictures_)),
       usual_text_(QApplication::font().pointSizeF()) {
   setObjectName(QStringLiteral("frmGraphs"));
   Build_Body();

@@ -29,6 +29,15 @@ void May_Be_Narrow(QComboBox* box) {
   box->setMinimumContentsLength(kLeastLetters);
 }
 
+// Its scroll keys are keys of the times, also with the keyboard in the map.
+class Scrolled_Map : public Scrolled_Part {
+ public:
+  using Scrolled_Part::Scrolled_Part;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
+
 int Place_In(const std::vector<double>& values, double value) {
   const auto at = std::ranges::find(values, value);
   return at == values.end() ? -1 : static_cast<int>(at - values.begin());
@@ -66,7 +75,13 @@ Map_Page::Map_Page(Map_Kind kind, const QString& name, QWidget* parent)
   playing_.setInterval(kPlayEvery);
   auto* right = new QVBoxLayout;
   right->setSpacing(kMargin);
-  right->addWidget(picture_, 1);
+  // Below its least height the map scrolls; what it is chosen by stays.
+  auto* map = new Scrolled_Map(picture_, this);
+  right->addWidget(map, 1);
+  connect(picture_, &Map_Picture::Cross_Hair_Moved, map, [map](const QPointF& place) {
+    const QPoint at = place.toPoint();
+    map->ensureVisible(at.x(), at.y());
+  });
   right->addWidget(Make_Time());
   auto* choices = new Scrolled_Part(Make_Choices(), this);
   auto* row = new QHBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "graphs/map_picture.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLineF>
 #include <QMouseEvent>
@@ -13,9 +14,10 @@
 namespace barvon {
 namespace {
 
-constexpr double kStepsOfCell = 0.5;  // a key moves the cross-hair by half a spacing
-constexpr double kLargeStep = 10;     // steps of a key with Shift
-constexpr double kArm = 10;           // pixels
+constexpr double kStepsOfCell = 0.5;                 // a key moves the cross-hair by half a spacing
+constexpr double kLargeStep = 10;                    // steps of a key with Shift
+constexpr double kArm = 10;                          // pixels
+constexpr int kLeastLetters = 22, kLeastLines = 13;  // of the program's text
 constexpr Colour kCursorInk{176, 0, 96};
 
 constexpr char kHowTo[] =
@@ -65,6 +67,11 @@ QString Map_Picture::Tip_At(const QPointF& place) {
   Catch_Up();
   const auto at = Feet_At(place, false);
   return at ? QString::fromStdString(Map_Words_At(drawing_, *at)) : QString();
+}
+
+QSize Map_Picture::minimumSizeHint() const {
+  const QFontMetrics letters = fontMetrics();
+  return {kLeastLetters * letters.averageCharWidth(), kLeastLines * letters.height()};
 }
 
 // Another time has another value at the same place.
@@ -145,6 +152,7 @@ void Map_Picture::Move_Cross_Hair(double down, double right) {
   Tell_All();
   Redraw_Content();
   Tell_Reading();
+  if (const auto at = Widget_Place(*cross_hair_)) emit Cross_Hair_Moved(*at);
 }
 
 void Map_Picture::Begin_Or_End_Line() {

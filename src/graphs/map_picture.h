@@ -27,12 +27,15 @@ class Map_Picture : public Shape_Picture {
   std::optional<QPointF> Widget_Place(const Result_Point& place);
   std::optional<Result_Point> Cross_Hair() const { return cross_hair_; }
   QString Tip_At(const QPointF& place) override;
+  QSize minimumSizeHint() const override;
 
  signals:
   /// What is under the pointer or the cross-hair; empty: nothing.
   void Told(const QString& words);
   void Section_Drawn(const Section_Line& line);
   void Section_Removed();
+  /// By keys, to this place of the widget.
+  void Cross_Hair_Moved(const QPointF& place);
 
  protected:
   void Build() override;

@@ -273,6 +273,24 @@ TEST_F(FrmGraphs, Texts_Grow_And_Shrink_And_Come_Back) {
   Action("mnuUsual")->trigger();
 }
 
+TEST_F(FrmGraphs, Names_In_Two_Lines_Have_Tabs_Of_Two_Lines) {
+  Open_Bay();
+  window.resize(640, 440);
+  QApplication::processEvents();
+  for (int i = 0; i < 8; ++i) Action("mnuLarger")->trigger();
+  QApplication::processEvents();
+  const QTabBar& bar = *window.tabs().tabBar();
+  EXPECT_TRUE(bar.tabText(kContours).contains('\n'));
+  for (int view = 0; view < kGraphViews; ++view) {
+    EXPECT_GE(bar.tabRect(view).height(), 2 * bar.fontMetrics().lineSpacing());
+    EXPECT_LE(bar.tabRect(view).bottom(), bar.height());
+  }
+  Action("mnuUsual")->trigger();
+  window.resize(1100, 700);
+  QApplication::processEvents();
+  EXPECT_LT(bar.height(), 2 * bar.fontMetrics().lineSpacing() + 4);
+}
+
 TEST_F(FrmGraphs, Closing_The_Window_Takes_The_Help_Along) {
   std::vector<Help_Command> commands;
   const Help_Presenter former = Set_Help_Presenter(

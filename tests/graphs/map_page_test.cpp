@@ -81,6 +81,28 @@ TEST(ContourPage, Choices_Are_Those_Of_The_Outputs_And_The_Picture_Follows) {
   EXPECT_TRUE(contours.page.Numbers().ends_with("100,100,128\r\n"));
 }
 
+TEST(ContourPage, Below_Its_Least_Height_The_Map_Scrolls_And_Keys_Keep_Their_Meaning) {
+  Contours contours;
+  contours.Show(Mapped_Results());
+  contours.page.resize(640, 230);
+  QApplication::processEvents();
+  auto& map = contours.Get<Map_Picture>("Map");
+  QWidget& view = *map.parentWidget();
+  EXPECT_GE(map.height(), map.minimumSizeHint().height());
+  ASSERT_GT(map.height(), view.height());
+  EXPECT_TRUE(contours.Get<QSlider>("Time").isVisible());
+  map.setFocus();
+  const QString before = contours.Name();
+  QTest::keyClick(&map, Qt::Key_PageDown);
+  EXPECT_NE(contours.Name(), before);
+  EXPECT_EQ(map.y(), 0);
+  QTest::keyClick(&map, Qt::Key_Down);
+  for (int i = 0; i < 10; ++i) QTest::keyClick(&map, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_LT(map.y(), 0);
+  const QPoint at = map.Widget_Place(*map.Cross_Hair())->toPoint();
+  EXPECT_TRUE(view.rect().contains(map.mapTo(&view, at)));
+}
+
 TEST(ContourPage, The_Largest_Over_Time_Has_No_Time) {
   Contours contours;
   contours.Show(Mapped_Results());

@@ -27,6 +27,8 @@ Plot_Layout Layout_Of(const Feet_Area& area, bool empty) {
   const Feet_Area shown = empty ? Feet_Area{0, 0, 1, 1} : area;
   layout.across = {Scale_Of(shown.left, shown.right), "Z (ft), left to right", 0};
   layout.upright = {Scale_Of(shown.top, shown.bottom), "X (ft), top to bottom", 0, true};
+  layout.across.short_label = "Z (ft)";
+  layout.upright.short_label = "X (ft)";
   layout.across_on_top = true;
   layout.equal_scales = true;
   return layout;

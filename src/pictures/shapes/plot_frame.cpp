@@ -11,7 +11,8 @@ namespace barvon {
 namespace {
 
 constexpr double kTick = 4, kTickGap = 3, kLabelGap = 6, kEdge = 15, kLeastSide = 1;  // pixels
-constexpr double kLine = 1.25;  // height of a line of text, of its size
+constexpr double kLeastPlot = 0.5;  // of the canvas, beside labels that may go
+constexpr double kLine = 1.25;      // height of a line of text, of its size
 constexpr double kSampleWidth = 20, kBrokenSampleWidth = 36, kSampleGap = 8, kEntryGap = 16;
 constexpr double kMarker = 3.5, kTriangle = 9, kMarkerStroke = 1.4, kLineStroke = 1.8;
 
@@ -44,15 +45,32 @@ std::vector<double> With_2_And_5(const std::vector<double>& powers) {
   return labels;
 }
 
-std::vector<double> Labels_For(const Axis_Scale& scale, double pixels, double label) {
+std::vector<double> Labels_For(const Plot_Axis& axis, double pixels, double label) {
   constexpr int kFewDecades = 2;  // whose powers alone would say little of what lies between
+  const Axis_Scale& scale = axis.scale;
   std::vector<double> labels = Labels_Of(scale, 1);
   const int steps = static_cast<int>(labels.size()) - 1;
   if (scale.logarithmic && steps > 0 && steps <= kFewDecades &&
       std::log10(2) * pixels / steps >= label) {
     return With_2_And_5(labels);
   }
-  return Labels_Of(scale, Label_Stride(steps, pixels, label));
+  labels = Labels_Of(scale, Label_Stride(steps, pixels, label));
+  // Of a short axis the two ends may be too close for both.
+  if (labels.size() > 1) {
+    const double apart = Part_With_Margin(axis, labels[1]) - Part_With_Margin(axis, labels[0]);
+    if (apart * pixels < label) labels.resize(1);
+  }
+  return labels;
+}
+
+/// Leaves the label as it is, or one step shorter where it does not fit: whether it is shorter.
+bool Shorten_Label(Plot_Axis& axis, double axis_pixels, bool crowded, double size) {
+  if (axis.short_label.empty() || axis.label.empty()) return false;
+  const bool fits = !crowded && Text_Width(axis.label, size) <= axis_pixels;
+  if (fits) return false;
+  const bool again = !crowded && axis.label != axis.short_label;
+  axis.label = again ? axis.short_label : std::string();
+  return true;
 }
 
 void Add_Marker(Shape_List& picture, Place at, Colour colour, Sample sample) {
@@ -103,6 +121,12 @@ std::vector<std::vector<Legend_Entry>> Legend_Rows(const std::vector<Legend_Entr
 
 Plot_Frame::Plot_Frame(Plot_Layout layout, const Canvas& canvas)
     : layout_(std::move(layout)), canvas_(canvas) {
+  Lay_Out();
+  while (Shorten_Labels()) Lay_Out();
+}
+
+void Plot_Frame::Lay_Out() {
+  const Canvas& canvas = canvas_;
   const double line = kLine * canvas.text_size;
   const auto beside = [&](const Plot_Axis& axis, double numbers) {
     return (axis.labelled ? kTick + kTickGap + numbers : 0) +
@@ -120,7 +144,25 @@ Plot_Frame::Plot_Frame(Plot_Layout layout, const Canvas& canvas)
   right_ = std::max(Sharp(canvas.width - std::max(kEdge, last_number)), left_ + kLeastSide);
   bottom_ = std::max(Sharp(canvas.height - (layout_.across_on_top ? kEdge : across + kEdge / 3)),
                      top_ + kLeastSide);
+  room_across_ = right_ - left_;
+  room_down_ = bottom_ - top_;
   if (layout_.equal_scales) Shrink_To_Equal_Scales();
+}
+
+// What a label takes from the canvas upright is room that the axis across has beside it, and the
+// other way round.
+bool Plot_Frame::Shorten_Labels() {
+  const double size = canvas_.text_size;
+  const bool low = room_down_ < kLeastPlot * canvas_.height;
+  const bool narrow = room_across_ < kLeastPlot * canvas_.width;
+  const bool across = Shorten_Label(layout_.across, right_ - left_, low, size);
+  const bool upright = Shorten_Label(layout_.upright, bottom_ - top_, narrow, size);
+  return across || upright;
+}
+
+double Plot_Frame::numbers_right() const {
+  if (!layout_.across.labelled) return right_;
+  return right_ + Widest_Label(layout_.across.scale, canvas_.text_size) / 2;
 }
 
 void Plot_Frame::Shrink_To_Equal_Scales() {
@@ -156,11 +198,11 @@ bool Plot_Frame::Holds(const Place& place) const {
 std::vector<double> Plot_Frame::Labels_Across() const {
   const Axis_Scale& scale = layout_.across.scale;
   const double size = canvas_.text_size;
-  return Labels_For(scale, right_ - left_, Widest_Label(scale, size) + size);
+  return Labels_For(layout_.across, right_ - left_, Widest_Label(scale, size) + size);
 }
 
 std::vector<double> Plot_Frame::Labels_Upright() const {
-  return Labels_For(layout_.upright.scale, bottom_ - top_, 1.8 * canvas_.text_size);
+  return Labels_For(layout_.upright, bottom_ - top_, 1.8 * canvas_.text_size);
 }
 
 Shape_List Plot_Frame::Ground(const std::string& title, const std::string& description) const {
@@ -224,6 +266,7 @@ void Plot_Frame::Add_Across(Shape_List& picture) const {
     }
     used = kTick + kTickGap + size;
   }
+  if (layout_.across.label.empty()) return;
   picture.shapes.push_back(Text_Shape{{(left_ + right_) / 2, baseline(used + kLabelGap)},
                                       layout_.across.label,
                                       size,
@@ -247,6 +290,7 @@ void Plot_Frame::Add_Upright(Shape_List& picture) const {
     }
     used = kTick + kTickGap + Widest_Label(layout_.upright.scale, size);
   }
+  if (layout_.upright.label.empty()) return;
   picture.shapes.push_back(Text_Shape{{left_ - used - kLabelGap, (top_ + bottom_) / 2},
                                       layout_.upright.label,
                                       size,

@@ -14,6 +14,9 @@ struct Plot_Axis {
   double margin = 0.03;  // part of the axis left free at both ends, so that markers there are whole
   bool downwards = false;  // of the upright axis: its values grow from top to bottom
   bool labelled = true;    // with numbers, and with lines through the plot
+  // Where there is one, it stands for a label that is wider than its axis; where that is too wide
+  // too, or the plot would have less than half of the canvas, the axis has no label.
+  std::string short_label = {};
 };
 
 /// How the legend shows an entry.
@@ -51,6 +54,8 @@ class Plot_Frame {
   double top() const { return top_; }
   double right() const { return right_; }
   double bottom() const { return bottom_; }
+  /// How far the numbers of the axis across reach to the right, at most.
+  double numbers_right() const;
 
   /// A list of the canvas's size with the lines that lie below what is drawn.
   Shape_List Ground(const std::string& title, const std::string& description) const;
@@ -61,6 +66,8 @@ class Plot_Frame {
   void Add_Axes(Shape_List& picture) const;
 
  private:
+  void Lay_Out();
+  bool Shorten_Labels();
   void Shrink_To_Equal_Scales();
   std::vector<double> Labels_Across() const;
   std::vector<double> Labels_Upright() const;
@@ -71,6 +78,7 @@ class Plot_Frame {
   Plot_Layout layout_;
   Canvas canvas_;
   double left_ = 0, top_ = 0, right_ = 1, bottom_ = 1;
+  double room_across_ = 0, room_down_ = 0;  // for the plot, before its scales are made equal
 };
 
 /// Adds a line through values of the plot, in their order, with a marker at each where `markers`

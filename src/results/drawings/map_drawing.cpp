@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "pictures/shapes/inks.h"
-#include "pictures/shapes/lettering.h"
 #include "results/cell_places.h"
 #include "results/contours.h"
 #include "results/drawings/map_words.h"
@@ -15,13 +14,7 @@ namespace {
 
 constexpr Colour kSiteInk{0, 112, 74}, kZidInk{134, 38, 140}, kDarkLine{60, 60, 60};
 constexpr double kOutline = 1.6, kHalo = 4, kContour = 0.8, kGridLine = 0.5;  // pixels
-constexpr double kPointRadius = 4.5, kEndRadius = 3;
-constexpr double kSectionBelow = 0.36;                // of the height
-constexpr double kSectionBeside = 0.45;               // of the width
-constexpr double kLine = 1.35, kGap = 6;              // of the size; pixels
-constexpr double kBoxWidth = 1.6, kTallestBox = 1.7;  // of the size
-constexpr double kWidestScale = 0.45;                 // of the canvas
-constexpr std::size_t kMostTitleLines = 2;
+constexpr double kPointRadius = 4.5, kEndRadius = 3;                          // pixels
 
 Feet_Point Feet(const Result_Point& point) { return {point.x, point.z}; }
 
@@ -96,9 +89,9 @@ bool Is_Held(const Result_Area& area, const Result_Area& part) {
 }
 
 // On white, so that it is seen on dark areas too.
-void Add_Outline(Plan& plan, const Result_Area& area, Colour ink, Dash dash) {
+void Add_Outline(Plan& plan, const Result_Area& area, const Stroke& stroke) {
   plan.shapes.push_back(Polygon_Shape{Outline(area), {}, Stroke{kWhite, kHalo}});
-  plan.shapes.push_back(Polygon_Shape{Outline(area), {}, Stroke{ink, kOutline, dash}});
+  plan.shapes.push_back(Polygon_Shape{Outline(area), {}, stroke});
 }
 
 std::string Area_Words(const std::string& name, const Result_Area& area) {
@@ -115,22 +108,28 @@ void Add_Marks(Map_Drawing& drawing) {
     drawing.description += " " + words;
     if (!held) drawing.description += " It reaches beyond the grid and is not drawn.";
   };
+  const auto add_area = [&](const char* name, const Result_Area& area, const Stroke& stroke) {
+    Add_Outline(drawing.plan, area, stroke);
+    drawing.signs.push_back({name, stroke});
+  };
   if (content.site) {
     const bool held = Is_Held(reach, *content.site);
     say(Area_Words("Site", *content.site), held);
-    if (held) Add_Outline(drawing.plan, *content.site, kSiteInk, Dash::solid);
+    if (held) add_area("Site", *content.site, {kSiteInk, kOutline});
   }
   if (content.zid) {
     const bool held = Is_Held(reach, *content.zid);
     say(Area_Words("ZID", *content.zid), held);
-    if (held) Add_Outline(drawing.plan, *content.zid, kZidInk, Dash::dashed);
+    if (held) add_area("ZID", *content.zid, {kZidInk, kOutline, Dash::dashed});
   }
   if (content.disposal) {
     const bool held = Is_Held(reach, *content.disposal);
     say("Disposal point: " + Place_Words(*content.disposal) + ".", held);
     if (held) {
-      drawing.plan.marks.push_back(Circle_Shape{barvon::On_Plan(Feet(*content.disposal)),
-                                                kPointRadius, kWarnInk, Stroke{kWhite, 1.5}});
+      const Circle_Shape point{barvon::On_Plan(Feet(*content.disposal)), kPointRadius, kWarnInk,
+                               Stroke{kWhite, 1.5}};
+      drawing.plan.marks.push_back(point);
+      drawing.signs.push_back({"Disposal", point});
     }
   }
 }
@@ -174,176 +173,6 @@ std::string Scale_Words(const Map_Content& content) {
   return words + " " + content.unit + ".";
 }
 
-struct Scale_Row {
-  std::optional<Colour> fill;  // nothing: below the levels
-  std::string lower;           // label at the lower edge; the last row has none
-};
-
-// From the largest values down.
-std::vector<Scale_Row> Scale_Rows(const Colour_Scale& scale) {
-  std::vector<Scale_Row> rows;
-  const std::vector<double>& levels = scale.levels;
-  const std::size_t bands = levels.size();
-  for (std::size_t i = bands; i-- > 0;) {
-    rows.push_back({scale.two_sides ? More_Colour(i, bands) : Band_Colour(i, bands),
-                    (scale.two_sides ? "+" : "") + Short_Text(levels[i])});
-  }
-  rows.push_back({{}, ""});
-  if (!scale.two_sides) return rows;
-  for (std::size_t i = 0; i < bands; ++i) {
-    rows.back().lower = "-" + Short_Text(levels[i]);
-    rows.push_back({Less_Colour(i, bands), ""});
-  }
-  return rows;
-}
-
-enum class Sign { area, dashed_area, point };
-
-std::vector<std::pair<Sign, std::string>> Signs_Of(const Map_Drawing& drawing) {
-  const Map_Content& content = drawing.content;
-  const Result_Area reach = Reach_Of(content.cells);
-  std::vector<std::pair<Sign, std::string>> signs;
-  if (content.site && Is_Held(reach, *content.site)) signs.emplace_back(Sign::area, "Site");
-  if (content.zid && Is_Held(reach, *content.zid)) signs.emplace_back(Sign::dashed_area, "ZID");
-  if (content.disposal && Is_Held(reach, *content.disposal)) {
-    signs.emplace_back(Sign::point, "Disposal");
-  }
-  return signs;
-}
-
-/// Where the parts of the picture lie on a canvas.
-struct Map_Layout {
-  std::vector<std::string> title, summary;
-  double top = 0;  // below the title
-  Canvas map, section;
-  Place scale;  // corner
-  double scale_width = 0;
-  Place section_at;
-};
-
-double Scale_Width(const Map_Drawing& drawing, double size) {
-  double widest = Text_Width(drawing.content.unit, size);
-  for (const Scale_Row& row : Scale_Rows(drawing.content.scale)) {
-    widest = std::max(widest, kBoxWidth * size + kGap + Text_Width(row.lower, size));
-  }
-  for (const auto& [sign, words] : Signs_Of(drawing)) {
-    widest = std::max(widest, kBoxWidth * size + kGap + Text_Width(words, size));
-  }
-  return widest + 2 * kGap;
-}
-
-Map_Layout Layout_Of(const Map_Drawing& drawing, const Canvas& canvas) {
-  const double size = canvas.text_size;
-  Map_Layout layout;
-  layout.title = Wrapped(drawing.content.title, 1.1 * size, canvas.width - 2 * kGap);
-  if (layout.title.size() > kMostTitleLines) layout.title.resize(kMostTitleLines);
-  layout.summary = Wrapped(drawing.summary, size, canvas.width - 2 * kGap);
-  if (layout.summary.size() > kMostTitleLines) layout.summary.resize(kMostTitleLines);
-  layout.top = kLine * size *
-                   (1.1 * static_cast<double>(layout.title.size()) +
-                    static_cast<double>(layout.summary.size())) +
-               kGap;
-  const double scale_width = Scale_Width(drawing, size);
-  const double kept = scale_width < kWidestScale * canvas.width ? scale_width : 0;
-  const double height = canvas.height - layout.top;
-  layout.map = {canvas.width - kept, height, size};
-  bool beside = false;
-  if (drawing.section) {
-    // Where it leaves the map larger: below a wide one, beside a tall one.
-    const Canvas above{layout.map.width, (1 - kSectionBelow) * height, size};
-    const Canvas left{(1 - kSectionBeside) * canvas.width - kept, height, size};
-    const auto scale_of = [&](const Canvas& part) {
-      return Plan_Frame(drawing.plan.area, part).Pixels_Per_Foot();
-    };
-    beside = scale_of(left) > scale_of(above);
-    layout.map = beside ? left : above;
-  }
-  const Plan_Frame frame(drawing.plan.area, layout.map);
-  const double right = frame.Is_Empty() ? layout.map.width : frame.plot().right();
-  // Beside the map rather than at the far edge of a wide window.
-  layout.scale = {std::min(right + 2 * kGap, layout.map.width) + kGap, layout.top + kGap};
-  layout.scale_width = kept;
-  if (drawing.section) {
-    layout.section_at = beside ? Place{layout.scale.x + kept, layout.top}
-                               : Place{0, layout.top + layout.map.height};
-    const double width = canvas.width - layout.section_at.x;
-    layout.section = {width, beside ? std::min(height, width) : kSectionBelow * height, size};
-  }
-  return layout;
-}
-
-void Add_Titles(Shape_List& picture, const Map_Layout& layout, double size) {
-  double baseline = 0.2 * size;
-  const auto add = [&](const std::string& line, double letters, Colour ink, bool bold) {
-    baseline += kLine * letters;
-    picture.shapes.push_back(
-        Text_Shape{{kGap, baseline}, line, letters, ink, Anchor::start, false, bold});
-  };
-  for (const std::string& line : layout.title) add(line, 1.1 * size, kInk, true);
-  for (const std::string& line : layout.summary) add(line, size, kQuietInk, false);
-}
-
-void Add_Scale(Shape_List& picture, const Map_Drawing& drawing, const Map_Layout& layout,
-               double size) {
-  const auto rows = Scale_Rows(drawing.content.scale);
-  const auto signs = Signs_Of(drawing);
-  const double left = layout.scale.x, box = kBoxWidth * size;
-  double y = layout.scale.y + size;
-  const auto label = [&](double baseline, const std::string& text) {
-    picture.shapes.push_back(Text_Shape{{left + box + kGap, baseline}, text, size, kInk});
-  };
-  picture.shapes.push_back(
-      Text_Shape{{left, y}, drawing.content.unit, size, kInk, Anchor::start, false, true});
-  y += kGap;
-  if (!drawing.content.scale.levels.empty()) {
-    const double below = static_cast<double>(signs.size()) * kLine * size + 2 * kGap;
-    const double room = layout.top + layout.map.height - y - below;
-    const double tall =
-        std::clamp(room / static_cast<double>(rows.size()), 2.0, kTallestBox * size);
-    double free_from = y;
-    for (const Scale_Row& row : rows) {
-      picture.shapes.push_back(Polygon_Shape{Rectangle({left, y}, {left + box, y + tall}),
-                                             row.fill.value_or(kWhite), Stroke{kAxisInk, 1}});
-      y += tall;
-      // Of low boxes every few have a label.
-      if (row.lower.empty() || y - 0.5 * size < free_from) continue;
-      label(y + Half_Figure(size), row.lower);
-      free_from = y + 0.6 * size;
-    }
-  }
-  y += kGap;
-  for (const auto& [sign, words] : signs) {
-    y += kLine * size;
-    const double middle = y - Half_Figure(size), half = 0.4 * size;
-    if (sign == Sign::point) {
-      picture.shapes.push_back(
-          Circle_Shape{{left + box / 2, middle}, kPointRadius, kWarnInk, Stroke{kWhite, 1.5}});
-    } else {
-      const bool dashed = sign == Sign::dashed_area;
-      picture.shapes.push_back(Polygon_Shape{
-          Rectangle({left, middle - half}, {left + box, middle + half}),
-          {},
-          Stroke{dashed ? kZidInk : kSiteInk, kOutline, dashed ? Dash::dashed : Dash::solid}});
-    }
-    label(y, words);
-  }
-}
-
-void Add_Nothing(Shape_List& picture, const std::string& words, const Canvas& canvas) {
-  const double size = canvas.text_size;
-  const auto lines = Wrapped(words, size, canvas.width - 4 * kGap);
-  double baseline = (canvas.height - kLine * size * static_cast<double>(lines.size())) / 2 + size;
-  for (const std::string& line : lines) {
-    picture.shapes.push_back(
-        Text_Shape{{canvas.width / 2, baseline}, line, size, kQuietInk, Anchor::middle});
-    baseline += kLine * size;
-  }
-}
-
-Place On_Map(const Map_Layout& layout, const Place& place) {
-  return {place.x, place.y - layout.top};
-}
-
 }  // namespace
 
 Map_Drawing Draw_Map(Map_Content content) {
@@ -375,52 +204,6 @@ Map_Drawing Draw_Map(Map_Content content) {
   drawing.plan.title = shown.title;
   drawing.plan.description = drawing.description;
   return drawing;
-}
-
-Shape_List Map_Shapes(const Map_Drawing& drawing, const Canvas& canvas) {
-  Shape_List picture{std::max(canvas.width, 0.0),
-                     std::max(canvas.height, 0.0),
-                     drawing.content.title,
-                     drawing.description,
-                     {}};
-  if (!drawing.content.nothing.empty()) {
-    Add_Nothing(picture, drawing.content.nothing, canvas);
-    return picture;
-  }
-  const Map_Layout layout = Layout_Of(drawing, canvas);
-  Add_Titles(picture, layout, canvas.text_size);
-  for (Shape& shape : Plan_Shapes(drawing.plan, layout.map).shapes) {
-    picture.shapes.push_back(Moved(std::move(shape), {0, layout.top}));
-  }
-  if (layout.scale_width > 0) Add_Scale(picture, drawing, layout, canvas.text_size);
-  if (drawing.section) {
-    for (Shape& shape : Section_Shapes(*drawing.section, layout.section).shapes) {
-      picture.shapes.push_back(Moved(std::move(shape), layout.section_at));
-    }
-  }
-  return picture;
-}
-
-std::optional<Result_Point> Map_Feet_At(const Map_Drawing& drawing, const Canvas& canvas,
-                                        const Place& place, bool nearest) {
-  if (!drawing.content.nothing.empty()) return std::nullopt;
-  const Map_Layout layout = Layout_Of(drawing, canvas);
-  const Plan_Frame frame(drawing.plan.area, layout.map);
-  if (frame.Is_Empty()) return std::nullopt;
-  const Place on_map = On_Map(layout, place);
-  if (!nearest && !frame.plot().Holds(on_map)) return std::nullopt;
-  const Feet_Point point = frame.Nearest_Feet(on_map);
-  return Result_Point{point.x, point.z};
-}
-
-std::optional<Place> Map_Place_Of(const Map_Drawing& drawing, const Canvas& canvas,
-                                  const Result_Point& place) {
-  if (!drawing.content.nothing.empty()) return std::nullopt;
-  const Map_Layout layout = Layout_Of(drawing, canvas);
-  const Plan_Frame frame(drawing.plan.area, layout.map);
-  if (frame.Is_Empty()) return std::nullopt;
-  const Place at = frame.At(Feet(place));
-  return Place{at.x, at.y + layout.top};
 }
 
 std::string Map_Words_At(const Map_Drawing& drawing, const Result_Point& place) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "pictures/shapes/plan.h"
@@ -28,6 +29,12 @@ struct Map_Content {
   std::string nothing;  // instead of a map: why there is none
 };
 
+/// How the legend shows a mark of the map: by its outline, or by a point.
+struct Map_Sign {
+  std::string words;
+  std::variant<Stroke, Circle_Shape> look;
+};
+
 /// A map of a grid to scale, X down and Z to the right: areas filled by levels, with the site, the
 /// ZID (dashed) and the disposal point, a scale beside it, and a section below it where one is
 /// asked for.
@@ -35,8 +42,9 @@ struct Map_Drawing {
   Plan plan;
   Map_Content content;
   std::optional<Section_Drawing> section;
-  std::string summary;      // the line below the title: where the largest value is
-  std::string description;  // all of it in words
+  std::vector<Map_Sign> signs;  // of the marks that are drawn
+  std::string summary;          // below the title where it has room: where the largest value is
+  std::string description;      // all of it in words
 };
 
 Map_Drawing Draw_Map(Map_Content content);

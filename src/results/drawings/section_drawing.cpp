@@ -100,6 +100,7 @@ Shape_List Section_Shapes(const Section_Drawing& drawing, const Canvas& canvas) 
   }
   Plot_Layout layout;
   layout.across = {drawing.across, "Distance along the line (ft)", 0};
+  layout.across.short_label = "Distance (ft)";
   layout.upright = {drawing.upright, drawing.unit};
   const Plot_Frame frame(layout, canvas);
   picture = frame.Ground("Section", drawing.description);

@@ -104,6 +104,37 @@ TEST(PlotFrame, No_Letters_Leave_The_Canvas_Nor_Lie_On_Each_Other) {
   }
 }
 
+// "Velocity (ft/s)" is estimated at 15 x 0.4 to 0.98 of 12 pixels: 105.
+TEST(PlotFrame, A_Label_Wider_Than_Its_Axis_Is_Short_Then_None_Where_It_May_Be) {
+  Plot_Layout layout = Velocity_Against_Depth();
+  const auto has = [&](double width, const char* words) {
+    Shape_List picture;
+    Plot_Frame(layout, {width, 300, 12}).Add_Axes(picture);
+    for (const Text_Shape& text : Texts_Of(picture)) {
+      if (text.text == words) return true;
+    }
+    return false;
+  };
+  EXPECT_TRUE(has(100, "Velocity (ft/s)"));
+  layout.upright.label.clear();
+  layout.across.short_label = "ft/s";
+  EXPECT_TRUE(has(300, "Velocity (ft/s)"));
+  EXPECT_FALSE(has(140, "Velocity (ft/s)"));
+  EXPECT_TRUE(has(140, "ft/s"));
+  EXPECT_FALSE(has(60, "ft/s"));
+}
+
+TEST(PlotFrame, Two_Numbers_That_Would_Touch_Are_One) {
+  Plot_Layout layout;
+  layout.across = {Scale_Over({0, 1000}, 1), "", 0};
+  layout.upright = {Scale_Over({0, 1000}, 1), "", 0};
+  Shape_List picture;
+  Plot_Frame(layout, {150, 80, 24}).Add_Axes(picture);
+  std::vector<std::string> numbers;
+  for (const Text_Shape& text : Texts_Of(picture)) numbers.push_back(text.text);
+  EXPECT_EQ(numbers, (std::vector<std::string>{"0", "0"}));
+}
+
 TEST(PlotFrame, A_Value_Without_A_Place_Is_No_Number) {
   const Plot_Frame frame(Velocity_Against_Depth(), {400, 300, 12});
   const double nan = std::numeric_limits<double>::quiet_NaN();

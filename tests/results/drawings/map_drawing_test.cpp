@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "pictures/shapes/inks.h"
+#include "pictures/shapes/lettering.h"
 #include "results/drawings/map_words.h"
 
 namespace barvon::testing {
@@ -225,6 +226,69 @@ TEST(MapDrawing, Everything_Is_Within_The_Canvas) {
       content.section.reset();
     }
   }
+}
+
+/// What a text covers, by the estimate that the picture is laid out with.
+Result_Area Cover(const Text_Shape& text) {
+  const double width = Text_Width(text.text, text.size), tall = 0.75 * text.size;
+  const double before = text.anchor == Anchor::start    ? 0
+                        : text.anchor == Anchor::middle ? width / 2
+                                                        : width;
+  if (text.upwards) {
+    return {text.place.y + before - width, text.place.x - tall, text.place.y + before,
+            text.place.x};
+  }
+  return {text.place.y - tall, text.place.x - before, text.place.y, text.place.x - before + width};
+}
+
+bool Meet(const Result_Area& a, const Result_Area& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+TEST(MapDrawing, No_Letters_Are_Cut_Nor_Lie_On_Others_Whatever_Their_Size) {
+  Map_Content content = One_Peak();
+  content.site = Result_Area{0, 0, 100, 100};
+  for (const auto& [rows, columns] : {std::pair{3, 4}, {20, 3}, {3, 20}}) {
+    content.cells = {
+        .rows = rows, .columns = columns, .spacing_x = 500, .spacing_z = 500, .values = {}};
+    content.cells.values.assign(static_cast<std::size_t>(rows * columns), 0);
+    content.cells.values[6] = 40;
+    const Map_Drawing drawing = Draw_Map(content);
+    for (const Canvas& canvas :
+         {kCanvas, Canvas{420, 380, 12}, Canvas{200, 190, 12}, Canvas{700, 560, 24},
+          Canvas{390, 330, 20}, Canvas{300, 384, 24}}) {
+      std::vector<Text_Shape> texts;
+      for (const Shape& shape : Map_Shapes(drawing, canvas).shapes) {
+        if (const auto* text = std::get_if<Text_Shape>(&shape)) texts.push_back(*text);
+      }
+      for (std::size_t i = 0; i < texts.size(); ++i) {
+        const std::string where = texts[i].text + " at " + std::to_string(canvas.width) + ", " +
+                                  std::to_string(rows) + " rows";
+        const Result_Area box = Cover(texts[i]);
+        EXPECT_GE(box.left, 0) << where;
+        EXPECT_GE(box.top, 0) << where;
+        EXPECT_LE(box.right, canvas.width) << where;
+        EXPECT_LE(box.bottom, canvas.height) << where;
+        for (std::size_t j = 0; j < i; ++j) {
+          EXPECT_FALSE(Meet(box, Cover(texts[j]))) << where << " and " << texts[j].text;
+        }
+      }
+    }
+  }
+}
+
+// Of 330 pixels a title of 30 and a summary of 27 are less than a quarter, of 200 more.
+TEST(MapDrawing, The_Map_Keeps_Its_Room_First_The_Summary_Goes_Then_The_Axis_Titles) {
+  Map_Content content = One_Peak();
+  content.title = "SAND";
+  const Map_Drawing drawing = Draw_Map(content);
+  const auto letters = [&](const Canvas& canvas) { return Letters(Map_Shapes(drawing, canvas)); };
+  EXPECT_TRUE(Has(letters({900, 330, 20}), drawing.summary));
+  EXPECT_TRUE(Has(letters({900, 330, 20}), "Z (ft), left to right"));
+  EXPECT_FALSE(Has(letters({900, 200, 20}), drawing.summary));
+  EXPECT_FALSE(Has(letters({900, 150, 20}), "Z (ft), left to right"));
+  EXPECT_FALSE(Has(letters({900, 150, 20}), "Z (ft)"));
+  EXPECT_TRUE(Has(letters({900, 150, 20}), "SAND"));
 }
 
 TEST(MapDrawing, Values_Are_Told_In_Four_Figures) {
