@@ -63,6 +63,9 @@ void frmGraphs::Build_Body() {
     Graph_Page* page = pages_[i];
     tabs_->addTab(page, QLatin1String(kGraphNames[i]));
     connect(page, &Graph_Page::Asked_For, this, &frmGraphs::Show_View);
+    connect(page, &Graph_Page::Changed, this, [this, page] {
+      if (page == Page_In_Front()) emit Things_Changed();
+    });
     connect(page, &Graph_Page::Told, this, [this, page](const QString& words) {
       if (page == Page_In_Front()) told_->setText(words);
     });
@@ -149,6 +152,7 @@ void frmGraphs::Compare_With(const std::string& path) {
     return;
   }
   other_ = std::move(other);
+  Say_Of_Outputs(own_word_, "");
   shown_.other = std::make_shared<const Results>(std::move(std::get<Results>(read)));
   Show_Pages();
 }
@@ -158,6 +162,7 @@ void frmGraphs::End_Comparison() {
   if (end_comparison_->hasFocus()) tabs_->setFocus();
   other_.reset();
   shown_.other.reset();
+  Say_Of_Outputs(own_word_, "");
   if (shown_.own) Show_Pages();
 }
 
@@ -172,20 +177,22 @@ void frmGraphs::Look_At_Own() {
   auto read = own_->Look();
   if (!read) return;
   const auto* problem = std::get_if<Result_Problem>(&*read);
-  if (problem != nullptr && shown_.own) return Say(Kept_Words(*problem, *shown_.own));
+  if (problem != nullptr && shown_.own) {
+    return Say_Of_Outputs(Kept_Words(*problem, *shown_.own), other_word_);
+  }
   const bool fresh = problem == nullptr;
   Take(std::move(*read));
-  if (fresh) Say(Fresh_Words(*shown_.own));
+  if (fresh) Say_Of_Outputs(Fresh_Words(*shown_.own), other_word_);
 }
 
 void frmGraphs::Look_At_Other() {
   auto read = other_->Look();
   if (!read) return;
   if (const auto* problem = std::get_if<Result_Problem>(&*read)) {
-    return Say(Kept_Words(*problem, *shown_.other));
+    return Say_Of_Outputs(own_word_, Kept_Words(*problem, *shown_.other));
   }
   shown_.other = std::make_shared<const Results>(std::move(std::get<Results>(*read)));
-  Say(Fresh_Words(*shown_.other));
+  Say_Of_Outputs(own_word_, Fresh_Words(*shown_.other));
   if (shown_.own) Show_Pages();
 }
 
@@ -238,7 +245,19 @@ void frmGraphs::Show_Titles() {
   end_comparison_->setVisible(compares);
 }
 
-void frmGraphs::Say(const std::string& state) { state_->setText(QString::fromStdString(state)); }
+void frmGraphs::Say(const std::string& state) {
+  own_word_.clear();
+  other_word_.clear();
+  state_->setText(QString::fromStdString(state));
+}
+
+// What was said of the one stays when the other's come.
+void frmGraphs::Say_Of_Outputs(const std::string& own, const std::string& other) {
+  const bool news = own != own_word_ || other != other_word_;
+  own_word_ = own;
+  other_word_ = other;
+  if (news) state_->setText(QString::fromStdString(Words_Of_Both(own, other)));
+}
 
 void frmGraphs::Change_Text_Size(int steps) {
   text_steps_ = steps == 0 ? 0 : std::clamp(text_steps_ + steps, -kMostTextSteps, kMostTextSteps);

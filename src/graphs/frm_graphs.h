@@ -70,6 +70,8 @@ class frmGraphs : public QMainWindow {
   void Fit_Tab_Names();
   void Look_At_Own();
   void Look_At_Other();
+  /// What is to be told of the two outputs; empty: nothing.
+  void Say_Of_Outputs(const std::string& own, const std::string& other);
 
   std::optional<Watched_Outputs> own_, other_;
   Shown_Results shown_;
@@ -82,6 +84,7 @@ class frmGraphs : public QMainWindow {
   std::array<Graph_Page*, kGraphViews> pages_{};
   std::array<bool, kGraphViews> behind_{};  // has not got shown_ yet
   Elided_Label *told_ = nullptr, *state_ = nullptr;
+  std::string own_word_, other_word_;  // of the outputs, as the status bar tells them
   QTimer look_;
   int text_steps_ = 0;
   double usual_text_ = 0;  // points

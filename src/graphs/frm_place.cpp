@@ -2,7 +2,6 @@
 
 #include <QFormLayout>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
@@ -14,6 +13,8 @@ namespace {
 
 constexpr char kTitle[] = "Place of the Grid";
 constexpr int kLetters = 34;  // that a field shows
+constexpr int kOverhang = 2;  // pixels
+constexpr int kCornerLines = 5;
 
 }  // namespace
 
@@ -35,6 +36,7 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
                      QStringLiteral("Feet, the same as the grid's")});
   txtSystem->setPlaceholderText(QStringLiteral("for instance EPSG:32618"));
   lblCorners->setObjectName(QStringLiteral("lblCorners"));
+  lblCorners->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   lblCorners->setTextFormat(Qt::PlainText);
   lblCorners->setTextInteractionFlags(Qt::TextSelectableByMouse);
   lblCorners->setAccessibleName(QStringLiteral("Corners of the grid"));
@@ -45,6 +47,10 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
   fields->addRow(QStringLiteral("&Turn (degrees, clockwise)"), txtTurn);
   fields->addRow(QStringLiteral("&Unit"), cboUnit);
   fields->addRow(QStringLiteral("Coordinate &system (may be empty)"), txtSystem);
+  // The last letter may reach out of what the toolkit has measured.
+  for (int row = 0; row < fields->rowCount(); ++row) {
+    fields->itemAt(row, QFormLayout::LabelRole)->widget()->setContentsMargins(0, 0, kOverhang, 0);
+  }
   auto* column = new QVBoxLayout(this);
   column->addWidget(Wrapping_Label(
       QStringLiteral("Easting and northing are those of the grid's corner point: row 1 and column "
@@ -55,8 +61,6 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
   column->addSpacing(6);
   column->addLayout(fields);
   column->addSpacing(6);
-  column->addWidget(
-      new QLabel(QStringLiteral("With these the corner points of the grid are at"), this));
   column->addWidget(lblCorners);
   column->addSpacing(6);
   column->addLayout(Make_Command1());
@@ -105,11 +109,15 @@ QLineEdit* frmPlace::Field_Of(Place_Field field) const {
   return txtSystem;
 }
 
-// Always four lines, so that the window keeps its size while a person types.
+// Always the height of a heading and four corners, so that the window keeps its size while a person
+// types.
 void frmPlace::Show_Corners() {
   const Place_Reading read = Read_Place_Entry(Entry());
-  std::string words = read.place ? Corners_In_Words(*read.place, grid_) : read.fault.words;
-  words.append(static_cast<std::size_t>(3 - std::ranges::count(words, '\n')), '\n');
+  const std::string words = read.place ? "With these the corner points of the grid are at\n" +
+                                             Corners_In_Words(*read.place, grid_)
+                                       : read.fault.words;
+  lblCorners->setMinimumHeight(kCornerLines * lblCorners->fontMetrics().lineSpacing());
+  lblCorners->setWordWrap(!read.place);  // a row and its numbers stay together
   lblCorners->setText(QString::fromStdString(words));
 }
 

@@ -51,6 +51,12 @@ void Offer_In_Menu(QMenu* menu, const QList<QAction*>& items, std::function<bool
   });
 }
 
+/// There is a picture of something in front, not of words alone.
+bool Has_Content(const frmGraphs& window) {
+  const Graph_Page* page = window.Page_In_Front();
+  return page != nullptr && page->Has_Content();
+}
+
 bool Has_Map(const frmGraphs& window) {
   const Graph_Page* page = window.Page_In_Front();
   return page != nullptr && page->Map_Shown().has_value();
@@ -58,7 +64,7 @@ bool Has_Map(const frmGraphs& window) {
 
 bool Has_Sequence(const frmGraphs& window) {
   const Graph_Page* page = window.Page_In_Front();
-  return page != nullptr && page->Sequence_Length() > 1;
+  return page != nullptr && page->Has_Content() && page->Sequence_Length() > 1;
 }
 
 /// A command for the picture in front. What it says comes to the status line.
@@ -96,8 +102,8 @@ void Build_File_Menu(frmGraphs& window, QMenu* file) {
   QAction* print = Add(file, "&Print...", "Ctrl+P", "mnuPrint", For_Page(window, Print_Picture));
   file->addSeparator();
   Add(file, "&Close", "Ctrl+W", "mnuClose", [w] { w->close(); });
-  Offer_While(window, {compare, picture, numbers, place, print},
-              [w] { return w->Page_In_Front() != nullptr; });
+  Offer_While(window, {compare, place}, [w] { return w->Page_In_Front() != nullptr; });
+  Offer_While(window, {picture, numbers, print}, [w] { return Has_Content(*w); });
   Offer_While(window, {alone}, [w] { return w->shown().other != nullptr; });
   Offer_In_Menu(file, {map}, [w] { return Has_Map(*w); });
   Offer_In_Menu(file, {sequence}, [w] { return Has_Sequence(*w); });
@@ -113,11 +119,13 @@ void Copy(frmGraphs& window) {
 
 void Build_Edit_Menu(frmGraphs& window, QMenu* edit) {
   frmGraphs* w = &window;
-  Add(edit, "&Copy", "Ctrl+C", "mnuCopy", [w] { Copy(*w); });
+  QAction* copy = Add(edit, "&Copy", "Ctrl+C", "mnuCopy", [w] { Copy(*w); });
   QAction* numbers = Add(
       edit, "Copy &numbers", "Ctrl+Shift+C", "mnuCopyNumbers",
       For_Page(window, [](Graph_Page& page, const Results_Held&) { return Copy_Numbers(page); }));
-  Offer_While(window, {numbers}, [w] { return w->Page_In_Front() != nullptr; });
+  Offer_While(window, {numbers}, [w] { return Has_Content(*w); });
+  // Of a notice its words are copied.
+  Offer_While(window, {copy}, [w] { return w->Page_In_Front() == nullptr || Has_Content(*w); });
   edit->addSeparator();
   const QList<QAction*> in_listing = {
       Add(edit, "&Find in the listing", "Ctrl+F", "mnuFind", [w] { w->notice().Open_Find(); }),

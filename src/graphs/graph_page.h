@@ -45,6 +45,8 @@ class Graph_Page : public QWidget {
   virtual void Show(const Shown_Results& shown) = 0;
   /// The picture that is saved, copied and printed: never null once Show was called.
   virtual Picture* Shown_Picture() = 0;
+  /// The picture shows more than the words that there is nothing to show.
+  virtual bool Has_Content() const = 0;
   /// The numbers of that picture as CSV: "," between, "." as the point, CR LF, UTF-8, a line of
   /// headings with units first.
   virtual std::string Numbers() const = 0;

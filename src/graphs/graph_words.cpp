@@ -2,11 +2,17 @@
 
 #include <array>
 #include <ctime>
+#include <string_view>
 
 #include "platform/files/path_lookup.h"
 #include "platform/files/paths.h"
 
 namespace barvon {
+namespace {
+
+constexpr std::string_view kNew = "New outputs ";
+
+}  // namespace
 
 Graph_Notice Notice_Of_Nothing() {
   return {
@@ -49,11 +55,17 @@ std::string Window_Caption(const std::string& path) {
 }
 
 std::string Fresh_Words(const Results& results) {
-  return "New outputs of " + Name_Of(results.path) + ", run of " + Clock_Text(results.made);
+  return std::string(kNew) + "of " + Name_Of(results.path) + ", run of " + Clock_Text(results.made);
 }
 
 std::string Kept_Words(const Result_Problem& problem, const Results& shown) {
   return "Shown is the run of " + Clock_Text(shown.made) + "; " + problem.Words();
+}
+
+std::string Words_Of_Both(const std::string& own, const std::string& other) {
+  if (own.empty() || other.empty()) return own + other;
+  const bool both_new = own.starts_with(kNew) && other.starts_with(kNew);
+  return own + "; " + (both_new ? other.substr(kNew.size()) : other);
 }
 
 }  // namespace barvon

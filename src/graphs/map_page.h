@@ -24,6 +24,7 @@ class Map_Page : public Graph_Page {
  public:
   void Show(const Shown_Results& shown) override;
   Picture* Shown_Picture() override { return picture_; }
+  bool Has_Content() const override { return picture_->Drawn().content.nothing.empty(); }
   std::string Numbers() const override;
   QString Picture_Name() const override;
   std::optional<Shown_Map> Map_Shown() const override;

@@ -24,7 +24,8 @@ constexpr int kLeastLetters = 95;  // of a page with its choices in rows
 QLabel* Label_For(QWidget* field, const char* text) {
   auto* label = new QLabel(QLatin1String(text));
   label->setBuddy(field);
-  field->setAccessibleName(QString::fromLatin1(text).remove(QLatin1Char(':')));
+  QString name = QString::fromLatin1(text);
+  field->setAccessibleName(name.remove(QLatin1Char(':')).remove(QLatin1Char('&')));
   return label;
 }
 
@@ -74,22 +75,23 @@ QWidget* Maxima_Page::Choices() {
     return "no number: the curves are held against nothing";
   });
   held_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  held_label_ = Label_For(held_, "Hold against:");
+  held_label_ = Label_For(held_, "Hold a&gainst:");
   for (QComboBox* combo : {species_, depth_}) {
     combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     combo->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   }
   what_ = new QBoxLayout(QBoxLayout::LeftToRight);
-  Add_Part(what_, {Label_For(species_, "Species:"), species_, Label_For(depth_, "Depth:"), depth_});
+  Add_Part(what_,
+           {Label_For(species_, "&Species:"), species_, Label_For(depth_, "&Depth:"), depth_});
   Add_Part(what_, {held_label_, held_});
   what_->addStretch();
   rows->addLayout(what_);
   curves_ = new QBoxLayout(QBoxLayout::LeftToRight);
-  inside_ = Add_Check("Inside the site", "Inside");
-  outside_ = Add_Check("Outside the site", "Outside");
-  outside_zid_ = Add_Check("Outside the ZID", "OutsideZid");
-  limits_ = Add_Check("Limits", "Limits");
-  logarithmic_ = Add_Check("Logarithmic", "Logarithmic");
+  inside_ = Add_Check("&Inside the site", "Inside");
+  outside_ = Add_Check("&Outside the site", "Outside");
+  outside_zid_ = Add_Check("Outside the &ZID", "OutsideZid");
+  limits_ = Add_Check("&Limits", "Limits");
+  logarithmic_ = Add_Check("Log&arithmic", "Logarithmic");
   logarithmic_->setChecked(false);
   Add_Part(curves_, {inside_, outside_, outside_zid_});
   Add_Part(curves_, {limits_, logarithmic_});
@@ -201,14 +203,16 @@ void Maxima_Page::Draw() {
   Maxima_Drawing drawing = Draw_Maxima(*shown_.own, shown_.other.get(), Chosen());
   held_label_->setText(
       drawing.unit.empty()
-          ? QStringLiteral("Hold against:")
-          : QStringLiteral("Hold against (%1):").arg(QString::fromStdString(drawing.unit)));
+          ? QStringLiteral("Hold a&gainst:")
+          : QStringLiteral("Hold a&gainst (%1):").arg(QString::fromStdString(drawing.unit)));
   plot_->Show(std::move(drawing));
   Fit_Reading();
   emit Changed();
 }
 
 Picture* Maxima_Page::Shown_Picture() { return plot_; }
+
+bool Maxima_Page::Has_Content() const { return !plot_->Drawn().curves.empty(); }
 
 std::string Maxima_Page::Numbers() const { return Maxima_Csv(plot_->Drawn()); }
 

@@ -3,7 +3,9 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QResizeEvent>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace barvon {
@@ -37,10 +39,28 @@ QString Maxima_Plot::Tip_At(const QPointF&) { return {}; }
 
 QSize Maxima_Plot::minimumSizeHint() const {
   const QFontMetrics letters = fontMetrics();
-  return {kLeastLetters * letters.averageCharWidth(), kLeastLines * letters.height()};
+  const int usual = kLeastLines * letters.height();
+  Canvas canvas = Present_Canvas();
+  canvas.width = std::max(canvas.width, 1.0);
+  const int named = static_cast<int>(std::ceil(Least_Height(drawing_, canvas)));
+  return {kLeastLetters * letters.averageCharWidth(), std::max(usual, named + Caption_Height())};
 }
 
-void Maxima_Plot::Build() { Tell(drawing_.note, drawing_.description); }
+void Maxima_Plot::Build() {
+  Tell(drawing_.note, drawing_.description);
+  updateGeometry();
+}
+
+// The legend has more rows in a narrow window, and so the least height is another.
+void Maxima_Plot::resizeEvent(QResizeEvent* event) {
+  Shape_Picture::resizeEvent(event);
+  if (event->oldSize().width() != event->size().width()) updateGeometry();
+}
+
+void Maxima_Plot::changeEvent(QEvent* event) {
+  Shape_Picture::changeEvent(event);
+  if (event->type() == QEvent::FontChange) updateGeometry();
+}
 
 Shape_List Maxima_Plot::Shapes(const Canvas& canvas) const {
   return Maxima_Shapes(drawing_, canvas);

@@ -108,7 +108,7 @@ QWidget* Overview_Page::Left_Half() {
   balance_time_->setMinimumContentsLength(10);
   balance_time_->setObjectName(QStringLiteral("BalanceTime"));
   balance_time_->setAccessibleName(QStringLiteral("Balance"));
-  auto* label = new QLabel(QStringLiteral("Balance:"));
+  auto* label = new QLabel(QStringLiteral("&Balance:"));
   label->setBuddy(balance_time_);
   when->addWidget(label);
   when->addWidget(balance_time_, 1);
@@ -288,6 +288,8 @@ void Overview_Page::Show_Small_Pictures() {
 }
 
 Picture* Overview_Page::Shown_Picture() { return balance_; }
+
+bool Overview_Page::Has_Content() const { return !balance_->Drawn().chart.bars.empty(); }
 
 std::string Overview_Page::Numbers() const {
   return Balance_Csv(*shown_.own, shown_.other.get(), Balance_Time());

@@ -24,6 +24,7 @@ class Overview_Page : public Graph_Page {
 
   void Show(const Shown_Results& shown) override;
   Picture* Shown_Picture() override;
+  bool Has_Content() const override;
   std::string Numbers() const override;
   QString Picture_Name() const override;
 

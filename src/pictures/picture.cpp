@@ -76,6 +76,11 @@ QString Picture::Caption() const {
   return lines.join(QLatin1Char('\n'));
 }
 
+int Picture::Caption_Height() const {
+  if (caption_->isHidden()) return 2 * kFrame;
+  return 2 * kFrame + caption_->heightForWidth(std::max(width() - 2 * kFrame, 1));
+}
+
 void Picture::Show_Texts() {
   caption_->setText(Caption());
   caption_->setVisible(!Caption().isEmpty());

@@ -68,6 +68,8 @@ class Picture : public QWidget {
   QWidget* content() const { return content_; }
   /// The note and the line of the screen, as they are seen.
   QString Caption() const;
+  /// Pixels that they take below the content, with the frame around it.
+  int Caption_Height() const;
 
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;

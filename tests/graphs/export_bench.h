@@ -49,6 +49,7 @@ class Bar_Page : public Graph_Page {
   }
 
   void Show(const Shown_Results&) override {}
+  bool Has_Content() const override { return true; }
   Picture* Shown_Picture() override { return picture_; }
   std::string Numbers() const override { return "Time (s),\"Sand, fine (mg/l)\"\r\n600,1.5\r\n"; }
   QString Picture_Name() const override { return QStringLiteral("Sand/silt at 20 ft"); }

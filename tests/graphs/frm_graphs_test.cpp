@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -236,6 +237,43 @@ TEST_F(FrmGraphs, A_Run_Of_The_Other_Project_Is_Shown_Too) {
   Look_Twice();
   EXPECT_EQ(window.shown().other->species.at(1).name, "Silver");
   EXPECT_EQ(Label("State").rfind("Shown is the run of ", 0), 0u);
+}
+
+TEST_F(FrmGraphs, Two_Runs_After_Each_Other_Are_Both_Told) {
+  Open_Bay();
+  Write_Outputs("cove");
+  window.Compare_With(folder / "cove.DUI");
+  Write_Text(folder / "bay.dut", With(kSmallSeries, "Copper    ", "Silver    "));
+  Look_Twice();
+  Write_Text(folder / "cove.dut", With(kSmallSeries, "Copper    ", "Silver    "));
+  Look_Twice();
+  EXPECT_EQ(Label("State").rfind("New outputs of bay.DUI, run of ", 0), 0u) << Label("State");
+  EXPECT_NE(Label("State").find("; of cove.DUI, run of "), std::string::npos) << Label("State");
+  window.End_Comparison();
+  EXPECT_EQ(Label("State").find("cove"), std::string::npos) << Label("State");
+  EXPECT_EQ(Label("State").rfind("New outputs of bay.DUI", 0), 0u);
+}
+
+TEST_F(FrmGraphs, What_Holds_Words_Alone_Is_Not_Saved_Copied_Or_Printed) {
+  Open_Bay(kContours);
+  Write_Outputs("cove");
+  Write_Text(folder / "cove.dut", With(kSmallSeries, "Copper    ", "Silver    "));
+  window.Compare_With(folder / "cove.DUI");
+  auto* species = window.Page_In_Front()->findChild<QComboBox*>("cboSpecies");
+  auto* side = window.Page_In_Front()->findChild<QComboBox*>("cboSide");
+  species->setCurrentIndex(species->findText("Copper"));
+  const auto expect = [&](bool offered) {
+    for (const char* name :
+         {"mnuSavePicture", "mnuSaveNumbers", "mnuPrint", "mnuCopy", "mnuCopyNumbers"}) {
+      EXPECT_EQ(Action(name)->isEnabled(), offered) << name;
+    }
+  };
+  expect(true);
+  side->setCurrentIndex(2);
+  EXPECT_FALSE(window.Page_In_Front()->Has_Content());
+  expect(false);
+  window.Show_View(kMaxima);
+  expect(true);
 }
 
 TEST_F(FrmGraphs, Keys_Reach_Each_View) {

@@ -49,6 +49,7 @@ TEST_F(PlaceOfTheGrid, Is_Typed_By_Keys_Alone) {
 TEST_F(PlaceOfTheGrid, Shows_Where_The_Corners_Come_To_Lie_While_It_Is_Typed) {
   Open();
   EXPECT_EQ(Corners().trimmed(), "The easting is missing.");
+  EXPECT_TRUE(screen->findChild<QLabel*>(QStringLiteral("lblCorners"))->wordWrap());
   Enter("1000");
   EXPECT_EQ(Corners().trimmed(), "The northing is missing.");
   const int height = screen->height();
@@ -56,6 +57,7 @@ TEST_F(PlaceOfTheGrid, Shows_Where_The_Corners_Come_To_Lie_While_It_Is_Typed) {
   Enter("2000");
   // 200 ft each way: 60.96 m.
   EXPECT_TRUE(Corners().endsWith("Row 3, column 5: easting 1060.96, northing 1939.04"));
+  EXPECT_TRUE(Corners().startsWith("With these the corner points of the grid are at\nRow 1,"));
   EXPECT_EQ(screen->height(), height) << "the window keeps its size";
 }
 

@@ -67,6 +67,40 @@ TEST(MaximaPage, Species_And_Depth_Are_Chosen_By_Keys) {
   EXPECT_EQ(changed.count(), 2);
 }
 
+TEST(MaximaPage, Curves_Are_Named_In_Letters_Of_Any_Size) {
+  const QFont plain = QApplication::font();
+  for (const double larger : {1.0, 1.6, 2.0}) {
+    QFont font = plain;
+    font.setPointSizeF(plain.pointSizeF() * larger);
+    QApplication::setFont(font);
+    Maxima_Bench bench(With_Zid(), Another());
+    bench.page.resize(1024, 560);
+    QApplication::processEvents();
+    bench.Plot()->As_Png();
+    QApplication::processEvents();
+    const QByteArray svg = bench.Plot()->As_Svg();
+    for (const Maxima_Curve& curve : bench.Plot()->Drawn().curves) {
+      EXPECT_TRUE(svg.contains((">" + curve.name + "<").c_str())) << larger << " " << curve.name;
+    }
+  }
+  QApplication::setFont(plain);
+}
+
+TEST(MaximaPage, Letters_Lead_To_Each_Choice) {
+  Maxima_Bench bench(With_Zid());
+  for (const QCheckBox* box : bench.page.findChildren<QCheckBox*>()) {
+    EXPECT_TRUE(box->text().contains(QLatin1Char('&'))) << box->objectName().toStdString();
+  }
+  for (const char* name : {"Species", "Depth", "HeldAgainst"}) {
+    bool led_to = false;
+    for (const QLabel* label : bench.page.findChildren<QLabel*>()) {
+      led_to |=
+          label->buddy() == bench.Child<QWidget>(name) && label->text().contains(QLatin1Char('&'));
+    }
+    EXPECT_TRUE(led_to) << name;
+  }
+}
+
 TEST(MaximaPage, Each_Curve_Is_Put_Away_By_Its_Box) {
   Maxima_Bench bench(With_Zid());
   EXPECT_EQ(bench.Plot()->Drawn().curves.size(), 3u);

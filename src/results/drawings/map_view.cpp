@@ -100,6 +100,24 @@ std::string Grid_Words(const Result_Grid& grid) {
          Depth_Words(grid.spacing_x) + " by " + Depth_Words(grid.spacing_z);
 }
 
+/// A few times each, many by their ends and the one nearest to the wanted.
+std::string Times_Of_Both(const std::vector<double>& times, double wanted) {
+  constexpr std::size_t kFew = 6;
+  if (times.empty()) return "No time is in both outputs.";
+  if (times.size() == 1) return "The time in both is " + Time_Words(times.front()) + ".";
+  if (times.size() > kFew) {
+    return std::to_string(times.size()) + " times are in both, from " + Time_Words(times.front()) +
+           " to " + Time_Words(times.back()) + "; the nearest is " +
+           Time_Words(Nearest(times, wanted)) + ".";
+  }
+  std::string words = "The times in both are ";
+  for (std::size_t i = 0; i < times.size(); ++i) {
+    if (i > 0) words += i + 1 < times.size() ? ", " : " and ";
+    words += Time_Words(times[i]);
+  }
+  return words + ".";
+}
+
 /// Puts together what a view shows.
 class View_Content {
  public:
@@ -156,14 +174,33 @@ class View_Content {
     if (needs_own && map_ == nullptr) {
       content_.nothing = "The outputs hold no map for " + content_.title + ".";
     } else if (view_.side != Map_Side::own && other_map_ == nullptr) {
-      content_.nothing =
-          "The other outputs hold no map of this species at this depth and time, for " +
-          content_.title + ".";
+      content_.nothing = Missing_In_Other();
     } else if (view_.side == Map_Side::difference && !Have_Same_Grid()) {
       content_.nothing = "No difference can be shown: the grids are not alike. This one has " +
                          Grid_Words(own_.grid) + ", the other one " + Grid_Words(other_->grid) +
                          ".";
     }
+  }
+
+  // What there is none of in the other outputs, and what both have instead.
+  std::string Missing_In_Other() const {
+    const bool thickness = view_.kind == Map_Kind::thickness;
+    const std::string name =
+        view_.species == 0 ? std::string("all solids") : Mapped_Name(own_, view_.species);
+    const std::string none = "The other outputs hold no ";
+    std::string maps = thickness ? "maps of the deposit of " + name : "maps of " + name;
+    if (!in_other_ || Mapped_Depths(*other_, view_.kind, other_view_.species).empty()) {
+      return none + maps + ".";
+    }
+    if (!thickness) maps += " at " + Depth_Words(view_.depth);
+    const auto others = Mapped_Times(*other_, view_.kind, other_view_.species, view_.depth);
+    if (others.empty()) return none + maps + ".";
+    if (view_.largest && !thickness) return none + maps + " with the largest values over time.";
+    std::vector<double> both = Mapped_Times(own_, view_.kind, view_.species, view_.depth);
+    std::erase_if(both, [&](double time) {
+      return std::ranges::none_of(others, [&](double other) { return Is_Same(time, other); });
+    });
+    return none + maps + " at " + Time_Words(view_.time) + ". " + Times_Of_Both(both, view_.time);
   }
 
   bool Have_Same_Grid() const {

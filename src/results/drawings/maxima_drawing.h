@@ -67,6 +67,9 @@ Maxima_Drawing Draw_Maxima(const Results& own, const Results* other, const Maxim
 
 /// Time across, the value upright.
 Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas);
+/// The pixels of height from which on the legend names every curve, on a canvas of this width and
+/// size of text.
+double Least_Height(const Maxima_Drawing& drawing, const Canvas& canvas);
 Shape_List Maxima_Shapes(const Maxima_Drawing& drawing, const Canvas& canvas);
 
 /// The times at which a curve has a value, ascending.

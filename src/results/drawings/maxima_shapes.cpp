@@ -13,7 +13,7 @@ namespace {
 constexpr double kInset = 6;          // pixels, of words in the plot
 constexpr double kLimitStroke = 1.6;  // pixels
 constexpr double kReadMark = 5;       // pixels
-constexpr double kLeastLines = 16;    // of text, of a picture with a legend
+constexpr double kLeastLines = 6;     // of text, that a legend leaves to the plot
 constexpr double kLabelPart = 0.8;    // of a side that a label along it may take
 
 /// How an area's curve looks: in colours that differ in lightness, with a marker of its own.
@@ -43,12 +43,14 @@ Stroke Limit_Stroke(const Maxima_Limit& limit) {
   return {kWarnInk, kLimitStroke, limit.of_other ? Dash::dotted : Dash::dashed};
 }
 
-std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
+std::vector<Legend_Entry> Legend_Of(const Maxima_Drawing& drawing, const Canvas& canvas,
+                                    bool with_limits) {
   std::vector<Legend_Entry> legend;
   for (const Maxima_Curve& curve : drawing.curves) {
     const Area_Look look = Look_Of(curve.where);
     legend.push_back({curve.name, look.colour, look.marker, Dash_Of(curve.of_other)});
   }
+  if (!with_limits) return legend;
   for (const Maxima_Limit& limit : drawing.limits) {
     const bool has_room = Text_Width(limit.name, canvas.text_size) < kLabelPart * canvas.width;
     legend.push_back({has_room ? limit.name : Value_Words(limit.value, drawing.unit), kWarnInk,
@@ -171,9 +173,26 @@ Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   Plot_Layout layout;
   layout.across = {drawing.time, "Time from the start (s)"};
   layout.upright = {drawing.value, Upright_Label(drawing, canvas)};
-  // A picture in small has room for its curves alone.
-  if (canvas.height >= kLeastLines * canvas.text_size) layout.legend = Legend_Of(drawing, canvas);
+  // What the limits are stands beside their lines too; a picture in small has room for its curves
+  // alone.
+  for (const bool with_limits : {true, false}) {
+    layout.legend = Legend_Of(drawing, canvas, with_limits);
+    const Plot_Frame frame(layout, canvas);
+    if (frame.bottom() - frame.top() >= kLeastLines * canvas.text_size) return frame;
+  }
+  layout.legend.clear();
   return Plot_Frame(layout, canvas);
+}
+
+double Least_Height(const Maxima_Drawing& drawing, const Canvas& canvas) {
+  constexpr double kHigh = 1e4;  // pixels
+  Plot_Layout layout;
+  layout.across = {drawing.time, "Time"};
+  layout.upright = {drawing.value, "Value"};
+  layout.legend = Legend_Of(drawing, canvas, false);
+  const Plot_Frame frame(layout, {canvas.width, kHigh, canvas.text_size});
+  // The frame goes to whole pixels: one more is enough.
+  return kHigh - (frame.bottom() - frame.top()) + kLeastLines * canvas.text_size + 1;
 }
 
 Shape_List Maxima_Shapes(const Maxima_Drawing& drawing, const Canvas& canvas) {

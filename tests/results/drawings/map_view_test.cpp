@@ -176,13 +176,56 @@ TEST(MapView, What_The_Other_Has_Not_Is_Told) {
     view.side = side;
     Results without_time = other;
     std::erase_if(without_time.maps, [](const Result_Map& map) { return map.time == 600; });
-    EXPECT_TRUE(Content_Of(own, &without_time, view)
-                    .nothing.starts_with(
-                        "The other outputs hold no map of this species at this depth and time"));
+    EXPECT_EQ(Content_Of(own, &without_time, view).nothing,
+              "The other outputs hold no maps of COPPER at 10 ft at 600 s (10 min). The time in "
+              "both is 1200 s (20 min).");
+    Results without_depth = other;
+    std::erase_if(without_depth.maps, [](const Result_Map& map) { return map.depth == 10; });
+    without_depth.maps.push_back({.species = 1, .depth = 20, .time = 600});
+    EXPECT_EQ(Content_Of(own, &without_depth, view).nothing,
+              "The other outputs hold no maps of COPPER at 10 ft.");
     Results without_species = other;
     without_species.species[0].name = "LEAD";
-    EXPECT_FALSE(Content_Of(own, &without_species, view).nothing.empty());
+    EXPECT_EQ(Content_Of(own, &without_species, view).nothing,
+              "The other outputs hold no maps of COPPER.");
+    view = Of(0, 0, 600);
+    view.kind = Map_Kind::thickness;
+    view.side = side;
+    other.beds.clear();
+    EXPECT_EQ(Content_Of(own, &other, view).nothing,
+              "The other outputs hold no maps of the deposit of all solids.");
+    view.time = 1200;
+    other.beds = own.beds;
+    for (Result_Map& map : other.beds) map.time += 5000;
+    EXPECT_TRUE(Content_Of(own, &other, view)
+                    .nothing.starts_with("The other outputs hold no maps of the deposit of all "
+                                         "solids at 1200 s (20 min). "));
+    EXPECT_TRUE(Content_Of(own, &other, view).nothing.ends_with("No time is in both outputs."));
   }
+}
+
+// Maps each 100 s to 800 s beside one without that of 300 s.
+TEST(MapView, Of_Many_Times_In_Both_The_Nearest_Is_Told) {
+  Results own = Mapped_Results();
+  const Result_Map first = own.beds.front();
+  own.beds.clear();
+  for (int time = 100; time <= 800; time += 100) {
+    own.beds.push_back(first);
+    own.beds.back().time = time;
+  }
+  Results other = own;
+  other.beds.erase(other.beds.begin() + 2);
+  Map_View view = Of(first.species, 0, 300);
+  view.kind = Map_Kind::thickness;
+  view.side = Map_Side::other;
+  EXPECT_TRUE(Content_Of(own, &other, view)
+                  .nothing.ends_with("7 times are in both, from 100 s (1.7 min) to 800 s (13.3 "
+                                     "min); the nearest is 200 s (3.3 min)."))
+      << Content_Of(own, &other, view).nothing;
+  other.beds.resize(3);
+  EXPECT_TRUE(Content_Of(own, &other, view)
+                  .nothing.ends_with("The times in both are 100 s (1.7 min), 200 s (3.3 min) and "
+                                     "400 s (6.7 min)."));
 }
 
 TEST(MapView, Numbers_Are_A_Line_For_Each_Cell_And_Then_The_Section) {

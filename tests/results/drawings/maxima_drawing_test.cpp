@@ -302,6 +302,27 @@ TEST(MaximaDrawing, The_Reading_Is_Marked_On_Each_Curve) {
   EXPECT_EQ(inside->centre, frame.At(200, 30));
 }
 
+TEST(MaximaDrawing, The_Legend_Names_The_Curves_As_Long_As_There_Is_Room) {
+  const auto drawing = Draw_Maxima(Small_Results(), nullptr, {.species = 2});
+  ASSERT_FALSE(drawing.limits.empty());
+  const auto words = [&](const Canvas& canvas) {
+    std::string all;
+    for (const Shape& shape : Maxima_Shapes(drawing, canvas).shapes) {
+      if (const auto* text = std::get_if<Text_Shape>(&shape)) all += text->text + "\n";
+    }
+    return all;
+  };
+  const std::string curve = "outside the site\n", limit = drawing.limits[0].name + "\n";
+  EXPECT_TRUE(Says(words(kCanvas), curve));
+  EXPECT_TRUE(Says(words(kCanvas), limit));
+  Canvas least = kCanvas;
+  least.height = Least_Height(drawing, kCanvas);
+  EXPECT_TRUE(Says(words(least), curve));
+  EXPECT_FALSE(Says(words(least), limit));
+  least.height -= 3;
+  EXPECT_FALSE(Says(words(least), curve));
+}
+
 TEST(MaximaDrawing, Any_Room_Is_Survived) {
   for (const Canvas canvas : {Canvas{0, 0, 12}, {20, 10, 30}, {200, 100, 9}}) {
     Svg_Text(Maxima_Shapes(Draw_Maxima(Small_Results(), nullptr, {.species = 2}), canvas));
