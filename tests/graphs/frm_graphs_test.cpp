@@ -326,7 +326,8 @@ TEST_F(FrmGraphs, Names_In_Two_Lines_Have_Tabs_Of_Two_Lines) {
   Action("mnuUsual")->trigger();
   window.resize(1100, 700);
   QApplication::processEvents();
-  EXPECT_LT(bar.height(), 2 * bar.fontMetrics().lineSpacing() + 4);
+  EXPECT_EQ(bar.tabText(kContours), "Concentration Contours");
+  EXPECT_LT(bar.tabRect(kContours).height(), 2 * bar.fontMetrics().lineSpacing()) << window.width();
 }
 
 TEST_F(FrmGraphs, Closing_The_Window_Takes_The_Help_Along) {

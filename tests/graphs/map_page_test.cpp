@@ -84,6 +84,9 @@ TEST(ContourPage, Choices_Are_Those_Of_The_Outputs_And_The_Picture_Follows) {
 TEST(ContourPage, Below_Its_Least_Height_The_Map_Scrolls_And_Keys_Keep_Their_Meaning) {
   Contours contours;
   contours.Show(Mapped_Results());
+  QFont large = contours.page.font();
+  large.setPointSizeF(2 * large.pointSizeF());
+  contours.page.setFont(large);
   contours.page.resize(640, 230);
   QApplication::processEvents();
   auto& map = contours.Get<Map_Picture>("Map");
