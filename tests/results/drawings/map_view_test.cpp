@@ -181,11 +181,7 @@ TEST(MapView, What_The_Other_Has_Not_Is_Told) {
               "both is 1200 s (20 min).");
     Results without_depth = other;
     std::erase_if(without_depth.maps, [](const Result_Map& map) { return map.depth == 10; });
-    Result_Map deeper;
-    deeper.time = 600;
-    deeper.species = 1;
-    deeper.depth = 20;
-    without_depth.maps.push_back(deeper);
+    without_depth.maps.push_back(Small_Map(600, 1, 20, {0, 0, 0, 1}));
     EXPECT_EQ(Content_Of(own, &without_depth, view).nothing,
               "The other outputs hold no maps of COPPER at 10 ft.");
     Results without_species = other;
