@@ -25,7 +25,7 @@ class Rounding {
       for (const Map_Point& point : outline) corners_.push_back(Rounded_Step(point));
     }
     std::ranges::sort(corners_);
-    corners_.erase(std::ranges::unique(corners_).begin(), corners_.end());
+    corners_.erase(std::unique(corners_.begin(), corners_.end()), corners_.end());
   }
 
   Map_Ring Ring(const Map_Outline& outline) const {

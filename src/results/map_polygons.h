@@ -11,7 +11,10 @@ namespace barvon {
 struct Map_Step {
   long long east = 0, north = 0;
 
-  auto operator<=>(const Map_Step&) const = default;
+  bool operator==(const Map_Step&) const = default;
+  bool operator<(const Map_Step& other) const {
+    return east != other.east ? east < other.east : north < other.north;
+  }
 };
 
 /// Closed, its first position not repeated.

@@ -111,7 +111,7 @@ std::vector<Shape> Bands(const Maxima_Drawing& drawing, const Plot_Frame& frame)
 // The limit and, where the line has room, when it is exceeded.
 std::string Words_On_Line(const Maxima_Limit& limit, const std::string& unit, double size,
                           double room) {
-  const std::string value = Value_Words(limit.value, unit);
+  std::string value = Value_Words(limit.value, unit);
   if (limit.exceeded.empty()) return value;
   std::string all = value + ", exceeded";
   if (limit.exceeded.size() == 1) {
@@ -177,7 +177,7 @@ Plot_Frame Frame_Of(const Maxima_Drawing& drawing, const Canvas& canvas) {
   // alone.
   for (const bool with_limits : {true, false}) {
     layout.legend = Legend_Of(drawing, canvas, with_limits);
-    const Plot_Frame frame(layout, canvas);
+    Plot_Frame frame(layout, canvas);
     if (frame.bottom() - frame.top() >= kLeastLines * canvas.text_size) return frame;
   }
   layout.legend.clear();

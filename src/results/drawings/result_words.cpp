@@ -19,7 +19,7 @@ std::string In_Tenths(double value) { return Short_Text(std::round(value * 10) /
 }  // namespace
 
 std::string Time_Words(double seconds) {
-  const std::string plain = Short_Text(seconds) + " s";
+  std::string plain = Short_Text(seconds) + " s";
   if (!(std::abs(seconds) >= kMinute) || !std::isfinite(seconds)) return plain;
   const bool hours = std::abs(seconds) >= kFirstInHours;
   return plain + " (" + In_Tenths(seconds / (hours ? kHour : kMinute)) + (hours ? " h)" : " min)");

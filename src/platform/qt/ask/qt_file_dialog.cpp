@@ -176,7 +176,7 @@ class File_Dialog : public QFileDialog {
   /// file is called so.
   QString Path() const {
     const QString name = name_->text();
-    if (name.isEmpty()) return name;
+    if (name.isEmpty()) return {};
     if (name.startsWith(QLatin1Char('/'))) return Plain(name);
     const QString here = directory().absolutePath();
     const QString path = here + (here.endsWith(QLatin1Char('/')) ? "" : "/") + name;
