@@ -12,8 +12,8 @@ struct Map_Step {
   long long east = 0, north = 0;
 
   bool operator==(const Map_Step&) const = default;
-  bool operator<(const Map_Step& other) const {
-    return east != other.east ? east < other.east : north < other.north;
+  std::strong_ordering operator<=>(const Map_Step& other) const {
+    return east != other.east ? east <=> other.east : north <=> other.north;
   }
 };
 
