@@ -147,11 +147,4 @@ Telling_Moment Telling_Moment_Of(const Results& results) {
   return moment;
 }
 
-const Result_Map* Telling_Map(const Results& results, const Telling_Moment& moment) {
-  for (const Result_Map& map : results.maps) {
-    if (Is_Meant(map, moment) && map.time == moment.map_time) return &map;
-  }
-  return nullptr;
-}
-
 }  // namespace barvon

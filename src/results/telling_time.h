@@ -24,7 +24,4 @@ struct Telling_Moment {
 /// those times at which that area has its largest value; without such a time the nearest.
 Telling_Moment Telling_Moment_Of(const Results& results);
 
-/// The map of the species and depth at the moment's time; null where the outputs have none.
-const Result_Map* Telling_Map(const Results& results, const Telling_Moment& moment);
-
 }  // namespace barvon

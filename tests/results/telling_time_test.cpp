@@ -7,6 +7,15 @@
 namespace barvon::testing {
 namespace {
 
+/// The map of the moment's species, depth and time; null where the outputs have none.
+const Result_Map* Telling_Map(const Results& results, const Telling_Moment& moment) {
+  for (const Result_Map& map : results.maps) {
+    const bool is_meant = map.species == moment.species && map.depth == moment.depth;
+    if (is_meant && map.time == moment.map_time) return &map;
+  }
+  return nullptr;
+}
+
 TEST(TellingTime, The_Species_With_The_Tightest_Limit_At_Its_Largest_Value_Outside) {
   const Telling_Moment moment = Telling_Moment_Of(Small_Results());
   EXPECT_EQ(moment.species, 2);
