@@ -16,16 +16,17 @@ barvon_check_format() {
   }
 }
 
-# The commands of the compiler are those of the release build; nothing needs to be built for it.
+# In a tree of its own, in which nothing is built: each source is read with the headers that it
+# names, however the programs are built.
 barvon_check_tidy() {
   local sources=("$@")
-  barvon_configure release
-  cmake --build --preset release --target build.ninja  # configures again if a build file has changed
+  BARVON_PRECOMPILED=OFF barvon_configure lint
+  cmake --build build/lint --target build.ninja  # configures again if a build file has changed
   [ $# -gt 0 ] || mapfile -t sources < <(find src solver -name '*.cpp' | sort)
   echo "Checking ${#sources[@]} sources with clang-tidy"
   # The compiler's own warnings are the build's matter, and it has some that clang does not know.
   # How many warnings of the libraries were passed over is nobody's.
-  local one='clang-tidy --quiet -p build/release --extra-arg=-Wno-error \
+  local one='clang-tidy --quiet -p build/lint --extra-arg=-Wno-error \
     --extra-arg=-Wno-unknown-warning-option "$1" 2> >(grep -v "warnings\? generated" >&2)'
   printf '%s\n' "${sources[@]}" | xargs -P "$(nproc)" -n 1 \
     bash -c "$one" tidy || {

@@ -14,7 +14,7 @@ cd "$(dirname "$0")/.."
 . packaging/packages.sh
 . packaging/build.sh
 
-started="Batch*:BoundedOutput.*:CommandLine.*:CreateProcess.*:DeliveredSolver.*:EchoSolver.*"
+started="Batch*:*/Batch*:BoundedOutput.*:CommandLine.*:CreateProcess.*:DeliveredSolver.*:EchoSolver.*"
 started+=":HostileNames.*:Lock.*:OutputFiles.*:PlantedFiles.*:ProcessControl.*:ProjectHold.*:Run*"
 started+=":SampleFiles.*:SolverCommand.*:SolverTable.*:StrangersFiles.*:ViewerProgram.*:ViewResults.*"
 filter="${BARVON_FILTER:--RandomRecords.*:Det_Math.Pow_Against_The_C_Library:$started}"
