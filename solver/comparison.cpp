@@ -13,10 +13,6 @@ bool Toxicity(const Model_Input& input) {
   return input.evaluation == Evaluation::Toxicity || input.evaluation == Evaluation::Zone_Toxicity;
 }
 
-bool Zone_Evaluation(const Model_Input& input) {
-  return static_cast<int>(input.evaluation) >= static_cast<int>(Evaluation::Zone_Criterion);
-}
-
 bool Within(const Window& window, int i, int k) {
   return i + 1 >= window.top && i + 1 <= window.bottom && k + 1 >= window.left &&
          k + 1 <= window.right;
@@ -28,6 +24,10 @@ int Index(double place, double spacing) {
 }
 
 }  // namespace
+
+bool Zone_Evaluation(const Model_Input& input) {
+  return static_cast<int>(input.evaluation) >= static_cast<int>(Evaluation::Zone_Criterion);
+}
 
 void Raise(Spot& kept, const Spot& found) {
   if (found.found && (!kept.found || found.value > kept.value)) kept = found;

@@ -60,6 +60,8 @@ class Areas {
   bool has_site_, has_zid_;
 };
 
+/// It is one of section 404: the site is a mixing zone.
+bool Zone_Evaluation(const Model_Input& input);
 /// The program is asked to compute it: a zone for the evaluations of section 404 that has none.
 bool Mixing_Zone_Asked(const Model_Input& input);
 bool Zid_Asked(const Model_Input& input);

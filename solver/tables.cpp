@@ -140,7 +140,7 @@ std::string Map_Table(const Model_Input& input, const Outcome& outcome) {
   std::string text = Table_Head(input, "Maps");
   text += "GRID " + Int(input.points_x) + Int(input.points_z) + Sci(input.spacing_x) +
           Sci(input.spacing_z) + kLineEnd;
-  text += Area_Line("SITE ", input, input.site);
+  text += Area_Line(Zone_Evaluation(input) ? "ZONE " : "SITE ", input, input.site);
   if (input.zid_asked) text += Area_Line("ZIDR ", input, input.zid);
   text += "POIN " + Sci_Row({input.vessel_x, input.vessel_z}) + kLineEnd;
   for (const Cell_Map& map : outcome.maps) Append_Map(text, "MAP  ", map);

@@ -17,6 +17,7 @@
 #include "platform/ask/help_viewer.h"
 #include "platform/ask/message_box.h"
 #include "platform/files/paths.h"
+#include "results/drawings/common_times.h"
 
 namespace barvon {
 namespace {
@@ -24,6 +25,8 @@ namespace {
 constexpr QSize kSize{1120, 800};
 constexpr QSize kFrame{16, 48};   // what the desktop puts around a window, at most
 constexpr int kLookEvery = 1000;  // milliseconds
+constexpr int kStateMargin = 6;
+constexpr char16_t kMayBreak = 0x200B;  // a blank without width
 constexpr double kTextStep = 1.1;
 constexpr int kMostTextSteps = 8;
 
@@ -32,10 +35,12 @@ constexpr int kMostTextSteps = 8;
 frmGraphs::frmGraphs(QWidget* parent)
     : QMainWindow(parent),
       body_(new QStackedWidget(this)),
+      whole_state_(new QLabel(this)),
       notice_(new Notice_Page(body_)),
       pictures_(new QWidget(body_)),
       own_title_(new Elided_Label(pictures_)),
       other_title_(new Elided_Label(pictures_)),
+      common_times_(new QLabel(pictures_)),
       end_comparison_(new QPushButton(QStringLiteral("&No comparison"), pictures_)),
       tabs_(new View_Tabs(pictures_)),
       usual_text_(QApplication::font().pointSizeF()) {
@@ -53,6 +58,8 @@ frmGraphs::frmGraphs(QWidget* parent)
 void frmGraphs::Build_Body() {
   own_title_->setObjectName(QStringLiteral("OwnTitle"));
   other_title_->setObjectName(QStringLiteral("OtherTitle"));
+  common_times_->setObjectName(QStringLiteral("CommonTimes"));
+  common_times_->setWordWrap(true);
   end_comparison_->setObjectName(QStringLiteral("cmdNoComparison"));
   tabs_->setObjectName(QStringLiteral("Views"));
   tabs_->setAccessibleName(QStringLiteral("Views"));
@@ -78,6 +85,7 @@ void frmGraphs::Build_Body() {
   titles->setSpacing(2);
   titles->addWidget(own_title_);
   titles->addLayout(compared);
+  titles->addWidget(common_times_);
   auto* column = new QVBoxLayout(pictures_);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -85,7 +93,13 @@ void frmGraphs::Build_Body() {
   column->addWidget(tabs_, 1);
   body_->addWidget(notice_);
   body_->addWidget(pictures_);
-  setCentralWidget(body_);
+  auto* all = new QWidget(this);
+  auto* rows = new QVBoxLayout(all);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(body_, 1);
+  rows->addWidget(whole_state_);
+  setCentralWidget(all);
 
   connect(notice_, &Notice_Page::Open_Asked, this, &frmGraphs::Open);
   connect(end_comparison_, &QPushButton::clicked, this, &frmGraphs::End_Comparison);
@@ -104,6 +118,11 @@ void frmGraphs::Build_Status() {
   state_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   statusBar()->addWidget(told_, 1);
   statusBar()->addWidget(state_, 1);
+  whole_state_->setObjectName(QStringLiteral("WholeState"));
+  whole_state_->setTextFormat(Qt::PlainText);
+  whole_state_->setWordWrap(true);
+  whole_state_->setMargin(kStateMargin);
+  whole_state_->hide();
 }
 
 std::optional<std::string> frmGraphs::Ask_Results(const std::string& title) const {
@@ -122,7 +141,11 @@ void frmGraphs::Open() {
 
 void frmGraphs::Show_Results_Of(const std::string& path, int view) {
   own_.emplace(path);
-  Say("");
+  // What the former project was held against says nothing of this one.
+  const std::string ended = other_ ? Ended_Words(other_->path()) : std::string();
+  other_.reset();
+  shown_.other.reset();
+  Say(ended);
   Results_Or_Problem read = own_->Read();
   // What is read next is not held against what another project had.
   shown_.own.reset();
@@ -241,6 +264,10 @@ void frmGraphs::Show_Titles() {
     other_title_->setText(QStringLiteral("Compared with: ") +
                           QString::fromStdString(Title_Line(*shown_.other)));
   }
+  const std::string times =
+      compares ? Common_Times_Words(*shown_.own, *shown_.other) : std::string();
+  common_times_->setText(QString::fromStdString(times));
+  common_times_->setVisible(!times.empty());
   other_title_->setVisible(compares);
   end_comparison_->setVisible(compares);
 }
@@ -249,6 +276,7 @@ void frmGraphs::Say(const std::string& state) {
   own_word_.clear();
   other_word_.clear();
   state_->setText(QString::fromStdString(state));
+  Fit_State();
 }
 
 // What was said of the one stays when the other's come.
@@ -256,7 +284,21 @@ void frmGraphs::Say_Of_Outputs(const std::string& own, const std::string& other)
   const bool news = own != own_word_ || other != other_word_;
   own_word_ = own;
   other_word_ = other;
-  if (news) state_->setText(QString::fromStdString(Words_Of_Both(own, other)));
+  if (!news) return;
+  state_->setText(QString::fromStdString(Words_Of_Both(own, other)));
+  Fit_State();
+}
+
+/// Words that the status bar would cut stand above it, in as many lines as they need.
+void frmGraphs::Fit_State() {
+  const QString& words = state_->text();
+  const bool fits = state_->fontMetrics().horizontalAdvance(words) < width() / 2 - 2 * kStateMargin;
+  // A path has no blanks at which a line could end.
+  whole_state_->setText(
+      QString(words).replace(QLatin1Char('/'), QLatin1Char('/') + QString(QChar(kMayBreak))));
+  whole_state_->setAccessibleName(words);
+  whole_state_->setVisible(!fits);
+  state_->setVisible(fits);
 }
 
 void frmGraphs::Change_Text_Size(int steps) {
@@ -288,12 +330,15 @@ void frmGraphs::Fit_Tab_Names() {
 
 void frmGraphs::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::FontChange) Fit_Tab_Names();
+  if (event->type() != QEvent::FontChange) return;
+  Fit_Tab_Names();
+  Fit_State();
 }
 
 void frmGraphs::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   Fit_Tab_Names();
+  Fit_State();
 }
 
 void frmGraphs::closeEvent(QCloseEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -25,7 +26,7 @@ class frmGraphs : public QMainWindow {
  public:
   explicit frmGraphs(QWidget* parent = nullptr);
 
-  /// Shows the results of a project or output, or says why there are none.
+  /// Shows the results of a project or output, or says why there are none. A comparison ends.
   void Show_Results_Of(const std::string& path, int view);
   /// Asks for it. Nothing changes when that is called off.
   void Open();
@@ -67,6 +68,7 @@ class frmGraphs : public QMainWindow {
   void Fill_Page_In_Front();
   void Show_Notice(const Graph_Notice& notice);
   void Show_Titles();
+  void Fit_State();
   void Fit_Tab_Names();
   void Look_At_Own();
   void Look_At_Other();
@@ -76,9 +78,11 @@ class frmGraphs : public QMainWindow {
   std::optional<Watched_Outputs> own_, other_;
   Shown_Results shown_;
   QStackedWidget* body_;
+  QLabel* whole_state_;  // what the status bar would have to cut
   Notice_Page* notice_;
   QWidget* pictures_;  // titles and tabs
   Elided_Label *own_title_, *other_title_;
+  QLabel* common_times_;
   QPushButton* end_comparison_;
   QTabWidget* tabs_;
   std::array<Graph_Page*, kGraphViews> pages_{};

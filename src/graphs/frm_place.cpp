@@ -1,6 +1,7 @@
 #include "graphs/frm_place.h"
 
 #include <QFormLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "platform/ask/help_viewer.h"
@@ -15,6 +16,7 @@ constexpr char kTitle[] = "Place of the Grid";
 constexpr int kLetters = 34;  // that a field shows
 constexpr int kOverhang = 2;  // pixels
 constexpr int kCornerLines = 5;
+constexpr double kPartOfDisplay = 0.9;
 
 }  // namespace
 
@@ -42,6 +44,8 @@ frmPlace::frmPlace(QWidget* window, const Result_Grid& grid,
   lblCorners->setAccessibleName(QStringLiteral("Corners of the grid"));
 
   auto* fields = new QFormLayout;
+  // Large letters on a small display: a field goes below its label.
+  fields->setRowWrapPolicy(QFormLayout::WrapLongRows);
   fields->addRow(QStringLiteral("&Easting"), txtEasting);
   fields->addRow(QStringLiteral("&Northing"), txtNorthing);
   fields->addRow(QStringLiteral("&Turn (degrees, clockwise)"), txtTurn);
@@ -117,7 +121,10 @@ void frmPlace::Show_Corners() {
                                              Corners_In_Words(*read.place, grid_)
                                        : read.fault.words;
   lblCorners->setMinimumHeight(kCornerLines * lblCorners->fontMetrics().lineSpacing());
-  lblCorners->setWordWrap(!read.place);  // a row and its numbers stay together
+  // A row and its numbers stay together while the display has the room.
+  const int width = lblCorners->fontMetrics().size(0, QString::fromStdString(words)).width();
+  lblCorners->setWordWrap(!read.place ||
+                          width > kPartOfDisplay * screen()->availableSize().width());
   lblCorners->setText(QString::fromStdString(words));
 }
 

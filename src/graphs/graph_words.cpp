@@ -62,6 +62,10 @@ std::string Kept_Words(const Result_Problem& problem, const Results& shown) {
   return "Shown is the run of " + Clock_Text(shown.made) + "; " + problem.Words();
 }
 
+std::string Ended_Words(const std::string& path) {
+  return "No longer compared with " + Name_Of(path) + ".";
+}
+
 std::string Words_Of_Both(const std::string& own, const std::string& other) {
   if (own.empty() || other.empty()) return own + other;
   const bool both_new = own.starts_with(kNew) && other.starts_with(kNew);

@@ -26,6 +26,8 @@ std::string Window_Caption(const std::string& path);
 /// For the status line.
 std::string Fresh_Words(const Results& results);
 std::string Kept_Words(const Result_Problem& problem, const Results& shown);
+/// The comparison with `path` is over, since another project was opened.
+std::string Ended_Words(const std::string& path);
 /// What is told of the one outputs and of those beside them, either of which may be empty: "New
 /// outputs of a.DUI, run of 2026-11-22 12:03; of b.DUI, run of 2026-11-22 12:04".
 std::string Words_Of_Both(const std::string& own, const std::string& other);

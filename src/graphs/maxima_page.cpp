@@ -87,8 +87,8 @@ QWidget* Maxima_Page::Choices() {
   what_->addStretch();
   rows->addLayout(what_);
   curves_ = new QBoxLayout(QBoxLayout::LeftToRight);
-  inside_ = Add_Check("&Inside the site", "Inside");
-  outside_ = Add_Check("&Outside the site", "Outside");
+  inside_ = Add_Check("", "Inside");
+  outside_ = Add_Check("", "Outside");
   outside_zid_ = Add_Check("Outside the &ZID", "OutsideZid");
   limits_ = Add_Check("&Limits", "Limits");
   logarithmic_ = Add_Check("Log&arithmic", "Logarithmic");
@@ -121,6 +121,9 @@ void Maxima_Page::Show(const Shown_Results& shown) {
     return has(*shown_.own) || (shown_.other && has(*shown_.other));
   };
   const bool site = either(&Has_Site);
+  const auto name = QString::fromStdString(Site_Name(*shown_.own, shown_.other.get()));
+  inside_->setText(QStringLiteral("&Inside the ") + name);
+  outside_->setText(QStringLiteral("&Outside the ") + name);
   inside_->setVisible(site);
   outside_->setVisible(site);
   outside_zid_->setVisible(either(&Has_Zid));

@@ -90,8 +90,9 @@ Overview_Table Largest_Table(const Results& own, const Results* other) {
                           Has_Zid(own) || (other != nullptr && Has_Zid(*other))};
   Overview_Table table;
   table.headings = {"Species"};
-  if (areas.site) table.headings.push_back("Inside the site");
-  table.headings.push_back(areas.site ? "Outside the site" : "Anywhere");
+  const std::string site = Site_Name(own, other);
+  if (areas.site) table.headings.push_back("Inside the " + site);
+  table.headings.push_back(areas.site ? "Outside the " + site : "Anywhere");
   if (areas.zid) table.headings.push_back("Outside the ZID");
   table.headings.push_back("At any point");
   std::string own_name, other_name;

@@ -95,7 +95,7 @@ std::string Save_Sequence(Graph_Page& page, const Results_Held& results) {
   std::vector<std::unique_ptr<Safe_File>> files;
   for (const std::string& name : names) {
     progress.setValue(static_cast<int>(files.size()));
-    if (progress.wasCanceled()) return {};
+    if (progress.wasCanceled()) return "Cancelled: none of the pictures was saved";
     if (page.Sequence_Length() != count) {
       Tell_Not_Saved(name, "the outputs have changed meanwhile");
       return {};

@@ -28,11 +28,12 @@ th { vertical-align: bottom; border-bottom: 1.5px solid #7a828c; }
 tbody tr { border-bottom: 1px solid #e4e7eb; }
 .n { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
 table.values { width: 100%; }
-table.values td:first-child { width: 62%; padding-left: 0; }
+table.values th { font-weight: normal; vertical-align: top; border: 0; width: 62%;
+  padding-left: 0; }
 table.values td:nth-child(2) { width: 18%; }
 table.values td[colspan="2"] { width: 38%; }
-table.values tr.group td { font-weight: bold; padding-top: .7em; width: auto; }
-table.values tr.inside td:first-child { padding-left: 1.3em; }
+table.values tr.group td { font-weight: bold; padding: .7em .7em .22em 0; width: auto; }
+table.values tr.inside th { padding-left: 1.3em; }
 table.grid { font-size: 7pt; line-height: 1.25; width: 100%; }
 table.grid th, table.grid td { padding: .1em .3em; white-space: nowrap; }
 table.grid td:first-child { color: #5a626d; }
@@ -115,9 +116,11 @@ class Html_Writer {
       const bool last = i + 1 == row.cells.size();
       const std::size_t span = last ? table.columns.size() - i : 1;
       const bool number = table.columns[i].numbers && span == 1;
-      text_ += std::string("<td") + (number ? " class=\"n\"" : "");
+      // A value's label is what a screen reader tells with it.
+      const bool label = table.kind == Table_Kind::values && i == 0 && !last;
+      text_ += std::string(label ? "<th scope=\"row\"" : "<td") + (number ? " class=\"n\"" : "");
       if (span > 1) text_ += " colspan=\"" + std::to_string(span) + "\"";
-      text_ += ">" + Svg_Escaped(row.cells[i]) + "</td>";
+      text_ += ">" + Svg_Escaped(row.cells[i]) + (label ? "</th>" : "</td>");
     }
     text_ += "</tr>\n";
   }

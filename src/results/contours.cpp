@@ -46,6 +46,7 @@ class Node_Net {
   /// Goes along all crossings of the level. `closes`: the outlines of areas, else lines alone.
   std::vector<Contour_Line> Walk(bool closes) {
     Link_All(closes);
+    Part_At_Ridges();
     std::vector<Contour_Line> lines;
     if (!closes) {
       std::vector<bool> entered(next_.size(), false);
@@ -119,6 +120,25 @@ class Node_Net {
       if (above[i] && !above[(i + 1) % 4]) to = edges[(i + 1) % 4];
     }
     next_[from] = to;
+  }
+
+  // Between two neighbours at the level with all beside them below, an outline goes there and back
+  // with no area in between. It turns round at either of them instead, so that areas which only
+  // such a ridge joins are apart.
+  void Part_At_Ridges() {
+    for (std::size_t node = columns_ + 1; node + columns_ + 1 < values_.size(); ++node) {
+      Part(Down_Of(node - columns_ + 1), Down_Of(node - columns_), Down_Of(node),
+           Down_Of(node + 1));
+      Part(Right_Of(node - 1), Right_Of(node + columns_ - 1), Right_Of(node + columns_),
+           Right_Of(node));
+    }
+  }
+
+  // From `a` to `b` on one side of two cells, from `c` to `d` back on the other.
+  void Part(std::size_t a, std::size_t b, std::size_t c, std::size_t d) {
+    if (next_[a] != b || next_[c] != d) return;
+    if (!Is_Same(Crossing(a), Crossing(d)) || !Is_Same(Crossing(b), Crossing(c))) return;
+    std::swap(next_[a], next_[c]);
   }
 
   Result_Point Crossing(std::size_t edge) const {

@@ -31,7 +31,8 @@ struct Contour_Line {
 
 /// The outlines of where the values are at the level or above, to be filled by the odd-even rule;
 /// along the grid's edge where they are so there. Nothing for values that are not rows x columns.
-/// A point or a line of cells that only touches the level has no area and no ring.
+/// A point or a line of cells that only touches the level has no area and no ring, and joins none:
+/// no piece of an outline is passed twice.
 std::vector<Contour_Ring> Regions_Above(const Cell_Values& values, double level);
 
 /// The lines at the level alone, without the grid's edge.

@@ -24,6 +24,8 @@ std::string Csv_Number(double value) {
   return Shortest_Number(value + 0.0);  // a minus zero becomes a zero
 }
 
+std::string Csv_Number(double value, int digits) { return Csv_Number(In_Digits(value, digits)); }
+
 std::string Csv_Line(const std::vector<std::string>& cells) {
   std::string line;
   for (const std::string& cell : cells) line += (&cell == &cells.front() ? "" : ",") + Quoted(cell);

@@ -176,7 +176,10 @@ std::string Geojson_Text(const Cell_Values& cells, std::vector<double> levels,
     if (!lines.empty()) add(Feature("line", further, "MultiLineString", lines));
   }
   add(Outline("grid", Extent_Of(cells), writer));
-  if (results.site) add(Outline("disposal site", Ordered(*results.site), writer));
+  if (results.site) {
+    const char* kind = results.mixing_zone ? "mixing zone" : "disposal site";
+    add(Outline(kind, Ordered(*results.site), writer));
+  }
   if (results.zid) add(Outline("ZID", Ordered(*results.zid), writer));
   if (results.disposal) {
     add(Feature("disposal point", "", "Point", writer.Position(*results.disposal)));

@@ -14,8 +14,9 @@ namespace barvon {
 ///
 /// For each level a MultiPolygon where the values are at it or above ("kind": "area") and its line
 /// ("kind": "line"), where there are any, both with "what", "level" and "unit"; then the outlines
-/// "grid", "disposal site" and "ZID", and the "disposal point", where the results have them. Areas
-/// of higher levels come later, above those that hold them. Outer rings run counterclockwise.
+/// "grid", "disposal site" or "mixing zone", "ZID", and the "disposal point", where the results
+/// have them. Areas of higher levels come later, above those that hold them. Outer rings run
+/// counterclockwise.
 ///
 /// "crs", as GeoJSON of 2008 has it, names the coordinate system by its code. Where none is known
 /// it is a local system with the place's unit, so that who reads "crs" does not take the numbers

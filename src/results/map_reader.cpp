@@ -37,8 +37,9 @@ class Maps {
     Result_Columns columns(lines_.Line());
     if (tag == "GRID ") {
       Read_Grid(columns);
-    } else if (tag == "SITE ") {
+    } else if (tag == "SITE " || tag == "ZONE ") {
       Read_Area(columns, results_.site);
+      results_.mixing_zone = tag == "ZONE ";
     } else if (tag == "ZIDR ") {
       Read_Area(columns, results_.zid);
     } else if (tag == "POIN ") {

@@ -1,5 +1,6 @@
 #include "results/plain_numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -30,6 +31,27 @@ std::string Rounded_Number(double value, int decimals) {
     if (text.back() == '.') text.pop_back();
   }
   return text == "-0" ? "0" : text;
+}
+
+double In_Digits(double value, int digits) {
+  if (!std::isfinite(value)) return value;
+  std::array<char, 40> letters;
+  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value,
+                                 std::chars_format::scientific, digits - 1);
+  double rounded = value;
+  std::from_chars(letters.data(), end.ptr, rounded);
+  return rounded;
+}
+
+double Written_Difference(double a, double b, int digits) {
+  const double difference = a - b;
+  // Most cells of two maps are alike, or one has nothing there.
+  if (a == 0 || b == 0 || difference == 0 || !std::isfinite(difference)) return difference;
+  // By how many digits the difference is shorter than the larger of both: those are of no number.
+  const double larger = std::max(std::abs(a), std::abs(b));
+  const int shorter = static_cast<int>(std::floor(std::log10(larger))) -
+                      static_cast<int>(std::floor(std::log10(std::abs(difference))));
+  return shorter < digits ? In_Digits(difference, digits - shorter) : 0;
 }
 
 std::optional<double> Number_Of(std::string_view text) {

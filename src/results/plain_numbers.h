@@ -16,6 +16,13 @@ std::string Shortest_Number(double value);
 /// what is not finite.
 std::string Rounded_Number(double value, int decimals);
 
+/// The number nearest to the value that has at most so many digits; what is not finite as it is.
+double In_Digits(double value, int digits);
+
+/// `a` less `b` where both were written with so many digits: it has no decimals behind those of the
+/// larger one. What is not finite comes as it does.
+double Written_Difference(double a, double b, int digits);
+
 /// The number that the whole text is, blanks around it apart; nothing for any other text, and for
 /// what is not finite.
 std::optional<double> Number_Of(std::string_view text);

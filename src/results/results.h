@@ -95,6 +95,7 @@ struct Results {
   std::vector<Result_Map> maps, beds, most;  // concentrations, thickness (ft), largest over time
 
   std::optional<Result_Area> site, zid;
+  bool mixing_zone = false;  // the site is one
   std::optional<Result_Point> disposal;
   std::vector<Result_Limit> limits;
   std::vector<std::string> verdicts;  // lines as the listing has them

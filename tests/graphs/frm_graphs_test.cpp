@@ -3,16 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QImage>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
+#include <QSvgRenderer>
 #include <QTabBar>
 #include <QTest>
 #include <filesystem>
 #include <optional>
 
 #include "graphs/graph_menus.h"
+#include "pictures/picture.h"
 #include "platform/ask/file_dialog.h"
 #include "platform/ask/help_viewer.h"
 #include "results/small_outputs.h"
@@ -213,6 +219,71 @@ TEST_F(FrmGraphs, Two_Results_Have_Both_Their_Titles_Until_The_Comparison_Ends) 
   EXPECT_FALSE(Action("mnuNoComparison")->isEnabled());
 }
 
+TEST_F(FrmGraphs, Another_Project_Ends_A_Comparison_With_A_Word) {
+  Write_Outputs("other");
+  Write_Outputs("third");
+  Open_Bay(kContours);
+  window.Compare_With(folder / "other.DUI");
+  chosen = folder / "third.DUI";
+  Action("mnuOpen")->trigger();
+  EXPECT_EQ(window.shown().other, nullptr);
+  EXPECT_FALSE(Child<QLabel>("OtherTitle")->isVisible());
+  EXPECT_FALSE(Action("mnuNoComparison")->isEnabled());
+  EXPECT_EQ(Label("State"), "No longer compared with other.DUI.");
+  window.Show_Results_Of(folder / "bay.DUI", kContours);
+  EXPECT_EQ(Label("State"), "");
+}
+
+TEST_F(FrmGraphs, Times_In_Both_Runs_Are_Told_Where_They_Differ) {
+  Write_Outputs("other");
+  Open_Bay(kOverview);
+  window.Compare_With(folder / "other.DUI");
+  EXPECT_FALSE(Child<QLabel>("CommonTimes")->isVisible());
+  std::string series = kSmallSeries, maps = kSmallMaps;
+  const auto rename = [](std::string& text) {
+    for (std::size_t at = 0; (at = text.find("1.200000e+03", at)) != std::string::npos;) {
+      text.replace(at, 12, "1.800000e+03");
+    }
+  };
+  rename(series);
+  rename(maps);
+  Write_Text(folder / "longer.dut", series);
+  Write_Text(folder / "longer.duc", maps);
+  Write_Text(folder / "longer.dup", kSmallPhases);
+  window.Compare_With(folder / "longer.DUI");
+  auto* times = Child<QLabel>("CommonTimes");
+  for (int view = 0; view < kGraphViews; ++view) {
+    window.Show_View(view);
+    ASSERT_TRUE(times->isVisible());
+    EXPECT_EQ(times->text(),
+              "The time in both is 600 s (10 min). Differences at a time are of this one alone.");
+  }
+  window.End_Comparison();
+  EXPECT_FALSE(times->isVisible());
+}
+
+TEST_F(FrmGraphs, Words_That_The_Foot_Would_Cut_Stand_Whole_Above_It) {
+  Open_Bay(kContours);
+  window.resize(1400, 700);
+  window.Say("short");
+  EXPECT_TRUE(Child<QLabel>("State")->isVisible());
+  EXPECT_FALSE(Child<QLabel>("WholeState")->isVisible());
+  window.resize(640, 480);
+  Write_Text(folder / "bay.dut", With(kSmallSeries, "PEAK   6.0", "PEAK   6.x"));
+  Look_Twice();
+  const std::string said = Label("State");
+  ASSERT_NE(said.find("bay.dut, line 13"), std::string::npos) << said;
+  auto* whole = Child<QLabel>("WholeState");
+  QTest::qWait(0);
+  ASSERT_TRUE(whole->isVisible());
+  EXPECT_FALSE(Child<QLabel>("State")->isVisible());
+  EXPECT_EQ(whole->text().remove(QChar(0x200B)).toStdString(), said);
+  EXPECT_EQ(whole->accessibleName().toStdString(), said);
+  EXPECT_GE(whole->height(), whole->heightForWidth(whole->width()));
+  window.Say("");
+  EXPECT_FALSE(whole->isVisible());
+}
+
 TEST_F(FrmGraphs, What_Can_Not_Be_Compared_With_Is_Told_And_Leaves_All_As_It_Was) {
   Open_Bay();
   chosen = folder / "none.DUI";
@@ -274,6 +345,29 @@ TEST_F(FrmGraphs, What_Holds_Words_Alone_Is_Not_Saved_Copied_Or_Printed) {
   expect(false);
   window.Show_View(kMaxima);
   expect(true);
+}
+
+TEST_F(FrmGraphs, A_Copy_Of_Each_View_Can_Be_Pasted_In_Every_Form) {
+  for (int view = 0; view < kGraphViews; ++view) {
+    Open_Bay(view);
+    QApplication::clipboard()->clear();
+    Action("mnuCopy")->trigger();
+    const QMimeData* content = QApplication::clipboard()->mimeData();
+    ASSERT_NE(content, nullptr);
+    const QImage pasted = qvariant_cast<QImage>(content->imageData());
+    ASSERT_FALSE(pasted.isNull()) << view;
+    const QImage saved = QImage::fromData(window.Page_In_Front()->Shown_Picture()->As_Png(), "PNG");
+    EXPECT_EQ(pasted.size(), saved.size());
+    EXPECT_TRUE(QSvgRenderer(content->data(QStringLiteral("image/svg+xml"))).isValid()) << view;
+    // As many lines as the numbers have, with as many cells.
+    const QString csv = QString::fromStdString(window.Page_In_Front()->Numbers());
+    EXPECT_EQ(content->text().count(QLatin1Char('\n')), csv.count(QLatin1Char('\n'))) << view;
+    EXPECT_GE(content->text().count(QLatin1Char('\t')), csv.count(QLatin1Char('\n'))) << view;
+    const QString cells = content->text();
+    Action("mnuCopyNumbers")->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), cells);
+    EXPECT_EQ(Label("State"), "Numbers copied");
+  }
 }
 
 TEST_F(FrmGraphs, Keys_Reach_Each_View) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QScreen>
 #include <QTest>
 
 #include "platform/ask/help_viewer.h"
@@ -117,6 +118,7 @@ TEST_F(PlaceOfTheGrid, Is_Whole_And_Reached_By_Keys_In_Letters_Of_Any_Size) {
     EXPECT_EQ(Listed(Unreached_Controls(*screen)), "") << larger;
     EXPECT_EQ(Listed(Unnamed_Controls(*screen)), "") << larger;
     EXPECT_EQ(Listed(Misread_Controls(*screen)), "") << larger;
+    EXPECT_LE(screen->width(), screen->screen()->availableSize().width()) << larger;
   }
   QApplication::setFont(plain);
 }

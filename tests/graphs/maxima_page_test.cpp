@@ -115,6 +115,16 @@ TEST(MaximaPage, Each_Curve_Is_Put_Away_By_Its_Box) {
   EXPECT_TRUE(bench.Plot()->Drawn().value.logarithmic);
 }
 
+TEST(MaximaPage, Boxes_Name_The_Mixing_Zone) {
+  Results zone = Small_Results();
+  zone.mixing_zone = true;
+  Maxima_Bench bench(zone);
+  EXPECT_EQ(bench.Child<QCheckBox>("Inside")->text(), "&Inside the mixing zone");
+  EXPECT_EQ(bench.Child<QCheckBox>("Outside")->text(), "&Outside the mixing zone");
+  bench.page.Show({std::make_shared<const Results>(Small_Results()), nullptr});
+  EXPECT_EQ(bench.Child<QCheckBox>("Inside")->text(), "&Inside the site");
+}
+
 TEST(MaximaPage, Boxes_Of_What_The_Run_Has_Not_Are_Not_Shown) {
   Results results = Small_Results();
   results.site.reset();

@@ -84,6 +84,19 @@ TEST(OverviewPage, The_Largest_Values_Are_A_Row_A_Species) {
             (std::vector<std::string>{"Species", "Anywhere", "Outside the ZID", "At any point"}));
 }
 
+TEST(OverviewPage, Columns_Name_The_Mixing_Zone_And_What_Two_Runs_Have) {
+  const Results site = Small_Results();
+  Results zone = Small_Results();
+  zone.mixing_zone = true;
+  EXPECT_EQ(Largest_Table(zone, nullptr).headings[1], "Inside the mixing zone");
+  EXPECT_EQ(Largest_Table(zone, &zone).headings[2], "Outside the mixing zone");
+  EXPECT_EQ(Largest_Table(site, &zone).headings[1], "Inside the site or zone");
+  Results nowhere = Small_Results();
+  nowhere.site.reset();
+  EXPECT_EQ(Largest_Table(nowhere, &zone).headings[1], "Inside the mixing zone");
+  EXPECT_EQ(Largest_Table(zone, &nowhere).headings[1], "Inside the mixing zone");
+}
+
 TEST(OverviewPage, The_Table_Is_Shown_Whole) {
   Overview_Bench bench;
   auto* table = bench.Child<QTableWidget>("Largest");

@@ -73,7 +73,7 @@ TEST_F(Sequences, Cancel_On_The_Way_Leaves_None_And_Changes_None) {
     if (page.Sequence_Place() != 5) return;
     page.findChild<QProgressDialog*>(QStringLiteral("dlgSequence"))->cancel();
   };
-  EXPECT_EQ(Save("sand"), "");
+  EXPECT_EQ(Save("sand"), "Cancelled: none of the pictures was saved");
   EXPECT_EQ(Names_In(folder.path()), std::vector<std::string>{"sand 01.png"});
   EXPECT_EQ(Read_Text(folder / "sand 01.png"), "old");
   EXPECT_EQ(page.Sequence_Place(), 4);

@@ -41,9 +41,10 @@ TEST(ReportHtml, Texts_Are_Escaped) {
 TEST(ReportHtml, A_Row_Of_Words_Has_The_Room_Of_Value_And_Unit) {
   const std::string html = Report_Html(Small_Report());
   EXPECT_TRUE(Has(html, "<tr class=\"group\"><td colspan=\"3\">Corners</td></tr>"));
-  EXPECT_TRUE(
-      Has(html, "<tr class=\"inside\"><td>Depth</td><td class=\"n\">60.0</td><td>ft</td></tr>"));
-  EXPECT_TRUE(Has(html, "<tr><td>Box?</td><td colspan=\"2\">No</td></tr>"));
+  EXPECT_TRUE(Has(html,
+                  "<tr class=\"inside\"><th scope=\"row\">Depth</th><td class=\"n\">60.0</td>"
+                  "<td>ft</td></tr>"));
+  EXPECT_TRUE(Has(html, "<tr><th scope=\"row\">Box?</th><td colspan=\"2\">No</td></tr>"));
 }
 
 TEST(ReportHtml, A_Table_Has_Its_Headings_In_Lines) {

@@ -153,6 +153,51 @@ TEST(Contours, A_Ridge_At_The_Level_Leaves_No_Double_Line) {
   EXPECT_EQ(Of_Ring(rings[0].points), (Points{{5, 20}, {10, 10}, {15, 20}, {10, 40}}));
 }
 
+// Two peaks of 4 with two cells at the level between them, along Z and along X: half way from each
+// peak to the zeros, and the ridge belongs to neither.
+TEST(Contours, Peaks_That_A_Ridge_At_The_Level_Joins_Are_Two_Areas) {
+  const Cell_Values along_z = Cells(3, 6, {0, 0, 0, 0, 0, 0, 0, 4, 2, 2, 4, 0, 0, 0, 0, 0, 0, 0});
+  const Points left{{5, 20}, {10, 10}, {15, 20}, {10, 40}};
+  const Points right{{5, 80}, {10, 60}, {15, 80}, {10, 90}};
+  const auto rings = Regions_Above(along_z, 2);
+  ASSERT_EQ(rings.size(), 2);
+  EXPECT_EQ(Of_Ring(rings[0].points), left);
+  EXPECT_EQ(Of_Ring(rings[1].points), right);
+  const auto lines = Contour_Lines(along_z, 2);
+  ASSERT_EQ(lines.size(), 2);
+  EXPECT_EQ(Of_Ring(lines[0].points), left);
+  EXPECT_EQ(Of_Ring(lines[1].points), right);
+
+  const Cell_Values along_x = Cells(6, 3, {0, 0, 0, 0, 4, 0, 0, 2, 0, 0, 2, 0, 0, 4, 0, 0, 0, 0});
+  const auto columns = Regions_Above(along_x, 2);
+  ASSERT_EQ(columns.size(), 2);
+  EXPECT_EQ(Of_Ring(columns[0].points), (Points{{5, 20}, {10, 10}, {20, 20}, {10, 30}}));
+  EXPECT_EQ(Of_Ring(columns[1].points), (Points{{30, 20}, {40, 10}, {45, 20}, {40, 30}}));
+  EXPECT_EQ(Contour_Lines(along_x, 2).size(), 2);
+}
+
+// Two hollows of 0 in a plain of 4 with a ridge at the level between them: one hole, since the
+// ridge has no area.
+TEST(Contours, A_Ridge_At_The_Level_Across_A_Hollow_Leaves_One_Hole) {
+  const Cell_Values cells =
+      Cells(5, 4, {4, 4, 4, 4, 4, 0, 0, 4, 4, 2, 2, 4, 4, 0, 0, 4, 4, 4, 4, 4});
+  const auto rings = Regions_Above(cells, 2);
+  ASSERT_EQ(rings.size(), 2);
+  const Contour_Ring& hole = rings[rings[0].hole ? 0 : 1];
+  EXPECT_TRUE(hole.hole);
+  EXPECT_EQ(Of_Ring(hole.points), (Points{{5, 20},
+                                          {5, 40},
+                                          {10, 50},
+                                          {20, 40},
+                                          {30, 50},
+                                          {35, 40},
+                                          {35, 20},
+                                          {30, 10},
+                                          {20, 20},
+                                          {10, 10}}));
+  EXPECT_EQ(Area_Above(cells, 2), 50 * 80 - 2 * (150 + 300));
+}
+
 TEST(Contours, A_Cell_Without_A_Value_Is_Left_Out_Half_Way_Around_It) {
   for (const double none : {kNan, kInfinity, -kInfinity}) {
     const Cell_Values cells = Cells(3, 3, {4, 4, 4, 4, none, 4, 4, 4, 4});

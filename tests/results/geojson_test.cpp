@@ -73,6 +73,14 @@ TEST(Geojson, Outlines_Are_Written_Letter_By_Letter) {
       "\"Point\",\"coordinates\":[1150,1980]}}\n]}\n");
 }
 
+TEST(Geojson, A_Mixing_Zone_Is_Called_So) {
+  Results results = With_Outlines();
+  results.mixing_zone = true;
+  const std::string text = Geojson_Text(Row_Of({0, 0, 0}), {5}, "Sand", "mg/l", results, kFeet);
+  EXPECT_NE(text.find(R"({"kind":"mixing zone"})"), std::string::npos);
+  EXPECT_EQ(text.find("disposal site"), std::string::npos);
+}
+
 TEST(Geojson, Without_A_Code_The_System_Is_A_Local_One) {
   const auto name = [](const Map_Place& place) {
     return Written(Row_Of({0, 0}), {}, place)["crs"]["properties"]["name"].get<std::string>();

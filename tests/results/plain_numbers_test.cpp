@@ -27,6 +27,27 @@ TEST(PlainNumbers, Decimals_Are_Rounded_And_Zeros_Go) {
   EXPECT_EQ(Rounded_Number(-9999, 0), "-9999");
 }
 
+TEST(PlainNumbers, Digits_Behind_Those_That_Are_Known_Go) {
+  EXPECT_EQ(In_Digits(0.1 + 0.2, 5), 0.3);
+  EXPECT_EQ(In_Digits(123456, 5), 123460);
+  EXPECT_EQ(In_Digits(-9.99996, 5), -10);
+  EXPECT_EQ(In_Digits(0, 5), 0);
+  EXPECT_TRUE(std::isnan(In_Digits(std::nan(""), 5)));
+}
+
+TEST(PlainNumbers, A_Difference_Has_The_Decimals_Of_The_Larger) {
+  EXPECT_EQ(Written_Difference(0.9, 0.6, 5), 0.3);            // 0.30000000000000004
+  EXPECT_EQ(Written_Difference(1.2, 1.1, 5), 0.1);            // 0.09999999999999987
+  EXPECT_EQ(Written_Difference(1.2345, 0.00001, 5), 1.2345);  // four decimals
+  EXPECT_EQ(Written_Difference(0.00001, 1.2345, 5), -1.2345);
+  EXPECT_EQ(Written_Difference(12346, 12345, 5), 1);
+  EXPECT_EQ(Written_Difference(1.2346e-20, 1.2345e-20, 5), 1e-24);
+  EXPECT_EQ(Written_Difference(1.2346e20, 0.5, 5), 1.2346e20);
+  EXPECT_EQ(Written_Difference(0.12345, 0, 5), 0.12345);
+  EXPECT_EQ(Written_Difference(3, 3, 5), 0);
+  EXPECT_EQ(Written_Difference(1 + 1e-9, 1, 5), 0);
+}
+
 TEST(PlainNumbers, A_Text_Is_A_Number_As_A_Whole_Or_Not_At_All) {
   EXPECT_EQ(Number_Of("583960.5"), 583960.5);
   EXPECT_EQ(Number_Of("  -2e3\t"), -2000);

@@ -177,6 +177,18 @@ TEST(ResultReader, Maps_Have_Their_Windows_And_The_Site_Its_Corners) {
   EXPECT_EQ(results.most[1].values, (std::vector<double>{4}));
 }
 
+TEST(ResultReader, A_Mixing_Zone_Is_Told_From_A_Disposal_Site) {
+  Results results;
+  ASSERT_EQ(Said(Read_Maps("a.duc", kSmallMaps, results)), "");
+  EXPECT_FALSE(results.mixing_zone);
+  Results zone;
+  ASSERT_EQ(Said(Read_Maps("a.duc", With(kSmallMaps, "SITE", "ZONE"), zone)), "");
+  EXPECT_TRUE(zone.mixing_zone);
+  ASSERT_TRUE(zone.site);
+  EXPECT_EQ(zone.site->bottom, 50);
+  EXPECT_EQ(Of_Maps(With(kSmallMaps, "ZIDR", "ZONE")), "line 6: a second line of this tag");
+}
+
 TEST(ResultReader, Line_Feeds_Alone_And_A_Last_Line_Without_End_Are_Read) {
   for (std::string bytes : {kSmallSeries, kSmallMaps, kSmallPhases}) {
     const bool series = bytes == kSmallSeries, maps = bytes == kSmallMaps;

@@ -139,15 +139,17 @@ TEST(Tables, The_Site_And_The_Zone_Go_With_The_Maps_By_Their_Corner_Points) {
   input.site = {11, 16, 21, 31, 1000, 1500, 2000, 3000};
   input.zid = {12, 12, 22, 23, 1100, 1100, 2100, 2200};
   const std::string grid = "GRID    41   41  1.000000e+02  1.000000e+02\r\n";
-  const std::string site = "SITE   1.000000e+03  1.500000e+03  2.000000e+03  3.000000e+03\r\n";
+  const std::string zone = "ZONE   1.000000e+03  1.500000e+03  2.000000e+03  3.000000e+03\r\n";
   const std::string point = "POIN   2.000000e+03  2.000000e+03\r\n";
-  EXPECT_EQ(Maps_Of(input), kSum + grid + site + point);
+  EXPECT_EQ(Maps_Of(input), kSum + grid + zone + point);
   input.zid_asked = true;
   EXPECT_EQ(Maps_Of(input),
-            kSum + grid + site +
+            kSum + grid + zone +
                 "ZIDR   1.100000e+03  1.100000e+03  2.100000e+03  2.200000e+03\r\n" + point);
-  input.site = {};
   input.zid_asked = false;
+  input.evaluation = Evaluation::Criterion;
+  EXPECT_EQ(Maps_Of(input), kSum + grid + "SITE" + zone.substr(4) + point);
+  input.site = {};
   EXPECT_EQ(Maps_Of(input), kSum + grid + point);
 }
 

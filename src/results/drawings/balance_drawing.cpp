@@ -14,6 +14,9 @@
 namespace barvon {
 namespace {
 
+// Amounts come with so many; between output times they are computed.
+constexpr int kAmountDigits = 7;
+
 // From light to dark, so that grey print keeps them apart.
 constexpr Colour kWater{150, 198, 235}, kBottom{168, 128, 78}, kOutside{66, 52, 40};
 
@@ -132,10 +135,11 @@ std::string Balance_Csv(const Results& own, const Results* other, std::optional<
                               "on the bottom", "outside the grid"});
   for (const Side& side : Sides_Of(own, other, time)) {
     for (const Species_Balance& row : side.balances) {
-      csv += Csv_Line({side.name.empty() ? Project_Name(own) : side.name,
-                       Name_Of(*side.results, row.species), Amount_Unit(*side.results, row.species),
-                       Csv_Number(row.time), Csv_Number(row.released), Csv_Number(row.suspended),
-                       Csv_Number(row.on_grid), Csv_Number(row.off_grid)});
+      csv += Csv_Line(
+          {side.name.empty() ? Project_Name(own) : side.name, Name_Of(*side.results, row.species),
+           Amount_Unit(*side.results, row.species), Csv_Number(row.time),
+           Csv_Number(row.released, kAmountDigits), Csv_Number(row.suspended, kAmountDigits),
+           Csv_Number(row.on_grid, kAmountDigits), Csv_Number(row.off_grid, kAmountDigits)});
     }
   }
   return csv;

@@ -114,8 +114,9 @@ void Add_Marks(Map_Drawing& drawing) {
   };
   if (content.site) {
     const bool held = Is_Held(reach, *content.site);
-    say(Area_Words("Site", *content.site), held);
-    if (held) add_area("Site", *content.site, {kSiteInk, kOutline});
+    const char* name = content.mixing_zone ? "Mixing zone" : "Site";
+    say(Area_Words(name, *content.site), held);
+    if (held) add_area(name, *content.site, {kSiteInk, kOutline});
   }
   if (content.zid) {
     const bool held = Is_Held(reach, *content.zid);

@@ -24,6 +24,7 @@ struct Map_Content {
   bool lines = true;         // at the levels; on a scale of two sides always
   bool grid = false;         // the cells' edges
   std::optional<Result_Area> site, zid;
+  bool mixing_zone = false;  // the site is one
   std::optional<Result_Point> disposal;
   std::optional<Section_Line> section;
   std::string nothing;  // instead of a map: why there is none

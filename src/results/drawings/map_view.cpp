@@ -6,16 +6,15 @@
 
 #include "results/cell_places.h"
 #include "results/csv_text.h"
+#include "results/drawings/common_times.h"
 #include "results/drawings/result_words.h"
+#include "results/plain_numbers.h"
 
 namespace barvon {
 namespace {
 
-constexpr double kSame = 1e-6;  // of a depth, time or spacing: they come with seven digits
-
-bool Is_Same(double a, double b) {
-  return std::abs(a - b) <= kSame * std::max({1.0, std::abs(a), std::abs(b)});
-}
+// Values of maps come with five digits. Places come with seven and are multiplied by whole numbers.
+constexpr int kMapDigits = 5, kPlaceDigits = 10;
 
 const std::vector<Result_Map>& Maps_Of(const Results& results, Map_Kind kind) {
   return kind == Map_Kind::thickness ? results.beds : results.maps;
@@ -25,14 +24,14 @@ const Result_Map* Find(const Results& results, const Map_View& view) {
   const bool largest = view.largest && view.kind == Map_Kind::concentration;
   for (const Result_Map& map : largest ? results.most : Maps_Of(results, view.kind)) {
     if (map.species != view.species) continue;
-    if (view.kind == Map_Kind::concentration && !Is_Same(map.depth, view.depth)) continue;
-    if (largest || Is_Same(map.time, view.time)) return &map;
+    if (view.kind == Map_Kind::concentration && !Is_Same_Written(map.depth, view.depth)) continue;
+    if (largest || Is_Same_Written(map.time, view.time)) return &map;
   }
   return nullptr;
 }
 
 void Insert(std::vector<double>& values, double value) {
-  const auto is_same = [value](double known) { return Is_Same(known, value); };
+  const auto is_same = [value](double known) { return Is_Same_Written(known, value); };
   if (std::ranges::none_of(values, is_same)) values.push_back(value);
 }
 
@@ -70,7 +69,7 @@ std::optional<Span> Span_Of_All(const Results& results, const Map_View& view) {
   const bool largest = view.largest && !thickness;
   for (const Result_Map& map : largest ? results.most : Maps_Of(results, view.kind)) {
     if (map.species != view.species) continue;
-    if (thickness || Is_Same(map.depth, view.depth)) Take_In(span, map);
+    if (thickness || Is_Same_Written(map.depth, view.depth)) Take_In(span, map);
   }
   return span;
 }
@@ -91,31 +90,31 @@ Cell_Values Difference(const Results& own, const Result_Map& map, const Results&
                        const Result_Map& other_map) {
   Cell_Values cells = Whole_Grid(own.grid, map);
   const Cell_Values others = Whole_Grid(other.grid, other_map);
-  for (std::size_t i = 0; i < cells.values.size(); ++i) cells.values[i] -= others.values[i];
+  for (std::size_t i = 0; i < cells.values.size(); ++i) {
+    cells.values[i] = Written_Difference(cells.values[i], others.values[i], kMapDigits);
+  }
   return cells;
 }
+
+/// The size of the largest difference at any cell. It is looked for at every time: only the one
+/// found is brought to the digits of the maps.
+struct Largest_Found {
+  double one = 0, other = 0;
+
+  void Look(const Cell_Values& ones, const Cell_Values& others) {
+    for (std::size_t i = 0; i < ones.values.size(); ++i) {
+      if (std::abs(ones.values[i] - others.values[i]) > std::abs(one - other)) {
+        one = ones.values[i];
+        other = others.values[i];
+      }
+    }
+  }
+  double Size() const { return std::abs(Written_Difference(one, other, kMapDigits)); }
+};
 
 std::string Grid_Words(const Result_Grid& grid) {
   return std::to_string(grid.rows) + " x " + std::to_string(grid.columns) + " points of " +
          Depth_Words(grid.spacing_x) + " by " + Depth_Words(grid.spacing_z);
-}
-
-/// A few times each, many by their ends and the one nearest to the wanted.
-std::string Times_Of_Both(const std::vector<double>& times, double wanted) {
-  constexpr std::size_t kFew = 6;
-  if (times.empty()) return "No time is in both outputs.";
-  if (times.size() == 1) return "The time in both is " + Time_Words(times.front()) + ".";
-  if (times.size() > kFew) {
-    return std::to_string(times.size()) + " times are in both, from " + Time_Words(times.front()) +
-           " to " + Time_Words(times.back()) + "; the nearest is " +
-           Time_Words(Nearest(times, wanted)) + ".";
-  }
-  std::string words = "The times in both are ";
-  for (std::size_t i = 0; i < times.size(); ++i) {
-    if (i > 0) words += i + 1 < times.size() ? ", " : " and ";
-    words += Time_Words(times[i]);
-  }
-  return words + ".";
 }
 
 /// Puts together what a view shows.
@@ -198,20 +197,22 @@ class View_Content {
     if (view_.largest && !thickness) return none + maps + " with the largest values over time.";
     std::vector<double> both = Mapped_Times(own_, view_.kind, view_.species, view_.depth);
     std::erase_if(both, [&](double time) {
-      return std::ranges::none_of(others, [&](double other) { return Is_Same(time, other); });
+      return std::ranges::none_of(others,
+                                  [&](double other) { return Is_Same_Written(time, other); });
     });
     return none + maps + " at " + Time_Words(view_.time) + ". " + Times_Of_Both(both, view_.time);
   }
 
   bool Have_Same_Grid() const {
     const Result_Grid &a = own_.grid, &b = other_->grid;
-    return a.rows == b.rows && a.columns == b.columns && Is_Same(a.spacing_x, b.spacing_x) &&
-           Is_Same(a.spacing_z, b.spacing_z);
+    return a.rows == b.rows && a.columns == b.columns &&
+           Is_Same_Written(a.spacing_x, b.spacing_x) && Is_Same_Written(a.spacing_z, b.spacing_z);
   }
 
   void Fill() {
     const Results& shown = view_.side == Map_Side::other ? *other_ : own_;
     content_.site = shown.site;
+    content_.mixing_zone = shown.mixing_zone;
     content_.zid = shown.zid;
     content_.disposal = shown.disposal;
     if (view_.side == Map_Side::difference) {
@@ -241,16 +242,16 @@ class View_Content {
   }
 
   double Largest_Difference() const {
-    double largest = Largest_Size(content_.cells);
-    if (view_.largest) return largest;
+    if (view_.largest) return Largest_Size(content_.cells);
+    Largest_Found largest;
     Map_View at = view_, other_at = other_view_;
     for (const double time : Mapped_Times(own_, view_.kind, view_.species, view_.depth)) {
       at.time = other_at.time = time;
       const Result_Map *one = Find(own_, at), *other = Find(*other_, other_at);
       if (one == nullptr || other == nullptr) continue;
-      largest = std::max(largest, Largest_Size(Difference(own_, *one, *other_, *other)));
+      largest.Look(Whole_Grid(own_.grid, *one), Whole_Grid(other_->grid, *other));
     }
-    return largest;
+    return largest.Size();
   }
 
   const Results& own_;
@@ -287,7 +288,7 @@ std::vector<double> Mapped_Times(const Results& results, Map_Kind kind, int spec
   std::vector<double> times;
   for (const Result_Map& map : Maps_Of(results, kind)) {
     if (map.species != species) continue;
-    if (kind == Map_Kind::thickness || Is_Same(map.depth, depth)) Insert(times, map.time);
+    if (kind == Map_Kind::thickness || Is_Same_Written(map.depth, depth)) Insert(times, map.time);
   }
   std::ranges::sort(times);
   return times;
@@ -330,20 +331,20 @@ std::string Map_Numbers(const Map_Drawing& drawing) {
   const Map_Content& content = drawing.content;
   if (!content.nothing.empty()) return {};
   const std::string value = content.quantity + " (" + content.unit + ")";
+  const auto place = [](double feet) { return Csv_Number(feet, kPlaceDigits); };
   std::string text = Csv_Line({"X (ft)", "Z (ft)", value});
   const Cell_Values& cells = content.cells;
   for (int row = 1; row <= cells.rows; ++row) {
     for (int column = 1; column <= cells.columns; ++column) {
-      const Result_Point place = Centre_Of(cells, {row, column});
-      text +=
-          Csv_Line({Csv_Number(place.x), Csv_Number(place.z), Csv_Number(cells.At(row, column))});
+      const Result_Point centre = Centre_Of(cells, {row, column});
+      text += Csv_Line({place(centre.x), place(centre.z), Csv_Number(cells.At(row, column))});
     }
   }
   if (!drawing.section) return text;
   text += "\r\n" + Csv_Line({"Distance (ft)", "X (ft)", "Z (ft)", value});
   for (const Section_Sample& sample : drawing.section->samples) {
-    text += Csv_Line({Csv_Number(sample.distance), Csv_Number(sample.place.x),
-                      Csv_Number(sample.place.z), Csv_Number(sample.value)});
+    text += Csv_Line({place(sample.distance), place(sample.place.x), place(sample.place.z),
+                      Csv_Number(sample.value, kMapDigits)});
   }
   return text;
 }

@@ -45,7 +45,7 @@ void Add_Curves(Maxima_Drawing& drawing, const Source& source, const Maxima_Choi
   for (const Area_Choice& area : Areas_Of(*source.results, choice)) {
     if (!area.wanted) continue;
     drawing.curves.push_back(
-        {source.prefix + Where_Words(area.where), area.where, source.of_other,
+        {source.prefix + Where_Words(area.where, *source.results), area.where, source.of_other,
          Series_Of(*source.results, source.species, area.where, choice.depth)});
   }
 }

@@ -6,6 +6,7 @@
 
 #include "pictures/shapes/axis_scale.h"
 #include "platform/files/paths.h"
+#include "results/summary.h"
 
 namespace barvon {
 namespace {
@@ -33,12 +34,20 @@ std::string Depth_Words(double feet) {
   return Short_Text(std::round(feet * kHundredths) / kHundredths) + " ft";
 }
 
-std::string Where_Words(Result_Where where) {
+std::string Site_Name(const Results& own, const Results* other) {
+  // Without a site there is none to be named.
+  const bool alone = other == nullptr || !Has_Site(*other);
+  const bool first = own.mixing_zone, second = alone ? first : other->mixing_zone;
+  if (Has_Site(own) && first != second) return "site or zone";
+  return second ? "mixing zone" : "site";
+}
+
+std::string Where_Words(Result_Where where, const Results& results) {
   switch (where) {
     case Result_Where::inside:
-      return "inside the site";
+      return "inside the " + Site_Name(results);
     case Result_Where::outside:
-      return "outside the site";
+      return "outside the " + Site_Name(results);
     case Result_Where::outside_zid:
       return "outside the ZID";
     case Result_Where::anywhere:

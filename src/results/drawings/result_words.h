@@ -18,8 +18,12 @@ std::string Value_Words(double value, const std::string& unit);
 /// "20 ft", in hundredths at most.
 std::string Depth_Words(double feet);
 
-/// "inside the site", "outside the site", "outside the ZID", "anywhere".
-std::string Where_Words(Result_Where where);
+/// "site", "mixing zone"; of two results that have not the same, "site or zone". `other` may be
+/// null.
+std::string Site_Name(const Results& own, const Results* other = nullptr);
+
+/// "inside the site", "outside the mixing zone", "outside the ZID", "anywhere".
+std::string Where_Words(Result_Where where, const Results& results);
 
 /// The name of a project's file without folder and extension.
 std::string Project_Name(const Results& results);

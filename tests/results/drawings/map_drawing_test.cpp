@@ -153,6 +153,17 @@ TEST(MapDrawing, Site_Is_Solid_Zid_Dashed_And_Both_Have_Their_Place_In_The_Legen
   EXPECT_NE(drawing.description.find("Disposal point: X 100 ft, Z 100 ft."), std::string::npos);
 }
 
+TEST(MapDrawing, A_Mixing_Zone_Is_Called_So) {
+  Map_Content content = One_Peak();
+  content.site = Result_Area{0, 0, 200, 300};
+  content.mixing_zone = true;
+  const Map_Drawing drawing = Draw_Map(content);
+  const auto letters = Letters(Map_Shapes(drawing, kCanvas));
+  EXPECT_TRUE(Has(letters, "Mixing zone"));
+  EXPECT_FALSE(Has(letters, "Site"));
+  EXPECT_NE(drawing.description.find("Mixing zone: X 0 to 200 ft"), std::string::npos);
+}
+
 TEST(MapDrawing, What_Reaches_Beyond_The_Grid_Is_Told_Not_Drawn) {
   Map_Content content = One_Peak();
   content.site = Result_Area{0, 0, 200, 9000};

@@ -156,6 +156,20 @@ TEST(MapView, The_Difference_Is_The_Own_Less_The_Other) {
   EXPECT_EQ(content.scale.levels.back(), 5);  // below 8
 }
 
+TEST(MapView, A_Difference_Has_No_Digits_Of_The_Subtraction) {
+  Results own = Mapped_Results(), other = Mapped_Results();
+  own.beds[0].values = {0.9, 1.2, 0.3, 0.9};
+  other.beds[0].values = {0.6, 1.1, 0, 0.9};
+  other.path = "/p/other.DUI";
+  Map_View view = Of(0, 0, 600);
+  view.kind = Map_Kind::thickness;
+  view.side = Map_Side::difference;
+  const Map_Content content = Content_Of(own, &other, view);
+  EXPECT_EQ(Map_Numbers(Draw_Map(content)),
+            "X (ft),Z (ft),Difference in thickness (ft)\r\n"
+            "0,0,0.3\r\n0,100,0.1\r\n100,0,0.3\r\n100,100,0\r\n");
+}
+
 TEST(MapView, Grids_That_Differ_Have_No_Difference) {
   Results other = Other();
   other.grid.spacing_z = 50;

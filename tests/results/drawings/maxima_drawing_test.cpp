@@ -51,6 +51,17 @@ TEST(MaximaDrawing, A_Curve_For_Each_Area_Of_The_Run) {
   EXPECT_EQ(Values_Of(drawing.curves[1]), (std::vector<double>{0.5, 3, 1, 0.7}));
 }
 
+TEST(MaximaDrawing, Curves_Of_A_Mixing_Zone_Say_So) {
+  Results zone = Small_Results();
+  zone.mixing_zone = true;
+  zone.path = "/work/zone.DUI";
+  const Results site = Small_Results();
+  const auto drawing = Draw_Maxima(zone, &site, {.species = 2, .inside = false});
+  ASSERT_EQ(drawing.curves.size(), 2u);
+  EXPECT_EQ(drawing.curves[0].name, "zone, outside the mixing zone");
+  EXPECT_EQ(drawing.curves[1].name, "small, outside the site");
+}
+
 TEST(MaximaDrawing, All_Depths_Are_The_Largest_Of_Them) {
   const auto drawing = Draw_Maxima(Small_Results(), nullptr, {.species = 2, .inside = false});
   ASSERT_EQ(drawing.curves.size(), 1u);

@@ -18,6 +18,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTreeView>
 
@@ -69,6 +70,7 @@ class Plain_Icons : public QFileIconProvider {
 };
 
 constexpr QSize kSize(680, 440);
+constexpr QSize kFrame(16, 48);  // what the desktop puts around a window, at most
 
 /// The toolkit reads several names in quotation marks out of the field, so that a name which holds
 /// some would be another one, and it reads variables and users' names. Here what stands in the
@@ -253,7 +255,7 @@ class File_Dialog : public QFileDialog {
   /// Names, sizes and dates are shown whole; what kind of file it is the filter says already.
   void Make_Room() {
     constexpr int kType = 2;
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize() - kFrame));
     Name_Lists();
     auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr) return;
