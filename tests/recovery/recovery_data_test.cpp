@@ -207,6 +207,21 @@ TEST_F(RecoveryData, A_Damaged_Copy_Is_Told_Can_Not_Be_Restored_And_Stays) {
   EXPECT_EQ(Read_Text(copy), bytes);
 }
 
+TEST_F(RecoveryData, A_Copy_That_Can_Not_Be_Thrown_Away_Is_Told_And_Stays) {
+  Crash([](ProjectRecord& record) { record.ProjectTitle = "x"; });
+  auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  fs::remove(rows[0].left.path);
+  fs::create_directory(rows[0].left.path);
+  const Scripted_Messages messages({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Throw_Copy_Away(rows[0]));
+  ASSERT_EQ(messages.shown.size(), 2U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Throw away the changes of site.DUI that were not saved? They can't be brought back.");
+  EXPECT_EQ(messages.shown[1].text, "The copy could not be removed: Is a directory.");
+  EXPECT_TRUE(Exists(rows[0].left.path));
+}
+
 TEST_F(RecoveryData, A_Name_That_Was_Typed_For_A_Save_That_Did_Not_Come_About_Is_Asked_About) {
   Crash(
       [&](ProjectRecord& record) {
