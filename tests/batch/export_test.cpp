@@ -83,6 +83,14 @@ TEST_F(BatchExport, A_Model_Input_That_Can_Not_Be_Written_Leaves_No_File) {
   EXPECT_FALSE(Exists(Path("fresh.DUE")));
 }
 
+TEST_F(BatchExport, Says_Why_A_File_Could_Not_Be_Written) {
+  Put_Sample(kHopper, "site.DUI");
+  const Program_Result result = Batch({"export", "site.DUI", "-o", "none/site.DUE"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "site.DUI: " + Path("none/site.DUE") +
+                            " can't be written: No such file or directory\n");
+}
+
 TEST_F(BatchExport, What_Can_Be_Done_Is_Done) {
   Put_Sample(kHopper, "site.DUI");
   EXPECT_EQ(Batch({"export", "missing.DUI", "site.DUI"}).code, 2);
