@@ -204,8 +204,12 @@ TEST_F(BatchNew, Leaves_A_Project_That_A_Window_Has_As_It_Is) {
 }
 
 TEST_F(BatchNew, Refuses_A_Name_That_Is_No_Projects) {
-  EXPECT_EQ(Batch({"new", "site.txt"}).code, 2);
-  EXPECT_FALSE(Exists(Path("site.txt")));
+  for (const char* name : {"site.txt", "DUI"}) {
+    const Program_Result result = Batch({"new", name});
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.err, std::string(name) + ": a project's name ends in .DUI\n");
+    EXPECT_FALSE(Exists(Path(name)));
+  }
 }
 
 TEST_F(BatchNew, Says_Why_A_File_Could_Not_Be_Written) {

@@ -63,6 +63,14 @@ TEST_F(CommandLine, Words_That_Are_Not_Expected_Are_Told_As_They_Were_Typed) {
             "barvon-run: not expected: --fast --now (see barvon-run --help)\n");
 }
 
+TEST_F(CommandLine, Options_That_Do_Not_Go_Together_Are_Told_Why) {
+  EXPECT_EQ(Batch({"run", "--solver-dir", "", "x.DUI"}).err,
+            "barvon-run: --solver-dir names no folder (see barvon-run --help)\n");
+  EXPECT_EQ(Batch({"run", "--solver", "companion", "--solver-dir", "solvers", "x.DUI"}).err,
+            "barvon-run: --solver companion takes no --solver-dir, which is for external solvers "
+            "(see barvon-run --help)\n");
+}
+
 TEST_F(CommandLine, A_Full_Disk_Behind_Standard_Output_Is_Told) {
   Program_Start start = Start_Of({"--help"});
   start.command = {BARVON_RUN_PROGRAM, "show", "--json", "site.DUI"};

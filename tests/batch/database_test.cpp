@@ -49,6 +49,17 @@ TEST_F(BatchDatabase, Mend_Writes_And_Keeps_Copies) {
   EXPECT_EQ(Read_Text(Path("db/matdb.dat.bak")), sites.substr(0, sites.size() - 2));
 }
 
+TEST_F(BatchDatabase, A_File_That_Can_Not_Be_Mended_Is_Told_With_The_Reason) {
+  const std::string sites = Read_Text(Path("db/matdb.dat"));
+  const std::string damaged = sites.substr(0, sites.size() - 2);
+  Write_Text(Path("db/matdb.dat"), damaged);
+  fs::create_symlink("nowhere/copy", Path("db/matdb.dat.bak"));
+  const Program_Result result = Batch({"database", "check", "db", "--mend"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "db/matdb.dat: can't be mended: No such file or directory\n");
+  EXPECT_EQ(Read_Text(Path("db/matdb.dat")), damaged);
+}
+
 TEST_F(BatchDatabase, A_Folder_That_Is_None_Can_Not_Be_Checked) {
   const Program_Result result = Batch({"database", "check", "nowhere"});
   EXPECT_EQ(result.code, 2);

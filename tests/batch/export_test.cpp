@@ -44,7 +44,7 @@ TEST_F(BatchExport, Several_Projects_Do_Not_Go_Into_One_File) {
   Put_Sample(kBarge, "barge.DUI");
   const Program_Result result = Batch({"export", "hopper.DUI", "barge.DUI", "-o", "one.DUE"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(Printed_Lines(result.err).size(), 1u);
+  EXPECT_EQ(result.err, "one.DUE: several projects can only be exported into an existing folder\n");
   EXPECT_FALSE(Exists(Path("one.DUE")));
 }
 
@@ -81,6 +81,14 @@ TEST_F(BatchExport, A_Model_Input_That_Can_Not_Be_Written_Leaves_No_File) {
   EXPECT_TRUE(result.err.starts_with("fresh.DUI: the model input can't be written: "))
       << result.err;
   EXPECT_FALSE(Exists(Path("fresh.DUE")));
+}
+
+TEST_F(BatchExport, Says_Why_A_File_Could_Not_Be_Written) {
+  Put_Sample(kHopper, "site.DUI");
+  const Program_Result result = Batch({"export", "site.DUI", "-o", "none/site.DUE"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "site.DUI: " + Path("none/site.DUE") +
+                            " can't be written: No such file or directory\n");
 }
 
 TEST_F(BatchExport, What_Can_Be_Done_Is_Done) {

@@ -266,6 +266,18 @@ TEST_F(BatchRun, A_Missing_Solver_Folder_Is_Told_Once) {
   EXPECT_EQ(result.err, "nowhere: no such folder for --solver-dir\n");
 }
 
+TEST_F(BatchRun, A_Folder_For_Scratch_Folders_That_Is_None_Is_Told) {
+  Put_Sample(kHopper, "site.DUI");
+  Put_Solver(kAllOutputsScript);
+  Program_Start start = Start_Of({"run", "--solver-dir", "solvers", "site.DUI"});
+  start.environment.push_back("TMPDIR=" + Path("nowhere"));
+  const Program_Result result = Run_Program(start);
+  EXPECT_EQ(result.code, 2);
+  EXPECT_TRUE(result.err.starts_with("site.DUI: no scratch folder " + Path("nowhere/barvon-run-")))
+      << result.err;
+  EXPECT_TRUE(result.err.ends_with(": No such file or directory\n")) << result.err;
+}
+
 TEST_F(BatchRun, A_Project_With_Findings_Is_Not_Run_And_They_Are_Listed) {
   Put_Faulty("site.DUI");
   const Program_Result result = Batch({"run", "site.DUI"});
@@ -342,6 +354,20 @@ TEST_F(BatchRun, Jobs_Relay_What_Each_Says_And_The_Worst_Code) {
   EXPECT_EQ(Printed_Lines(result.err),
             (Lines{"c.DUI: can't be read: No such file or directory",
                    "d.DUI: Not run: no model is available for this discharge case."}));
+}
+
+TEST_F(BatchRun, A_Job_That_A_Signal_Ends_Is_Told_And_The_Others_Go_On) {
+  Put_Sample(kHopper, "a.DUI");
+  Put_Sample(kBarge, "b.DUI");
+  Put_Solver("case \"$(sed -n 2p Tmpfile.Due)\" in *HOPPER*) kill -9 $PPID; exit;; esac\n" +
+             std::string(kAllOutputsScript));
+  const Program_Result result =
+      Batch({"run", "--jobs", "2", "--solver-dir", "solvers", "a.DUI", "b.DUI"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "a.DUI: its run was ended by signal 9\n");
+  EXPECT_TRUE(result.out.starts_with("b.DUI\tran\t")) << result.out;
+  Batch({"check", "b.DUI"});  // takes what the killed one has left
+  EXPECT_EQ(Left_Behind(), Lines{});
 }
 
 TEST_F(BatchRun, The_Same_Project_Twice_Is_Run_Once) {

@@ -290,6 +290,41 @@ TEST_F(DatabaseCheck, A_Printed_Site_With_A_Number_Or_A_Line_Too_Many_Stays) {
             "dispdb.dat, line 26: the free layout has 1 number in this line, and nothing else");
 }
 
+TEST_F(DatabaseCheck, A_Printed_Site_With_Text_In_An_Empty_Line_Stays) {
+  Write("dispdb.dat", kNorth + kSouth + With_Line(kPrinted, 5, " 7 "));
+  EXPECT_TRUE(Check_Database(folder.path()).mends.empty());
+  const Lines found = Found("dispdb.dat");
+  EXPECT_NE(std::ranges::find(found, "dispdb.dat, line 28: the free layout has an empty line here"),
+            found.end());
+}
+
+TEST_F(DatabaseCheck, No_Line_Is_Added_Behind_A_Last_Site_That_Stays) {
+  std::string steep = kPrinted;
+  steep.replace(steep.find(" 0  0.25 "), 9, " 0.0125  0.0015 ");
+  Write("dispdb.dat", kNorth + kSouth + steep);
+  EXPECT_TRUE(Check_Database(folder.path()).mends.empty());
+  EXPECT_EQ(Found("dispdb.dat").back(),
+            "dispdb.dat, line 33: a line is missing behind the last record, which the walk does "
+            "not find; the record stays as it is, so none is added");
+}
+
+TEST_F(DatabaseCheck, A_File_That_Ends_Inside_A_Record) {
+  Write("dispdb.dat", kNorth + kSouth.substr(0, kSouth.find("    20")));
+  EXPECT_TRUE(Check_Database(folder.path()).mends.empty());
+  EXPECT_EQ(Found("dispdb.dat"),
+            Lines{"dispdb.dat, line 14: the file ends inside the record of code 200, which is not "
+                  "whole and stays as it is"});
+}
+
+TEST_F(DatabaseCheck, A_Number_Behind_The_Last_Columns_Is_A_Remark) {
+  std::string north = kNorth;
+  north.replace(north.find(" 0.5 0.25"), 9, " 0.5 0.25  7");
+  Write("dispdb.dat", north + kSouth + "\r\n");
+  EXPECT_EQ(Found("dispdb.dat"),
+            Lines{"dispdb.dat, line 7: remark: a number stands behind the last columns, where none "
+                  "is read"});
+}
+
 // A deep point of the profile looks as the first line of site 1000 does.
 TEST_F(DatabaseCheck, Lines_Behind_A_Break_Stay) {
   std::string shallow = kPrinted;

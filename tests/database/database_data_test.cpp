@@ -286,6 +286,18 @@ TEST_F(DatabaseData, Update_Tells_Of_A_File_That_Can_Not_Be_Written) {
   EXPECT_EQ(Read_Text(folder_ / "dspsites.dat"), "1\r\nNorth\r\n\r\n2\r\nSouth\r\n\r\n");
 }
 
+TEST_F(DatabaseData, Mending_Tells_Of_A_File_That_Can_Not_Be_Written) {
+  const std::string site = Site_Record(" 100", "    10");
+  Write("dispdb.dat", site);
+  std::filesystem::create_symlink("nowhere/copy", folder_ / "dispdb.dat.bak");
+  Scripted_Messages boxes({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Mend_Database_Files(Check_Database(folder_.path())));
+  EXPECT_EQ(boxes.shown.at(1).text, "Can't mend the file dispdb.dat. No such file or directory");
+  EXPECT_EQ(boxes.shown.at(1).icon, Icon::Critical);
+  EXPECT_EQ(Read_Text(folder_ / "dispdb.dat"), site);
+  EXPECT_EQ(notes_, Lines{});
+}
+
 TEST_F(DatabaseData, Mending_Is_Asked_First_And_Keeps_Copies) {
   const std::string site = Site_Record(" 100", "    10");
   Write("dispdb.dat", site);

@@ -76,6 +76,23 @@ TEST_F(FrmRecovery, Shows_What_Differs_And_Restores_It) {
   EXPECT_FALSE(Offer_Recovery(&bench.main(), keeper));
 }
 
+// A value that is kept in the file and shown nowhere.
+TEST_F(FrmRecovery, A_Change_That_No_Report_Tells_Is_Said_To_Be_None_Of_Its) {
+  ASSERT_TRUE(Open_Project(path, Project()));
+  Recovery_Keeper former(Project());
+  Project().SpareReal21 = 5;
+  Project().DataSaved = kFalse;
+  former.Leave_Unasked();
+  bench.Action("mnuFileItem(0)")->trigger();
+  EXPECT_FALSE(Offer([&](QWidget* window) {
+    EXPECT_EQ(window->findChild<QTableWidget*>("Table1")->rowCount(), 0);
+    EXPECT_EQ(window->findChild<QLabel*>("Label2")->text().toStdString(),
+              path + " is as it was. Nothing that a report tells differs.");
+    EXPECT_TRUE(window->findChild<QPushButton*>("Command1(0)")->isEnabled());
+    Press(window, 1);
+  }));
+}
+
 TEST_F(FrmRecovery, What_It_Says_Is_Taken_Back_By_A_Save) {
   Crash("After the crash");
   EXPECT_TRUE(Offer([](QWidget* window) { Press(window, 0); }));

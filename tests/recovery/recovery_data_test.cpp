@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "core/desk/edit_entries.h"
 #include "core/desk/file_dialogs.h"
 #include "core/desk/load_record.h"
 #include "core/desk/open_file.h"
@@ -162,6 +163,32 @@ TEST_F(RecoveryData, A_File_That_Is_Gone_And_One_That_Never_Was_Are_Told) {
   EXPECT_EQ(record->ProjectFileName, "");
 }
 
+TEST_F(RecoveryData, A_File_That_Can_Not_Be_Read_Any_More_Is_Told) {
+  Crash([](ProjectRecord& record) { record.ProjectTitle = "mine"; });
+  Write_Text(path, "no project");
+  const auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows[0].state, path + " can't be read: the file is cut off, or it is no project file.");
+  EXPECT_EQ(rows[0].column, "In a new project");
+  EXPECT_TRUE(rows[0].Can_Be_Restored());
+}
+
+// Element 9 is the disposal operation, element 10 the coefficients, which have their own words.
+TEST_F(RecoveryData, Screens_That_Were_Accepted_Are_Marked_In_The_Edit_Menu_Again) {
+  Crash([](ProjectRecord& record) {
+    record.ProjectTitle = "mine";
+    record.ScreenDataSupplied[9] = kTrue;
+  });
+  auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  std::vector<int> marked;
+  Port().board.mark_edit_item = [&](int index) { marked.push_back(index); };
+  const auto record = Fresh_Record();
+  Recovery_Keeper keeper(*record);
+  ASSERT_TRUE(Restore_Project(rows[0], keeper, *record));
+  EXPECT_EQ(marked, std::vector<int>{kEditOperation});
+}
+
 TEST_F(RecoveryData, What_Was_Saved_Just_Before_The_End_Is_Not_Offered) {
   Crash([](ProjectRecord& record) { record.ProjectTitle = "saved"; });
   {
@@ -205,6 +232,21 @@ TEST_F(RecoveryData, A_Damaged_Copy_Is_Told_Can_Not_Be_Restored_And_Stays) {
   Recovery_Keeper keeper(*record);
   EXPECT_FALSE(Restore_Project(rows[0], keeper, *record));
   EXPECT_EQ(Read_Text(copy), bytes);
+}
+
+TEST_F(RecoveryData, A_Copy_That_Can_Not_Be_Thrown_Away_Is_Told_And_Stays) {
+  Crash([](ProjectRecord& record) { record.ProjectTitle = "x"; });
+  auto rows = Recovery_Rows();
+  ASSERT_EQ(rows.size(), 1U);
+  fs::remove(rows[0].left.path);
+  fs::create_directory(rows[0].left.path);
+  const Scripted_Messages messages({Answer::Yes, Answer::Ok});
+  EXPECT_FALSE(Throw_Copy_Away(rows[0]));
+  ASSERT_EQ(messages.shown.size(), 2U);
+  EXPECT_EQ(messages.shown[0].text,
+            "Throw away the changes of site.DUI that were not saved? They can't be brought back.");
+  EXPECT_EQ(messages.shown[1].text, "The copy could not be removed: Is a directory.");
+  EXPECT_TRUE(Exists(rows[0].left.path));
 }
 
 TEST_F(RecoveryData, A_Name_That_Was_Typed_For_A_Save_That_Did_Not_Come_About_Is_Asked_About) {

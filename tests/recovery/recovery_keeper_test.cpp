@@ -11,9 +11,11 @@
 #include <memory>
 #include <random>
 
+#include "core/byte_strings.h"
 #include "core/desk/load_record.h"
 #include "core/desk/workspace_port.h"
 #include "core/record_bytes.h"
+#include "platform/files/check_sum.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -87,6 +89,34 @@ TEST_F(Recovery, A_Cut_Or_Changed_Copy_Is_No_Copy) {
     EXPECT_FALSE(Read_Copy(changed));
   }
   EXPECT_FALSE(Read_Copy(""));
+}
+
+TEST_F(Recovery, A_Field_That_The_Record_Does_Not_Have_Is_Passed_Over) {
+  std::string bytes;
+  Append_Text(bytes, "FieldToCome");
+  Append_Text(bytes, "any bytes");
+  record->DEPC0 = 42;
+  bytes += Record_Bytes(
+      *record, [](const Record_Field& field) { return std::string(field.name) == "DEPC0"; });
+  const auto back = Fresh_Record();
+  EXPECT_TRUE(Set_Record_Bytes(bytes, *back));
+  EXPECT_EQ(back->DEPC0, 42);
+}
+
+// Its sum is right: somebody has written it so.
+TEST_F(Recovery, A_Copy_With_A_Number_That_Is_None_Is_No_Copy) {
+  std::string bytes =
+      Copy_Bytes({std::make_unique<ProjectRecord>(*record), 1, File_State{2, 3}, true, false});
+  bytes.resize(bytes.size() - sizeof(std::uint64_t));
+  const std::size_t made = bytes.find('\n') + 1 + sizeof(std::uint32_t);  // behind its length
+  ASSERT_EQ(bytes.at(made), '1');
+  const auto with_sum = [](std::string whole) {
+    const std::uint64_t sum = Check_Sum(whole);
+    return whole.append(reinterpret_cast<const char*>(&sum), sizeof sum);
+  };
+  ASSERT_TRUE(Read_Copy(with_sum(bytes)));
+  bytes[made] = 'x';
+  EXPECT_FALSE(Read_Copy(with_sum(bytes)));
 }
 
 TEST_F(Recovery, A_New_Project_Has_Nothing_To_Keep) {

@@ -147,6 +147,8 @@ TEST(AsciiGrid, Its_Notes_Tell_What_It_Cannot) {
             "&lt;20 ft</Description>\n    <UnitType>mg/l</UnitType>\n  </PAMRasterBand>\n"
             "</PAMDataset>\n");
   EXPECT_EQ(Ascii_Grid_Notes(*grid, Feet(0), "", "").find("SYSTEM"), std::string::npos);
+  EXPECT_NE(Ascii_Grid_Notes(*grid, Feet(0), "a > b\n", "").find("<Description>a &gt; b <"),
+            std::string::npos);
 }
 
 }  // namespace

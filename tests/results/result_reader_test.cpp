@@ -272,6 +272,37 @@ TEST(ResultReader, Rows_Come_In_The_Order_Of_Their_Times_Each_With_All_Species) 
             "line 19: the output is not whole: MASS lines of some times are missing");
 }
 
+// The two times hold the same number of lines, but not one for each of the two species.
+TEST(ResultReader, A_Species_That_Is_Missing_From_All_Times_Is_Told) {
+  std::string series = kSmallSeries;
+  for (const char* line : {"MASS   6.000000e+02    2", "MASS   1.200000e+03    2"}) {
+    const std::size_t at = series.find(line);
+    series.erase(at, series.find('\n', at) + 1 - at);
+  }
+  EXPECT_EQ(Of_Series(series), "line 19: the output is not whole: a species has fewer lines");
+}
+
+TEST(ResultReader, Largest_Values_Without_Their_Places_Are_Not_Whole) {
+  std::string series = kSmallSeries;
+  const std::size_t at = series.find("PEAK   1.2");
+  series.erase(at, series.find("MASS") - at);
+  EXPECT_EQ(Of_Series(series),
+            "line 19: the output is not whole: MAXI and PEAK lines of different times");
+}
+
+TEST(ResultReader, Species_Come_Before_All_Series_And_Are_99_At_Most) {
+  EXPECT_EQ(Of_Series(kSmallSeries + "SPEC     3  Lead      mg/l\r\n"),
+            "line 21: a species behind the series");
+  std::string species;
+  for (int i = 1; i <= 100; ++i) {
+    std::string number = std::to_string(i);
+    number.insert(0, 5 - number.size(), ' ');
+    species.append("SPEC ").append(number).append("  Lead      mg/l\r\n");
+  }
+  EXPECT_EQ(Of_Series(kSmallSeries.substr(0, kSmallSeries.find("SPEC")) + species),
+            "line 103: more species than a run has");
+}
+
 TEST(ResultReader, What_Is_Wrong_In_The_Maps_Is_Told_With_Its_Line_And_Columns) {
   EXPECT_EQ(Maps_With("GRID", "GRIT"), "line 4: no GRID line");
   EXPECT_EQ(Maps_With("GRID     3", "GRID     0"),
@@ -327,6 +358,14 @@ TEST(ResultReader, Descent_And_Collapse_Are_Held_To_Their_Columns) {
             "line 5: no number in columns 76 to 89");
   EXPECT_EQ(Of_Phases(With(kSmallPhases, "  1.000000e+02\r", "\r")),
             "line 5: a step without solids");
+  const std::string step = kSmallPhases.substr(kSmallPhases.find("STEP"));
+  EXPECT_EQ(Of_Phases(kSmallPhases + step), "");
+  EXPECT_EQ(Of_Phases(kSmallPhases + With(step, "\r", "  1.000000e+02\r")),
+            "line 6: not as long as the steps before");
+  EXPECT_EQ(Of_Phases(With(kSmallPhases, "PHAS     1  ", "PHAS     1 x")),
+            "line 4: no blanks in columns 11 to 12");
+  EXPECT_EQ(Of_Phases(kSmallPhases + "STOP \r\n"),
+            "line 6: \"STOP \" begins no line of this output");
 }
 
 TEST(ResultReader, Outputs_Of_Another_Run_Do_Not_Go_With_These) {

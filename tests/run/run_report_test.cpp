@@ -125,10 +125,31 @@ TEST(RunReport, The_Text_Tells_Why_Nothing_Was_Run) {
   EXPECT_EQ(text(Run_Stage::No_Model),
             "Not run: no model is available for this discharge case; "
             "Tmpfile.Due could not be written into /app (Disk full).");
-  for (const Run_Stage stage : {Run_Stage::Refused, Run_Stage::No_File, Run_Stage::Invalid_Type,
-                                Run_Stage::Errors, Run_Stage::Cancelled, Run_Stage::Save_Failed}) {
-    EXPECT_EQ(text(stage).substr(0, 9), "Not run: ");
-  }
+  EXPECT_EQ(text(Run_Stage::Refused), "Not run: another run is under way.");
+  EXPECT_EQ(text(Run_Stage::No_File), "Not run: the project has no file.");
+  EXPECT_EQ(text(Run_Stage::Invalid_Type), "Not run: this type of file can't be run.");
+  EXPECT_EQ(text(Run_Stage::Errors), "Not run: errors in the data are to be fixed first.");
+  EXPECT_EQ(text(Run_Stage::Cancelled), "Not run: cancelled.");
+  EXPECT_EQ(text(Run_Stage::Save_Failed), "Not run: the project could not be saved.");
+}
+
+TEST(RunReport, A_Code_That_Nobody_Told_Is_Said_To_Be_Unknown) {
+  Run_Report report = Ended_Run();
+  report.outcome.end.exit_code = -1;
+  report.Add_Outputs(All_Kept());
+  EXPECT_FALSE(report.Succeeded());
+  EXPECT_EQ(Status_Text(report),
+            "merak32 ended with a code that the system did not tell after 2.3 s; "
+            "4 of 4 outputs kept; kept site.duo, site.dup, site.dut, site.duc in /bay; "
+            "the solver was /app/merak32.");
+}
+
+TEST(RunReport, A_Signal_Without_A_Name_Is_Told_By_Its_Number) {
+  Run_Report report = Ended_Run();
+  report.outcome.end.signal = SIGRTMAX;
+  EXPECT_EQ(Status_Text(report), "merak32 was ended by signal " + std::to_string(SIGRTMAX) +
+                                     " after 2.3 s; 0 of 4 outputs kept; the solver was "
+                                     "/app/merak32.");
 }
 
 }  // namespace

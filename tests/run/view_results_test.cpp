@@ -200,6 +200,31 @@ TEST_F(ViewResults, A_Graphics_Program_That_Fails_Is_Not_Passed_Over_In_Silence)
   EXPECT_EQ(bench.notes[0].details, "no such library\n");
 }
 
+TEST_F(ViewResults, A_Graphics_Program_That_A_Signal_Ends_Is_Told) {
+  Save_Project();
+  bench.Install("kv_graph", "error:out of bounds\nsignal:11\n");
+  Scripted_Messages messages;
+  Graph_Command(record, 0);
+  ASSERT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(bench.notes[0].text, (bench / "kv_graph") + " was ended by signal 11.");
+  EXPECT_EQ(bench.notes[0].details, "out of bounds\n");
+}
+
+TEST_F(ViewResults, Where_The_Settings_Can_Not_Be_Written_No_Other_Project_Is_Shown) {
+  Save_Project();
+  std::filesystem::create_directory(bench / "BARVON.INI");
+  bench.Install("kv_graph", "write:seen.txt=x\n");
+  Scripted_Messages messages({Answer::Ok});
+  Graph_Command(record, 0);
+  EXPECT_TRUE(messages.shown.at(0).text.starts_with("Can't write the settings to "))
+      << messages.shown.at(0).text;
+  ASSERT_EQ(bench.notes.size(), 1u);
+  EXPECT_EQ(bench.notes[0].text,
+            "The settings could not be written, so the graphics program would show another "
+            "project; it was not started.");
+  EXPECT_FALSE(Exists(bench / "seen.txt"));
+}
+
 TEST_F(ViewResults, A_Graphics_Program_That_Can_Not_Be_Started_Is_Told) {
   Save_Project();
   Write_Text(bench / "kv_graph.exe", "#!/bin/sh\n");  // not executable

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 #include <functional>
@@ -41,6 +42,7 @@ class Modal_Replies {
 
  private:
   void Look();
+  void Reply_To(QPointer<QWidget> window, std::size_t turn);
 
   std::vector<Reply> replies_;
   std::set<QWidget*> answered_;

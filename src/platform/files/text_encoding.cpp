@@ -17,10 +17,9 @@ constexpr std::array<std::uint32_t, 32> kUpperControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+/// Of a character above ASCII.
 void Append_UTF8(std::string& text, std::uint32_t character) {
-  if (character < 0x80) {
-    text += static_cast<char>(character);
-  } else if (character < 0x800) {
+  if (character < 0x800) {
     text += static_cast<char>(0xC0 | (character >> 6));
     text += static_cast<char>(0x80 | (character & 0x3F));
   } else {

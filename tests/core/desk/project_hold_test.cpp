@@ -18,6 +18,7 @@
 #include "core/desk/save_file.h"
 #include "core/desk/workspace_port.h"
 #include "core/keys.h"
+#include "platform/files/paths.h"
 #include "support/plain_support.h"
 
 namespace barvon {
@@ -157,6 +158,17 @@ TEST_F(ProjectHold, A_Project_Of_Another_Window_Is_Not_Saved_Over_Unasked) {
     EXPECT_FALSE(Save_File(path, kProjectKind, *record));
     EXPECT_NE(messages.shown.at(0).text.find(kOpened), std::string::npos);
   });
+}
+
+TEST_F(ProjectHold, Two_Long_Names_That_Are_Cut_Alike_Have_Locks_Of_Their_Own) {
+  const std::string begin(245, 'a');
+  const std::string one = Lock_Path_Of(folder / (begin + "1.DUI"));
+  const std::string two = Lock_Path_Of(folder / (begin + "2.DUI"));
+  EXPECT_NE(one, two);
+  EXPECT_EQ(Name_Of(one).size(), 255U);
+  EXPECT_EQ(one, Lock_Path_Of(folder / (begin + "1.DUI")));
+  Lock_File taken;
+  EXPECT_EQ(taken.Take(one), Lock_File::Outcome::Taken);
 }
 
 TEST_F(ProjectHold, The_Other_Names_Of_A_Project_Are_That_Project) {

@@ -107,6 +107,27 @@ TEST_F(ExactValues, Velocities_That_Run_Together_And_Fine_Tides_Are_Kept) {
   EXPECT_EQ(record_.KEY4, 4);
 }
 
+TEST_F(ExactValues, A_Count_Or_An_End_That_Is_Damaged_Is_Told_With_Its_Line) {
+  record_.ALPHA3 = 1.0 / 3;
+  const auto lines = Save();
+  const auto told = [&](std::size_t line, const std::string& text) {
+    auto damaged = lines;
+    damaged[line] = text;
+    Set_Project_Defaults(record_);
+    Scripted_Messages messages({Answer::Ok});
+    const Load_Result result = Load_Project("site.dui", Joined(damaged), record_);
+    EXPECT_EQ(result.failure, Failure::Type_Mismatch) << text;
+    EXPECT_EQ(record_.ALPHA3, 0.3536) << text;
+    return result.remark;
+  };
+  const std::string head =
+      "Exact values of this project that the columns above this line can not hold: ";
+  EXPECT_EQ(told(kFullLines + 1, head + "one"), "What is damaged is line 3522: " + head + "one");
+  EXPECT_EQ(told(kFullLines + 1, head + "1x"), "What is damaged is line 3522: " + head + "1x");
+  EXPECT_EQ(told(kFullLines + 3, "End of the exact volumes"),
+            "What is damaged is line 3524: End of the exact volumes");
+}
+
 TEST_F(ExactValues, A_Tidal_Value_Is_Written_By_Its_32_Bit_Text) {
   record_.TidalDepth = 0.123F;
   EXPECT_EQ(Trailer(Save())[1], "TidalDepth = 0.123; the columns give 0.12");

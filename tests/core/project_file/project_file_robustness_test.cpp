@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/desk/load_record.h"
 #include "core/project_defaults.h"
 #include "core/project_file/project_reader.h"
 #include "core/project_file/project_writer.h"
@@ -86,6 +87,35 @@ TEST_F(ProjectFileRobustness, A_Short_File_Loads_And_Is_Marked) {
   EXPECT_EQ(record_.VelocityFieldX[46][46], 0);
   EXPECT_EQ(record_.SolidNames[5], "Copper");
   EXPECT_EQ(record_.TidalDepth, 3);  // the short layout has no tidal table
+}
+
+TEST_F(ProjectFileRobustness, A_Short_File_With_A_Number_Beyond_16_Bits_Changes_Nothing) {
+  auto lines = Short_File();
+  lines[3].replace(0, 5, "99999");
+  const Load_Result result = Load(Joined(lines));
+  EXPECT_EQ(result.failure, Failure::Overflow);
+  EXPECT_FALSE(result.told);
+  EXPECT_EQ(record_.ProjectTitle, "");
+  const Scratch_Folder folder;
+  Write_Text(folder / "site.DUI", Joined(lines));
+  EXPECT_EQ(Load_Record(folder / "site.DUI").problem, "Overflow (6)");
+}
+
+TEST_F(ProjectFileRobustness, A_Disposal_Method_That_Is_No_Number_To_Compute_With_Is_Refused) {
+  auto lines = Save();
+  lines[1] = "   DUMP    1e999";
+  Scripted_Messages messages({Answer::Ok});
+  EXPECT_EQ(Load(Joined(lines)).failure, Failure::Overflow);
+  EXPECT_EQ(messages.shown.at(0).text, "Error Reading File:  6");
+}
+
+TEST_F(ProjectFileRobustness, A_Key_Beyond_16_Bits_At_The_End_Leaves_The_Key) {
+  auto lines = Save();
+  const std::string comment = lines.back().substr(lines.back().find(" Used To"));
+  lines.back() = "99999" + comment;
+  record_.KEY4 = 4;
+  EXPECT_EQ(Load(Joined(lines)).failure, Failure::None);
+  EXPECT_EQ(record_.KEY4, 4);
 }
 
 TEST_F(ProjectFileRobustness, After_Its_First_Save_A_Short_File_Is_A_Full_One) {

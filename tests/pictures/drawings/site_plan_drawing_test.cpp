@@ -120,6 +120,18 @@ TEST(SitePlanDrawing, A_Point_Beside_The_Grid_Is_Shown_And_One_Far_Away_Only_Tol
   EXPECT_EQ(Drawn(plan), Lines{"0 0 2000 4000"});
 }
 
+TEST(SitePlanDrawing, A_Vessel_Over_The_Edge_And_A_Point_Without_A_Place_Are_Told) {
+  Site_Plan site = Site();
+  site.disposal_point = Feet_Point{99, 1000};  // half of its 200 ft is more
+  EXPECT_EQ(Draw_Site(site).note, "The vessel reaches beyond the grid.");
+  site.disposal_point = Feet_Point{100, 1000};
+  EXPECT_EQ(Draw_Site(site).note, "");
+  site.disposal_point = Feet_Point{kNan, 1000};
+  const Plan plan = Draw_Site(site);
+  EXPECT_EQ(plan.note, "The disposal point has no place.");
+  EXPECT_EQ(Drawn(plan), (Lines{"0 0 2000 4000"}));
+}
+
 TEST(SitePlanDrawing, Boundary_And_Zid_Are_Areas_With_Their_Names) {
   Site_Plan site = Site();
   site.boundary_name = "Disposal site";

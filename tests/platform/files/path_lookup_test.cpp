@@ -56,6 +56,8 @@ TEST(PathLookup, Matches_Letters_With_Marks_Without_Regard_To_Case) {
   Write_Text(folder / "\xC3\x96stbucht_\xC5\xA0.DUI", "");  // O with dots, S with caron
   EXPECT_EQ(Find_Path(folder / "\xC3\xB6STBUCHT_\xC5\xA1.dui"),
             folder / "\xC3\x96stbucht_\xC5\xA0.DUI");
+  Write_Text(folder / "\xC5\xB8ser.DUI", "");  // Y with dots: its small letter is of another row
+  EXPECT_EQ(Find_Path(folder / "\xC3\xBFSER.dui"), folder / "\xC5\xB8ser.DUI");
   Write_Text(folder / "a\xC3\x97.dui", "");  // the multiplication sign is no capital
   EXPECT_EQ(Find_Path(folder / "a\xC3\xB7.dui"), std::nullopt);
 }
