@@ -649,6 +649,11 @@ TEST_F(DiluteScreen, Rows_Are_Inserted_Deleted_And_Moved_By_Keys) {
   QTest::keyClick(&Book(0), Qt::Key_Up, Qt::AltModifier);
   EXPECT_EQ(Cell(0, 1, 1) + Cell(1, 1, 1) + Cell(1, 1, 2), "LeadLead34");
   EXPECT_EQ(Book(0).table().Row(), 1);
+  QTest::keyClick(&Book(0), Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(Cell(0, 2, 1) + Cell(1, 2, 1), "LeadLead");
+  EXPECT_EQ(Book(0).table().Row(), 2);
+  QTest::keyClick(&Book(0), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(Book(0).table().Row(), 1);
   QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
   EXPECT_EQ(Cell(1, 1, 1) + Cell(1, 2, 1), "Lead");
   QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
