@@ -140,7 +140,7 @@ TEST_F(FrmRecovery, Throwing_One_Of_Two_Away_Leaves_The_Other_In_View) {
                            ASSERT_EQ(list->count(), 1);
                            EXPECT_NE(list->item(0)->text(), chosen);
                            EXPECT_EQ(list->currentRow(), 0);
-                           EXPECT_TRUE(list->hasFocus());
+                           EXPECT_EQ(window->focusWidget(), list);
                            Press(window, 1);
                          },
                          testing::Press(QMessageBox::Yes)});
