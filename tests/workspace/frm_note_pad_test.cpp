@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -500,6 +501,52 @@ TEST_F(NotePad, A_Print_That_Fails_Or_Would_Replace_The_Project_Is_Told) {
   Set_File_Dialog_Presenter(former);
   Forget_Session_Printer();
   EXPECT_EQ(Saved("bank.DUI"), "precious");
+  Project().ProjectFileName.clear();
+}
+
+TEST_F(NotePad, Find_Next_With_Nothing_To_Find_Asks_What) {
+  const frmNotePad& text = Opened("one\n");
+  Do(text, "FindNext");
+  auto* find = text.findChild<QLineEdit*>("FindText");
+  EXPECT_TRUE(find->isVisible());
+  EXPECT_TRUE(find->hasFocus());
+  EXPECT_EQ(text.findChild<QLabel*>("FindOutcome")->text(), "");
+  QTest::keyClicks(find, "two");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_NE(text.findChild<QLabel*>("FindOutcome")->text(), "");
+}
+
+TEST_F(NotePad, The_Menus_Of_A_Text_Are_Made_Ready_As_They_Come_Up) {
+  const auto menu = [](const frmNotePad& text, const QString& title) {
+    for (QAction* item : text.menuBar()->actions()) {
+      if (item->text() == title) return item->menu();
+    }
+    return static_cast<QMenu*>(nullptr);
+  };
+  const frmNotePad& text = Opened("one\n");
+  emit menu(text, "&Edit")->aboutToShow();
+  EXPECT_TRUE(text.findChild<QAction*>("NotePadPaste")->isEnabled());
+  emit menu(text, "F&ont")->aboutToShow();
+  EXPECT_FALSE(menu(text, "F&ont")->isEmpty());
+  const QString window = bench.main().findChild<QMenu*>("mnuWindow")->title();
+  emit menu(text, window)->aboutToShow();
+  EXPECT_FALSE(menu(text, window)->isEmpty());
+  const frmNotePad& shown = Opened(std::string(10001, 'x'), "long.txt");
+  emit menu(shown, "&Edit")->aboutToShow();
+  for (const char* name : {"NotePadUndo", "NotePadRedo", "NotePadCut", "NotePadPaste"}) {
+    EXPECT_FALSE(shown.findChild<QAction*>(name)->isEnabled()) << name;
+  }
+}
+
+TEST_F(NotePad, Of_An_Open_Project_Its_Output_Is_Offered_Or_Its_Folder) {
+  Project().ProjectFileName = bench.folder / "bay.DUI";
+  chosen = std::nullopt;
+  bench.Action("mnuToolItem(6)")->trigger();
+  Write_Text(bench.folder / "bay.duo", "output");
+  bench.Action("mnuToolItem(6)")->trigger();
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[0].name, bench.folder.path());
+  EXPECT_EQ(asked[1].name, bench.folder / "bay.duo");
   Project().ProjectFileName.clear();
 }
 
