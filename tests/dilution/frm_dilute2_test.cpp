@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTabBar>
 #include <QTest>
 #include <filesystem>
@@ -649,12 +652,33 @@ TEST_F(DiluteScreen, Rows_Are_Inserted_Deleted_And_Moved_By_Keys) {
   QTest::keyClick(&Book(0), Qt::Key_Up, Qt::AltModifier);
   EXPECT_EQ(Cell(0, 1, 1) + Cell(1, 1, 1) + Cell(1, 1, 2), "LeadLead34");
   EXPECT_EQ(Book(0).table().Row(), 1);
+  QTest::keyClick(&Book(0), Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(Cell(0, 2, 1) + Cell(1, 2, 1), "LeadLead");
+  EXPECT_EQ(Book(0).table().Row(), 2);
+  QTest::keyClick(&Book(0), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(Book(0).table().Row(), 1);
   QTest::keyClick(&Book(0), Qt::Key_Insert, Qt::AltModifier);
   EXPECT_EQ(Cell(1, 1, 1) + Cell(1, 2, 1), "Lead");
   QTest::keyClick(&Book(0), Qt::Key_Delete, Qt::AltModifier);
   EXPECT_EQ(Cell(1, 1, 1), "Lead");
   EXPECT_FALSE(Is_Grey(0, 1));
   EXPECT_EQ(Bars().Drawn().chart.bars.at(0).label, "Lead");
+}
+
+TEST_F(DiluteScreen, The_Tables_Menu_Holds_The_Commands_For_Rows) {
+  Scripted_Messages messages;
+  Enter_Two();
+  QContextMenuEvent wish(QContextMenuEvent::Mouse, QPoint(5, 5),
+                         Book(0).viewport()->mapToGlobal(QPoint(5, 5)));
+  QApplication::sendEvent(Book(0).viewport(), &wish);
+  auto* menu = Book(0).findChild<QMenu*>();
+  ASSERT_NE(menu, nullptr);
+  QStringList last;
+  for (const QAction* action : menu->actions().mid(menu->actions().size() - 4)) {
+    last << action->text();
+  }
+  EXPECT_EQ(last.join(", "), "&Insert Rows, &Delete Rows, &Move Rows Up, Move Rows D&own");
+  menu->close();
 }
 
 TEST_F(DiluteScreen, An_Inserted_First_Row_Loses_Nothing_In_Memory_Or_On_Disk) {

@@ -112,6 +112,9 @@ TEST(GraphExports, A_Copy_Has_The_Picture_In_Two_Forms_And_Its_Numbers_In_Cells)
   EXPECT_GE(qvariant_cast<QImage>(content->imageData()).width(), 1000);
   EXPECT_TRUE(QSvgRenderer(content->data("image/svg+xml")).isValid());
   EXPECT_EQ(content->text(), "Time (s)\tSand, fine (mg/l)\n600\t1.5\n");
+  EXPECT_EQ(Copy_Numbers(page), "Numbers copied");
+  EXPECT_FALSE(QApplication::clipboard()->mimeData()->hasImage());
+  EXPECT_EQ(QApplication::clipboard()->text(), "Time (s)\tSand, fine (mg/l)\n600\t1.5\n");
 }
 
 TEST(GraphExports, A_Print_To_A_File_Is_The_Page_In_Vectors) {

@@ -84,6 +84,8 @@ class GraphWindows : public ::testing::TestWithParam<double> {
   /// Holds every window to one kind of look.
   void Expect_No(const std::function<Complaints(QWidget&)>& complain) {
     Walk([&](QWidget& window, const std::string& state) {
+      // The toolkit fits a box of choices to them a moment after they have come.
+      Wait_Until([&] { return complain(window).empty(); });
       const Complaints complaints = complain(window);
       EXPECT_TRUE(complaints.empty()) << state << ": " << Listed(complaints);
     });

@@ -273,6 +273,19 @@ TEST_F(HopperScreen, A_Tick_Fills_A_Row_And_An_Untick_Takes_It) {
   EXPECT_EQ(Book("F1Book1")->table().TextRC(9, 1), "");
 }
 
+TEST_F(HopperScreen, A_Tick_Without_A_Free_Row_Is_Told_And_Taken_Back) {
+  Library(kHopperLibrary, "Listsize=2\r\nFraction2=Clay 2.65 .027 .002 7.0000 .0020 Y Y\r\n");
+  Set_Solids(record, 4);
+  Open();
+  Go_To(1);
+  const Scripted_Messages messages({Answer::Ok});
+  Tick(1);
+  ASSERT_EQ(messages.shown.size(), 1u);
+  EXPECT_EQ(messages.shown[0].text,
+            "There Is No Free Row for Another Solids Fraction.  Please Untick One First.");
+  EXPECT_EQ(List()->item(1)->checkState(), Qt::Unchecked);
+}
+
 TEST_F(HopperScreen, The_Focus_Goes_To_The_First_Row_Of_The_Project) {
   Open();
   Go_To(1);

@@ -172,8 +172,7 @@ TEST_F(MaterialLibrary, A_Line_Break_In_A_Name_Becomes_A_Blank) {
 TEST_F(MaterialLibrary, A_Name_That_Does_Not_Come_Back_Is_Marked) {
   EXPECT_EQ(Material_Name_Note("Fine Sand"), "");
   EXPECT_EQ(Material_Name_Note("Sabl\xC3\xA9"), "");
-  EXPECT_EQ(Material_Name_Note("\xE7\xA0\x82"),
-            "has a character that the project file can't keep");
+  EXPECT_EQ(Material_Name_Note("\xE7\xA0\x82"), "has a character that the project file can't keep");
   EXPECT_EQ(Material_Name_Note(std::string(255, 'x')), "");
   EXPECT_EQ(Material_Name_Note(std::string(256, 'x')), "is longer than the library keeps");
   EXPECT_EQ(Material_Name_Note("Not Used"), "is taken by the library as an empty line");

@@ -245,6 +245,23 @@ TEST_F(PlanPicture, Space_Begins_And_Ends_An_Area_By_Keys_And_Escape_Gives_It_Up
   EXPECT_FALSE(escape.isAccepted());  // it closes the screen
 }
 
+TEST_F(PlanPicture, Return_Ends_An_Area_Too_And_It_Is_Drawn_Meanwhile) {
+  Open(Takes::points_and_areas);
+  plan_.Set_Key_Steps({100, 100});
+  plan_.Set_Cursor({500, 500});
+  plan_.setFocus(Qt::TabFocusReason);
+  Key(Qt::Key_Space);
+  const QImage at_first = plan_.grab().toImage();
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Right);
+  EXPECT_NE(plan_.grab().toImage(), at_first);
+  Key(Qt::Key_Return);
+  ASSERT_EQ(areas_.size(), 1u);
+  EXPECT_EQ(areas_[0].first, (Feet_Point{500, 500}));
+  EXPECT_EQ(areas_[0].second, (Feet_Point{600, 600}));
+  EXPECT_TRUE(chosen_.empty());
+}
+
 TEST_F(PlanPicture, A_Smaller_Area_Takes_The_Cursor_Along) {
   Open(Takes::points);
   plan_.Set_Cursor({1900, 3900});

@@ -126,6 +126,28 @@ TEST_F(FrmRecovery, Throwing_The_Last_One_Away_Is_Asked_And_Closes_The_Window) {
   EXPECT_FALSE(Offer_Recovery(&bench.main(), keeper));
 }
 
+TEST_F(FrmRecovery, Throwing_One_Of_Two_Away_Leaves_The_Other_In_View) {
+  Crash("first");
+  const std::string other = bench.folder / "other.DUI";
+  std::filesystem::copy_file(path, other);
+  path = other;
+  Crash("second");
+  Modal_Replies replies({[](QWidget* window) {
+                           const auto* list = window->findChild<QListWidget*>("List1");
+                           ASSERT_EQ(list->count(), 2);
+                           const QString chosen = list->item(0)->text();
+                           Press(window, 2);
+                           ASSERT_EQ(list->count(), 1);
+                           EXPECT_NE(list->item(0)->text(), chosen);
+                           EXPECT_EQ(list->currentRow(), 0);
+                           EXPECT_EQ(window->focusWidget(), list);
+                           Press(window, 1);
+                         },
+                         testing::Press(QMessageBox::Yes)});
+  EXPECT_FALSE(Offer_Recovery(&bench.main(), keeper));
+  EXPECT_EQ(Recovery_Rows().size(), 1U);
+}
+
 TEST_F(FrmRecovery, The_End_Of_The_Program_Leaves_Neither_Copy_Nor_Lock) {
   Crash("restored");
   EXPECT_TRUE(Offer([](QWidget* window) { Press(window, 0); }));

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -460,6 +461,95 @@ TEST_F(NotePad, Print_Is_For_The_Text_In_Front_Until_A_Person_Turns_To_The_Board
   EXPECT_EQ(Saved("printed.pdf").substr(0, 5), "%PDF-");
 }
 
+TEST_F(NotePad, Long_Lines_Tabs_And_New_Pages_Are_Printed) {
+  const int long_line = 20000;  // letters: more than a page holds
+  frmNotePad& text = Opened("\tone\n\ftwo\n" + std::string(long_line, 'x') + "\n", "site.txt");
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(bench.folder / "text.pdf"));
+  EXPECT_TRUE(text.Print(printer));
+  const int with_long_line = Pages_In(Saved("text.pdf"));
+  EXPECT_GE(with_long_line, 3) << "the second page begins at \"two\", the line goes over it";
+  frmNotePad& two = Opened("\tone\n\ftwo\n", "two.txt");
+  EXPECT_TRUE(two.Print(printer));
+  EXPECT_EQ(Pages_In(Saved("text.pdf")), 2);
+}
+
+TEST_F(NotePad, A_Print_That_Fails_Or_Would_Replace_The_Project_Is_Told) {
+  frmNotePad& text = Opened("one\n");
+  Write_Text(bench.folder / "bank.DUI", "precious");
+  Project().ProjectFileName = bench.folder / "bank.DUI";
+  std::string target = bench.folder / "bank.DUI";
+  File_Dialog_Presenter to_file;
+  to_file.printer = [&](const std::string&, int) {
+    Session_Printer().setOutputFormat(QPrinter::PdfFormat);
+    Session_Printer().setOutputFileName(QString::fromStdString(target));
+    return true;
+  };
+  const auto former = Set_File_Dialog_Presenter(to_file);
+  {
+    const Scripted_Messages messages({Answer::Ok, Answer::Ok});
+    Do(text, "Print");
+    target = bench.folder / "none/text.pdf";
+    Do(text, "Print");
+    ASSERT_EQ(messages.shown.size(), 2U);
+    for (const Message& message : messages.shown) {
+      EXPECT_EQ(message.text, "The Text Could Not Be Printed.");
+      EXPECT_EQ(message.icon, Icon::Critical);
+    }
+  }
+  Set_File_Dialog_Presenter(former);
+  Forget_Session_Printer();
+  EXPECT_EQ(Saved("bank.DUI"), "precious");
+  Project().ProjectFileName.clear();
+}
+
+TEST_F(NotePad, Find_Next_With_Nothing_To_Find_Asks_What) {
+  const frmNotePad& text = Opened("one\n");
+  Do(text, "FindNext");
+  auto* find = text.findChild<QLineEdit*>("FindText");
+  EXPECT_TRUE(find->isVisible());
+  EXPECT_TRUE(find->hasFocus());
+  EXPECT_EQ(text.findChild<QLabel*>("FindOutcome")->text(), "");
+  QTest::keyClicks(find, "two");
+  QTest::keyClick(find, Qt::Key_Return);
+  EXPECT_NE(text.findChild<QLabel*>("FindOutcome")->text(), "");
+}
+
+TEST_F(NotePad, The_Menus_Of_A_Text_Are_Made_Ready_As_They_Come_Up) {
+  const auto menu = [](const frmNotePad& text, const QString& title) {
+    for (QAction* item : text.menuBar()->actions()) {
+      if (item->text() == title) return item->menu();
+    }
+    return static_cast<QMenu*>(nullptr);
+  };
+  const frmNotePad& text = Opened("one\n");
+  emit menu(text, "&Edit")->aboutToShow();
+  EXPECT_TRUE(text.findChild<QAction*>("NotePadPaste")->isEnabled());
+  emit menu(text, "F&ont")->aboutToShow();
+  EXPECT_FALSE(menu(text, "F&ont")->isEmpty());
+  const QString window = bench.main().findChild<QMenu*>("mnuWindow")->title();
+  emit menu(text, window)->aboutToShow();
+  EXPECT_FALSE(menu(text, window)->isEmpty());
+  const frmNotePad& shown = Opened(std::string(10001, 'x'), "long.txt");
+  emit menu(shown, "&Edit")->aboutToShow();
+  for (const char* name : {"NotePadUndo", "NotePadRedo", "NotePadCut", "NotePadPaste"}) {
+    EXPECT_FALSE(shown.findChild<QAction*>(name)->isEnabled()) << name;
+  }
+}
+
+TEST_F(NotePad, Of_An_Open_Project_Its_Output_Is_Offered_Or_Its_Folder) {
+  Project().ProjectFileName = bench.folder / "bay.DUI";
+  chosen = std::nullopt;
+  bench.Action("mnuToolItem(6)")->trigger();
+  Write_Text(bench.folder / "bay.duo", "output");
+  bench.Action("mnuToolItem(6)")->trigger();
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[0].name, bench.folder.path());
+  EXPECT_EQ(asked[1].name, bench.folder / "bay.duo");
+  Project().ProjectFileName.clear();
+}
+
 TEST_F(NotePad, A_Text_Of_Many_Pages_Is_Printed_Only_When_A_Person_Agrees) {
   frmNotePad& text = Opened(std::string(30000, '\n'));
   QPrinter printer;
@@ -599,6 +689,25 @@ TEST_F(NotePad, A_Large_Text_Is_In_View_At_Once_And_Read_While_The_Window_Lives)
   Do(text, "SaveAs");
   EXPECT_EQ(Saved("copy.txt"), bytes + "the end");
   EXPECT_TRUE(text.close()) << "nothing can have changed";
+}
+
+TEST_F(NotePad, A_Large_Text_That_Is_Read_Again_Stays_Where_It_Was) {
+  const std::string line = "0123456789abcdefghijklmnopqrstuvwxyz\n";
+  std::string bytes;
+  while (bytes.size() < 12'000'000) bytes += line;
+  Write_Text(bench.folder / "site.duo", bytes);
+  frmNotePad& text = *new frmNotePad(Project());
+  ASSERT_TRUE(text.Load(bench.folder / "site.duo"));
+  text.show();
+  ASSERT_TRUE(Wait_Until([&text] { return !text.Is_Reading(); }));
+  View(text)->Go_To(200'000 * line.size() + 5);
+  const int row = View(text)->verticalScrollBar()->value();
+  Write_Text(bench.folder / "site.duo", bytes + "more\n");
+  Do(text, "ReadAgain");
+  EXPECT_FALSE(text.Is_Reading());
+  EXPECT_EQ(View(text)->Place(), 200'000 * line.size() + 5);
+  EXPECT_EQ(View(text)->verticalScrollBar()->value(), row);
+  EXPECT_EQ(View(text)->rows().Size(), bytes.size() + 5);
 }
 
 TEST_F(NotePad, A_Large_Text_Is_Searched_To_Its_End_Before_It_Is_Read) {

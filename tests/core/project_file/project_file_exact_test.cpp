@@ -128,6 +128,19 @@ TEST_F(ExactValues, A_Count_Or_An_End_That_Is_Damaged_Is_Told_With_Its_Line) {
             "What is damaged is line 3524: End of the exact volumes");
 }
 
+TEST_F(ExactValues, A_Name_Whose_Marks_Are_Damaged_Is_Refused) {
+  record_.SolidNames[1] = "Coarse \"sand";
+  const auto lines = Save();
+  for (const char* name : {"\"Coarse \\x2\"", "\"Coarse \\x\"", "\"Coarse \\\"",
+                           "\"Coarse \\y22sand\"", "\"Coarse", "\""}) {
+    auto damaged = lines;
+    damaged[kFullLines + 2] =
+        std::string("SolidNames(1) = ") + name + "; the columns give \"Coarse \\x22\"";
+    Scripted_Messages messages({Answer::Ok});
+    EXPECT_EQ(Load(damaged), Failure::Type_Mismatch) << name;
+  }
+}
+
 TEST_F(ExactValues, A_Tidal_Value_Is_Written_By_Its_32_Bit_Text) {
   record_.TidalDepth = 0.123F;
   EXPECT_EQ(Trailer(Save())[1], "TidalDepth = 0.123; the columns give 0.12");

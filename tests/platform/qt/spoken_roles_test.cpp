@@ -60,6 +60,23 @@ TEST_F(SpokenRoles, What_Is_Chosen_From_The_Bus_Is_Clicked) {
   EXPECT_EQ(Told(*option).role(), QAccessible::RadioButton);
 }
 
+TEST_F(SpokenRoles, A_Button_Tells_Its_Key_Its_Action_And_Whether_Return_Presses_It) {
+  QDialog box(&window);
+  auto* ok = new QPushButton("&OK", &box);
+  auto* cancel = new QPushButton("Cancel", &box);
+  ok->setDefault(true);
+  EXPECT_EQ(Told(*ok).text(QAccessible::Accelerator), "Alt+O");
+  EXPECT_EQ(Told(*cancel).text(QAccessible::Accelerator), "");
+  ok->setWhatsThis("Stores the values");
+  EXPECT_EQ(Told(*ok).text(QAccessible::Help), "Stores the values");
+  EXPECT_TRUE(Told(*ok).state().defaultButton);
+  EXPECT_FALSE(Told(*cancel).state().defaultButton);
+  const QString press = QAccessibleActionInterface::pressAction();
+  EXPECT_EQ(Told(*ok).actionInterface()->actionNames().value(0), press);
+  ok->setEnabled(false);
+  EXPECT_FALSE(Told(*ok).actionInterface()->actionNames().contains(press));
+}
+
 TEST_F(SpokenRoles, A_Click_From_The_Bus_Waits_For_A_Box) {
   auto* button = new QPushButton("OK", &window);
   int clicks = 0;
