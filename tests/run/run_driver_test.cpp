@@ -281,6 +281,18 @@ pid_t Left_Solver(const std::string& folder, pid_t starter, const std::string& s
   ::_exit(1);
 }
 
+/// Until a process has become what it is to be, it has not its mark yet: the system tells the
+/// program's name a moment before its environment.
+bool Has_Its_Mark(pid_t process) {
+  return Read_Text("/proc/" + std::to_string(process) + "/environ").starts_with("BARVON_CHILD=");
+}
+
+/// Takes a process away that is still there only when the test has failed.
+void End(pid_t process) {
+  ::kill(process, SIGKILL);
+  ::waitpid(process, nullptr, 0);
+}
+
 /// The number of a process that is no more.
 pid_t Ended_Process() {
   const pid_t process = ::fork();
@@ -294,12 +306,10 @@ TEST_F(RunDriver, A_Mark_That_Has_Become_A_Link_To_Nowhere_Is_A_Mark) {
   fs::create_symlink("nowhere", std::string(bench / "Tmpfile.run"));
   const std::string application = fs::path(bench / "merak32").parent_path();
   const pid_t stray = Left_Solver(application, Ended_Process(), "1");
-  ASSERT_TRUE(Comes_True([&] {
-    return fs::read_symlink("/proc/" + std::to_string(stray) + "/exe").filename() == "sleep";
-  }));
+  ASSERT_TRUE(Comes_True([&] { return Has_Its_Mark(stray); }));
   EXPECT_EQ(Run().stage, Run_Stage::Ended);
   EXPECT_TRUE(Comes_True([&] { return !Is_Alive(stray); }));
-  ::waitpid(stray, nullptr, 0);
+  End(stray);
 }
 
 TEST_F(RunDriver, What_A_Killed_Programs_Solver_Left_Running_Is_Ended_Before_The_Next_Run) {
@@ -310,20 +320,16 @@ TEST_F(RunDriver, What_A_Killed_Programs_Solver_Left_Running_Is_Ended_Before_The
   // Its starter's number has passed to another process since.
   const pid_t older = Left_Solver(application, ::getppid(), "1");
   const pid_t others = Left_Solver(application, ::getppid(), Start_Of(::getppid()));
-  const auto runs = [](pid_t process) {
-    return fs::read_symlink("/proc/" + std::to_string(process) + "/exe").filename() == "sleep";
-  };
-  // Until then they have not their marks yet.
-  ASSERT_TRUE(Comes_True([&] { return runs(stray) && runs(older) && runs(others); }));
+  ASSERT_TRUE(Comes_True(
+      [&] { return Has_Its_Mark(stray) && Has_Its_Mark(older) && Has_Its_Mark(others); }));
   EXPECT_EQ(Run().stage, Run_Stage::Ended);
   for (const pid_t ended : {stray, older}) {
     EXPECT_TRUE(Comes_True([&] { return !Is_Alive(ended); }));
-    ::waitpid(ended, nullptr, 0);
+    End(ended);
   }
   EXPECT_TRUE(Is_Alive(others)) << "its starter lives";
   EXPECT_FALSE(Exists(bench / "Tmpfile.run"));
-  ::kill(others, SIGKILL);
-  ::waitpid(others, nullptr, 0);
+  End(others);
 }
 
 TEST_F(RunDriver, Scratch_Files_Are_Deleted_In_The_Current_Directory_Only) {
