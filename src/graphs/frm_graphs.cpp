@@ -55,6 +55,9 @@ frmGraphs::frmGraphs(QWidget* parent)
   look_.start();
 }
 
+// Where it is still seen, what loses the keyboard tells so to a window that is whole.
+frmGraphs::~frmGraphs() { hide(); }
+
 void frmGraphs::Build_Body() {
   own_title_->setObjectName(QStringLiteral("OwnTitle"));
   other_title_->setObjectName(QStringLiteral("OtherTitle"));

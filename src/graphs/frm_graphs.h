@@ -25,6 +25,7 @@ class frmGraphs : public QMainWindow {
 
  public:
   explicit frmGraphs(QWidget* parent = nullptr);
+  ~frmGraphs() override;
 
   /// Shows the results of a project or output, or says why there are none. A comparison ends.
   void Show_Results_Of(const std::string& path, int view);

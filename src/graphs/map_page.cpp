@@ -177,6 +177,9 @@ void Map_Page::Connect_Choices() {
   });
 }
 
+// The picture loses the keyboard when the page goes, and tells so to what is a bare widget by then.
+Map_Page::~Map_Page() { picture_->disconnect(this); }
+
 void Map_Page::Show(const Shown_Results& shown) {
   Stop();
   const bool first = !shown_.own || species_.empty();

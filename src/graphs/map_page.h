@@ -37,6 +37,7 @@ class Map_Page : public Graph_Page {
 
  protected:
   Map_Page(Map_Kind kind, const QString& name, QWidget* parent);
+  ~Map_Page() override;
 
   /// The view of a result that is shown for the first time.
   virtual Map_View First_View(const Results& results) const = 0;

@@ -50,9 +50,10 @@ lead() {
   local corpus="$corpora/$reader" log="$TMPDIR/$reader.log" least="$TMPDIR/$reader.least"
   local before
   before=$(find "$finds" -name "$reader-*" | wc -l)
-  # led_inputs holds the 100 ms; -timeout stops, in seconds, what would never end.
+  # led_inputs holds the 100 ms; -timeout stops, in seconds that pass, what would never end:
+  # a busy machine may let a process wait for some of them.
   BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" "$corpus" -dict="$dictionary" \
-    -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=10 -rss_limit_mb=4096 \
+    -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=60 -rss_limit_mb=4096 \
     -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
     { found=1 && tail -n 40 "$log"; }
   # Of two inputs that reach the same edges the shorter one stays.

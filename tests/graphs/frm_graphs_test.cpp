@@ -71,6 +71,23 @@ class FrmGraphs : public ::testing::Test {
   File_Dialog_Presenter former_;
 };
 
+// The map tells what the keys point at, and that it does no longer. By then the window goes.
+TEST_F(FrmGraphs, A_Window_May_Go_While_Keys_Are_In_Its_Map) {
+  window.hide();
+  auto* other = new frmGraphs;
+  other->show();
+  other->Show_Results_Of(folder / "bay.DUI", kContours);
+  other->activateWindow();
+  Picture* map = other->Page_In_Front()->Shown_Picture();
+  ASSERT_NE(map, nullptr);
+  map->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(map, Qt::Key_Right);
+  const auto* told = other->findChild<QLabel*>(QStringLiteral("Told"));
+  ASSERT_NE(told, nullptr);
+  EXPECT_FALSE(told->text().isEmpty());
+  delete other;
+}
+
 TEST_F(FrmGraphs, Each_Type_Opens_Its_View) {
   for (int view = 0; view < kGraphViews; ++view) {
     Open_Bay(view);
