@@ -8,10 +8,9 @@
 namespace barvon {
 
 std::string Reading_Words(double value, const std::string& unit) {
-  constexpr int kFigures = 4;
   if (!std::isfinite(value)) return "no value";
   if (value == 0) return Value_Words(0, unit);
-  const double power = std::pow(10, kFigures - 1 - std::floor(std::log10(std::abs(value))));
+  const double power = std::pow(10, kReadingFigures - 1 - std::floor(std::log10(std::abs(value))));
   const double rounded = std::round(value * power) / power;
   // At the ends of what a number can be there is nothing to round.
   return Value_Words(std::isfinite(rounded) ? rounded : value, unit);

@@ -99,7 +99,7 @@ TEST(MapView, A_Background_Is_Written_Like_The_Cells) {
   const Map_Content content = Content_Of(results, nullptr, Of(1, 10, 600));
   EXPECT_EQ(content.cells.values, (Depths{0.12346, 0.12346, 0.12346, 0.12346}));
   EXPECT_TRUE(content.scale.levels.empty());
-  EXPECT_EQ(Draw_Map(content).summary, "0.1235 mg/l everywhere.");
+  EXPECT_EQ(Draw_Map(content).summary, "0.12346 mg/l everywhere.");
 }
 
 TEST(MapView, Thickness_Is_In_Feet_With_All_Solids_Together_First) {
