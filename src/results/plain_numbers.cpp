@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 namespace barvon {
@@ -87,8 +88,9 @@ double Written_Difference(double a, double b, int digits) {
     units = Nearest_Quotient(larger.units * scale - smaller.units, scale);
   }
   if (!is_larger) units = -units;
-  std::array<char, 40> letters;
-  auto end = std::to_chars(letters.data(), letters.data() + letters.size(), units).ptr;
+  constexpr std::size_t kMostUnits = 24;  // letters; 64 bits have 20
+  std::array<char, 2 * kMostUnits> letters;
+  auto end = std::to_chars(letters.data(), letters.data() + kMostUnits, units).ptr;
   *end++ = 'e';
   end = std::to_chars(end, letters.data() + letters.size(), larger.power).ptr;
   double nearest = difference;  // at the ends of what a number can be
