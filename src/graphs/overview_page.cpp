@@ -152,8 +152,14 @@ QWidget* Overview_Page::Right_Half() {
 }
 
 void Overview_Page::Show(const Shown_Results& shown) {
+  const bool anew = shown_.own && shown_.own->path != shown.own->path;
   shown_ = shown;
   Show_Words();
+  // Another project begins at its end.
+  if (anew) {
+    const QSignalBlocker silent(balance_time_);
+    balance_time_->setCurrentIndex(0);
+  }
   Fill_Times();
   Show_Balance();
   Show_Table();

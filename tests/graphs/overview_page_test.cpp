@@ -94,6 +94,15 @@ TEST(OverviewPage, Columns_Name_The_Mixing_Zone_And_What_Two_Runs_Have) {
   Results nowhere = Small_Results();
   nowhere.site.reset();
   EXPECT_EQ(Largest_Table(nowhere, &zone).headings[1], "Inside the mixing zone");
+  const Overview_Table both = Largest_Table(zone, &nowhere);
+  EXPECT_EQ(both.headings,
+            (std::vector<std::string>{"Species", "Inside the mixing zone",
+                                      "Outside the mixing zone", "Anywhere", "At any point"}));
+  EXPECT_EQ(both.rows[0][2], "8 mg/l\nat 200 s (3.3 min), 20 ft");
+  EXPECT_EQ(both.rows[0][3], "-");
+  EXPECT_EQ(both.rows[1][1], "-");
+  EXPECT_EQ(both.rows[1][2], "-");
+  EXPECT_EQ(both.rows[1][3], "8 mg/l\nat 200 s (3.3 min), 20 ft");
   EXPECT_EQ(Largest_Table(zone, &nowhere).headings[1], "Inside the mixing zone");
 }
 
@@ -120,6 +129,13 @@ TEST(OverviewPage, The_Balance_Is_Shown_At_The_End_Or_At_A_Time) {
   EXPECT_EQ(changed.count(), 1);
   bench.page.Show({std::make_shared<const Results>(Small_Results()), nullptr});
   EXPECT_EQ(bench.page.Picture_Name(), "Balance at 100 s (1.7 min)");
+}
+
+TEST(OverviewPage, The_Balance_Of_Another_Project_Begins_At_Its_End) {
+  Overview_Bench bench;
+  QTest::keyClick(bench.Child<QComboBox>("BalanceTime"), Qt::Key_Down);
+  bench.page.Show({Another(), nullptr});
+  EXPECT_EQ(bench.page.Picture_Name(), "Balance at the end");
 }
 
 TEST(OverviewPage, A_Small_Picture_Opens_Its_View_By_Click_And_By_Key) {
