@@ -216,7 +216,11 @@ void Overview_Page::Show_Table() {
   table_->setRowCount(rows);
   table_->setColumnCount(columns);
   QStringList headings;
-  for (const std::string& heading : largest.headings) headings << QString::fromStdString(heading);
+  for (const std::string& heading : largest.headings) {
+    // In two lines a heading is no wider than what is below it.
+    headings << QString::fromStdString(heading).replace(QLatin1String(" the "),
+                                                        QLatin1String(" the\n"));
+  }
   table_->setHorizontalHeaderLabels(headings);
   for (int row = 0; row < rows; ++row) {
     for (int column = 0; column < columns; ++column) {

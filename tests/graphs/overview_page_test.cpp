@@ -200,6 +200,27 @@ TEST(OverviewPage, In_A_Narrow_Window_The_Small_Pictures_Are_Below_And_The_Table
   EXPECT_GE(table->viewport()->height(), table->verticalHeader()->length());
 }
 
+// With all columns that one kind of run has.
+TEST(OverviewPage, The_Table_Of_Two_Runs_Fits_A_Small_Display) {
+  Results zone = Small_Results();
+  zone.path = "/work/Section_404_Zid.DUI";
+  zone.mixing_zone = true;
+  zone.zid = zone.site;
+  for (Result_Maxima& row : zone.maxima) {
+    row.inside = row.outside = row.outside_zid = 5542.9;
+    row.depth = 34;
+  }
+  for (Result_Peak& peak : zone.peaks) peak.depth = 34.83;
+  auto other = std::make_shared<Results>(zone);
+  other->path = "/work/Fine.DUI";
+  Overview_Bench bench(zone, other);
+  bench.page.resize(1000, 600);
+  QApplication::processEvents();
+  const auto* table = bench.Child<QTableWidget>("Largest");
+  EXPECT_EQ(table->columnCount(), 5);
+  EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0);
+}
+
 TEST(OverviewPage, Large_Letters_Are_Given_Room) {
   Overview_Bench bench;
   const int before = bench.Child<QLabel>("Title")->fontMetrics().height();
