@@ -72,7 +72,10 @@ void frmGraphs::Build_Body() {
   for (std::size_t i = 0; i < pages_.size(); ++i) {
     Graph_Page* page = pages_[i];
     tabs_->addTab(page, QLatin1String(kGraphNames[i]));
-    connect(page, &Graph_Page::Asked_For, this, &frmGraphs::Show_View);
+    connect(page, &Graph_Page::Asked_For, this, [this](int view) {
+      Show_View(view);
+      if (Graph_Page* asked = Page_In_Front()) asked->Show_Telling();
+    });
     connect(page, &Graph_Page::Changed, this, [this, page] {
       if (page == Page_In_Front()) emit Things_Changed();
     });
@@ -178,7 +181,9 @@ void frmGraphs::Compare_With(const std::string& path) {
     return;
   }
   other_ = std::move(other);
-  Say_Of_Outputs(own_word_, "");
+  // What was saved or ended before would be read as of these two.
+  other_word_.clear();
+  Show_State(own_word_);
   shown_.other = std::make_shared<const Results>(std::move(std::get<Results>(read)));
   Show_Pages();
 }
@@ -278,8 +283,7 @@ void frmGraphs::Show_Titles() {
 void frmGraphs::Say(const std::string& state) {
   own_word_.clear();
   other_word_.clear();
-  state_->setText(QString::fromStdString(state));
-  Fit_State();
+  Show_State(state);
 }
 
 // What was said of the one stays when the other's come.
@@ -287,8 +291,11 @@ void frmGraphs::Say_Of_Outputs(const std::string& own, const std::string& other)
   const bool news = own != own_word_ || other != other_word_;
   own_word_ = own;
   other_word_ = other;
-  if (!news) return;
-  state_->setText(QString::fromStdString(Words_Of_Both(own, other)));
+  if (news) Show_State(Words_Of_Both(own, other));
+}
+
+void frmGraphs::Show_State(const std::string& state) {
+  state_->setText(QString::fromStdString(state));
   Fit_State();
 }
 

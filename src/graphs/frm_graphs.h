@@ -69,6 +69,7 @@ class frmGraphs : public QMainWindow {
   void Fill_Page_In_Front();
   void Show_Notice(const Graph_Notice& notice);
   void Show_Titles();
+  void Show_State(const std::string& state);
   void Fit_State();
   void Fit_Tab_Names();
   void Look_At_Own();

@@ -41,8 +41,11 @@ class Graph_Page : public QWidget {
  public:
   using QWidget::QWidget;
 
-  /// Shows new results. A choice that they hold too (a species by its name, a depth, a time) stays.
+  /// Shows new results. Of the same project a choice that they hold too (a species by its name, a
+  /// depth, a time) stays; another one begins at its telling view.
   virtual void Show(const Shown_Results& shown) = 0;
+  /// Goes to what the overview shows of the page in small. Only once Show was called.
+  virtual void Show_Telling() {}
   /// The picture that is saved, copied and printed: never null once Show was called.
   virtual Picture* Shown_Picture() = 0;
   /// The picture shows more than the words that there is nothing to show.
@@ -62,7 +65,8 @@ class Graph_Page : public QWidget {
  signals:
   /// What is under the pointer or changed, for the status line; empty: nothing.
   void Told(const QString& words);
-  /// Another page is asked for, by its kind: 0 overview, 1 maxima, 2 contours, 3 deposit.
+  /// The telling view of a page is asked for, by its kind: 0 overview, 1 maxima, 2 contours, 3
+  /// deposit.
   void Asked_For(int kind);
   /// The picture or its choices have changed.
   void Changed();

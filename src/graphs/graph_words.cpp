@@ -67,6 +67,7 @@ std::string Ended_Words(const std::string& path) {
 }
 
 std::string Words_Of_Both(const std::string& own, const std::string& other) {
+  if (own == other) return own;  // a run compared with itself
   if (own.empty() || other.empty()) return own + other;
   const bool both_new = own.starts_with(kNew) && other.starts_with(kNew);
   return own + "; " + (both_new ? other.substr(kNew.size()) : other);

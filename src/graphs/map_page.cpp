@@ -182,19 +182,20 @@ Map_Page::~Map_Page() { picture_->disconnect(this); }
 
 void Map_Page::Show(const Shown_Results& shown) {
   Stop();
-  const bool first = !shown_.own || species_.empty();
+  const bool another = shown_.own && shown.own && shown_.own->path != shown.own->path;
+  const bool anew = !shown_.own || species_.empty() || another;
   const std::string former = shown_.own && Own_Map(*shown_.own, view_) != nullptr
                                  ? Mapped_Name(*shown_.own, view_.species)
                                  : std::string();
   // A line through one project's site says nothing on another's.
-  if (shown_.own && shown.own && shown_.own->path != shown.own->path) view_.section.reset();
+  if (another) view_.section.reset();
   shown_ = shown;
   if (!shown_.other) view_.side = Map_Side::own;
   if (shown_.own) {
     const Results& own = *shown_.own;
     Map_View wanted = view_;
-    if (first) {
-      wanted = First_View(own);
+    if (anew) {
+      wanted = Telling_View();
     } else {
       for (const int species : Mapped_Species(own, view_.kind)) {
         if (Mapped_Name(own, species) == former) wanted.species = species;
@@ -204,6 +205,21 @@ void Map_Page::Show(const Shown_Results& shown) {
   }
   Fill_Choices();
   Refresh();
+}
+
+void Map_Page::Show_Telling() {
+  if (!shown_.own) return;
+  Stop();
+  view_ = Nearest_View(*shown_.own, Telling_View());
+  Fill_Choices();
+  Refresh();
+}
+
+Map_View Map_Page::Telling_View() const {
+  Map_View view = First_View(*shown_.own);
+  view.side = Map_Side::own;
+  view.largest = false;
+  return view;
 }
 
 void Map_Page::Fill_Choices() {

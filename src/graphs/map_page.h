@@ -23,6 +23,7 @@ class Map_Page : public Graph_Page {
 
  public:
   void Show(const Shown_Results& shown) override;
+  void Show_Telling() override;
   Picture* Shown_Picture() override { return picture_; }
   bool Has_Content() const override { return picture_->Drawn().content.nothing.empty(); }
   std::string Numbers() const override;
@@ -39,7 +40,7 @@ class Map_Page : public Graph_Page {
   Map_Page(Map_Kind kind, const QString& name, QWidget* parent);
   ~Map_Page() override;
 
-  /// The view of a result that is shown for the first time.
+  /// The species, depth and time of a result that tell most, with the looks of now.
   virtual Map_View First_View(const Results& results) const = 0;
   /// The picture shows something else.
   virtual void Picture_Changed() {}
@@ -58,6 +59,7 @@ class Map_Page : public Graph_Page {
   QWidget* Make_Choices();
   QWidget* Make_Time();
   void Connect_Choices();
+  Map_View Telling_View() const;
   void Fill_Choices();
   void Fill_Times();
   void Take_Choices();

@@ -114,9 +114,16 @@ QCheckBox* Maxima_Page::Add_Check(const char* caption, const char* name) {
 }
 
 void Maxima_Page::Show(const Shown_Results& shown) {
+  const bool anew = !shown_.own || shown_.own->path != shown.own->path;
   shown_ = shown;
   Fill_Species();
   Fill_Depths();
+  if (anew) {
+    Choose_Telling();
+    // A value that one project was held against says nothing on another.
+    const QSignalBlocker silent(held_);
+    held_->clear();
+  }
   const auto either = [&](bool (*has)(const Results&)) {
     return has(*shown_.own) || (shown_.other && has(*shown_.other));
   };
@@ -172,8 +179,7 @@ void Maxima_Page::Fill_Species() {
     species_->addItem(QString::fromStdString(species.name));
   }
   const int same = kept.isEmpty() ? -1 : species_->findText(kept);
-  const int telling = Telling_Moment_Of(*shown_.own).species - 1;
-  species_->setCurrentIndex(same >= 0 ? same : telling);
+  species_->setCurrentIndex(same >= 0 ? same : Telling_Moment_Of(*shown_.own).species - 1);
   species_->setEnabled(species_->count() > 1);
 }
 
@@ -186,6 +192,22 @@ void Maxima_Page::Fill_Depths() {
     depth_->addItem(QString::fromStdString(Depth_Words(depth)), depth);
   }
   depth_->setCurrentIndex(kept.isValid() ? std::max(0, depth_->findData(kept)) : 0);
+}
+
+void Maxima_Page::Choose_Telling() {
+  const QSignalBlocker species(species_), depth(depth_);
+  species_->setCurrentIndex(Telling_Moment_Of(*shown_.own).species - 1);
+  depth_->setCurrentIndex(0);
+  for (QCheckBox* check : {inside_, outside_, outside_zid_, limits_}) {
+    const QSignalBlocker silent(check);
+    check->setChecked(true);
+  }
+}
+
+void Maxima_Page::Show_Telling() {
+  if (!shown_.own) return;
+  Choose_Telling();
+  Draw();
 }
 
 Maxima_Choice Maxima_Page::Chosen() const {

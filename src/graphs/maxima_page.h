@@ -21,6 +21,7 @@ class Maxima_Page : public Graph_Page {
   explicit Maxima_Page(QWidget* parent = nullptr);
 
   void Show(const Shown_Results& shown) override;
+  void Show_Telling() override;
   Picture* Shown_Picture() override;
   bool Has_Content() const override;
   std::string Numbers() const override;
@@ -37,6 +38,7 @@ class Maxima_Page : public Graph_Page {
   void Fit_Reading();
   void Fill_Species();
   void Fill_Depths();
+  void Choose_Telling();
   void Draw();
   Maxima_Choice Chosen() const;
 

@@ -12,6 +12,8 @@
 namespace barvon {
 namespace {
 
+constexpr char kNone[] = "-";  // in a cell of what a run has not
+
 std::string Warning_Of(const Results& results) {
   constexpr char kBetween[] = " - ";
   const auto at = results.label.find(kBetween);
@@ -43,17 +45,17 @@ std::string Deposit_Of(const Results& results) {
 
 /// The columns of areas that are there.
 struct Areas_Shown {
-  bool site = false, zid = false;
+  bool site = false, anywhere = false, zid = false;
 };
 
 std::string Cell_Of(const std::optional<Largest_Value>& largest, const std::string& unit) {
-  if (!largest) return "-";
+  if (!largest) return kNone;
   return Reading_Words(largest->value, unit) + "\nat " + Time_Words(largest->time) + ", " +
          Depth_Words(largest->depth);
 }
 
 std::string Cell_Of(const std::optional<Result_Peak>& peak, const std::string& unit) {
-  if (!peak) return "-";
+  if (!peak) return kNone;
   return Reading_Words(peak->value, unit) + "\nat " + Time_Words(peak->time) + ", " +
          Depth_Words(peak->depth);
 }
@@ -63,8 +65,14 @@ std::vector<std::string> Row_Of(const Results& results, int species, const std::
   const Result_Species& known = results.species[static_cast<std::size_t>(species - 1)];
   const Largest_Values largest = Largest_Of(results, species);
   std::vector<std::string> row = {name.empty() ? known.name : known.name + "\n" + name};
-  if (areas.site) row.push_back(Cell_Of(largest.inside, known.unit));
-  row.push_back(Cell_Of(largest.outside, known.unit));
+  // Without a site the values outside are those of all places.
+  const bool site = Has_Site(results);
+  const std::string outside = Cell_Of(largest.outside, known.unit);
+  if (areas.site) {
+    row.push_back(Cell_Of(largest.inside, known.unit));
+    row.push_back(site ? outside : kNone);
+  }
+  if (areas.anywhere) row.push_back(site ? kNone : outside);
   if (areas.zid) row.push_back(Cell_Of(largest.outside_zid, known.unit));
   row.push_back(Cell_Of(Largest_Peak(results, species), known.unit));
   return row;
@@ -86,13 +94,17 @@ Overview_Words Words_Of(const Results& results, const std::string& name) {
 }
 
 Overview_Table Largest_Table(const Results& own, const Results* other) {
-  const Areas_Shown areas{Has_Site(own) || (other != nullptr && Has_Site(*other)),
-                          Has_Zid(own) || (other != nullptr && Has_Zid(*other))};
+  const auto any = [&](const auto& has) { return has(own) || (other != nullptr && has(*other)); };
+  const Areas_Shown areas{any(Has_Site), any([](const Results& run) { return !Has_Site(run); }),
+                          any(Has_Zid)};
   Overview_Table table;
   table.headings = {"Species"};
   const std::string site = Site_Name(own, other);
-  if (areas.site) table.headings.push_back("Inside the " + site);
-  table.headings.push_back(areas.site ? "Outside the " + site : "Anywhere");
+  if (areas.site) {
+    table.headings.push_back("Inside the " + site);
+    table.headings.push_back("Outside the " + site);
+  }
+  if (areas.anywhere) table.headings.push_back("Anywhere");
   if (areas.zid) table.headings.push_back("Outside the ZID");
   table.headings.push_back("At any point");
   std::string own_name, other_name;

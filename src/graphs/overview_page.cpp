@@ -152,8 +152,14 @@ QWidget* Overview_Page::Right_Half() {
 }
 
 void Overview_Page::Show(const Shown_Results& shown) {
+  const bool anew = shown_.own && shown_.own->path != shown.own->path;
   shown_ = shown;
   Show_Words();
+  // Another project begins at its end.
+  if (anew) {
+    const QSignalBlocker silent(balance_time_);
+    balance_time_->setCurrentIndex(0);
+  }
   Fill_Times();
   Show_Balance();
   Show_Table();
@@ -210,7 +216,11 @@ void Overview_Page::Show_Table() {
   table_->setRowCount(rows);
   table_->setColumnCount(columns);
   QStringList headings;
-  for (const std::string& heading : largest.headings) headings << QString::fromStdString(heading);
+  for (const std::string& heading : largest.headings) {
+    // In two lines a heading is no wider than what is below it.
+    headings << QString::fromStdString(heading).replace(QLatin1String(" the "),
+                                                        QLatin1String(" the\n"));
+  }
   table_->setHorizontalHeaderLabels(headings);
   for (int row = 0; row < rows; ++row) {
     for (int column = 0; column < columns; ++column) {

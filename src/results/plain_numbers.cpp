@@ -1,14 +1,44 @@
 #include "results/plain_numbers.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 
 namespace barvon {
 namespace {
 
 constexpr double kLeastPlain = 1e-4, kMostPlain = 1e15;
+
+/// So many units of ten to the power.
+struct Decimal {
+  std::int64_t units = 0;
+  int power = 0;
+};
+
+/// The decimal of so many digits that is nearest to a finite value.
+Decimal In_Units(double value, int digits) {
+  std::array<char, 40> letters;
+  const auto end = std::to_chars(letters.data(), letters.data() + letters.size(), value,
+                                 std::chars_format::scientific, digits - 1);
+  Decimal decimal;
+  const char* at = letters.data();
+  for (; *at != 'e'; ++at) {
+    if (*at >= '0' && *at <= '9') decimal.units = 10 * decimal.units + (*at - '0');
+  }
+  ++at;
+  if (*at == '+') ++at;
+  std::from_chars(at, end.ptr, decimal.power);
+  decimal.power -= digits - 1;
+  if (letters[0] == '-') decimal.units = -decimal.units;
+  return decimal;
+}
+
+/// Halves go away from 0.
+std::int64_t Nearest_Quotient(std::int64_t value, std::int64_t by) {
+  return (value + (value < 0 ? -by : by) / 2) / by;
+}
 
 }  // namespace
 
@@ -47,11 +77,25 @@ double Written_Difference(double a, double b, int digits) {
   const double difference = a - b;
   // Most cells of two maps are alike, or one has nothing there.
   if (a == 0 || b == 0 || difference == 0 || !std::isfinite(difference)) return difference;
-  // By how many digits the difference is shorter than the larger of both: those are of no number.
-  const double larger = std::max(std::abs(a), std::abs(b));
-  const int shorter = static_cast<int>(std::floor(std::log10(larger))) -
-                      static_cast<int>(std::floor(std::log10(std::abs(difference))));
-  return shorter < digits ? In_Digits(difference, digits - shorter) : 0;
+  const bool is_larger = std::abs(a) >= std::abs(b);
+  const Decimal larger = In_Units(is_larger ? a : b, digits);
+  const Decimal smaller = In_Units(is_larger ? b : a, digits);
+  const int shift = larger.power - smaller.power;
+  std::int64_t units = larger.units;
+  if (shift <= digits) {  // else it is less than half a unit of the larger
+    std::int64_t scale = 1;
+    for (int i = 0; i < shift; ++i) scale *= 10;
+    units = Nearest_Quotient(larger.units * scale - smaller.units, scale);
+  }
+  if (!is_larger) units = -units;
+  constexpr std::size_t kMostUnits = 24;  // letters; 64 bits have 20
+  std::array<char, 2 * kMostUnits> letters;
+  auto end = std::to_chars(letters.data(), letters.data() + kMostUnits, units).ptr;
+  *end++ = 'e';
+  end = std::to_chars(end, letters.data() + letters.size(), larger.power).ptr;
+  double nearest = difference;  // at the ends of what a number can be
+  std::from_chars(letters.data(), end, nearest);
+  return nearest;
 }
 
 std::optional<double> Number_Of(std::string_view text) {

@@ -19,8 +19,9 @@ std::string Rounded_Number(double value, int decimals);
 /// The number nearest to the value that has at most so many digits; what is not finite as it is.
 double In_Digits(double value, int digits);
 
-/// `a` less `b` where both were written with so many digits: it has no decimals behind those of the
-/// larger one. What is not finite comes as it does.
+/// `a` less `b` where both were written with so many digits, nine at most: the multiple of the last
+/// digit's unit of the larger one that is nearest to it, of two the one farther from 0. What is not
+/// finite comes as it does, and so does the other where one is 0.
 double Written_Difference(double a, double b, int digits);
 
 /// The number that the whole text is, blanks around it apart; nothing for any other text, and for

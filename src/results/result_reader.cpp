@@ -1,5 +1,6 @@
 #include "results/result_reader.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <optional>
@@ -59,6 +60,10 @@ std::optional<Result_Problem> Foreign_Listing(const std::string& base) {
   return Result_Problem{listing.path, 1, "written by another solver", true};
 }
 
+bool Is_Of_Mixing_Zone(const Result_Limit& limit) {
+  return limit.of.find("mixing zone") != std::string::npos;
+}
+
 Results_Or_Problem Made_Of(const std::string& path, const std::string& base,
                            const Outputs& outputs) {
   for (const Output* output : outputs.All()) {
@@ -85,6 +90,8 @@ Results_Or_Problem Made_Of(const std::string& path, const std::string& base,
   if (!problem && outputs.phases.there) {
     problem = Check_Phases(outputs.phases.path, outputs.phases.bytes, results);
   }
+  // Solvers of before told both as a site; the names of what they compared with tell which it is.
+  if (std::ranges::any_of(results.limits, Is_Of_Mixing_Zone)) results.mixing_zone = true;
   if (!problem) return results;
   problem->foreign = false;  // one of them is the companion's
   return *problem;

@@ -2,7 +2,11 @@
 
 #include <cstddef>
 
+#include "results/plain_numbers.h"
+
 namespace barvon {
+
+double Cell_Base(const Result_Map& map) { return In_Digits(map.base, kMapDigits); }
 
 Cell_Values Whole_Grid(const Result_Grid& grid, const Result_Map& map) {
   Cell_Values whole{.rows = grid.rows,
@@ -11,7 +15,7 @@ Cell_Values Whole_Grid(const Result_Grid& grid, const Result_Map& map) {
                     .spacing_z = grid.spacing_z,
                     .values = {}};
   const auto columns = static_cast<std::size_t>(grid.columns);
-  whole.values.assign(static_cast<std::size_t>(grid.rows) * columns, map.base);
+  whole.values.assign(static_cast<std::size_t>(grid.rows) * columns, Cell_Base(map));
   auto value = map.values.begin();
   for (int row = map.top; row <= map.bottom; ++row) {
     const std::size_t first = static_cast<std::size_t>(row - 1) * columns;

@@ -39,6 +39,9 @@ struct Result_Mass {
   double suspended = 0, on_grid = 0, off_grid = 0, released = 0;
 };
 
+/// Cells of maps are written with so many digits; their bases, like all else, with seven.
+inline constexpr int kMapDigits = 5;
+
 /// Values of a window of the grid; every cell outside it has the base.
 struct Result_Map {
   double time = 0;
@@ -100,6 +103,9 @@ struct Results {
   std::vector<Result_Limit> limits;
   std::vector<std::string> verdicts;  // lines as the listing has them
 };
+
+/// The base as a cell of the window would have it.
+double Cell_Base(const Result_Map& map);
 
 /// All cells of a map.
 Cell_Values Whole_Grid(const Result_Grid& grid, const Result_Map& map);

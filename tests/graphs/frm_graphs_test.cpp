@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSvgRenderer>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <filesystem>
 #include <optional>
@@ -249,6 +250,43 @@ TEST_F(FrmGraphs, Another_Project_Ends_A_Comparison_With_A_Word) {
   EXPECT_EQ(Label("State"), "No longer compared with other.DUI.");
   window.Show_Results_Of(folder / "bay.DUI", kContours);
   EXPECT_EQ(Label("State"), "");
+}
+
+TEST_F(FrmGraphs, A_New_Comparison_Takes_Words_Of_Before_Away) {
+  Write_Outputs("other");
+  Open_Bay();
+  window.Say("No longer compared with other.DUI.");
+  window.Compare_With(folder / "other.DUI");
+  EXPECT_EQ(Label("State"), "");
+  Write_Text(folder / "bay.dut", std::string(kSmallSeries) + " ");
+  Look_Twice();
+  const std::string damage = Label("State");
+  EXPECT_EQ(damage.rfind("Shown is the run of ", 0), 0u) << damage;
+  window.Compare_With(folder / "other.DUI");
+  EXPECT_EQ(Label("State"), damage);
+}
+
+TEST_F(FrmGraphs, A_Run_Compared_With_Itself_Is_Told_Once) {
+  Open_Bay();
+  window.Compare_With(folder / "bay.DUI");
+  Write_Outputs("bay");
+  Look_Twice();
+  const std::string words = Label("State");
+  EXPECT_EQ(words.rfind("New outputs of bay.DUI, run of ", 0), 0u) << words;
+  EXPECT_EQ(words.find(';'), std::string::npos) << words;
+}
+
+TEST_F(FrmGraphs, A_Small_Picture_Leads_To_What_It_Shows) {
+  Open_Bay(kContours);
+  auto* species = window.Page_In_Front()->findChild<QComboBox*>(QStringLiteral("cboSpecies"));
+  ASSERT_NE(species, nullptr);
+  ASSERT_EQ(species->count(), 2);
+  const int telling = species->currentIndex();
+  species->setCurrentIndex(1 - telling);
+  window.Show_View(kOverview);
+  QTest::mouseClick(Child<QPushButton>("Open(2)"), Qt::LeftButton);
+  EXPECT_EQ(Child<QTabWidget>("Views")->currentIndex(), kContours);
+  EXPECT_EQ(species->currentIndex(), telling);
 }
 
 TEST_F(FrmGraphs, Times_In_Both_Runs_Are_Told_Where_They_Differ) {

@@ -65,8 +65,11 @@ TEST_F(GraphWords, Another_Solvers_Outputs_Are_Told_Apart_From_Damaged_Ones) {
 
 TEST_F(GraphWords, The_Status_Line_Names_The_Run_That_Is_Shown) {
   EXPECT_EQ(Fresh_Words(results), "New outputs of site.DUI, run of 2025-11-22 07:03");
-  const std::string fresh = Fresh_Words(results), both = Words_Of_Both(fresh, fresh);
-  EXPECT_EQ(both, fresh + "; of site.DUI, run of 2025-11-22 07:03");
+  const std::string fresh = Fresh_Words(results);
+  results.path = "/bay/cove.DUI";
+  EXPECT_EQ(Words_Of_Both(fresh, Fresh_Words(results)),
+            fresh + "; of cove.DUI, run of 2025-11-22 07:03");
+  EXPECT_EQ(Words_Of_Both(fresh, fresh), fresh);
   EXPECT_EQ(Words_Of_Both("", fresh), fresh);
   EXPECT_EQ(Words_Of_Both(fresh, ""), fresh);
   EXPECT_EQ(Words_Of_Both(fresh, "Shown is"), fresh + "; Shown is");

@@ -228,6 +228,33 @@ TEST(ContourPage, New_Outputs_Keep_What_Is_Chosen) {
   EXPECT_EQ(contours.page.Map_Shown()->cells.values.back(), 128);
 }
 
+// Without limits and maxima the telling view is the first map there is.
+TEST(ContourPage, Another_Project_And_The_Overviews_Picture_Begin_At_The_Telling_View) {
+  Contours contours;
+  contours.Show(Mapped_Results());
+  const QString telling = contours.Name();
+  const auto choose_otherwise = [&] {
+    contours.Choose("cboSpecies", "COPPER");
+    contours.Choose("cboDepth", "20 ft");
+    contours.Choose("cboSteps", "Linear");
+    contours.Get<QSlider>("Time").setValue(1);
+    ASSERT_EQ(contours.Name(), "COPPER at 20 ft, 1200 s (20 min)");
+  };
+  choose_otherwise();
+  Results other = Mapped_Results();
+  other.path = "/p/other.DUI";
+  contours.Show(other);
+  EXPECT_EQ(contours.Name(), telling);
+  contours.Get<QCheckBox>("chkLargest").click();
+  ASSERT_TRUE(contours.page.View().largest);
+  contours.page.Show_Telling();
+  EXPECT_EQ(contours.Name(), telling);
+  choose_otherwise();
+  contours.page.Show_Telling();
+  EXPECT_EQ(contours.Name(), telling);
+  EXPECT_EQ(contours.Box("cboSteps").currentText(), "Linear");
+}
+
 TEST(ContourPage, A_Section_Stays_For_Fresh_Outputs_And_Goes_With_Its_Project) {
   Contours contours;
   contours.Show(Mapped_Results());
@@ -330,10 +357,10 @@ TEST(DepositPage, Begins_With_All_Solids_At_The_End_And_Tells_The_Totals) {
   EXPECT_FALSE(deposit.Box("cboDepth").isVisible());
   EXPECT_FALSE(deposit.Get<QCheckBox>("chkLargest").isVisible());
   // 1.2 ft on one cell of 10000 ft2.
-  EXPECT_EQ(deposit.Get<QLabel>("Volume").text(), "12000 ft3 (444.4 yd3)");
-  EXPECT_EQ(deposit.Get<QLabel>("Area").text(), "10000 ft2 (0.2296 acres)");
+  EXPECT_EQ(deposit.Get<QLabel>("Volume").text(), "12000 ft3 (444.44 yd3)");
+  EXPECT_EQ(deposit.Get<QLabel>("Area").text(), "10000 ft2 (0.22957 acres)");
   deposit.Choose("cboSpecies", "SAND");
-  EXPECT_EQ(deposit.Get<QLabel>("Volume").text(), "6000 ft3 (222.2 yd3)");
+  EXPECT_EQ(deposit.Get<QLabel>("Volume").text(), "6000 ft3 (222.22 yd3)");
 }
 
 TEST(DepositPage, The_Area_Follows_The_Typed_Thickness) {

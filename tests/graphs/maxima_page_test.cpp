@@ -221,6 +221,36 @@ TEST(MaximaPage, Choices_Stay_When_New_Results_Hold_Them_Too) {
   EXPECT_EQ(bench.Plot()->Read_Time(), std::nullopt);
 }
 
+void Choose_Otherwise(Maxima_Bench& bench) {
+  QTest::keyClick(bench.Child<QComboBox>("Species"), Qt::Key_Up);
+  bench.Child<QComboBox>("Depth")->setCurrentIndex(2);
+  for (const char* name : {"Inside", "Limits"}) {
+    QTest::keyClick(bench.Child<QCheckBox>(name), Qt::Key_Space);
+  }
+  QTest::keyClicks(bench.Child<QLineEdit>("HeldAgainst"), "7");
+  ASSERT_EQ(bench.Plot()->Drawn().title, "Sand at 20 ft");
+  ASSERT_EQ(bench.Plot()->Drawn().curves.size(), 1u);
+}
+
+TEST(MaximaPage, Another_Project_Begins_At_Its_Telling_View) {
+  Maxima_Bench bench;
+  Choose_Otherwise(bench);
+  bench.page.Show({Another(), nullptr});
+  EXPECT_EQ(bench.Plot()->Drawn().title, "Ammonia at all depths");
+  EXPECT_EQ(bench.Plot()->Drawn().curves.size(), 2u);
+  EXPECT_EQ(bench.Plot()->Drawn().limits.size(), 1u);  // none that was typed
+  EXPECT_EQ(bench.Child<QLineEdit>("HeldAgainst")->text(), "");
+}
+
+TEST(MaximaPage, The_Telling_View_Is_Gone_Back_To) {
+  Maxima_Bench bench;
+  Choose_Otherwise(bench);
+  bench.page.Show_Telling();
+  EXPECT_EQ(bench.Plot()->Drawn().title, "Ammonia at all depths");
+  EXPECT_EQ(bench.Plot()->Drawn().curves.size(), 2u);
+  EXPECT_EQ(bench.Plot()->Drawn().limits.size(), 2u);
+}
+
 TEST(MaximaPage, The_Other_Results_Curves_Come_And_Go) {
   Maxima_Bench bench;
   const auto own = std::make_shared<const Results>(Small_Results());

@@ -94,6 +94,15 @@ TEST(OverviewPage, Columns_Name_The_Mixing_Zone_And_What_Two_Runs_Have) {
   Results nowhere = Small_Results();
   nowhere.site.reset();
   EXPECT_EQ(Largest_Table(nowhere, &zone).headings[1], "Inside the mixing zone");
+  const Overview_Table both = Largest_Table(zone, &nowhere);
+  EXPECT_EQ(both.headings,
+            (std::vector<std::string>{"Species", "Inside the mixing zone",
+                                      "Outside the mixing zone", "Anywhere", "At any point"}));
+  EXPECT_EQ(both.rows[0][2], "8 mg/l\nat 200 s (3.3 min), 20 ft");
+  EXPECT_EQ(both.rows[0][3], "-");
+  EXPECT_EQ(both.rows[1][1], "-");
+  EXPECT_EQ(both.rows[1][2], "-");
+  EXPECT_EQ(both.rows[1][3], "8 mg/l\nat 200 s (3.3 min), 20 ft");
   EXPECT_EQ(Largest_Table(zone, &nowhere).headings[1], "Inside the mixing zone");
 }
 
@@ -120,6 +129,13 @@ TEST(OverviewPage, The_Balance_Is_Shown_At_The_End_Or_At_A_Time) {
   EXPECT_EQ(changed.count(), 1);
   bench.page.Show({std::make_shared<const Results>(Small_Results()), nullptr});
   EXPECT_EQ(bench.page.Picture_Name(), "Balance at 100 s (1.7 min)");
+}
+
+TEST(OverviewPage, The_Balance_Of_Another_Project_Begins_At_Its_End) {
+  Overview_Bench bench;
+  QTest::keyClick(bench.Child<QComboBox>("BalanceTime"), Qt::Key_Down);
+  bench.page.Show({Another(), nullptr});
+  EXPECT_EQ(bench.page.Picture_Name(), "Balance at the end");
 }
 
 TEST(OverviewPage, A_Small_Picture_Opens_Its_View_By_Click_And_By_Key) {
@@ -182,6 +198,27 @@ TEST(OverviewPage, In_A_Narrow_Window_The_Small_Pictures_Are_Below_And_The_Table
   EXPECT_GT(place(bench.Child<QPushButton>("Open(1)")).y(), place(table).y() + table->height() - 1);
   EXPECT_GT(table->horizontalScrollBar()->maximum(), 0);
   EXPECT_GE(table->viewport()->height(), table->verticalHeader()->length());
+}
+
+// With all columns that one kind of run has.
+TEST(OverviewPage, The_Table_Of_Two_Runs_Fits_A_Small_Display) {
+  Results zone = Small_Results();
+  zone.path = "/work/Section_404_Zid.DUI";
+  zone.mixing_zone = true;
+  zone.zid = zone.site;
+  for (Result_Maxima& row : zone.maxima) {
+    row.inside = row.outside = row.outside_zid = 5542.9;
+    row.depth = 34;
+  }
+  for (Result_Peak& peak : zone.peaks) peak.depth = 34.83;
+  auto other = std::make_shared<Results>(zone);
+  other->path = "/work/Fine.DUI";
+  Overview_Bench bench(zone, other);
+  bench.page.resize(1000, 600);
+  QApplication::processEvents();
+  const auto* table = bench.Child<QTableWidget>("Largest");
+  EXPECT_EQ(table->columnCount(), 5);
+  EXPECT_EQ(table->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST(OverviewPage, Large_Letters_Are_Given_Room) {

@@ -4,6 +4,8 @@
 #include <rapidcheck.h>
 
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 
 namespace barvon {
 namespace {
@@ -46,6 +48,42 @@ TEST(PlainNumbers, A_Difference_Has_The_Decimals_Of_The_Larger) {
   EXPECT_EQ(Written_Difference(0.12345, 0, 5), 0.12345);
   EXPECT_EQ(Written_Difference(3, 3, 5), 0);
   EXPECT_EQ(Written_Difference(1 + 1e-9, 1, 5), 0);
+}
+
+TEST(PlainNumbers, A_Difference_Is_Of_The_Decimals_And_Not_Of_The_Subtraction) {
+  EXPECT_EQ(Written_Difference(295.76, 295.75, 5), 0.01);  // 0.009999999999990905
+  EXPECT_EQ(Written_Difference(295.75, 295.76, 5), -0.01);
+  EXPECT_EQ(Written_Difference(100.00, 99.991, 5), 0.01);  // 0.009 in hundredths
+  EXPECT_EQ(Written_Difference(100.00, 99.996, 5), 0);     // 0.004
+  EXPECT_EQ(Written_Difference(100.00, 99.995, 5), 0.01);  // a half
+  EXPECT_EQ(Written_Difference(99.995, 100.00, 5), -0.01);
+  EXPECT_EQ(Written_Difference(1000.0, 999.99, 5), 0);  // 0.01 in tenths
+  EXPECT_EQ(Written_Difference(1000.1, 999.99, 5), 0.1);
+  EXPECT_EQ(Written_Difference(2.5, -2.5, 5), 5);
+  EXPECT_EQ(Written_Difference(-2.5, 0.00013, 5), -2.5001);
+}
+
+TEST(PlainNumbers, Every_Difference_Is_That_Of_Whole_Numbers) {
+  EXPECT_TRUE(rc::check([] {
+    const int digits = *rc::gen::inRange(1, 8);
+    const int behind = *rc::gen::inRange(0, digits + 3);  // the smaller one's last digit
+    const int power = *rc::gen::inRange(-30, 31);
+    std::int64_t most = 1, scale = 1;
+    for (int i = 0; i < digits; ++i) most *= 10;
+    for (int i = 0; i < behind; ++i) scale *= 10;
+    const auto any = rc::gen::inRange(most / 10, most);
+    const auto sign = rc::gen::element<std::int64_t>(-1, 1);
+    const std::int64_t larger = *any * *sign, smaller = *any * *sign;
+    const auto decimal = [](std::int64_t units, int exponent) {
+      return *Number_Of(std::to_string(units) + "e" + std::to_string(exponent));
+    };
+    const std::int64_t exact = larger * scale - smaller;
+    std::int64_t units = exact / scale;
+    if (2 * std::abs(exact % scale) >= scale) units += exact < 0 ? -1 : 1;
+    const double a = decimal(larger, power), b = decimal(smaller, power - behind);
+    RC_ASSERT(Written_Difference(a, b, digits) == decimal(units, power));
+    RC_ASSERT(Written_Difference(b, a, digits) == -decimal(units, power));
+  }));
 }
 
 TEST(PlainNumbers, A_Text_Is_A_Number_As_A_Whole_Or_Not_At_All) {

@@ -411,6 +411,17 @@ TEST_F(ResultFiles, They_Are_Found_Beside_The_Project_Whatever_Their_Case) {
   }
 }
 
+TEST_F(ResultFiles, What_Was_Compared_Tells_A_Mixing_Zone_That_Stands_As_A_Site) {
+  Write_All();
+  const auto is_zone = [this] {
+    return std::get<Results>(Read_Results(folder_ / "Bank.DUI")).mixing_zone;
+  };
+  EXPECT_FALSE(is_zone());
+  Write_Text(folder_ / "Bank.dut",
+             With(kSmallSeries, "outside the disposal site\r", "outside the mixing zone\r"));
+  EXPECT_TRUE(is_zone());
+}
+
 TEST_F(ResultFiles, Descent_And_Collapse_May_Be_Missing_The_Others_Are_Told_By_Name) {
   Write_All();
   std::filesystem::remove(folder_ / "Bank.dup");

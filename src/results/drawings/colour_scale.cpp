@@ -7,11 +7,11 @@
 
 #include "pictures/shapes/axis_scale.h"
 #include "pictures/shapes/inks.h"
+#include "results/results.h"
 
 namespace barvon {
 namespace {
 
-constexpr double kLeastSpan = 1e-6;  // of the values: finer than outputs are written
 constexpr double kHair = 1e-9;  // of a value: a level as near as that to the largest holds nothing
 
 // From a hue that is near white to one near black.
@@ -55,9 +55,15 @@ double Twelve_Digits(double value) {
   return nearest;
 }
 
+/// The power of ten of the last digit that cells of this size are written with.
+int Last_Digit(double base, double largest) {
+  const double size = std::max({std::abs(base), std::abs(largest), kSmallestOnLog});
+  return static_cast<int>(std::floor(std::log10(size))) + 1 - kMapDigits;
+}
+
 bool Has_Span(double base, double largest) {
-  return Can_Be_Drawn(base) && Can_Be_Drawn(largest) &&
-         largest - base > kLeastSpan * std::max(std::abs(largest), std::abs(base));
+  return Can_Be_Drawn(base) && Can_Be_Drawn(largest) && largest > base &&
+         largest - base >= std::pow(10, Last_Digit(base, largest)) * (1 - kHair);
 }
 
 /// Levels that are `from` and a round number above it, between the two others.
@@ -87,8 +93,9 @@ std::vector<double> Even_Levels(double base, double largest) {
   std::vector<double> levels;
   if (!Has_Span(base, largest)) return levels;
   const double span = largest - base;
-  // The least round step that leaves no more levels than there may be.
-  int place = 3 * (static_cast<int>(std::floor(std::log10(span / kMostLevels))) - 1);
+  // The least round step that leaves no more levels than there may be, and is one of cells.
+  int place = 3 * std::max(static_cast<int>(std::floor(std::log10(span / kMostLevels))) - 1,
+                           Last_Digit(base, largest));
   const auto first = [&] { return std::floor(base / Round_Number(place) + kHair) + 1; };
   const auto last = [&] { return std::ceil(largest / Round_Number(place) - kHair) - 1; };
   while (last() - first() >= kMostLevels) ++place;

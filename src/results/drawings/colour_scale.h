@@ -21,12 +21,12 @@ inline constexpr std::size_t kMostLevels = 8;
 
 /// 1, 2 and 5 times powers of ten above `base` and below `largest`, the greatest kMostLevels of
 /// them, ascending. Where fewer than five lie between, their excess over `base` is as round as that
-/// instead, so that faint clouds show over a strong background. None where `largest` is not above
-/// `base` by a millionth of both.
+/// instead, so that faint clouds show over a strong background. None is nearer to `base` than cells
+/// of their size are written.
 std::vector<double> Log_Levels(double largest, double base);
 
-/// The whole multiples of a round step between the two, ends left out: kMostLevels at most. None
-/// where `largest` is not above `base` by a millionth of both.
+/// The whole multiples of a round step between the two, ends left out: kMostLevels at most. The
+/// step is no finer than cells of their size are written.
 std::vector<double> Even_Levels(double base, double largest);
 
 /// The colour of a band of so many, from 0. Darker is more, evenly, also to colour-blind eyes and

@@ -13,8 +13,7 @@
 namespace barvon {
 namespace {
 
-// Values of maps come with five digits. Places come with seven and are multiplied by whole numbers.
-constexpr int kMapDigits = 5, kPlaceDigits = 10;
+constexpr int kPlaceDigits = 10;  // places come with seven and are multiplied by whole numbers
 
 const std::vector<Result_Map>& Maps_Of(const Results& results, Map_Kind kind) {
   return kind == Map_Kind::thickness ? results.beds : results.maps;
@@ -55,8 +54,9 @@ struct Span {
 };
 
 void Take_In(std::optional<Span>& span, const Result_Map& map) {
-  if (!span) span = Span{map.base, map.base};
-  span->base = std::min(span->base, map.base);
+  const double base = Cell_Base(map);
+  if (!span) span = Span{base, base};
+  span->base = std::min(span->base, base);
   for (const double value : map.values) span->largest = std::max(span->largest, value);
 }
 
@@ -96,21 +96,21 @@ Cell_Values Difference(const Results& own, const Result_Map& map, const Results&
   return cells;
 }
 
-/// The size of the largest difference at any cell. It is looked for at every time: only the one
-/// found is brought to the digits of the maps.
-struct Largest_Found {
-  double one = 0, other = 0;
-
-  void Look(const Cell_Values& ones, const Cell_Values& others) {
-    for (std::size_t i = 0; i < ones.values.size(); ++i) {
-      if (std::abs(ones.values[i] - others.values[i]) > std::abs(one - other)) {
-        one = ones.values[i];
-        other = others.values[i];
-      }
-    }
+/// The larger of `largest` and the size of the largest difference at any cell. It is looked for at
+/// every time: only what may be larger is brought to the digits of the maps, which adds half a unit
+/// of the last one at most, and no more than the difference itself.
+double Larger_Difference(double largest, const Cell_Values& ones, const Cell_Values& others) {
+  const double half_unit = std::pow(10, 1 - kMapDigits) / 2;  // of the larger value, at most
+  for (std::size_t i = 0; i < ones.values.size(); ++i) {
+    const double one = ones.values[i], other = others.values[i];
+    const double size = std::abs(one - other);
+    const double added = std::min(half_unit * std::max(std::abs(one), std::abs(other)), size);
+    if (!(size + added > largest)) continue;
+    const double written = std::abs(Written_Difference(one, other, kMapDigits));
+    if (std::isfinite(written)) largest = std::max(largest, written);
   }
-  double Size() const { return std::abs(Written_Difference(one, other, kMapDigits)); }
-};
+  return largest;
+}
 
 std::string Grid_Words(const Result_Grid& grid) {
   return std::to_string(grid.rows) + " x " + std::to_string(grid.columns) + " points of " +
@@ -243,15 +243,16 @@ class View_Content {
 
   double Largest_Difference() const {
     if (view_.largest) return Largest_Size(content_.cells);
-    Largest_Found largest;
+    double largest = 0;
     Map_View at = view_, other_at = other_view_;
     for (const double time : Mapped_Times(own_, view_.kind, view_.species, view_.depth)) {
       at.time = other_at.time = time;
       const Result_Map *one = Find(own_, at), *other = Find(*other_, other_at);
       if (one == nullptr || other == nullptr) continue;
-      largest.Look(Whole_Grid(own_.grid, *one), Whole_Grid(other_->grid, *other));
+      largest =
+          Larger_Difference(largest, Whole_Grid(own_.grid, *one), Whole_Grid(other_->grid, *other));
     }
-    return largest.Size();
+    return largest;
   }
 
   const Results& own_;

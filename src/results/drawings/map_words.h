@@ -6,8 +6,10 @@
 
 namespace barvon {
 
-/// A value read from a map in four figures, more than a model can promise: "12.35 mg/l"; "no value"
-/// for what is not finite.
+/// As many as the solver's verdicts have: more than a model can promise.
+inline constexpr int kReadingFigures = 5;
+
+/// A value of the outputs in so many figures: "12.346 mg/l"; "no value" for what is not finite.
 std::string Reading_Words(double value, const std::string& unit);
 
 /// "X 1200 ft, Z 800 ft".

@@ -9,12 +9,14 @@
 #include "results/csv_text.h"
 #include "results/drawings/map_words.h"
 #include "results/drawings/result_words.h"
+#include "results/plain_numbers.h"
 
 namespace barvon {
 namespace {
 
 constexpr double kLeastTime = 1;          // s, of an axis
 constexpr double kLikeBackground = 1e-6;  // a part of it; the outputs have seven digits
+constexpr int kMostFigures = 7;           // of the outputs
 
 /// One of the results that are drawn.
 struct Source {
@@ -29,13 +31,13 @@ struct Area_Choice {
   bool wanted;
 };
 
-// Where inside and outside are not told apart, outside stands for all places.
+// Where inside and outside are not told apart there is one curve, which no box puts away.
 std::vector<Area_Choice> Areas_Of(const Results& results, const Maxima_Choice& choice) {
   std::vector<Area_Choice> areas;
   if (Has_Site(results)) {
     areas = {{Result_Where::inside, choice.inside}, {Result_Where::outside, choice.outside}};
   } else {
-    areas = {{Result_Where::anywhere, choice.inside || choice.outside}};
+    areas = {{Result_Where::anywhere, true}};
   }
   areas.push_back({Result_Where::outside_zid, choice.outside_zid && Has_Zid(results)});
   return areas;
@@ -65,6 +67,16 @@ std::vector<Time_Span> In_Whole_Seconds(std::vector<Time_Span> spans) {
   return spans;
 }
 
+// As other readings, in more figures where it would seem to be the limit that it is above or below.
+std::string Worst_Words(double worst, double limit, const std::string& unit) {
+  std::string words = Reading_Words(worst, unit);
+  for (int figures = kReadingFigures + 1; worst != limit && figures <= kMostFigures; ++figures) {
+    if (words != Value_Words(limit, unit)) break;
+    words = Shortest_Number(In_Digits(worst, figures)) + " " + unit;
+  }
+  return words;
+}
+
 Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std::string& unit) {
   Maxima_Limit drawn;
   drawn.name = source.prefix + limit.of + ", " + Value_Words(limit.value, unit);
@@ -73,9 +85,10 @@ Maxima_Limit Limit_Of(const Result_Limit& limit, const Source& source, const std
   drawn.where = limit.where;
   drawn.of_other = source.of_other;
   if (limit.exceeded) drawn.exceeded = {{limit.first, limit.last}};
-  drawn.words =
-      drawn.name + ", at any point and depth: " + Spans_Words(In_Whole_Seconds(drawn.exceeded)) +
-      ", largest " + Reading_Words(limit.worst, unit) + " at " + Time_Words(limit.worst_time);
+  drawn.words = drawn.name +
+                ", at any point and depth: " + Spans_Words(In_Whole_Seconds(drawn.exceeded)) +
+                ", largest " + Worst_Words(limit.worst, limit.value, unit) + " at " +
+                Time_Words(limit.worst_time);
   return drawn;
 }
 
@@ -89,16 +102,37 @@ void Add_Limits(Maxima_Drawing& drawing, const Source& source, bool one_depth) {
   }
 }
 
-void Hold_Against(Maxima_Drawing& drawing, double value) {
+// What the solver found at that place, where it says otherwise than the curve: it looks at any
+// point and depth, and at more times.
+std::string Found_Above(const Maxima_Curve& curve, const std::vector<Source>& sources, double value,
+                        const std::string& unit) {
+  const Result_Limit* found = nullptr;
+  for (const Source& source : sources) {
+    if (source.of_other != curve.of_other) continue;
+    for (const Result_Limit& limit : source.results->limits) {
+      if (limit.species != source.species || limit.where != curve.where) continue;
+      if (limit.worst > value && (found == nullptr || limit.worst > found->worst)) found = &limit;
+    }
+  }
+  if (found == nullptr) return "";
+  return ", but " + Worst_Words(found->worst, value, unit) + " at any point and depth at " +
+         Time_Words(found->worst_time);
+}
+
+void Hold_Against(Maxima_Drawing& drawing, const std::vector<Source>& sources,
+                  const Maxima_Choice& choice) {
+  const double value = *choice.held_against;
   Maxima_Limit typed;
   typed.name = Value_Words(value, drawing.unit);
   typed.value = value;
   typed.where = Result_Where::anywhere;
-  typed.words = typed.name + ":";
+  typed.words = typed.name + " held against the curves, means over cells at the output times and " +
+                (choice.depth ? Depth_Words(*choice.depth) : "output depths") + ":";
   for (const Maxima_Curve& curve : drawing.curves) {
     const auto spans = Spans_Above(curve.values, value);
     typed.words += (typed.words.back() == ':' ? " " : "; ") + curve.name + " " +
                    Spans_Words(In_Whole_Seconds(spans));
+    if (spans.empty()) typed.words += Found_Above(curve, sources, value, drawing.unit);
     typed.exceeded.insert(typed.exceeded.end(), spans.begin(), spans.end());
   }
   drawing.limits.push_back(typed);
@@ -228,7 +262,7 @@ Maxima_Drawing Draw_Maxima(const Results& own, const Results* other, const Maxim
   }
   std::erase_if(drawing.curves,
                 [](const Maxima_Curve& curve) { return curve.of_other && curve.values.empty(); });
-  if (choice.held_against) Hold_Against(drawing, *choice.held_against);
+  if (choice.held_against) Hold_Against(drawing, sources, choice);
   drawing.time = Time_Scale(drawing);
   drawing.value = Value_Scale(drawing, choice.logarithmic);
   for (const double value : All_Values(drawing)) {

@@ -21,8 +21,8 @@ TEST(DepositWords, The_Volume_Is_The_Sum_Over_The_Cells) {
 
 // Two cells are thicker than 0.1 ft; an acre is 43560 ft2.
 TEST(DepositWords, The_Area_Counts_Cells_Above_The_Typed_Thickness) {
-  EXPECT_EQ(Area_Words(Deposit(), "0.1"), "6600 ft2 (0.1515 acres)");
-  EXPECT_EQ(Area_Words(Deposit(), " 0 "), "9900 ft2 (0.2273 acres)");
+  EXPECT_EQ(Area_Words(Deposit(), "0.1"), "6600 ft2 (0.15152 acres)");
+  EXPECT_EQ(Area_Words(Deposit(), " 0 "), "9900 ft2 (0.22727 acres)");
   EXPECT_EQ(Area_Words(Deposit(), "0.6"), "0 ft2 (0 acres)");
 }
 

@@ -302,9 +302,10 @@ TEST(MapDrawing, The_Map_Keeps_Its_Room_First_The_Summary_Goes_Then_The_Axis_Tit
   EXPECT_TRUE(Has(letters({900, 150, 20}), "SAND"));
 }
 
-TEST(MapDrawing, Values_Are_Told_In_Four_Figures) {
-  EXPECT_EQ(Reading_Words(0.00123456, "ft"), "0.001235 ft");
-  EXPECT_EQ(Reading_Words(12345.6, "mg/l"), "12350 mg/l");
+TEST(MapDrawing, Values_Are_Told_In_Five_Figures) {
+  EXPECT_EQ(Reading_Words(0.001234567, "ft"), "0.0012346 ft");
+  EXPECT_EQ(Reading_Words(123456, "mg/l"), "123460 mg/l");
+  EXPECT_EQ(Reading_Words(0.317225, "mg/l"), "0.31723 mg/l");  // as a double a hair less
   EXPECT_EQ(Reading_Words(-2, "ft"), "-2 ft");
   EXPECT_EQ(Reading_Words(0, "ft"), "0 ft");
   EXPECT_EQ(Reading_Words(std::numeric_limits<double>::quiet_NaN(), "ft"), "no value");

@@ -88,6 +88,20 @@ TEST(MapView, A_Background_Is_No_Cloud) {
   EXPECT_EQ(content.scale.levels.back(), 13);  // 10 above it, of 16
 }
 
+// The base comes with seven digits, the cells with five.
+TEST(MapView, A_Background_Is_Written_Like_The_Cells) {
+  Results results = Mapped_Results();
+  for (Result_Map& map : results.maps) {
+    map.base = 0.123456;
+    map.top = map.bottom = map.right = 1;
+    map.values = {0.12346};
+  }
+  const Map_Content content = Content_Of(results, nullptr, Of(1, 10, 600));
+  EXPECT_EQ(content.cells.values, (Depths{0.12346, 0.12346, 0.12346, 0.12346}));
+  EXPECT_TRUE(content.scale.levels.empty());
+  EXPECT_EQ(Draw_Map(content).summary, "0.12346 mg/l everywhere.");
+}
+
 TEST(MapView, Thickness_Is_In_Feet_With_All_Solids_Together_First) {
   Map_View view = Of(0, 0, 1200);
   view.kind = Map_Kind::thickness;
@@ -168,6 +182,25 @@ TEST(MapView, A_Difference_Has_No_Digits_Of_The_Subtraction) {
   EXPECT_EQ(Map_Numbers(Draw_Map(content)),
             "X (ft),Z (ft),Difference in thickness (ft)\r\n"
             "0,0,0.3\r\n0,100,0.1\r\n100,0,0.3\r\n100,100,0\r\n");
+}
+
+// 0.04 is the larger difference, but none in tenths; the smaller one is in hundredths.
+TEST(MapView, The_Scale_Of_Differences_Is_Of_Those_That_Are_Shown) {
+  Results own = Mapped_Results(), other = Mapped_Results();
+  own.beds[0].values = {1000.0, 0.03, 0, 0};
+  other.beds[0].values = {999.96, 0.01, 0, 0};
+  own.beds[2].values = other.beds[2].values = {1000.0, 0, 0, 0};
+  other.path = "/p/other.DUI";
+  Map_View view = Of(0, 0, 600);
+  view.kind = Map_Kind::thickness;
+  view.side = Map_Side::difference;
+  for (const bool same_scale : {true, false}) {
+    view.same_scale = same_scale;
+    const Map_Content content = Content_Of(own, &other, view);
+    EXPECT_EQ(content.cells.values, (Depths{0, 0.02, 0, 0}));
+    ASSERT_FALSE(content.scale.levels.empty());
+    EXPECT_EQ(content.scale.levels.back(), 0.01);
+  }
 }
 
 TEST(MapView, Grids_That_Differ_Have_No_Difference) {

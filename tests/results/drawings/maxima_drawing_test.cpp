@@ -72,7 +72,8 @@ TEST(MaximaDrawing, All_Depths_Are_The_Largest_Of_Them) {
 TEST(MaximaDrawing, Without_A_Site_One_Curve_Stands_For_All_Places) {
   Results results = Small_Results();
   results.site.reset();
-  const auto drawing = Draw_Maxima(results, nullptr, {.species = 1});
+  const auto drawing =
+      Draw_Maxima(results, nullptr, {.species = 1, .inside = false, .outside = false});
   ASSERT_EQ(drawing.curves.size(), 1u);
   EXPECT_EQ(drawing.curves[0].name, "anywhere");
   EXPECT_EQ(Values_Of(drawing.curves[0]), (std::vector<double>{90, 30, 6, 2}));
@@ -132,7 +133,41 @@ TEST(MaximaDrawing, A_Typed_Value_Is_Exceeded_Where_The_Lines_Are_Above_It) {
   ASSERT_EQ(drawing.limits.size(), 1u);
   EXPECT_EQ(drawing.limits[0].exceeded, (std::vector<Time_Span>{{100, 250}}));
   EXPECT_EQ(drawing.limits[0].words,
-            "17 mg/l: inside the site exceeded from 100 s (1.7 min) to 250 s (4.2 min)");
+            "17 mg/l held against the curves, means over cells at the output times and output "
+            "depths: inside the site exceeded from 100 s (1.7 min) to 250 s (4.2 min)");
+}
+
+// Outside the curve goes up to 3, the solver found 3.4 at a point.
+TEST(MaximaDrawing, What_A_Curve_Does_Not_Show_Of_A_Typed_Value_Is_Told_Beside_It) {
+  const auto typed = [](double value, std::optional<double> depth = {}) {
+    return Draw_Maxima(Small_Results(), nullptr,
+                       {.species = 2, .depth = depth, .limits = false, .held_against = value})
+        .limits.at(0)
+        .words;
+  };
+  EXPECT_EQ(typed(3.2),
+            "3.2 mg/l held against the curves, means over cells at the output times and output "
+            "depths: inside the site exceeded from 100 s (1.7 min) to 240 s (4 min); outside the "
+            "site not exceeded, but 3.4 mg/l at any point and depth at 210 s (3.5 min)");
+  EXPECT_EQ(typed(3.4).find("but"), std::string::npos);
+  EXPECT_EQ(typed(2.9).find("but"), std::string::npos);
+  const std::string at_depth = typed(2, 5);
+  EXPECT_TRUE(Says(at_depth, "output times and 5 ft: inside")) << at_depth;
+  EXPECT_TRUE(Says(at_depth, "outside the site not exceeded, but 3.4 mg/l")) << at_depth;
+}
+
+TEST(MaximaDrawing, A_Value_That_Is_Above_Its_Limit_Does_Not_Read_Like_It) {
+  Results results = Small_Results();
+  const auto words = [&](double value, double worst) {
+    results.limits[0].value = value;
+    results.limits[0].worst = worst;
+    return Draw_Maxima(results, nullptr, {.species = 2}).limits.at(0).words;
+  };
+  EXPECT_TRUE(Says(words(2.2, 2.20004), "largest 2.20004 mg/l at"));
+  EXPECT_TRUE(Says(words(2.2, 2.200001), "largest 2.200001 mg/l at"));
+  EXPECT_TRUE(Says(words(2.2, 2.199999), "largest 2.199999 mg/l at"));
+  EXPECT_TRUE(Says(words(2.2, 2.2), "largest 2.2 mg/l at"));
+  EXPECT_TRUE(Says(words(2.2, 2.345678), "largest 2.3457 mg/l at"));
 }
 
 TEST(MaximaDrawing, Times_Between_Outputs_Are_Told_In_Whole_Seconds) {
