@@ -9,6 +9,7 @@
 #include "batch/batch_options.h"
 #include "batch/batch_output.h"
 #include "batch/interrupts.h"
+#include "platform/process/search_path.h"
 
 namespace {
 
@@ -28,6 +29,7 @@ int Do_Command_Line(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  barvon::Keep_Lasting_Search_Path();
   barvon::Watch_Interrupts();
   const int code = Do_Command_Line(argc, argv);
   const int error = barvon::Finish_Output();

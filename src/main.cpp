@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QIcon>
-#include <QSettings>
 #include <clocale>
 #include <string_view>
 
@@ -8,9 +7,11 @@
 #include "core/desk/workspace_port.h"
 #include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
+#include "platform/process/search_path.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
+#include "platform/qt/toolkit_files.h"
 #include "program_screens.h"
 #include "recovery/frm_recovery.h"
 #include "recovery/recovery_clock.h"
@@ -21,10 +22,12 @@
 #include "workspace/tips_file.h"
 
 int main(int given, char** arguments) {
+  barvon::Keep_Lasting_Search_Path();
   // The command line is read for nothing but the report that barvon-run asks for: a project is
   // opened from the File menu.
   const bool reports = given == 4 && std::string_view(arguments[1]) == "--report-pdf";
   int count = 1;
+  barvon::Load_No_Plugins_From(barvon::Program_Folder());
   QApplication application(count, arguments);
   // The toolkit takes the desktop's locale; numbers keep their point.
   std::setlocale(LC_NUMERIC, "C");
@@ -41,9 +44,7 @@ int main(int given, char** arguments) {
     barvon::End_Program();
   });
   barvon::Take_Program_Folder(barvon::Program_Folder());
-  // The toolkit's file dialog keeps its own settings, which stand with the others.
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                     QString::fromStdString(barvon::Application_Folder()));
+  barvon::Keep_No_Toolkit_Settings();
   barvon::Take_Delivered_Settings();
   barvon::Main main(barvon::Application_Folder());
   barvon::Register_Program_Screens(&main);

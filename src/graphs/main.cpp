@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QIcon>
-#include <QSettings>
 #include <QTimer>
 #include <clocale>
 
@@ -9,15 +8,19 @@
 #include "graphs/hand_over.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
+#include "platform/process/search_path.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
+#include "platform/qt/toolkit_files.h"
 
 int main(int given, char** arguments) {
+  barvon::Keep_Lasting_Search_Path();
   // The main program hands over by the settings; a person who starts this by hand may name a file.
   const std::string named = given > 1 ? arguments[1] : "";
   int count = 1;
+  barvon::Load_No_Plugins_From(barvon::Program_Folder());
   QApplication application(count, arguments);
   // The toolkit takes the desktop's locale; numbers keep their point.
   std::setlocale(LC_NUMERIC, "C");
@@ -27,8 +30,7 @@ int main(int given, char** arguments) {
   const barvon::Qt_Services services;
   const barvon::End_Signals end_signals([] { QApplication::quit(); });
   barvon::Take_Program_Folder(barvon::Program_Folder());
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                     QString::fromStdString(barvon::Application_Folder()));
+  barvon::Keep_No_Toolkit_Settings();
   barvon::Set_Help_File(barvon::Join_Path(barvon::Delivered_Folder(), barvon::kHelpFileOfGraphics));
   barvon::Hand_Over given_over = barvon::Read_Hand_Over(barvon::Application_Folder());
   if (!named.empty()) given_over = {barvon::Absolute_Path(named), barvon::kOverview};

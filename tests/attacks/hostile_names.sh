@@ -3,7 +3,8 @@
 # the recent files of the window and through check, export, report and run of barvon-run, with
 # programs planted in the current folder, which stands in the search path. Then links, second names,
 # pipes and folders planted at every fixed name, and folders that everybody can write; the part with
-# another user's files takes root. Nothing may be changed, started or overwritten.
+# another user's files takes root. Last the programs are started in such folders on a display
+# (planted_starts.sh). Nothing may be changed, started or overwritten.
 #
 #   tests/attacks/hostile_names.sh [NAMES] [SEED]
 #
@@ -27,4 +28,5 @@ echo "Seed $BARVON_PROOF_SEED"
 missed=0
 barvon_run_tests "$bin"/screen_tests 'HostileNames.*' || missed=1
 barvon_run_tests "$bin"/plain_tests 'BatchHostileNames.*:PlantedFiles.*:StrangersFiles.*' || missed=1
+tests/attacks/planted_starts.sh "$bin" || missed=1
 exit "$missed"

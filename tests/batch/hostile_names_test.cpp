@@ -28,8 +28,8 @@ class BatchHostileNames : public BatchProgram {
     Write_Text(folder_ / "solvers/test_child.steps",
                "write:tmpfile.duo=x\nwrite:tmpfile.dup=x\nwrite:tmpfile.dut=x\n"
                "write:tmpfile.duc=x\n");
-    for (const char* name :
-         {"dos4gw", "DOS4GW", "dosbox", "merak32", "sh", "barvon", "barvon-run", "touch"}) {
+    for (const char* name : {"dos4gw", "DOS4GW", "dosbox", "merak32", "sh", "barvon", "barvon-run",
+                             "touch", "dbus-launch"}) {
       const std::string plant = folder_ / ("here/" + std::string(name));
       Write_Text(plant, "#!/bin/sh\n: > '" + (folder_ / "started") + "'\n");
       chmod(plant.c_str(), 0755);

@@ -1,5 +1,4 @@
-#include <sys/stat.h>
-#include <unistd.h>
+#include "run/planted_files.h"
 
 #include <filesystem>
 
@@ -8,7 +7,6 @@
 #include "core/keys.h"
 #include "platform/process/search_path.h"
 #include "platform/process/viewer_program.h"
-#include "run/run_driver_fixture.h"
 #include "run/solver_command.h"
 
 namespace barvon {
@@ -17,51 +15,11 @@ namespace {
 using namespace barvon::testing;
 namespace fs = std::filesystem;
 
-constexpr uid_t kStranger = 54321;
-constexpr mode_t kOpenToAll = 0777, kSticky = 01777;
-
-enum class Plant { Link, Second_Name, Dangling_Link, Pipe, Folder };
-constexpr std::array kPlants = {Plant::Link, Plant::Second_Name, Plant::Dangling_Link, Plant::Pipe,
-                                Plant::Folder};
-
 /// Names that a run uses in the application directory, as solvers and this program spell them.
 constexpr std::array kRunNames = {"Tmpfile.Due", "TMPFILE.DUE", "Tmpfile.log", "tmpfile.duo",
                                   "TMPFILE.DUO", "tmpfile.dup", "tmpfile.dut", "tmpfile.duc",
                                   "Tmpfile.old", "Tmpfile.Add", "tmpfile.add", "KOLBREE.TMP",
-                                  "kolbree.tmp"};
-
-/// A file that nobody may change, and things planted that lead to it.
-struct PlantedFiles : RunDriver {
-  PlantedFiles() {
-    Write_Text(victim, "precious");
-    Install(kWritesAll + std::string("print:text\n"));
-  }
-  void Put(Plant plant, const std::string& path) {
-    fs::remove_all(path);
-    switch (plant) {
-      case Plant::Link:
-        return fs::create_symlink(victim, path);
-      case Plant::Second_Name:
-        return fs::create_hard_link(victim, path);
-      case Plant::Dangling_Link:
-        return fs::create_symlink(made, path);
-      case Plant::Pipe:
-        ASSERT_EQ(::mkfifo(path.c_str(), 0666), 0);
-        return;
-      case Plant::Folder:
-        fs::create_directory(path);
-        Write_Text(path + "/inside", "precious");
-    }
-  }
-  void Expect_No_Harm(Plant plant, const std::string& path) {
-    EXPECT_EQ(Read_Text(victim), "precious") << path;
-    EXPECT_FALSE(Exists(made)) << path;
-    if (plant == Plant::Folder) {
-      EXPECT_EQ(Read_Text(path + "/inside"), "precious");
-    }
-  }
-  const std::string victim = bench.folder / "victim", made = bench.folder / "made";
-};
+                                  "kolbree.tmp", "Tmpfile.run"};
 
 TEST_F(PlantedFiles, Under_The_Names_Of_A_Run_They_Lead_Nowhere) {
   for (const char* current : {"app", "bay"}) {
@@ -125,19 +83,6 @@ TEST_F(PlantedFiles, The_Users_Own_Links_Are_Written_Through) {
   EXPECT_EQ(Read_Text(bench.folder / "large disk/site.duo"), "o");
   EXPECT_TRUE(fs::is_symlink(base + ".duo"));
 }
-
-/// What only somebody else can plant; to act as one takes root.
-struct StrangersFiles : PlantedFiles {
-  void SetUp() override {
-    if (::geteuid() != 0) GTEST_SKIP() << "takes root: files are given to another user";
-  }
-  static void Give_Away(const std::string& path) {
-    ASSERT_EQ(::lchown(path.c_str(), kStranger, kStranger), 0);
-  }
-  static void Open_To_All(const std::string& folder, mode_t mode) {
-    ASSERT_EQ(::chmod(folder.c_str(), mode), 0);
-  }
-};
 
 TEST_F(StrangersFiles, Links_In_A_Folder_That_All_Can_Write_Are_Not_Written_Through) {
   for (const mode_t mode : {kOpenToAll, kSticky}) {

@@ -6,6 +6,7 @@
 
 #include "core/project_record.h"
 #include "platform/qt/light_palette.h"
+#include "platform/qt/toolkit_files.h"
 
 namespace {
 
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   std::setlocale(LC_NUMERIC, "C");
   barvon::Apply_Light_Palette(application);
+  barvon::Keep_No_Toolkit_Settings();
   testing::UnitTest::GetInstance()->listeners().Append(new Record_Of_Its_Own);
   return RUN_ALL_TESTS();
 }

@@ -44,8 +44,8 @@ class HostileNames : public ::testing::Test {
     Install("bin/xdg-mime", "[ -e '" + (bench.folder / "desktop") + "' ] && echo editor.desktop\n");
     Install("bin/xdg-open", "printf '%s' \"$1\" > '" + (bench.folder / "opening") + "'\n/bin/mv '" +
                                 (bench.folder / "opening") + "' '" + opened_ + "'\n");
-    for (const char* plant :
-         {"dos4gw.exe", "dosbox", "sh", "xdg-open", "xdg-mime", "touch", "printf", "barvon"}) {
+    for (const char* plant : {"dos4gw.exe", "dosbox", "sh", "xdg-open", "xdg-mime", "touch",
+                              "printf", "barvon", "dbus-launch"}) {
       for (const char* folder : {"", "here/", "from/"}) {
         Install(std::string(folder) + plant, ": > '" + started_ + "'\n");
       }

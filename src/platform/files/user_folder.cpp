@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/files/foreign_files.h"
+
 namespace barvon {
 namespace {
 
@@ -28,8 +30,10 @@ std::optional<std::string> User_Folder() {
   std::error_code error;
   std::filesystem::create_directories(base, error);
   const std::string folder = (base / "barvon").string();
-  if (mkdir(folder.c_str(), S_IRWXU) != 0 && !std::filesystem::is_directory(folder, error))
+  if (mkdir(folder.c_str(), S_IRWXU) == 0) return folder;
+  if (!std::filesystem::is_directory(folder, error) || Is_Put_By_A_Stranger(folder)) {
     return std::nullopt;
+  }
   return folder;
 }
 

@@ -40,6 +40,15 @@ std::optional<std::string> Lasting_Search_Path() {
   return path;
 }
 
+void Keep_Lasting_Search_Path() {
+  if (const auto path = Lasting_Search_Path()) {
+    ::setenv("PATH", path->c_str(), 1);
+  } else {
+    // Without one the system's own holds, which has no current folder in it.
+    ::unsetenv("PATH");
+  }
+}
+
 std::optional<std::string> Find_Program(const std::string& name) {
   for (const std::string& folder : Search_Folders()) {
     const std::string path = Join_Path(folder, name);

@@ -15,6 +15,10 @@ std::vector<std::string> Search_Folders();
 /// since an empty search path means the current folder.
 std::optional<std::string> Lasting_Search_Path();
 
+/// Makes that the search path of this process, for good: the libraries that it loads look for
+/// programs of their own. To be called first, before there is a second thread.
+void Keep_Lasting_Search_Path();
+
 /// The full path of the program of exactly that name on the search path; nothing when none of its
 /// folders has one that may be executed. One that a stranger has put there is passed over.
 std::optional<std::string> Find_Program(const std::string& name);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -51,6 +52,26 @@ TEST(UserFolder, Is_Nothing_Where_None_Is_Known_Or_Can_Be_Made) {
   std::ofstream(scratch / "file") << "x";
   const Environment environment((scratch / "file").c_str(), nullptr);
   EXPECT_EQ(User_Folder(), std::nullopt);
+}
+
+TEST(UserFolder, Is_Nothing_Where_A_Stranger_Has_Put_It) {
+  if (::geteuid() != 0) GTEST_SKIP() << "takes root: files are given to another user";
+  constexpr uid_t kStranger = 54321;
+  const Scratch_Folder scratch;
+  const Environment environment(nullptr, scratch.path().c_str());
+  std::filesystem::create_directory(scratch / "his");
+  std::filesystem::create_symlink(scratch / "his", scratch / "barvon");
+  for (const char* name : {"his", "barvon"}) {
+    ASSERT_EQ(::lchown((scratch / name).c_str(), kStranger, kStranger), 0);
+  }
+  EXPECT_EQ(User_Folder(), scratch / "barvon") << "the folder's owner alone can write it";
+  ASSERT_EQ(::chmod(scratch.path().c_str(), 01777), 0);
+  EXPECT_EQ(User_Folder(), std::nullopt);
+  std::filesystem::remove(scratch / "barvon");
+  std::filesystem::rename(scratch / "his", scratch / "barvon");
+  EXPECT_EQ(User_Folder(), std::nullopt);
+  ASSERT_EQ(::lchown((scratch / "barvon").c_str(), 0, 0), 0);
+  EXPECT_EQ(User_Folder(), scratch / "barvon");
 }
 
 }  // namespace

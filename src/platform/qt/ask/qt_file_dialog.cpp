@@ -82,6 +82,7 @@ class File_Dialog : public QFileDialog {
     // The toolkit's own dialog: the desktop's would match "*.DUI" by case.
     setOption(DontUseNativeDialog);
     setOption(DontConfirmOverwrite);
+    if (!left_as_.isEmpty()) restoreState(left_as_);
     // The list's thread asks it until the toolkit's part of the dialog is gone.
     static auto* const icons = new Plain_Icons;
     setIconProvider(icons);
@@ -105,6 +106,11 @@ class File_Dialog : public QFileDialog {
       }
       connect(this, &QFileDialog::filterSelected, this, &File_Dialog::Follow_Filter);
     }
+  }
+
+  ~File_Dialog() override {
+    left_as_ = saveState();
+    left_size_ = size();
   }
 
   std::optional<std::string> Ask() {
@@ -255,7 +261,7 @@ class File_Dialog : public QFileDialog {
   /// Names, sizes and dates are shown whole; what kind of file it is the filter says already.
   void Make_Room() {
     constexpr int kType = 2;
-    resize(kSize.boundedTo(screen()->availableSize() - kFrame));
+    resize(left_size_.boundedTo(screen()->availableSize() - kFrame));
     Name_Lists();
     auto* files = findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr) return;
@@ -337,6 +343,9 @@ class File_Dialog : public QFileDialog {
   QListView* files_ = nullptr;
   QPushButton* button_ = nullptr;
   inline static QString last_folder_;
+  // How the dialogs look, until the program ends: no file keeps it.
+  inline static QByteArray left_as_;
+  inline static QSize left_size_ = kSize;
 };
 
 }  // namespace

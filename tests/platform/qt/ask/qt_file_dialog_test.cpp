@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "run/child_support.h"
+#include "support/disk_calls.h"
 #include "support/screen_support.h"
 
 namespace barvon {
@@ -617,6 +618,33 @@ TEST(FileDialogs, Begin_In_The_Home_Folder_Where_There_Are_No_Documents) {
   EXPECT_EQ(Documents_Folder().toStdString(), folder.path());
   std::filesystem::create_directory(folder / "Documents");
   EXPECT_EQ(Documents_Folder().toStdString(), folder / "Documents");
+}
+
+TEST(FileDialogs, Come_Up_As_They_Were_Left_And_Keep_That_In_No_File) {
+  Scratch_Folder folder;
+  constexpr QSize kLeft(600, 400);
+  QSize before;
+  const auto look = [](QWidget* dialog) { return qobject_cast<QFileDialog*>(dialog)->viewMode(); };
+  const auto leave = [](QWidget* dialog, QFileDialog::ViewMode mode, QSize size) {
+    qobject_cast<QFileDialog*>(dialog)->setViewMode(mode);
+    dialog->resize(size);
+    dialog->close();
+  };
+  const testing::Disk_Calls calls;
+  Modal_Replies replies({[&](QWidget* dialog) {
+                           before = dialog->size();
+                           leave(dialog, QFileDialog::List, kLeft);
+                         },
+                         [&](QWidget* dialog) {
+                           EXPECT_EQ(look(dialog), QFileDialog::List);
+                           EXPECT_EQ(dialog->size(), kLeft);
+                           leave(dialog, QFileDialog::Detail, before);
+                         }});
+  for (int time = 0; time < 2; ++time) {
+    EXPECT_FALSE(Ask_Qt_Open_File({"", {kProjects}, folder.path()}).has_value());
+  }
+  EXPECT_EQ(replies.windows, 2);
+  EXPECT_EQ(calls.Waits(), 0);
 }
 
 TEST(PrinterSetup, Comes_Up_And_Can_Be_Left) {
