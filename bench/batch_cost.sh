@@ -71,12 +71,13 @@ for round in $(seq "$rounds"); do
     [ "$seen" -eq "$count" ] || { echo "$seen exports of $count projects" >&2; exit 1; }
   done
 done
+echo "load: $(cut -d' ' -f1-3 /proc/loadavg)"
 for command in check export_all; do
   ten=$(median "$command.10" 2)
   for count in "${counts[@]}"; do
     echo "$(median "$command.$count" 2) $ten $(median "parse.$count" 2)" \
       "$(median "$command.$count" 1) $(median "parse.$count" 1)" |
-      awk -v n="$count" -v what="$command" '{
+      awk -v n="$count" -v what="$command" -v rounds="$(rounds_of "$command.$count")" '{
         # A figure that is missing would shift the others, and none compares with NaN.
         whole = NF == 5
         for (i = 1; i <= NF; ++i) whole = whole && $i > 0 && $i ~ /^[0-9]+([.][0-9]+)?$/
@@ -90,8 +91,9 @@ for command in check export_all; do
         met = n == 1 || (flat <= 1.5 && (what == "check" || beside <= 1.5))
         printf "%-10s %4d projects: %.2f ms each (%.2f elapsed), %.2f of 10 (goal 1.5), ",
                what, n, share, $4 / n, flat
-        printf "%.2f of the script%s (%.2f elapsed)  %s\n", beside,
-               what == "check" ? "" : " (goal 1.5)", $4 / $5, n == 1 ? "" : met ? "met" : "MISSED"
+        printf "%.2f of the script%s (%.2f elapsed), %d rounds  %s\n", beside,
+               what == "check" ? "" : " (goal 1.5)", $4 / $5, rounds,
+               n == 1 ? "" : met ? "met" : "MISSED"
         exit !met
       }' || missed=1
   done

@@ -3,7 +3,6 @@
 #include <time.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdio>
 #include <functional>
 #include <vector>
@@ -30,11 +29,10 @@ inline Cost Cost_Of(const std::function<void()>& work) {
   return {Now(CLOCK_MONOTONIC) - begun, Now(CLOCK_PROCESS_CPUTIME_ID) - processor};
 }
 
-/// Of one value at least.
+/// Of one value at least; of an even count the mean of the middle two.
 inline double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
+  std::ranges::sort(values);
+  return (values[(values.size() - 1) / 2] + values[values.size() / 2]) / 2;
 }
 
 /// The medians of both clocks.

@@ -1,7 +1,7 @@
-// The memory of the program after every screen was open once. The goal is held against what is this
-// program's alone, which is all of it but the unchanged pages of files: those of the libraries are
-// in memory once for all programs, and given up when memory runs short. Ends with 1 when the goal
-// is missed.
+// The memory of the program after every screen was open once, held against the goal in all and
+// without the unchanged pages of files: those of the libraries are in memory once for all programs,
+// and given up when memory runs short. Ends with 1 when either misses the goal, with 2 when a
+// screen of the table was not open.
 //
 //   QT_QPA_PLATFORM=offscreen memory_bench
 
@@ -31,7 +31,7 @@ namespace {
 
 using namespace barvon;
 
-constexpr double kMostOwn = 48;  // MiB
+constexpr double kMost = 48;  // MiB
 
 struct Memory {
   double total = 0;      // MiB in memory, whoever else uses the pages too
@@ -90,10 +90,23 @@ void Load(const char* sample) {
   Project().ShowMode = 0;  // screens open beside each other
 }
 
+/// All but the main window and the offer at a start of what a killed window left.
+bool Is_Opened_Alone(const Screen_Row& row) {
+  const std::string name = row.name;
+  return row.kind != Screen_Kind::Command && name != "Main" && name != "frmRecovery";
+}
+
+bool Is_Any_Open(const QWidget* main) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window != main && window->isVisible()) return true;
+  }
+  return false;
+}
+
 void Open_And_Close(const QWidget* main, const Screen_Row& row, int& opened) {
-  if (!Open_Screen(row, false)) return;
+  if (!Open_Screen(row, false)) Give_Up(row.name);
   Let_All_Happen();
-  if (QApplication::activeModalWidget() != nullptr) Give_Up(row.name);
+  if (QApplication::activeModalWidget() != nullptr || !Is_Any_Open(main)) Give_Up(row.name);
   ++opened;
   Close_All(main);
 }
@@ -121,7 +134,7 @@ int main(int count, char** values) {
   int opened = 0;
   for (const Screen_Row& row : kScreens) {
     std::puts(row.name);
-    if (row.kind != Screen_Kind::Command) Open_And_Close(&main, row, opened);
+    if (Is_Opened_Alone(row)) Open_And_Close(&main, row, opened);
   }
   Check_Project(Project());
   Open_And_Close(&main, Row_Of_Screen("frmErrorList"), opened);
@@ -134,10 +147,10 @@ int main(int count, char** values) {
   figures.Note("at the start, in all", at_start.total, "MiB");
   figures.Note("at the start, its own", at_start.own, "MiB");
   figures.Note("with the project, its own", loaded.own, "MiB");
-  figures.Note("at the end, in all", at_end.total, "MiB");
   figures.Note("at the end, unchanged pages of files", at_end.unchanged, "MiB");
   figures.Note("growth by all screens and the help, in all", at_end.total - loaded.total, "MiB");
-  figures.Judge("memory after every screen, its own", at_end.own, "MiB", kMostOwn);
+  figures.Judge("memory after every screen, in all", at_end.total, "MiB", kMost);
+  figures.Judge("memory after every screen, its own", at_end.own, "MiB", kMost);
   std::fflush(nullptr);
   Release_Project();  // no lock stays beside the sample
   std::_Exit(figures.Exit_Code());

@@ -8,16 +8,16 @@
 #
 #   bench/run_cost.sh [FOLDER OF barvon-run] [ROUNDS] [MOST PROJECTS]
 #
-# Counting needs strace; without it only the times are printed. The largest number is measured in
-# every seventh round alone.
+# Counting needs strace; without it only the times are printed. More than 100 projects are measured
+# in every seventh round alone. 10 are the fewest, as the others are compared with them.
 set -euo pipefail
 export LC_ALL=C # the decimal points of the times
 source=$(cd "$(dirname "$0")/.." && pwd)
 program=$(cd "${1:-$source/build/release/bin}" && pwd)/barvon-run
 rounds=${2:-21}
 most=${3:-1000}
-if ! [[ $rounds =~ ^[1-9][0-9]*$ && $most =~ ^[1-9][0-9]*$ ]]; then
-  echo "$0: the rounds and the most projects are whole numbers from 1 on" >&2
+if ! [[ $rounds =~ ^[1-9][0-9]*$ && $most =~ ^[1-9][0-9]+$ ]]; then
+  echo "$0: the rounds are a whole number from 1 on, the most projects one from 10 on" >&2
   exit 1
 fi
 folder=$(mktemp -d)
@@ -72,6 +72,7 @@ if command -v strace > where.txt; then
 fi
 
 . "$source/bench/time_of.sh"
+. "$source/bench/run_share.sh"
 alone() { (cd alone && ../solver/merak32); }
 
 counts=()
@@ -90,27 +91,12 @@ for round in $(seq "$rounds"); do
   done
 done
 echo "load:                  $(cut -d' ' -f1-3 /proc/loadavg)"
-echo "the solver alone:      $(median alone.txt 1) ms, $(median alone.txt 2) ms of the processor"
-one=$(median times1.txt 1)
+echo "the solver alone:      $(median alone.txt 1) ms, $(median alone.txt 2) ms of the processor," \
+  "$(rounds_of alone.txt) rounds"
 for count in "${counts[@]}"; do
-  echo "$(median "times$count.txt" 1) $(median alone.txt 1) $one" \
-    "$(median "times$count.txt" 2) $(median alone.txt 2)" |
-    awk -v n="$count" '{
-      # A figure that is missing would shift the others, and none compares with NaN.
-      whole = NF == 5 && $1 > 0 && $2 > 0 && $3 > 0
-      for (i = 1; i <= NF; ++i) whole = whole && $i ~ /^[0-9]+([.][0-9]+)?$/
-      if (!whole) {
-        printf "%4d at once: no figures (%s)  MISSED\n", n, $0
-        exit 1
-      }
-      above = $1 / n - $2
-      grown = ($1 / n) / $3
-      processor = $4 / n - $5
-      met = above <= 20 && grown <= 1.5
-      printf "%4d at once, above it: %.1f ms a project (goal 20), %.1f of the processor, ",
-             n, above, processor
-      printf "%.2f of one alone (goal 1.5)  %s\n", grown, met ? "met" : "MISSED"
-      exit !met
-    }' || missed=1
+  judge_share "$count" "$(rounds_of "times$count.txt")" \
+    "$(median "times$count.txt" 1)" "$(median "times$count.txt" 2)" \
+    "$(median alone.txt 1)" "$(median alone.txt 2)" \
+    "$(median times10.txt 1)" "$(median times10.txt 2)" || missed=1
 done
 exit "$missed"

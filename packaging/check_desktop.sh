@@ -4,15 +4,22 @@
 #   packaging/check_desktop.sh [FOLDER THAT BECOMES share/]
 #
 # Without a folder the sources of packaging/desktop/ are looked at. Exit code 1 when a validator
-# finds something, 77 when none of them is installed.
+# finds something, 77 when one of them is not installed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 share="${1:-packaging/desktop}"
-asked=0
+asked=0 missing=()
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
-has() { command -v "$1" >/dev/null && asked=$((asked + 1)); }
+has() {
+  if command -v "$1" >/dev/null; then
+    asked=$((asked + 1))
+  else
+    missing+=("$1")
+    return 1
+  fi
+}
 found() { find "$share" -name "$1"; }
 fail() {
   echo "check_desktop: $1" >&2
@@ -49,5 +56,8 @@ if has update-mime-database; then
 fi
 # A menu entry that took a file would promise what the program does not do.
 ! grep -qE '^(MimeType=|Exec=.*%)' "$(found barvon.desktop)" || fail "the menu entry takes a file"
-[ "$asked" -gt 0 ] || exit 77
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "check_desktop: $asked validators find nothing, not installed: ${missing[*]}" >&2
+  exit 77
+fi
 echo "check_desktop: $asked validators find nothing"

@@ -61,13 +61,15 @@ bool Recovery_Keeper::Keep(std::unique_ptr<ProjectRecord> accepted) {
                             Sum_Of(record_, Is_Dilution_Data) << 1;
   if (own_.Stands() && now == kept_) return true;
   const int error = own_.Write(Copy_Bytes(copy));
-  if (error == 0) kept_ = now;
-  if (error != 0 && !told_) {
-    Port().board.show_note({"No copy can be kept of what is not saved yet: " +
-                                std::generic_category().message(error) + ".",
-                            {}});
+  if (error == 0) {
+    kept_ = now;
+    if (!told_.empty()) Port().board.take_back_note(std::exchange(told_, {}));
+  } else if (told_.empty()) {
+    told_ =
+        "No copy can be kept of what is not saved yet: " + std::generic_category().message(error) +
+        ".";
+    Port().board.show_note({told_, {}});
   }
-  told_ = error != 0;
   return error == 0;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 #include "core/project_record.h"
 #include "recovery/recovery_folder.h"
@@ -18,7 +19,8 @@ class Recovery_Keeper {
   Recovery_Keeper& operator=(const Recovery_Keeper&) = delete;
 
   /// Brings the copy up to date: it is written when something has changed since the last time, and
-  /// removed when nothing is unsaved. A failure is told in the status area, once.
+  /// removed when nothing is unsaved. A failure is told in the status area, once; that is taken
+  /// back when a copy is written again.
   void Look();
 
   /// The project is as its file, or as a new one; the list of dilutions is.
@@ -43,7 +45,7 @@ class Recovery_Keeper {
   std::uint64_t project_;  // what was settled last, as sums
   std::uint64_t dilutions_;
   std::uint64_t kept_ = 0;  // what the copy holds
-  bool told_ = false;       // that there can be no copy
+  std::string told_;        // that there can be no copy, "" when there is one
   bool ended_ = false;
 };
 

@@ -2,6 +2,7 @@
 what the program says of itself there, and works it by the actions, the texts and the keys that
 every such client has."""
 
+import os
 import time
 
 import gi
@@ -206,6 +207,32 @@ class Program:
     def key(name):
         """One key of the keyboard, as an on-screen keyboard presses it."""
         pyatspi.Registry.generateKeyboardEvent(KEYSYMS[name], None, pyatspi.KEY_SYM)
+
+
+OUTPUTS = (".duo", ".dup", ".dut", ".duc")
+
+
+def end_of_run(program):
+    """The status line that tells how a run ended; boxes on the way are answered."""
+
+    def look():
+        for box in [w for w in program.windows() if role(w) == "alert"]:
+            print("box:", " ".join(n.name for n, _ in walk(box)
+                                   if n is not None and role(n) == "label"), flush=True)
+            program.press(box, "OK")
+        bar = find(program.main(), "status bar")
+        said = " ".join(n.name for n, _ in walk(bar) if n is not None and n.name)
+        return said if " ended with code " in said or "was ended by" in said else None
+
+    return wait_for("how the run ended in the status line", look)
+
+
+def hold_to_a_good_run(said, base):
+    """A run whose end is told so has its four outputs, BASE.duo and the others, and names them."""
+    assert " ended with code 0 " in said, said
+    for path in [base + end for end in OUTPUTS]:
+        assert os.path.basename(path) in said, f"{path} is not told of: {said}"
+        assert os.path.exists(path) and os.path.getsize(path) > 0, f"{path} is not there: {said}"
 
 
 KEYSYMS = {"Return": 0xFF0D, "Escape": 0xFF1B, "Tab": 0xFF09, "Down": 0xFF54, "Home": 0xFF50,

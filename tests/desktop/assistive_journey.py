@@ -2,7 +2,8 @@
 """A project is opened, changed, checked, mended, saved and run through the accessibility bus alone;
 what the program says of it there is held against its files. walk.sh starts it.
 
-    assistive_journey.py FOLDER      of the program, with the sample projects in it"""
+    assistive_journey.py FOLDER            of the program, with the sample projects in it
+    assistive_journey.py FOLDER bad_run    the judge of the run itself: its solver is made to fail"""
 
 import json
 import os
@@ -10,7 +11,7 @@ import subprocess
 import sys
 import time
 
-from assistive import children, find, role, text_of, wait_for, walk
+from assistive import children, end_of_run, find, hold_to_a_good_run, role, text_of, wait_for
 from assistive_walk import Walk
 
 PROJECT = "Hopper_Six_Openings.DUI"
@@ -72,8 +73,7 @@ class Journey:
         saved = json.dumps(self.record())
         assert '"RHDA0": 0.04' in saved, "the roughness is not in the file"
 
-        self.program.press(self.program.main(), "Run Simulation")
-        self.end_of_run()
+        self.run()
 
     def see_values(self):
         """What the site's screen says is what the sample was made of."""
@@ -92,30 +92,43 @@ class Journey:
         assert cells == [["0.0", "1.0212"], ["30.0", "1.0220"], ["60.0", "1.0234"]], cells
         self.walk.leave(site)
 
-    def end_of_run(self):
-        outputs = [os.path.join(self.folder, PROJECT[:-4] + ".duo")]
-        wait_for("the outputs " + outputs[0], lambda: all(map(os.path.exists, outputs)))
-        for _ in range(20):
-            for window in self.program.windows():
-                if role(window) == "alert":
-                    print("box:", self.walk.words(window))
-                    return self.box("", "OK")
-            time.sleep(0.1)
-        bar = find(self.program.main(), "status bar")
-        print("status:", [n.name for n, _ in walk(bar) if n is not None and n.name])
-        return None
+    def run(self):
+        self.program.press(self.program.main(), "Run Simulation")
+        said = end_of_run(self.program)
+        print("status:", said, flush=True)
+        hold_to_a_good_run(said, os.path.join(self.folder, PROJECT[:-4]))
+
+    def bad_run(self):
+        """A run by a solver that fails and leaves a piece of one output passes for no good one."""
+        solver = os.path.join(self.folder, "barvon-solver")
+        os.remove(solver)
+        with open(solver, "w", encoding="ascii") as script:
+            script.write("#!/bin/sh\necho broken >tmpfile.duo\nexit 3\n")
+        os.chmod(solver, 0o755)
+        self.walk.open_project(PROJECT)
+        try:
+            self.run()
+        except AssertionError as found:
+            assert " ended with code 3 " in str(found), found
+            return
+        raise AssertionError("a run that failed passes for a good one")
 
 
 def main():
-    folder = sys.argv[1]
+    folder, bad_run = sys.argv[1], sys.argv[2:] == ["bad_run"]
     program = subprocess.Popen([os.path.join(folder, "barvon")], cwd=folder)
     try:
-        Journey(folder).go()
+        journey = Journey(folder)
+        if bad_run:
+            journey.bad_run()
+        else:
+            journey.go()
         assert program.poll() is None, "the program has ended"
     finally:
         program.terminate()
         program.wait()
-    print("opened, changed, checked, mended, saved and run through the bus")
+    print("a failed run is told from a good one" if bad_run else
+          "opened, changed, checked, mended, saved and run through the bus")
 
 
 if __name__ == "__main__":

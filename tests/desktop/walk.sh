@@ -56,6 +56,7 @@ if [ "$what" = all ] || [ "$what" = graphics ]; then
   part graphs_journey.py || failed=1
 fi
 if [ "$what" = all ] || [ "$what" = journey ]; then
+  part assistive_journey.py bad_run || failed=1
   part assistive_journey.py || failed=1
 fi
 if [ "$what" = all ] || [ "$what" = keys ]; then

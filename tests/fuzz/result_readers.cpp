@@ -3,6 +3,8 @@
 
 #include "fuzz/readers.h"
 #include "results/phase_reader.h"
+#include "results/place_entry.h"
+#include "results/place_file.h"
 #include "results/result_reader.h"
 #include "results/small_outputs.h"
 
@@ -114,10 +116,54 @@ void Hold_Maps(std::string_view bytes) {
   }
 }
 
+// ---- The place that a person gave the grid
+
+constexpr char kPlaceFile[] = "a.place";
+
+std::vector<std::string> Places() {
+  return {
+      "[Place]\r\nEasting=583960.5\r\nNorthing=4507523\r\nTurn=-12.5\r\n"
+      "Unit=m, US survey foot\r\nSystem=EPSG:32618\r\n",
+      "; from the survey of May\n[place]\n easting = '0' \nNorthing=-1e8\nTurn=360\nUnit=ft\n"
+      "System=\"M\xFCnde; east\"\n[Other]\nKey=1\n",
+      "\xEF\xBB\xBF[Place]\nEasting=1\nEasting=2\nNorthing=3\nTurn=0\nUnit=m\nSystem=\n\x1A"};
+}
+
+Kept_Place Place_Of(std::string_view bytes) {
+  Put(kPlaceFile, bytes);
+  return Read_Place(Place_File_Of(Work_Folder() + "/a.DUI"));
+}
+
+void Read_One_Place(std::string_view bytes) {
+  const Kept_Place kept = Place_Of(bytes);
+  Demand(kept.place.has_value() == kept.problem.empty(), "a file has a place or a problem");
+  if (!kept.place) return;
+  Demand(std::abs(kept.place->easting) <= 1e8 && std::abs(kept.place->northing) <= 1e8 &&
+             std::abs(kept.place->turn) <= 360,
+         "a place is on the Earth");
+  Result_Grid grid;
+  grid.rows = grid.columns = 96;
+  grid.spacing_x = grid.spacing_z = 100;
+  Demand(!Corners_In_Words(*kept.place, grid).empty(), "a place has corners");
+}
+
+void Hold_Place(std::string_view bytes) {
+  const Kept_Place kept = Place_Of(bytes);
+  const Map_Place place =
+      kept.place.value_or(Map_Place{583960.5, -4.5e6, 12.5, Place_Unit::foot, "EPSG:2263"});
+  const std::string file = Work_Folder() + "/" + kPlaceFile;
+  Demand(Write_Place(file, place) == 0, "a place is written");
+  Demand(Read_Place(file).place == place, "a place is read as it was written");
+  const std::string once = Content(file);
+  Write_Place(file, place);
+  Demand(Content(file) == once, "a place that is there changes nothing");
+}
+
 constexpr Reader kReaders[] = {
     {"result_series", 6, Series, Read_One_Series, Hold_Series, nullptr},
     {"result_maps", 6, Maps, Read_One_Maps, Hold_Maps, nullptr},
     {"result_phases", 2, Phases, Read_One_Phases, nullptr, nullptr},
+    {"place", 2, Places, Read_One_Place, Hold_Place, nullptr},
 };
 
 }  // namespace

@@ -56,12 +56,18 @@ lead() {
     -max_total_time="$(awk "BEGIN {print int($minutes * 60)}")" -timeout=60 -rss_limit_mb=4096 \
     -print_final_stats=1 -artifact_prefix="$finds/$reader-" >"$log" 2>&1 ||
     { found=1 && tail -n 40 "$log"; }
-  # Of two inputs that reach the same edges the shorter one stays.
+  # Of two inputs that reach the same edges the shorter one stays. Where that fails all stay: what
+  # was found before is in none but them.
   mkdir "$least"
-  BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" -merge=1 "$least" "$corpus" \
-    >/dev/null 2>&1 || found=1
-  rm -rf "$corpus"
-  mv "$least" "$corpus"
+  if BARVON_READER="$reader" nice -n 10 "$programs/led_inputs" -merge=1 "$least" "$corpus" \
+    >"$log.merge" 2>&1 && [ -n "$(ls -A "$least")" ]; then
+    rm -rf "$corpus"
+    mv "$least" "$corpus"
+  else
+    found=1
+    echo "$reader: the corpus can't be made shorter and stays whole"
+    tail -n 20 "$log.merge"
+  fi
   printf '%-14s %10s %8s %8s %8s %8s\n' "$reader" \
     "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" \
     "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)" \

@@ -285,5 +285,32 @@ TEST_F(Recovery, Where_No_Copy_Can_Be_It_Is_Told_Once) {
                        "No copy can be kept of what is not saved yet: Permission denied."});
 }
 
+TEST_F(Recovery, What_Was_Told_Is_Taken_Back_When_There_Is_A_Copy_Again) {
+  Write_Text(scratch / "later", "x");
+  ::setenv("XDG_DATA_HOME", (scratch / "later").c_str(), 1);
+  std::vector<std::string> told, taken_back;
+  Port().board.show_note = [&](const Status_Note& note) { told.push_back(note.text); };
+  Port().board.take_back_note = [&](const std::string& text) { taken_back.push_back(text); };
+  Recovery_Keeper keeper(*record);
+  record->DEPC0 = 12;
+  keeper.Look();
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_TRUE(taken_back.empty());
+
+  fs::remove(scratch / "later");
+  keeper.Look();
+  EXPECT_EQ(taken_back, told);
+  record->DEPC0 = 13;
+  keeper.Look();
+  EXPECT_EQ(taken_back.size(), 1U);
+
+  // The next failure is told anew.
+  fs::remove_all(scratch / "later");
+  Write_Text(scratch / "later", "x");
+  record->DEPC0 = 14;
+  keeper.Look();
+  EXPECT_EQ(told.size(), 2U);
+}
+
 }  // namespace
 }  // namespace barvon
