@@ -8,6 +8,7 @@
 #include "graphs/hand_over.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/process/search_path.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/help/qt_help_viewer.h"
@@ -31,6 +32,9 @@ int main(int given, char** arguments) {
   const barvon::End_Signals end_signals([] { QApplication::quit(); });
   barvon::Take_Program_Folder(barvon::Program_Folder());
   barvon::Keep_No_Toolkit_Settings();
+  // A picture that was being saved when the program was killed is found by its note.
+  barvon::Set_Save_Notes_Folder(barvon::Application_Folder());
+  barvon::Remove_Leftover_Saves({});
   barvon::Set_Help_File(barvon::Join_Path(barvon::Delivered_Folder(), barvon::kHelpFileOfGraphics));
   barvon::Hand_Over given_over = barvon::Read_Hand_Over(barvon::Application_Folder());
   if (!named.empty()) given_over = {barvon::Absolute_Path(named), barvon::kOverview};

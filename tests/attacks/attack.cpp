@@ -230,7 +230,7 @@ void Attack::In_Child(const Call_Plan& plan, long room) {
     std::snprintf(report.left, sizeof report.left, "%s", Joined(Litter()).c_str());
     const std::string states = States();
     std::snprintf(report.files, sizeof report.files, "%s", states.c_str());
-    if (states.find('o') != std::string::npos) {
+    if (states.find_first_of("o-") != std::string::npos) {
       bench.told.clear();
       save_.save(bench);
       report.refails = !Is_New_Again(States(), save_) && !Was_Told(bench.told, text);
@@ -266,7 +266,14 @@ std::string Attack::States() const {
     const bool is_copy =
         seen && copied != save_.copies.end() && seen == Bytes_Of(root_ + "/" + copied->second);
     const bool is_old = Is_Same(file, seen, old_.at(file)) || (save_.is_lock && !seen);
-    states += is_copy || Is_Same(file, seen, new_.at(file)) ? 'n' : is_old ? 'o' : 'x';
+    char state = is_copy || Is_Same(file, seen, new_.at(file)) ? 'n' : is_old ? 'o' : 'x';
+    if (save_.about_the_first.contains(file)) {
+      if (!seen)
+        state = '-';
+      else if (state != states.front())
+        state = 'x';
+    }
+    states += state;
   }
   return states;
 }

@@ -11,7 +11,8 @@
 
 namespace barvon::testing {
 
-/// How one attacked save came out. `files` has a letter for each file: n new, o old, x neither.
+/// How one attacked save came out. `files` has a letter for each file: n new, o old, - missing
+/// as one about the first may be, x none of these.
 struct Attack_Result {
   std::string files;
   bool told = false;

@@ -204,7 +204,8 @@ std::vector<Attack> Wanted_Attacks(const std::string& root, const std::string& w
         is_row ? Row_Name(attack) == wanted : save.name.find(wanted) != save.name.npos;
     if (counts) attacks.push_back(std::move(attack));
   };
-  for (const std::vector<Attacked_Save>& saves : {Plain_Saves(), Kept_Saves(), Page_Saves()}) {
+  for (const std::vector<Attacked_Save>& saves :
+       {Plain_Saves(), Kept_Saves(), Page_Saves(), Graph_Saves()}) {
     for (const Attacked_Save& save : saves) {
       add(save, false);
       if (save.makes_new && with_first) add(save, true);

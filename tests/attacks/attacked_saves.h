@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ struct Attacked_Save {
   bool keeps_settings = true;
   /// Files that are copies of what another program wrote, which may itself have met the fault.
   std::map<std::string, std::string> copies = {};
+  /// Those that say something of the first: one of another save beside it is damage, told or not.
+  /// They may be missing where it is told.
+  std::set<std::string> about_the_first = {};
   /// A lock: that it can't be made is no complaint, and none at all is as good as the former.
   bool is_lock = false;
   /// What the program does at its next start besides clearing what saves left.
@@ -43,10 +47,11 @@ struct Attacked_Save {
 };
 
 /// Those that need no toolkit; what is kept beside the projects for the windows that come after;
-/// those of pages, prints and pictures.
+/// those of pages, prints and pictures; those of the graphics program.
 std::vector<Attacked_Save> Plain_Saves();
 std::vector<Attacked_Save> Kept_Saves();
 std::vector<Attacked_Save> Page_Saves();
+std::vector<Attacked_Save> Graph_Saves();
 
 /// Makes the bench's folders and hears what the program says from now on. Every choice in a file
 /// dialog is `chosen`, every question is answered with Yes.
