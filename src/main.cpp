@@ -3,11 +3,14 @@
 #include <clocale>
 #include <string_view>
 
+#include "core/desk/recent_files.h"
 #include "core/desk/settings_keys.h"
 #include "core/desk/workspace_port.h"
 #include "dilution/dilution_file.h"
 #include "platform/files/app_folder.h"
+#include "platform/files/paths.h"
 #include "platform/process/search_path.h"
+#include "platform/qt/ask/qt_file_dialog.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/light_palette.h"
 #include "platform/qt/qt_services.h"
@@ -49,6 +52,7 @@ int main(int given, char** arguments) {
   barvon::Main main(barvon::Application_Folder());
   barvon::Register_Program_Screens(&main);
   main.show();
+  barvon::Begin_Dialogs_In(barvon::Folder_Of(barvon::Recent_Menu()[1]));
   barvon::Tell_Settings_Left();
   barvon::Recovery_Keeper keeper(barvon::Project());
   const barvon::Recovery_Clock clock(keeper);

@@ -113,6 +113,8 @@ class File_Dialog : public QFileDialog {
     left_size_ = size();
   }
 
+  static void Begin_In(const QString& folder) { last_folder_ = folder; }
+
   std::optional<std::string> Ask() {
     if (exec() != Accepted) return std::nullopt;
     last_folder_ = directory().absolutePath();
@@ -290,7 +292,7 @@ class File_Dialog : public QFileDialog {
   }
 
   void Offer(const QString& name) {
-    if (!last_folder_.isEmpty()) {
+    if (!last_folder_.isEmpty() && QFileInfo(last_folder_).isDir()) {
       setDirectory(last_folder_);
     } else if (Application_Folder() != Delivered_Folder()) {
       // The current folder is hidden among the user's files then: nobody looks for projects there.
@@ -353,6 +355,10 @@ class File_Dialog : public QFileDialog {
 QString Documents_Folder() {
   const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+void Begin_Dialogs_In(const std::string& folder) {
+  File_Dialog::Begin_In(QString::fromStdString(folder));
 }
 
 std::optional<std::string> Ask_Qt_Open_File(const File_Request& request) {

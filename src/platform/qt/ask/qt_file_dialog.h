@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileDialog>
+#include <string>
 
 #include "platform/ask/file_dialog.h"
 
@@ -9,6 +10,10 @@ namespace barvon {
 /// Where a person looks for files of his own: his documents, or his home folder when he has no
 /// folder for them.
 QString Documents_Folder();
+
+/// Where the first dialog of a run of the program begins, if it is there by then; the others begin
+/// where the one before was left.
+void Begin_Dialogs_In(const std::string& folder);
 
 /// The open dialog with its filters. Filters and names are matched without regard to case, and what
 /// is given back is the name on the disk. What is typed, offered or chosen is the name letter for

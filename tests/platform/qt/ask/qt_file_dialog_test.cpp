@@ -428,6 +428,25 @@ TEST(FileDialogs, A_Typed_Folder_Is_Gone_Into) {
   }
 }
 
+TEST(FileDialogs, The_First_One_Begins_Where_It_Is_Told_If_That_Is_There) {
+  Scratch_Folder folder;
+  std::filesystem::create_directories(folder / "studies");
+  const auto begins_in = [] {
+    std::string shown;
+    Modal_Replies replies({[&](QWidget* dialog) {
+      shown = qobject_cast<QFileDialog*>(dialog)->directory().absolutePath().toStdString();
+      dialog->close();
+    }});
+    EXPECT_FALSE(Ask_Qt_Open_File({"", {kProjects}, ""}).has_value());
+    return shown;
+  };
+  Begin_Dialogs_In(folder / "studies");
+  EXPECT_EQ(begins_in(), folder / "studies");
+  Begin_Dialogs_In(folder / "gone");
+  EXPECT_TRUE(std::filesystem::is_directory(begins_in()));
+  Begin_Dialogs_In("");
+}
+
 TEST(FileDialogs, A_Relative_Path_Begins_In_The_Folder_That_Shows) {
   Scratch_Folder folder;
   std::filesystem::create_directories(folder / "sub");
