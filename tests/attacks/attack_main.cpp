@@ -243,9 +243,7 @@ int Attack_All(std::vector<Attack> attacks, const std::vector<std::string>& word
     all_calls += attack.Learned().calls;
   }
   Print_Row("all", all_calls, all);
-  // One of many parts may have no case of its own.
-  const bool is_part = command == "count" || words.size() == 3;
-  if (attacks.empty() || (all.cases == 0 && !is_part)) {
+  if (attacks.empty() || (all.cases == 0 && command != "count")) {
     std::fputs("nothing was attacked\n", stderr);
     return 1;
   }

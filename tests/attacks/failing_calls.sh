@@ -28,8 +28,10 @@ trap 'rm -rf "$scratch"' EXIT
 # The saves with the most calls come first, in parts of about 30 calls: a line has the save's name,
 # how many parts it has and which this is.
 sed -nE 's/^([^ ].*[^ ]) +([0-9]+)( +0){6} \|.*/\2 \1/p' "$scratch/count" | grep -v ' all$' |
-  sort -rn | awk '{
+  sort -rn | awk -v every="$every" '{
     parts = int($1 / 30) + 1
+    # A call has more than one case, so each part has one as long as it starts below the calls.
+    while (parts > 1 && every * (parts - 1) >= $1) --parts
     sub(/^[0-9]+ /, "")
     for (part = 0; part < parts; ++part) print $0 "\t" parts "\t" part
   }' >"$scratch/jobs"

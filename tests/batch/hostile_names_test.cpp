@@ -9,6 +9,7 @@
 #include <set>
 
 #include "batch/batch_fixture.h"
+#include "platform/files/text_encoding.h"
 #include "support/proof_scale.h"
 
 namespace barvon::testing {
@@ -17,6 +18,18 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kAtOnce = 50;  // names in one call
+
+TEST(HostileNameKinds, Are_All_Among_The_Few) {
+  const std::vector<std::string> names = Hostile_Names(1, kFewNames);
+  const auto has = [&names](const auto& kind) { return std::ranges::any_of(names, kind); };
+  for (const char* part : {";", "$", "`", "\n", "'", "\"", "&", "|", "%", "*", "\xC3\xA9"}) {
+    EXPECT_TRUE(has([&](const std::string& name) { return name.find(part) != name.npos; })) << part;
+  }
+  for (const char first : {'-', ' '}) {
+    EXPECT_TRUE(has([&](const std::string& name) { return name.front() == first; })) << first;
+  }
+  EXPECT_TRUE(has([](const std::string& name) { return !Is_UTF8(name); }));
+}
 
 /// barvon-run in a folder full of such names, with programs planted where it is started.
 class BatchHostileNames : public BatchProgram {

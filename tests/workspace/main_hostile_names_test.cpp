@@ -170,7 +170,8 @@ class HostileNames : public ::testing::Test {
 
 TEST_F(HostileNames, Lead_The_Whole_Road_To_The_Files_That_Bear_Them) {
   const auto seed = static_cast<unsigned>(Proof_Scale("BARVON_PROOF_SEED", 1));
-  const std::vector<std::string> names = Hostile_Names(seed, Proof_Scale("BARVON_PROOF_NAMES", 12));
+  const std::vector<std::string> names =
+      Hostile_Names(seed, Proof_Scale("BARVON_PROOF_NAMES", kFewNames));
   Modal_Replies no_boxes({});
   for (std::size_t i = 0; i < names.size() && !HasFailure(); ++i) {
     SCOPED_TRACE("seed " + std::to_string(seed) + ", name " + std::to_string(i) + ": " + names[i]);
