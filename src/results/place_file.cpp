@@ -45,14 +45,21 @@ std::string Place_File_Of(const std::string& path) {
 
 Kept_Place Read_Place(const std::string& file) {
   std::string bytes;
-  const int error = Read_Whole_File(file, bytes);
+  int error = Read_Whole_File(file, bytes);
   if (error == ENOENT) return {};
-  if (error != 0) return {{}, std::generic_category().message(error)};
-  const auto value = [&](const char* key) { return Read_Profile_String(file, kSection, key, ""); };
+  // Each value is read anew: one that can't be read for a moment is not one that is empty.
+  const auto value = [&](const char* key) {
+    int failed = 0;
+    std::string read = Read_Profile_String(file, kSection, key, "", &failed);
+    if (error == 0) error = failed;
+    return read;
+  };
   const auto unit = Unit_Of(value(kUnit));
+  const Place_Entry entry{value(kEasting), value(kNorthing), value(kTurn),
+                          unit.value_or(Place_Unit::metre), value(kSystem)};
+  if (error != 0) return {{}, std::generic_category().message(error)};
   if (!unit) return {{}, "no unit that is known stands there"};
-  const Place_Reading read =
-      Read_Place_Entry({value(kEasting), value(kNorthing), value(kTurn), *unit, value(kSystem)});
+  const Place_Reading read = Read_Place_Entry(entry);
   if (!read.place) return {{}, read.fault.words};
   return {read.place};
 }
