@@ -9,6 +9,7 @@
 #include "graphs/hand_over.h"
 #include "platform/files/app_folder.h"
 #include "platform/files/paths.h"
+#include "platform/files/safe_file.h"
 #include "platform/qt/end_signals.h"
 #include "platform/qt/help/qt_help_viewer.h"
 #include "platform/qt/light_palette.h"
@@ -27,6 +28,9 @@ int main(int given, char** arguments) {
   const barvon::Qt_Services services;
   const barvon::End_Signals end_signals([] { QApplication::quit(); });
   barvon::Take_Program_Folder(barvon::Program_Folder());
+  // A picture that was being saved when the program was killed is found by its note.
+  barvon::Set_Save_Notes_Folder(barvon::Application_Folder());
+  barvon::Remove_Leftover_Saves({});
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                      QString::fromStdString(barvon::Application_Folder()));
   barvon::Set_Help_File(barvon::Join_Path(barvon::Delivered_Folder(), barvon::kHelpFileOfGraphics));

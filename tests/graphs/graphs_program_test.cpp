@@ -89,5 +89,17 @@ TEST_F(GraphsProgram, A_Project_That_Was_Not_Run_Opens_Too) {
   EXPECT_TRUE(Ends(Viewers().at(0)));
 }
 
+TEST_F(GraphsProgram, What_A_Killed_Save_Left_Goes_At_The_Next_Start) {
+  const std::string left = bench.folder / "bay.png.0123456789abcdef.barvon-save";
+  const std::string note = bench.folder / "0123456789abcdef.barvon-note";
+  Write_Text(left, "half a picture");
+  Write_Text(note, left);
+  bench.Action("mnuGraph(0)")->trigger();
+  ASSERT_TRUE(Wait_Until([&] { return Viewers().size() == 1; }));
+  EXPECT_FALSE(std::filesystem::exists(left));
+  EXPECT_FALSE(std::filesystem::exists(note));
+  EXPECT_TRUE(Ends(Viewers().at(0)));
+}
+
 }  // namespace
 }  // namespace barvon::testing
