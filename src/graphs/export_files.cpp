@@ -2,12 +2,12 @@
 
 #include <QLatin1StringView>
 #include <algorithm>
+#include <map>
 #include <string_view>
 #include <system_error>
 
 #include "platform/ask/message_box.h"
 #include "platform/files/paths.h"
-#include "platform/files/safe_file.h"
 #include "platform/text/letter_case.h"
 
 namespace barvon {
@@ -72,15 +72,33 @@ void Tell_Not_Saved(const std::string& path, const std::string& reason) {
                 ".\nA file that was there before is unchanged.");
 }
 
+int Make_Ready(Safe_File& file, const std::string& path, const std::string& bytes) {
+  int error = file.Open(path);
+  if (error == 0) error = file.Write(bytes);
+  return error == 0 ? file.Settle() : error;
+}
+
+void Wait_For_Names(Unsynced_Folders& folders, const std::string& path) {
+  const std::map<std::string, int> failed = folders.Sync();
+  if (failed.empty()) return;
+  Show_Warning("What was saved as " + path + " is whole, but may be lost should the power fail: " +
+               std::generic_category().message(failed.begin()->second) + ".");
+}
+
 std::string Write_Export(const std::string& path, const std::string& bytes) {
   if (bytes.empty()) {
     Tell_Not_Saved(path, "it could not be made");
     return {};
   }
-  if (const int error = Write_Whole_File(path, bytes); error != 0) {
+  Safe_File file;
+  Unsynced_Folders folders;
+  int error = Make_Ready(file, path, bytes);
+  if (error == 0) error = file.Commit(&folders);
+  if (error != 0) {
     Tell_Not_Saved(path, std::generic_category().message(error));
     return {};
   }
+  Wait_For_Names(folders, path);
   return "Saved as " + path;
 }
 

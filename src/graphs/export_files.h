@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/ask/file_dialog.h"
+#include "platform/files/safe_file.h"
 #include "results/results.h"
 
 namespace barvon {
@@ -27,6 +28,12 @@ bool Has_Ending(const std::string& path, const std::string& ending);
 /// Writes the file and gives back "Saved as PATH"; a failure is told, and the line is empty. No
 /// bytes are a failure of making them.
 std::string Write_Export(const std::string& path, const std::string& bytes);
+
+/// Brings the bytes onto the disk beside the file that they are for. 0 or an errno value.
+int Make_Ready(Safe_File& file, const std::string& path, const std::string& bytes);
+
+/// Waits until the new names last. A failure is told of `path`, which is saved by then.
+void Wait_For_Names(Unsynced_Folders& folders, const std::string& path);
 
 /// Tells that a file could not be saved.
 void Tell_Not_Saved(const std::string& path, const std::string& reason);

@@ -61,10 +61,7 @@ bool May_Replace(const std::vector<std::string>& names) {
 /// Draws one picture into a file of its own. 0 or an errno value.
 int Fill(Safe_File& file, const std::string& name, Picture& picture) {
   const std::string bytes = picture.As_Png().toStdString();
-  if (bytes.empty()) return ENOMEM;
-  int error = file.Open(name);
-  if (error == 0) error = file.Write(bytes);
-  return error == 0 ? file.Settle() : error;
+  return bytes.empty() ? ENOMEM : Make_Ready(file, name, bytes);
 }
 
 }  // namespace
@@ -108,14 +105,16 @@ std::string Save_Sequence(Graph_Page& page, const Results_Held& results) {
     }
   }
   Unsynced_Folders folders;
-  for (std::size_t i = 0; i < files.size(); ++i) {
-    if (const int error = files[i]->Commit(&folders); error != 0) {
-      Tell_Not_Saved(names[i], std::generic_category().message(error));
-      return Counted(i, "picture") + " saved";
-    }
+  std::size_t saved = 0;
+  int error = 0;
+  while (saved < files.size() && error == 0) {
+    error = files[saved]->Commit(&folders);
+    if (error == 0) ++saved;
   }
-  folders.Sync();
-  return Counted(names.size(), "picture") + " saved, from " + names.front();
+  if (saved > 0) Wait_For_Names(folders, names[saved - 1]);
+  if (error == 0) return Counted(saved, "picture") + " saved, from " + names.front();
+  Tell_Not_Saved(names[saved], std::generic_category().message(error));
+  return Counted(saved, "picture") + " saved";
 }
 
 }  // namespace barvon

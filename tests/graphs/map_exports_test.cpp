@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -134,6 +135,26 @@ TEST_F(MapExports, A_Save_That_Fails_Leaves_Neither_Grid_Nor_Notes) {
   EXPECT_EQ(Names_In(folder.path()), (std::vector<std::string>{"Site.place", "map.asc"}));
 }
 
+TEST_F(MapExports, A_Save_That_Fails_Keeps_The_Former_Notes) {
+  Write_Text(folder / "Site.place", kNotTurned);
+  Write_Text(folder / "map.asc.aux.xml", "former notes");
+  ASSERT_EQ(::mkdir((folder / "map.asc").c_str(), 0777), 0);
+  const Scripted_Messages messages({Answer::Ok});
+  EXPECT_EQ(Save("map.asc"), "");
+  EXPECT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(Read_Text(folder / "map.asc.aux.xml"), "former notes");
+}
+
+TEST_F(MapExports, A_Grid_And_Its_Notes_Replace_The_Former_Through_Links_Too) {
+  Write_Text(folder / "Site.place", kNotTurned);
+  Write_Text(folder / "map.asc", "the former grid");
+  Write_Text(folder / "notes", "its notes");
+  ASSERT_EQ(::symlink("notes", (folder / "map.asc.aux.xml").c_str()), 0);
+  EXPECT_EQ(Save("map.asc"), "Saved as " + (folder / "map.asc"));
+  EXPECT_EQ(Read_Text(folder / "map.asc"), kGrid);
+  EXPECT_NE(Read_Text(folder / "notes").find("<UnitType>mg/l<"), std::string::npos);
+}
+
 TEST_F(MapExports, A_Page_Without_A_Map_Says_So) {
   page.map.reset();
   const Scripted_Messages messages({Answer::Ok});
@@ -152,6 +173,16 @@ TEST_F(MapExports, A_Kept_Place_Can_Be_Changed) {
   EXPECT_EQ(Change_Place(Results_At(folder / "Site.DUI")),
             "The place of the grid is kept in " + (folder / "Site.place"));
   EXPECT_EQ(Read_Text(folder / "Site.place"), kNotTurned);
+}
+
+TEST_F(MapExports, A_Changed_Place_That_Cannot_Be_Kept_Is_Not_Said_To_Be) {
+  const Scripted_Messages messages({Answer::Ok});
+  const Modal_Replies replies({Type_Place});
+  EXPECT_EQ(Change_Place(Results_At(folder / "none/Site.DUI")), "");
+  ASSERT_EQ(messages.shown.size(), 1U);
+  EXPECT_EQ(messages.shown[0].text, "The place of the grid could not be kept in " +
+                                        (folder / "none/Site.place") +
+                                        ": No such file or directory.");
 }
 
 }  // namespace
