@@ -50,7 +50,7 @@ Kept_Place Read_Place(const std::string& file) {
   // Each value is read anew: one that can't be read for a moment is not one that is empty.
   const auto value = [&](const char* key) {
     int failed = 0;
-    const std::string read = Read_Profile_String(file, kSection, key, "", &failed);
+    std::string read = Read_Profile_String(file, kSection, key, "", &failed);
     if (error == 0) error = failed;
     return read;
   };
