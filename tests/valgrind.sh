@@ -8,8 +8,9 @@
 # PROGRAM is a plain_tests or solver_tests without sanitizers; both, built first for stepping
 # through, unless told. BARVON_FILTER chooses the tests, as --gtest_filter does. Properties are tried five
 # times each instead of a hundred. Left out are the random records, which are the same code for
-# hundreds of records, the suites that mostly start programs, which memcheck does not look into, and
-# powers held against the C library's long double, which memcheck cuts to a double.
+# hundreds of records, two suites of processes, as memcheck ends a child whose program can't be started
+# and does not know the descriptors that tell a process's end, and powers held against the C library's
+# long double, which memcheck cuts to a double. It does not look into the programs that are started.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/packages.sh
