@@ -3,9 +3,10 @@
 # string's own code when that comes out of a precompiled header and is optimised.
 set(standard_headers <algorithm> <array> <cmath> <cstddef> <cstdint> <filesystem> <functional>
   <limits> <map> <memory> <optional> <set> <string> <string_view> <utility> <vector>)
-target_precompile_headers(plain_tests PRIVATE ${standard_headers} <gtest/gtest.h> <rapidcheck.h>
-                                              <rapidcheck/gtest.h>)
-target_precompile_headers(solver_tests REUSE_FROM plain_tests)
+foreach(tests plain_tests solver_tests)
+  target_precompile_headers(${tests} PRIVATE ${standard_headers} <gtest/gtest.h> <rapidcheck.h>
+                                             <rapidcheck/gtest.h>)
+endforeach()
 target_precompile_headers(screen_tests PRIVATE ${standard_headers} <gtest/gtest.h> <QtWidgets>
                                                <QtTest>)
 foreach(tests plain_tests screen_tests solver_tests)
