@@ -57,6 +57,10 @@ std::vector<Attacked_Save> Graph_Saves();
 /// dialog is `chosen`, every question is answered with Yes.
 void Set_Up_Bench(Attack_Bench& bench, const std::string& chosen);
 
+/// The path is what every dialog to save is answered with, and what every print goes to. Of
+/// page_saves.cpp: it needs the toolkit.
+void Choose_In_Dialogs(const std::string& path);
+
 void Put_File(const std::string& path, const std::string& bytes);
 /// A sample's record, with a title of its own, as if it had been opened from bay/a.DUI.
 std::unique_ptr<ProjectRecord> Changed_Sample(const Attack_Bench& bench);

@@ -9,8 +9,6 @@
 #include "graphs/graph_exports.h"
 #include "graphs/map_exports.h"
 #include "graphs/picture_sequence.h"
-#include "platform/ask/file_dialog.h"
-#include "platform/qt/session_printer.h"
 
 namespace barvon::testing {
 namespace {
@@ -30,16 +28,6 @@ Bar_Page& Page() {
   return page;
 }
 
-void Choose(const std::string& path) {
-  File_Dialog_Presenter dialogs;
-  dialogs.save = [path](const File_Request&) { return path; };
-  dialogs.printer = [path](const std::string&, int) {
-    Session_Printer().setOutputFileName(QString::fromStdString(path));
-    return true;
-  };
-  Set_File_Dialog_Presenter(dialogs);
-}
-
 using Export = std::function<void(Bar_Page&, const Results_Held&)>;
 
 /// An export that is saved as `chosen`, into `files`, where the place of the grid is kept.
@@ -50,7 +38,7 @@ Attacked_Save Graph_Save(const std::string& name, const std::string& chosen,
             Put_File(bench.In("bay/a.place"), kPlace);
             for (const std::string& file : files) Put_File(bench.In(file), "an earlier one\r\n");
           },
-          [chosen](Attack_Bench& bench) { Choose(bench.In(chosen)); },
+          [chosen](Attack_Bench& bench) { Choose_In_Dialogs(bench.In(chosen)); },
           [save](Attack_Bench& bench) { save(Page(), Results_At(bench.In("bay/a.DUI"))); }};
 }
 

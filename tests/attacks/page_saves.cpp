@@ -9,9 +9,8 @@
 #include "workspace/note_pads.h"
 
 namespace barvon::testing {
-namespace {
 
-void Choose(const std::string& path) {
+void Choose_In_Dialogs(const std::string& path) {
   File_Dialog_Presenter dialogs;
   dialogs.save = [path](const File_Request&) { return path; };
   dialogs.printer = [path](const std::string&, int) {
@@ -20,6 +19,8 @@ void Choose(const std::string& path) {
   };
   Set_File_Dialog_Presenter(dialogs);
 }
+
+namespace {
 
 Attacked_Save Page_Save(const std::string& name, const std::string& file,
                         std::function<void(Attack_Bench&)> save) {
@@ -32,7 +33,7 @@ Attacked_Save Page_Save(const std::string& name, const std::string& file,
           },
           [file](Attack_Bench& bench) {
             bench.record = Changed_Sample(bench);
-            Choose(bench.In(file));
+            Choose_In_Dialogs(bench.In(file));
           },
           std::move(save)};
 }
